@@ -1,0 +1,64 @@
+# What every target of the project shares: language, warnings, sanitizers, folders, and the functions
+# that declare a room's library, a program and a test.
+
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+set(CMAKE_AUTOMOC ON)
+set(CMAKE_AUTORCC ON)
+set(CMAKE_RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/bin")
+
+find_package(Qt6 6.4 REQUIRED COMPONENTS Core Network)
+if(PARLEXO_WINDOW_PROGRAMS)
+  find_package(Qt6 6.4 REQUIRED COMPONENTS Gui Widgets)
+endif()
+
+add_library(parlexo_options INTERFACE)
+target_include_directories(parlexo_options INTERFACE "${CMAKE_SOURCE_DIR}/src")
+target_compile_definitions(parlexo_options INTERFACE
+  QT_NO_CAST_FROM_BYTEARRAY QT_NO_URL_CAST_FROM_STRING QT_NO_FOREACH QT_NO_KEYWORDS
+  QT_DISABLE_DEPRECATED_BEFORE=0x060400)
+target_compile_options(parlexo_options INTERFACE
+  -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Wcast-align -Wunused
+  -Wconversion -Wno-sign-conversion -Wformat=2 -Wimplicit-fallthrough -Werror)
+if(PARLEXO_SANITIZE)
+  target_compile_options(parlexo_options INTERFACE
+    -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  target_link_options(parlexo_options INTERFACE -fsanitize=address,undefined)
+endif()
+
+# parlexo_library(NAME SOURCES file... LINKS target...): one layer of the house. LINKS are the only
+# arrows that its code may follow; docs/architecture.md draws them and a test compares.
+function(parlexo_library name)
+  cmake_parse_arguments(arg "" "" "SOURCES;LINKS" ${ARGN})
+  add_library(${name} STATIC ${arg_SOURCES})
+  target_link_libraries(${name} PUBLIC ${arg_LINKS} PRIVATE parlexo_options)
+  target_include_directories(${name} PUBLIC "${CMAKE_SOURCE_DIR}/src")
+endfunction()
+
+# parlexo_program(NAME SOURCES file... LINKS target...): an executable in build/<preset>/bin.
+function(parlexo_program name)
+  cmake_parse_arguments(arg "" "" "SOURCES;LINKS" ${ARGN})
+  add_executable(${name} ${arg_SOURCES})
+  target_link_libraries(${name} PRIVATE ${arg_LINKS} parlexo_options)
+endfunction()
+
+# parlexo_test(NAME SOURCES file... LINKS target...): a GoogleTest program whose cases CTest runs one by
+# one. The target `core_tests` collects those that open no window; they are the ones run under ASan.
+add_custom_target(core_tests)
+add_custom_target(window_tests)
+function(parlexo_test name)
+  cmake_parse_arguments(arg "WINDOWS" "" "SOURCES;LINKS;LABELS" ${ARGN})
+  parlexo_program(${name} SOURCES ${arg_SOURCES} LINKS ${arg_LINKS} GTest::gmock)
+  target_include_directories(${name} PRIVATE "${CMAKE_SOURCE_DIR}")
+  if(arg_WINDOWS)
+    add_dependencies(window_tests ${name})
+    set(labels window)
+  else()
+    add_dependencies(core_tests ${name})
+    set(labels core)
+  endif()
+  gtest_discover_tests(${name} DISCOVERY_MODE PRE_TEST DISCOVERY_TIMEOUT 60
+    TEST_PREFIX "${name}." PROPERTIES TIMEOUT 120 LABELS "${labels}")
+endfunction()

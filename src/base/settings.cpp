@@ -1,0 +1,112 @@
+#include "base/settings.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QStandardPaths>
+
+#include "base/message_texts.h"
+#include "base/product.h"
+
+namespace parlexo {
+
+namespace {
+
+constexpr char organisation[] = "Parlexo";
+constexpr char application[] = "Parlexo Client";
+
+QString defaultProgramFolder() {
+#ifdef PARLEXO_USER_DATA_FOLDER
+  return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + u'/' + application;
+#else
+  return QCoreApplication::applicationDirPath();
+#endif
+}
+
+QString inFolder(const QString& folder, const QString& name) {
+  return QDir::toNativeSeparators(QDir(folder).filePath(name));
+}
+
+QString suppressionKey(int messageNumber) {
+  return text(TextId::SettingsSection) + u'/' + withNumber(TextId::DontShowAgainValue, messageNumber);
+}
+
+}  // namespace
+
+Settings::Settings()
+    : store_(std::make_unique<QSettings>(QSettings::NativeFormat, QSettings::UserScope, organisation,
+                                         application)),
+      programFolder_(QDir::toNativeSeparators(defaultProgramFolder())) {}
+
+Settings::Settings(const QString& dataFolder)
+    : store_(std::make_unique<QSettings>(inFolder(dataFolder, QStringLiteral("Parlexo Client.conf")),
+                                         QSettings::IniFormat)),
+      programFolder_(QDir::toNativeSeparators(QDir(dataFolder).absolutePath())) {}
+
+QString Settings::mobilePhoneNumber() {
+  return cached(mobilePhoneNumber_, QStringLiteral("Mobile/PhoneNumber"), QString());
+}
+
+void Settings::setMobilePhoneNumber(const QString& number) {
+  write(mobilePhoneNumber_, QStringLiteral("Mobile/PhoneNumber"), number);
+}
+
+QString Settings::contactsFolder() {
+  return cached(contactsFolder_, QStringLiteral("Path/Contacts"),
+                inFolder(programFolder_, QStringLiteral("contacts")));
+}
+
+void Settings::setContactsFolder(const QString& folder) {
+  write(contactsFolder_, QStringLiteral("Path/Contacts"), folder);
+}
+
+QString Settings::templatesFolder() {
+  return cached(templatesFolder_, QStringLiteral("Path/Templates"),
+                inFolder(programFolder_, QStringLiteral("templates")));
+}
+
+void Settings::setTemplatesFolder(const QString& folder) {
+  write(templatesFolder_, QStringLiteral("Path/Templates"), folder);
+}
+
+QString Settings::statusFile() const {
+  return inFolder(programFolder_, QStringLiteral("Status.xml"));
+}
+
+QString Settings::rememberedUser() const {
+  return store_->value(QStringLiteral("Login/User")).toString();
+}
+
+void Settings::setRememberedUser(const QString& user) {
+  store_->setValue(QStringLiteral("Login/User"), user);
+}
+
+QString Settings::serviceHost() const {
+  const QString host = store_->value(QStringLiteral("Service/Host")).toString();
+  return host.isEmpty() ? defaultServiceHost() : host;
+}
+
+bool Settings::isMessageSuppressed(int messageNumber) const {
+  return store_->value(suppressionKey(messageNumber)).toInt() != 0;
+}
+
+void Settings::suppressMessage(int messageNumber) {
+  store_->setValue(suppressionKey(messageNumber), 1);
+}
+
+QString Settings::cached(QString& cache, const QString& key, const QString& fallback) {
+  if (cache.isEmpty()) cache = store_->value(key).toString();
+  if (cache.isEmpty()) cache = fallback;
+  return cache;
+}
+
+void Settings::write(QString& cache, const QString& key, const QString& value) {
+  store_->setValue(key, value);
+  cache = value;
+}
+
+void makeFolderPath(const QString& path) {
+  const QString folder = QDir::fromNativeSeparators(path.trimmed());
+  if (!folder.isEmpty()) QDir().mkpath(folder);
+}
+
+}  // namespace parlexo

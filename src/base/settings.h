@@ -1,0 +1,68 @@
+#pragma once
+
+#include <memory>
+
+#include <QSettings>
+#include <QString>
+
+namespace parlexo {
+
+/// The per-user settings of the program and the folders that follow from them. On Windows the values lie
+/// under HKEY_CURRENT_USER\Software\Parlexo\Parlexo Client, elsewhere in "Parlexo/Parlexo Client.conf" in
+/// the user's configuration folder, with the same sections and value names; all are strings.
+/// Missing values read as empty; nothing here fails aloud, because no setting is worth stopping for.
+class Settings {
+ public:
+  /// The user's own settings; the program folder is the one that holds the executable (or the user's data
+  /// folder in a build with PARLEXO_USER_DATA_FOLDER).
+  Settings();
+  /// Settings and all folders of a run inside `dataFolder` (the option --data-dir).
+  explicit Settings(const QString& dataFolder);
+
+  /// The folder beside which contacts, templates and Status.xml lie; without a separator at its end.
+  [[nodiscard]] const QString& programFolder() const { return programFolder_; }
+
+  /// The user's own mobile number; empty when never set.
+  [[nodiscard]] QString mobilePhoneNumber();
+  void setMobilePhoneNumber(const QString& number);
+
+  /// Where the contact store lies: the value "Path"/"Contacts", or "contacts" in the program folder. Read
+  /// once; a default is not written back.
+  [[nodiscard]] QString contactsFolder();
+  void setContactsFolder(const QString& folder);
+
+  /// Where the message templates lie: "Path"/"Templates", or "templates" in the program folder.
+  [[nodiscard]] QString templatesFolder();
+  void setTemplatesFolder(const QString& folder);
+
+  /// The full path of the status log file.
+  [[nodiscard]] QString statusFile() const;
+
+  /// The user name of the last successful login ("Login"/"User").
+  [[nodiscard]] QString rememberedUser() const;
+  void setRememberedUser(const QString& user);
+
+  /// The web host of the service: "Service"/"Host", or the compiled one.
+  [[nodiscard]] QString serviceHost() const;
+
+  /// Whether the user asked not to see the message with this number again, and the wish itself.
+  [[nodiscard]] bool isMessageSuppressed(int messageNumber) const;
+  void suppressMessage(int messageNumber);
+
+ private:
+  QString cached(QString& cache, const QString& key, const QString& fallback);
+  void write(QString& cache, const QString& key, const QString& value);
+
+  std::unique_ptr<QSettings> store_;
+  QString programFolder_;
+  QString mobilePhoneNumber_;
+  QString contactsFolder_;
+  QString templatesFolder_;
+};
+
+/// Creates every missing level of a folder path. White space at both ends is trimmed and "/" and "\" both
+/// count as separators where the platform has both. Folders that exist or may not be made are passed over
+/// in silence: who uses the folder next reports what is wrong with it.
+void makeFolderPath(const QString& path);
+
+}  // namespace parlexo

@@ -1,0 +1,87 @@
+#pragma once
+
+#include <memory>
+#include <string>
+#include <utility>
+
+#include <QString>
+
+#include "base/call_runner.h"
+#include "base/code_page.h"
+#include "base/run_state.h"
+#include "gateway/core/gateway_access.h"
+#include "gateway/core/gateway_client.h"
+
+namespace parlexo {
+
+/// Runtime result of an exchange that was cancelled and did not come back in time. Outside the numbers of
+/// the SOAP runtime, which lie below 2000.
+inline constexpr int exchangeLeftBehind = 9001;
+
+/// What became of one exchange. The strings of the response live as long as the reply.
+template <class Response>
+class Reply {
+ public:
+  /// The runtime's result: 0 when a well-formed answer was read.
+  [[nodiscard]] int result() const { return result_; }
+  [[nodiscard]] bool answered() const { return result_ == 0; }
+  /// The response record; all zero when there was no answer.
+  [[nodiscard]] const Response& operator*() const { return exchange_ ? exchange_->response : none_; }
+  [[nodiscard]] const Response* operator->() const { return &**this; }
+
+ private:
+  friend class Gateway;
+  struct Exchange {
+    explicit Exchange(GatewayAccess given) : access(std::move(given)), client(access) {}
+    GatewayAccess access;
+    GatewayClient client;
+    Response response{};
+    int result = 0;
+  };
+
+  std::shared_ptr<Exchange> exchange_;
+  Response none_{};
+  int result_ = exchangeLeftBehind;
+};
+
+/// Where flows ask the gateway: builds a fresh GatewayClient for every call and lets the call runner run it.
+class Gateway {
+ public:
+  /// `state` and `runner` must outlive this object; `state` is read anew at every call.
+  Gateway(const RunState& state, CallRunner& runner, const GatewayTimeouts& timeouts = {})
+      : state_(state), runner_(runner), timeouts_(timeouts) {}
+
+  /// Runs `operation(client, response)`, which calls one method of the client and returns its result. The
+  /// operation may run on another thread: it must own what it captures.
+  template <class Response, class Operation>
+  [[nodiscard]] Reply<Response> call(Operation operation) const {
+    auto exchange = std::make_shared<typename Reply<Response>::Exchange>(gatewayAccess(state_, timeouts_));
+    Reply<Response> reply;
+    const bool ended = runner_.run([exchange, operation = std::move(operation)](const CancelFlag& raised) {
+      exchange->client.watch(raised);
+      exchange->result = operation(exchange->client, exchange->response);
+      if (exchange->result != 0) exchange->response = Response{};
+    });
+    if (!ended) return reply;
+    reply.result_ = exchange->result;
+    reply.exchange_ = std::move(exchange);
+    return reply;
+  }
+
+ private:
+  const RunState& state_;
+  CallRunner& runner_;
+  GatewayTimeouts timeouts_;
+};
+
+/// Text as it goes onto the wire: bytes of the code page.
+[[nodiscard]] inline std::string toWire(const QString& text) {
+  return toCodePage(text).toStdString();
+}
+
+/// A response's string as text; a field that was absent reads as empty.
+[[nodiscard]] inline QString fromWire(const char* text) {
+  return fromCodePage(text ? QByteArrayView(text) : QByteArrayView());
+}
+
+}  // namespace parlexo
