@@ -31,7 +31,8 @@ class Notifier {
 
   /// Shows `text` and waits for the answer. `style` is made of message_style values. A
   /// `suppressibleNumber` other than 0 is the message's number under which the user may have said "don't
-  /// show again": the message is then not shown, and the result is No for a question and Ok otherwise.
+  /// show again": the message is then not shown, and the result is No when the button bits are 1, 2 or 3
+  /// and Ok otherwise (a plain yes/no question included).
   virtual MessageResult show(const QString& text, unsigned style, int suppressibleNumber = 0) = 0;
 
   void error(const QString& text) { show(text, message_style::stop); }

@@ -26,6 +26,11 @@ QString inFolder(const QString& folder, const QString& name) {
   return QDir::toNativeSeparators(QDir(folder).filePath(name));
 }
 
+// A text as it stands in the store. A hand-edited value with a comma that is not quoted comes back as a list.
+QString storedText(const QSettings& store, const QString& key) {
+  return store.value(key).toStringList().join(QStringLiteral(", "));
+}
+
 QString suppressionKey(int messageNumber) {
   return text(TextId::SettingsSection) + u'/' + withNumber(TextId::DontShowAgainValue, messageNumber);
 }
@@ -73,7 +78,7 @@ QString Settings::statusFile() const {
 }
 
 QString Settings::rememberedUser() const {
-  return store_->value(QStringLiteral("Login/User")).toString();
+  return storedText(*store_, QStringLiteral("Login/User"));
 }
 
 void Settings::setRememberedUser(const QString& user) {
@@ -81,7 +86,7 @@ void Settings::setRememberedUser(const QString& user) {
 }
 
 QString Settings::serviceHost() const {
-  const QString host = store_->value(QStringLiteral("Service/Host")).toString();
+  const QString host = storedText(*store_, QStringLiteral("Service/Host"));
   return host.isEmpty() ? defaultServiceHost() : host;
 }
 
@@ -94,7 +99,7 @@ void Settings::suppressMessage(int messageNumber) {
 }
 
 QString Settings::cached(QString& cache, const QString& key, const QString& fallback) {
-  if (cache.isEmpty()) cache = store_->value(key).toString();
+  if (cache.isEmpty()) cache = storedText(*store_, key);
   if (cache.isEmpty()) cache = fallback;
   return cache;
 }

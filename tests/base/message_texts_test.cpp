@@ -1,0 +1,59 @@
+#include "base/message_texts.h"
+
+#include <gtest/gtest.h>
+
+#include "base/product.h"
+
+namespace parlexo {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+class ServiceHost : public testing::Test {
+ protected:
+  ~ServiceHost() override { setServiceHost({}); }
+};
+
+TEST_F(ServiceHost, pagesFollowTheChosenHostAndFallBackToTheCompiledOne) {
+  EXPECT_EQ(webPage(u"/signup.php"_qs), u"https://"_qs + defaultServiceHost() + u"/signup.php"_qs);
+  setServiceHost(u"gateway.example.org"_qs);
+  EXPECT_EQ(webPage(u"/signup.php"_qs), u"https://gateway.example.org/signup.php"_qs);
+  setServiceHost({});
+  EXPECT_EQ(webPage({}), u"https://"_qs + defaultServiceHost());
+}
+
+TEST_F(ServiceHost, balanceWarningsNameTheSite) {
+  setServiceHost(u"pay.example"_qs);
+  EXPECT_EQ(text(TextId::BalanceLow),
+            u"Your account balance is less than $2.00.\r\nPlease go to https://pay.example and top up your "
+            u"account balance."_qs);
+  EXPECT_EQ(
+      text(TextId::BalanceZero),
+      u"Your account balance is zero.\r\nPlease go to https://pay.example, sign-in and add credit to your "
+      u"account.\r\n\r\nIf you wish to trial our services then this may only be done via the website "
+      u"portal. In the web portal click the 'Free Trial' button. The Parlexo Client software requires "
+      u"credit to send messages."_qs);
+}
+
+struct Placeholder {
+  QString pattern;
+  int number;
+  QString result;
+};
+
+class WithNumber : public testing::TestWithParam<Placeholder> {};
+
+TEST_P(WithNumber, putsTheNumberInPlaceOfTheFirstPlaceholder) {
+  EXPECT_EQ(withNumber(GetParam().pattern, GetParam().number), GetParam().result);
+}
+
+INSTANTIATE_TEST_SUITE_P(Patterns, WithNumber,
+                         testing::Values(Placeholder{u"Error code: %i"_qs, 12, u"Error code: 12"_qs},
+                                         Placeholder{u"Error code: %d"_qs, -1, u"Error code: -1"_qs},
+                                         Placeholder{u"%i of %i"_qs, 3, u"3 of %i"_qs},
+                                         Placeholder{u"no code"_qs, 3, u"no code"_qs},
+                                         Placeholder{text(TextId::DontShowAgainValue), 395,
+                                                     u"MessageDontShowAgain395"_qs}));
+
+}  // namespace
+}  // namespace parlexo
