@@ -1,0 +1,82 @@
+#include "ui/button_accessibility.h"
+
+#include <QAccessible>
+#include <QAccessibleWidget>
+
+#include "ui/hyperlink_label.h"
+#include "ui/picture_button.h"
+
+namespace parlexo {
+
+namespace {
+
+QString withoutMnemonic(const QString& text) {
+  QString plain;
+  for (qsizetype i = 0; i < text.size(); ++i) {
+    if (text[i] == u'&' && i + 1 < text.size()) ++i;
+    plain += text[i];
+  }
+  return plain;
+}
+
+class AccessibleButton final : public QAccessibleWidget {
+ public:
+  AccessibleButton(QAbstractButton& button, QAccessible::Role role)
+      : QAccessibleWidget(&button, role), button_(button) {}
+
+  [[nodiscard]] QString text(QAccessible::Text which) const override {
+    const QString given = QAccessibleWidget::text(which);
+    if (which == QAccessible::Name && button_.accessibleName().isEmpty()) {
+      return withoutMnemonic(button_.text());
+    }
+    return given;
+  }
+
+  [[nodiscard]] QAccessible::State state() const override {
+    QAccessible::State state = QAccessibleWidget::state();
+    state.pressed = button_.isDown();
+    state.checkable = button_.isCheckable();
+    state.checked = button_.isChecked();
+    const auto* picture = qobject_cast<PictureButton*>(&button_);
+    state.defaultButton = picture && picture->isDefault();
+    return state;
+  }
+
+  [[nodiscard]] QStringList actionNames() const override {
+    QStringList names;
+    if (button_.isEnabled()) names << pressAction();
+    return names << QAccessibleWidget::actionNames();
+  }
+
+  void doAction(const QString& name) override {
+    if (name == pressAction()) {
+      button_.click();
+    } else {
+      QAccessibleWidget::doAction(name);
+    }
+  }
+
+ private:
+  QAbstractButton& button_;
+};
+
+QAccessibleInterface* makeInterface(const QString&, QObject* object) {
+  if (auto* button = qobject_cast<PictureButton*>(object)) {
+    return new AccessibleButton(*button, QAccessible::Button);
+  }
+  if (auto* link = qobject_cast<HyperlinkLabel*>(object)) {
+    return new AccessibleButton(*link, QAccessible::Link);
+  }
+  return nullptr;
+}
+
+}  // namespace
+
+void installButtonAccessibility() {
+  [[maybe_unused]] static const bool installed = [] {
+    QAccessible::installFactory(makeInterface);
+    return true;
+  }();
+}
+
+}  // namespace parlexo

@@ -1,0 +1,61 @@
+#include "ui/gradient_page.h"
+
+#include <QKeyEvent>
+#include <QLinearGradient>
+#include <QPaintEvent>
+#include <QPainter>
+
+#include "ui/look.h"
+#include "ui/picture_button.h"
+
+namespace parlexo {
+
+namespace {
+
+void paintGradient(QWidget& widget, const QRect& dirty) {
+  QLinearGradient gradient(0, 0, 0, widget.height());
+  gradient.setColorAt(0, look::gradientTop);
+  gradient.setColorAt(0.5, look::dialogBackground);
+  gradient.setColorAt(1, look::gradientBottom);
+  QPainter(&widget).fillRect(dirty, gradient);
+}
+
+bool isEnter(const QKeyEvent& event) {
+  const bool plain = event.modifiers() == Qt::NoModifier && event.key() == Qt::Key_Return;
+  return plain || (!(event.modifiers() & ~Qt::KeypadModifier) && event.key() == Qt::Key_Enter);
+}
+
+PictureButton* defaultButton(const QWidget& dialog) {
+  for (auto* button : dialog.findChildren<PictureButton*>()) {
+    if (button->isDefault() && button->isEnabled() && button->isVisibleTo(&dialog)) return button;
+  }
+  return nullptr;
+}
+
+}  // namespace
+
+GradientPage::GradientPage(QWidget* parent) : QWidget(parent) {}
+
+void GradientPage::paintEvent(QPaintEvent* event) {
+  paintGradient(*this, event->rect());
+}
+
+GradientDialog::GradientDialog(QWidget* parent) : QDialog(parent) {
+  setWindowFlag(Qt::WindowContextHelpButtonHint, false);
+  setWindowIcon(programIcon());
+}
+
+void GradientDialog::paintEvent(QPaintEvent* event) {
+  paintGradient(*this, event->rect());
+}
+
+void GradientDialog::keyPressEvent(QKeyEvent* event) {
+  PictureButton* button = isEnter(*event) ? defaultButton(*this) : nullptr;
+  if (button) {
+    button->click();
+    return;
+  }
+  QDialog::keyPressEvent(event);
+}
+
+}  // namespace parlexo

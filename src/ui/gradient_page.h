@@ -1,0 +1,32 @@
+#pragma once
+
+#include <QDialog>
+#include <QWidget>
+
+namespace parlexo {
+
+/// A page of the main window on the light-blue gradient.
+class GradientPage : public QWidget {
+  Q_OBJECT
+
+ public:
+  explicit GradientPage(QWidget* parent = nullptr);
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+};
+
+/// A dialog on the light-blue gradient, with the program's icon. Enter presses the PictureButton that has
+/// the focus, else the one that is the default; Escape rejects.
+class GradientDialog : public QDialog {
+  Q_OBJECT
+
+ public:
+  explicit GradientDialog(QWidget* parent = nullptr);
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+};
+
+}  // namespace parlexo

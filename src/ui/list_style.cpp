@@ -1,0 +1,56 @@
+#include "ui/list_style.h"
+
+#include <QHeaderView>
+#include <QListView>
+#include <QPalette>
+#include <QTableView>
+#include <QTreeView>
+
+#include "ui/look.h"
+
+namespace parlexo {
+
+namespace {
+
+constexpr int rowPadding = 6;
+
+void styleHeader(QHeaderView& header) {
+  header.setHighlightSections(false);
+  header.setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+  header.setSectionsMovable(false);
+}
+
+void styleTable(QTableView& table) {
+  table.setShowGrid(false);
+  table.setTabKeyNavigation(false);
+  table.setWordWrap(false);
+  table.setCornerButtonEnabled(false);
+  table.verticalHeader()->hide();
+  table.verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+  table.verticalHeader()->setMinimumSectionSize(1);
+  table.verticalHeader()->setDefaultSectionSize(table.fontMetrics().height() + rowPadding);
+  styleHeader(*table.horizontalHeader());
+}
+
+/// Rows stay readable and recognisable as selected while another control has the focus.
+void keepSelectionColors(QPalette& palette) {
+  for (const auto group : {QPalette::Active, QPalette::Inactive}) {
+    palette.setColor(group, QPalette::Highlight, look::selection);
+    palette.setColor(group, QPalette::HighlightedText, look::selectedText);
+  }
+}
+
+}  // namespace
+
+void styleList(QAbstractItemView& view) {
+  QPalette palette = view.palette();
+  palette.setColor(QPalette::Base, look::listBackground);
+  keepSelectionColors(palette);
+  view.setPalette(palette);
+  view.setAlternatingRowColors(false);
+  view.setSelectionBehavior(QAbstractItemView::SelectRows);
+  if (auto* table = qobject_cast<QTableView*>(&view)) styleTable(*table);
+  if (auto* tree = qobject_cast<QTreeView*>(&view)) styleHeader(*tree->header());
+}
+
+}  // namespace parlexo

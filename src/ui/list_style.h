@@ -1,0 +1,11 @@
+#pragma once
+
+class QAbstractItemView;
+
+namespace parlexo {
+
+/// Gives a list, table or tree the program's look: light ground, whole rows selected, flat left-bound header,
+/// no grid. Tab leaves a table instead of walking its cells.
+void styleList(QAbstractItemView& view);
+
+}  // namespace parlexo

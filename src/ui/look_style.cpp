@@ -1,0 +1,103 @@
+#include "ui/look_style.h"
+
+#include <QAbstractScrollArea>
+#include <QPainter>
+#include <QStyleFactory>
+#include <QStyleOption>
+
+#include "ui/flat_scroll_bar.h"
+#include "ui/look.h"
+
+namespace parlexo {
+
+namespace {
+
+void drawOutline(QPainter& painter, const QRectF& frame, qreal radius, const QColor& color, qreal width) {
+  painter.save();
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(QPen(color, width));
+  painter.setBrush(Qt::NoBrush);
+  const qreal inset = width / 2;
+  painter.drawRoundedRect(frame.adjusted(inset, inset, -inset, -inset), radius, radius);
+  painter.restore();
+}
+
+void drawHeaderSection(const QStyleOption& option, QPainter& painter) {
+  const QRect& area = option.rect;
+  const bool lit = option.state & (QStyle::State_MouseOver | QStyle::State_Sunken);
+  painter.fillRect(area, lit ? look::gradientBottom : look::dialogBackground);
+  painter.fillRect(QRect(area.left(), area.bottom(), area.width(), 1), look::border);
+  painter.fillRect(QRect(area.right(), area.top() + 3, 1, area.height() - 6), look::border);
+}
+
+/// A selected row keeps its dark ground while the list is out of focus, so a mark inside it must be light.
+QColor focusColor(const QStyleOption& option) {
+  const auto* mark = qstyleoption_cast<const QStyleOptionFocusRect*>(&option);
+  const bool onSelection = mark && mark->backgroundColor == option.palette.color(QPalette::Highlight);
+  return onSelection ? look::selectedText : look::focus;
+}
+
+}  // namespace
+
+LookStyle::LookStyle() : QProxyStyle(QStyleFactory::create(QStringLiteral("Fusion"))) {}
+
+void LookStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                              const QWidget* widget) const {
+  if (element == PE_FrameFocusRect) {
+    drawOutline(*painter, option->rect, 2, focusColor(*option), 1);
+    return;
+  }
+  if (element == PE_Frame && qobject_cast<const QAbstractScrollArea*>(widget)) {
+    const bool focused = option->state & State_HasFocus;
+    drawOutline(*painter, option->rect, 2, focused ? look::selection : look::border, focused ? 2 : 1);
+    return;
+  }
+  QProxyStyle::drawPrimitive(element, option, painter, widget);
+}
+
+void LookStyle::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                            const QWidget* widget) const {
+  if (element == CE_HeaderSection) {
+    drawHeaderSection(*option, *painter);
+    return;
+  }
+  if (element == CE_HeaderEmptyArea) {
+    painter->fillRect(option->rect, look::dialogBackground);
+    return;
+  }
+  QProxyStyle::drawControl(element, option, painter, widget);
+}
+
+void LookStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
+                                   QPainter* painter, const QWidget* widget) const {
+  const auto* bar = qstyleoption_cast<const QStyleOptionSlider*>(option);
+  if (control == CC_ScrollBar && bar) {
+    flat_scroll_bar::draw(*bar, *painter);
+    return;
+  }
+  QProxyStyle::drawComplexControl(control, option, painter, widget);
+}
+
+QRect LookStyle::subControlRect(ComplexControl control, const QStyleOptionComplex* option, SubControl part,
+                                const QWidget* widget) const {
+  const auto* bar = qstyleoption_cast<const QStyleOptionSlider*>(option);
+  if (control == CC_ScrollBar && bar) return flat_scroll_bar::partRect(*bar, part);
+  return QProxyStyle::subControlRect(control, option, part, widget);
+}
+
+int LookStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const {
+  if (metric == PM_ScrollBarExtent) return flat_scroll_bar::thickness;
+  if (metric == PM_ScrollBarSliderMin) return flat_scroll_bar::shortestThumb;
+  if (metric == PM_ScrollView_ScrollBarSpacing) return 0;
+  return QProxyStyle::pixelMetric(metric, option, widget);
+}
+
+int LookStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                         QStyleHintReturn* result) const {
+  if (hint == SH_ScrollBar_Transient) return 0;
+  if (hint == SH_UnderlineShortcut) return 1;
+  if (hint == SH_DialogButtonBox_ButtonsHaveIcons) return 0;
+  return QProxyStyle::styleHint(hint, option, widget, result);
+}
+
+}  // namespace parlexo
