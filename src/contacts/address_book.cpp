@@ -1,0 +1,149 @@
+#include "contacts/address_book.h"
+
+#include <QDir>
+#include <QLatin1String>
+
+#include "contacts/contact_file_format.h"
+#include "contacts/group_file_name.h"
+
+namespace parlexo {
+
+namespace {
+
+constexpr int timeoutSeconds = 60;
+
+QString withSeparator(const QString& folder) {
+  const QString native = QDir::toNativeSeparators(folder);
+  return native.endsWith(QDir::separator()) ? native : native + QDir::separator();
+}
+
+}  // namespace
+
+AddressBook::AddressBook(const QString& folder, ItemDatabase& database, Notifier& notifier)
+    : folder_(withSeparator(folder)), database_(database), notifier_(notifier) {}
+
+void AddressBook::clear() {
+  groups_.clear();
+  contacts_.clear();
+}
+
+const ContactRecord* AddressBook::findContact(const QString& name) const {
+  const auto found = contacts_.find(name);
+  return found == contacts_.end() ? nullptr : &found->second;
+}
+
+const GroupFile* AddressBook::findGroup(const QString& name) const {
+  const auto found = groups_.find(name);
+  return found == groups_.end() ? nullptr : &found->second;
+}
+
+bool AddressBook::saveContact(const ContactRecord& contact, bool writeToFile) {
+  contacts_[contact.name] = contact;
+  if (!writeToFile) return true;
+  QString error;
+  if (database_.writeItem(error, nameWidth, contactsPath(), contactRecordSize, packContact(contact),
+                          timeoutSeconds))
+    return true;
+  notifier_.error(QStringLiteral("There was a problem trying to save your contact to the database. Error=") +
+                  error);
+  return false;
+}
+
+bool AddressBook::deleteContact(const QString& name) {
+  const auto found = contacts_.find(name);
+  if (found == contacts_.end()) return true;
+  // `name` may be the record's own.
+  const QString ownName = name;
+  bool written = deleteName(contactsPath(), packName(ownName), contactRecordSize);
+  for (auto& [groupName, group] : groups_)
+    if (group.contains(ownName)) written = deleteMember(group, ownName) && written;
+  contacts_.erase(ownName);
+  return written;
+}
+
+bool AddressBook::renameContact(const QString& oldName, const ContactRecord& contact) {
+  if (oldName == contact.name) return saveContact(contact);
+  // Both may lie in the record that is about to go.
+  const ContactRecord renamed = contact;
+  const QStringList groupNames = groupsWith(oldName);
+  bool written = deleteContact(oldName);
+  written = saveContact(renamed) && written;
+  for (const QString& groupName : groupNames) written = addMember(groupName, renamed.name) && written;
+  return written;
+}
+
+bool AddressBook::createGroup(const QString& name, const QStringList& memberNames, bool writeToFile) {
+  groups_.try_emplace(name, name);
+  bool written = true;
+  if (writeToFile) {
+    QString error;
+    written = database_.createDb(error, groupPath(name));
+    if (!written)
+      notifier_.error(
+          QStringLiteral("There was a problem trying to create your group in the database Error=") + error);
+  }
+  for (const QString& memberName : memberNames)
+    if (findContact(memberName)) written = addMember(name, memberName, writeToFile && written) && written;
+  return written;
+}
+
+bool AddressBook::deleteGroup(const QString& name) {
+  // `name` may be the group's own.
+  const QString path = groupPath(name);
+  groups_.erase(name);
+  if (database_.removeDb(path)) return true;
+  notifier_.error(QStringLiteral("There was a problem trying to delete your group from the database"));
+  return false;
+}
+
+bool AddressBook::addMember(const QString& groupName, const QString& contactName, bool writeToFile) {
+  const auto group = groups_.find(groupName);
+  const ContactRecord* contact = findContact(contactName);
+  if (group == groups_.end() || !contact) return false;
+  group->second.members_[contact->name] = contact;
+  if (!writeToFile) return true;
+  QString error;
+  if (database_.writeItem(error, nameWidth, groupPath(groupName), memberRecordSize, packMember(contact->name),
+                          timeoutSeconds))
+    return true;
+  notifier_.error(QStringLiteral("There was a problem saving your contact to the database group. Error=") +
+                  error);
+  return false;
+}
+
+bool AddressBook::removeMember(const QString& groupName, const QString& contactName) {
+  const auto group = groups_.find(groupName);
+  return group != groups_.end() && deleteMember(group->second, contactName);
+}
+
+bool AddressBook::deleteMember(GroupFile& group, const QString& contactName) {
+  const bool written = deleteName(groupPath(group.name()), packName(contactName), memberRecordSize);
+  group.members_.erase(contactName);
+  return written;
+}
+
+bool AddressBook::deleteName(const QString& path, const QByteArray& name, int recordSize) {
+  QString error;
+  bool deleted = false;
+  if (database_.deleteItem(error, nameWidth, path, name, recordSize, deleted, timeoutSeconds)) return true;
+  notifier_.error(QStringLiteral("There was a problem deleting a contact from your database. Error=") +
+                  error);
+  return false;
+}
+
+QStringList AddressBook::groupsWith(const QString& contactName) const {
+  QStringList names;
+  for (const auto& [groupName, group] : groups_)
+    if (group.contains(contactName)) names.append(groupName);
+  return names;
+}
+
+QString AddressBook::contactsPath() const {
+  return folder_ + encodeGroupFileName(QLatin1String(allContactsName), QLatin1String(contactsExtension));
+}
+
+QString AddressBook::groupPath(const QString& groupName) const {
+  return folder_ + encodeGroupFileName(groupName, QLatin1String(groupExtension));
+}
+
+}  // namespace parlexo

@@ -1,0 +1,94 @@
+#pragma once
+
+#include <map>
+#include <unordered_map>
+
+#include <QByteArray>
+#include <QByteArrayList>
+#include <QString>
+#include <QStringList>
+
+#include "base/notifier.h"
+#include "base/progress.h"
+#include "contacts/contact_record.h"
+#include "contacts/group_file.h"
+#include "contacts/item_database.h"
+
+namespace parlexo {
+
+/// The name of the group that is the contact database itself: every contact belongs to it, and it is not
+/// among AddressBook::groups().
+inline constexpr char allContactsName[] = "All Contacts";
+/// The group that always exists.
+inline constexpr char personalContactsName[] = "My Personal Contacts";
+
+/// All contacts and groups in memory, and every change written through to the files of the contacts
+/// folder. Names are case-sensitive. The operations show their own failure messages; memory changes even
+/// when the file could not be written. With `writeToFile` false an operation touches memory alone.
+class AddressBook {
+ public:
+  /// By name, in no particular order. A record stays at its address until its contact is deleted.
+  using Contacts = std::unordered_map<QString, ContactRecord>;
+  using Groups = std::map<QString, GroupFile>;
+
+  /// `folder` holds the files, with or without a separator at its end; it is used by the operations that
+  /// read or write files only.
+  AddressBook(const QString& folder, ItemDatabase& database, Notifier& notifier);
+  AddressBook(const AddressBook&) = delete;
+  AddressBook& operator=(const AddressBook&) = delete;
+
+  /// Reads all contacts and groups, once, at the start of the program; tells in `progress` how far it has
+  /// come. Members that are no contacts (any more) are deleted from their group's file. False when a file
+  /// could not be read, after a message: the program then ends.
+  [[nodiscard]] bool loadAll(Progress& progress);
+  /// Forgets contacts and groups; the files stay.
+  void clear();
+
+  [[nodiscard]] const Contacts& contacts() const { return contacts_; }
+  [[nodiscard]] const Groups& groups() const { return groups_; }
+  /// Null when there is none of that name.
+  [[nodiscard]] const ContactRecord* findContact(const QString& name) const;
+  [[nodiscard]] const GroupFile* findGroup(const QString& name) const;
+
+  /// Adds the contact, or takes its values over into the one of that name. False when writing failed.
+  bool saveContact(const ContactRecord& contact, bool writeToFile = true);
+  /// Removes a contact from the database, from every group that has it, and from memory. True for a name
+  /// that there is not; false when writing failed.
+  bool deleteContact(const QString& name);
+  /// Puts `contact` in the place of the contact `oldName`, in every group that has it too. The key of a
+  /// stored record never changes, so the old one is deleted and a new one written.
+  bool renameContact(const QString& oldName, const ContactRecord& contact);
+
+  /// Creates a group with those of `memberNames` that are contacts; a group that exists gets them in
+  /// addition. After the first write that fails, and its message, the rest is done in memory alone; the
+  /// result is then false.
+  bool createGroup(const QString& name, const QStringList& memberNames = {}, bool writeToFile = true);
+  /// Removes the group and its file. False when the file could not be removed.
+  bool deleteGroup(const QString& name);
+  /// Adds a contact to a group. False when there is no such group or contact, or when writing failed.
+  bool addMember(const QString& groupName, const QString& contactName, bool writeToFile = true);
+  /// Takes a contact out of a group. True when it was no member; false when there is no such group, or
+  /// when writing failed.
+  bool removeMember(const QString& groupName, const QString& contactName);
+
+ private:
+  [[nodiscard]] QString contactsPath() const;
+  [[nodiscard]] QString groupPath(const QString& groupName) const;
+  void createPersonalGroup();
+  bool loadContacts(Progress& progress);
+  bool loadGroups(Progress& progress);
+  bool loadGroup(const QString& fileName, Progress& progress);
+  void addLoadedMember(GroupFile& group, const QByteArray& name, QByteArrayList& orphans) const;
+  void deleteOrphans(const QString& path, const QByteArrayList& orphans);
+  bool deleteMember(GroupFile& group, const QString& contactName);
+  bool deleteName(const QString& path, const QByteArray& name, int recordSize);
+  [[nodiscard]] QStringList groupsWith(const QString& contactName) const;
+
+  QString folder_;
+  ItemDatabase& database_;
+  Notifier& notifier_;
+  Contacts contacts_;
+  Groups groups_;
+};
+
+}  // namespace parlexo
