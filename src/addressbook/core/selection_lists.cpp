@@ -1,0 +1,95 @@
+#include "addressbook/core/selection_lists.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <utility>
+
+#include <QSet>
+
+#include "addressbook/core/name_order.h"
+#include "contacts/address_book.h"
+#include "contacts/group_file.h"
+
+namespace parlexo {
+
+namespace {
+
+std::vector<const ContactRecord*> eligibleContacts(const AddressBook& book, const QString& mode) {
+  const Eligibility isEligible = eligibilityFor(mode);
+  std::vector<const ContactRecord*> contacts;
+  contacts.reserve(book.contacts().size());
+  for (const auto& [name, contact] : book.contacts()) {
+    if (isEligible(contact)) contacts.push_back(&contact);
+  }
+  sortByName(contacts, [](const ContactRecord* contact) { return contact->name; });
+  return contacts;
+}
+
+std::vector<const GroupFile*> allGroups(const AddressBook& book) {
+  std::vector<const GroupFile*> groups;
+  for (const auto& [name, group] : book.groups()) groups.push_back(&group);
+  sortByName(groups, [](const GroupFile* group) { return group->name(); });
+  return groups;
+}
+
+}  // namespace
+
+void RowSpan::include(int row) {
+  *this = isEmpty() ? RowSpan{row, row} : RowSpan{std::min(first, row), std::max(last, row)};
+}
+
+SelectionLists::SelectionLists(const AddressBook& book, const QString& mode, const ContactSelection& initial)
+    : contacts_(eligibleContacts(book, mode)),
+      contactTicks_(contacts_.size(), false),
+      groups_(allGroups(book)),
+      groupTicks_(groups_.size(), false) {
+  rowOf_.reserve(contacts_.size());
+  for (std::size_t row = 0; row < contacts_.size(); ++row)
+    rowOf_.emplace(contacts_[row], static_cast<int>(row));
+  tickInitial(initial);
+}
+
+void SelectionLists::tickInitial(const ContactSelection& initial) {
+  // A name is what makes a contact the same one, also in a selection that holds copies of the records.
+  QSet<QString> names;
+  for (const ContactRecord* contact : initial) names.insert(contact->name);
+  if (names.isEmpty()) return;
+  for (std::size_t row = 0; row < contacts_.size(); ++row) {
+    contactTicks_[row] = names.contains(contacts_[row]->name);
+  }
+}
+
+void SelectionLists::setTicked(const ContactRecord* contact, bool ticked, RowSpan& changed) {
+  const auto found = rowOf_.find(contact);
+  if (found == rowOf_.end()) return;
+  contactTicks_[found->second] = ticked;
+  changed.include(found->second);
+}
+
+RowSpan SelectionLists::setGroupTicked(int row, bool ticked) {
+  groupTicks_[row] = ticked;
+  RowSpan changed;
+  for (const auto& [name, contact] : groups_[row]->members()) setTicked(contact, ticked, changed);
+  return changed;
+}
+
+RowSpan SelectionLists::tickContacts(const ContactSelection::Contacts& contacts) {
+  RowSpan changed;
+  for (const ContactRecord* contact : contacts) setTicked(contact, true, changed);
+  return changed;
+}
+
+void SelectionLists::clear() {
+  contactTicks_.assign(contactTicks_.size(), false);
+  groupTicks_.assign(groupTicks_.size(), false);
+}
+
+ContactSelection SelectionLists::tickedContacts() const {
+  ContactSelection::Contacts ticked;
+  for (std::size_t row = 0; row < contacts_.size(); ++row) {
+    if (contactTicks_[row]) ticked.push_back(contacts_[row]);
+  }
+  return ContactSelection::ofSorted(std::move(ticked));
+}
+
+}  // namespace parlexo

@@ -1,0 +1,66 @@
+#pragma once
+
+#include <unordered_map>
+#include <vector>
+
+#include <QString>
+
+#include "addressbook/core/contact_selection.h"
+#include "contacts/contact_record.h"
+
+namespace parlexo {
+
+class AddressBook;
+class GroupFile;
+
+/// A span of rows, both ends included; empty when last is before first.
+struct RowSpan {
+  int first = 0;
+  int last = -1;
+
+  [[nodiscard]] bool isEmpty() const { return last < first; }
+  /// Widens the span so that it takes in `row`.
+  void include(int row);
+};
+
+/// The groups and the eligible contacts that the user can tick, both sorted by name, with their ticks. It
+/// knows no widget. The address book must outlive it and must not change meanwhile.
+class SelectionLists {
+ public:
+  /// Lists all groups, unticked, and the contacts that are eligible for `mode`; those whose names are in
+  /// `initial` are ticked.
+  SelectionLists(const AddressBook& book, const QString& mode, const ContactSelection& initial);
+
+  [[nodiscard]] int contactCount() const { return static_cast<int>(contacts_.size()); }
+  [[nodiscard]] const ContactRecord& contact(int row) const { return *contacts_[row]; }
+  [[nodiscard]] bool isContactTicked(int row) const { return contactTicks_[row]; }
+  void setContactTicked(int row, bool ticked) { contactTicks_[row] = ticked; }
+
+  [[nodiscard]] int groupCount() const { return static_cast<int>(groups_.size()); }
+  [[nodiscard]] const GroupFile& group(int row) const { return *groups_[row]; }
+  [[nodiscard]] bool isGroupTicked(int row) const { return groupTicks_[row]; }
+  /// Ticks or unticks a group and with it its eligible members. Returns the span of contact rows that may
+  /// have changed.
+  RowSpan setGroupTicked(int row, bool ticked);
+
+  /// Ticks those of `contacts` that are listed. Returns the span of contact rows that may have changed.
+  RowSpan tickContacts(const ContactSelection::Contacts& contacts);
+
+  /// Unticks every contact and every group.
+  void clear();
+
+  /// The ticked contacts. Ticked groups count only through the contacts that they ticked.
+  [[nodiscard]] ContactSelection tickedContacts() const;
+
+ private:
+  void tickInitial(const ContactSelection& initial);
+  void setTicked(const ContactRecord* contact, bool ticked, RowSpan& changed);
+
+  std::vector<const ContactRecord*> contacts_;
+  std::vector<bool> contactTicks_;
+  std::unordered_map<const ContactRecord*, int> rowOf_;
+  std::vector<const GroupFile*> groups_;
+  std::vector<bool> groupTicks_;
+};
+
+}  // namespace parlexo

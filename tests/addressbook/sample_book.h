@@ -1,0 +1,66 @@
+#pragma once
+
+#include <array>
+
+#include <QString>
+#include <QStringList>
+
+#include "base/notifier.h"
+#include "contacts/address_book.h"
+#include "contacts/contact_record.h"
+#include "contacts/item_database.h"
+#include "contacts/item_index_cache.h"
+#include "contacts/lock_waiter.h"
+
+namespace parlexo::test {
+
+/// Remembers what it was asked to show.
+class RecordingNotifier final : public Notifier {
+ public:
+  MessageResult show(const QString& text, unsigned, int) override {
+    texts << text;
+    return MessageResult::Ok;
+  }
+
+  QStringList texts;
+};
+
+/// An address book in memory, filled contact by contact and group by group.
+class SampleBook {
+ public:
+  using Extra = std::array<QString, ContactRecord::extraCount>;
+
+  void addContact(const QString& name, const QString& phone = {}, const QString& sms = "N",
+                  const QString& media = "N", const QString& fax = {}, const Extra& extra = {}) {
+    book_.saveContact({name, phone, sms, media, fax, {}, extra}, false);
+  }
+  void addGroup(const QString& name, const QStringList& members = {}) {
+    book_.createGroup(name, members, false);
+  }
+
+  [[nodiscard]] const AddressBook& book() const { return book_; }
+
+ private:
+  RecordingNotifier notifier_;
+  ItemIndexCache cache_;
+  SleepingLockWaiter waiter_;
+  ItemDatabase database_{cache_, waiter_};
+  AddressBook book_{QString(), database_, notifier_};
+};
+
+/// Ann: SMS, media and phone; bob: SMS in lower case, no phone; Cid: fax only; Dan: nothing; eva: media in
+/// lower case and phone. "Team" has Ann, Cid and eva; "all" has everybody.
+class FivePeople : public SampleBook {
+ public:
+  FivePeople() {
+    addContact("Dan");
+    addContact("Ann", "+61491570156", "Y", "Y");
+    addContact("eva", "+61491570157", "N", "y");
+    addContact("bob", "", "y", "N");
+    addContact("Cid", "", "", "yes", "+61255501234");
+    addGroup("Team", {"Ann", "Cid", "eva"});
+    addGroup("all", {"Ann", "bob", "Cid", "Dan", "eva"});
+  }
+};
+
+}  // namespace parlexo::test
