@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QString>
+
+#include "addressbook/screens/check_list_model.h"
+
+namespace parlexo {
+
+/// The "Contacts:" list of the contact selection dialog: check box, name, and phone or fax number.
+class ContactListModel final : public CheckListModel {
+  Q_OBJECT
+
+ public:
+  /// `lists` must outlive the model; `mode` decides whether phone or fax numbers are shown.
+  ContactListModel(SelectionLists& lists, const QString& mode, QObject* parent = nullptr);
+
+  [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
+  [[nodiscard]] QString cell(int row, int column) const override;
+  [[nodiscard]] bool isTicked(int row) const override;
+
+ private:
+  void setTicked(int row, bool ticked) override;
+
+  SelectionLists& lists_;
+  bool showsFax_;
+};
+
+}  // namespace parlexo

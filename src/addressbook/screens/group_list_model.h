@@ -1,0 +1,32 @@
+#pragma once
+
+#include <QString>
+
+#include "addressbook/screens/check_list_model.h"
+
+namespace parlexo {
+
+/// The "Groups:" list of the contact selection dialog: check box and name. Ticking a group also ticks its
+/// members, which the model announces.
+class GroupListModel final : public CheckListModel {
+  Q_OBJECT
+
+ public:
+  /// `lists` must outlive the model.
+  explicit GroupListModel(SelectionLists& lists, QObject* parent = nullptr);
+
+  [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
+  [[nodiscard]] QString cell(int row, int column) const override;
+  [[nodiscard]] bool isTicked(int row) const override;
+
+ Q_SIGNALS:
+  /// The ticks of contacts in these rows of the other list may have changed.
+  void contactTicksChanged(parlexo::RowSpan rows);
+
+ private:
+  void setTicked(int row, bool ticked) override;
+
+  SelectionLists& lists_;
+};
+
+}  // namespace parlexo

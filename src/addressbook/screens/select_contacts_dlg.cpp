@@ -1,0 +1,109 @@
+#include "addressbook/screens/select_contacts_dlg.h"
+
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QVBoxLayout>
+
+#include "addressbook/screens/check_list_view.h"
+#include "addressbook/screens/select_by_extra_dlg.h"
+#include "ui/look.h"
+#include "ui/picture_button.h"
+
+namespace parlexo {
+
+namespace {
+
+constexpr int checkWidth = 30;
+constexpr int nameWidth = 200;
+constexpr int numberWidth = 100;
+constexpr int listHeightUnits = 190;
+
+}  // namespace
+
+CSelectContactsDlg::CSelectContactsDlg(const AddressBook& book, const QString& mode,
+                                       const ContactSelection& initial, Notifier& notifier, QWidget* parent)
+    : GradientDialog(parent),
+      book_(book),
+      notifier_(notifier),
+      selection_(initial),
+      lists_(book, mode, initial),
+      groups_(lists_),
+      contacts_(lists_, mode) {
+  setWindowTitle(QStringLiteral("Parlexo(TM) : Contacts"));
+  setObjectName(QStringLiteral("selectContactsDialog"));
+  createLists();
+  createButtons();
+  createLayout();
+  contactView_->setFocus(Qt::OtherFocusReason);
+}
+
+void CSelectContactsDlg::createLists() {
+  groupView_ = new CheckListView(groups_, QStringLiteral("Groups:"), this);
+  groupView_->setObjectName(QStringLiteral("groupList"));
+  groupView_->setColumnWidths({checkWidth, nameWidth});
+  contactView_ = new CheckListView(contacts_, QStringLiteral("Contacts:"), this);
+  contactView_->setObjectName(QStringLiteral("contactList"));
+  contactView_->setColumnWidths({checkWidth, nameWidth, numberWidth});
+  for (CheckListView* view : {groupView_, contactView_}) {
+    view->setMinimumWidth(view->fittingWidth());
+    view->setMinimumHeight(dialogUnits(*this, 0, listHeightUnits / 2).height());
+  }
+  connect(&groups_, &GroupListModel::contactTicksChanged, &contacts_, &ContactListModel::refreshTicks);
+}
+
+void CSelectContactsDlg::createButtons() {
+  const auto button = [this](const QString& text, const QString& name, auto action) {
+    auto* created = new PictureButton(text, this);
+    created->setObjectName(name);
+    connect(created, &PictureButton::clicked, this, action);
+    return created;
+  };
+  extraButton_ = button(QStringLiteral("Select by E&xtra..."), QStringLiteral("selectByExtraButton"),
+                        &CSelectContactsDlg::selectByExtra);
+  selectButton_ = button(QStringLiteral("&Select"), QStringLiteral("selectButton"), &QDialog::accept);
+  clearButton_ = button(QStringLiteral("&Clear All Selection"), QStringLiteral("clearAllButton"),
+                        &CSelectContactsDlg::clearTicks);
+  cancelButton_ = button(QStringLiteral("&Cancel"), QStringLiteral("cancelButton"), &QDialog::reject);
+  selectButton_->setDefault(true);
+}
+
+void CSelectContactsDlg::createLayout() {
+  auto* lists = new QGridLayout;
+  lists->addWidget(new QLabel(QStringLiteral("Groups:"), this), 0, 0);
+  lists->addWidget(new QLabel(QStringLiteral("Contacts:"), this), 0, 1);
+  lists->addWidget(groupView_, 1, 0);
+  lists->addWidget(contactView_, 1, 1);
+  lists->setColumnStretch(0, groupView_->fittingWidth());
+  lists->setColumnStretch(1, contactView_->fittingWidth());
+  lists->setHorizontalSpacing(12);
+
+  auto* buttons = new QHBoxLayout;
+  buttons->addWidget(extraButton_);
+  buttons->addStretch(1);
+  for (PictureButton* button : {selectButton_, clearButton_, cancelButton_}) buttons->addWidget(button);
+
+  auto* layout = new QVBoxLayout(this);
+  layout->addLayout(lists, 1);
+  layout->addSpacing(6);
+  layout->addLayout(buttons);
+  resize(sizeHint().width(), sizeHint().height() + dialogUnits(*this, 0, listHeightUnits / 2).height());
+}
+
+void CSelectContactsDlg::accept() {
+  selection_ = lists_.tickedContacts();
+  GradientDialog::accept();
+}
+
+void CSelectContactsDlg::clearTicks() {
+  lists_.clear();
+  groups_.refreshTicks({0, lists_.groupCount() - 1});
+  contacts_.refreshTicks({0, lists_.contactCount() - 1});
+}
+
+void CSelectContactsDlg::selectByExtra() {
+  CSelectByExtraDlg dialog(book_, notifier_, this);
+  if (dialog.exec() == QDialog::Accepted) contacts_.refreshTicks(lists_.tickContacts(dialog.contacts()));
+}
+
+}  // namespace parlexo

@@ -1,0 +1,56 @@
+#pragma once
+
+#include <QString>
+
+#include "addressbook/core/contact_selection.h"
+#include "addressbook/core/selection_lists.h"
+#include "addressbook/screens/contact_list_model.h"
+#include "addressbook/screens/group_list_model.h"
+#include "ui/gradient_page.h"
+
+namespace parlexo {
+
+class AddressBook;
+class CheckListView;
+class Notifier;
+class PictureButton;
+
+/// Lets the user pick contacts by ticking them, ticking whole groups, or choosing values of their Extra
+/// fields.
+class CSelectContactsDlg final : public GradientDialog {
+  Q_OBJECT
+
+ public:
+  /// Offers the contacts of `book` that are eligible for `mode` (see eligibilityFor()), with those of
+  /// `initial` ticked. `book` and `notifier` must outlive the dialog.
+  CSelectContactsDlg(const AddressBook& book, const QString& mode, const ContactSelection& initial,
+                     Notifier& notifier, QWidget* parent = nullptr);
+
+  /// The picked contacts once "Select" has been pressed; until then, and after "Cancel", the initial ones
+  /// as they were given.
+  [[nodiscard]] const ContactSelection& selection() const { return selection_; }
+
+  void accept() override;
+
+ private:
+  void createLists();
+  void createButtons();
+  void createLayout();
+  void clearTicks();
+  void selectByExtra();
+
+  const AddressBook& book_;
+  Notifier& notifier_;
+  ContactSelection selection_;
+  SelectionLists lists_;
+  GroupListModel groups_;
+  ContactListModel contacts_;
+  CheckListView* groupView_;
+  CheckListView* contactView_;
+  PictureButton* selectButton_;
+  PictureButton* clearButton_;
+  PictureButton* cancelButton_;
+  PictureButton* extraButton_;
+};
+
+}  // namespace parlexo

@@ -1,0 +1,254 @@
+#include "addressbook/screens/select_contacts_dlg.h"
+
+#include <memory>
+
+#include <QAbstractButton>
+#include <QHeaderView>
+#include <QListView>
+#include <QSignalSpy>
+#include <QStringList>
+#include <QTest>
+#include <QTimer>
+#include <gmock/gmock.h>
+
+#include "addressbook/screens/check_list_view.h"
+#include "addressbook/screens/select_by_extra_dlg.h"
+#include "tests/addressbook/sample_book.h"
+
+namespace parlexo {
+namespace {
+
+using test::FivePeople;
+using test::RecordingNotifier;
+using test::SampleBook;
+
+/// The contact selection dialog on the screen, and a user's hands.
+class SelectContactsDlg : public testing::Test {
+ protected:
+  void open(const SampleBook& sample, const QString& mode, const QStringList& initial = {}) {
+    ContactSelection::Contacts picked;
+    for (const QString& name : initial) picked.push_back(sample.book().findContact(name));
+    dialog_ = std::make_unique<CSelectContactsDlg>(sample.book(), mode, ContactSelection(picked), notifier_);
+    dialog_->show();
+    dialog_->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(dialog_.get()));
+  }
+
+  CheckListView& list(const char* name) { return *dialog_->findChild<CheckListView*>(name); }
+  CheckListView& contacts() { return list("contactList"); }
+  CheckListView& groups() { return list("groupList"); }
+
+  static void clickCell(CheckListView& view, int row, int column, Qt::KeyboardModifiers keys = {}) {
+    const QRect cell = view.visualRect(view.model()->index(row, column));
+    QTest::mouseClick(view.viewport(), Qt::LeftButton, keys, {cell.left() + 10, cell.center().y()});
+  }
+
+  void press(const char* buttonName) {
+    QTest::mouseClick(dialog_->findChild<QAbstractButton*>(buttonName), Qt::LeftButton);
+  }
+
+  /// The names that are ticked on the screen.
+  QStringList ticked() {
+    QStringList names;
+    const QAbstractItemModel& model = *contacts().model();
+    for (int row = 0; row < model.rowCount(); ++row) {
+      if (model.index(row, 0).data(Qt::CheckStateRole).toInt() != Qt::Checked) continue;
+      names << model.index(row, 1).data().toString();
+    }
+    return names;
+  }
+
+  QStringList selected() const {
+    QStringList names;
+    for (const ContactRecord* contact : dialog_->selection()) names << contact->name;
+    return names;
+  }
+
+  FivePeople people_;
+  RecordingNotifier notifier_;
+  std::unique_ptr<CSelectContactsDlg> dialog_;
+};
+
+TEST_F(SelectContactsDlg, checkBoxesTickAndSelectReturnsThemInTheListsOrder) {
+  open(people_, "All", {"Cid"});
+  EXPECT_EQ(ticked(), QStringList("Cid"));
+  clickCell(contacts(), 4, 0);
+  clickCell(contacts(), 1, 0);
+  clickCell(contacts(), 2, 0);
+  EXPECT_EQ(ticked(), QStringList({"bob", "eva"}));
+  clickCell(contacts(), 3, 1);
+  EXPECT_EQ(ticked(), QStringList({"bob", "eva"})) << "a click on the name is no tick";
+  press("selectButton");
+  EXPECT_EQ(dialog_->result(), QDialog::Accepted);
+  EXPECT_EQ(selected(), QStringList({"bob", "eva"}));
+}
+
+TEST_F(SelectContactsDlg, cancelAndEscapeLeaveTheSelectionAsItWas) {
+  for (const bool byKey : {false, true}) {
+    open(people_, "SMS", {"eva", "Ann"});
+    clickCell(contacts(), 0, 0);
+    clickCell(contacts(), 1, 0);
+    if (byKey) {
+      QTest::keyClick(&contacts(), Qt::Key_Escape);
+    } else {
+      press("cancelButton");
+    }
+    EXPECT_FALSE(dialog_->isVisible());
+    EXPECT_EQ(dialog_->result(), QDialog::Rejected);
+    EXPECT_EQ(selected(), QStringList({"Ann", "eva"}));
+  }
+}
+
+TEST_F(SelectContactsDlg, keyboardAloneTicksAndSelects) {
+  open(people_, "All");
+  EXPECT_TRUE(contacts().hasFocus());
+  QTest::keyClick(&contacts(), Qt::Key_Space);
+  EXPECT_EQ(ticked(), QStringList("Ann"));
+  QTest::keyClick(&contacts(), Qt::Key_D);
+  QTest::keyClick(&contacts(), Qt::Key_Space);
+  EXPECT_EQ(ticked(), QStringList({"Ann", "Dan"}));
+  QTest::keyClick(&contacts(), Qt::Key_Up, Qt::ShiftModifier);
+  QTest::keyClick(&contacts(), Qt::Key_Up, Qt::ShiftModifier);
+  QTest::keyClick(&contacts(), Qt::Key_Space);
+  EXPECT_EQ(ticked(), QStringList({"Ann", "bob", "Cid", "Dan"}))
+      << "all selected rows follow the current one";
+  QTest::keyClick(&contacts(), Qt::Key_Space);
+  EXPECT_EQ(ticked(), QStringList("Ann"));
+  QTest::keyClick(&contacts(), Qt::Key_Return);
+  EXPECT_EQ(dialog_->result(), QDialog::Accepted);
+  EXPECT_EQ(selected(), QStringList("Ann"));
+}
+
+TEST_F(SelectContactsDlg, spaceTicksTheRowWhoseNameWasClicked) {
+  open(people_, "All");
+  clickCell(contacts(), 1, 1);
+  QTest::keyClick(&contacts(), Qt::Key_Space);
+  EXPECT_EQ(ticked(), QStringList("bob"));
+}
+
+TEST_F(SelectContactsDlg, groupTicksItsEligibleMembersAndClearUnticksAll) {
+  open(people_, "Media", {});
+  ASSERT_EQ(groups().model()->index(1, 1).data().toString(), "Team");
+  clickCell(groups(), 1, 0);
+  EXPECT_EQ(ticked(), QStringList({"Ann", "eva"}));
+  clickCell(groups(), 1, 0);
+  EXPECT_EQ(ticked(), QStringList());
+  clickCell(groups(), 1, 0);
+  press("clearAllButton");
+  EXPECT_EQ(ticked(), QStringList());
+  EXPECT_EQ(groups().model()->index(1, 0).data(Qt::CheckStateRole).toInt(), Qt::Unchecked);
+  press("selectButton");
+  EXPECT_TRUE(selected().isEmpty());
+}
+
+TEST_F(SelectContactsDlg, bigGroupIsTickedInOneStep) {
+  SampleBook crowd;
+  QStringList members;
+  for (int number = 0; number < 500; ++number) {
+    const QString name = QStringLiteral("Person %1").arg(number);
+    crowd.addContact(name, "+61491570156");
+    if (number % 2 == 0) members << name;
+  }
+  crowd.addGroup("Even", members);
+  open(crowd, "Phone");
+  QSignalSpy changes(contacts().model(), &QAbstractItemModel::dataChanged);
+  clickCell(groups(), 0, 0);
+  EXPECT_EQ(changes.count(), 1);
+  EXPECT_EQ(ticked().size(), 250);
+}
+
+TEST_F(SelectContactsDlg, columnsShowFaxNumbersInFaxModeAndPhoneNumbersElse) {
+  const struct {
+    const char* mode;
+    const char* header;
+    QStringList numbers;
+  } cases[] = {
+      {"Fax", "Fax", {"+61255501234"}},
+      {"Phone", "Phone", {"+61491570156", "+61491570157"}},
+      {"FAX", "Fax", {}},
+  };
+  for (const auto& [mode, header, numbers] : cases) {
+    open(people_, mode);
+    const QAbstractItemModel& model = *contacts().model();
+    EXPECT_EQ(model.headerData(0, Qt::Horizontal).toString(), "Select");
+    EXPECT_EQ(model.headerData(1, Qt::Horizontal).toString(), "Name");
+    EXPECT_EQ(model.headerData(2, Qt::Horizontal).toString(), header);
+    ASSERT_EQ(model.rowCount(), numbers.size()) << mode;
+    for (int row = 0; row < model.rowCount(); ++row) {
+      EXPECT_EQ(model.index(row, 2).data().toString(), numbers[row]);
+    }
+  }
+}
+
+TEST_F(SelectContactsDlg, emptyListGivesAnEmptySelection) {
+  open(people_, "Voice", {"Ann"});
+  EXPECT_EQ(contacts().model()->rowCount(), 0);
+  QTest::keyClick(&contacts(), Qt::Key_Space);
+  press("selectButton");
+  EXPECT_EQ(dialog_->result(), QDialog::Accepted);
+  EXPECT_TRUE(selected().isEmpty());
+}
+
+TEST_F(SelectContactsDlg, speaksItsNamesToAScreenReader) {
+  open(people_, "All");
+  EXPECT_EQ(dialog_->windowTitle(), "Parlexo(TM) : Contacts");
+  EXPECT_EQ(groups().accessibleName(), "Groups:");
+  EXPECT_EQ(contacts().accessibleName(), "Contacts:");
+  EXPECT_EQ(contacts().model()->index(1, 0).data(Qt::AccessibleTextRole).toString(), "bob");
+}
+
+/// Attribute selection, alone and from the contact selection dialog.
+class SelectByExtraDlg : public SelectContactsDlg {
+ protected:
+  SelectByExtraDlg() {
+    people_.addContact("Fay", "+61491570158", "Y", "N", {}, {"Perth", "Sales", "", "", "", ""});
+    people_.addContact("Gus", "", "N", "N", {}, {"Perth", "Sales", "", "", "", ""});
+    people_.addContact("Hal", "+61491570159", "Y", "N", {}, {"Hobart", "", "", "", "", ""});
+  }
+
+  static void clickValue(QDialog& dialog, const char* listName, const QString& value) {
+    auto* box = dialog.findChild<QListView*>(listName);
+    const auto found =
+        box->model()->match(box->model()->index(0, 0), Qt::DisplayRole, value, 1, Qt::MatchExactly);
+    ASSERT_FALSE(found.isEmpty());
+    QTest::mouseClick(box->viewport(), Qt::LeftButton, {}, box->visualRect(found.front()).center());
+  }
+};
+
+TEST_F(SelectByExtraDlg, nothingChosenIsToldAndKeepsTheDialogOpen) {
+  CSelectByExtraDlg dialog(people_.book(), notifier_);
+  dialog.show();
+  ASSERT_TRUE(QTest::qWaitForWindowExposed(&dialog));
+  EXPECT_EQ(dialog.windowTitle(), "Parlexo(TM) : Contact Details");
+  QTest::mouseClick(dialog.findChild<QAbstractButton*>("selectButton"), Qt::LeftButton);
+  EXPECT_TRUE(dialog.isVisible());
+  EXPECT_EQ(notifier_.texts,
+            QStringList("You have not selected one or more Extra properties you would like to "
+                        "filter your Contacts on."));
+  // A value that was clicked twice is not chosen either.
+  clickValue(dialog, "extra1List", "Perth");
+  clickValue(dialog, "extra1List", "Perth");
+  QTest::mouseClick(dialog.findChild<QAbstractButton*>("selectButton"), Qt::LeftButton);
+  EXPECT_EQ(notifier_.texts.size(), 2);
+  EXPECT_TRUE(dialog.contacts().empty());
+}
+
+TEST_F(SelectByExtraDlg, itsContactsAreTickedAsFarAsTheyAreEligible) {
+  open(people_, "SMS", {"Ann"});
+  bool wasOpen = false;
+  QTimer::singleShot(0, dialog_.get(), [&] {
+    auto* extra = dialog_->findChild<CSelectByExtraDlg*>();
+    ASSERT_NE(extra, nullptr);
+    wasOpen = extra->isModal();
+    clickValue(*extra, "extra1List", "Perth");
+    clickValue(*extra, "extra1List", "Hobart");
+    clickValue(*extra, "extra2List", "Sales");
+    QTest::mouseClick(extra->findChild<QAbstractButton*>("selectButton"), Qt::LeftButton);
+  });
+  press("selectByExtraButton");
+  EXPECT_TRUE(wasOpen);
+  EXPECT_EQ(ticked(), QStringList({"Ann", "Fay"}));
+}
+
+}  // namespace
+}  // namespace parlexo
