@@ -1,0 +1,99 @@
+#include "messaging/core/recipients.h"
+
+#include <algorithm>
+
+#include <QHash>
+
+namespace parlexo {
+namespace {
+
+const QString& numberOf(const ContactRecord& contact, RecipientNumber which) {
+  switch (which) {
+    case RecipientNumber::Phone:
+      return contact.phone;
+    case RecipientNumber::Fax:
+      return contact.fax;
+  }
+  Q_UNREACHABLE();
+}
+
+Recipient parseEntry(const QString& text) {
+  const qsizetype bracket = text.lastIndexOf(QStringLiteral(" ["));
+  if (bracket < 0 || !text.endsWith(QChar(u']'))) return {text, {}};
+  return {text.left(bracket), text.mid(bracket + 2, text.size() - bracket - 3)};
+}
+
+template <class List>
+void eraseMarked(List& list, const std::vector<bool>& marked) {
+  std::size_t index = 0;
+  list.erase(std::remove_if(list.begin(), list.end(), [&](const auto&) { return marked[index++]; }),
+             list.end());
+}
+
+// Takes from `numbers` the first occurrences of what `unwanted` counts.
+void eraseFirst(QStringList& numbers, QHash<QString, int> unwanted) {
+  numbers.removeIf([&](const QString& number) {
+    const auto found = unwanted.find(number);
+    if (found == unwanted.end() || *found == 0) return false;
+    --*found;
+    return true;
+  });
+}
+
+}  // namespace
+
+QStringList Recipients::select(std::span<const ContactRecord* const> contacts, RecipientNumber which) {
+  entries_.clear();
+  numbers_.clear();
+  QStringList rejected;
+  for (const ContactRecord* contact : contacts) {
+    const QString& number = numberOf(*contact, which);
+    if (number.startsWith(QChar(u'+'))) {
+      entries_.push_back({contact->name, number});
+      numbers_.append(number);
+    } else {
+      rejected.append(contact->name);
+    }
+  }
+  return rejected;
+}
+
+void Recipients::remove(const std::vector<int>& indexes) {
+  std::vector<bool> marked(entries_.size(), false);
+  QHash<QString, int> unwanted;
+  for (const int index : indexes) {
+    if (index < 0 || static_cast<std::size_t>(index) >= marked.size() || marked[index]) continue;
+    marked[index] = true;
+    ++unwanted[entries_[index].number];
+  }
+  if (listsAgree())
+    eraseMarked(numbers_, marked);
+  else
+    eraseFirst(numbers_, std::move(unwanted));
+  eraseMarked(entries_, marked);
+}
+
+void Recipients::setEntries(const QString& displayList) {
+  entries_.clear();
+  qsizetype begin = 0;
+  while (begin < displayList.size()) {
+    const qsizetype bracket = displayList.indexOf(QStringLiteral("],"), begin);
+    const qsizetype end = bracket < 0 ? displayList.size() : bracket + 1;
+    entries_.push_back(parseEntry(displayList.mid(begin, end - begin)));
+    begin = end + 1;
+  }
+}
+
+QString Recipients::displayList() const {
+  QStringList texts;
+  texts.reserve(static_cast<qsizetype>(entries_.size()));
+  for (const Recipient& entry : entries_) texts.append(entry.text());
+  return texts.join(QChar(u','));
+}
+
+bool Recipients::listsAgree() const {
+  return std::equal(entries_.begin(), entries_.end(), numbers_.begin(), numbers_.end(),
+                    [](const Recipient& entry, const QString& number) { return entry.number == number; });
+}
+
+}  // namespace parlexo

@@ -1,0 +1,101 @@
+#include "messaging/core/recipients.h"
+
+#include <QElapsedTimer>
+#include <gtest/gtest.h>
+
+namespace parlexo {
+namespace {
+
+ContactRecord contact(const char* name, const char* phone, const char* fax = "") {
+  ContactRecord record;
+  record.name = QString::fromUtf8(name);
+  record.phone = QString::fromUtf8(phone);
+  record.fax = QString::fromUtf8(fax);
+  return record;
+}
+
+class RecipientsTest : public testing::Test {
+ protected:
+  QStringList select(const std::vector<ContactRecord>& contacts,
+                     RecipientNumber which = RecipientNumber::Phone) {
+    std::vector<const ContactRecord*> pointers;
+    for (const ContactRecord& record : contacts) pointers.push_back(&record);
+    return recipients_.select(pointers, which);
+  }
+
+  // Both lists in one readable line.
+  [[nodiscard]] std::string lists() const {
+    return (recipients_.displayList() + QStringLiteral(" | ") + recipients_.numbersList()).toStdString();
+  }
+
+  Recipients recipients_;
+  const std::vector<ContactRecord> three_{contact("Ann", "+1"), contact("Lee, Bob", "+2"),
+                                          contact("Cy", "+1")};
+};
+
+TEST_F(RecipientsTest, selectionReplacesBothListsAndRejectsNumbersWithoutPlus) {
+  EXPECT_TRUE(select(three_).isEmpty());
+  const QStringList rejected = select({contact("Ann", "+61491570156"), contact("Local", "0491570156"),
+                                       contact("None", ""), contact("Bob", "+60312345678")});
+  EXPECT_EQ(rejected, QStringList({"Local", "None"}));
+  EXPECT_EQ(lists(), "Ann [+61491570156],Bob [+60312345678] | +61491570156,+60312345678");
+  EXPECT_EQ(select({contact("Local", "1")}), QStringList({"Local"}));
+  EXPECT_EQ(lists(), " | ");
+}
+
+TEST_F(RecipientsTest, faxPagesTakeTheFaxNumber) {
+  EXPECT_EQ(select({contact("Ann", "+1", "+9"), contact("Bob", "+2", "")}, RecipientNumber::Fax),
+            QStringList({"Bob"}));
+  EXPECT_EQ(lists(), "Ann [+9] | +9");
+}
+
+TEST_F(RecipientsTest, removalKeepsBothListsInStep) {
+  select(three_);
+  recipients_.remove({2, 1, 1, -1, 7});
+  EXPECT_EQ(lists(), "Ann [+1] | +1");
+  select(three_);
+  recipients_.remove({2});  // its number equals the first one's, but stands in third place
+  EXPECT_EQ(lists(), "Ann [+1],Lee, Bob [+2] | +1,+2");
+}
+
+TEST_F(RecipientsTest, clearAndTemplatesLeaveTheNumbers) {
+  select(three_);
+  recipients_.clearEntries();
+  EXPECT_EQ(lists(), " | +1,+2,+1");
+  recipients_.setEntries(QStringLiteral("Lee, Bob [+2],Zoe [x] [+5],nonsense"));
+  ASSERT_EQ(recipients_.entries().size(), 3U);
+  EXPECT_EQ(recipients_.entries()[0], (Recipient{"Lee, Bob", "+2"}));
+  EXPECT_EQ(recipients_.entries()[1], (Recipient{"Zoe [x]", "+5"}));
+  EXPECT_EQ(recipients_.numbersList(), "+1,+2,+1");
+}
+
+TEST_F(RecipientsTest, removalAfterATemplateTakesOnlyNumbersThatMatch) {
+  select(three_);
+  recipients_.setEntries(QStringLiteral("Zoe [+5],Lee, Bob [+2]"));
+  recipients_.remove({0});
+  EXPECT_EQ(lists(), "Lee, Bob [+2] | +1,+2,+1");
+  recipients_.remove({0});
+  EXPECT_EQ(lists(), " | +1,+1");
+}
+
+TEST_F(RecipientsTest, tenThousandRecipientsAreQuick) {
+  std::vector<ContactRecord> many;
+  for (int i = 0; i < 10'000; ++i) {
+    many.emplace_back();
+    many.back().name = QStringLiteral("Name %1").arg(i);
+    many.back().phone = QStringLiteral("+%1").arg(100'000 + i);
+  }
+  QElapsedTimer timer;
+  timer.start();
+  select(many);
+  std::vector<int> odd;
+  for (int i = 1; i < 10'000; i += 2) odd.push_back(i);
+  recipients_.remove(odd);
+  EXPECT_TRUE(recipients_.numbersList().startsWith("+100000,+100002,"));
+  EXPECT_TRUE(recipients_.displayList().endsWith("Name 9998 [+109998]"));
+  EXPECT_EQ(recipients_.numbers().size(), 5'000);
+  EXPECT_LT(timer.elapsed(), 1000);
+}
+
+}  // namespace
+}  // namespace parlexo
