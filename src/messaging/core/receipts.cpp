@@ -1,0 +1,47 @@
+#include "messaging/core/receipts.h"
+
+namespace parlexo {
+namespace {
+
+QString failMark() {
+  return QStringLiteral("FAIL");
+}
+
+QStringList elementsOf(const QString& list) {
+  return list.isEmpty() ? QStringList() : list.split(QChar(u','));
+}
+
+QString beforeColon(const QString& element) {
+  return element.section(QChar(u':'), 0, 0);
+}
+
+QString behindColon(const QString& element) {
+  return element.section(QChar(u':'), 1);
+}
+
+}  // namespace
+
+std::vector<StatusEntry> statusEntries(const QString& receipts, const QString& numbersSent,
+                                       const QString& typeWord, const QDateTime& now) {
+  const QStringList elements = elementsOf(receipts);
+  std::vector<StatusEntry> entries;
+  if (elements.size() != elementsOf(numbersSent).size()) return entries;
+  const QString date = now.toString(QStringLiteral("dd/MM/yyyy HH:mm:ss"));
+  entries.reserve(static_cast<std::size_t>(elements.size()));
+  for (const QString& element : elements)
+    entries.push_back({beforeColon(element), behindColon(element), deliveredToGateway(), typeWord, date});
+  return entries;
+}
+
+bool hasFailures(const QString& receipts) {
+  return receipts.contains(failMark());
+}
+
+QString failureWarning(const QString& warning, const QString& receipts) {
+  QString message = warning + QChar(u'\n');
+  for (const QString& element : elementsOf(receipts))
+    if (element.contains(failMark())) message += beforeColon(element) + QChar(u'\n');
+  return message;
+}
+
+}  // namespace parlexo
