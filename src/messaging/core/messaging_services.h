@@ -1,0 +1,27 @@
+#pragma once
+
+namespace parlexo {
+
+class AddressBook;
+class Gateway;
+class Notifier;
+class Progress;
+class SessionRenewal;
+class StatusFile;
+class StatusLog;
+struct RunState;
+
+/// What the messaging pages and flows work with. The application owns it all and keeps it alive longer
+/// than any page.
+struct MessagingServices {
+  const RunState& state;
+  const Gateway& gateway;
+  Notifier& notifier;
+  Progress& progress;
+  SessionRenewal& renewal;
+  const AddressBook& addressBook;
+  StatusLog& statusLog;
+  StatusFile& statusFile;
+};
+
+}  // namespace parlexo
