@@ -1,0 +1,55 @@
+// make-contacts: writes a made-up address book of any size into a folder.
+
+#include <cstdio>
+#include <optional>
+
+#include <QCommandLineParser>
+#include <QCoreApplication>
+#include <QString>
+
+#include "contacts/sample_contacts.h"
+
+namespace {
+
+constexpr int badUsage = 2;
+// Beyond this the program itself would need more memory than a desktop has.
+constexpr int largestCount = 2'000'000;
+
+std::optional<int> countOf(const QCommandLineParser& parser, const QString& option) {
+  bool valid = false;
+  const int count = parser.value(option).toInt(&valid);
+  if (valid && count >= 0 && count <= largestCount) return count;
+  std::fprintf(stderr, "make-contacts: --%s needs a number from 0 to %d\n", qPrintable(option), largestCount);
+  return std::nullopt;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  const QCoreApplication application(argc, argv);
+  const QString contactsOption = QStringLiteral("contacts");
+  const QString groupsOption = QStringLiteral("groups");
+  QCommandLineParser parser;
+  parser.setApplicationDescription(
+      QStringLiteral("Writes a made-up address book into the folder DIR, which must not hold one yet."));
+  parser.addHelpOption();
+  parser.addOption(
+      {contactsOption, QStringLiteral("How many contacts (40)."), QStringLiteral("N"), QStringLiteral("40")});
+  parser.addOption({groupsOption, QStringLiteral("How many groups beside My Personal Contacts (6)."),
+                    QStringLiteral("M"), QStringLiteral("6")});
+  parser.addPositionalArgument(QStringLiteral("DIR"), QStringLiteral("The contacts folder to fill."));
+  parser.process(application);
+
+  const std::optional<int> contacts = countOf(parser, contactsOption);
+  const std::optional<int> groups = countOf(parser, groupsOption);
+  if (!contacts || !groups) return badUsage;
+  if (parser.positionalArguments().size() != 1) {
+    std::fputs("make-contacts: give one folder (see --help)\n", stderr);
+    return badUsage;
+  }
+  const QString problem =
+      parlexo::writeSampleFolder(parser.positionalArguments().first(), *contacts, *groups);
+  if (problem.isEmpty()) return 0;
+  std::fprintf(stderr, "make-contacts: %s\n", qPrintable(problem));
+  return 1;
+}
