@@ -4,6 +4,7 @@
 #include <QAccessibleWidget>
 
 #include "ui/hyperlink_label.h"
+#include "ui/input_block.h"
 #include "ui/picture_button.h"
 
 namespace parlexo {
@@ -49,10 +50,10 @@ class AccessibleButton final : public QAccessibleWidget {
   }
 
   void doAction(const QString& name) override {
-    if (name == pressAction()) {
-      button_.click();
-    } else {
+    if (name != pressAction()) {
       QAccessibleWidget::doAction(name);
+    } else if (!InputBlock::holds(button_)) {
+      button_.click();
     }
   }
 

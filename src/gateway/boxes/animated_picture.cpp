@@ -1,0 +1,95 @@
+#include "gateway/boxes/animated_picture.h"
+
+#include <QBuffer>
+#include <QFile>
+#include <QImageReader>
+#include <QPainter>
+
+// The initialiser is declared outside every namespace; without the call a static library drops its resources.
+static void loadResources() {
+  Q_INIT_RESOURCE(boxes);
+}
+
+namespace parlexo {
+
+namespace {
+
+QByteArray contentOf(const QString& path) {
+  QFile file(path);
+  return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+QString doubledName(QString path) {
+  return path.insert(path.lastIndexOf(u'.'), QStringLiteral("@2x"));
+}
+
+}  // namespace
+
+CAnimatedPicture::CAnimatedPicture(QWidget* parent) : QWidget(parent) {
+  loadResources();
+  setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+  timer_.setTimerType(Qt::PreciseTimer);
+  timer_.setSingleShot(true);
+  connect(&timer_, &QTimer::timeout, this, &CAnimatedPicture::advance);
+}
+
+bool CAnimatedPicture::loadFromResource(const QString& path) {
+  if (devicePixelRatioF() > 1 && loadFromMemory(contentOf(doubledName(path)), 2)) return true;
+  return loadFromMemory(contentOf(path));
+}
+
+bool CAnimatedPicture::loadFromMemory(const QByteArray& gif, qreal pixelsPerPoint) {
+  stop();
+  frames_ = decode(gif, pixelsPerPoint);
+  current_ = 0;
+  updateGeometry();
+  update();
+  return !frames_.empty();
+}
+
+std::vector<CAnimatedPicture::Frame> CAnimatedPicture::decode(const QByteArray& gif, qreal pixelsPerPoint) {
+  QBuffer buffer;
+  buffer.setData(gif);
+  buffer.open(QIODevice::ReadOnly);
+  QImageReader reader(&buffer, "gif");
+  std::vector<Frame> frames;
+  while (reader.canRead()) {
+    QImage picture = reader.read();
+    if (picture.isNull()) break;
+    picture.setDevicePixelRatio(pixelsPerPoint);
+    frames.push_back({picture, reader.nextImageDelay() / 10});
+  }
+  return frames;
+}
+
+bool CAnimatedPicture::start() {
+  if (frames_.empty()) return false;
+  update();
+  if (frames_.size() > 1 && !isRunning()) timer_.start(frameDelay(frames_[current_].storedHundredths));
+  return true;
+}
+
+void CAnimatedPicture::stop() {
+  timer_.stop();
+}
+
+void CAnimatedPicture::advance() {
+  current_ = (current_ + 1) % frameCount();
+  timer_.start(frameDelay(frames_[current_].storedHundredths));
+  update();
+}
+
+QSize CAnimatedPicture::sizeHint() const {
+  return frames_.empty() ? QSize(0, 0) : frames_.front().picture.deviceIndependentSize().toSize();
+}
+
+void CAnimatedPicture::paintEvent(QPaintEvent*) {
+  if (frames_.empty()) return;
+  const QImage& picture = frames_[current_].picture;
+  const QSizeF size = picture.deviceIndependentSize();
+  QPainter painter(this);
+  painter.setRenderHint(QPainter::SmoothPixmapTransform);
+  painter.drawImage(QPointF((width() - size.width()) / 2, (height() - size.height()) / 2), picture);
+}
+
+}  // namespace parlexo

@@ -1,0 +1,44 @@
+#pragma once
+
+#include <chrono>
+#include <memory>
+
+#include <QTimer>
+
+#include "base/call_runner.h"
+
+namespace parlexo {
+
+class ProgressBox;
+
+/// The interface thread's wait for one worker: runs events until the worker has ended or, after a cancel,
+/// has been given up. Shows the progress box when the wait lasts and takes away what it showed.
+class ExchangeWait {
+ public:
+  ExchangeWait(ProgressBox& progress, std::chrono::milliseconds untilBox);
+  ~ExchangeWait();
+  ExchangeWait(const ExchangeWait&) = delete;
+  ExchangeWait& operator=(const ExchangeWait&) = delete;
+
+  /// Runs `exchange` on a new thread and waits. True when it ended without an exception; false when it was
+  /// given up, threw, or no thread could be started.
+  [[nodiscard]] bool run(CallRunner::Exchange exchange);
+
+  /// Raises the flag; the worker is given up when it has not ended `grace` later.
+  void cancel(std::chrono::milliseconds grace);
+
+ private:
+  class Worker;
+
+  void showBox();
+
+  ProgressBox& progress_;
+  std::shared_ptr<Worker> worker_;
+  CancelFlag cancelFlag_;
+  QTimer boxTimer_;
+  QTimer graceTimer_;
+  bool givenUp_ = false;
+  bool showedBox_ = false;
+};
+
+}  // namespace parlexo

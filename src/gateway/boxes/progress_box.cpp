@@ -1,0 +1,61 @@
+#include "gateway/boxes/progress_box.h"
+
+#include <QApplication>
+#include <QEventLoop>
+
+namespace parlexo {
+
+namespace {
+
+constexpr qint64 repaintPause = 30;  // milliseconds
+
+void handleWaitingEvents() {
+  QCoreApplication::processEvents(QEventLoop::ExcludeSocketNotifiers);
+}
+
+}  // namespace
+
+ProgressBox::~ProgressBox() {
+  remove();
+}
+
+void ProgressBox::show(const QString& text) {
+  if (!box_) {
+    block_ = std::make_unique<InputBlock>();
+    box_ = new CConnectingDlg(QApplication::activeWindow());
+    if (!text.isEmpty()) box_->setText(text);
+  }
+  box_->show();
+  box_->raise();
+  box_->activateWindow();
+  sinceRepaint_.start();
+  handleWaitingEvents();
+}
+
+void ProgressBox::setText(const QString& text) {
+  if (!box_) return;
+  box_->setText(text);
+  if (sinceRepaint_.elapsed() < repaintPause) return;
+  sinceRepaint_.restart();
+  handleWaitingEvents();
+}
+
+void ProgressBox::hide() {
+  if (!box_) {
+    block_.reset();  // the box may have gone with its parent window
+    return;
+  }
+  // What the user pressed during blocking work still waits in the queue; it has to meet the block.
+  handleWaitingEvents();
+  remove();
+}
+
+void ProgressBox::remove() {
+  QPointer<QWidget> parent = box_ ? box_->parentWidget() : nullptr;
+  const bool wasActive = box_ && box_->isActiveWindow();
+  delete box_.data();
+  block_.reset();
+  if (parent && wasActive) parent->activateWindow();
+}
+
+}  // namespace parlexo

@@ -1,0 +1,26 @@
+#include "gateway/boxes/thread_call_runner.h"
+
+#include <utility>
+
+#include "gateway/boxes/exchange_wait.h"
+
+namespace parlexo {
+
+ThreadCallRunner::ThreadCallRunner(ProgressBox& progress) : ThreadCallRunner(progress, Timing()) {}
+
+ThreadCallRunner::ThreadCallRunner(ProgressBox& progress, Timing timing)
+    : progress_(progress), timing_(timing) {}
+
+bool ThreadCallRunner::run(Exchange exchange) {
+  ExchangeWait wait(progress_, timing_.untilBox);
+  waits_.push_back(&wait);
+  const bool ended = wait.run(std::move(exchange));
+  std::erase(waits_, &wait);
+  return ended;
+}
+
+void ThreadCallRunner::cancel() {
+  for (ExchangeWait* wait : waits_) wait->cancel(timing_.afterCancel);
+}
+
+}  // namespace parlexo

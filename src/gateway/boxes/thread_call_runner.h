@@ -1,0 +1,39 @@
+#pragma once
+
+#include <chrono>
+#include <vector>
+
+#include "base/call_runner.h"
+
+namespace parlexo {
+
+class ExchangeWait;
+class ProgressBox;
+
+/// Runs an exchange on a worker thread while the interface thread keeps painting. Input that comes
+/// meanwhile is dropped; a progress box appears when the exchange lasts and none stands there yet.
+class ThreadCallRunner final : public CallRunner {
+ public:
+  struct Timing {
+    std::chrono::milliseconds untilBox{300};
+    std::chrono::milliseconds afterCancel{2000};  ///< how long a cancelled worker may take to end
+  };
+
+  /// `progress` must outlive the runner.
+  explicit ThreadCallRunner(ProgressBox& progress);
+  ThreadCallRunner(ProgressBox& progress, Timing timing);
+
+  /// To be called on the interface thread, also by what runs during another exchange. Returns false also
+  /// when no thread could be started or the exchange threw.
+  [[nodiscard]] bool run(Exchange exchange) override;
+
+  /// Raises the cancel flag of every exchange under way; one that does not end in time is left behind.
+  void cancel();
+
+ private:
+  ProgressBox& progress_;
+  Timing timing_;
+  std::vector<ExchangeWait*> waits_;
+};
+
+}  // namespace parlexo

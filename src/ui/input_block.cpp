@@ -1,0 +1,101 @@
+#include "ui/input_block.h"
+
+#include <algorithm>
+#include <vector>
+
+#include <QApplication>
+#include <QEvent>
+#include <QWindow>
+
+namespace parlexo {
+
+namespace {
+
+std::vector<const InputBlock*>& activeBlocks() {
+  static std::vector<const InputBlock*> blocks;
+  return blocks;
+}
+
+bool isPointerInput(QEvent::Type type) {
+  switch (int(type)) {
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonRelease:
+    case QEvent::MouseButtonDblClick:
+    case QEvent::MouseMove:
+    case QEvent::Wheel:
+    case QEvent::ContextMenu:
+    case QEvent::TouchBegin:
+    case QEvent::TouchUpdate:
+    case QEvent::TouchEnd:
+    case QEvent::TabletPress:
+    case QEvent::TabletMove:
+    case QEvent::TabletRelease:
+    case QEvent::NativeGesture:
+    case QEvent::DragEnter:
+    case QEvent::DragMove:
+    case QEvent::Drop:
+      return true;
+    default:
+      return false;
+  }
+}
+
+bool isKeyInput(QEvent::Type type) {
+  switch (int(type)) {
+    case QEvent::KeyPress:
+    case QEvent::KeyRelease:
+    case QEvent::ShortcutOverride:
+    case QEvent::Shortcut:
+    case QEvent::InputMethod:
+      return true;
+    default:
+      return false;
+  }
+}
+
+/// A close request of the window frame; a close() in code must go through.
+bool isUserClose(const QEvent& event) {
+  return event.type() == QEvent::Close && event.spontaneous();
+}
+
+/// The window that `target`, a widget, a native window, an action or a shortcut, belongs to.
+const QObject* windowOf(const QObject* target) {
+  for (; target; target = target->parent()) {
+    if (const auto* widget = qobject_cast<const QWidget*>(target)) return widget->window()->windowHandle();
+    if (qobject_cast<const QWindow*>(target)) return target;
+  }
+  return nullptr;
+}
+
+}  // namespace
+
+InputBlock::InputBlock() : modalBefore_(QApplication::activeModalWidget()) {
+  activeBlocks().push_back(this);
+  qApp->installEventFilter(this);
+}
+
+InputBlock::~InputBlock() {
+  std::erase(activeBlocks(), this);
+}
+
+bool InputBlock::holds(const QWidget& widget) {
+  return std::ranges::any_of(activeBlocks(), [&](const auto* block) { return !block->lets(&widget); });
+}
+
+bool InputBlock::lets(const QObject* target) const {
+  const QWidget* modal = QApplication::activeModalWidget();
+  if (!modal || modal == modalBefore_) return false;
+  const QObject* window = windowOf(target);
+  const QWidget* popup = QApplication::activePopupWidget();
+  const bool inPopup = popup && window == popup->windowHandle();
+  return inPopup || (window && window == modal->windowHandle());
+}
+
+bool InputBlock::eventFilter(QObject* target, QEvent* event) {
+  const bool isInput = isPointerInput(event->type()) || isKeyInput(event->type()) || isUserClose(*event);
+  if (!isInput || lets(target)) return false;
+  event->setAccepted(event->type() != QEvent::Close && event->type() != QEvent::ShortcutOverride);
+  return true;
+}
+
+}  // namespace parlexo
