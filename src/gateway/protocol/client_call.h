@@ -1,0 +1,45 @@
+#pragma once
+
+#include <string_view>
+#include <type_traits>
+#include <utility>
+
+#include "gateway/protocol/contract.h"
+#include "gateway/protocol/fields.h"
+
+struct soap;
+
+namespace parlexo::protocol {
+
+/// One exchange with the gateway, without the types of its records.
+struct Exchange {
+  const char* endpoint = nullptr;  ///< null: the service's default endpoint
+  const char* action = nullptr;    ///< the SOAPAction; null: the operation's own
+  std::string_view operation;
+  Fields request;
+  Fields response;
+};
+
+/// Sends the request and reads the response on `context`; the connection is closed when this returns. Returns
+/// 0 when a whole, well-formed response with its code was read; otherwise the runtime's error: no connection
+/// (28), nothing or too little read (-1), an HTTP status, a fault (1, 2 or 12), a malformed reply (other
+/// small numbers).
+[[nodiscard]] int runExchange(::soap* context, const Exchange& exchange);
+
+/// The same with records: calls the operation that `Request` names. `response` is cleared first and stays
+/// cleared on failure; its strings live as long as the context.
+template <class Request, class Response>
+[[nodiscard]] int call(::soap* context, const char* endpoint, Request request, Response& response) {
+  const auto& operation = operationWith<Request>();
+  static_assert(std::is_same_v<typename std::remove_cvref_t<decltype(operation)>::Response, Response>,
+                "the response record belongs to another operation");
+  response = Response{};
+  const int result = runExchange(context, {.endpoint = endpoint,
+                                           .operation = operation.name,
+                                           .request = operation.fields(request),
+                                           .response = operation.fields(response)});
+  if (result != 0) response = Response{};
+  return result;
+}
+
+}  // namespace parlexo::protocol

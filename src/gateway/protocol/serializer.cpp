@@ -1,0 +1,221 @@
+#include "gateway/protocol/serializer.h"
+
+#include <charconv>
+#include <cstring>
+#include <optional>
+
+#include <stdsoap2.h>
+
+#include "gateway/protocol/field_text.h"
+#include "gateway/protocol/runtime_types.h"
+
+namespace parlexo::protocol {
+
+namespace {
+
+constexpr char encodingStyle[] = "http://schemas.xmlsoap.org/soap/encoding/";
+constexpr int noId = -1;
+
+int writeText(::soap& context, const char* name, const char* xmlType, const std::string& text) {
+  if (soap_element_begin_out(&context, name, noId, xmlType) || soap_string_out(&context, text.c_str(), 0) ||
+      soap_element_end_out(&context, name)) {
+    return context.error;
+  }
+  return SOAP_OK;
+}
+
+int writeBinary(::soap& context, const char* name, const BinaryData& value) {
+  if (soap_element_begin_out(&context, name, noId, "xsd:base64Binary") ||
+      soap_putbase64(&context, value.data, value.length) || soap_element_end_out(&context, name)) {
+    return context.error;
+  }
+  return SOAP_OK;
+}
+
+int writeBorrowedText(::soap& context, const char* name, const char* text) {
+  if (!text) return soap_element_null(&context, name, noId, "xsd:string");
+  return writeText(context, name, "xsd:string", withoutForbiddenCharacters(text));
+}
+
+int writeField(::soap& context, const Field& field) {
+  switch (field.type) {
+    case FieldType::Text:
+      return writeText(context, field.name, "xsd:string",
+                       withoutForbiddenCharacters(*static_cast<const std::string*>(field.value)));
+    case FieldType::BorrowedText:
+      return writeBorrowedText(context, field.name, *static_cast<const char* const*>(field.value));
+    case FieldType::Integer:
+      return writeText(context, field.name, "xsd:int",
+                       toText(*static_cast<const std::int32_t*>(field.value)));
+    case FieldType::Real:
+      return writeText(context, field.name, "xsd:double", toText(*static_cast<const double*>(field.value)));
+    case FieldType::Boolean:
+      return writeText(context, field.name, "xsd:boolean", toText(*static_cast<const bool*>(field.value)));
+    case FieldType::Binary:
+      return writeBinary(context, field.name, *static_cast<const BinaryData*>(field.value));
+  }
+  return SOAP_TYPE;
+}
+
+int beginEnvelope(::soap& context) {
+  if (soap_envelope_begin_out(&context) || soap_putheader(&context) || soap_body_begin_out(&context)) {
+    return context.error;
+  }
+  return SOAP_OK;
+}
+
+int endEnvelope(::soap& context) {
+  if (soap_body_end_out(&context) || soap_envelope_end_out(&context)) return context.error;
+  return SOAP_OK;
+}
+
+/// A field's text as it arrives. Values are taken into the record only when the whole message has been read:
+/// a reference may be resolved as late as that, and half a record must never be seen.
+struct ReceivedField {
+  const Field* field;
+  char* text = nullptr;
+  bool isPresent = false;
+};
+using ReceivedFields = std::vector<ReceivedField>;
+
+/// Reads the element at hand into the first field of its name that has not come yet; passes over others.
+int readChild(::soap& context, ReceivedFields& received) {
+  for (ReceivedField& each : received) {
+    if (each.isPresent || soap_match_tag(&context, context.tag, each.field->name) != SOAP_OK) continue;
+    each.isPresent = true;
+    return soap_instring(&context, each.field->name, &each.text, "", textType, 1, 0, -1, nullptr)
+               ? SOAP_OK
+               : context.error;
+  }
+  return soap_ignore(&context);
+}
+
+int readChildren(::soap& context, ReceivedFields& received) {
+  while (soap_peek_element(&context) == SOAP_OK) {
+    if (const int result = readChild(context, received)) return result;
+  }
+  if (context.error != SOAP_NO_TAG) return context.error;
+  return context.error = SOAP_OK;
+}
+
+/// Reads what stands in the body behind its first element: the values that references point to.
+int readReferencedElements(::soap& context) {
+  while (soap_peek_element(&context) == SOAP_OK) {
+    int type = 0;
+    const bool isKnown = readReferencedElement(context, &type);
+    if (!isKnown && context.error != SOAP_TAG_MISMATCH) return context.error;
+    if (!isKnown && soap_ignore(&context)) return context.error;
+  }
+  if (context.error != SOAP_NO_TAG) return context.error;
+  return context.error = SOAP_OK;
+}
+
+int readMessage(::soap& context, const std::string& element, ReceivedFields& received) {
+  if (soap_element_begin_in(&context, element.c_str(), 0, nullptr)) return context.error;
+  if (context.body && (readChildren(context, received) || soap_element_end_in(&context, element.c_str()))) {
+    return context.error;
+  }
+  if (readReferencedElements(context) || soap_body_end_in(&context) || soap_envelope_end_in(&context) ||
+      soap_end_recv(&context)) {
+    return context.error;
+  }
+  return SOAP_OK;
+}
+
+template <class Value>
+bool assign(void* member, const std::optional<Value>& value) {
+  if (value) *static_cast<Value*>(member) = *value;
+  return value.has_value();
+}
+
+bool takeBinary(::soap& context, const char* text, BinaryData& value) {
+  const auto bytes = fromBase64(text);
+  if (!bytes) return false;
+  auto* kept = static_cast<unsigned char*>(soap_malloc(&context, bytes->size() + 1));
+  if (!kept) return false;
+  std::memcpy(kept, bytes->data(), bytes->size());
+  value = {kept, static_cast<std::int32_t>(bytes->size())};
+  return true;
+}
+
+/// Takes a field's text into the record; false when it is not of the field's type.
+bool take(::soap& context, const ReceivedField& received) {
+  const Field& field = *received.field;
+  if (!received.text) return field.type != FieldType::Integer;
+  switch (field.type) {
+    case FieldType::Text:
+      *static_cast<std::string*>(field.value) = received.text;
+      return true;
+    case FieldType::BorrowedText:
+      *static_cast<const char**>(field.value) = received.text;
+      return true;
+    case FieldType::Integer:
+      return assign(field.value, integerFromText(received.text));
+    case FieldType::Real:
+      return assign(field.value, realFromText(received.text));
+    case FieldType::Boolean:
+      return assign(field.value, booleanFromText(received.text));
+    case FieldType::Binary:
+      return takeBinary(context, received.text, *static_cast<BinaryData*>(field.value));
+  }
+  return false;
+}
+
+}  // namespace
+
+std::string requestElement(std::string_view operation) {
+  return "ns3:" + std::string(operation);
+}
+
+std::string responseElement(std::string_view operation) {
+  return requestElement(operation) + "Response";
+}
+
+void setEncodingStyle(::soap& context) {
+  context.encodingStyle = encodingStyle;
+}
+
+int writeEnvelope(::soap& context, const std::string& element, const Fields& fields) {
+  if (beginEnvelope(context) || soap_element_begin_out(&context, element.c_str(), noId, nullptr)) {
+    return context.error;
+  }
+  for (const Field& field : fields) {
+    if (writeField(context, field)) return context.error;
+  }
+  if (soap_element_end_out(&context, element.c_str())) return context.error;
+  return endEnvelope(context);
+}
+
+int writeFaultEnvelope(::soap& context, const std::string& code, const std::string& text,
+                       const std::string& detail) {
+  if (beginEnvelope(context) || soap_element_begin_out(&context, "SOAP-ENV:Fault", noId, nullptr) ||
+      writeText(context, "faultcode", "xsd:QName", code) ||
+      writeText(context, "faultstring", "xsd:string", withoutForbiddenCharacters(text))) {
+    return context.error;
+  }
+  if (!detail.empty() && writeText(context, "detail", "xsd:string", withoutForbiddenCharacters(detail))) {
+    return context.error;
+  }
+  if (soap_element_end_out(&context, "SOAP-ENV:Fault")) return context.error;
+  return endEnvelope(context);
+}
+
+int readToBody(::soap& context) {
+  if (soap_begin_recv(&context) || soap_envelope_begin_in(&context) || soap_recv_header(&context) ||
+      soap_body_begin_in(&context)) {
+    return context.error;
+  }
+  return SOAP_OK;
+}
+
+int readRecord(::soap& context, const std::string& element, const Fields& fields) {
+  ReceivedFields received;
+  for (const Field& field : fields) received.push_back({&field});
+  if (readMessage(context, element, received)) return context.error;
+  for (const ReceivedField& each : received) {
+    if (!take(context, each)) return context.error = each.text ? SOAP_TYPE : SOAP_OCCURS;
+  }
+  return SOAP_OK;
+}
+
+}  // namespace parlexo::protocol

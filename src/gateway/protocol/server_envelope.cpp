@@ -1,0 +1,69 @@
+#include "gateway/protocol/server_envelope.h"
+
+#include <memory>
+#include <new>
+#include <sstream>
+
+#include <stdsoap2.h>
+
+#include "gateway/protocol/serializer.h"
+#include "gateway/protocol/soap_context.h"
+
+namespace parlexo::protocol {
+
+namespace {
+
+struct ContextDeleter {
+  void operator()(::soap* context) const { freeContext(context); }
+};
+
+/// Lets `write` fill one envelope; empty when there is no memory for it.
+template <class Write>
+std::string written(Write write) {
+  const std::unique_ptr<::soap, ContextDeleter> context(newStreamContext());
+  if (!context) return {};
+  std::ostringstream envelope;
+  context->os = &envelope;
+  setEncodingStyle(*context);
+  soap_begin(context.get());
+  soap_set_omode(context.get(), SOAP_ENC_PLAIN);
+  if (soap_begin_send(context.get()) || write(*context) || soap_end_send(context.get())) return {};
+  return envelope.str();
+}
+
+std::string_view localName(std::string_view name) {
+  return name.substr(name.find(':') + 1);
+}
+
+}  // namespace
+
+RequestReader::RequestReader(std::string envelope)
+    : envelope_(std::move(envelope)), context_(newStreamContext()) {
+  if (!context_) return;
+  context_->is = &envelope_;
+  setEncodingStyle(*context_);
+  soap_begin(context_);
+  soap_set_imode(context_, SOAP_ENC_PLAIN);
+  if (readToBody(*context_) || soap_peek_element(context_)) return;
+  operation_ = localName(context_->tag);
+}
+
+RequestReader::~RequestReader() {
+  freeContext(context_);
+}
+
+bool RequestReader::readFields(std::string_view operation, const Fields& fields) {
+  return !operation_.empty() && readRecord(*context_, requestElement(operation), fields) == SOAP_OK;
+}
+
+std::string responseEnvelope(std::string_view operation, const Fields& fields) {
+  return written([&](::soap& context) { return writeEnvelope(context, responseElement(operation), fields); });
+}
+
+std::string faultEnvelope(std::string_view code, std::string_view text, std::string_view detail) {
+  return written([&](::soap& context) {
+    return writeFaultEnvelope(context, std::string(code), std::string(text), std::string(detail));
+  });
+}
+
+}  // namespace parlexo::protocol

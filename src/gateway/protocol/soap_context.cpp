@@ -1,0 +1,49 @@
+#include "gateway/protocol/soap_context.h"
+
+#include <stdsoap2.h>
+
+#include "gateway/protocol/socket_io.h"
+
+namespace parlexo::protocol {
+
+namespace {
+
+/// More than any answer of the gateway; what is longer comes from something else or means harm.
+constexpr ULONG64 longestReply = 32u << 20;
+/// Envelope, body, wrapper, field: a reply needs four levels, a fault's detail some more. Skipping unknown
+/// elements recurses once a level.
+constexpr unsigned deepestNesting = 64;
+
+/// Header entries and unknown elements are passed over whatever they demand.
+int passOver(::soap*, const char*) {
+  return SOAP_OK;
+}
+
+}  // namespace
+
+::soap* newStreamContext() {
+  ::soap* context = soap_new();
+  if (!context) return nullptr;
+  // Naming the table here also makes the linker take the runtime's hooks, which stand beside it.
+  if (!context->namespaces) soap_set_namespaces(context, namespaces);
+  context->maxlevel = deepestNesting;
+  context->fignore = passOver;
+  return context;
+}
+
+::soap* newClientContext(const IoPatience& patience) {
+  ::soap* context = newStreamContext();
+  if (!context) return nullptr;
+  context->recv_maxlength = longestReply;
+  installSocketIo(*context, patience);
+  return context;
+}
+
+void freeContext(::soap* context) {
+  if (!context) return;
+  soap_destroy(context);
+  soap_end(context);
+  soap_free(context);
+}
+
+}  // namespace parlexo::protocol
