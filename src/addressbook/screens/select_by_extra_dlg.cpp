@@ -19,6 +19,7 @@ namespace {
 constexpr int boxesPerRow = 3;
 constexpr int boxWidthUnits = 110;
 constexpr int boxHeightUnits = 75;
+constexpr int captionGap = 4;
 
 QLabel* explanation(QWidget* parent) {
   auto* label = new QLabel(
@@ -63,7 +64,9 @@ void CSelectByExtraDlg::addField(QGridLayout& grid, int field, const QStringList
   box->setObjectName(QStringLiteral("extra%1List").arg(field + 1));
   const int row = 1 + 2 * (field / boxesPerRow);
   const int column = field % boxesPerRow;
-  grid.addWidget(new QLabel(label, this), row, column);
+  auto* caption = new QLabel(label, this);
+  caption->setContentsMargins(0, captionGap, 0, 0);
+  grid.addWidget(caption, row, column);
   grid.addWidget(box, row + 1, column);
   boxes_[field] = box;
 }
