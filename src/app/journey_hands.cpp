@@ -1,0 +1,112 @@
+#include "app/journey_hands.h"
+
+#include <QAbstractButton>
+#include <QAbstractItemView>
+#include <QApplication>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QMouseEvent>
+#include <QTabWidget>
+
+namespace parlexo::hands {
+
+namespace {
+
+QString withoutMnemonic(QString text) { return text.remove(u'&'); }
+
+void pressKey(QWidget* receiver, int key, const QString& text = {}) {
+  for (const auto type : {QEvent::KeyPress, QEvent::KeyRelease}) {
+    QKeyEvent event(type, key, Qt::NoModifier, text);
+    QApplication::sendEvent(receiver, &event);
+  }
+}
+
+void click(QWidget* receiver, QPointF place) {
+  const auto buttons = {Qt::LeftButton, Qt::NoButton};
+  auto type = QEvent::MouseButtonPress;
+  for (const auto held : buttons) {
+    QMouseEvent event(type, place, receiver->mapToGlobal(place), Qt::LeftButton, held, Qt::NoModifier);
+    QApplication::sendEvent(receiver, &event);
+    type = QEvent::MouseButtonRelease;
+  }
+}
+
+QAbstractItemView* listCalled(QWidget* window, const QString& name) {
+  for (auto* view : window->findChildren<QAbstractItemView*>()) {
+    if (view->accessibleName() == name && view->isVisible() && view->isEnabled()) return view;
+  }
+  return nullptr;
+}
+
+// The control that a label belongs to, found as a screen reader finds it.
+QWidget* labelled(QWidget* window, const QString& label) {
+  for (const auto* candidate : window->findChildren<QLabel*>()) {
+    if (withoutMnemonic(candidate->text()) == label && candidate->isVisible()) return candidate->buddy();
+  }
+  return nullptr;
+}
+
+}  // namespace
+
+QWidget* windowInFront(const QString& title) {
+  QWidget* front = QApplication::activeModalWidget();
+  return front && front->isVisible() && front->windowTitle().startsWith(title) ? front : nullptr;
+}
+
+bool typeInto(QWidget* window, const QString& label, const QString& text) {
+  QWidget* control = labelled(window, label);
+  if (!control || !control->isEnabled()) return false;
+  control->setFocus();
+  for (const QChar character : text) pressKey(control, 0, character);
+  return true;
+}
+
+bool press(QWidget* window, const QString& buttonText) {
+  for (auto* button : window->findChildren<QAbstractButton*>()) {
+    if (button->text() != buttonText || !button->isVisible() || !button->isEnabled()) continue;
+    click(button, QRectF(button->rect()).center());
+    return true;
+  }
+  return false;
+}
+
+bool showTab(QWidget* window, const QString& text) {
+  auto* tabs = window->findChild<QTabWidget*>();
+  for (int i = 0; tabs && i < tabs->count(); ++i) {
+    if (withoutMnemonic(tabs->tabText(i)) != text) continue;
+    tabs->setCurrentIndex(i);
+    return true;
+  }
+  return false;
+}
+
+bool tick(QWidget* window, const QString& list, const QString& name) {
+  QAbstractItemView* view = listCalled(window, list);
+  for (int row = 0; view && row < view->model()->rowCount(view->rootIndex()); ++row) {
+    const QModelIndex named = view->model()->index(row, 1, view->rootIndex());
+    if (named.data().toString() != name) continue;
+    view->setFocus();
+    view->setCurrentIndex(named.siblingAtColumn(0));
+    pressKey(view, Qt::Key_Space, QStringLiteral(" "));
+    return true;
+  }
+  return false;
+}
+
+bool selectAll(QWidget* window, const QString& list) {
+  QAbstractItemView* view = listCalled(window, list);
+  if (!view || view->model()->rowCount(view->rootIndex()) == 0) return false;
+  view->selectAll();
+  return true;
+}
+
+QString readList(QWidget* window, const QString& list, int column) {
+  QStringList cells;
+  QAbstractItemView* view = listCalled(window, list);
+  for (int row = 0; view && row < view->model()->rowCount(view->rootIndex()); ++row) {
+    cells += view->model()->index(row, column, view->rootIndex()).data().toString();
+  }
+  return cells.join(QStringLiteral(", "));
+}
+
+}  // namespace parlexo::hands
