@@ -53,30 +53,35 @@ void Journey::planLogin(const QString& user, const QString& password) {
 }
 
 void Journey::planMessage() {
-  steps_.push_back({QStringLiteral("main-window"), QStringLiteral("Sees the balance; opens the contacts"), mainWindow,
-                    [](QWidget* window) { return hands::press(window, QStringLiteral("&Select Contacts...")); }});
-  steps_.push_back({QStringLiteral("contacts"), QStringLiteral("Ticks a group"), selectionWindow, [](QWidget* window) {
-                      return hands::tick(window, QStringLiteral("Groups:"), QStringLiteral("Field Crew"));
-                    }});
-  steps_.push_back({QStringLiteral("contacts-ticked"), QStringLiteral("Takes the ticked contacts"), selectionWindow,
+  steps_.push_back(
+      {QStringLiteral("main-window"), QStringLiteral("Sees the balance; opens the contacts"), mainWindow,
+       [](QWidget* window) { return hands::press(window, QStringLiteral("&Select Contacts...")); }});
+  steps_.push_back(
+      {QStringLiteral("contacts"), QStringLiteral("Ticks a group"), selectionWindow, [](QWidget* window) {
+         return hands::tick(window, QStringLiteral("Groups:"), QStringLiteral("My Personal Contacts"));
+       }});
+  steps_.push_back({QStringLiteral("contacts-ticked"), QStringLiteral("Takes the ticked contacts"),
+                    selectionWindow,
                     [](QWidget* window) { return hands::press(window, QStringLiteral("&Select")); }});
-  steps_.push_back({QStringLiteral("recipients"), QStringLiteral("Writes a message"), mainWindow, [](QWidget* window) {
-                      return hands::typeInto(window, QStringLiteral("Message:"),
-                                             QStringLiteral("Dear crew, tomorrow's start moves to 7:30 at the north "
-                                                            "gate. Bring rain gear. Thanks!"));
-                    }});
+  steps_.push_back(
+      {QStringLiteral("recipients"), QStringLiteral("Writes a message"), mainWindow, [](QWidget* window) {
+         return hands::typeInto(window, QStringLiteral("Message:"),
+                                QStringLiteral("Dear crew, tomorrow's start moves to 7:30 at the north "
+                                               "gate. Bring rain gear. Thanks!"));
+       }});
   steps_.push_back({QStringLiteral("sms-page"), QStringLiteral("Presses Send"), mainWindow,
                     [](QWidget* window) { return hands::press(window, QStringLiteral("S&end >")); }});
-  steps_.push_back({QStringLiteral("sent"), QStringLiteral("Reads that the message was delivered to the server"),
-                    notificationWindow,
+  steps_.push_back({QStringLiteral("sent"),
+                    QStringLiteral("Reads that the message was delivered to the server"), notificationWindow,
                     [](QWidget* window) { return hands::press(window, QStringLiteral("&OK")); }});
 }
 
 void Journey::planStatus() {
-  steps_.push_back({QStringLiteral("main-window-after"), QStringLiteral("Turns to the Status tab"), mainWindow,
+  steps_.push_back({QStringLiteral("main-window-after"), QStringLiteral("Turns to the Status tab"),
+                    mainWindow,
                     [](QWidget* window) { return hands::showTab(window, QStringLiteral("Status")); }});
-  steps_.push_back({QStringLiteral("status"), QStringLiteral("Asks for the status of every message"), mainWindow,
-                    [](QWidget* window) {
+  steps_.push_back({QStringLiteral("status"), QStringLiteral("Asks for the status of every message"),
+                    mainWindow, [](QWidget* window) {
                       return hands::selectAll(window, QStringLiteral("Messages:")) &&
                              hands::press(window, QStringLiteral("Get &Status"));
                     }});
@@ -101,7 +106,8 @@ void Journey::waitForWindow() {
 
 void Journey::takeStep(QWidget* window) {
   const Step& step = steps_[next_];
-  const QString file = QStringLiteral("%1/%2-%3.png").arg(folder_).arg(next_ + 1, 2, 10, QChar(u'0')).arg(step.picture);
+  const QString file =
+      QStringLiteral("%1/%2-%3.png").arg(folder_).arg(next_ + 1, 2, 10, QChar(u'0')).arg(step.picture);
   if (!window->grab().save(file)) return fail(QStringLiteral("the picture %1 can't be written").arg(file));
   print(QStringLiteral("%1. %2  [%3]").arg(next_ + 1, 2).arg(step.account, file));
   ++next_;

@@ -28,9 +28,9 @@ class Journey : public QObject {
 
  private:
   struct Step {
-    QString picture;  ///< the picture's file name without ".png"
-    QString account;  ///< what the person sees and does
-    QString window;   ///< how the title of the window begins that must be in front
+    QString picture;                           ///< the picture's file name without ".png"
+    QString account;                           ///< what the person sees and does
+    QString window;                            ///< how the title of the window begins that must be in front
     std::function<bool(QWidget* window)> act;  ///< false when the window lacks what the person needs
   };
 

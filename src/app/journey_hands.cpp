@@ -12,7 +12,9 @@ namespace parlexo::hands {
 
 namespace {
 
-QString withoutMnemonic(QString text) { return text.remove(u'&'); }
+QString withoutMnemonic(QString text) {
+  return text.remove(u'&');
+}
 
 void pressKey(QWidget* receiver, int key, const QString& text = {}) {
   for (const auto type : {QEvent::KeyPress, QEvent::KeyRelease}) {

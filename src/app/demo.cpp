@@ -1,0 +1,144 @@
+#include "app/demo.h"
+
+#include <array>
+
+#include <QDateTime>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QLocale>
+#include <QTemporaryDir>
+
+#include "base/code_page.h"
+#include "base/notifier.h"
+#include "base/settings.h"
+#include "contacts/sample_contacts.h"
+#include "messaging/core/status_file.h"
+#include "messaging/core/status_log.h"
+#include "simulator/simulator.h"
+
+namespace parlexo {
+
+namespace {
+
+constexpr int sampleContactCount = 60;
+constexpr int sampleGroupCount = 8;
+
+struct EarlierMessage {
+  const char* phone;
+  const char* type;
+  const char* status;
+  int hoursAgo;
+};
+
+constexpr std::array earlierMessages = {
+    EarlierMessage{"+447700900137", "SMS", "Delivered to handset", 3},
+    EarlierMessage{"+447700900174", "SMS", "Sent to network", 3},
+    EarlierMessage{"+447700900211", "SMS", "Delivered to handset", 26},
+    EarlierMessage{"+442079460100", "Fax", "Delivered to handset", 50},
+    EarlierMessage{"+447700900248", "MMS", "Queued at gateway", 75},
+    EarlierMessage{"+447700900285", "WAP", "Delivered to handset", 98},
+};
+
+struct SampleTemplate {
+  const char* name;
+  const char* text;
+};
+
+constexpr std::array sampleTemplates = {
+    SampleTemplate{"Appointment reminder",
+                   "A friendly reminder of your appointment tomorrow. Reply YES to confirm."},
+    SampleTemplate{"Roster changed",
+                   "The roster for next week has changed. Please look at the notice board."},
+};
+
+// What stands between the recipients and the text in a template file; these samples have no recipients.
+constexpr char templateSeparator[] = "{|/SEP/|}";
+
+StatusLog earlierLog() {
+  const QDateTime now = QDateTime::currentDateTime();
+  StatusLog log;
+  int number = 1;
+  for (const auto& message : earlierMessages) {
+    const QString receipt = QStringLiteral("DEMO-%1").arg(number++, 4, 10, QChar(u'0'));
+    const QDateTime sent = now.addSecs(-3600LL * message.hoursAgo);
+    log.add({QLatin1String(message.phone), receipt, QLatin1String(message.status),
+             QLatin1String(message.type),
+             QLocale::c().toString(sent, QStringLiteral("dd/MM/yyyy HH:mm:ss"))});
+  }
+  return log;
+}
+
+class SilentNotifier final : public Notifier {
+ public:
+  MessageResult show(const QString&, unsigned, int) override { return MessageResult::Ok; }
+};
+
+}  // namespace
+
+Demo::Demo(const QString& dataFolder) : dataFolder_(dataFolder) {
+  if (!dataFolder_.isEmpty()) return;
+  temporary_ = std::make_unique<QTemporaryDir>(QDir::temp().filePath(QStringLiteral("parlexo-demo-XXXXXX")));
+  dataFolder_ = temporary_->path();
+}
+
+Demo::~Demo() = default;
+
+QString Demo::user() {
+  return QStringLiteral("demo");
+}
+
+QString Demo::password() {
+  return QStringLiteral("demo1234");
+}
+
+QString Demo::site() const {
+  return simulator_->site();
+}
+
+QString Demo::start() {
+  if (temporary_ && !temporary_->isValid()) return temporary_->errorString();
+  simulator::Options options;
+  options.accounts = {{user(), password(), 100.0, true, {}}};
+  simulator_ = std::make_unique<simulator::Simulator>(options);
+  if (!simulator_->start()) return simulator_->errorText();
+  for (const QString& problem : {fillContacts(), fillTemplates(), fillStatusLog()}) {
+    if (!problem.isEmpty()) return problem;
+  }
+  return {};
+}
+
+QString Demo::fillContacts() const {
+  const QString folder = Settings(dataFolder_).contactsFolder();
+  if (QFileInfo::exists(folder)) return {};
+  return writeSampleFolder(folder, sampleContactCount, sampleGroupCount);
+}
+
+QString Demo::fillTemplates() const {
+  const QDir folder(Settings(dataFolder_).templatesFolder());
+  if (folder.exists()) return {};
+  makeFolderPath(folder.path());
+  for (const auto& sample : sampleTemplates) {
+    QFile file(folder.filePath(QLatin1String(sample.name) + QStringLiteral(".tpl")));
+    if (!file.open(QIODevice::WriteOnly) || file.write(QByteArray(templateSeparator) + sample.text) < 0) {
+      return file.fileName() + QStringLiteral(": ") + file.errorString();
+    }
+  }
+  return {};
+}
+
+QString Demo::fillStatusLog() {
+  StatusFile file(Settings(dataFolder_).statusFile());
+  StatusLog log;
+  if (QFileInfo::exists(file.path())) {
+    SilentNotifier silent;  // the client reads the file again and tells what is wrong with it
+    file.load(log, silent);
+  } else {
+    log = earlierLog();
+    if (!file.save(log)) return QStringLiteral("Can't write %1").arg(file.path());
+  }
+  for (const auto& [receipt, entry] : log.entries()) simulator_->rememberReceipt(user(), receipt);
+  return {};
+}
+
+}  // namespace parlexo
