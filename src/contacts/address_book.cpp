@@ -10,8 +10,6 @@ namespace parlexo {
 
 namespace {
 
-constexpr int timeoutSeconds = 60;
-
 QString withSeparator(const QString& folder) {
   const QString native = QDir::toNativeSeparators(folder);
   return native.endsWith(QDir::separator()) ? native : native + QDir::separator();
@@ -52,12 +50,10 @@ bool AddressBook::saveContact(const ContactRecord& contact, bool writeToFile) {
 bool AddressBook::deleteContact(const QString& name) {
   const auto found = contacts_.find(name);
   if (found == contacts_.end()) return true;
-  // `name` may be the record's own.
-  const QString ownName = name;
-  bool written = deleteName(contactsPath(), packName(ownName), contactRecordSize);
+  bool written = deleteName(contactsPath(), packName(name), contactRecordSize);
   for (auto& [groupName, group] : groups_)
-    if (group.contains(ownName)) written = deleteMember(group, ownName) && written;
-  contacts_.erase(ownName);
+    if (group.contains(name)) written = deleteMember(group, name) && written;
+  contacts_.erase(found);  // last, as `name` may be the record's own
   return written;
 }
 

@@ -72,6 +72,9 @@ class AddressBook {
   bool removeMember(const QString& groupName, const QString& contactName);
 
  private:
+  /// Seconds that every operation waits for a file that somebody else has locked.
+  static constexpr int timeoutSeconds = 60;
+
   [[nodiscard]] QString contactsPath() const;
   [[nodiscard]] QString groupPath(const QString& groupName) const;
   void createPersonalGroup();

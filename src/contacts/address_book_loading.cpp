@@ -14,7 +14,6 @@ namespace parlexo {
 
 namespace {
 
-constexpr int timeoutSeconds = 60;
 constexpr int contactsPerProgress = 20;
 
 QString connectingProblem(const QString& error) {

@@ -5,6 +5,7 @@
 
 #include "base/code_page.h"
 #include "contacts/item_database.h"
+#include "contacts/zero_ended.h"
 
 namespace parlexo {
 
@@ -23,11 +24,6 @@ constexpr Field supportsSmsField = {181, 1};
 constexpr Field supportsMediaField = {182, 1};
 constexpr std::array<Field, ContactRecord::extraCount> extraFields = {
     {{183, 40}, {223, 40}, {263, 40}, {303, 40}, {343, 40}, {383, 40}}};
-
-QByteArrayView untilZero(QByteArrayView bytes) {
-  const auto end = std::find(bytes.begin(), bytes.end(), '\0');
-  return bytes.first(end - bytes.begin());
-}
 
 // The rest of the field is zero already.
 void put(QByteArray& record, Field field, const QString& value) {

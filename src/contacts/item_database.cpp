@@ -9,6 +9,8 @@
 
 #include <QByteArray>
 
+#include "contacts/zero_ended.h"
+
 namespace parlexo {
 
 namespace {
@@ -83,11 +85,6 @@ std::vector<char> allocate(qint64 size, const Failure& failure) {
   } catch (const std::bad_alloc&) {
     throw failure;
   }
-}
-
-QByteArrayView untilZero(QByteArrayView bytes) {
-  const auto end = std::find(bytes.begin(), bytes.end(), '\0');
-  return bytes.first(end - bytes.begin());
 }
 
 // Hands out the records of a file one after the other. Before the block lies the record that came last, so

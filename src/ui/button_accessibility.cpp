@@ -26,11 +26,10 @@ class AccessibleButton final : public QAccessibleWidget {
       : QAccessibleWidget(&button, role), button_(button) {}
 
   [[nodiscard]] QString text(QAccessible::Text which) const override {
-    const QString given = QAccessibleWidget::text(which);
     if (which == QAccessible::Name && button_.accessibleName().isEmpty()) {
       return withoutMnemonic(button_.text());
     }
-    return given;
+    return QAccessibleWidget::text(which);
   }
 
   [[nodiscard]] QAccessible::State state() const override {
