@@ -4,7 +4,7 @@
 
 #include <stdsoap2.h>
 
-#include "gateway/protocol/runtime_types.h"
+#include "gateway/protocol/element_reading.h"
 
 struct Namespace namespaces[] = {
     {"SOAP-ENV", "http://schemas.xmlsoap.org/soap/envelope/", "http://www.w3.org/*/soap-envelope", nullptr},
@@ -16,87 +16,57 @@ struct Namespace namespaces[] = {
 
 /// A fault in its SOAP 1.1 and its SOAP 1.2 form; what was absent is null. The texts are the context's.
 struct SOAP_ENV__Fault {
-  const char* faultcode;
-  const char* faultstring;
-  const char* faultactor;
-  const char* detail;
-  const char* codeValue;
-  const char* subcodeValue;
-  const char* reasonText;
-  const char* node;
-  const char* role;
-  const char* newDetail;
+  char* faultcode;
+  char* faultstring;
+  char* faultactor;
+  char* detail;
+  char* codeValue;
+  char* subcodeValue;
+  char* reasonText;
+  char* node;
+  char* role;
+  char* newDetail;
 };
 
 namespace parlexo::protocol {
 
 namespace {
 
-/// Values of the runtime's flag for how a text is read.
-constexpr int plainText = 1;
-constexpr int qualifiedName = 2;
-
-bool isAt(::soap* context, const char* tag) {
-  return soap_match_tag(context, context->tag, tag) == SOAP_OK;
+bool isAt(::soap& context, const char* tag) {
+  return soap_match_tag(&context, context.tag, tag) == SOAP_OK;
 }
 
-int readText(::soap* context, const char* tag, const char** text, int flag = plainText) {
-  char* read = nullptr;
-  if (!soap_instring(context, tag, &read, "", textType, flag, 0, -1, nullptr)) return context->error;
-
-  *text = read;
-  return SOAP_OK;
-}
-
-/// Reads the element `tag` and lets `readChild` read each of its children.
-template <class ReadChild>
-int readElement(::soap* context, const char* tag, ReadChild readChild) {
-  if (soap_element_begin_in(context, tag, 0, nullptr)) return context->error;
-  if (!context->body) return SOAP_OK;
-  while (soap_peek_element(context) == SOAP_OK) {
-    if (readChild()) return context->error;
-  }
-  if (context->error != SOAP_NO_TAG) return context->error;
-  context->error = SOAP_OK;
-  return soap_element_end_in(context, tag);
-}
-
-int readSubcode(::soap* context, SOAP_ENV__Fault& fault) {
+int readSubcode(::soap& context, SOAP_ENV__Fault& fault) {
   return readElement(context, "SOAP-ENV:Subcode", [&] {
-    if (isAt(context, "SOAP-ENV:Value")) {
-      return readText(context, "SOAP-ENV:Value", &fault.subcodeValue, qualifiedName);
-    }
-    return soap_ignore(context);
+    if (!isAt(context, "SOAP-ENV:Value")) return skipElement(context);
+    return readText(context, "SOAP-ENV:Value", &fault.subcodeValue);
   });
 }
 
-int readCode(::soap* context, SOAP_ENV__Fault& fault) {
+int readCode(::soap& context, SOAP_ENV__Fault& fault) {
   return readElement(context, "SOAP-ENV:Code", [&] {
-    if (isAt(context, "SOAP-ENV:Value")) {
-      return readText(context, "SOAP-ENV:Value", &fault.codeValue, qualifiedName);
-    }
+    if (isAt(context, "SOAP-ENV:Value")) return readText(context, "SOAP-ENV:Value", &fault.codeValue);
     if (isAt(context, "SOAP-ENV:Subcode")) return readSubcode(context, fault);
-    return soap_ignore(context);
+    return skipElement(context);
   });
 }
 
-int readReason(::soap* context, SOAP_ENV__Fault& fault) {
+int readReason(::soap& context, SOAP_ENV__Fault& fault) {
   return readElement(context, "SOAP-ENV:Reason", [&] {
-    if (isAt(context, "SOAP-ENV:Text")) return readText(context, "SOAP-ENV:Text", &fault.reasonText);
-    return soap_ignore(context);
+    if (!isAt(context, "SOAP-ENV:Text")) return skipElement(context);
+    return readText(context, "SOAP-ENV:Text", &fault.reasonText);
   });
 }
 
 /// Details are markup of whatever kind; they are kept as they stand.
-int readMarkup(::soap* context, const char* tag, const char** markup) {
-  char* read = nullptr;
-  if (!soap_inliteral(context, tag, &read)) return context->error;
-  *markup = read;
-  return SOAP_OK;
+int readMarkup(::soap& context, const char* tag, char** markup) {
+  return soap_inliteral(&context, tag, markup) ? SOAP_OK : context.error;
 }
 
-int readFaultPart(::soap* context, SOAP_ENV__Fault& fault) {
-  if (isAt(context, "faultcode")) return readText(context, "faultcode", &fault.faultcode, qualifiedName);
+/// Codes are read as they stand and not as qualified names: the runtime would put its own prefix in the place
+/// of the sender's and then fail to recognise the code.
+int readFaultPart(::soap& context, SOAP_ENV__Fault& fault) {
+  if (isAt(context, "faultcode")) return readText(context, "faultcode", &fault.faultcode);
   if (isAt(context, "faultstring")) return readText(context, "faultstring", &fault.faultstring);
   if (isAt(context, "faultactor")) return readText(context, "faultactor", &fault.faultactor);
   if (isAt(context, "detail")) return readMarkup(context, "detail", &fault.detail);
@@ -105,11 +75,7 @@ int readFaultPart(::soap* context, SOAP_ENV__Fault& fault) {
   if (isAt(context, "SOAP-ENV:Node")) return readText(context, "SOAP-ENV:Node", &fault.node);
   if (isAt(context, "SOAP-ENV:Role")) return readText(context, "SOAP-ENV:Role", &fault.role);
   if (isAt(context, "SOAP-ENV:Detail")) return readMarkup(context, "SOAP-ENV:Detail", &fault.newDetail);
-  return soap_ignore(context);
-}
-
-bool isVersion2(const ::soap* context) {
-  return context->version == 2;
+  return skipElement(context);
 }
 
 SOAP_ENV__Fault& faultOf(::soap* context) {
@@ -117,19 +83,18 @@ SOAP_ENV__Fault& faultOf(::soap* context) {
   return *context->fault;
 }
 
-}  // namespace
-
-bool readReferencedElement(::soap& context, int* type) {
-  *type = *context.id ? soap_lookup_type(&context, context.id) : 0;
-  if (*type == textType) return soap_instring(&context, nullptr, nullptr, "", textType, 1, 0, -1, nullptr);
-  context.error = SOAP_TAG_MISMATCH;
-  return false;
+/// The part of the context's fault that its SOAP version uses; the runtime reads it and may set it.
+const char** inForm(::soap* context, char* SOAP_ENV__Fault::*soap11, char* SOAP_ENV__Fault::*soap12) {
+  SOAP_ENV__Fault& fault = faultOf(context);
+  return const_cast<const char**>(context->version == 2 ? &(fault.*soap12) : &(fault.*soap11));
 }
+
+}  // namespace
 
 }  // namespace parlexo::protocol
 
 using parlexo::protocol::faultOf;
-using parlexo::protocol::isVersion2;
+using parlexo::protocol::inForm;
 
 void soap_header(struct soap*) {}
 
@@ -142,8 +107,8 @@ int soap_putheader(struct soap*) {
 /// "Tag mismatch" is how the runtime is told that there was no header.
 int soap_getheader(struct soap* context) {
   context->part = SOAP_IN_HEADER;
-  const int result =
-      parlexo::protocol::readElement(context, "SOAP-ENV:Header", [&] { return soap_ignore(context); });
+  const int result = parlexo::protocol::readElement(*context, "SOAP-ENV:Header",
+                                                    [&] { return parlexo::protocol::skipElement(*context); });
   context->part = SOAP_END_HEADER;
   return result;
 }
@@ -166,28 +131,24 @@ int soap_putfault(struct soap*) {
 int soap_getfault(struct soap* context) {
   context->fault = nullptr;
   SOAP_ENV__Fault& fault = faultOf(context);
-  return parlexo::protocol::readElement(context, "SOAP-ENV:Fault",
-                                        [&] { return parlexo::protocol::readFaultPart(context, fault); });
+  return parlexo::protocol::readElement(*context, "SOAP-ENV:Fault",
+                                        [&] { return parlexo::protocol::readFaultPart(*context, fault); });
 }
 
 const char** soap_faultcode(struct soap* context) {
-  SOAP_ENV__Fault& fault = faultOf(context);
-  return isVersion2(context) ? &fault.codeValue : &fault.faultcode;
+  return inForm(context, &SOAP_ENV__Fault::faultcode, &SOAP_ENV__Fault::codeValue);
 }
 
 const char** soap_faultsubcode(struct soap* context) {
-  SOAP_ENV__Fault& fault = faultOf(context);
-  return isVersion2(context) ? &fault.subcodeValue : &fault.faultcode;
+  return inForm(context, &SOAP_ENV__Fault::faultcode, &SOAP_ENV__Fault::subcodeValue);
 }
 
 const char** soap_faultstring(struct soap* context) {
-  SOAP_ENV__Fault& fault = faultOf(context);
-  return isVersion2(context) ? &fault.reasonText : &fault.faultstring;
+  return inForm(context, &SOAP_ENV__Fault::faultstring, &SOAP_ENV__Fault::reasonText);
 }
 
 const char** soap_faultdetail(struct soap* context) {
-  SOAP_ENV__Fault& fault = faultOf(context);
-  return isVersion2(context) ? &fault.newDetail : &fault.detail;
+  return inForm(context, &SOAP_ENV__Fault::detail, &SOAP_ENV__Fault::newDetail);
 }
 
 const char* soap_fault_subcode(struct soap* context) {
@@ -204,8 +165,10 @@ const char* soap_fault_detail(struct soap* context) {
 
 extern "C" {
 
-void* soap_getelement(struct soap* context, const char* /*tag*/, int* type) {
-  return parlexo::protocol::readReferencedElement(*context, type) ? context : nullptr;
+/// Independent elements are read where they are met, with their fields, and never for the runtime.
+void* soap_getelement(struct soap* context, const char* /*tag*/, int* /*type*/) {
+  context->error = SOAP_TAG_MISMATCH;
+  return nullptr;
 }
 
 int soap_putelement(struct soap* /*context*/, const void* /*value*/, const char* /*tag*/, int /*id*/,

@@ -1,13 +1,12 @@
 #include "gateway/protocol/serializer.h"
 
-#include <charconv>
 #include <cstring>
 #include <optional>
 
 #include <stdsoap2.h>
 
+#include "gateway/protocol/element_reading.h"
 #include "gateway/protocol/field_text.h"
-#include "gateway/protocol/runtime_types.h"
 
 namespace parlexo::protocol {
 
@@ -79,44 +78,25 @@ struct ReceivedField {
 using ReceivedFields = std::vector<ReceivedField>;
 
 /// Reads the element at hand into the first field of its name that has not come yet; passes over others.
-int readChild(::soap& context, ReceivedFields& received) {
+int readField(::soap& context, ReceivedFields& received) {
   for (ReceivedField& each : received) {
     if (each.isPresent || soap_match_tag(&context, context.tag, each.field->name) != SOAP_OK) continue;
     each.isPresent = true;
-    return soap_instring(&context, each.field->name, &each.text, "", textType, 1, 0, -1, nullptr)
-               ? SOAP_OK
-               : context.error;
+    return readText(context, each.field->name, &each.text);
   }
-  return soap_ignore(&context);
-}
-
-int readChildren(::soap& context, ReceivedFields& received) {
-  while (soap_peek_element(&context) == SOAP_OK) {
-    if (const int result = readChild(context, received)) return result;
-  }
-  if (context.error != SOAP_NO_TAG) return context.error;
-  return context.error = SOAP_OK;
+  return skipElement(context);
 }
 
 /// Reads what stands in the body behind its first element: the values that references point to.
-int readReferencedElements(::soap& context) {
-  while (soap_peek_element(&context) == SOAP_OK) {
-    int type = 0;
-    const bool isKnown = readReferencedElement(context, &type);
-    if (!isKnown && context.error != SOAP_TAG_MISMATCH) return context.error;
-    if (!isKnown && soap_ignore(&context)) return context.error;
-  }
-  if (context.error != SOAP_NO_TAG) return context.error;
-  return context.error = SOAP_OK;
+int readReferencedElement(::soap& context) {
+  const bool isAwaited = *context.id && soap_lookup_type(&context, context.id) == textType;
+  return isAwaited ? readText(context, nullptr, nullptr) : skipElement(context);
 }
 
 int readMessage(::soap& context, const std::string& element, ReceivedFields& received) {
-  if (soap_element_begin_in(&context, element.c_str(), 0, nullptr)) return context.error;
-  if (context.body && (readChildren(context, received) || soap_element_end_in(&context, element.c_str()))) {
-    return context.error;
-  }
-  if (readReferencedElements(context) || soap_body_end_in(&context) || soap_envelope_end_in(&context) ||
-      soap_end_recv(&context)) {
+  if (readElement(context, element.c_str(), [&] { return readField(context, received); }) ||
+      readSiblings(context, [&] { return readReferencedElement(context); }) || soap_body_end_in(&context) ||
+      soap_envelope_end_in(&context) || soap_end_recv(&context)) {
     return context.error;
   }
   return SOAP_OK;

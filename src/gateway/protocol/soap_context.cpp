@@ -14,11 +14,6 @@ constexpr ULONG64 longestReply = 32u << 20;
 /// elements recurses once a level.
 constexpr unsigned deepestNesting = 64;
 
-/// Header entries and unknown elements are passed over whatever they demand.
-int passOver(::soap*, const char*) {
-  return SOAP_OK;
-}
-
 }  // namespace
 
 ::soap* newStreamContext() {
@@ -27,7 +22,6 @@ int passOver(::soap*, const char*) {
   // Naming the table here also makes the linker take the runtime's hooks, which stand beside it.
   if (!context->namespaces) soap_set_namespaces(context, namespaces);
   context->maxlevel = deepestNesting;
-  context->fignore = passOver;
   return context;
 }
 

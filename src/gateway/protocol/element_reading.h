@@ -1,0 +1,45 @@
+#pragma once
+
+#include <stdsoap2.h>
+
+namespace parlexo::protocol {
+
+/// How the protocol reads XML with the runtime: values arrive as text, the one type that the runtime reads
+/// for us, and are converted afterwards, so that references work alike for all of them. Each function returns
+/// the runtime's result, 0 for success.
+
+/// The number under which the runtime knows text.
+inline constexpr int textType = 1;
+
+/// Reads the element `tag`, or any where it is null, as text. An element that is nil gives null; one that is
+/// a reference is filled in when the runtime meets what it points to, at the latest at the message's end.
+[[nodiscard]] inline int readText(::soap& context, const char* tag, char** text) {
+  return soap_instring(&context, tag, text, "", textType, 1, 0, -1, nullptr) ? SOAP_OK : context.error;
+}
+
+/// Passes over the element at hand and all that is in it.
+[[nodiscard]] inline int skipElement(::soap& context) {
+  if (soap_element_begin_in(&context, nullptr, 1, nullptr)) return context.error;
+  return context.body ? soap_element_end_in(&context, nullptr) : SOAP_OK;
+}
+
+/// Lets `readChild` read every element up to the end of the one around them.
+template <class ReadChild>
+[[nodiscard]] int readSiblings(::soap& context, ReadChild readChild) {
+  while (soap_peek_element(&context) == SOAP_OK) {
+    if (readChild()) return context.error;
+  }
+  if (context.error != SOAP_NO_TAG) return context.error;
+  return context.error = SOAP_OK;
+}
+
+/// Reads the element `tag` and lets `readChild` read each of its children.
+template <class ReadChild>
+[[nodiscard]] int readElement(::soap& context, const char* tag, ReadChild readChild) {
+  if (soap_element_begin_in(&context, tag, 0, nullptr)) return context.error;
+  if (!context.body) return SOAP_OK;
+  if (readSiblings(context, readChild)) return context.error;
+  return soap_element_end_in(&context, tag);
+}
+
+}  // namespace parlexo::protocol
