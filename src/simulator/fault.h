@@ -42,6 +42,9 @@ struct ParsedFault {
 /// Reads "OPERATION:KIND[=VALUE][:next]", as the help of the command line describes it.
 [[nodiscard]] ParsedFault parseFault(const QString& text);
 
+/// `fault` in the form that parseFault() reads, without operation and ":next".
+[[nodiscard]] QString describe(const Fault& fault);
+
 /// The operations that a fault can be set for, in the order of the contract.
 [[nodiscard]] const QStringList& operationNames();
 

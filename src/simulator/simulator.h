@@ -16,7 +16,7 @@ namespace parlexo::simulator {
 /// connection, on a thread of its own. Every function may be called from any thread.
 class Simulator {
  public:
-  explicit Simulator(Options options = {});
+  explicit Simulator(const Options& options = {});
   ~Simulator();
   Simulator(const Simulator&) = delete;
   Simulator& operator=(const Simulator&) = delete;

@@ -1,0 +1,30 @@
+#include "simulator/fault_plan.h"
+
+#include <algorithm>
+
+namespace parlexo::simulator {
+
+template <class Applies>
+std::optional<Fault> FaultPlan::take(Applies applies) {
+  const auto found = std::find_if(faults_.begin(), faults_.end(), applies);
+  if (found == faults_.end()) return std::nullopt;
+  Fault fault = *found;
+  if (fault.once) faults_.erase(found);
+  return fault;
+}
+
+std::optional<Fault> FaultPlan::forCall(const QString& operation) {
+  return take([&operation](const Fault& fault) {
+    if (fault.kind == FaultKind::Refuse) return false;
+    if (fault.operation == operation) return true;
+    // The answer of getVersion has no place for a code.
+    const bool fits = fault.kind != FaultKind::Code || operation != QLatin1String("getVersion");
+    return fault.operation == QLatin1String("any") && operation != QLatin1String("locator") && fits;
+  });
+}
+
+bool FaultPlan::refusesConnection() {
+  return take([](const Fault& fault) { return fault.kind == FaultKind::Refuse; }).has_value();
+}
+
+}  // namespace parlexo::simulator

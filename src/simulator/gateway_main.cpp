@@ -1,0 +1,59 @@
+#include <cstdio>
+
+#include <QByteArray>
+#include <QCoreApplication>
+
+#include "base/product.h"
+#include "simulator/command_line.h"
+#include "simulator/simulator.h"
+#include "simulator/stop_signals.h"
+
+namespace {
+
+using parlexo::simulator::CommandLine;
+
+constexpr int usageError = 2;
+
+void print(std::FILE* stream, const QString& line) {
+  const QByteArray bytes = line.toUtf8() + '\n';
+  std::fwrite(bytes.constData(), 1, static_cast<std::size_t>(bytes.size()), stream);
+  std::fflush(stream);
+}
+
+int serve(const CommandLine& line) {
+  parlexo::simulator::Simulator simulator(line.options);
+  for (const auto& fault : line.faults) simulator.setFault(fault);
+  if (!simulator.start()) {
+    print(stderr, QStringLiteral("parlexo-gateway: cannot listen on port %1: %2")
+                      .arg(line.options.port)
+                      .arg(simulator.errorText()));
+    return 1;
+  }
+  print(stdout, QStringLiteral("Gateway simulator at %1 (Ctrl+C ends it)").arg(simulator.site()));
+  parlexo::simulator::waitForStopSignal();
+  simulator.stop();
+  print(stdout, QStringLiteral("Ended after %1 messages").arg(simulator.messages().size()));
+  return 0;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  parlexo::simulator::holdStopSignals();
+  const QCoreApplication application(argc, argv);
+  CommandLine line = parlexo::simulator::readCommandLine(QCoreApplication::arguments().mid(1));
+  if (!line.problem.isEmpty()) {
+    print(stderr, QStringLiteral("parlexo-gateway: %1\nTry --help.").arg(line.problem));
+    return usageError;
+  }
+  if (line.help) {
+    print(stdout, parlexo::simulator::helpText());
+    return 0;
+  }
+  if (line.version) {
+    print(stdout, QStringLiteral("parlexo-gateway %1").arg(QString::fromLatin1(parlexo::clientVersion)));
+    return 0;
+  }
+  line.options.log = [](const QString& text) { print(stdout, text); };
+  return serve(line);
+}

@@ -1,0 +1,169 @@
+#include "simulator/gateway_service.h"
+
+#include <string_view>
+
+#include "gateway/protocol/server_envelope.h"
+#include "simulator/fault_reply.h"
+#include "simulator/locator_document.h"
+#include "simulator/message_text.h"
+#include "simulator/operations.h"
+#include "simulator/result_code.h"
+
+namespace parlexo::simulator {
+
+namespace {
+
+constexpr QByteArrayView endpointPath = "/ccx/onlineCommunication";
+constexpr QByteArrayView actionPrefix = "capeconnect:onlineCommunication:onlineCommunicationPortType#";
+
+QString nameOf(std::string_view name) {
+  return QString::fromLatin1(name.data(), static_cast<qsizetype>(name.size()));
+}
+
+// The operation that the header asks for, which must be the one in the body.
+QByteArray wantedAction(const QString& operation) {
+  return actionPrefix.toByteArray() + operation.toLatin1();
+}
+
+QByteArray actionOf(const HttpRequest& request) {
+  QByteArray action = request.header("soapaction");
+  if (action.size() >= 2 && action.startsWith('"') && action.endsWith('"'))
+    action = action.mid(1, action.size() - 2);
+  return action;
+}
+
+template <class Request>
+QString sessionOf(const Request& request) {
+  if constexpr (requires { request.sSession; })
+    return textOf(request.sSession);
+  else
+    return {};
+}
+
+// The beginning of a token tells sessions apart; the whole of it would let a reader of the log take one over.
+QString sessionForLog(const QString& session) {
+  constexpr qsizetype shown = 8;
+  return session.isEmpty() ? QString() : QStringLiteral(" (session %1)").arg(forLog(session.left(shown)));
+}
+
+template <class Response>
+QString outcomeForLog(const Response& response) {
+  if constexpr (requires { response.nErrorCode; }) {
+    const char* meaning = meaningOf(static_cast<ResultCode>(response.nErrorCode));
+    return QStringLiteral("code %1, %2").arg(response.nErrorCode).arg(QString::fromLatin1(meaning));
+  } else {
+    return QStringLiteral("version %1").arg(response.nVersion);
+  }
+}
+
+QString faultForLog(const std::optional<Fault>& fault) {
+  return fault ? QStringLiteral(" [fault: %1]").arg(describe(*fault)) : QString();
+}
+
+// Lets the gateway work, unless the fault says what the answer is.
+template <class Request, class Response>
+void carryOut(Operations& operations, const std::optional<Fault>& fault, const Request& request,
+              Response& response) {
+  if constexpr (requires { response.nErrorCode; }) {
+    if (fault && fault->kind == FaultKind::Code) {
+      response.nErrorCode = fault->number;
+      return;
+    }
+  }
+  operations.handle(request, response);
+  if constexpr (requires { response.nVersion; })
+    if (fault && fault->kind == FaultKind::Version) response.nVersion = fault->number;
+}
+
+}  // namespace
+
+HttpReply GatewayService::answer(const HttpRequest& request) {
+  QStringList lines;
+  HttpReply reply = with([&](ServiceState&) {
+    HttpReply routed = route(request);
+    lines.swap(unwrittenLog_);
+    return routed;
+  });
+  // Outside the lock, so that whoever takes the log may ask the simulator.
+  if (options_.log)
+    for (const QString& line : std::as_const(lines)) options_.log(line);
+  reply.delay += options_.latency;
+  return reply;
+}
+
+bool GatewayService::refusesConnection() {
+  const bool refuses = with([](ServiceState& state) { return state.faults.refusesConnection(); });
+  if (refuses && options_.log) options_.log(QStringLiteral("connection refused [fault: refuse]"));
+  return refuses;
+}
+
+HttpReply GatewayService::route(const HttpRequest& request) {
+  const QByteArray path = request.path();
+  const bool isLocator = path == locatorPath;
+  if (!isLocator && path != endpointPath) return plainReply(404, "There is nothing here.\r\n");
+  if (request.method != (isLocator ? "GET" : "POST")) return plainReply(405, "Not this way.\r\n");
+  return isLocator ? answerLocator(request) : answerOperation(request);
+}
+
+HttpReply GatewayService::answerLocator(const HttpRequest& request) {
+  const QString name = QStringLiteral("locator");
+  state_.calls.push_back({name, {}});
+  const std::optional<Fault> fault = state_.faults.forCall(name);
+  note(name + faultForLog(fault));
+  const Options& options = state_.gateway.options;
+  Location location{request.serverAddress, request.serverPort, options.maxFileSize, options.maxMobileFileSize,
+                    options.clientVersion};
+  if (!fault) return {.body = locatorDocument(location)};
+  if (fault->kind == FaultKind::BadLocator) return {.body = malformedLocatorDocument(location)};
+  if (fault->kind == FaultKind::ClientVersion) location.clientVersion = fault->text;
+  return misbehave(*fault, {.body = locatorDocument(location)});
+}
+
+HttpReply GatewayService::answerOperation(const HttpRequest& request) {
+  protocol::RequestReader reader(request.body.toStdString());
+  const QString name = nameOf(reader.operation());
+  HttpReply reply = soapFaultReply("SOAP-ENV:Client", "There is no operation \"" + reader.operation() + "\"");
+  if (reader.operation().empty()) {
+    reply = soapFaultReply("SOAP-ENV:Client", "The request is not a SOAP envelope");
+  } else if (actionOf(request) != wantedAction(name)) {
+    reply = soapFaultReply("SOAP-ENV:Client", "SOAPAction and body name different operations");
+  } else if (protocol::visitOperation(reader.operation(),
+                                      [&](const auto& operation) { reply = perform(operation, reader); })) {
+    return reply;
+  }
+  note(QStringLiteral("refused a request that is no proper call of \"%1\"").arg(forLog(name)));
+  return reply;
+}
+
+template <class Operation>
+HttpReply GatewayService::perform(const Operation& operation, protocol::RequestReader& reader) {
+  const QString name = nameOf(operation.name);
+  typename Operation::Request request;
+  const bool wellFormed = reader.read(request);
+  state_.calls.push_back({name, sessionOf(request)});
+  if (!wellFormed) {
+    note(name + QStringLiteral(": malformed request"));
+    return soapFaultReply("SOAP-ENV:Client", "The request is malformed");
+  }
+  const std::optional<Fault> fault = state_.faults.forCall(name);
+  if (fault && preventsOperation(fault->kind)) {
+    note(name + sessionForLog(sessionOf(request)) + faultForLog(fault));
+    return misbehave(*fault, {});
+  }
+
+  typename Operation::Response response;
+  Operations operations(state_.gateway);
+  carryOut(operations, fault, request, response);
+  note(name + sessionForLog(sessionOf(request)) + QStringLiteral(": ") + outcomeForLog(response) +
+       faultForLog(fault));
+  for (const QString& line : operations.remarks()) unwrittenLog_.append(line);
+  HttpReply reply{.body = QByteArray::fromStdString(protocol::responseEnvelope(response))};
+  return fault ? misbehave(*fault, std::move(reply)) : reply;
+}
+
+void GatewayService::note(const QString& line) {
+  const QString time = state_.gateway.now().toString(QStringLiteral("yyyy-MM-dd HH:mm:ss"));
+  unwrittenLog_.append(time + u' ' + line);
+}
+
+}  // namespace parlexo::simulator

@@ -1,0 +1,26 @@
+#include "simulator/gateway_state.h"
+
+namespace parlexo::simulator {
+
+namespace {
+
+const QString defaultNews = QStringLiteral(
+    "Welcome to the Parlexo gateway simulator.\r\n\r\n"
+    "Messages go nowhere, cost nothing real, and are printed in the simulator's log. "
+    "Numbers that end in 99 fail.");
+
+std::shared_ptr<const Clock> clockOf(const Options& options) {
+  return options.clock ? options.clock : std::make_shared<SystemClock>();
+}
+
+}  // namespace
+
+GatewayState::GatewayState(const Options& given)
+    : options(given),
+      clock(clockOf(given)),
+      accounts(given.accounts),
+      sessions(given.sessionLifetime),
+      outbox(given.deliveryStep, clock->now()),
+      news(given.news.isEmpty() ? defaultNews : given.news) {}
+
+}  // namespace parlexo::simulator

@@ -1,0 +1,34 @@
+#include "simulator/http_server.h"
+
+#include <utility>
+
+#include "simulator/http_connection.h"
+
+namespace parlexo::simulator {
+
+namespace {
+
+constexpr int waitingConnections = 256;
+constexpr qsizetype openConnections = 512;
+
+}  // namespace
+
+HttpServer::HttpServer(HttpHooks hooks, std::chrono::milliseconds patience)
+    : hooks_(std::move(hooks)), patience_(patience) {
+  setListenBacklogSize(waitingConnections);
+}
+
+void HttpServer::incomingConnection(qintptr descriptor) {
+  const bool crowded = findChildren<QObject*>(Qt::FindDirectChildrenOnly).size() > openConnections;
+  if (crowded || hooks_.refusesConnection()) {
+    QTcpSocket socket;
+    socket.setSocketDescriptor(descriptor);
+    socket.abort();
+    return;
+  }
+  // The connection is its own owner from here on: it deletes itself when the peer is gone, or goes with the
+  // server.
+  new HttpConnection(descriptor, hooks_, patience_, this);  // NOLINT(cppcoreguidelines-owning-memory)
+}
+
+}  // namespace parlexo::simulator

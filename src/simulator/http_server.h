@@ -1,0 +1,33 @@
+#pragma once
+
+#include <chrono>
+#include <functional>
+
+#include <QTcpServer>
+
+#include "simulator/http_message.h"
+
+namespace parlexo::simulator {
+
+/// What an HTTP server asks its owner; called on the server's thread.
+struct HttpHooks {
+  /// Whether the connection that was just made is closed without a word.
+  std::function<bool()> refusesConnection;
+  std::function<HttpReply(const HttpRequest& request)> answer;
+};
+
+/// Serves many connections on the thread it lives in.
+class HttpServer final : public QTcpServer {
+ public:
+  /// A connection that does not bring a whole request, or does not take its reply, within `patience` is cut.
+  HttpServer(HttpHooks hooks, std::chrono::milliseconds patience);
+
+ protected:
+  void incomingConnection(qintptr descriptor) override;
+
+ private:
+  HttpHooks hooks_;
+  std::chrono::milliseconds patience_;
+};
+
+}  // namespace parlexo::simulator

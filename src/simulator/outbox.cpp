@@ -1,0 +1,65 @@
+#include "simulator/outbox.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace parlexo::simulator {
+
+namespace {
+
+const QString notAccepted = QStringLiteral("Not accepted by gateway");
+const QString queued = QStringLiteral("Queued at gateway");
+const QString sent = QStringLiteral("Sent to network");
+const QString delivered = QStringLiteral("Delivered to handset");
+
+}  // namespace
+
+QString wordFor(MessageType type) {
+  switch (type) {
+    case MessageType::Sms:
+      return QStringLiteral("SMS");
+    case MessageType::Mms:
+      return QStringLiteral("MMS");
+    case MessageType::Fax:
+      return QStringLiteral("Fax");
+    case MessageType::Wap:
+      return QStringLiteral("WAP");
+    case MessageType::Voice:
+      return QStringLiteral("Voice");
+  }
+  return {};
+}
+
+Outbox::Outbox(std::chrono::milliseconds deliveryStep, const QDateTime& started)
+    : deliveryStep_(deliveryStep),
+      receiptPrefix_(QString::number(started.toSecsSinceEpoch(), 16).toUpper()) {}
+
+std::optional<QString> Outbox::state(const QString& user, const QString& receipt,
+                                     const QDateTime& now) const {
+  if (receipt == failedReceipt()) return notAccepted;
+  const auto found = deliveries_.find(receipt);
+  if (found == deliveries_.end() || found->second.user != user) return std::nullopt;
+  const QDateTime& begins = found->second.begins;
+  if (!begins.isValid()) return delivered;
+  const qint64 elapsed = begins.msecsTo(now);
+  if (elapsed < deliveryStep_.count()) return queued;
+  return elapsed < 2 * deliveryStep_.count() ? sent : delivered;
+}
+
+void Outbox::remember(const QString& user, const QString& receipt) {
+  deliveries_[receipt] = Delivery{user, {}};
+}
+
+QString Outbox::nextReceipt() {
+  return QStringLiteral("%1-%2").arg(receiptPrefix_).arg(++lastReceipt_, 6, 10, QLatin1Char('0'));
+}
+
+const AcceptedMessage& Outbox::store(AcceptedMessage message) {
+  const QDateTime begins = std::max(message.schedule.value_or(message.time), message.time);
+  for (const QString& receipt : std::as_const(message.receipts))
+    if (receipt != failedReceipt()) deliveries_[receipt] = Delivery{message.user, begins};
+  messages_.push_back(std::move(message));
+  return messages_.back();
+}
+
+}  // namespace parlexo::simulator

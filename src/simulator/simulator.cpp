@@ -1,0 +1,192 @@
+#include "simulator/simulator.h"
+
+#include <algorithm>
+#include <atomic>
+#include <utility>
+
+#include <QThread>
+
+#include "simulator/gateway_service.h"
+#include "simulator/http_server.h"
+#include "simulator/locator_document.h"
+
+namespace parlexo::simulator {
+
+/// The service and the thread that serves it. The mutex guards starting and stopping; the service has its
+/// own.
+class Simulator::Engine {
+ public:
+  explicit Engine(const Options& options) : options_(options), service_(options) {
+    thread_.setObjectName(QStringLiteral("gateway simulator"));
+    // Without a context the call is made on the thread that finishes: the server must end where it lived.
+    QObject::connect(&thread_, &QThread::finished, [this] { server_.reset(); });
+  }
+  ~Engine() { stop(); }
+  Engine(const Engine&) = delete;
+  Engine& operator=(const Engine&) = delete;
+
+  bool start();
+  void stop();
+  [[nodiscard]] quint16 port() const { return port_; }
+  [[nodiscard]] QString errorText() const;
+  [[nodiscard]] QString site() const;
+  [[nodiscard]] GatewayService& service() { return service_; }
+
+ private:
+  [[nodiscard]] std::unique_ptr<HttpServer> newServer();
+  void endThread();
+
+  const Options options_;
+  GatewayService service_;
+  mutable std::mutex mutex_;
+  QThread thread_;
+  std::unique_ptr<HttpServer> server_;  // made here, then lives and dies on thread_
+  std::atomic<quint16> port_ = 0;
+  QString errorText_;
+};
+
+std::unique_ptr<HttpServer> Simulator::Engine::newServer() {
+  HttpHooks hooks{[this] { return service_.refusesConnection(); },
+                  [this](const HttpRequest& request) { return service_.answer(request); }};
+  return std::make_unique<HttpServer>(std::move(hooks), options_.requestTimeout);
+}
+
+bool Simulator::Engine::start() {
+  const std::lock_guard lock(mutex_);
+  if (server_) return true;
+  server_ = newServer();
+  server_->moveToThread(&thread_);
+  thread_.start();
+  bool listening = false;
+  QMetaObject::invokeMethod(
+      server_.get(), [&] { listening = server_->listen(options_.address, options_.port); },
+      Qt::BlockingQueuedConnection);
+  if (listening)
+    port_ = server_->serverPort();
+  else
+    errorText_ = server_->errorString();
+  if (!listening) endThread();
+  return listening;
+}
+
+void Simulator::Engine::stop() {
+  const std::lock_guard lock(mutex_);
+  if (server_) endThread();
+}
+
+void Simulator::Engine::endThread() {
+  thread_.quit();
+  thread_.wait();
+}
+
+QString Simulator::Engine::errorText() const {
+  const std::lock_guard lock(mutex_);
+  return errorText_;
+}
+
+QString Simulator::Engine::site() const {
+  // A gateway that listens everywhere is reached here by the loopback address.
+  const bool everywhere = options_.address == QHostAddress::Any || options_.address == QHostAddress::AnyIPv4;
+  const QHostAddress address = everywhere ? QHostAddress(QHostAddress::LocalHost) : options_.address;
+  return QStringLiteral("http://%1:%2").arg(hostText(address)).arg(port());
+}
+
+Simulator::Simulator(const Options& options) : engine_(std::make_unique<Engine>(options)) {}
+
+Simulator::~Simulator() = default;
+
+bool Simulator::start() {
+  return engine_->start();
+}
+
+void Simulator::stop() {
+  engine_->stop();
+}
+
+quint16 Simulator::port() const {
+  return engine_->port();
+}
+
+QString Simulator::errorText() const {
+  return engine_->errorText();
+}
+
+QString Simulator::site() const {
+  return engine_->site();
+}
+
+bool Simulator::setFault(const Fault& fault) {
+  if (!problemWith(fault).isEmpty()) return false;
+  engine_->service().with([&fault](ServiceState& state) { state.faults.add(fault); });
+  return true;
+}
+
+void Simulator::clearFaults() {
+  engine_->service().with([](ServiceState& state) { state.faults.clear(); });
+}
+
+void Simulator::expireSessions() {
+  engine_->service().with([](ServiceState& state) { state.gateway.sessions.closeAll(); });
+}
+
+bool Simulator::setBalance(const QString& user, double balance) {
+  return engine_->service().with([&](ServiceState& state) {
+    Account* account = state.gateway.accounts.find(user);
+    if (account) account->balanceCents = toCents(balance);
+    return account != nullptr;
+  });
+}
+
+double Simulator::balance(const QString& user) const {
+  return engine_->service().with([&user](ServiceState& state) {
+    const Account* account = state.gateway.accounts.find(user);
+    return account ? toAmount(account->balanceCents) : 0.0;
+  });
+}
+
+EmailPreferences Simulator::emailPreferences(const QString& user) const {
+  return engine_->service().with([&user](ServiceState& state) {
+    const Account* account = state.gateway.accounts.find(user);
+    return account ? account->emailPreferences : EmailPreferences{};
+  });
+}
+
+bool Simulator::hasPassword(const QString& user, const QString& password) const {
+  return engine_->service().with([&](ServiceState& state) {
+    const Account* account = state.gateway.accounts.find(user);
+    return account && account->password == password;
+  });
+}
+
+void Simulator::rememberReceipt(const QString& user, const QString& receipt) {
+  engine_->service().with([&](ServiceState& state) { state.gateway.outbox.remember(user, receipt); });
+}
+
+std::vector<AcceptedMessage> Simulator::messages() const {
+  return engine_->service().with([](ServiceState& state) { return state.gateway.outbox.messages(); });
+}
+
+std::vector<RecordedCall> Simulator::calls() const {
+  return engine_->service().with([](ServiceState& state) { return state.calls; });
+}
+
+QStringList Simulator::calledOperations() const {
+  QStringList names;
+  for (const RecordedCall& call : calls()) names.append(call.operation);
+  return names;
+}
+
+int Simulator::openSessions() const {
+  return engine_->service().with(
+      [](ServiceState& state) { return state.gateway.sessions.countOpen(state.gateway.now()); });
+}
+
+QString Simulator::news() const {
+  return engine_->service().with([](ServiceState& state) { return state.gateway.news; });
+}
+
+void Simulator::setNews(const QString& news) {
+  engine_->service().with([&news](ServiceState& state) { state.gateway.news = news; });
+}
+
+}  // namespace parlexo::simulator

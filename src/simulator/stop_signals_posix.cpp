@@ -1,0 +1,33 @@
+#include <pthread.h>
+#include <signal.h>
+
+#include "simulator/stop_signals.h"
+
+namespace parlexo::simulator {
+
+namespace {
+
+sigset_t stopSignals() {
+  sigset_t signals;
+  sigemptyset(&signals);
+  sigaddset(&signals, SIGINT);
+  sigaddset(&signals, SIGTERM);
+  return signals;
+}
+
+}  // namespace
+
+void holdStopSignals() {
+  const sigset_t signals = stopSignals();
+  pthread_sigmask(SIG_BLOCK, &signals, nullptr);
+  signal(SIGPIPE, SIG_IGN);
+}
+
+void waitForStopSignal() {
+  const sigset_t signals = stopSignals();
+  int taken = 0;
+  while (sigwait(&signals, &taken) != 0) {
+  }
+}
+
+}  // namespace parlexo::simulator
