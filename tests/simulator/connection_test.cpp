@@ -1,0 +1,112 @@
+#include <atomic>
+#include <thread>
+#include <vector>
+
+#include <QElapsedTimer>
+#include <QSet>
+#include <gmock/gmock.h>
+
+#include "simulator/simulator.h"
+#include "tests/simulator/raw_client.h"
+
+namespace parlexo::simulator {
+
+namespace {
+
+Options impatientOptions() {
+  Options options;
+  options.requestTimeout = std::chrono::milliseconds(300);
+  options.accounts.front().balance = 1000.0;
+  return options;
+}
+
+class GatewayConnections : public testing::Test {
+ protected:
+  GatewayConnections() : simulator_(impatientOptions()) { EXPECT_TRUE(simulator_.start()); }
+
+  RawClient client() const { return RawClient(simulator_.port()); }
+  void expectStillServes() const { EXPECT_EQ(valueOf(client().call("getVersion", {}), "nVersion"), "103"); }
+
+  Simulator simulator_;
+};
+
+TEST_F(GatewayConnections, hostileInputIsRefusedAndServiceGoesOn) {
+  struct Case {
+    QByteArray request;
+    int status;
+  };
+  const Case cases[] = {
+      {"\x01\x02garbage\r\n\r\n", 400},
+      {"GET / HTTP/1.1\r\nX: " + QByteArray(300 * 1024, 'x'), 431},
+      {"POST /ccx/onlineCommunication HTTP/1.1\r\nContent-Length: 4000000000\r\n\r\n", 413},
+      {"GET /ccx/onlineCommunication HTTP/1.0\r\n\r\n", 405},
+      {"GET /../etc/passwd HTTP/1.0\r\n\r\n", 404},
+      {"POST /WSDLServerLocator.xml HTTP/1.0\r\n\r\n", 405},
+      {"POST /ccx/onlineCommunication HTTP/1.0\r\n\r\n", 500},
+      {"GET /WSDL", 0},
+      {"", 0},
+  };
+  for (const Case& each : cases) {
+    EXPECT_EQ(statusOf(client().exchange(each.request)), each.status) << each.request.left(60).toStdString();
+    expectStillServes();
+  }
+}
+
+TEST_F(GatewayConnections, slowSenderIsCutOffHoweverItDribbles) {
+  QTcpSocket slow;
+  slow.connectToHost(QHostAddress(QHostAddress::LocalHost), simulator_.port());
+  ASSERT_TRUE(slow.waitForConnected());
+  QElapsedTimer time;
+  time.start();
+  while (slow.state() == QAbstractSocket::ConnectedState && time.elapsed() < 5000) {
+    slow.write("x");
+    slow.waitForReadyRead(20);
+  }
+  EXPECT_LT(time.elapsed(), 3000);
+}
+
+TEST_F(GatewayConnections, oneConnectionCarriesManyRequests) {
+  const QByteArray once = "GET /WSDLServerLocator.xml HTTP/1.1\r\n\r\n";
+  const QByteArray last = "GET /WSDLServerLocator.xml HTTP/1.1\r\nConnection: close\r\n\r\n";
+  const QByteArray reply = client().exchange(once.repeated(2000) + last);
+  EXPECT_EQ(reply.count("HTTP/1.1 200 OK"), 2001);
+}
+
+TEST_F(GatewayConnections, requestMayComeInChunks) {
+  QByteArray request = postRequest("getVersion", {});
+  const qsizetype bodyAt = request.indexOf("\r\n\r\n") + 4;
+  const QByteArray body = request.mid(bodyAt);
+  request.truncate(bodyAt);
+  request.replace("Content-Length: " + QByteArray::number(body.size()), "Transfer-Encoding: chunked");
+  for (const char byte : body) request += "1\r\n" + QByteArray(1, byte) + "\r\n";
+  EXPECT_EQ(valueOf(client().exchange(request + "0\r\n\r\n"), "nVersion"), "103");
+}
+
+TEST_F(GatewayConnections, manyClientsAtOnceGetReceiptsOfTheirOwn) {
+  constexpr int clients = 8;
+  constexpr int sends = 25;
+  const QByteArray session = client().logIn();
+  std::atomic<int> answered = 0;
+  std::vector<std::thread> threads;
+  for (int i = 0; i < clients; ++i)
+    threads.emplace_back([&] {
+      for (int n = 0; n < sends; ++n) {
+        const QByteArray reply =
+            client().call("sendSms", text("sSession", session) + text("sMessage", "Hello") +
+                                         text("sListPhoneNumbers", "+61491570156,+60312345678"));
+        if (valueOf(reply, "nErrorCode") == "0") ++answered;
+        (void)simulator_.messages();
+      }
+    });
+  for (std::thread& thread : threads) thread.join();
+  EXPECT_EQ(answered, clients * sends);
+  QSet<QString> receipts;
+  for (const AcceptedMessage& message : simulator_.messages())
+    for (const QString& receipt : message.receipts) receipts.insert(receipt);
+  EXPECT_EQ(receipts.size(), clients * sends * 2);
+  EXPECT_EQ(simulator_.balance(QStringLiteral("demo")), 980.0);
+}
+
+}  // namespace
+
+}  // namespace parlexo::simulator

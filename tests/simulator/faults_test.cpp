@@ -1,0 +1,159 @@
+#include <QElapsedTimer>
+#include <gmock/gmock.h>
+
+#include "simulator/simulator.h"
+#include "tests/simulator/raw_client.h"
+
+namespace parlexo::simulator {
+
+namespace {
+
+class GatewayFaults : public testing::Test {
+ protected:
+  GatewayFaults() {
+    EXPECT_TRUE(simulator_.start());
+    session_ = client().logIn();
+  }
+
+  void set(const char* text) {
+    const ParsedFault parsed = parseFault(QString::fromLatin1(text));
+    ASSERT_EQ(parsed.problem.toStdString(), "");
+    EXPECT_TRUE(simulator_.setFault(parsed.fault));
+  }
+
+  QByteArray sendSms() {
+    return client().call("sendSms", text("sSession", session_) + text("sMessage", "Hello") +
+                                        flag("bFlash", true) + text("sListPhoneNumbers", "+61491570156"));
+  }
+
+  std::size_t accepted() const { return simulator_.messages().size(); }
+  RawClient client() const { return RawClient(simulator_.port()); }
+
+  Simulator simulator_;
+  QByteArray session_;
+};
+
+TEST_F(GatewayFaults, spoiledAnswerComesAfterTheMessageWasAcceptedAndReplacedOneBefore) {
+  struct Case {
+    const char* fault;
+    std::size_t accepted;
+    bool (*isRight)(const QByteArray& reply);
+  };
+  const Case cases[] = {
+      {"sendSms:close:next", 1, [](const QByteArray& reply) { return reply.isEmpty(); }},
+      {"sendSms:cut:next", 1,
+       [](const QByteArray& reply) {
+         const qsizetype body = reply.size() - reply.indexOf("\r\n\r\n") - 4;
+         return reply.contains("Content-Length: " + QByteArray::number(2 * body)) ||
+                reply.contains("Content-Length: " + QByteArray::number(2 * body + 1));
+       }},
+      {"sendSms:late=50:next", 1,
+       [](const QByteArray& reply) { return valueOf(reply, "nErrorCode") == "0"; }},
+      {"any:http500:next", 0, [](const QByteArray& reply) { return statusOf(reply) == 500; }},
+      {"sendSms:notxml:next", 0,
+       [](const QByteArray& reply) { return statusOf(reply) == 200 && !reply.contains('<'); }},
+      {"sendSms:soapfault=Out of paper:next", 0,
+       [](const QByteArray& reply) { return valueOf(reply, "faultstring") == "Out of paper"; }},
+      {"sendSms:code=12:next", 0,
+       [](const QByteArray& reply) { return valueOf(reply, "nErrorCode") == "12"; }},
+      {"any:refuse:next", 0, [](const QByteArray& reply) { return reply.isEmpty(); }},
+  };
+  for (const Case& each : cases) {
+    const std::size_t before = accepted();
+    set(each.fault);
+    EXPECT_TRUE(each.isRight(sendSms())) << each.fault;
+    EXPECT_EQ(accepted(), before + each.accepted) << each.fault;
+    EXPECT_EQ(valueOf(sendSms(), "nErrorCode"), "0") << "is gone after " << each.fault;
+  }
+}
+
+TEST_F(GatewayFaults, faultForAllCallsLastsUntilCleared) {
+  set("sendSms:code=7");
+  EXPECT_EQ(valueOf(sendSms(), "nErrorCode"), "7");
+  EXPECT_EQ(valueOf(sendSms(), "nErrorCode"), "7");
+  EXPECT_EQ(valueOf(client().call("getAccountBalance", text("sSession", session_)), "nErrorCode"), "0");
+  simulator_.clearFaults();
+  EXPECT_EQ(valueOf(sendSms(), "nErrorCode"), "0");
+}
+
+TEST_F(GatewayFaults, lateAnswerHoldsUpNobodyElse) {
+  set("sendSms:late=1500:next");
+  QTcpSocket slow;
+  slow.connectToHost(QHostAddress(QHostAddress::LocalHost), simulator_.port());
+  ASSERT_TRUE(slow.waitForConnected());
+  slow.write(postRequest("sendSms", text("sSession", session_) + text("sMessage", "Hello") +
+                                        text("sListPhoneNumbers", "+61491570156")));
+  ASSERT_TRUE(slow.waitForBytesWritten());
+  QElapsedTimer time;
+  time.start();
+  while (accepted() == 0 && time.elapsed() < 1000) slow.waitForReadyRead(10);
+  EXPECT_EQ(valueOf(client().call("getVersion", {}), "nVersion"), "103");
+  EXPECT_LT(time.elapsed(), 1400);
+  EXPECT_EQ(slow.bytesAvailable(), 0);
+  ASSERT_TRUE(slow.waitForReadyRead(5000));
+  EXPECT_GE(time.elapsed(), 1300);
+}
+
+TEST_F(GatewayFaults, versionsAndLocatorCanBeWrong) {
+  set("getVersion:version=99:next");
+  set("locator:clientversion=9.99:next");
+  set("locator:badlocator:next");
+  EXPECT_EQ(valueOf(client().call("getVersion", {}), "nVersion"), "99");
+  EXPECT_TRUE(client().get("/WSDLServerLocator.xml").contains("version=\"9.99\""));
+  EXPECT_FALSE(client().get("/WSDLServerLocator.xml").contains("port="));
+  EXPECT_TRUE(client().get("/WSDLServerLocator.xml").contains("port="));
+}
+
+TEST_F(GatewayFaults, callsAreRecordedInOrderWithTheirSession) {
+  set("getAccountBalance:http500:next");
+  (void)client().get("/WSDLServerLocator.xml");
+  (void)client().call("getAccountBalance", text("sSession", "abc"));
+  EXPECT_EQ(simulator_.calledOperations().join(u' ').toStdString(), "sessionStart locator getAccountBalance");
+  EXPECT_EQ(simulator_.calls().back().session, QStringLiteral("abc"));
+}
+
+TEST_F(GatewayFaults, stoppedGatewayRefusesAndComesBackWithItsAccounts) {
+  simulator_.setBalance(QStringLiteral("demo"), 7.0);
+  simulator_.stop();
+  EXPECT_EQ(client().logIn(), "(none)");
+  ASSERT_TRUE(simulator_.start());
+  EXPECT_NE(client().logIn(), "(none)");
+  EXPECT_EQ(simulator_.balance(QStringLiteral("demo")), 7.0);
+
+  Options taken;
+  taken.port = simulator_.port();
+  Simulator second(taken);
+  EXPECT_FALSE(second.start());
+  EXPECT_FALSE(second.errorText().isEmpty());
+}
+
+TEST(FaultText, saysWhatIsWrongWithIt) {
+  struct Case {
+    const char* text;
+    const char* problem;
+  };
+  const Case cases[] = {
+      {"", "expected OPERATION:KIND"},
+      {"sendSms", "expected OPERATION:KIND"},
+      {"sendSms:explode", "unknown kind of fault \"explode\""},
+      {"sendTelegram:close", "unknown operation \"sendTelegram\""},
+      {"sendSms:code", "code needs a number: code=N"},
+      {"sendSms:code=x", "code needs a number: code=N"},
+      {"sendSms:close=1", "close takes no value"},
+      {"sendSms:late=-1", "late needs a time of 0 ms or more"},
+      {"sendSms:refuse", "refuse goes with any only"},
+      {"sendSms:version=1", "version goes with getVersion only"},
+      {"getVersion:code=1", "the answer of getVersion has no code"},
+      {"locator:soapfault", "soapfault does not go with locator"},
+      {"any:badlocator", "badlocator goes with locator only"},
+      {"locator:clientversion=:next", "clientversion needs a text: clientversion=TEXT"},
+      {"any:late=3000:next", ""},
+      {"sendVoice_Text:soapfault", ""},
+  };
+  for (const Case& each : cases)
+    EXPECT_EQ(parseFault(QString::fromLatin1(each.text)).problem.toStdString(), each.problem) << each.text;
+}
+
+}  // namespace
+
+}  // namespace parlexo::simulator

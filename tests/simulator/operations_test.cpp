@@ -1,0 +1,314 @@
+#include <QCryptographicHash>
+#include <gmock/gmock.h>
+
+#include "simulator/simulator.h"
+#include "tests/simulator/raw_client.h"
+
+namespace parlexo::simulator {
+
+namespace {
+
+using std::chrono::milliseconds;
+using std::chrono::seconds;
+using testing::Eq;
+using testing::HasSubstr;
+using testing::StartsWith;
+
+const QDateTime start(QDate(2026, 3, 1), QTime(12, 0), Qt::UTC);
+
+class GatewayOperations : public testing::Test {
+ protected:
+  GatewayOperations() : clock_(std::make_shared<ManualClock>(start)), simulator_(options()) {
+    EXPECT_TRUE(simulator_.start());
+    session_ = client().logIn();
+  }
+
+  Options options() {
+    Options options;
+    options.clock = clock_;
+    options.deliveryStep = seconds(10);
+    options.sessionLifetime = std::chrono::minutes(30);
+    options.log = [this](const QString& line) {
+      const std::lock_guard lock(logMutex_);
+      log_ += line + u'\n';
+    };
+    return options;
+  }
+
+  QString log() {
+    const std::lock_guard lock(logMutex_);
+    return log_;
+  }
+
+  RawClient client() const { return RawClient(simulator_.port()); }
+
+  QByteArray sendSms(const QByteArray& message, const QByteArray& numbers) {
+    return client().call("sendSms", text("sSession", session_) + text("sMessage", message) +
+                                        flag("bFlash", false) + text("sListPhoneNumbers", numbers));
+  }
+
+  QByteArray statusOfReceipt(const QByteArray& receipt) {
+    return client().call("getStatus", text("sSession", session_) + text("sReciept", receipt));
+  }
+
+  QByteArray codeOf(const QByteArray& operation, const QByteArray& fields) {
+    return valueOf(client().call(operation, fields), "nErrorCode");
+  }
+
+  std::shared_ptr<ManualClock> clock_;
+  std::mutex logMutex_;
+  QString log_;
+  Simulator simulator_;
+  QByteArray session_;
+};
+
+TEST_F(GatewayOperations, loginIsRefusedUnlessNameAndPasswordMatchExactly) {
+  EXPECT_EQ(session_.size(), 32);
+  const auto logIn = [this](const QByteArray& user, const QByteArray& password) {
+    return codeOf("sessionStart", text("sUser", user) + text("sPassword", password));
+  };
+  EXPECT_EQ(logIn("demo", "demo1234"), "0");
+  EXPECT_EQ(logIn("demo", "Demo1234"), "4");
+  EXPECT_EQ(logIn("Demo", "demo1234"), "4");
+  EXPECT_EQ(logIn("", ""), "4");
+}
+
+TEST_F(GatewayOperations, everyNumberGetsItsOwnReceiptInOrderAndNumbersEndingIn99Fail) {
+  const QByteArray reply = sendSms("Hello", "+61491570156,+61491570199,60312345678,+861012345678");
+  EXPECT_EQ(valueOf(reply, "nErrorCode"), "0");
+  const QList<QByteArray> pairs = valueOf(reply, "sListReciepts").split(',');
+  ASSERT_EQ(pairs.size(), 4);
+  EXPECT_THAT(pairs[0].toStdString(), StartsWith("+61491570156:"));
+  EXPECT_EQ(pairs[1], "+61491570199:FAIL");
+  EXPECT_EQ(pairs[2], "60312345678:FAIL");
+  EXPECT_THAT(pairs[3].toStdString(), StartsWith("+861012345678:"));
+  EXPECT_NE(pairs[0].split(':')[1], pairs[3].split(':')[1]);
+  EXPECT_EQ(simulator_.balance(QStringLiteral("demo")), 99.90) << "failed numbers cost nothing";
+}
+
+TEST_F(GatewayOperations, deliveryAdvancesWithTime) {
+  const QByteArray receipt = valueOf(sendSms("Hello", "+61491570156"), "sListReciepts").split(':').last();
+  EXPECT_EQ(valueOf(statusOfReceipt(receipt), "sStatus"), "Queued at gateway");
+  clock_->advance(seconds(10));
+  EXPECT_EQ(valueOf(statusOfReceipt(receipt), "sStatus"), "Sent to network");
+  clock_->advance(seconds(10));
+  EXPECT_EQ(valueOf(statusOfReceipt(receipt), "sStatus"), "Delivered to handset");
+  EXPECT_EQ(valueOf(statusOfReceipt("FAIL"), "sStatus"), "Not accepted by gateway");
+  EXPECT_EQ(valueOf(statusOfReceipt("nonsense"), "nErrorCode"), "10");
+  simulator_.rememberReceipt(QStringLiteral("demo"), QStringLiteral("OLD-1"));
+  EXPECT_EQ(valueOf(statusOfReceipt("OLD-1"), "sStatus"), "Delivered to handset");
+}
+
+TEST_F(GatewayOperations, scheduledMessageWaitsForItsTime) {
+  const auto schedule = [this](const QByteArray& time) {
+    return codeOf("scheduleMessageEnable", text("sDateTimeGmt", time) + text("sSession", session_));
+  };
+  EXPECT_EQ(schedule("2026/03/01 13:00:00"), "0");
+  const QByteArray later = valueOf(sendSms("Later", "+61491570156"), "sListReciepts").split(':').last();
+  EXPECT_EQ(codeOf("scheduleMessageDisable", text("sSession", session_)), "0");
+  const QByteArray now = valueOf(sendSms("Now", "+61491570156"), "sListReciepts").split(':').last();
+  clock_->advance(std::chrono::minutes(10));
+  EXPECT_EQ(valueOf(statusOfReceipt(later), "sStatus"), "Queued at gateway");
+  EXPECT_EQ(valueOf(statusOfReceipt(now), "sStatus"), "Delivered to handset");
+  clock_->advance(std::chrono::minutes(25));
+  EXPECT_EQ(valueOf(statusOfReceipt(later), "sStatus"), "Queued at gateway");
+  clock_->advance(std::chrono::minutes(25));
+  clock_->advance(seconds(10));
+  EXPECT_EQ(valueOf(statusOfReceipt(later), "sStatus"), "Sent to network");
+
+  for (const char* bad : {"2027/03/02 00:00:00", "2026/3/1 13:00:00", "2026/02/30 13:00:00", "",
+                          "2026/03/01 25:00:00", "2026/03/01T13:00:00"})
+    EXPECT_EQ(schedule(bad), "9") << bad;
+}
+
+TEST_F(GatewayOperations, sessionsExpireByTimeOnDemandAndAtTheirEnd) {
+  const auto balanceCode = [this] { return codeOf("getAccountBalance", text("sSession", session_)); };
+  clock_->advance(std::chrono::minutes(29));
+  EXPECT_EQ(balanceCode(), "0");
+  clock_->advance(std::chrono::minutes(29));
+  EXPECT_EQ(balanceCode(), "0") << "use begins the lifetime anew";
+  clock_->advance(std::chrono::minutes(30));
+  EXPECT_EQ(balanceCode(), "7");
+
+  session_ = client().logIn();
+  simulator_.expireSessions();
+  EXPECT_EQ(valueOf(sendSms("Hello", "+61491570156"), "nErrorCode"), "7");
+  EXPECT_TRUE(simulator_.messages().empty());
+
+  session_ = client().logIn();
+  EXPECT_EQ(simulator_.openSessions(), 1);
+  EXPECT_EQ(codeOf("sessionEnd", text("sSession", session_)), "0");
+  EXPECT_EQ(balanceCode(), "7");
+}
+
+TEST_F(GatewayOperations, refusesWhatCannotBeSentAndTakesNoMoneyForIt) {
+  struct Case {
+    QByteArray message;
+    QByteArray numbers;
+    const char* code;
+  };
+  const Case cases[] = {
+      {"", "+61491570156", "3"},
+      {"Hello", "", "6"},
+      {QByteArray(761, 'x'), "+61491570156", "15"},
+      {"%%UNICODE%%" + QByteArray("0041").repeated(336), "+61491570156", "15"},
+      {QByteArray(760, 'x'), "+61491570156", "0"},
+  };
+  for (const Case& each : cases)
+    EXPECT_EQ(valueOf(sendSms(each.message, each.numbers), "nErrorCode"), each.code);
+  EXPECT_EQ(simulator_.balance(QStringLiteral("demo")), 99.75) << "five parts at 0.05";
+
+  simulator_.setBalance(QStringLiteral("demo"), 0.09);
+  EXPECT_EQ(valueOf(sendSms("Hello", "+61491570156,+60312345678"), "nErrorCode"), "5");
+  EXPECT_EQ(simulator_.balance(QStringLiteral("demo")), 0.09);
+  EXPECT_EQ(simulator_.messages().size(), 1U);
+}
+
+TEST_F(GatewayOperations, messagesAreKeptAndLoggedAsAPersonReadsThem) {
+  EXPECT_EQ(codeOf("setSmsSenderId", text("sSession", session_) + text("sSenderId", "Parlexo")), "0");
+  (void)sendSms("%%UNICODE%%0048006920AC", "+61491570156");
+  (void)sendSms(
+      "Gr\xC3\xBC\xC3\x9F"
+      "e\n\x1B]",
+      "+61491570156");
+  const auto messages = simulator_.messages();
+  ASSERT_EQ(messages.size(), 2U);
+  EXPECT_EQ(messages[0].text, QStringLiteral("Hi€"));
+  EXPECT_TRUE(messages[0].unicode);
+  EXPECT_EQ(messages[0].rawText, "%%UNICODE%%0048006920AC");
+  EXPECT_EQ(messages[0].senderId, QStringLiteral("Parlexo"));
+  EXPECT_TRUE(messages[1].senderId.isEmpty()) << "a sender ID holds for one message";
+  EXPECT_THAT(log().toStdString(), HasSubstr("SMS from demo (Unicode, sender ID Parlexo, cost 0.05)"));
+  EXPECT_THAT(log().toStdString(), HasSubstr("text: Hi€"));
+}
+
+TEST_F(GatewayOperations, fileArrivesWithItsNameSizeAndHash) {
+  const QByteArray content("\x00\x01\xFFPNG", 6);
+  const auto sendMms = [&](const QByteArray& bytes) {
+    return client().call("sendMms", text("sSession", session_) + text("sDescription", "A picture") +
+                                        text("sFileName", "cat.png") +
+                                        "<oData xsi:type=\"xsd:base64Binary\">" + bytes.toBase64() +
+                                        "</oData>" + text("sListPhoneNumbers", "+61491570156"));
+  };
+  EXPECT_EQ(valueOf(sendMms(content), "nErrorCode"), "0");
+  EXPECT_EQ(valueOf(sendMms({}), "nErrorCode"), "8");
+  EXPECT_EQ(valueOf(sendMms(QByteArray(50 * 1024, 'x')), "nErrorCode"), "0");
+  EXPECT_EQ(valueOf(sendMms(QByteArray(50 * 1024 + 1, 'x')), "nErrorCode"), "8");
+
+  const AcceptedMessage message = simulator_.messages().front();
+  EXPECT_EQ(message.type, MessageType::Mms);
+  EXPECT_EQ(message.text, QStringLiteral("A picture"));
+  EXPECT_EQ(message.fileName, QStringLiteral("cat.png"));
+  EXPECT_EQ(message.fileSize, 6);
+  EXPECT_EQ(message.fileSha256, QCryptographicHash::hash(content, QCryptographicHash::Sha256).toHex());
+}
+
+TEST_F(GatewayOperations, historyHasOneTabbedRecordForEachMessage) {
+  (void)sendSms("One", "+61491570156");
+  (void)sendSms("Two", "+61491570156,+60312345678");
+  const QByteArray reply = client().call("getAccountHistory", text("sSession", session_));
+  EXPECT_EQ(valueOf(reply, "sXmlAccountHistory").replace("&#xD;", "\r").replace("&#x9;", "\t"),
+            "1\t01/03/2026 12:00:00\t-0.05\tSMS to 1 numbers\r\n"
+            "2\t01/03/2026 12:00:00\t-0.10\tSMS to 2 numbers\r\n");
+}
+
+TEST_F(GatewayOperations, emailPreferencesSurviveTheirTwoFieldOrders) {
+  const auto edit = [this](const QByteArray& code, const QByteArray& address) {
+    return codeOf("editEmailMessaging", text("sSession", session_) + flag("bEmailEnable", true) +
+                                            text("sEmailCode", code) + flag("bEmailFilter", true) +
+                                            text("sEmailFilter1", address) + text("sEmailFilter2", "") +
+                                            text("sEmailFilter3", "") + flag("bEmailSmsSplit", false) +
+                                            flag("bEmailEndStop", false) + flag("bEmailDoubleLine", true));
+  };
+  EXPECT_EQ(edit("", "a@parlexo.example"), "2");
+  EXPECT_EQ(edit("secret", ""), "2");
+  EXPECT_EQ(edit("secret", "a@parlexo.example"), "0");
+  const QByteArray reply = client().call("getEmailMessaging", text("sSession", session_));
+  EXPECT_EQ(valueOf(reply, "sEmailCode"), "secret");
+  EXPECT_EQ(valueOf(reply, "sEmailFilter1"), "a@parlexo.example");
+  EXPECT_EQ(valueOf(reply, "bEmailEndDoubleLine"), "true");
+  EXPECT_EQ(valueOf(reply, "bEmailEndStop"), "false");
+}
+
+TEST_F(GatewayOperations, passwordAndSenderIdAreJudged) {
+  const auto change = [this](const QByteArray& from, const QByteArray& to) {
+    return codeOf("setAccountPassword",
+                  text("sSession", session_) + text("sOldPassword", from) + text("sNewPassword", to));
+  };
+  EXPECT_EQ(change("wrong", "better12"), "4");
+  EXPECT_EQ(change("demo1234", "letters"), "11");
+  EXPECT_EQ(change("demo1234", "better12"), "0");
+  EXPECT_TRUE(simulator_.hasPassword(QStringLiteral("demo"), QStringLiteral("better12")));
+
+  const auto setSender = [this](const QByteArray& senderId) {
+    return codeOf("setSmsSenderId", text("sSession", session_) + text("sSenderId", senderId));
+  };
+  for (const char* good : {"Parlexo", "+61491570156", "12345"}) EXPECT_EQ(setSender(good), "0") << good;
+  for (const char* bad : {"", "   ", "TwelveLetter", "Tab\there", "+12"})
+    EXPECT_EQ(setSender(bad), "12") << bad;
+}
+
+TEST_F(GatewayOperations, partnerKeepsUsersOfHisOwn) {
+  const QByteArray user = text("sSession", session_) + text("sUser", "ann@demo");
+  EXPECT_EQ(codeOf("partnerAddUser", user + text("sEmail", "ann@parlexo.example")), "0");
+  EXPECT_EQ(codeOf("partnerAddUser", user + text("sEmail", "")), "13") << "taken";
+  EXPECT_EQ(codeOf("partnerAddEvent", user + text("sEventType", "credit") + text("sPackageType", "SMS") +
+                                          "<dAmount xsi:type=\"xsd:double\">12.5</dAmount>" +
+                                          text("sDescription", "first")),
+            "0");
+  EXPECT_EQ(simulator_.balance(QStringLiteral("ann@demo")), 12.5);
+  EXPECT_EQ(codeOf("sessionStart", text("sUser", "ann@demo") + text("sPassword", "")), "4");
+
+  const QByteArray opened =
+      client().call("partnerStartSessionForSubUser",
+                    text("sUser", "demo") + text("sPassword", "demo1234") + text("sSubUser", "ann@demo"));
+  const QByteArray balance =
+      client().call("getAccountBalance", text("sSession", valueOf(opened, "sSession")));
+  EXPECT_EQ(valueOf(balance, "dValue").toDouble(), 12.5);
+
+  const QByteArray cost =
+      client().call("partnerGetCostByPhoneNumber",
+                    text("sSession", session_) + text("sPhoneNumber", "+61491570156") +
+                        text("sPackageType", "") + text("sCurrency", "AUD") + text("sServiceType", "SMS"));
+  EXPECT_EQ(valueOf(cost, "sCountry"), "Australia");
+  EXPECT_EQ(valueOf(cost, "dCostWholesaleFlat").toDouble(), 0.05);
+}
+
+TEST_F(GatewayOperations, everyOperationOfTheContractIsAnswered) {
+  ASSERT_EQ(operationNames().size(), 28);
+  for (const QString& name : operationNames()) {
+    const QByteArray reply = client().call(name.toLatin1(), {});
+    EXPECT_EQ(statusOf(reply), 200) << name.toStdString();
+    EXPECT_TRUE(reply.contains("<ns3:" + name.toLatin1() + "Response")) << name.toStdString();
+  }
+  EXPECT_EQ(valueOf(client().call("getVersion", {}), "nVersion"), "103");
+  EXPECT_THAT(valueOf(client().call("getNews", {}), "sNews").toStdString(), HasSubstr("simulator"));
+}
+
+TEST_F(GatewayOperations, requestThatIsNoProperCallGetsASoapFault) {
+  QByteArray wrongAction = postRequest("getVersion", {});
+  wrongAction.replace("PortType#getVersion", "PortType#getNews");
+  QByteArray notXml = postRequest("getVersion", {});
+  notXml.replace("<?xml", "?<xml");
+  for (const QByteArray& request : {wrongAction, notXml, postRequest("getNothing", {}),
+                                    postRequest("sendSms", "<bFlash>maybe</bFlash>")}) {
+    const QByteArray reply = client().exchange(request);
+    EXPECT_EQ(statusOf(reply), 500);
+    EXPECT_NE(valueOf(reply, "faultstring"), "(none)") << reply.toStdString();
+  }
+}
+
+TEST_F(GatewayOperations, locatorDocumentNamesTheAddressLineByLine) {
+  const QByteArray reply = client().get("/WSDLServerLocator.xml");
+  EXPECT_EQ(statusOf(reply), 200);
+  const QList<QByteArray> lines = reply.mid(reply.indexOf("\r\n\r\n") + 4).split('\n');
+  ASSERT_GE(lines.size(), 4);
+  EXPECT_THAT(lines[0].toStdString(), StartsWith("<?xml"));
+  EXPECT_EQ(lines[1].trimmed(), "<server ip=\"127.0.0.1\" port=\"" + QByteArray::number(simulator_.port()) +
+                                    "\" maxfilesize=\"2097152\" maxfilesizemobile=\"51200\">");
+  EXPECT_THAT(lines[3].trimmed().toStdString(), StartsWith("<version product=\"client\" version=\"2.24\""));
+}
+
+}  // namespace
+
+}  // namespace parlexo::simulator

@@ -1,0 +1,43 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+#include <QTcpSocket>
+
+namespace parlexo::simulator {
+
+/// Talks to a gateway with requests written out by hand, so that client and gateway cannot agree on a mistake
+/// that they share.
+class RawClient {
+ public:
+  explicit RawClient(quint16 port) : port_(port) {}
+
+  /// Sends `bytes` and returns all that comes back until the peer closes; what came so far after 5 s.
+  [[nodiscard]] QByteArray exchange(const QByteArray& bytes) const;
+  [[nodiscard]] QByteArray get(const QByteArray& path) const;
+  /// Calls an operation; `fields` are the child elements of its element.
+  [[nodiscard]] QByteArray call(const QByteArray& operation, const QByteArray& fields) const;
+  /// Logs in as demo and returns the token.
+  [[nodiscard]] QByteArray logIn() const;
+
+ private:
+  quint16 port_;
+};
+
+/// A whole HTTP request that calls an operation.
+[[nodiscard]] QByteArray postRequest(const QByteArray& operation, const QByteArray& fields);
+
+[[nodiscard]] QByteArray soapEnvelope(const QByteArray& operation, const QByteArray& fields);
+
+/// A field of type string.
+[[nodiscard]] QByteArray text(const QByteArray& name, const QByteArray& value);
+
+[[nodiscard]] QByteArray flag(const QByteArray& name, bool value);
+
+/// The text of the first element `name` in `reply`; "(none)" when there is none.
+[[nodiscard]] QByteArray valueOf(const QByteArray& reply, const QByteArray& name);
+
+/// The HTTP status of `reply`; 0 when it has none.
+[[nodiscard]] int statusOf(const QByteArray& reply);
+
+}  // namespace parlexo::simulator
