@@ -1,19 +1,12 @@
 #pragma once
 
 #include <chrono>
-#include <optional>
 
-#include <QByteArray>
 #include <QUrl>
 
 #include "base/run_state.h"
 
 namespace parlexo {
-
-/// Where the gateway is, as the locator document tells. The document is read by lines and not as XML: line 1
-/// is skipped, line 2 is the server element with its four attributes, a later one names the client's version.
-/// Returns nothing when any of that is missing or has another form.
-[[nodiscard]] std::optional<GatewayLocation> parseLocatorDocument(const QByteArray& document);
 
 /// Patience and limits of the locator's download.
 struct LocatorLimits {
