@@ -1,0 +1,62 @@
+#include "app/core/balance_check.h"
+
+#include <array>
+#include <charconv>
+#include <limits>
+
+namespace parlexo {
+
+namespace {
+
+constexpr double lowBalance = 2.0;
+
+// Two decimals whatever the locale; the widest double has max_exponent10 digits before the point.
+QString twoDecimals(double value) {
+  std::array<char, std::numeric_limits<double>::max_exponent10 + 8> digits{};
+  const auto end =
+      std::to_chars(digits.data(), digits.data() + digits.size(), value, std::chars_format::fixed, 2);
+  return QString::fromLatin1(digits.data(), end.ptr - digits.data());
+}
+
+}  // namespace
+
+QString BalanceCheck::run() {
+  const auto balance = query();
+  return balance ? take(*balance) : QString();
+}
+
+QString BalanceCheck::take(double balance) {
+  judge(balance);
+  return twoDecimals(balance);
+}
+
+std::optional<double> BalanceCheck::query() {
+  const auto reply = gateway_.call<protocol::getAccountBalanceResponse>(
+      [session = toWire(state_.session)](GatewayClient& client,
+                                         protocol::getAccountBalanceResponse& response) {
+        return client.getAccountBalance(session, response);
+      });
+  if (!reply.answered()) {
+    progress_.hide();
+    notifier_.error(text(TextId::GatewayUnreachable));
+    return std::nullopt;
+  }
+  if (reply->nErrorCode != 0) return std::nullopt;
+  return reply->dValue;
+}
+
+void BalanceCheck::judge(double balance) {
+  if (balance <= 0.0) {
+    state_.balanceIsZero = true;
+    warn(TextId::BalanceZero);
+  } else if (balance < lowBalance) {
+    warn(TextId::BalanceLow);
+  }
+}
+
+void BalanceCheck::warn(TextId warning) {
+  progress_.hide();
+  notifier_.show(text(warning), message_style::information, static_cast<int>(warning));
+}
+
+}  // namespace parlexo

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <optional>
+
+#include <QString>
+
+#include "base/message_texts.h"
+#include "base/notifier.h"
+#include "base/progress.h"
+#include "base/run_state.h"
+#include "gateway/core/gateway.h"
+
+namespace parlexo {
+
+/// Asks for the account's balance when the main window is about to open and warns of a low one. All
+/// arguments of the constructor must outlive the check.
+class BalanceCheck {
+ public:
+  BalanceCheck(RunState& state, const Gateway& gateway, Notifier& notifier, Progress& progress)
+      : state_(state), gateway_(gateway), notifier_(notifier), progress_(progress) {}
+
+  /// Returns the balance with two decimals, as the main window shows it, or an empty text when it could
+  /// not be had. A gateway out of reach is reported; one that refuses to tell is passed over in silence. A
+  /// balance of zero or less sets RunState::balanceIsZero for the rest of the run. The progress box is
+  /// hidden before any message.
+  [[nodiscard]] QString run();
+
+  /// Judges a balance that the gateway has told and returns it with two decimals.
+  [[nodiscard]] QString take(double balance);
+
+ private:
+  std::optional<double> query();
+  void judge(double balance);
+  void warn(TextId warning);
+
+  RunState& state_;
+  const Gateway& gateway_;
+  Notifier& notifier_;
+  Progress& progress_;
+};
+
+}  // namespace parlexo

@@ -1,0 +1,120 @@
+#include "app/core/command_line.h"
+
+#include <optional>
+
+#include <QDir>
+#include <QUrl>
+
+#include "base/product.h"
+
+namespace parlexo {
+
+namespace {
+
+using namespace Qt::StringLiterals;
+
+constexpr int wrongUsage = 2;
+
+QString helpText() {
+  return u"Usage: parlexo-client [options]\n"
+         "\n"
+         "Sends messages through the Parlexo gateway and follows their delivery.\n"
+         "\n"
+         "Options:\n"
+         "  --demo                  try the program out: a gateway simulator inside the process,\n"
+         "                          sample contacts, account demo with password demo1234\n"
+         "  --site http://HOST:PORT ask this web site where the gateway is, not %1\n"
+         "  --data-dir DIR          keep contacts, templates, status log and settings in DIR\n"
+         "  --version               print the version and end\n"
+         "  --help                  print this text and end\n"_qs.arg(defaultServiceHost());
+}
+
+ImmediateEnd wrong(const QString& message) {
+  return {wrongUsage, u"parlexo-client: "_qs + message + u"\nTry \"parlexo-client --help\".\n"_qs};
+}
+
+bool isToolkitOption(const QString& argument) {
+  return argument.size() > 1 && argument[0] == u'-' && argument[1] != u'-';
+}
+
+bool toolkitOptionTakesValue(const QString& argument) {
+  static const QStringList names = {u"-platform"_qs,   u"-platformtheme"_qs, u"-style"_qs,
+                                    u"-stylesheet"_qs, u"-display"_qs,       u"-geometry"_qs};
+  return names.contains(argument);
+}
+
+bool isSite(const QString& text) {
+  const QUrl url(text, QUrl::StrictMode);
+  const bool bare = (url.path().isEmpty() || url.path() == u"/"_qs) && !url.hasQuery() && !url.hasFragment();
+  return url.isValid() && url.scheme() == u"http"_qs && !url.host().isEmpty() && url.userInfo().isEmpty() &&
+         bare;
+}
+
+// Walks over the arguments one by one; an option may carry its value behind "=" or as the next argument.
+class Parser {
+ public:
+  explicit Parser(const QStringList& arguments) : rest_(arguments) {}
+
+  std::variant<ProgramOptions, ImmediateEnd> parse() {
+    while (!rest_.isEmpty() && !end_) take(rest_.takeFirst());
+    if (end_) return *end_;
+    return options_;
+  }
+
+ private:
+  void take(const QString& argument) {
+    if (!isToolkitOption(argument)) return takeOwn(argument);
+    if (toolkitOptionTakesValue(argument) && !rest_.isEmpty()) rest_.removeFirst();
+  }
+
+  void takeOwn(const QString& argument) {
+    if (argument == u"--help"_qs) {
+      end_ = ImmediateEnd{0, helpText()};
+    } else if (argument == u"--version"_qs) {
+      end_ = ImmediateEnd{0, u"Parlexo Client %1\n"_qs.arg(QLatin1String(clientVersion))};
+    } else if (argument == u"--demo"_qs) {
+      options_.demo = true;
+    } else {
+      takeWithValue(argument.section(u'=', 0, 0), argument);
+    }
+  }
+
+  void takeWithValue(const QString& name, const QString& argument) {
+    const bool isSiteOption = name == u"--site"_qs;
+    if (!isSiteOption && name != u"--data-dir"_qs) {
+      end_ = wrong(u"unknown option \"%1\""_qs.arg(argument));
+      return;
+    }
+    const QString value = valueOf(argument);
+    if (value.isEmpty())
+      end_ = wrong(u"option \"%1\" needs a value"_qs.arg(name));
+    else if (isSiteOption)
+      takeSite(value);
+    else
+      options_.dataDir = QDir(value).absolutePath();
+  }
+
+  QString valueOf(const QString& argument) {
+    if (argument.contains(u'=')) return argument.section(u'=', 1);
+    return rest_.isEmpty() || rest_.first().startsWith(u"--"_qs) ? QString() : rest_.takeFirst();
+  }
+
+  void takeSite(const QString& value) {
+    if (isSite(value))
+      options_.site = value.endsWith(u'/') ? value.chopped(1) : value;
+    else
+      end_ = wrong(u"\"%1\" is not a site such as http://127.0.0.1:8080"_qs.arg(value));
+  }
+
+  QStringList rest_;
+  ProgramOptions options_;
+  std::optional<ImmediateEnd> end_;
+};
+
+}  // namespace
+
+std::variant<ProgramOptions, ImmediateEnd> parseCommandLine(const QStringList& arguments) {
+  return Parser(arguments).parse();
+}
+
+}  // namespace parlexo

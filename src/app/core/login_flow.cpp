@@ -1,0 +1,44 @@
+#include "app/core/login_flow.h"
+
+#include "base/message_texts.h"
+
+namespace parlexo {
+
+namespace {
+constexpr int wrongCredentials = 4;
+}
+
+LoginOutcome LoginFlow::attempt(const QString& user, const QString& password) {
+  const auto reply = gateway_.call<protocol::sessionStartResponse>(
+      [user = toWire(user), password = toWire(password)](GatewayClient& client,
+                                                         protocol::sessionStartResponse& response) {
+        return client.sessionStart(user, password, response);
+      });
+  if (!reply.answered()) {
+    notifier_.error(text(TextId::GatewayUnreachable));
+    return LoginOutcome::Refused;
+  }
+  if (reply->nErrorCode != 0) {
+    showRefusal(reply->nErrorCode);
+    return LoginOutcome::Refused;
+  }
+  keepSession(fromWire(reply->sSession), user);
+  return LoginOutcome::Accepted;
+}
+
+void LoginFlow::showRefusal(int errorCode) {
+  if (errorCode == wrongCredentials)
+    notifier_.error(QStringLiteral("Invalid Username or Password. Passwords are case sensitive"));
+  else
+    notifier_.error(
+        withNumber(QStringLiteral("An error occured while logging on. Error code: %d"), errorCode));
+}
+
+void LoginFlow::keepSession(const QString& session, const QString& user) {
+  if (session.isEmpty()) return;
+  state_.session = session;
+  state_.userName = user;
+  settings_.setRememberedUser(user);
+}
+
+}  // namespace parlexo

@@ -1,0 +1,30 @@
+#include "app/core/shut_down.h"
+
+#include "gateway/core/gateway.h"
+
+namespace parlexo {
+
+namespace {
+// A gateway that has gone away must not keep the program from ending for minutes.
+constexpr GatewayTimeouts atExit{.connect = 5, .silence = 10};
+}  // namespace
+
+void shutDown(const RunState& state, RunStores& stores, Progress& progress, CallRunner& runner) {
+  progress.hide();
+  stores.releaseContacts();
+  stores.saveStatusLog();
+  endSession(state, runner);
+}
+
+void endSession(const RunState& state, CallRunner& runner) {
+  if (state.session.isEmpty()) return;
+  RunState direct = state;
+  direct.proxy = {};
+  const Gateway gateway(direct, runner, atExit);
+  (void)gateway.call<protocol::sessionEndResponse>(
+      [session = toWire(state.session)](GatewayClient& client, protocol::sessionEndResponse& response) {
+        return client.sessionEnd(session, response);
+      });
+}
+
+}  // namespace parlexo
