@@ -1,0 +1,15 @@
+#pragma once
+
+#include "ui/gradient_page.h"
+
+namespace parlexo {
+
+/// Product, version, rights and the way to the service's web site.
+class CAboutDlg : public GradientDialog {
+  Q_OBJECT
+
+ public:
+  explicit CAboutDlg(QWidget* parent = nullptr);
+};
+
+}  // namespace parlexo

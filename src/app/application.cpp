@@ -1,0 +1,46 @@
+#include "app/application.h"
+
+#include <QUrl>
+
+#include "app/core/shut_down.h"
+#include "app/core/start_up.h"
+#include "base/product.h"
+#include "gateway/core/server_locator.h"
+
+namespace parlexo {
+
+namespace {
+
+std::unique_ptr<Settings> openSettings(const ProgramOptions& options) {
+  if (options.dataDir.isEmpty()) return std::make_unique<Settings>();
+  makeFolderPath(options.dataDir);
+  return std::make_unique<Settings>(options.dataDir);
+}
+
+}  // namespace
+
+Application::Application(const ProgramOptions& options)
+    : site_(options.site),
+      settings_(openSettings(options)),
+      notifier_(*settings_),
+      runner_(progress_),
+      gateway_(state_, runner_),
+      stores_(*settings_, notifier_, progress_),
+      windows_({state_, *settings_, stores_, gateway_, notifier_, progress_}) {
+  setServiceHost(settings_->serviceHost());
+  if (site_.isEmpty()) site_ = QStringLiteral("http://") + settings_->serviceHost();
+}
+
+int Application::run() {
+  StartUp startUp({state_, *settings_, stores_, gateway_, notifier_, progress_, windows_,
+                   [this] { return locateGateway(); }});
+  const int exitCode = startUp.run();
+  shutDown(state_, stores_, progress_, runner_);
+  return exitCode;
+}
+
+bool Application::locateGateway() {
+  return ServerLocator(QUrl(site_)).locate(state_) == ServerLocator::Outcome::Located;
+}
+
+}  // namespace parlexo

@@ -1,0 +1,41 @@
+#pragma once
+
+#include <memory>
+
+#include <QString>
+
+#include "app/core/command_line.h"
+#include "app/disk_stores.h"
+#include "app/notification_notifier.h"
+#include "app/program_windows.h"
+#include "base/run_state.h"
+#include "base/settings.h"
+#include "gateway/boxes/progress_box.h"
+#include "gateway/boxes/thread_call_runner.h"
+#include "gateway/core/gateway.h"
+
+namespace parlexo {
+
+/// One run of the program: owns all that its parts share and puts them together. Needs a QApplication.
+class Application {
+ public:
+  explicit Application(const ProgramOptions& options);
+
+  /// Runs from the first progress box to the closed session; returns the exit code.
+  [[nodiscard]] int run();
+
+ private:
+  [[nodiscard]] bool locateGateway();
+
+  QString site_;
+  std::unique_ptr<Settings> settings_;
+  RunState state_;
+  NotificationNotifier notifier_;
+  ProgressBox progress_;
+  ThreadCallRunner runner_;
+  Gateway gateway_;
+  DiskStores stores_;
+  ProgramWindows windows_;
+};
+
+}  // namespace parlexo

@@ -1,0 +1,31 @@
+#include "app/disk_stores.h"
+
+#include <QtGlobal>
+
+namespace parlexo {
+
+DiskStores::DiskStores(Settings& settings, Notifier& notifier, Progress& progress)
+    : notifier_(notifier),
+      progress_(progress),
+      addressBook_(settings.contactsFolder(), database_, notifier),
+      statusFile_(settings.statusFile()) {}
+
+bool DiskStores::loadContacts() {
+  return addressBook_.loadAll(progress_);
+}
+
+void DiskStores::loadStatusLog() {
+  statusFile_.load(statusLog_, notifier_);
+  statusLogIsRead_ = true;
+}
+
+void DiskStores::releaseContacts() {
+  addressBook_.clear();
+}
+
+void DiskStores::saveStatusLog() {
+  if (statusLogIsRead_ && !statusFile_.save(statusLog_))
+    qWarning("The status log could not be written to %s", qUtf8Printable(statusFile_.path()));
+}
+
+}  // namespace parlexo

@@ -1,0 +1,45 @@
+#pragma once
+
+#include "app/core/run_stores.h"
+#include "app/pumping_lock_waiter.h"
+#include "base/notifier.h"
+#include "base/progress.h"
+#include "base/settings.h"
+#include "contacts/address_book.h"
+#include "contacts/item_database.h"
+#include "contacts/item_index_cache.h"
+#include "messaging/core/status_file.h"
+#include "messaging/core/status_log.h"
+
+namespace parlexo {
+
+/// Owns what a run keeps on disk: the address book with its database, and the log of sent messages.
+class DiskStores final : public RunStores {
+ public:
+  /// The folders are those that `settings` names now; a later change counts from the next start. The other
+  /// arguments must outlive the stores.
+  DiskStores(Settings& settings, Notifier& notifier, Progress& progress);
+
+  [[nodiscard]] bool loadContacts() override;
+  void loadStatusLog() override;
+  void releaseContacts() override;
+  /// Writes nothing when the log has never been read: the file would lose what stands in it.
+  void saveStatusLog() override;
+
+  [[nodiscard]] AddressBook& addressBook() { return addressBook_; }
+  [[nodiscard]] StatusLog& statusLog() { return statusLog_; }
+  [[nodiscard]] StatusFile& statusFile() { return statusFile_; }
+
+ private:
+  Notifier& notifier_;
+  Progress& progress_;
+  PumpingLockWaiter waiter_;
+  ItemIndexCache indexes_;
+  ItemDatabase database_{indexes_, waiter_};
+  AddressBook addressBook_;
+  StatusLog statusLog_;
+  StatusFile statusFile_;
+  bool statusLogIsRead_ = false;
+};
+
+}  // namespace parlexo

@@ -1,0 +1,112 @@
+#include "app/login_dlg.h"
+
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QScopedValueRollback>
+#include <QVBoxLayout>
+
+#include "app/banner.h"
+#include "base/product.h"
+#include "ui/hyperlink_label.h"
+#include "ui/look.h"
+#include "ui/picture_button.h"
+
+namespace parlexo {
+
+namespace {
+
+void addLink(QVBoxLayout& column, const QString& explanation, const QString& name, const QString& page) {
+  auto* label = new QLabel(explanation);
+  label->setWordWrap(true);
+  column.addWidget(label);
+  const QString address = webPage(page);
+  auto* link = new HyperlinkLabel(address, QUrl(address));
+  link->setObjectName(name);
+  column.addWidget(link, 0, Qt::AlignLeft);
+}
+
+}  // namespace
+
+CLoginDlg::CLoginDlg(LoginFlow& flow, const QString& rememberedUser, QWidget* parent)
+    : GradientDialog(parent), flow_(flow) {
+  setObjectName(QStringLiteral("login"));
+  setWindowTitle(QStringLiteral("Parlexo(TM) : Login v") + QLatin1String(clientVersion));
+  auto* column = new QVBoxLayout(this);
+  column->addWidget(new Banner);
+  addFields(*column, rememberedUser);
+  addButtons(*column);
+  column->addStretch(1);
+  addLink(*column,
+          QStringLiteral("If you don't have an account with Parlexo then click the link to sign-up. The "
+                         "sign-up process only takes a minute:"),
+          QStringLiteral("signUp"), QStringLiteral("/signup.php"));
+  addLink(*column, QStringLiteral("Lost your password? Click the link to get your password details:"),
+          QStringLiteral("forgotPassword"), QStringLiteral("/forgotpassword.php"));
+  setMinimumSize(dialogUnits(*this, 250, 129));
+}
+
+void CLoginDlg::addFields(QVBoxLayout& column, const QString& rememberedUser) {
+  user_ = createField(QStringLiteral("userName"));
+  user_->setText(rememberedUser);
+  password_ = createField(QStringLiteral("password"));
+  password_->setEchoMode(QLineEdit::Password);
+  auto* grid = new QGridLayout;
+  const auto addRow = [grid](int row, const QString& text, QLineEdit* field) {
+    auto* label = new QLabel(text);
+    label->setBuddy(field);
+    grid->addWidget(label, row, 0);
+    grid->addWidget(field, row, 1);
+  };
+  addRow(0, QStringLiteral("User Name:"), user_);
+  addRow(1, QStringLiteral("Password:"), password_);
+  column.addLayout(grid);
+  (rememberedUser.isEmpty() ? user_ : password_)->setFocus();
+}
+
+QLineEdit* CLoginDlg::createField(const QString& name) {
+  auto* field = new QLineEdit(this);
+  field->setObjectName(name);
+  return field;
+}
+
+void CLoginDlg::addButtons(QVBoxLayout& column) {
+  auto* login = new PictureButton(QStringLiteral("Login"));
+  login->setObjectName(QStringLiteral("logIn"));
+  login->setDefault(true);
+  connect(login, &PictureButton::clicked, this, &CLoginDlg::logIn);
+  auto* cancel = new PictureButton(QStringLiteral("Cancel"));
+  cancel->setObjectName(QStringLiteral("cancel"));
+  connect(cancel, &PictureButton::clicked, this, &CLoginDlg::reject);
+  auto* row = new QHBoxLayout;
+  row->addStretch();
+  row->addWidget(login);
+  row->addWidget(cancel);
+  column.addLayout(row);
+}
+
+void CLoginDlg::logIn() {
+  if (attempting_) return;
+  LoginOutcome outcome = LoginOutcome::Refused;
+  {
+    const QScopedValueRollback attempt(attempting_, true);
+    outcome = flow_.attempt(user_->text(), password_->text());
+  }
+  if (outcome == LoginOutcome::Accepted) return accept();
+  password_->setFocus();
+  password_->selectAll();
+}
+
+void CLoginDlg::reject() {
+  // An attempt that is under way would come back to a dialog that is gone.
+  if (!attempting_) GradientDialog::reject();
+}
+
+void CLoginDlg::showEvent(QShowEvent* event) {
+  GradientDialog::showEvent(event);
+  raise();
+  activateWindow();
+}
+
+}  // namespace parlexo

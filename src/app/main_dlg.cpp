@@ -1,0 +1,134 @@
+#include "app/main_dlg.h"
+
+#include <algorithm>
+
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QShortcut>
+#include <QTabWidget>
+#include <QVBoxLayout>
+
+#include "app/about_dlg.h"
+#include "app/banner.h"
+#include "base/product.h"
+#include "ui/hyperlink_label.h"
+#include "ui/look.h"
+#include "ui/picture_button.h"
+
+namespace parlexo {
+
+namespace {
+
+QLineEdit* addField(QGridLayout& grid, int row, const QString& name, const QString& labelText) {
+  auto* field = new QLineEdit;
+  field->setObjectName(name);
+  field->setReadOnly(true);
+  auto* label = new QLabel(labelText);
+  label->setBuddy(field);
+  grid.addWidget(label, row, 0, Qt::AlignRight);
+  grid.addWidget(field, row, 1);
+  return field;
+}
+
+bool claims(const QWidget& page, const QKeySequence& shortcut) {
+  const auto buttons = page.findChildren<QAbstractButton*>();
+  return std::any_of(buttons.begin(), buttons.end(),
+                     [&shortcut](const QAbstractButton* button) { return button->shortcut() == shortcut; });
+}
+
+}  // namespace
+
+CMainDlg::CMainDlg(const std::vector<MainTab>& tabs, QWidget* parent) : GradientDialog(parent) {
+  setObjectName(QStringLiteral("mainWindow"));
+  setWindowTitle(QStringLiteral("Parlexo(TM) : Messaging Client v") + QLatin1String(clientVersion));
+  setWindowFlag(Qt::WindowMinMaxButtonsHint);
+  auto* column = new QVBoxLayout(this);
+  addHeader(*column);
+  addTabs(*column, tabs);
+  addFooter(*column);
+  addShortcuts();
+  shareExitMnemonic();
+  setMinimumSize(dialogUnits(*this, 558, 330));
+}
+
+void CMainDlg::setUserName(const QString& name) {
+  userName_->setText(name);
+}
+
+void CMainDlg::setBalance(const QString& amount) {
+  balance_->setText(amount);
+}
+
+void CMainDlg::openTab(const QString& text) {
+  for (int i = 0; i < tabs_->count(); ++i)
+    if (tabs_->tabText(i) == text) tabs_->setCurrentIndex(i);
+}
+
+void CMainDlg::showEvent(QShowEvent* event) {
+  GradientDialog::showEvent(event);
+  if (hasOpened_) return;
+  hasOpened_ = true;
+  QMetaObject::invokeMethod(this, &CMainDlg::opened, Qt::QueuedConnection);
+}
+
+void CMainDlg::keyPressEvent(QKeyEvent* event) {
+  // A message half written must not go with a slip of the finger: only Exit and the close box end the
+  // program.
+  if (event->key() != Qt::Key_Escape) GradientDialog::keyPressEvent(event);
+}
+
+void CMainDlg::addHeader(QVBoxLayout& column) {
+  auto* grid = new QGridLayout;
+  userName_ = addField(*grid, 0, QStringLiteral("userName"), QStringLiteral("User Name:"));
+  balance_ = addField(*grid, 1, QStringLiteral("balance"), QStringLiteral("Account Balance: "));
+  grid->addWidget(new QLabel(QStringLiteral("(in your account's base currency)")), 1, 2);
+  auto* row = new QHBoxLayout;
+  row->addWidget(new Banner, 1);
+  row->addLayout(grid);
+  column.addLayout(row);
+}
+
+void CMainDlg::addTabs(QVBoxLayout& column, const std::vector<MainTab>& tabs) {
+  tabs_ = new QTabWidget;
+  tabs_->setObjectName(QStringLiteral("tabs"));
+  for (const auto& tab : tabs) tabs_->addTab(tab.create(), tab.text);
+  connect(tabs_, &QTabWidget::currentChanged, this, &CMainDlg::shareExitMnemonic);
+  column.addWidget(tabs_, 1);
+}
+
+void CMainDlg::addFooter(QVBoxLayout& column) {
+  auto* about = new HyperlinkLabel(QStringLiteral("About"));
+  about->setObjectName(QStringLiteral("about"));
+  connect(about, &HyperlinkLabel::clicked, this, &CMainDlg::showAbout);
+  exit_ = new PictureButton(QStringLiteral("&Exit"));
+  exit_->setObjectName(QStringLiteral("exit"));
+  connect(exit_, &PictureButton::clicked, this, &CMainDlg::accept);
+  auto* row = new QHBoxLayout;
+  row->addWidget(about);
+  row->addStretch();
+  row->addWidget(exit_);
+  column.addLayout(row);
+}
+
+void CMainDlg::addShortcuts() {
+  auto* quit = new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_Q), this);
+  connect(quit, &QShortcut::activated, this, &CMainDlg::accept);
+  auto* help = new QShortcut(QKeySequence(Qt::Key_F1), this);
+  connect(help, &QShortcut::activated, this, &CMainDlg::showAbout);
+}
+
+// Where the visible page has a button of the same mnemonic ("S&end >"), the key is the page's.
+void CMainDlg::shareExitMnemonic() {
+  const QKeySequence mnemonic = QKeySequence::mnemonic(exit_->text());
+  const QWidget* page = tabs_->currentWidget();
+  exit_->setShortcut(page && claims(*page, mnemonic) ? QKeySequence() : mnemonic);
+}
+
+void CMainDlg::showAbout() {
+  CAboutDlg(this).exec();
+}
+
+}  // namespace parlexo

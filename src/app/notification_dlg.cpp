@@ -1,0 +1,111 @@
+#include "app/notification_dlg.h"
+
+#include <QCheckBox>
+#include <QHBoxLayout>
+#include <QPlainTextEdit>
+#include <QVBoxLayout>
+
+#include "app/core/notification_results.h"
+#include "app/message_icon.h"
+#include "base/message_texts.h"
+#include "gateway/boxes/animated_picture.h"
+#include "ui/look.h"
+#include "ui/picture_button.h"
+
+namespace parlexo {
+
+namespace {
+
+// Read-only, so that a long text scrolls and every text can be selected, copied and read aloud.
+QPlainTextEdit* createMessage(const QString& text) {
+  auto* message = new QPlainTextEdit(text);
+  message->setObjectName(QStringLiteral("message"));
+  message->setAccessibleName(QStringLiteral("Message"));
+  message->setReadOnly(true);
+  message->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+  message->setTabChangesFocus(true);
+  message->setFrameShape(QFrame::NoFrame);
+  QPalette palette = message->palette();
+  palette.setColor(QPalette::Base, Qt::transparent);
+  message->setPalette(palette);
+  return message;
+}
+
+}  // namespace
+
+CNotificationDlg::CNotificationDlg(const QString& text, unsigned style, bool suppressible, QWidget* parent)
+    : GradientDialog(parent), style_(style) {
+  setObjectName(QStringLiteral("notification"));
+  setWindowTitle(QStringLiteral("Parlexo(TM) : Notification"));
+  auto* column = new QVBoxLayout(this);
+  column->addLayout(createHeader(text), 1);
+  dontShowAgain_ = new QCheckBox(QStringLiteral("&Don't show again"));
+  dontShowAgain_->setObjectName(QStringLiteral("dontShowAgain"));
+  column->addWidget(dontShowAgain_);
+  dontShowAgain_->setVisible(suppressible);
+  column->addLayout(createButtons());
+  resize(dialogUnits(*this, 218, 194));
+}
+
+bool CNotificationDlg::dontShowAgain() const {
+  return dontShowAgain_->isChecked();
+}
+
+void CNotificationDlg::reject() {
+  end(closeResult(style_));
+}
+
+void CNotificationDlg::showEvent(QShowEvent* event) {
+  GradientDialog::showEvent(event);
+  raise();
+  activateWindow();
+}
+
+QHBoxLayout* CNotificationDlg::createHeader(const QString& text) {
+  auto* left = new QVBoxLayout;
+  left->addWidget(new MessageIcon(style_));
+  left->addStretch();
+  auto* right = new QVBoxLayout;
+  right->addWidget(createMessage(text), 1);
+  auto* picture = new CAnimatedPicture;
+  if (picture->loadFromResource(QLatin1String(connectingAnimation))) picture->start();
+  right->addWidget(picture, 0, Qt::AlignHCenter);
+  auto* row = new QHBoxLayout;
+  row->addLayout(left);
+  row->addLayout(right, 1);
+  return row;
+}
+
+QHBoxLayout* CNotificationDlg::createButtons() {
+  auto* row = new QHBoxLayout;
+  row->addStretch();
+  const unsigned buttons = style_ & message_style::buttonBits;
+  const bool asks = buttons == message_style::yesNo || buttons == message_style::yesNoCancel;
+  if (asks) {
+    addButton(*row, text(TextId::ButtonYes), MessageResult::Yes);
+    addButton(*row, text(TextId::ButtonNo), MessageResult::No);
+  }
+  if (buttons == message_style::yesNoCancel)
+    addButton(*row, text(TextId::ButtonCancel), MessageResult::Cancel);
+  if (buttons == message_style::ok) addButton(*row, text(TextId::ButtonOk), MessageResult::Ok);
+  row->addStretch();
+  return row;
+}
+
+void CNotificationDlg::addButton(QHBoxLayout& row, const QString& text, MessageResult result) {
+  const bool isFirst = row.count() == 1;  // the stretch alone
+  auto* button = new PictureButton(text);
+  button->setObjectName(QStringLiteral("button%1").arg(static_cast<int>(result)));
+  connect(button, &PictureButton::clicked, this, [this, result] { end(result); });
+  row.addWidget(button);
+  if (!isFirst) return;
+  button->setDefault(true);
+  button->setFocus();
+}
+
+void CNotificationDlg::end(MessageResult answer) {
+  answer_ = answer;
+  done(static_cast<int>(answer));
+}
+
+}  // namespace parlexo

@@ -1,0 +1,39 @@
+#include "app/program_windows.h"
+
+#include <QApplication>
+#include <QScopedValueRollback>
+
+#include "app/core/balance_check.h"
+#include "app/core/login_flow.h"
+#include "app/login_dlg.h"
+#include "app/main_dlg.h"
+#include "app/main_tabs.h"
+#include "gateway/boxes/upgrade_dlg.h"
+
+namespace parlexo {
+
+void ProgramWindows::showUpgrade(const QString& version) {
+  CUpgradeDlg(version, QApplication::activeWindow()).exec();
+}
+
+bool ProgramWindows::logIn() {
+  LoginFlow flow(services_.state, services_.settings, services_.gateway, services_.notifier);
+  CLoginDlg dialog(flow, services_.settings.rememberedUser(), mainWindow_);
+  return dialog.exec() == QDialog::Accepted;
+}
+
+void ProgramWindows::logInAgain() {
+  if (logIn() && mainWindow_) mainWindow_->setUserName(services_.state.userName);
+}
+
+void ProgramWindows::runMainWindow() {
+  CMainDlg window(mainTabs());
+  const QScopedValueRollback<CMainDlg*> open(mainWindow_, &window);
+  window.setUserName(services_.state.userName);
+  BalanceCheck check(services_.state, services_.gateway, services_.notifier, services_.progress);
+  window.setBalance(check.run());
+  services_.progress.hide();
+  window.exec();
+}
+
+}  // namespace parlexo

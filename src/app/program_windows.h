@@ -1,0 +1,43 @@
+#pragma once
+
+#include <QString>
+
+#include "app/core/start_up.h"
+#include "base/notifier.h"
+#include "base/progress.h"
+#include "base/run_state.h"
+#include "base/session_renewal.h"
+#include "base/settings.h"
+#include "gateway/core/gateway.h"
+
+namespace parlexo {
+
+class CMainDlg;
+class DiskStores;
+
+/// What the windows of a run share; everything must outlive them.
+struct WindowServices {
+  RunState& state;
+  Settings& settings;
+  DiskStores& stores;
+  const Gateway& gateway;
+  Notifier& notifier;
+  Progress& progress;
+};
+
+/// Opens the program's own windows with their real parts behind them.
+class ProgramWindows final : public StartUpWindows, public SessionRenewal {
+ public:
+  explicit ProgramWindows(const WindowServices& services) : services_(services) {}
+
+  void showUpgrade(const QString& version) override;
+  [[nodiscard]] bool logIn() override;
+  void runMainWindow() override;
+  void logInAgain() override;
+
+ private:
+  WindowServices services_;
+  CMainDlg* mainWindow_ = nullptr;  ///< while it is open
+};
+
+}  // namespace parlexo

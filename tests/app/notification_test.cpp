@@ -1,0 +1,137 @@
+#include <functional>
+
+#include <QAbstractButton>
+#include <QCheckBox>
+#include <QPlainTextEdit>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTimer>
+#include <gtest/gtest.h>
+
+#include "app/core/notification_results.h"
+#include "app/notification_dlg.h"
+#include "app/notification_notifier.h"
+#include "gateway/boxes/progress_box.h"
+
+namespace parlexo {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+class NotificationTest : public testing::Test {
+ protected:
+  using Action = std::function<void(CNotificationDlg&)>;
+
+  // Shows a message and lets `act` answer it once its window takes input.
+  MessageResult show(unsigned style, int number, const Action& act) {
+    shown_ = false;
+    QTimer::singleShot(0, &notifier_owner_, [this, act] {
+      auto* dialog = qobject_cast<CNotificationDlg*>(QApplication::activeModalWidget());
+      if (!dialog) return;
+      shown_ = QTest::qWaitForWindowActive(dialog);
+      act(*dialog);
+    });
+    return notifier_.show(u"First line\r\nSecond line"_qs, style, number);
+  }
+
+  static void press(CNotificationDlg& dialog, MessageResult result) {
+    QTest::mouseClick(dialog.findChild<QAbstractButton*>(u"button%1"_qs.arg(static_cast<int>(result))),
+                      Qt::LeftButton);
+  }
+
+  QTemporaryDir folder_;
+  Settings settings_{folder_.path()};
+  NotificationNotifier notifier_{settings_};
+  QObject notifier_owner_;
+  bool shown_ = false;
+};
+
+struct Buttons {
+  unsigned style;
+  std::vector<MessageResult> offered;
+  QStringList texts;
+  MessageResult onEscape;
+  MessageResult whenSuppressed;
+};
+
+class NotificationButtons : public NotificationTest, public testing::WithParamInterface<Buttons> {};
+
+TEST_P(NotificationButtons, eachEndsTheDialogWithItsResult) {
+  for (const auto result : GetParam().offered) {
+    EXPECT_EQ(show(GetParam().style, 0, [result](auto& dialog) { press(dialog, result); }), result);
+    EXPECT_TRUE(shown_);
+  }
+}
+
+TEST_P(NotificationButtons, standInOrderAndNoOthers) {
+  QStringList texts;
+  show(GetParam().style, 0, [&texts](auto& dialog) {
+    for (const auto* button : dialog.template findChildren<QAbstractButton*>())
+      if (button->isVisible()) texts << button->text();
+    dialog.close();
+  });
+  EXPECT_EQ(texts, GetParam().texts);
+}
+
+TEST_P(NotificationButtons, escapeAndCloseBoxGiveTheMildestAnswer) {
+  EXPECT_EQ(show(GetParam().style, 0, [](auto& dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); }),
+            GetParam().onEscape);
+  EXPECT_EQ(show(GetParam().style, 0, [](auto& dialog) { dialog.close(); }), GetParam().onEscape);
+}
+
+TEST_P(NotificationButtons, suppressedMessageIsAnsweredUnseen) {
+  settings_.suppressMessage(146);
+  EXPECT_EQ(show(GetParam().style, 146, [](auto& dialog) { dialog.close(); }), GetParam().whenSuppressed);
+  QCoreApplication::processEvents();
+  EXPECT_FALSE(shown_);
+}
+
+constexpr auto Ok = MessageResult::Ok;
+constexpr auto Cancel = MessageResult::Cancel;
+constexpr auto Yes = MessageResult::Yes;
+constexpr auto No = MessageResult::No;
+
+INSTANTIATE_TEST_SUITE_P(
+    Styles, NotificationButtons,
+    testing::Values(
+        Buttons{message_style::ok | message_style::stop, {Ok}, {u"&OK"_qs}, Ok, Ok},
+        Buttons{message_style::yesNo | message_style::question, {Yes, No}, {u"&Yes"_qs, u"&No"_qs}, No, Ok},
+        Buttons{message_style::yesNoCancel | message_style::exclamation,
+                {Yes, No, Cancel},
+                {u"&Yes"_qs, u"&No"_qs, u"&Cancel"_qs},
+                Cancel,
+                No},
+        Buttons{message_style::okCancel, {}, {}, Ok, No},
+        Buttons{message_style::abortRetryIgnore | message_style::information, {}, {}, Ok, No}));
+
+TEST_F(NotificationTest, tickedBoxIsRememberedForThatMessageAlone) {
+  const auto tickAndClose = [](auto& dialog) {
+    auto* box = dialog.template findChild<QCheckBox*>();
+    EXPECT_TRUE(box->isVisible());
+    box->setChecked(true);
+    QTest::keyClick(&dialog, Qt::Key_Return);
+  };
+  EXPECT_EQ(show(message_style::information, 146, tickAndClose), Ok);
+  EXPECT_TRUE(settings_.isMessageSuppressed(146));
+  EXPECT_FALSE(settings_.isMessageSuppressed(147));
+}
+
+TEST_F(NotificationTest, messageThatCannotBeSuppressedHasNoCheckBox) {
+  show(message_style::information, 0, [](auto& dialog) {
+    EXPECT_FALSE(dialog.template findChild<QCheckBox*>()->isVisible());
+    EXPECT_EQ(dialog.template findChild<QPlainTextEdit*>()->toPlainText(), u"First line\nSecond line"_qs);
+    dialog.close();
+  });
+  EXPECT_TRUE(shown_);
+}
+
+TEST_F(NotificationTest, messageOverTheProgressBoxTakesInput) {
+  ProgressBox progress;
+  progress.show();
+  EXPECT_EQ(show(message_style::yesNo, 0, [](auto& dialog) { press(dialog, Yes); }), Yes);
+  EXPECT_TRUE(shown_);
+  EXPECT_TRUE(progress.isShowing());
+}
+
+}  // namespace
+}  // namespace parlexo
