@@ -1,0 +1,147 @@
+#include "contacts/address_book.h"
+
+#include <gmock/gmock.h>
+
+#include "contacts/contact_file_format.h"
+#include "tests/contacts/store_fixture.h"
+
+namespace parlexo {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+const QString contactsFile = QStringLiteral("All Contacts.all_grp");
+
+ContactRecord contact(const QString& name, const QString& phone = {}) {
+  ContactRecord record;
+  record.name = name;
+  record.phone = phone;
+  return record;
+}
+
+const QString ann = QStringLiteral("Ann");
+const QString ben = QStringLiteral("Ben");
+const QString team = QStringLiteral("Team 1/2");
+
+class AddressBookChanges : public AddressBookFixture {
+ protected:
+  void SetUp() override {
+    EXPECT_TRUE(book_.saveContact(contact(ann)) && book_.saveContact(contact(ben)));
+    EXPECT_TRUE(book_.createGroup(team, {ann, ben, QStringLiteral("Nobody")}));
+  }
+  QByteArray fileOf(const QString& name) const { return readBytes(pathOf(name)); }
+
+  const QString teamFile_ = QStringLiteral("Team 1-42.grp");
+};
+
+QByteArray deleted(QByteArray record) {
+  record[0] = ItemDatabase::recordDeleted;
+  return record;
+}
+
+TEST_F(AddressBookChanges, areWrittenThroughAtOnce) {
+  EXPECT_EQ(fileOf(contactsFile), packContact(contact(ann)) + packContact(contact(ben)));
+  EXPECT_EQ(fileOf(teamFile_), packMember(ann) + packMember(ben));
+  EXPECT_EQ(book_.findGroup(team)->members().size(), 2U);
+  EXPECT_THAT(notifier_.shown, IsEmpty());
+}
+
+TEST_F(AddressBookChanges, ofKnownContactKeepItsAddressAndGroups) {
+  const ContactRecord* before = book_.findContact(ann);
+  EXPECT_TRUE(book_.saveContact(contact(ann, QStringLiteral("+1"))));
+  EXPECT_EQ(book_.findContact(ann), before);
+  EXPECT_EQ(book_.findGroup(team)->members().at(ann)->phone, QStringLiteral("+1"));
+  EXPECT_EQ(fileOf(contactsFile),
+            packContact(contact(ann, QStringLiteral("+1"))) + packContact(contact(ben)));
+}
+
+TEST_F(AddressBookChanges, deletedContactLeavesEveryGroup) {
+  EXPECT_TRUE(book_.createGroup(QStringLiteral("Other"), {ben}));
+  EXPECT_TRUE(book_.deleteContact(book_.findContact(ann)->name));
+  EXPECT_FALSE(book_.findContact(ann));
+  EXPECT_FALSE(book_.findGroup(team)->contains(ann));
+  EXPECT_EQ(fileOf(contactsFile), deleted(packContact(contact(ann))) + packContact(contact(ben)));
+  EXPECT_EQ(fileOf(teamFile_), deleted(packMember(ann)) + packMember(ben));
+  EXPECT_EQ(fileOf(QStringLiteral("Other.grp")), packMember(ben));
+}
+
+TEST_F(AddressBookChanges, contactWithNameLongerThanItsFieldCanBeDeleted) {
+  const QString name(100, u'x');
+  EXPECT_TRUE(book_.saveContact(contact(name)) && book_.deleteContact(name));
+  EXPECT_EQ(fileOf(contactsFile).last(512), deleted(packContact(contact(name))));
+}
+
+TEST_F(AddressBookChanges, renamedContactStaysInItsGroups) {
+  const QString anne = QStringLiteral("Anne");
+  EXPECT_TRUE(book_.renameContact(ann, contact(anne)));
+  EXPECT_FALSE(book_.findContact(ann));
+  EXPECT_EQ(book_.findGroup(team)->members().at(anne), book_.findContact(anne));
+  EXPECT_FALSE(book_.findGroup(team)->contains(ann));
+  EXPECT_EQ(fileOf(contactsFile),
+            deleted(packContact(contact(ann))) + packContact(contact(ben)) + packContact(contact(anne)));
+  EXPECT_EQ(fileOf(teamFile_), deleted(packMember(ann)) + packMember(ben) + packMember(anne));
+}
+
+TEST_F(AddressBookChanges, memberCanGoAndComeBackToItsSlot) {
+  EXPECT_TRUE(book_.removeMember(team, ann));
+  EXPECT_EQ(fileOf(teamFile_), deleted(packMember(ann)) + packMember(ben));
+  EXPECT_TRUE(book_.addMember(team, ann));
+  EXPECT_EQ(fileOf(teamFile_), packMember(ann) + packMember(ben));
+  EXPECT_FALSE(book_.addMember(team, QStringLiteral("Nobody")));
+  EXPECT_FALSE(book_.removeMember(QStringLiteral("No group"), ann));
+}
+
+TEST_F(AddressBookChanges, groupMadeAnewAfterItsDeletionStartsEmpty) {
+  EXPECT_TRUE(book_.deleteGroup(book_.findGroup(team)->name()));
+  EXPECT_FALSE(book_.findGroup(team));
+  EXPECT_TRUE(fileOf(teamFile_).isNull());
+  EXPECT_TRUE(book_.createGroup(team, {ben}));
+  EXPECT_EQ(fileOf(teamFile_), packMember(ben));
+}
+
+TEST_F(AddressBookChanges, inMemoryAloneLeaveTheFiles) {
+  const QString cleo = QStringLiteral("Cleo");
+  EXPECT_TRUE(book_.saveContact(contact(cleo), false) && book_.addMember(team, cleo, false));
+  EXPECT_TRUE(book_.createGroup(QStringLiteral("Ghosts"), {cleo}, false));
+  EXPECT_TRUE(book_.findGroup(team)->contains(cleo) &&
+              book_.findGroup(QStringLiteral("Ghosts"))->contains(cleo));
+  EXPECT_EQ(fileOf(contactsFile).size(), 2 * contactRecordSize);
+  EXPECT_EQ(fileOf(teamFile_).size(), 2 * memberRecordSize);
+  EXPECT_TRUE(fileOf(QStringLiteral("Ghosts.grp")).isNull());
+}
+
+TEST(AddressBookFailures, areToldAndMemoryChangesAllTheSame) {
+  QTemporaryDir folder;
+  ItemIndexCache cache;
+  FakeWaiter waiter;
+  ItemDatabase database(cache, waiter);
+  RecordingNotifier notifier;
+  AddressBook book(folder.filePath(QStringLiteral("missing")), database, notifier);
+
+  EXPECT_FALSE(book.saveContact(contact(ann)));
+  EXPECT_FALSE(book.createGroup(team, {ann}));
+  EXPECT_FALSE(book.addMember(team, ann));
+  EXPECT_TRUE(book.findGroup(team)->contains(ann));
+  cache.dropAllItemIndexes();
+  EXPECT_FALSE(book.deleteContact(ann));
+  EXPECT_TRUE(book.contacts().empty() && book.findGroup(team)->members().empty());
+  EXPECT_FALSE(book.deleteGroup(team));
+  EXPECT_TRUE(book.groups().empty());
+  const QString readError = QStringLiteral("[readAllItems:2 - Database open error!]");
+  EXPECT_THAT(
+      notifier.shown,
+      ElementsAre(
+          QStringLiteral("16 There was a problem trying to save your contact to the database. Error=") +
+              readError,
+          QStringLiteral("16 There was a problem trying to create your group in the database "
+                         "Error=[createDb:1 - Can't create the database!]"),
+          QStringLiteral("16 There was a problem saving your contact to the database group. Error=") +
+              readError,
+          QStringLiteral("16 There was a problem deleting a contact from your database. Error=") + readError,
+          QStringLiteral("16 There was a problem deleting a contact from your database. Error=") + readError,
+          QStringLiteral("16 There was a problem trying to delete your group from the database")));
+}
+
+}  // namespace
+}  // namespace parlexo

@@ -1,0 +1,86 @@
+#include "contacts/contact_file_format.h"
+
+#include <gtest/gtest.h>
+
+#include "contacts/group_file_name.h"
+
+namespace parlexo {
+namespace {
+
+QByteArray field(const QByteArray& content, int width) {
+  return content.leftJustified(width, '\0');
+}
+
+TEST(ContactFileFormat, contactRecordHasItsFieldsInPlace) {
+  ContactRecord contact;
+  contact.name = QStringLiteral("Zo\u00EB \u20AC");
+  contact.phone = QStringLiteral("+491712345678");
+  contact.supportsSms = QStringLiteral("Yes");
+  contact.supportsMedia = QStringLiteral("N");
+  contact.fax = QStringLiteral("+4930");
+  contact.email = QStringLiteral("z@x.example");
+  contact.extra = {QStringLiteral("one"), QStringLiteral("two"), QString(), QStringLiteral("four"), QString(),
+                   QStringLiteral("six")};
+  const QByteArray expected = "\x01" + field("Zo\xEB \x80", 80) + field("z@x.example", 60) +
+                              field("+491712345678", 20) + field("+4930", 20) + "YN" + field("one", 40) +
+                              field("two", 40) + field("", 40) + field("four", 40) + field("", 40) +
+                              field("six", 40) + field("", 89);
+  ASSERT_EQ(expected.size(), 512);
+  EXPECT_EQ(packContact(contact), expected);
+
+  const ContactRecord read = unpackContact(expected);
+  EXPECT_EQ(read.name, contact.name);
+  EXPECT_EQ(read.phone, contact.phone);
+  EXPECT_EQ(read.supportsSms, QStringLiteral("Y"));
+  EXPECT_EQ(read.supportsMedia, contact.supportsMedia);
+  EXPECT_EQ(read.fax, contact.fax);
+  EXPECT_EQ(read.email, contact.email);
+  EXPECT_EQ(read.extra, contact.extra);
+}
+
+TEST(ContactFileFormat, longValuesFillTheirFieldsAndNothingElse) {
+  ContactRecord contact;
+  contact.name = QString(81, u'n');
+  contact.email = QString(61, u'e');
+  contact.phone = QString(21, u'1');
+  contact.fax = QString(21, u'2');
+  for (QString& extra : contact.extra) extra = QString(41, u'x');
+  const QByteArray expected = "\x01" + QByteArray(80, 'n') + QByteArray(60, 'e') + QByteArray(20, '1') +
+                              QByteArray(20, '2') + QByteArray(2, '\0') + QByteArray(240, 'x') +
+                              QByteArray(89, '\0');
+  EXPECT_EQ(packContact(contact), expected);
+  EXPECT_EQ(unpackContact(expected).name, QString(80, u'n'));
+  EXPECT_EQ(unpackContact(expected).extra[5], QString(40, u'x'));
+  EXPECT_EQ(packName(contact.name), QByteArray(80, 'n'));
+}
+
+TEST(ContactFileFormat, memberRecordIsTheNameAlone) {
+  const QByteArray expected = "\x01" + field("J\xF6rg", 255);
+  EXPECT_EQ(packMember(QStringLiteral("J\u00F6rg")), expected);
+  EXPECT_EQ(unpackMember(expected), "J\xF6rg");
+}
+
+TEST(GroupFileName, everyReplacementInBothDirections) {
+  const QString plain = QStringLiteral(R"(-%\:/*?"'.<>|ö)");
+  const QString encoded = QStringLiteral("---1-2-3-4-5-6-7-8-9-A-B|ö.grp");
+  EXPECT_EQ(encodeGroupFileName(plain, QStringLiteral(".grp")), encoded);
+  EXPECT_EQ(encodeGroupFileName(QStringLiteral("a.b"), QStringLiteral(".grp")), QStringLiteral("a-9b.grp"));
+}
+
+TEST(GroupFileName, decodingUndoesDoubledHyphensFirst) {
+  const struct {
+    const char16_t* fileName;
+    const char16_t* name;
+  } cases[] = {
+      {u"a-9b.grp", u"a.b"},    {u"a--b.grp", u"a-b"},   {u"a--1.grp", u"a%"},
+      {u"a--B--A.grp", u"a><"}, {u"a----1.grp", u"a-%"}, {u"-4-3-2.grp", u"/:\\"},
+      {u"plain.grp", u"plain"}, {u".grp.grp", u".grp"},  {u"plain.txt", u"plain.txt"},
+  };
+  for (const auto& each : cases) {
+    const QString fileName = QString::fromUtf16(each.fileName);
+    EXPECT_EQ(decodeGroupFileName(fileName, QStringLiteral(".grp")), QString::fromUtf16(each.name));
+  }
+}
+
+}  // namespace
+}  // namespace parlexo

@@ -1,0 +1,267 @@
+#include "contacts/item_database.h"
+
+#include <QByteArrayList>
+#include <gmock/gmock.h>
+
+#include "tests/contacts/store_fixture.h"
+
+namespace parlexo {
+namespace {
+
+using testing::ElementsAre;
+
+// Records of 12 bytes: state, key of 4, data of 7.
+constexpr int recordSize = 12;
+constexpr int keyWidth = 4;
+constexpr int timeout = 2;
+
+QByteArray bytes(const char* literal, qsizetype size) {
+  return QByteArray(literal, size);
+}
+
+const QByteArray anna = bytes("\1Anna1111111", recordSize);
+const QByteArray bob = bytes(
+    "\1Bob\0"
+    "2222222",
+    recordSize);
+const QByteArray cleo = bytes("\1Cleo3333333", recordSize);
+
+class ItemDatabaseFixture : public StoreFixture {
+ protected:
+  bool write(const QByteArray& record) {
+    return database_.writeItem(error_, keyWidth, path_, recordSize, record, timeout);
+  }
+  bool erase(const char* key, bool& deleted) {
+    return database_.deleteItem(error_, keyWidth, path_, key, recordSize, deleted, timeout);
+  }
+  QByteArrayList readAll(bool includeDeleted = false) {
+    QByteArrayList records;
+    const auto add = [&](QByteArrayView record) {
+      records.append(record.toByteArray());
+      return true;
+    };
+    EXPECT_TRUE(database_.readAllItems(error_, recordSize, path_, add, timeout, includeDeleted));
+    return records;
+  }
+
+  QString path_ = pathOf(QStringLiteral("items.db"));
+};
+
+TEST_F(ItemDatabaseFixture, everyOperationCreatesTheMissingFileEmptyOrWithItsRecord) {
+  EXPECT_TRUE(readAll().isEmpty());
+  EXPECT_EQ(readBytes(path_), "");
+
+  bool deleted = true;
+  path_ = pathOf(QStringLiteral("deleting.db"));
+  EXPECT_TRUE(erase("Anna", deleted));
+  EXPECT_FALSE(deleted);
+  EXPECT_EQ(readBytes(path_), "");
+
+  path_ = pathOf(QStringLiteral("writing.db"));
+  EXPECT_TRUE(write(anna));
+  EXPECT_EQ(readBytes(path_), anna);
+
+  path_ = pathOf(QStringLiteral("creating.db"));
+  EXPECT_TRUE(database_.createDb(error_, path_));
+  EXPECT_EQ(readBytes(path_), "");
+  EXPECT_EQ(error_, QString());
+}
+
+TEST_F(ItemDatabaseFixture, newKeysAreAppendedAndMarkedInUseWhateverTheirStateByte) {
+  QByteArray marked = bob;
+  marked[0] = '\x7F';
+  EXPECT_TRUE(write(anna) && write(marked) && write(cleo));
+  EXPECT_EQ(readBytes(path_), anna + bob + cleo);
+}
+
+TEST_F(ItemDatabaseFixture, writeOfStoredKeyChangesOnlyItsData) {
+  // A state byte other than 1 counts as in use, and bytes behind the key's end stay as another program
+  // left them.
+  writeBytes(path_, anna + bytes("\5Bo\0x2222222", recordSize) + cleo);
+  EXPECT_TRUE(
+      write(bytes("\1Bo\0\0"
+                  "9999999",
+                  recordSize)));
+  EXPECT_EQ(readBytes(path_), anna + bytes("\5Bo\0x9999999", recordSize) + cleo);
+}
+
+TEST_F(ItemDatabaseFixture, writeOfDeletedKeyRevivesItsSlot) {
+  bool deleted = false;
+  EXPECT_TRUE(write(anna) && write(bob) && erase("Anna", deleted));
+  EXPECT_TRUE(deleted);
+  EXPECT_EQ(readBytes(path_), bytes("\0Anna1111111", recordSize) + bob);
+  EXPECT_THAT(readAll(), ElementsAre(bob));
+  EXPECT_THAT(readAll(true), ElementsAre(bytes("\0Anna1111111", recordSize), bob));
+
+  EXPECT_TRUE(erase("Anna", deleted));
+  EXPECT_FALSE(deleted);
+  EXPECT_TRUE(write(bytes("\1Anna7777777", recordSize)));
+  EXPECT_EQ(readBytes(path_), bytes("\1Anna7777777", recordSize) + bob);
+}
+
+TEST_F(ItemDatabaseFixture, keysCompareWholeAndByCase) {
+  bool deleted = true;
+  EXPECT_TRUE(write(anna) && write(bob));
+  for (const char* key : {"anna", "Ann", "Annab", "bo", "Bob2", ""}) {
+    EXPECT_TRUE(erase(key, deleted)) << key;
+    EXPECT_FALSE(deleted) << key;
+  }
+  EXPECT_EQ(readBytes(path_), anna + bob);
+}
+
+TEST_F(ItemDatabaseFixture, ofDoubledKeysTheLaterIsUsed) {
+  const QByteArray later = bytes("\1Anna5555555", recordSize);
+  writeBytes(path_, anna + bob + later);
+  EXPECT_TRUE(write(bytes("\1Anna8888888", recordSize)));
+  EXPECT_EQ(readBytes(path_), anna + bob + bytes("\1Anna8888888", recordSize));
+  bool deleted = false;
+  EXPECT_TRUE(erase("Anna", deleted));
+  EXPECT_EQ(readBytes(path_), anna + bob + bytes("\0Anna8888888", recordSize));
+}
+
+TEST_F(ItemDatabaseFixture, visitorStopsTheReading) {
+  writeBytes(path_, anna + bob + cleo);
+  int visited = 0;
+  const auto stopAtSecond = [&](QByteArrayView) { return ++visited < 2; };
+  EXPECT_TRUE(database_.readAllItems(error_, recordSize, path_, stopAtSecond, timeout));
+  EXPECT_EQ(visited, 2);
+}
+
+TEST_F(ItemDatabaseFixture, shortLastRecordIsFilledUpFromTheOneBefore) {
+  const struct {
+    QByteArray file;
+    QByteArray lastRead;
+  } cases[] = {
+      {anna + bob + bytes("\1Cleo", 5), bytes("\1Cleo2222222", recordSize)},
+      {anna + bytes("\1B", 2), bytes("\1Bnna1111111", recordSize)},
+      {bytes("\1Cl", 3), bytes("\1Cl\0\0\0\0\0\0\0\0\0", recordSize)},
+  };
+  for (const auto& each : cases) {
+    writeBytes(path_, each.file);
+    const QByteArrayList records = readAll();
+    EXPECT_EQ(records.size(), each.file.size() / recordSize + 1);
+    EXPECT_EQ(records.last(), each.lastRead);
+  }
+}
+
+TEST_F(ItemDatabaseFixture, recordsBeyondOneReadingBlockKeepTheirOrder) {
+  constexpr int count = 200'000;
+  const auto numbered = [](int i) {
+    return '\1' + QByteArray::number(i).rightJustified(recordSize - 1, '0');
+  };
+  QByteArray file;
+  for (int i = 0; i < count; ++i) file += numbered(i);
+  file += "\1end";
+  writeBytes(path_, file);
+  int next = 0;
+  const auto check = [&](QByteArrayView record) {
+    const QByteArray expected = next < count ? numbered(next) : "\1end" + numbered(count - 1).sliced(4);
+    EXPECT_EQ(record.toByteArray(), expected);
+    return next++ <= count;
+  };
+  EXPECT_TRUE(database_.readAllItems(error_, recordSize, path_, check, timeout));
+  EXPECT_EQ(next, count + 1);
+}
+
+TEST_F(ItemDatabaseFixture, newKeyFollowsTheRecordsThatOthersAppended) {
+  EXPECT_TRUE(write(anna));
+  writeBytes(path_, anna + bob);
+  EXPECT_TRUE(write(cleo));
+  EXPECT_EQ(readBytes(path_), anna + bob + cleo);
+  // The rebuilt index knows where bob is.
+  EXPECT_TRUE(
+      write(bytes("\1Bob\0"
+                  "4444444",
+                  recordSize)));
+  EXPECT_EQ(readBytes(path_), anna +
+                                  bytes("\1Bob\0"
+                                        "4444444",
+                                        recordSize) +
+                                  cleo);
+}
+
+TEST_F(ItemDatabaseFixture, fileThatWasMadeAnewTakesKnownKeysWithoutGapsOrDoubles) {
+  EXPECT_TRUE(write(anna) && write(bob) && write(cleo));
+  writeBytes(path_, bob);
+  EXPECT_TRUE(write(cleo) && write(anna) && write(cleo));
+  EXPECT_EQ(readBytes(path_), bob + cleo + anna);
+}
+
+TEST_F(ItemDatabaseFixture, knownKeyIsStillStoredAlignedBehindShortRecord) {
+  EXPECT_TRUE(write(anna));
+  writeBytes(path_, bob + bytes("\1C", 2));
+  EXPECT_TRUE(write(anna));
+  EXPECT_EQ(readBytes(path_), bob + bytes("\1C\0\0\0\0\0\0\0\0\0\0", recordSize) + anna);
+}
+
+TEST_F(ItemDatabaseFixture, fileThatKeepsChangingIsGivenUpAfterElevenAttempts) {
+  for (const int changes : {10, 11}) {
+    path_ = pathOf(QString::number(changes));
+    writeBytes(path_, {});
+    int openings = 0;
+    int appended = 0;
+    // Each attempt opens twice: to read the index, and to write.
+    waiter_.onOpening = [&] {
+      if (++openings % 2 == 1 || appended == changes) return;
+      writeBytes(path_, readBytes(path_) + '\1' + QByteArray::number(++appended).leftJustified(11, '\0'));
+    };
+    EXPECT_EQ(write(anna), changes == 10);
+    EXPECT_EQ(openings, 22);
+    EXPECT_EQ(readBytes(path_).size(), 11 * recordSize);
+  }
+  EXPECT_EQ(error_,
+            QStringLiteral("[writeItem:5 - Can't write to database as it is locked by another user!]"));
+  EXPECT_EQ(waiter_.pauses(), 0);
+}
+
+TEST_F(ItemDatabaseFixture, unusableRecordsAndPathsGiveTheOperationsMessage) {
+  bool deleted = false;
+  EXPECT_FALSE(write({}));
+  EXPECT_FALSE(write(anna.chopped(1)));
+  EXPECT_EQ(error_, QStringLiteral("[writeItem:1 - Illegal data to write!]").repeated(2));
+
+  // A folder where the file should be.
+  path_ = folder_.path();
+  const auto ignore = [](QByteArrayView) { return true; };
+  error_ = QStringLiteral("kept ");
+  EXPECT_FALSE(database_.readAllItems(error_, recordSize, path_, ignore, timeout));
+  EXPECT_EQ(error_, QStringLiteral("kept [readAllItems:2 - Database open error!]"));
+  error_.clear();
+  EXPECT_FALSE(database_.createDb(error_, path_));
+  EXPECT_EQ(error_, QStringLiteral("[createDb:1 - Can't create the database!]"));
+  error_.clear();
+  EXPECT_FALSE(write(anna));
+  EXPECT_EQ(error_, QStringLiteral("[readAllItems:2 - Database open error!]"));
+  // The index of the failed reading stays, empty, so that the writing itself is tried next.
+  error_.clear();
+  EXPECT_FALSE(write(anna));
+  EXPECT_EQ(error_, QStringLiteral("[writeItem:3 - Database open error!]"));
+  error_.clear();
+  EXPECT_TRUE(erase("Anna", deleted));
+  (*cache_.create(path_))["Anna"] = 0;
+  EXPECT_FALSE(erase("Anna", deleted));
+  EXPECT_EQ(error_, QStringLiteral("[deleteItem:2 - Database access share error!]"));
+  EXPECT_EQ(waiter_.pauses(), 0);
+}
+
+TEST_F(ItemDatabaseFixture, exceptionOfVisitorIsReportedAsUnknown) {
+  writeBytes(path_, anna);
+  const auto fail = [](QByteArrayView) -> bool { throw 1; };
+  EXPECT_FALSE(database_.readAllItems(error_, recordSize, path_, fail, timeout));
+  EXPECT_EQ(error_, QStringLiteral("[readAllItems:6 - Unknown error!]"));
+}
+
+TEST_F(ItemDatabaseFixture, droppedIndexIsReadAgain) {
+  EXPECT_TRUE(write(anna));
+  EXPECT_TRUE(cache_.find(path_));
+  EXPECT_TRUE(database_.dropItemIndex(path_) && database_.dropItemIndex(path_));
+  EXPECT_FALSE(cache_.find(path_));
+  EXPECT_TRUE(write(bob));
+  EXPECT_TRUE(database_.removeDb(path_));
+  EXPECT_FALSE(cache_.find(path_));
+  EXPECT_FALSE(database_.removeDb(path_));
+  EXPECT_TRUE(readBytes(path_).isNull());
+}
+
+}  // namespace
+}  // namespace parlexo

@@ -1,0 +1,115 @@
+#include "contacts/shared_file.h"
+
+#include <sys/resource.h>
+
+#include <atomic>
+#include <csignal>
+#include <thread>
+
+#include <QFileInfo>
+
+#include "tests/contacts/store_fixture.h"
+
+namespace parlexo {
+namespace {
+
+using Mode = SharedFile::Mode;
+using OpenResult = SharedFile::OpenResult;
+
+class SharedFileFixture : public StoreFixture {
+ protected:
+  QString path_ = pathOf(QStringLiteral("shared"));
+};
+
+// Lets this process write no file beyond a length, as on a disk that is full.
+class FileSizeLimit {
+ public:
+  explicit FileSizeLimit(rlim_t length) : handler_(std::signal(SIGXFSZ, SIG_IGN)) {
+    ::getrlimit(RLIMIT_FSIZE, &before_);
+    const rlimit limit = {length, before_.rlim_max};
+    ::setrlimit(RLIMIT_FSIZE, &limit);
+  }
+  ~FileSizeLimit() {
+    ::setrlimit(RLIMIT_FSIZE, &before_);
+    std::signal(SIGXFSZ, handler_);
+  }
+  FileSizeLimit(const FileSizeLimit&) = delete;
+  FileSizeLimit& operator=(const FileSizeLimit&) = delete;
+
+ private:
+  rlimit before_ = {};
+  void (*handler_)(int);
+};
+
+TEST_F(SharedFileFixture, modesShutEachOtherOut) {
+  const struct {
+    Mode holder;
+    Mode comer;
+    OpenResult result;
+  } cases[] = {
+      {Mode::Read, Mode::Read, OpenResult::Opened},
+      {Mode::Read, Mode::Write, OpenResult::SharingViolation},
+      {Mode::Read, Mode::Remove, OpenResult::SharingViolation},
+      {Mode::Write, Mode::Read, OpenResult::SharingViolation},
+      {Mode::Write, Mode::Write, OpenResult::SharingViolation},
+      {Mode::Write, Mode::Create, OpenResult::Opened},
+      {Mode::Erase, Mode::Read, OpenResult::SharingViolation},
+      {Mode::Erase, Mode::Erase, OpenResult::SharingViolation},
+      {Mode::Create, Mode::Write, OpenResult::Opened},
+  };
+  writeBytes(path_, "x");
+  for (const auto& each : cases) {
+    SharedFile holder;
+    SharedFile comer;
+    EXPECT_EQ(holder.open(path_, each.holder), OpenResult::Opened);
+    EXPECT_EQ(comer.open(path_, each.comer), each.result) << int(each.holder) << int(each.comer);
+    holder.close();
+    EXPECT_EQ(comer.open(path_, each.comer), OpenResult::Opened);
+  }
+}
+
+TEST_F(SharedFileFixture, onlyRemovalLeavesMissingFileMissing) {
+  SharedFile file;
+  EXPECT_EQ(file.open(path_, Mode::Remove), OpenResult::Failed);
+  EXPECT_FALSE(QFileInfo::exists(path_));
+  EXPECT_EQ(file.open(pathOf(QStringLiteral("none/shared")), Mode::Write), OpenResult::Failed);
+  EXPECT_EQ(file.open(path_, Mode::Read), OpenResult::Opened);
+  EXPECT_EQ(file.size(), 0);
+}
+
+TEST_F(SharedFileFixture, appendThatDoesNotFitIsCutBack) {
+  writeBytes(path_, QByteArray(100, 'a'));
+  SharedFile file;
+  ASSERT_EQ(file.open(path_, Mode::Write), OpenResult::Opened);
+  ASSERT_TRUE(file.seek(100));
+  bool written = true;
+  {
+    const FileSizeLimit limit(130);
+    written = file.write(QByteArray(100, 'b'));
+  }
+  EXPECT_FALSE(written);
+  EXPECT_EQ(readBytes(path_), QByteArray(100, 'a'));
+}
+
+TEST_F(SharedFileFixture, openedFileIsNeverOneThatWasRemovedMeanwhile) {
+  std::atomic<bool> done = false;
+  std::thread remover([&] {
+    while (!done) {
+      SharedFile file;
+      EXPECT_TRUE(file.open(path_, Mode::Remove) != OpenResult::Opened || file.remove());
+    }
+  });
+  int opened = 0;
+  for (int i = 0; i < 20'000; ++i) {
+    SharedFile file;
+    if (file.open(path_, Mode::Write) != OpenResult::Opened) continue;
+    ++opened;
+    if (!QFileInfo::exists(path_)) ADD_FAILURE() << "holds a removed file";
+  }
+  done = true;
+  remover.join();
+  EXPECT_GT(opened, 0);
+}
+
+}  // namespace
+}  // namespace parlexo

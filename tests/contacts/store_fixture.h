@@ -1,0 +1,92 @@
+#pragma once
+
+#include <functional>
+#include <utility>
+
+#include <QByteArray>
+#include <QFile>
+#include <QString>
+#include <QStringList>
+#include <QTemporaryDir>
+#include <gtest/gtest.h>
+
+#include "base/notifier.h"
+#include "base/progress.h"
+#include "contacts/address_book.h"
+#include "contacts/item_database.h"
+
+namespace parlexo {
+
+/// A clock that only pauses move, with places to let other users act meanwhile.
+class FakeWaiter final : public LockWaiter {
+ public:
+  qint64 nowSeconds() override {
+    if (onOpening) onOpening();
+    return halfSeconds_ / 2;
+  }
+  void pause() override {
+    ++halfSeconds_;
+    if (onPause) onPause();
+  }
+  [[nodiscard]] qint64 pauses() const { return halfSeconds_; }
+
+  std::function<void()> onOpening;
+  std::function<void()> onPause;
+
+ private:
+  qint64 halfSeconds_ = 0;
+};
+
+class RecordingNotifier final : public Notifier {
+ public:
+  MessageResult show(const QString& text, unsigned style, int /*suppressibleNumber*/ = 0) override {
+    shown.append(QString::number(style) + u' ' + text);
+    return MessageResult::Ok;
+  }
+
+  QStringList shown;  ///< style and text
+};
+
+class RecordingProgress final : public Progress {
+ public:
+  void show(const QString& /*text*/ = {}) override {}
+  void setText(const QString& text) override { texts.append(text); }
+  void hide() override {}
+
+  QStringList texts;
+};
+
+inline void writeBytes(const QString& path, const QByteArray& bytes) {
+  QFile file(path);
+  ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+  ASSERT_EQ(file.write(bytes), bytes.size());
+}
+
+/// The bytes of a file; a null array, other than an empty one, when there is no such file.
+inline QByteArray readBytes(const QString& path) {
+  QFile file(path);
+  if (!file.open(QIODevice::ReadOnly)) return {};
+  const QByteArray bytes = file.readAll();
+  return bytes.isNull() ? QByteArray("") : bytes;
+}
+
+/// A folder of its own with a database that never really sleeps.
+class StoreFixture : public testing::Test {
+ protected:
+  [[nodiscard]] QString pathOf(const QString& name) const { return folder_.filePath(name); }
+
+  QTemporaryDir folder_;
+  ItemIndexCache cache_;
+  FakeWaiter waiter_;
+  ItemDatabase database_{cache_, waiter_};
+  QString error_;
+};
+
+class AddressBookFixture : public StoreFixture {
+ protected:
+  RecordingNotifier notifier_;
+  RecordingProgress progress_;
+  AddressBook book_{folder_.path(), database_, notifier_};
+};
+
+}  // namespace parlexo
