@@ -1,0 +1,138 @@
+#include "tests/gateway/fake_gateway.h"
+
+#include <arpa/inet.h>
+#include <netinet/in.h>
+#include <poll.h>
+#include <sys/socket.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <array>
+#include <cstdlib>
+#include <utility>
+
+namespace parlexo::testing {
+
+namespace {
+
+/// Waits in slices so that the server can be stopped at any moment.
+bool waitToRead(int socket, const std::atomic<bool>& isStopping) {
+  while (!isStopping) {
+    pollfd watched{socket, POLLIN, 0};
+    if (poll(&watched, 1, 20) > 0) return true;
+  }
+  return false;
+}
+
+std::size_t bodyLength(const std::string& head) {
+  const auto at = head.find("Content-Length: ");
+  return at == std::string::npos ? 0 : std::strtoul(head.c_str() + at + 16, nullptr, 10);
+}
+
+bool isWhole(const std::string& request) {
+  const auto end = request.find("\r\n\r\n");
+  return end != std::string::npos && request.size() >= end + 4 + bodyLength(request.substr(0, end));
+}
+
+int listenOnLoopback(int& port) {
+  const int listener = socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0);
+  sockaddr_in address{};
+  address.sin_family = AF_INET;
+  address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+  auto* plain = reinterpret_cast<sockaddr*>(&address);
+  socklen_t size = sizeof address;
+  if (bind(listener, plain, size) != 0 || listen(listener, 8) != 0) std::abort();
+  getsockname(listener, plain, &size);
+  port = ntohs(address.sin_port);
+  return listener;
+}
+
+}  // namespace
+
+FakeGateway::FakeGateway(std::string answer, Manner manner) : answer_(std::move(answer)), manner_(manner) {
+  listener_ = listenOnLoopback(port_);
+  thread_ = std::thread([this] { serve(); });
+}
+
+FakeGateway::~FakeGateway() {
+  stop();
+  close(listener_);
+}
+
+void FakeGateway::stop() {
+  isStopping_ = true;
+  // Wakes the thread that waits for a connection.
+  shutdown(listener_, SHUT_RD);
+  if (thread_.joinable()) thread_.join();
+}
+
+void FakeGateway::setAnswer(std::string answer) {
+  const std::lock_guard lock(mutex_);
+  answer_ = std::move(answer);
+}
+
+std::string FakeGateway::lastRequest() {
+  stop();
+  return request_;
+}
+
+void FakeGateway::serve() {
+  while (waitToRead(listener_, isStopping_)) {
+    const int connection = accept(listener_, nullptr, nullptr);
+    if (connection < 0) return;
+    answer(connection);
+    close(connection);
+  }
+}
+
+void FakeGateway::answer(int connection) {
+  request_.clear();
+  std::array<char, 65536> buffer{};
+  while (!isWhole(request_) && waitToRead(connection, isStopping_)) {
+    const ssize_t count = recv(connection, buffer.data(), buffer.size(), 0);
+    if (count <= 0) return;
+    request_.append(buffer.data(), static_cast<std::size_t>(count));
+  }
+  ++requestCount_;
+  if (manner_ == Manner::Silent) {
+    waitToRead(connection, isStopping_);
+    return;
+  }
+  const std::string answer = [this] {
+    const std::lock_guard lock(mutex_);
+    return answer_;
+  }();
+  for (std::size_t sent = 0; sent < answer.size();) {
+    const ssize_t count = send(connection, answer.data() + sent, answer.size() - sent, MSG_NOSIGNAL);
+    if (count <= 0) return;
+    sent += static_cast<std::size_t>(count);
+  }
+}
+
+std::string httpReply(const std::string& body, const std::string& status) {
+  return "HTTP/1.1 " + status +
+         "\r\nContent-Type: text/xml; charset=utf-8\r\nContent-Length: " + std::to_string(body.size()) +
+         "\r\nConnection: close\r\n\r\n" + body;
+}
+
+std::string envelope(const std::string& body, const std::string& header) {
+  return R"(<?xml version="1.0" encoding="UTF-8"?>)"
+         R"(<S:Envelope xmlns:S="http://schemas.xmlsoap.org/soap/envelope/")"
+         R"( xmlns:xsi="http://www.w3.org/2001/XMLSchema-instance")"
+         R"( xmlns:xsd="http://www.w3.org/2001/XMLSchema")"
+         R"( xmlns:m="http://www.parlexo.example/onlineCommunication/binding">)" +
+         header + "<S:Body>" + body + "</S:Body></S:Envelope>";
+}
+
+std::string bodyOf(const std::string& message) {
+  const auto end = message.find("\r\n\r\n");
+  return end == std::string::npos ? std::string() : message.substr(end + 4);
+}
+
+int closedPort() {
+  int port = 0;
+  close(listenOnLoopback(port));
+  return port;
+}
+
+}  // namespace parlexo::testing

@@ -1,0 +1,60 @@
+#pragma once
+
+#include <atomic>
+#include <mutex>
+#include <string>
+#include <thread>
+
+namespace parlexo::testing {
+
+/// A server on a loopback port that takes one connection after the other, reads one whole request from each
+/// and answers it with fixed bytes, whatever they are, before it closes. With `Silent` it reads and then
+/// keeps the connection open without a word.
+class FakeGateway {
+ public:
+  enum class Manner { Answers, Silent };
+
+  explicit FakeGateway(std::string answer, Manner manner = Manner::Answers);
+  ~FakeGateway();
+  FakeGateway(const FakeGateway&) = delete;
+  FakeGateway& operator=(const FakeGateway&) = delete;
+
+  [[nodiscard]] int port() const { return port_; }
+  [[nodiscard]] std::string base() const { return "http://127.0.0.1:" + std::to_string(port_); }
+  [[nodiscard]] std::string endpoint() const { return base() + "/ccx/onlineCommunication"; }
+  /// From the next connection on the answer is this one.
+  void setAnswer(std::string answer);
+  /// Requests read so far.
+  [[nodiscard]] int requestCount() const { return requestCount_; }
+  /// Ends the server and returns the bytes of the last request.
+  [[nodiscard]] std::string lastRequest();
+
+ private:
+  void serve();
+  void answer(int connection);
+  void stop();
+
+  std::mutex mutex_;
+  std::string answer_;  ///< guarded by the mutex
+  Manner manner_;
+  int listener_ = -1;
+  int port_ = 0;
+  std::atomic<bool> isStopping_ = false;
+  std::atomic<int> requestCount_ = 0;
+  std::string request_;
+  std::thread thread_;
+};
+
+/// `body` as the HTTP response that carries an envelope.
+[[nodiscard]] std::string httpReply(const std::string& body, const std::string& status = "200 OK");
+
+/// An envelope with the usual namespaces around what stands in its body.
+[[nodiscard]] std::string envelope(const std::string& body, const std::string& header = {});
+
+/// The body of an HTTP message.
+[[nodiscard]] std::string bodyOf(const std::string& message);
+
+/// A loopback port on which nothing listens.
+[[nodiscard]] int closedPort();
+
+}  // namespace parlexo::testing
