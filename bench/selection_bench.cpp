@@ -1,6 +1,6 @@
 // How long the user waits for the contact selection dialog when the address book has 100,000 contacts.
 
-#include <QApplication>
+#include <QCoreApplication>
 #include <QKeyEvent>
 #include <QPixmap>
 #include <benchmark/benchmark.h>
@@ -10,7 +10,6 @@
 #include "addressbook/screens/check_list_view.h"
 #include "addressbook/screens/select_contacts_dlg.h"
 #include "tests/addressbook/sample_book.h"
-#include "ui/look.h"
 
 namespace parlexo {
 namespace {
@@ -124,13 +123,3 @@ BENCHMARK(gatherExtraValues)->Unit(benchmark::kMillisecond);
 
 }  // namespace
 }  // namespace parlexo
-
-int main(int argc, char** argv) {
-  if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
-  QApplication application(argc, argv);
-  parlexo::applyLook(application);
-  benchmark::Initialize(&argc, argv);
-  if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 2;
-  benchmark::RunSpecifiedBenchmarks();
-  return 0;
-}
