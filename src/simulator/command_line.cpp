@@ -48,7 +48,7 @@ QString readAddress(CommandLine& line, const QString& value) {
 
 QString readAccount(CommandLine& line, const QString& value) {
   const QStringList words = value.split(u':');
-  const QString wanted = QStringLiteral("needs USER:PASSWORD[:BALANCE[:nosenderid]]");
+  QString wanted = QStringLiteral("needs USER:PASSWORD[:BALANCE[:nosenderid]]");
   constexpr qsizetype most = 4;
   if (words.size() < 2 || words.size() > most || words[0].isEmpty() || words[1].isEmpty()) return wanted;
   AccountOptions account{words[0], words[1], AccountOptions{}.balance, true, {}};
@@ -102,7 +102,7 @@ constexpr std::array optionRules = {
 
 // Reads the option at `index` and moves it past the option's value.
 QString readOption(CommandLine& line, const QStringList& arguments, qsizetype& index) {
-  const QString argument = arguments[index];
+  const QString& argument = arguments[index];
   const qsizetype equals = argument.indexOf(u'=');
   const QString name = equals < 0 ? argument : argument.left(equals);
   const auto* rule =

@@ -122,7 +122,7 @@ QString problemWith(const Fault& fault) {
 
 QString describe(const Fault& fault) {
   const KindRule& rule = ruleFor(fault.kind);
-  const QString word = QString::fromLatin1(rule.word);
+  QString word = QString::fromLatin1(rule.word);
   switch (rule.value) {
     case Value::None:
       return word;

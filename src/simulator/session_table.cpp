@@ -20,7 +20,7 @@ QString newToken() {
 
 QString SessionTable::open(const QString& user, const QDateTime& now) {
   forgetExpired(now);
-  const QString token = newToken();
+  QString token = newToken();
   sessions_[token] = Session{user, now, std::nullopt, {}};
   return token;
 }

@@ -1,5 +1,4 @@
-#include <pthread.h>
-#include <signal.h>
+#include <csignal>
 
 #include "simulator/stop_signals.h"
 

@@ -88,6 +88,7 @@ TEST_F(GatewayConnections, manyClientsAtOnceGetReceiptsOfTheirOwn) {
   const QByteArray session = client().logIn();
   std::atomic<int> answered = 0;
   std::vector<std::thread> threads;
+  threads.reserve(clients);
   for (int i = 0; i < clients; ++i)
     threads.emplace_back([&] {
       for (int n = 0; n < sends; ++n) {
