@@ -1,0 +1,56 @@
+#include "messaging/core/send_calls.h"
+
+#include "base/message_texts.h"
+#include "base/notifier.h"
+#include "base/run_state.h"
+#include "gateway/core/gateway.h"
+#include "messaging/core/messaging_texts.h"
+
+namespace parlexo {
+namespace {
+
+void cancelSchedule(const MessagingServices& services) {
+  // Whatever comes back: if the gateway is out of reach or the session over, the send itself will say so.
+  (void)services.gateway.call<protocol::scheduleMessageDisableResponse>(
+      [session = toWire(services.state.session)](GatewayClient& client,
+                                                 protocol::scheduleMessageDisableResponse& response) {
+        return client.scheduleMessageDisable(session, response);
+      });
+}
+
+bool setSchedule(const MessagingServices& services, const QString& value) {
+  const auto reply = services.gateway.call<protocol::scheduleMessageEnableResponse>(
+      [session = toWire(services.state.session), value = toWire(value)](
+          GatewayClient& client, protocol::scheduleMessageEnableResponse& response) {
+        return client.scheduleMessageEnable(value, session, response);
+      });
+  if (reply.answered() && reply->nErrorCode == 0) return true;
+  services.notifier.error(withNumber(messaging_texts::scheduleRefused(), reply->nErrorCode));
+  return false;
+}
+
+bool setSenderId(const MessagingServices& services) {
+  const auto reply = services.gateway.call<protocol::setSmsSenderIdResponse>(
+      [session = toWire(services.state.session), senderId = toWire(services.state.senderId)](
+          GatewayClient& client, protocol::setSmsSenderIdResponse& response) {
+        return client.setSmsSenderId(session, senderId, response);
+      });
+  if (!reply.answered())
+    services.notifier.error(text(TextId::GatewayUnreachable));
+  else if (reply->nErrorCode != 0)
+    services.notifier.error(withNumber(messaging_texts::senderIdRefused(), reply->nErrorCode));
+  else
+    return true;
+  return false;
+}
+
+}  // namespace
+
+bool announceSend(const MessagingServices& services, const Schedule& schedule, SenderIdUse use) {
+  cancelSchedule(services);
+  if (!schedule.isNow() && !setSchedule(services, schedule.value)) return false;
+  const bool hasSenderId = use == SenderIdUse::Set && !services.state.senderId.isEmpty();
+  return !hasSenderId || setSenderId(services);
+}
+
+}  // namespace parlexo

@@ -1,0 +1,50 @@
+#include "messaging/core/sms_send_flow.h"
+
+#include "base/notifier.h"
+#include "gateway/core/gateway.h"
+#include "messaging/core/messaging_texts.h"
+
+namespace parlexo {
+namespace {
+
+SendKind smsKind() {
+  return {QStringLiteral("SMS"), SenderIdUse::Set,   TextId::GatewayUnreachable,
+          TextId::SmsError,      TextId::SmsWarning, TextId::SmsSuccess};
+}
+
+SendReply sendSms(const Gateway& gateway, const QString& session, const QString& message,
+                  const SmsDraft& draft) {
+  const auto reply = gateway.call<protocol::sendSmsResponse>(
+      [session = toWire(session), message = toWire(message), flash = draft.flash,
+       numbers = toWire(draft.numbersList)](GatewayClient& client, protocol::sendSmsResponse& response) {
+        return client.sendSms(session, message, flash, numbers, response);
+      });
+  return {reply.answered(), reply->nErrorCode, fromWire(reply->sListReciepts)};
+}
+
+}  // namespace
+
+SmsSendFlow::SmsSendFlow(const MessagingServices& services)
+    : services_(services), flow_(services, smsKind()) {}
+
+SendOutcome SmsSendFlow::send(const SmsDraft& draft) const {
+  const SmsComposition composition = composeSms(draft.text, draft.charset);
+  if (!checkText(composition) || !flow_.checkRecipients(draft.displayList) || !flow_.checkBalance() ||
+      !flow_.announce(draft.schedule))
+    return SendOutcome::NotSent;
+  return flow_.deliver(draft.numbersList, [&](const QString& session) {
+    return sendSms(services_.gateway, session, composition.transmitText, draft);
+  });
+}
+
+bool SmsSendFlow::checkText(const SmsComposition& composition) const {
+  if (composition.tooLong)
+    services_.notifier.error(messaging_texts::unicodeTooLong());
+  else if (composition.transmitText.isEmpty())
+    services_.notifier.error(messaging_texts::noSmsText());
+  else
+    return true;
+  return false;
+}
+
+}  // namespace parlexo
