@@ -1,0 +1,119 @@
+#include "messaging/screens/recipients_panel.h"
+
+#include <utility>
+#include <vector>
+
+#include <QHBoxLayout>
+#include <QItemSelectionModel>
+#include <QLabel>
+#include <QListView>
+#include <QShortcut>
+#include <QVBoxLayout>
+
+#include "addressbook/screens/select_contacts_dlg.h"
+#include "base/notifier.h"
+#include "contacts/address_book.h"
+#include "messaging/core/messaging_texts.h"
+#include "ui/list_style.h"
+#include "ui/picture_button.h"
+
+namespace parlexo {
+
+int RecipientsModel::rowCount(const QModelIndex& parent) const {
+  return parent.isValid() ? 0 : static_cast<int>(recipients_.entries().size());
+}
+
+QVariant RecipientsModel::data(const QModelIndex& index, int role) const {
+  if (!index.isValid() || role != Qt::DisplayRole) return {};
+  return recipients_.entries()[static_cast<std::size_t>(index.row())].text();
+}
+
+RecipientsPanel::RecipientsPanel(const AddressBook& book, Notifier& notifier, QString mode,
+                                 RecipientNumber number, QWidget* parent)
+    : QWidget(parent), book_(book), notifier_(notifier), mode_(std::move(mode)), number_(number) {
+  setObjectName(QStringLiteral("recipientsPanel"));
+  auto* layout = new QHBoxLayout(this);
+  layout->setContentsMargins({});
+  layout->addWidget(createBox(), 1);
+  layout->addWidget(createButtons());
+}
+
+QWidget* RecipientsPanel::createBox() {
+  auto* area = new QWidget(this);
+  box_ = new QListView(area);
+  box_->setObjectName(QStringLiteral("contactsBox"));
+  box_->setAccessibleName(QStringLiteral("Contacts"));
+  box_->setModel(&model_);
+  box_->setSelectionMode(QAbstractItemView::ExtendedSelection);
+  box_->setEditTriggers(QAbstractItemView::NoEditTriggers);
+  box_->setUniformItemSizes(true);
+  styleList(*box_);
+  auto* removal = new QShortcut(QKeySequence(QKeySequence::Delete), box_);
+  removal->setContext(Qt::WidgetShortcut);
+  connect(removal, &QShortcut::activated, this, &RecipientsPanel::removeHighlighted);
+
+  auto* label = new QLabel(QStringLiteral("&Contacts"), area);
+  label->setBuddy(box_);
+  auto* layout = new QVBoxLayout(area);
+  layout->setContentsMargins({});
+  layout->addWidget(label);
+  layout->addWidget(box_, 1);
+  return area;
+}
+
+QWidget* RecipientsPanel::createButtons() {
+  auto* area = new QWidget(this);
+  auto* layout = new QVBoxLayout(area);
+  layout->setContentsMargins({});
+  layout->addSpacing(area->fontMetrics().height() + layout->spacing());
+  const auto button = [&](const QString& text, const QString& name, auto action) {
+    auto* created = new PictureButton(text, area);
+    created->setObjectName(name);
+    connect(created, &PictureButton::clicked, this, action);
+    layout->addWidget(created);
+  };
+  button(QStringLiteral("&Add / Import Contacts"), QStringLiteral("addContactsButton"),
+         &RecipientsPanel::selectContacts);
+  button(QStringLiteral("&Select Contacts..."), QStringLiteral("selectContactsButton"),
+         &RecipientsPanel::selectContacts);
+  button(QStringLiteral("Clear"), QStringLiteral("clearContactsButton"), &RecipientsPanel::clearEntries);
+  layout->addStretch(1);
+  return area;
+}
+
+void RecipientsPanel::clearEntries() {
+  model_.update([](Recipients& recipients) { recipients.clearEntries(); });
+}
+
+void RecipientsPanel::selectContacts() {
+  CSelectContactsDlg dialog(book_, mode_, currentSelection(), notifier_, this);
+  if (dialog.exec() == QDialog::Accepted) take(dialog.selection());
+}
+
+void RecipientsPanel::removeHighlighted() {
+  std::vector<int> rows;
+  for (const QModelIndex& index : box_->selectionModel()->selectedRows()) rows.push_back(index.row());
+  if (rows.empty()) {
+    notifier_.error(messaging_texts::nothingHighlighted());
+    return;
+  }
+  if (!notifier_.confirm(messaging_texts::confirmRemoval())) return;
+  model_.update([&](Recipients& recipients) { recipients.remove(rows); });
+}
+
+ContactSelection RecipientsPanel::currentSelection() const {
+  ContactSelection::Contacts contacts;
+  for (const Recipient& entry : recipients().entries())
+    if (const ContactRecord* contact = book_.findContact(entry.name)) contacts.push_back(contact);
+  return ContactSelection(std::move(contacts));
+}
+
+void RecipientsPanel::take(const ContactSelection& selection) {
+  const std::vector<const ContactRecord*> contacts(selection.begin(), selection.end());
+  QStringList rejected;
+  model_.update([&](Recipients& recipients) { rejected = recipients.select(contacts, number_); });
+  if (rejected.isEmpty()) return;
+  notifier_.error(messaging_texts::badNumbersRemoved() + rejected.join(QStringLiteral(", ")));
+}
+
+}  // namespace parlexo

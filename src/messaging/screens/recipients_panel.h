@@ -1,0 +1,75 @@
+#pragma once
+
+#include <QAbstractListModel>
+#include <QString>
+#include <QWidget>
+
+#include "addressbook/core/contact_selection.h"
+#include "messaging/core/recipients.h"
+
+class QListView;
+
+namespace parlexo {
+
+class AddressBook;
+class Notifier;
+
+/// The entries of a page's recipients, for a list view.
+class RecipientsModel final : public QAbstractListModel {
+  Q_OBJECT
+
+ public:
+  using QAbstractListModel::QAbstractListModel;
+
+  [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
+  [[nodiscard]] QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
+
+  [[nodiscard]] const Recipients& recipients() const { return recipients_; }
+  /// Runs `change` on the recipients and lets the views read them anew.
+  template <class Change>
+  void update(Change change) {
+    beginResetModel();
+    change(recipients_);
+    endResetModel();
+  }
+
+ private:
+  Recipients recipients_;
+};
+
+/// The Contacts box of a send page with its buttons: selecting contacts, removing highlighted entries with
+/// Delete, clearing.
+class RecipientsPanel final : public QWidget {
+  Q_OBJECT
+
+ public:
+  /// `mode` decides which contacts the selection offers, `number` which of their numbers counts. `book` and
+  /// `notifier` must outlive the panel.
+  RecipientsPanel(const AddressBook& book, Notifier& notifier, QString mode, RecipientNumber number,
+                  QWidget* parent = nullptr);
+
+  [[nodiscard]] const Recipients& recipients() const { return model_.recipients(); }
+
+  /// Empties the box; the numbers stay, as Recipients says.
+  void clearEntries();
+
+  /// Lets the user pick contacts, those in the box ticked at first, and takes them over.
+  void selectContacts();
+  /// Removes the highlighted entries after a question.
+  void removeHighlighted();
+
+ private:
+  [[nodiscard]] QWidget* createBox();
+  [[nodiscard]] QWidget* createButtons();
+  [[nodiscard]] ContactSelection currentSelection() const;
+  void take(const ContactSelection& selection);
+
+  const AddressBook& book_;
+  Notifier& notifier_;
+  QString mode_;
+  RecipientNumber number_;
+  RecipientsModel model_;
+  QListView* box_ = nullptr;
+};
+
+}  // namespace parlexo
