@@ -1,0 +1,244 @@
+#include "messaging/screens/sms_dlg.h"
+
+#include <QButtonGroup>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QRadioButton>
+#include <QScopedValueRollback>
+#include <QVBoxLayout>
+
+#include "base/message_texts.h"
+#include "base/notifier.h"
+#include "messaging/core/messaging_texts.h"
+#include "messaging/screens/message_edit.h"
+#include "messaging/screens/recipients_panel.h"
+#include "ui/picture_button.h"
+
+namespace parlexo {
+namespace {
+
+// Set while a recount runs: the texts that it puts back must not count again. One flag for the program, so
+// that a second page could not count in the middle of the first.
+bool isRecounting = false;
+
+constexpr int counterCharacters = 5;
+
+QString smsWord() {
+  return QStringLiteral("SMS");
+}
+
+QLineEdit* readOnlyField(const QString& name, QWidget* parent) {
+  auto* field = new QLineEdit(parent);
+  field->setObjectName(name);
+  field->setReadOnly(true);
+  return field;
+}
+
+QLabel* labelFor(QWidget* field, const QString& text) {
+  auto* label = new QLabel(text, field->parentWidget());
+  label->setBuddy(field);
+  return label;
+}
+
+// A titled box with two radio buttons, in a button group of the given name.
+QGroupBox* choiceBox(const QString& title, const QString& groupName, QRadioButton* first,
+                     QRadioButton* second) {
+  auto* box = new QGroupBox(title);
+  auto* group = new QButtonGroup(box);
+  group->setObjectName(groupName);
+  auto* layout = new QVBoxLayout(box);
+  for (QRadioButton* choice : {first, second}) {
+    group->addButton(choice);
+    layout->addWidget(choice);
+  }
+  return box;
+}
+
+}  // namespace
+
+CQuillonSMSDlg::CQuillonSMSDlg(const MessagingServices& services, QWidget* parent)
+    : GradientPage(parent), services_(services), flow_(services) {
+  setObjectName(QStringLiteral("smsPage"));
+  createControls();
+  createLayout();
+  showSchedule();
+  applyCharset();
+}
+
+SmsDraft CQuillonSMSDlg::draft() const {
+  SmsDraft draft;
+  draft.text = editor_->text();
+  draft.charset = charset();
+  draft.flash = !standardType_->isChecked();
+  draft.displayList = recipients_->recipients().displayList();
+  draft.numbersList = recipients_->recipients().numbersList();
+  draft.schedule = schedule_;
+  return draft;
+}
+
+void CQuillonSMSDlg::createControls() {
+  editor_ = new MessageEdit(this);
+  editor_->setObjectName(QStringLiteral("messageEdit"));
+  connect(editor_, &MessageEdit::textChanged, this, &CQuillonSMSDlg::recount);
+  createCounters();
+  createCharsetChoice();
+  createTypeChoice();
+  recipients_ =
+      new RecipientsPanel(services_.addressBook, services_.notifier, smsWord(), RecipientNumber::Phone, this);
+  scheduleText_ = readOnlyField(QStringLiteral("scheduleText"), this);
+}
+
+void CQuillonSMSDlg::createCharsetChoice() {
+  standardCharset_ = new QRadioButton(QStringLiteral("Standard character set"), this);
+  standardCharset_->setObjectName(QStringLiteral("standardCharset"));
+  unicodeCharset_ = new QRadioButton(QStringLiteral("Unicode (Languages support)"), this);
+  unicodeCharset_->setObjectName(QStringLiteral("unicodeCharset"));
+  standardCharset_->setChecked(true);
+  connect(standardCharset_, &QRadioButton::toggled, this, &CQuillonSMSDlg::applyCharset);
+}
+
+void CQuillonSMSDlg::createTypeChoice() {
+  standardType_ = new QRadioButton(QStringLiteral("Standard"), this);
+  standardType_->setObjectName(QStringLiteral("standardType"));
+  flashType_ = new QRadioButton(QStringLiteral("Flash"), this);
+  flashType_->setObjectName(QStringLiteral("flashType"));
+  standardType_->setChecked(true);
+}
+
+void CQuillonSMSDlg::createCounters() {
+  totalSms_ = readOnlyField(QStringLiteral("totalSms"), this);
+  remaining_ = readOnlyField(QStringLiteral("charactersRemaining"), this);
+  for (QLineEdit* counter : {totalSms_, remaining_}) {
+    counter->setFocusPolicy(Qt::ClickFocus);
+    counter->setAlignment(Qt::AlignRight);
+    counter->setFixedWidth(counter->fontMetrics().averageCharWidth() * counterCharacters + 16);
+  }
+}
+
+void CQuillonSMSDlg::createLayout() {
+  auto* top = new QHBoxLayout;
+  top->setSpacing(14);
+  top->addLayout(messageColumn(), 1);
+  top->addLayout(choiceColumn());
+  auto* layout = new QVBoxLayout(this);
+  layout->setContentsMargins(14, 10, 14, 12);
+  layout->setSpacing(10);
+  layout->addLayout(top, 3);
+  layout->addWidget(recipients_, 2);
+  layout->addLayout(bottomRow());
+}
+
+QLayout* CQuillonSMSDlg::messageColumn() {
+  auto* counters = new QHBoxLayout;
+  counters->addWidget(labelFor(totalSms_, QStringLiteral("Total SMS:")));
+  counters->addWidget(totalSms_);
+  counters->addSpacing(14);
+  counters->addWidget(labelFor(remaining_, QStringLiteral("Characters remaining:")));
+  counters->addWidget(remaining_);
+  counters->addStretch(1);
+  auto* column = new QVBoxLayout;
+  column->addWidget(labelFor(editor_, QStringLiteral("&Message")));
+  column->addWidget(editor_, 1);
+  column->addLayout(counters);
+  return column;
+}
+
+QLayout* CQuillonSMSDlg::choiceColumn() {
+  auto* tip = button(QStringLiteral("?"), QStringLiteral("templatesTipButton"));
+  tip->setAccessibleName(QStringLiteral("About templates"));
+  connect(tip, &PictureButton::clicked, this, &CQuillonSMSDlg::showTemplatesTip);
+  auto* templates = new QHBoxLayout;
+  templates->addWidget(buttonToCome(QStringLiteral("Load Template"), QStringLiteral("loadTemplateButton")));
+  templates->addWidget(buttonToCome(QStringLiteral("Save Template"), QStringLiteral("saveTemplateButton")));
+  templates->addWidget(tip);
+  auto* column = new QVBoxLayout;
+  column->addWidget(choiceBox(QStringLiteral("Character set"), QStringLiteral("GroupEncoding"),
+                              standardCharset_, unicodeCharset_));
+  column->addWidget(
+      choiceBox(QStringLiteral("Message type"), QStringLiteral("GroupType"), standardType_, flashType_));
+  column->addStretch(1);
+  column->addLayout(templates);
+  return column;
+}
+
+QLayout* CQuillonSMSDlg::bottomRow() {
+  auto* status = button(QStringLiteral("&Get Status"), QStringLiteral("getStatusButton"));
+  connect(status, &PictureButton::clicked, this, [this] { Q_EMIT statusRequested(smsWord()); });
+  auto* sendButton = button(QStringLiteral("S&end >"), QStringLiteral("sendButton"));
+  connect(sendButton, &PictureButton::clicked, this, &CQuillonSMSDlg::send);
+  sendButton->setDefault(true);
+
+  auto* row = new QHBoxLayout;
+  row->addWidget(labelFor(scheduleText_, QStringLiteral("Sc&hedule messages to be sent at:")));
+  row->addWidget(scheduleText_, 1);
+  row->addWidget(buttonToCome(QStringLiteral("Set Date/Time"), QStringLiteral("setDateTimeButton")));
+  row->addWidget(buttonToCome(QStringLiteral("Sender ID"), QStringLiteral("senderIdButton")));
+  row->addSpacing(24);
+  row->addWidget(status);
+  row->addWidget(sendButton);
+  return row;
+}
+
+PictureButton* CQuillonSMSDlg::button(const QString& text, const QString& name) {
+  auto* created = new PictureButton(text, this);
+  created->setObjectName(name);
+  return created;
+}
+
+PictureButton* CQuillonSMSDlg::buttonToCome(const QString& text, const QString& name) {
+  PictureButton* created = button(text, name);
+  created->setEnabled(false);
+  return created;
+}
+
+SmsCharset CQuillonSMSDlg::charset() const {
+  return standardCharset_->isChecked() ? SmsCharset::Standard : SmsCharset::Unicode;
+}
+
+void CQuillonSMSDlg::applyCharset() {
+  editor_->setTextLimit(limitsOf(charset()).text);
+  if (editor_->length() > editor_->textLimit()) {
+    services_.notifier.error(messaging_texts::tooMuchText());
+    editor_->truncate(0);
+  }
+  recount();
+}
+
+void CQuillonSMSDlg::recount() {
+  if (isRecounting) return;
+  const QScopedValueRollback guard(isRecounting, true);
+  const SmsComposition composition = composeSms(editor_->text(), charset());
+  if (composition.tooLong) services_.notifier.error(messaging_texts::unicodeTooLong());
+  editor_->truncate(static_cast<int>(composition.editorText.size()));
+  totalSms_->setText(QString::number(composition.totalSms));
+  remaining_->setText(QString::number(composition.remaining));
+}
+
+void CQuillonSMSDlg::send() {
+  if (isSending_) return;
+  const QScopedValueRollback guard(isSending_, true);
+  if (flow_.send(draft()) != SendOutcome::Delivered) return;
+  clearForm();
+  Q_EMIT messageSent(smsWord());
+}
+
+void CQuillonSMSDlg::clearForm() {
+  editor_->clear();
+  recipients_->clearEntries();
+  schedule_.text = Schedule::sendNow();
+  showSchedule();
+  recount();
+}
+
+void CQuillonSMSDlg::showSchedule() {
+  scheduleText_->setText(schedule_.text);
+}
+
+void CQuillonSMSDlg::showTemplatesTip() {
+  services_.notifier.show(text(TextId::TemplatesTip), message_style::information,
+                          static_cast<int>(TextId::TemplatesTip));
+}
+
+}  // namespace parlexo
