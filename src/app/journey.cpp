@@ -49,7 +49,7 @@ void Journey::planLogin(const QString& user, const QString& password) {
                              hands::typeInto(window, QStringLiteral("Password:"), password);
                     }});
   steps_.push_back({QStringLiteral("login-filled"), QStringLiteral("Presses Login"), loginWindow,
-                    [](QWidget* window) { return hands::press(window, QStringLiteral("&Login")); }});
+                    [](QWidget* window) { return hands::press(window, QStringLiteral("Login")); }});
 }
 
 void Journey::planMessage() {

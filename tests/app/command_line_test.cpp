@@ -17,6 +17,14 @@ struct Accepted {
 
 class AcceptedCommandLine : public testing::TestWithParam<Accepted> {};
 
+TEST(CommandLine, journeyIsADemoWithAFolderForItsPictures) {
+  const auto parsed = parseCommandLine({u"--journey"_qs, u"/tmp/pictures"_qs});
+  const auto* options = std::get_if<ProgramOptions>(&parsed);
+  ASSERT_TRUE(options);
+  EXPECT_TRUE(options->demo);
+  EXPECT_EQ(options->journeyDir, u"/tmp/pictures"_qs);
+}
+
 TEST_P(AcceptedCommandLine, setsTheOptions) {
   const auto parsed = parseCommandLine(GetParam().arguments);
   const auto* options = std::get_if<ProgramOptions>(&parsed);

@@ -23,6 +23,8 @@ QString helpText() {
          "Options:\n"
          "  --demo                  try the program out: a gateway simulator inside the process,\n"
          "                          sample contacts, account demo with password demo1234\n"
+         "  --journey DIR           a demo that drives itself: send a message, ask for its status,\n"
+         "                          leave a picture of every step in DIR\n"
          "  --site http://HOST:PORT ask this web site where the gateway is, not %1\n"
          "  --data-dir DIR          keep contacts, templates, status log and settings in DIR\n"
          "  --version               print the version and end\n"
@@ -80,18 +82,27 @@ class Parser {
   }
 
   void takeWithValue(const QString& name, const QString& argument) {
-    const bool isSiteOption = name == u"--site"_qs;
-    if (!isSiteOption && name != u"--data-dir"_qs) {
+    static const QStringList names = {u"--site"_qs, u"--data-dir"_qs, u"--journey"_qs};
+    if (!names.contains(name)) {
       end_ = wrong(u"unknown option \"%1\""_qs.arg(argument));
       return;
     }
     const QString value = valueOf(argument);
     if (value.isEmpty())
       end_ = wrong(u"option \"%1\" needs a value"_qs.arg(name));
-    else if (isSiteOption)
-      takeSite(value);
     else
-      options_.dataDir = QDir(value).absolutePath();
+      store(name, value);
+  }
+
+  void store(const QString& name, const QString& value) {
+    if (name == u"--site"_qs) return takeSite(value);
+    const QString folder = QDir(value).absolutePath();
+    if (name == u"--data-dir"_qs) {
+      options_.dataDir = folder;
+    } else {
+      options_.demo = true;
+      options_.journeyDir = folder;
+    }
   }
 
   QString valueOf(const QString& argument) {

@@ -1,0 +1,62 @@
+#include <cstdio>
+#include <variant>
+
+#include <QApplication>
+
+#include "app/application.h"
+#include "app/core/command_line.h"
+#include "app/demo.h"
+#include "app/journey.h"
+#include "app/process.h"
+#include "ui/look.h"
+
+namespace {
+
+using namespace parlexo;
+
+constexpr int demoFailed = 1;
+constexpr int journeyFailed = 1;
+
+QStringList argumentsOf(int argc, char** argv) {
+  QStringList arguments;
+  for (int i = 1; i < argc; ++i) arguments << QString::fromLocal8Bit(argv[i]);
+  return arguments;
+}
+
+int endAtOnce(const ImmediateEnd& end) {
+  std::fputs(qUtf8Printable(end.output), end.exitCode == 0 ? stdout : stderr);
+  return end.exitCode;
+}
+
+int runJourney(const ProgramOptions& options) {
+  Application client(options);
+  Journey journey(Demo::user(), Demo::password(), options.journeyDir);
+  journey.start();
+  const int exitCode = client.run();
+  return exitCode == 0 && !journey.succeeded() ? journeyFailed : exitCode;
+}
+
+int runDemo(ProgramOptions options) {
+  Demo demo(options.dataDir);
+  const QString problem = demo.start();
+  if (!problem.isEmpty())
+    return endAtOnce({demoFailed, QStringLiteral("parlexo-client: the demo can't start: %1\n").arg(problem)});
+  options.dataDir = demo.dataFolder();
+  if (options.site.isEmpty()) options.site = demo.site();
+  return options.journeyDir.isEmpty() ? Application(options).run() : runJourney(options);
+}
+
+}  // namespace
+
+// The command line is read before there is an application object, so that --help works without a display.
+int main(int argc, char** argv) {
+  prepareProcess();
+  const auto parsed = parseCommandLine(argumentsOf(argc, argv));
+  if (const auto* end = std::get_if<ImmediateEnd>(&parsed)) return endAtOnce(*end);
+  QApplication application(argc, argv);
+  // Between login and main window no window is open, and that must not end the event loops to come.
+  QApplication::setQuitOnLastWindowClosed(false);
+  applyLook(application);
+  const auto& options = std::get<ProgramOptions>(parsed);
+  return options.demo ? runDemo(options) : Application(options).run();
+}

@@ -1,0 +1,93 @@
+#include "app/core/login_flow.h"
+
+#include <gmock/gmock.h>
+
+#include "tests/app/run_fakes.h"
+
+namespace parlexo {
+namespace {
+
+using namespace Qt::StringLiterals;
+using simulator::FaultKind;
+using testing::ElementsAre;
+
+class LoginFlowTest : public RunTest {
+ protected:
+  void SetUp() override {
+    RunTest::SetUp();
+    ASSERT_TRUE(locate());
+    settings.setRememberedUser(u"earlier"_qs);
+    state.session = u"old token"_qs;
+    state.userName = u"old user"_qs;
+  }
+
+  LoginOutcome attempt(const QString& user, const QString& password) {
+    return LoginFlow(state, settings, gateway, notifier).attempt(user, password);
+  }
+
+  void expectNothingStored() {
+    EXPECT_EQ(state.session, u"old token"_qs);
+    EXPECT_EQ(state.userName, u"old user"_qs);
+    EXPECT_EQ(settings.rememberedUser(), u"earlier"_qs);
+  }
+};
+
+TEST_F(LoginFlowTest, acceptedLoginReplacesSessionAndIsRemembered) {
+  EXPECT_EQ(attempt(u"demo"_qs, u"demo1234"_qs), LoginOutcome::Accepted);
+  EXPECT_FALSE(state.session.isEmpty());
+  EXPECT_NE(state.session, u"old token"_qs);
+  EXPECT_EQ(state.userName, u"demo"_qs);
+  EXPECT_EQ(settings.rememberedUser(), u"demo"_qs);
+  EXPECT_EQ(journal, Journal());
+}
+
+TEST_F(LoginFlowTest, acceptanceWithoutTokenClosesTheDialogAndStoresNothing) {
+  setFault(FaultKind::Code, u"sessionStart"_qs, 0);
+  EXPECT_EQ(attempt(u"demo"_qs, u"demo1234"_qs), LoginOutcome::Accepted);
+  expectNothingStored();
+  EXPECT_EQ(journal, Journal());
+}
+
+TEST_F(LoginFlowTest, emptyFieldsAreLeftToTheGateway) {
+  EXPECT_EQ(attempt({}, {}), LoginOutcome::Refused);
+  EXPECT_THAT(simulator.calledOperations(), ElementsAre(u"locator"_qs, u"sessionStart"_qs));
+  EXPECT_THAT(journal,
+              ElementsAre(u"message 0x10 0 Invalid Username or Password. Passwords are case sensitive"_qs));
+}
+
+struct Refusal {
+  const char* name;
+  FaultKind kind;
+  int number;
+  QString message;
+};
+
+class LoginRefusal : public LoginFlowTest, public testing::WithParamInterface<Refusal> {};
+
+TEST_P(LoginRefusal, isShownAndStoresNothing) {
+  setFault(GetParam().kind, u"sessionStart"_qs, GetParam().number, u"reason"_qs);
+  EXPECT_EQ(attempt(u"demo"_qs, u"demo1234"_qs), LoginOutcome::Refused);
+  EXPECT_THAT(journal, ElementsAre(u"message 0x10 0 "_qs + GetParam().message));
+  expectNothingStored();
+}
+
+const QString unreachable =
+    u"Could not connect to the Parlexo gateway server.\r\n\r\nPlease make sure you have internet "
+    u"connectivity, "
+    u"your firewall allows gateway connection or try again later."_qs;
+
+INSTANTIATE_TEST_SUITE_P(
+    Faults, LoginRefusal,
+    testing::Values(
+        Refusal{"wrongPassword", FaultKind::Code, 4,
+                u"Invalid Username or Password. Passwords are case sensitive"_qs},
+        Refusal{"code12", FaultKind::Code, 12, u"An error occured while logging on. Error code: 12"_qs},
+        Refusal{"code7", FaultKind::Code, 7, u"An error occured while logging on. Error code: 7"_qs},
+        Refusal{"negative", FaultKind::Code, -1, u"An error occured while logging on. Error code: -1"_qs},
+        Refusal{"cut", FaultKind::Cut, 0, unreachable}, Refusal{"closed", FaultKind::Close, 0, unreachable},
+        Refusal{"httpError", FaultKind::HttpError, 0, unreachable},
+        Refusal{"fault", FaultKind::SoapFault, 0, unreachable}),
+    [](const auto& tested) { return tested.param.name; });
+
+}  // namespace
+}  // namespace parlexo
