@@ -53,13 +53,14 @@ Download wait(QNetworkReply& reply, qint64 limit) {
   Download download;
   QEventLoop loop;
   const auto take = [&] {
-    download.document += reply.read(limit - download.document.size());
+    // A reply that failed at once is not open.
+    if (reply.isOpen()) download.document += reply.read(limit - download.document.size());
     if (download.document.size() >= limit) loop.quit();
   };
   QObject::connect(&reply, &QNetworkReply::readyRead, &loop, take);
   QObject::connect(&reply, &QNetworkReply::finished, &loop, &QEventLoop::quit);
   if (!reply.isFinished()) loop.exec();
-  download.document += reply.read(limit - download.document.size());
+  take();
   download.status = reply.attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
   download.error = reply.error();
   download.isWhole = download.error == QNetworkReply::NoError;

@@ -32,7 +32,7 @@ int writeBinary(::soap& context, const char* name, const BinaryData& value) {
 }
 
 int writeBorrowedText(::soap& context, const char* name, const char* text) {
-  if (!text) return soap_element_null(&context, name, noId, "xsd:string");
+  if (!text) return SOAP_OK;
   return writeText(context, name, "xsd:string", withoutForbiddenCharacters(text));
 }
 

@@ -47,8 +47,8 @@ class RequestReader {
 /// The envelope that answers with `fields`; `operation` is the name without "Response".
 [[nodiscard]] std::string responseEnvelope(std::string_view operation, const Fields& fields);
 
-/// The envelope that answers with a response record. Null strings are written as nil. Characters that XML
-/// cannot carry become "?".
+/// The envelope that answers with a response record. Null strings are left out. Characters that XML cannot
+/// carry become "?".
 template <class Response>
 [[nodiscard]] std::string responseEnvelope(Response response) {
   const auto& operation = operationWith<Response>();

@@ -37,8 +37,10 @@ bool isCancelled(const IoPatience& patience) {
 }
 
 /// Waits until the socket is ready for `events` or has failed, which the next call on it then tells. False
-/// when the deadline passed or the exchange was cancelled.
+/// when the deadline passed, the exchange was cancelled or there is no socket.
 bool waitFor(int socket, short events, Clock::time_point deadline, const IoPatience& patience) {
+  // Without an address the runtime writes to a connection that was never opened; poll() would wait for it.
+  if (!soap_valid_socket(socket)) return false;
   while (!isCancelled(patience)) {
     pollfd watched{socket, events, 0};
     const int ready = poll(&watched, 1, pollSliceMs);

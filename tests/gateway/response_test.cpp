@@ -1,0 +1,331 @@
+#include <cstdio>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "gateway/core/gateway_client.h"
+#include "gateway/protocol/server_envelope.h"
+#include "tests/gateway/fake_gateway.h"
+#include "tests/gateway/gateway_access_for.h"
+
+namespace parlexo {
+namespace {
+
+using testing::accessTo;
+using testing::envelope;
+using testing::FakeGateway;
+using testing::httpReply;
+
+/// What one status query came to when the gateway answered with `http`.
+struct Query {
+  explicit Query(const std::string& http)
+      : gateway(http), access(accessTo(gateway.endpoint())), client(access) {
+    response.nErrorCode = 99;
+    response.sStatus = "left over";
+    result = client.getStatus("T", "R1", response);
+  }
+
+  [[nodiscard]] std::string status() const { return response.sStatus ? response.sStatus : "(null)"; }
+
+  FakeGateway gateway;
+  GatewayAccess access;
+  GatewayClient client;
+  protocol::getStatusResponse response;
+  int result = 0;
+};
+
+std::string statusElement(const std::string& fields) {
+  return "<m:getStatusResponse>" + fields + "</m:getStatusResponse>";
+}
+
+struct AnswerCase {
+  const char* what;
+  std::string body;
+  std::string header;
+  std::int32_t code;
+  const char* status;
+};
+
+std::vector<AnswerCase> readableAnswers() {
+  const std::string code = "<nErrorCode xsi:type=\"xsd:int\">7</nErrorCode>";
+  const std::string status = "<sStatus xsi:type=\"xsd:string\">Sent</sStatus>";
+  const std::string entry = "<t:x xmlns:t=\"urn:t\" S:mustUnderstand=\"1\"><deep>1</deep></t:x>";
+  return {
+      {"as agreed", statusElement(code + status), "", 7, "Sent"},
+      {"other order", statusElement(status + code), "", 7, "Sent"},
+      {"no types, blanks around the number",
+       statusElement("<nErrorCode> \n-2147483648 </nErrorCode><sStatus>Sent</sStatus>"), "", -2147483648,
+       "Sent"},
+      {"unknown elements before, between and behind",
+       statusElement("<a/>" + code + "<b x=\"/>\">t<c>u<d/></c>v</b>" + status + "<e xmlns:q=\"urn:q\"/>"),
+       "", 7, "Sent"},
+      {"the first of two counts", statusElement(code + status + "<sStatus>Other</sStatus>"), "", 7, "Sent"},
+      {"text absent", statusElement(code), "", 7, "(null)"},
+      {"text nil", statusElement(code + "<sStatus xsi:nil=\"true\"/>"), "", 7, "(null)"},
+      {"text empty", statusElement(code + "<sStatus/>"), "", 7, ""},
+      {"header passed over, whatever it demands", statusElement(code + status),
+       "<S:Header>" + entry + "</S:Header>", 7, "Sent"},
+      {"empty header", statusElement(code + status), "<S:Header/>", 7, "Sent"},
+      {"references",
+       statusElement("<sStatus href=\"#id0\"/><nErrorCode href=\"#id1\"/>") +
+           "<multiRef id=\"id1\" xsi:type=\"xsd:int\">7</multiRef><multiRef "
+           "id=\"unasked\"><x>1</x></multiRef>"
+           "<multiRef id=\"id0\" xsi:type=\"xsd:string\">Sent</multiRef>",
+       "", 7, "Sent"},
+      {"one target for two references",
+       statusElement("<sStatus href=\"#id0\"/><nErrorCode href=\"#id0\"/>") +
+           "<multiRef id=\"id0\">7</multiRef>",
+       "", 7, "7"},
+      {"character references, CDATA and comments",
+       statusElement(code +
+                     "<sStatus>&lt;&#x41;&#66;&#13;<![CDATA[<&>]]></sStatus><!-- <sStatus>no</sStatus> -->"),
+       "", 7, "<AB\r<&>"},
+      {"UTF-8 becomes one byte a character", statusElement(code + "<sStatus>\xC3\xA9&#x80;</sStatus>"), "", 7,
+       "\xE9\x80"},
+  };
+}
+
+TEST(Response, isReadInEveryFormThatServersGiveIt) {
+  for (const AnswerCase& each : readableAnswers()) {
+    const Query query(httpReply(envelope(each.body, each.header)));
+    EXPECT_EQ(query.result, 0) << each.what;
+    EXPECT_EQ(query.response.nErrorCode, each.code) << each.what;
+    EXPECT_EQ(query.status(), each.status) << each.what;
+  }
+}
+
+TEST(Response, isReadInChunksAndUpToTheEndOfTheConnection) {
+  const std::string body = envelope(statusElement("<nErrorCode>0</nErrorCode><sStatus>Sent</sStatus>"));
+  const std::string head = "HTTP/1.1 200 OK\r\nContent-Type: text/xml\r\n";
+  char size[16];
+  std::snprintf(size, sizeof size, "%zx\r\n", body.size() - 10);
+  const std::string chunked = head + "Transfer-Encoding: chunked\r\n\r\na\r\n" + body.substr(0, 10) + "\r\n" +
+                              size + body.substr(10) + "\r\n0\r\n\r\n";
+  for (const std::string& reply :
+       {chunked, head + "\r\n" + body, "HTTP/1.1 100 Continue\r\n\r\n" + head + "\r\n" + body}) {
+    const Query query(reply);
+    EXPECT_EQ(query.result, 0) << reply;
+    EXPECT_EQ(query.status(), "Sent");
+  }
+}
+
+TEST(Response, valuesOfEveryTypeAreRead) {
+  FakeGateway gateway(httpReply(envelope(
+      "<m:partnerGetCostByCountryResponse><nErrorCode>0</nErrorCode><dCostWholesaleFlat>0.1</"
+      "dCostWholesaleFlat>"
+      "<dCostWholesalePerHalfMin>-1.5E3</dCostWholesalePerHalfMin><dCostResellerFlat>INF</dCostResellerFlat>"
+      "<dCostResellerPerHalfMin>+2</dCostResellerPerHalfMin><sNetworks>n</sNetworks>"
+      "</m:partnerGetCostByCountryResponse>")));
+  const GatewayAccess access = accessTo(gateway.endpoint());
+  GatewayClient client(access);
+  protocol::partnerGetCostByCountryResponse costs;
+  ASSERT_EQ(client.partnerGetCostByCountry("T", "AU", true, "p", "c", "s", costs), 0);
+  EXPECT_EQ(costs.dCostWholesaleFlat, 0.1);
+  EXPECT_EQ(costs.dCostWholesalePerHalfMin, -1500);
+  EXPECT_GT(costs.dCostResellerFlat, 1e300);
+  EXPECT_EQ(costs.dCostResellerPerHalfMin, 2);
+
+  gateway.setAnswer(httpReply(envelope(
+      "<m:getEmailMessagingResponse><bEmailEnable>true</bEmailEnable><bEmailFilter>false</bEmailFilter>"
+      "<bEmailSmsSplit>1</bEmailSmsSplit><nErrorCode>0</nErrorCode></m:getEmailMessagingResponse>")));
+  GatewayClient second(access);
+  protocol::getEmailMessagingResponse preferences;
+  ASSERT_EQ(second.getEmailMessaging("T", preferences), 0);
+  EXPECT_TRUE(preferences.bEmailEnable);
+  EXPECT_FALSE(preferences.bEmailFilter);
+  EXPECT_TRUE(preferences.bEmailSmsSplit);
+}
+
+/// Whatever is wrong with a reply, the call fails and the record holds nothing of it.
+void expectFailure(const std::string& http, const std::string& what) {
+  const Query query(http);
+  EXPECT_NE(query.result, 0) << what;
+  EXPECT_EQ(query.response.nErrorCode, 0) << what;
+  EXPECT_EQ(query.status(), "(null)") << what;
+}
+
+TEST(Response, thatIsNoAnswerFailsAndLeavesTheRecordCleared) {
+  const std::string good = statusElement("<nErrorCode>7</nErrorCode><sStatus>Sent</sStatus>");
+  const std::vector<std::pair<const char*, std::string>> bodies{
+      {"empty", ""},
+      {"not XML", "Service unavailable"},
+      {"other XML", "<html><body>502</body></html>"},
+      {"empty body", envelope("")},
+      {"other element", envelope("<m:sendSmsResponse><nErrorCode>0</nErrorCode></m:sendSmsResponse>")},
+      {"other namespace",
+       envelope("<getStatusResponse xmlns=\"urn:x\"><nErrorCode>0</nErrorCode></getStatusResponse>")},
+      {"no code", envelope(statusElement("<sStatus>Sent</sStatus>"))},
+      {"nil code", envelope(statusElement("<nErrorCode xsi:nil=\"true\"/><sStatus>Sent</sStatus>"))},
+      {"empty code", envelope(statusElement("<nErrorCode/><sStatus>Sent</sStatus>"))},
+      {"code is a word", envelope(statusElement("<sStatus>Sent</sStatus><nErrorCode>none</nErrorCode>"))},
+      {"code has a tail", envelope(statusElement("<sStatus>Sent</sStatus><nErrorCode>7 x</nErrorCode>"))},
+      {"code too large", envelope(statusElement("<nErrorCode>2147483648</nErrorCode>"))},
+      {"reference to nothing", envelope(statusElement("<nErrorCode href=\"#id0\"/><sStatus>Sent</sStatus>"))},
+      {"text refers to nothing",
+       envelope(statusElement("<nErrorCode>0</nErrorCode><sStatus href=\"#id0\"/>"))},
+      {"reference to itself",
+       envelope(statusElement("<nErrorCode id=\"a\" href=\"#a\"/><sStatus>Sent</sStatus>"))},
+      {"unknown entity", envelope(statusElement("<nErrorCode>&seven;</nErrorCode>"))},
+      {"no SOAP envelope",
+       "<x xmlns:m=\"http://www.parlexo.example/onlineCommunication/binding\">" + good + "</x>"},
+  };
+  for (const auto& [what, body] : bodies) {
+    expectFailure(httpReply(body), what);
+    expectFailure(httpReply(body, "500 Internal Server Error"), what);
+  }
+  for (const char* status :
+       {"301 Moved", "400 Bad Request", "404 Not Found", "500 Internal Server Error", "503 Busy"}) {
+    expectFailure(httpReply(envelope(good), status), status);
+    expectFailure(httpReply("<html/>", status), status);
+  }
+  expectFailure("", "closed without a word");
+  expectFailure("SSH-2.0-OpenSSH_9.2\r\n", "another protocol");
+}
+
+TEST(Response, cutAnywhereIsNeverTakenForAnAnswer) {
+  const std::string whole =
+      httpReply(envelope(statusElement("<nErrorCode>0</nErrorCode><sStatus href=\"#a\"/>") +
+                         "<multiRef id=\"a\">Sent</multiRef>"));
+  FakeGateway gateway("");
+  const GatewayAccess access = accessTo(gateway.endpoint());
+  for (std::size_t length = 0; length <= whole.size(); ++length) {
+    gateway.setAnswer(whole.substr(0, length));
+    GatewayClient client(access);
+    protocol::getStatusResponse response;
+    const int result = client.getStatus("T", "R1", response);
+    EXPECT_EQ(result == 0, length == whole.size()) << length;
+    EXPECT_EQ(response.sStatus != nullptr, length == whole.size()) << length;
+  }
+}
+
+TEST(Response, hostileSizesAndDepthsFail) {
+  std::string deep;
+  for (int i = 0; i < 100'000; ++i) deep += "<a>";
+  expectFailure(httpReply(envelope(statusElement(deep))), "deep nesting");
+  expectFailure(httpReply(envelope(deep)), "deep nesting in place of the answer");
+  expectFailure(httpReply(envelope(statusElement("<nErrorCode>0</nErrorCode><sStatus>" +
+                                                 std::string(33u << 20, 'x') + "</sStatus>"))),
+                "huge text");
+  expectFailure("HTTP/1.1 200 OK\r\nContent-Type: text/xml\r\nContent-Length: 99999999999999\r\n\r\n<",
+                "huge length");
+  expectFailure("HTTP/1.1 200 OK\r\nX: " + std::string(1u << 20, 'x') + "\r\n\r\n", "huge header");
+  std::string bomb = "<!DOCTYPE x [<!ENTITY a \"aaaaaaaaaa\">";
+  for (char name = 'b'; name < 'k'; ++name) {
+    bomb += std::string("<!ENTITY ") + name + " \"";
+    for (int i = 0; i < 10; ++i) bomb += std::string("&") + static_cast<char>(name - 1) + ";";
+    bomb += "\">";
+  }
+  expectFailure(
+      httpReply(bomb + "]>" + envelope(statusElement("<nErrorCode>&j;</nErrorCode><sStatus>&j;</sStatus>"))),
+      "entity expansion");
+}
+
+struct FaultCase {
+  const char* fault;
+  int result;
+};
+
+TEST(Response, faultsOfBothFormsGiveTheRuntimesCode) {
+  const std::string soap12 = "http://www.w3.org/2003/05/soap-envelope";
+  for (const FaultCase& each : std::vector<FaultCase>{
+           {"<S:Fault><faultcode>S:Server</faultcode><faultstring>no</faultstring></S:Fault>", 2},
+           {"<S:Fault><faultcode>S:Client</faultcode></S:Fault>", 1},
+           {"<S:Fault><detail><q:a xmlns:q=\"urn:q\">b<c/></q:a></detail><faultactor>urn:a</faultactor>"
+            "<faultstring>no</faultstring><odd>x</odd><faultcode>S:Server</faultcode></S:Fault>",
+            2},
+           {"<S:Fault><faultcode>Strange</faultcode></S:Fault>", 12},
+           {"<S:Fault><faultcode href=\"#nowhere\"/></S:Fault>", 2},
+           {"<S:Fault/>", 2},
+       }) {
+    for (const char* status : {"200 OK", "500 Internal Server Error"}) {
+      const Query query(httpReply(envelope(each.fault), status));
+      EXPECT_EQ(query.result, each.result) << each.fault;
+      EXPECT_EQ(query.status(), "(null)");
+    }
+  }
+  std::string newForm = envelope(
+      "<S:Fault><S:Code><S:Value>S:Receiver</S:Value><S:Subcode><S:Value>S:x</S:Value><odd/></S:Subcode></"
+      "S:Code>"
+      "<S:Reason><S:Text xml:lang=\"en\">no</S:Text></S:Reason><S:Node>urn:n</S:Node><S:Role>urn:r</S:Role>"
+      "<S:Detail><a>b</a></S:Detail></S:Fault>");
+  const std::string soap11 = "http://schemas.xmlsoap.org/soap/envelope/";
+  newForm.replace(newForm.find(soap11), soap11.size(), soap12);
+  EXPECT_EQ(Query(httpReply(newForm, "500 Internal Server Error")).result, 2);
+}
+
+TEST(Response, isWrittenByTheServerSideInTheServicesOrder) {
+  const std::string start =
+      "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
+      "<SOAP-ENV:Envelope xmlns:SOAP-ENV=\"http://schemas.xmlsoap.org/soap/envelope/\""
+      " xmlns:SOAP-ENC=\"http://schemas.xmlsoap.org/soap/encoding/\""
+      " xmlns:xsi=\"http://www.w3.org/2001/XMLSchema-instance\""
+      " xmlns:xsd=\"http://www.w3.org/2001/XMLSchema\""
+      " xmlns:ns3=\"http://www.parlexo.example/onlineCommunication/binding\">"
+      "<SOAP-ENV:Body SOAP-ENV:encodingStyle=\"http://schemas.xmlsoap.org/soap/encoding/\">";
+  const std::string end = "</SOAP-ENV:Body></SOAP-ENV:Envelope>\r\n";
+  EXPECT_EQ(protocol::responseEnvelope(protocol::getStatusResponse{.nErrorCode = -3, .sStatus = "a\x01<"}),
+            start +
+                "<ns3:getStatusResponse><nErrorCode xsi:type=\"xsd:int\">-3</nErrorCode>"
+                "<sStatus xsi:type=\"xsd:string\">a?&lt;</sStatus></ns3:getStatusResponse>" +
+                end);
+  EXPECT_EQ(protocol::responseEnvelope(protocol::sendSmsResponse{}),
+            start +
+                "<ns3:sendSmsResponse>"
+                "<nErrorCode xsi:type=\"xsd:int\">0</nErrorCode></ns3:sendSmsResponse>" +
+                end);
+  EXPECT_EQ(protocol::faultEnvelope("SOAP-ENV:Server", "a & b"),
+            start +
+                "<SOAP-ENV:Fault><faultcode xsi:type=\"xsd:QName\">SOAP-ENV:Server</faultcode>"
+                "<faultstring xsi:type=\"xsd:string\">a &amp; b</faultstring></SOAP-ENV:Fault>" +
+                end);
+}
+
+TEST(RequestReader, refusesWhatIsNoWholeRequest) {
+  const std::string whole =
+      envelope("<m:getStatus><sReciept>R</sReciept><x/><sSession>T</sSession></m:getStatus>");
+  protocol::RequestReader reader(whole);
+  protocol::getStatus request;
+  EXPECT_EQ(reader.operation(), "getStatus");
+  ASSERT_TRUE(reader.read(request));
+  EXPECT_EQ(request.sSession, "T");
+  EXPECT_EQ(request.sReciept, "R");
+
+  for (std::size_t length = 0; length < whole.size(); ++length) {
+    protocol::RequestReader cut(whole.substr(0, length));
+    EXPECT_FALSE(cut.read(request)) << length;
+    EXPECT_TRUE(request.sSession.empty());
+  }
+  protocol::RequestReader other(whole);
+  protocol::sendSms sms;
+  EXPECT_FALSE(other.read(sms));
+  EXPECT_EQ(protocol::RequestReader("POST / HTTP/1.1\r\n\r\n" + whole).operation(), "");
+}
+
+TEST(RequestReader, readsBinaryFieldsStrictly) {
+  struct Case {
+    const char* text;
+    bool isGood;
+    const char* bytes;
+  };
+  for (const Case& each : {Case{"QUJD", true, "ABC"},
+                           {" QU\r\nI= ", true, "AB"},
+                           {"QQ==", true, "A"},
+                           {"", true, ""},
+                           {"QUJ", false, ""},
+                           {"Q===", false, ""},
+                           {"QQ=A", false, ""},
+                           {"Q*JD", false, ""}}) {
+    protocol::RequestReader reader(
+        envelope(std::string("<m:sendFax><oData>") + each.text + "</oData></m:sendFax>"));
+    protocol::sendFax request;
+    EXPECT_EQ(reader.read(request), each.isGood) << each.text;
+    const std::string bytes(reinterpret_cast<const char*>(request.oData.data),
+                            static_cast<std::size_t>(request.oData.length));
+    EXPECT_EQ(bytes, each.bytes);
+  }
+}
+
+}  // namespace
+}  // namespace parlexo
