@@ -50,10 +50,12 @@ bool AddressBook::saveContact(const ContactRecord& contact, bool writeToFile) {
 bool AddressBook::deleteContact(const QString& name) {
   const auto found = contacts_.find(name);
   if (found == contacts_.end()) return true;
-  bool written = deleteName(contactsPath(), packName(name), contactRecordSize);
+  // `name` may be a key of a group's members, which goes before the contact does.
+  const QString& ownName = found->first;
+  bool written = deleteName(contactsPath(), packName(ownName), contactRecordSize);
   for (auto& [groupName, group] : groups_)
-    if (group.contains(name)) written = deleteMember(group, name) && written;
-  contacts_.erase(found);  // last, as `name` may be the record's own
+    if (group.contains(ownName)) written = deleteMember(group, ownName) && written;
+  contacts_.erase(found);
   return written;
 }
 
