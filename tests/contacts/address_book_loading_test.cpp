@@ -12,18 +12,11 @@ using testing::Contains;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-const QString contactsFile = QStringLiteral("All Contacts.all_grp");
-
 QByteArray contactBytes(const QString& name, const QString& phone = {}) {
   ContactRecord record;
   record.name = name;
   record.phone = phone;
   return packContact(record);
-}
-
-QByteArray deleted(QByteArray record) {
-  record[0] = ItemDatabase::recordDeleted;
-  return record;
 }
 
 class AddressBookLoading : public AddressBookFixture {
@@ -49,7 +42,7 @@ TEST_F(AddressBookLoading, ofEmptyFolderYieldsThePersonalGroup) {
 
 TEST_F(AddressBookLoading, skipsDeletedContactsAndTakesTheLaterOfTwo) {
   put(contactsFile, contactBytes(QStringLiteral("Ann"), QStringLiteral("+1")) +
-                        deleted(contactBytes(QStringLiteral("Ben"))) +
+                        deletedRecord(contactBytes(QStringLiteral("Ben"))) +
                         contactBytes(QStringLiteral("Ann"), QStringLiteral("+2")));
   EXPECT_TRUE(book_.loadAll(progress_));
   EXPECT_EQ(book_.contacts().size(), 1U);
@@ -87,7 +80,8 @@ TEST_F(AddressBookLoading, marksMembersWithoutContactAsDeleted) {
   put(contactsFile, contactBytes(QStringLiteral("Ann")));
   put(QStringLiteral("Team.grp"), gone + ann + wrongCase);
   EXPECT_TRUE(book_.loadAll(progress_));
-  EXPECT_EQ(readBytes(pathOf(QStringLiteral("Team.grp"))), deleted(gone) + ann + deleted(wrongCase));
+  EXPECT_EQ(readBytes(pathOf(QStringLiteral("Team.grp"))),
+            deletedRecord(gone) + ann + deletedRecord(wrongCase));
   EXPECT_EQ(book_.findGroup(QStringLiteral("Team"))->members().size(), 1U);
   EXPECT_THAT(notifier_.shown, IsEmpty());
 }

@@ -10,11 +10,6 @@ namespace {
 
 using testing::ElementsAre;
 
-// Records of 12 bytes: state, key of 4, data of 7.
-constexpr int recordSize = 12;
-constexpr int keyWidth = 4;
-constexpr int timeout = 2;
-
 QByteArray bytes(const char* literal, qsizetype size) {
   return QByteArray(literal, size);
 }

@@ -13,10 +13,6 @@
 namespace parlexo {
 namespace {
 
-constexpr int recordSize = 12;
-constexpr int keyWidth = 4;
-constexpr int timeout = 2;
-
 class OtherUser {
  public:
   OtherUser(const QString& path, int lock) : handle_(::open(qPrintable(path), O_RDWR | O_CREAT, 0600)) {

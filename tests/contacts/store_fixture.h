@@ -70,6 +70,19 @@ inline QByteArray readBytes(const QString& path) {
   return bytes.isNull() ? QByteArray("") : bytes;
 }
 
+/// A record of 12 bytes is what the tests of the database itself store: state, key of 4, data of 7.
+inline constexpr int recordSize = 12;
+inline constexpr int keyWidth = 4;
+inline constexpr int timeout = 2;
+
+inline const QString contactsFile = QStringLiteral("All Contacts.all_grp");
+
+/// The record as it lies in the file after its deletion.
+inline QByteArray deletedRecord(QByteArray record) {
+  record[0] = ItemDatabase::recordDeleted;
+  return record;
+}
+
 /// A folder of its own with a database that never really sleeps.
 class StoreFixture : public testing::Test {
  protected:
