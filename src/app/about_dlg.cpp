@@ -42,12 +42,12 @@ CAboutDlg::CAboutDlg(QWidget* parent) : GradientDialog(parent) {
   auto* ok = new PictureButton(text(TextId::ButtonOk));
   ok->setObjectName(QStringLiteral("ok"));
   ok->setDefault(true);
-  ok->setFocus();
   connect(ok, &PictureButton::clicked, this, &CAboutDlg::accept);
   auto* row = new QHBoxLayout(this);
   row->addWidget(picture, 0, Qt::AlignTop);
   row->addLayout(texts, 1);
   row->addWidget(ok, 0, Qt::AlignTop);
+  ok->setFocus();
   setMinimumSize(dialogUnits(*this, 295, 76));
 }
 

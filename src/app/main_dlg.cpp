@@ -28,7 +28,7 @@ QLineEdit* addField(QGridLayout& grid, int row, const QString& name, const QStri
   field->setReadOnly(true);
   auto* label = new QLabel(labelText);
   label->setBuddy(field);
-  grid.addWidget(label, row, 0, Qt::AlignRight);
+  grid.addWidget(label, row, 0);
   grid.addWidget(field, row, 1);
   return field;
 }
@@ -51,6 +51,7 @@ CMainDlg::CMainDlg(const std::vector<MainTab>& tabs, QWidget* parent) : Gradient
   addFooter(*column);
   addShortcuts();
   shareExitMnemonic();
+  tabs_->setFocus();
   setMinimumSize(dialogUnits(*this, 558, 330));
 }
 

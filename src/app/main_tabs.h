@@ -3,10 +3,15 @@
 #include <vector>
 
 #include "app/main_dlg.h"
+#include "messaging/core/messaging_services.h"
 
 namespace parlexo {
 
-/// The pages of the main window, in the order of its tabs.
-[[nodiscard]] std::vector<MainTab> mainTabs();
+/// The pages of the main window, in the order of its tabs. `services` must refer to objects that outlive
+/// the window.
+[[nodiscard]] std::vector<MainTab> mainTabs(const MessagingServices& services);
+
+/// Connects what happens on one page of `window` to what another one shows.
+void connectPages(CMainDlg& window);
 
 }  // namespace parlexo

@@ -44,6 +44,7 @@ CNotificationDlg::CNotificationDlg(const QString& text, unsigned style, bool sup
   column->addWidget(dontShowAgain_);
   dontShowAgain_->setVisible(suppressible);
   column->addLayout(createButtons());
+  focusDefaultButton();
   resize(dialogUnits(*this, 218, 194));
 }
 
@@ -98,9 +99,13 @@ void CNotificationDlg::addButton(QHBoxLayout& row, const QString& text, MessageR
   button->setObjectName(QStringLiteral("button%1").arg(static_cast<int>(result)));
   connect(button, &PictureButton::clicked, this, [this, result] { end(result); });
   row.addWidget(button);
-  if (!isFirst) return;
-  button->setDefault(true);
-  button->setFocus();
+  if (isFirst) button->setDefault(true);
+}
+
+void CNotificationDlg::focusDefaultButton() {
+  // A control takes the focus only once it belongs to the window.
+  for (auto* button : findChildren<PictureButton*>())
+    if (button->isDefault()) button->setFocus();
 }
 
 void CNotificationDlg::end(MessageResult answer) {

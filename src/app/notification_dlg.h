@@ -35,6 +35,7 @@ class CNotificationDlg : public GradientDialog {
   [[nodiscard]] QHBoxLayout* createHeader(const QString& text);
   [[nodiscard]] QHBoxLayout* createButtons();
   void addButton(QHBoxLayout& row, const QString& text, MessageResult result);
+  void focusDefaultButton();
   void end(MessageResult answer);
 
   unsigned style_;

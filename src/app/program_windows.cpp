@@ -5,6 +5,7 @@
 
 #include "app/core/balance_check.h"
 #include "app/core/login_flow.h"
+#include "app/disk_stores.h"
 #include "app/login_dlg.h"
 #include "app/main_dlg.h"
 #include "app/main_tabs.h"
@@ -27,7 +28,10 @@ void ProgramWindows::logInAgain() {
 }
 
 void ProgramWindows::runMainWindow() {
-  CMainDlg window(mainTabs());
+  CMainDlg window(mainTabs({services_.state, services_.gateway, services_.notifier, services_.progress, *this,
+                            services_.stores.addressBook(), services_.stores.statusLog(),
+                            services_.stores.statusFile()}));
+  connectPages(window);
   const QScopedValueRollback<CMainDlg*> open(mainWindow_, &window);
   window.setUserName(services_.state.userName);
   BalanceCheck check(services_.state, services_.gateway, services_.notifier, services_.progress);

@@ -1,15 +1,22 @@
 #include "app/main_dlg.h"
 
+#include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QSignalSpy>
 #include <QTabWidget>
+#include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
 #include <gtest/gtest.h>
 
 #include "app/about_dlg.h"
+#include "app/disk_stores.h"
 #include "app/main_tabs.h"
+#include "app/notification_notifier.h"
+#include "app/program_windows.h"
+#include "gateway/boxes/progress_box.h"
+#include "messaging/screens/sms_dlg.h"
 #include "ui/hyperlink_label.h"
 #include "ui/look.h"
 #include "ui/picture_button.h"
@@ -93,19 +100,48 @@ TEST_F(MainDlgTest, aboutOpensByF1AndByItsLink) {
   EXPECT_EQ(versions, QStringList({u"Parlexo Client v2.24"_qs, u"Parlexo Client v2.24"_qs}));
 }
 
-TEST(MainTabs, standInTheirOrder) {
-  CMainDlg window(mainTabs());
-  window.setUserName(u"demo"_qs);
-  window.setBalance(u"99.95"_qs);
+class MainTabsTest : public testing::Test {
+ protected:
+  QTemporaryDir folder_;
+  RunState state_;
+  Settings settings_{folder_.path()};
+  DirectCallRunner runner_;
+  Gateway gateway_{state_, runner_};
+  NotificationNotifier notifier_{settings_};
+  ProgressBox progress_;
+  DiskStores stores_{settings_, notifier_, progress_};
+  ProgramWindows windows_{{state_, settings_, stores_, gateway_, notifier_, progress_}};
+  CMainDlg window_{mainTabs({state_, gateway_, notifier_, progress_, windows_, stores_.addressBook(),
+                             stores_.statusLog(), stores_.statusFile()})};
+};
+
+TEST_F(MainTabsTest, pagesTellEachOtherWhatWasSent) {
+  connectPages(window_);
+  const auto* tabs = window_.findChild<QTabWidget*>();
+  auto* sms = window_.findChild<CQuillonSMSDlg*>();
+  const auto* type = tabs->widget(7)->findChild<QComboBox*>();
+
+  Q_EMIT sms->messageSent(u"Fax"_qs);
+  EXPECT_EQ(type->currentText(), u"Fax"_qs);
+  EXPECT_EQ(tabs->currentIndex(), 0);
+
+  Q_EMIT sms->statusRequested(u"SMS"_qs);
+  EXPECT_EQ(type->currentText(), u"SMS"_qs);
+  EXPECT_EQ(tabs->tabText(tabs->currentIndex()), u"Status"_qs);
+}
+
+TEST_F(MainTabsTest, standInTheirOrder) {
+  window_.setUserName(u"demo"_qs);
+  window_.setBalance(u"99.95"_qs);
   QStringList texts;
-  const auto* tabs = window.findChild<QTabWidget*>();
+  const auto* tabs = window_.findChild<QTabWidget*>();
   for (int i = 0; i < tabs->count(); ++i) texts << tabs->tabText(i);
   EXPECT_EQ(texts, QStringList({u"SMS"_qs, u"WAP"_qs, u"MMS"_qs, u"Fax"_qs, u"Receive Messages"_qs,
                                 u"Contacts"_qs, u"Account History"_qs, u"Status"_qs, u"Settings"_qs}));
-  EXPECT_EQ(window.windowTitle(), u"Parlexo(TM) : Messaging Client v2.24"_qs);
-  EXPECT_EQ(window.findChild<QLineEdit*>(u"userName"_qs)->text(), u"demo"_qs);
-  EXPECT_EQ(window.findChild<QLineEdit*>(u"balance"_qs)->text(), u"99.95"_qs);
-  EXPECT_EQ(window.minimumSize(), dialogUnits(window, 558, 330));
+  EXPECT_EQ(window_.windowTitle(), u"Parlexo(TM) : Messaging Client v2.24"_qs);
+  EXPECT_EQ(window_.findChild<QLineEdit*>(u"userName"_qs)->text(), u"demo"_qs);
+  EXPECT_EQ(window_.findChild<QLineEdit*>(u"balance"_qs)->text(), u"99.95"_qs);
+  EXPECT_EQ(window_.minimumSize(), dialogUnits(window_, 558, 330));
 }
 
 }  // namespace

@@ -119,6 +119,7 @@ TEST_F(NotificationTest, tickedBoxIsRememberedForThatMessageAlone) {
 TEST_F(NotificationTest, messageThatCannotBeSuppressedHasNoCheckBox) {
   show(message_style::information, 0, [](auto& dialog) {
     EXPECT_FALSE(dialog.template findChild<QCheckBox*>()->isVisible());
+    EXPECT_TRUE(dialog.template findChild<QAbstractButton*>(u"button1"_qs)->hasFocus());
     EXPECT_EQ(dialog.template findChild<QPlainTextEdit*>()->toPlainText(), u"First line\nSecond line"_qs);
     dialog.close();
   });
