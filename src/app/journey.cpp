@@ -65,7 +65,7 @@ void Journey::planMessage() {
                     [](QWidget* window) { return hands::press(window, QStringLiteral("&Select")); }});
   steps_.push_back(
       {QStringLiteral("recipients"), QStringLiteral("Writes a message"), mainWindow, [](QWidget* window) {
-         return hands::typeInto(window, QStringLiteral("Message:"),
+         return hands::typeInto(window, QStringLiteral("Message"),
                                 QStringLiteral("Dear crew, tomorrow's start moves to 7:30 at the north "
                                                "gate. Bring rain gear. Thanks!"));
        }});
@@ -82,12 +82,12 @@ void Journey::planStatus() {
                     [](QWidget* window) { return hands::showTab(window, QStringLiteral("Status")); }});
   steps_.push_back({QStringLiteral("status"), QStringLiteral("Asks for the status of every message"),
                     mainWindow, [](QWidget* window) {
-                      return hands::selectAll(window, QStringLiteral("Messages:")) &&
+                      return hands::selectAll(window, QStringLiteral("Status")) &&
                              hands::press(window, QStringLiteral("Get &Status"));
                     }});
   steps_.push_back({QStringLiteral("status-updated"), QStringLiteral("Sees how far each one is, and leaves"),
                     mainWindow, [](QWidget* window) {
-                      print(QStringLiteral("   ") + hands::readList(window, QStringLiteral("Messages:"), 3));
+                      print(QStringLiteral("   ") + hands::readList(window, QStringLiteral("Status"), 3));
                       return hands::press(window, QStringLiteral("&Exit"));
                     }});
 }
