@@ -39,6 +39,9 @@ CNotificationDlg::CNotificationDlg(const QString& text, unsigned style, bool sup
   setWindowTitle(QStringLiteral("Parlexo(TM) : Notification"));
   auto* column = new QVBoxLayout(this);
   column->addLayout(createHeader(text), 1);
+  auto* picture = new CAnimatedPicture;
+  if (picture->loadFromResource(QLatin1String(connectingAnimation))) picture->start();
+  column->addWidget(picture, 0, Qt::AlignHCenter);
   dontShowAgain_ = new QCheckBox(QStringLiteral("&Don't show again"));
   dontShowAgain_->setObjectName(QStringLiteral("dontShowAgain"));
   column->addWidget(dontShowAgain_);
@@ -66,14 +69,9 @@ QHBoxLayout* CNotificationDlg::createHeader(const QString& text) {
   auto* left = new QVBoxLayout;
   left->addWidget(new MessageIcon(style_));
   left->addStretch();
-  auto* right = new QVBoxLayout;
-  right->addWidget(createMessage(text), 1);
-  auto* picture = new CAnimatedPicture;
-  if (picture->loadFromResource(QLatin1String(connectingAnimation))) picture->start();
-  right->addWidget(picture, 0, Qt::AlignHCenter);
   auto* row = new QHBoxLayout;
   row->addLayout(left);
-  row->addLayout(right, 1);
+  row->addWidget(createMessage(text), 1);
   return row;
 }
 

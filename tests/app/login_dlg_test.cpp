@@ -1,0 +1,105 @@
+#include "app/login_dlg.h"
+
+#include <QAbstractButton>
+#include <QLineEdit>
+#include <QTest>
+#include <QTimer>
+#include <gmock/gmock.h>
+
+#include "app/disk_stores.h"
+#include "app/program_windows.h"
+#include "tests/app/run_fakes.h"
+#include "ui/hyperlink_label.h"
+
+namespace parlexo {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+class LoginDlgTest : public RunTest {
+ protected:
+  void SetUp() override {
+    RunTest::SetUp();
+    ASSERT_TRUE(locate());
+  }
+
+  static void type(QDialog& dialog, const QString& field, const QString& text) {
+    auto* edit = dialog.findChild<QLineEdit*>(field);
+    edit->selectAll();
+    QTest::keyClicks(edit, text);
+  }
+
+  LoginFlow flow{state, settings, gateway, notifier};
+};
+
+TEST_F(LoginDlgTest, refusedPasswordKeepsItOpenForAnotherTryByEnter) {
+  CLoginDlg dialog(flow, u"demo"_qs);
+  dialog.open();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
+  auto* password = dialog.findChild<QLineEdit*>(u"password"_qs);
+  EXPECT_TRUE(password->hasFocus());
+  EXPECT_EQ(password->echoMode(), QLineEdit::Password);
+
+  QTest::keyClicks(password, u"wrong"_qs);
+  QTest::keyClick(password, Qt::Key_Return);
+  EXPECT_TRUE(dialog.isVisible());
+  EXPECT_EQ(journal.size(), 1);
+  EXPECT_EQ(password->selectedText().size(), 5);
+
+  QTest::keyClicks(password, u"demo1234"_qs);
+  QTest::keyClick(password, Qt::Key_Return);
+  EXPECT_EQ(dialog.result(), QDialog::Accepted);
+  EXPECT_FALSE(dialog.isVisible());
+  EXPECT_EQ(state.userName, u"demo"_qs);
+}
+
+TEST_F(LoginDlgTest, firstStartBeginsWithTheUserNameAndCanBeCancelled) {
+  CLoginDlg dialog(flow, {});
+  dialog.open();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
+  EXPECT_TRUE(dialog.findChild<QLineEdit*>(u"userName"_qs)->hasFocus());
+  EXPECT_EQ(dialog.windowTitle(), u"Parlexo(TM) : Login v2.24"_qs);
+  QTest::mouseClick(dialog.findChild<QAbstractButton*>(u"cancel"_qs), Qt::LeftButton);
+  EXPECT_FALSE(dialog.isVisible());
+  EXPECT_EQ(dialog.result(), QDialog::Rejected);
+  EXPECT_THAT(simulator.calledOperations(), testing::ElementsAre(u"locator"_qs));
+}
+
+TEST_F(LoginDlgTest, linksLeadToTheServicesPagesOverHttps) {
+  const CLoginDlg dialog(flow, {});
+  QStringList pages;
+  for (const auto* link : dialog.findChildren<HyperlinkLabel*>()) pages << link->page().toString();
+  EXPECT_EQ(pages, QStringList({u"https://www.parlexo.example/signup.php"_qs,
+                                u"https://www.parlexo.example/forgotpassword.php"_qs}));
+}
+
+class SessionRenewalTest : public LoginDlgTest {
+ protected:
+  // Answers the login dialog that is about to open.
+  void answer(const std::function<void(QDialog&)>& act) {
+    QTimer::singleShot(0, &context_, [act] {
+      if (auto* dialog = qobject_cast<CLoginDlg*>(QApplication::activeModalWidget())) act(*dialog);
+    });
+    renewal_.logInAgain();
+  }
+
+  DiskStores disk_{settings, notifier, progress};
+  ProgramWindows renewal_{{state, settings, disk_, gateway, notifier, progress}};
+  QObject context_;
+};
+
+TEST_F(SessionRenewalTest, newLoginReplacesTheTokenAndCancellingKeepsIt) {
+  state.session = u"expired"_qs;
+  answer([](QDialog& dialog) { dialog.reject(); });
+  EXPECT_EQ(state.session, u"expired"_qs);
+  answer([](QDialog& dialog) {
+    type(dialog, u"userName"_qs, u"demo"_qs);
+    type(dialog, u"password"_qs, u"demo1234"_qs);
+    QTest::keyClick(&dialog, Qt::Key_Return);
+  });
+  EXPECT_NE(state.session, u"expired"_qs);
+  EXPECT_EQ(simulator.openSessions(), 1);
+}
+
+}  // namespace
+}  // namespace parlexo
