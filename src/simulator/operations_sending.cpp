@@ -49,6 +49,12 @@ QByteArray joinReceipts(const AcceptedMessage& message) {
   return toCodePage(pairs.join(u','));
 }
 
+QString historyNote(const AcceptedMessage& message) {
+  const qsizetype count = message.numbers.size();
+  const QString form = count == 1 ? QStringLiteral("%1 to %2 number") : QStringLiteral("%1 to %2 numbers");
+  return form.arg(wordFor(message.type)).arg(count);
+}
+
 bool needsText(MessageType type, bool hasFile) {
   return type == MessageType::Sms || (type == MessageType::Voice && !hasFile);
 }
@@ -147,8 +153,7 @@ Operations::Sending Operations::send(const std::string& token, AcceptedMessage m
   message.schedule = open->schedule;
   message.senderId = std::exchange(open->senderId, {});
   const AcceptedMessage& taken = state_.outbox.take(std::move(message), isUndeliverable);
-  state_.accounts.post(*account, -taken.costCents, taken.time,
-                       QStringLiteral("%1 to %2 numbers").arg(wordFor(taken.type)).arg(taken.numbers.size()));
+  state_.accounts.post(*account, -taken.costCents, taken.time, historyNote(taken));
   remarks_ = remarksOn(taken);
   return {ResultCode::Success, joinReceipts(taken)};
 }

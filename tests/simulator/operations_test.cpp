@@ -208,7 +208,7 @@ TEST_F(GatewayOperations, historyHasOneTabbedRecordForEachMessage) {
   (void)sendSms("Two", "+61491570156,+60312345678");
   const QByteArray reply = client().call("getAccountHistory", text("sSession", session_));
   EXPECT_EQ(valueOf(reply, "sXmlAccountHistory").replace("&#xD;", "\r").replace("&#x9;", "\t"),
-            "1\t01/03/2026 12:00:00\t-0.05\tSMS to 1 numbers\r\n"
+            "1\t01/03/2026 12:00:00\t-0.05\tSMS to 1 number\r\n"
             "2\t01/03/2026 12:00:00\t-0.10\tSMS to 2 numbers\r\n");
 }
 
