@@ -1,0 +1,223 @@
+#include <QFile>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "messaging/core/messaging_texts.h"
+#include "messaging/core/sms_send_flow.h"
+#include "tests/messaging/gateway_rig.h"
+
+namespace parlexo {
+namespace {
+
+using simulator::FaultKind;
+using testing::ElementsAre;
+using testing::IsEmpty;
+using testing::SizeIs;
+
+const char* const unreachable =
+    "Could not connect to the Parlexo gateway server.\r\n\r\nPlease make sure you have internet "
+    "connectivity, your firewall allows gateway connection or try again later.";
+
+class SmsSending : public testing::Test, protected GatewayRig {
+ protected:
+  static SmsDraft draftTo(const QStringList& numbers) {
+    SmsDraft draft;
+    draft.text = QStringLiteral("Hello");
+    draft.displayList = QStringLiteral("somebody");
+    draft.numbersList = numbers.join(QChar(u','));
+    return draft;
+  }
+  SendOutcome send(const SmsDraft& draft) { return SmsSendFlow(services()).send(draft); }
+
+  const SmsDraft draft_ = draftTo({"+61491570156", "+60312345678"});
+};
+
+TEST_F(SmsSending, acceptedMessageIsLoggedSavedAndConfirmed) {
+  EXPECT_EQ(send(draft_), SendOutcome::Delivered);
+  EXPECT_THAT(journal, ElementsAre("(box)", "(no box)", "SMS message successfully delivered to the server."));
+  EXPECT_EQ(notifier.shown.back().style, message_style::information);
+  EXPECT_EQ(operations(), QStringList({"scheduleMessageDisable", "sendSms"}));
+  ASSERT_THAT(simulator.messages(), SizeIs(1));
+  const simulator::AcceptedMessage message = simulator.messages().front();
+  EXPECT_EQ(message.text, "Hello");
+  EXPECT_FALSE(message.flash);
+  EXPECT_EQ(message.numbers, QStringList({"+61491570156", "+60312345678"}));
+  ASSERT_THAT(log.entries(), SizeIs(2));
+  const StatusEntry& entry = log.entries().at(message.receipts[0]);
+  EXPECT_EQ(entry.phone, "+61491570156");
+  EXPECT_EQ(entry.status, "Delivered to Gateway");
+  EXPECT_EQ(entry.type, "SMS");
+  const QDateTime logged = QDateTime::fromString(entry.date, QStringLiteral("dd/MM/yyyy HH:mm:ss"));
+  EXPECT_LT(std::abs(logged.secsTo(QDateTime::currentDateTime())), 60);
+  EXPECT_FALSE(log.isModified());
+  StatusLog readBack;
+  file.load(readBack, notifier);
+  EXPECT_EQ(readBack.entries(), log.entries());
+}
+
+TEST_F(SmsSending, unicodeFlashScheduleAndSenderIdReachTheGateway) {
+  SmsDraft draft = draftTo({"+61491570156"});
+  draft.text = QString::fromUtf8("\u4F60 \U0001F600\n\u20AC");
+  draft.charset = SmsCharset::Unicode;
+  draft.flash = true;
+  const QDateTime later = QDateTime::currentDateTimeUtc().addDays(1);
+  draft.schedule = {QStringLiteral("tomorrow"), later.toString(QStringLiteral("yyyy/MM/dd HH:mm:ss"))};
+  state.senderId = QStringLiteral("+61491570999");
+  EXPECT_EQ(send(draft), SendOutcome::Delivered);
+  EXPECT_EQ(operations(),
+            QStringList({"scheduleMessageDisable", "scheduleMessageEnable", "setSmsSenderId", "sendSms"}));
+  const simulator::AcceptedMessage message = simulator.messages().at(0);
+  EXPECT_EQ(message.text, draft.text);
+  EXPECT_TRUE(message.unicode);
+  EXPECT_TRUE(message.flash);
+  EXPECT_EQ(message.senderId, state.senderId);
+  ASSERT_TRUE(message.schedule.has_value());
+  EXPECT_EQ(message.schedule->toSecsSinceEpoch(), later.toSecsSinceEpoch());
+}
+
+TEST_F(SmsSending, standardTextTravelsInTheCodePage) {
+  SmsDraft draft = draftTo({"+61491570156"});
+  draft.text = QString::fromUtf8("K\u00F6ln & <b> \u20AC\n\u4F60");
+  EXPECT_EQ(send(draft), SendOutcome::Delivered);
+  EXPECT_EQ(simulator.messages().at(0).rawText.toStdString(), "K\xF6ln & <b> \x80\n?");
+}
+
+TEST_F(SmsSending, failedNumbersAreListedAndLoggedToo) {
+  EXPECT_EQ(send(draftTo({"+61491570156", "+61491570199", "+60312345699"})), SendOutcome::PartlyFailed);
+  EXPECT_THAT(journal, ElementsAre("(box)", "(no box)",
+                                   "Warning - The server was unable to send your message to the following "
+                                   "numbers\n+61491570199\n+60312345699\n"));
+  EXPECT_EQ(notifier.shown.back().style, message_style::information);
+  ASSERT_THAT(log.entries(), SizeIs(2));  // both failed numbers have the receipt FAIL
+  EXPECT_EQ(log.entries().at(QStringLiteral("FAIL")).phone, "+60312345699");
+}
+
+TEST_F(SmsSending, whatIsMissingStopsBeforeAnyCall) {
+  struct {
+    QString text;
+    QString displayList;
+    bool balanceIsZero;
+    const char* message;
+    unsigned style;
+  } const samples[] = {
+      {{}, {}, true, "No SMS message has been provided. Enter a SMS message.", message_style::stop},
+      {"x", {}, true, "The contacts list is blank. Select contacts to send message to.", message_style::stop},
+      {"x", "Ann [+1]", true, "Your account balance is zero.\r\nPlease go to ", message_style::information},
+  };
+  for (const auto& sample : samples) {
+    SmsDraft draft = draft_;
+    draft.text = sample.text;
+    draft.displayList = sample.displayList;
+    state.balanceIsZero = sample.balanceIsZero;
+    EXPECT_EQ(send(draft), SendOutcome::NotSent);
+    EXPECT_EQ(notifier.shown.back().style, sample.style);
+    EXPECT_THAT(notifier.takeTexts(), ElementsAre(testing::StartsWith(sample.message)));
+  }
+  SmsDraft tooLong = draft_;
+  tooLong.charset = SmsCharset::Unicode;
+  tooLong.text = QString(336, QChar(u'x'));
+  EXPECT_EQ(send(tooLong), SendOutcome::NotSent);
+  EXPECT_THAT(notifier.takeTexts(),
+              ElementsAre("Unicode text is too long for message, we can not send this!"));
+  EXPECT_THAT(operations(), IsEmpty());
+}
+
+TEST_F(SmsSending, expiredSessionAsksForLoginOnceAndRepeatsNothing) {
+  simulator.expireSessions();
+  EXPECT_EQ(send(draft_), SendOutcome::NotSent);
+  EXPECT_THAT(journal,
+              ElementsAre("(box)", "(no box)", "Your Session has expired. Please log back in", "(login)"));
+  EXPECT_EQ(notifier.shown.back().style, message_style::stop);
+  EXPECT_EQ(operations(), QStringList({"scheduleMessageDisable", "sendSms"}));
+  EXPECT_THAT(simulator.messages(), IsEmpty());
+  EXPECT_THAT(log.entries(), IsEmpty());
+}
+
+struct Failure {
+  FaultKind kind;
+  int number;
+  std::size_t accepted;  // messages that the gateway has taken in spite of it
+  const char* message;
+};
+
+void PrintTo(const Failure& failure, std::ostream* out) {
+  *out << "fault " << static_cast<int>(failure.kind) << " number " << failure.number;
+}
+
+class SmsSendingFailure : public SmsSending, public testing::WithParamInterface<Failure> {};
+
+TEST_P(SmsSendingFailure, isToldOnceAndNeverSentTwice) {
+  const Failure& failure = GetParam();
+  const bool anyCall = failure.kind == FaultKind::Refuse;
+  misbehave(failure.kind, anyCall ? QStringLiteral("any") : QStringLiteral("sendSms"), failure.number);
+  EXPECT_EQ(send(draft_), SendOutcome::NotSent);
+  EXPECT_THAT(journal, ElementsAre("(box)", "(no box)", failure.message));
+  EXPECT_EQ(notifier.shown.back().style, message_style::stop);
+  EXPECT_EQ(operations().count(QStringLiteral("sendSms")), anyCall ? 0 : 1);
+  EXPECT_THAT(simulator.messages(), SizeIs(failure.accepted));
+  EXPECT_THAT(log.entries(), IsEmpty());
+  EXPECT_FALSE(QFile::exists(file.path()));
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    , SmsSendingFailure,
+    testing::Values(
+        Failure{FaultKind::Refuse, 0, 0, unreachable}, Failure{FaultKind::Close, 0, 1, unreachable},
+        Failure{FaultKind::Cut, 0, 1, unreachable}, Failure{FaultKind::Late, 2500, 1, unreachable},
+        Failure{FaultKind::HttpError, 0, 0, unreachable}, Failure{FaultKind::NotXml, 0, 0, unreachable},
+        Failure{FaultKind::SoapFault, 0, 0, unreachable},
+        Failure{FaultKind::Code, 12, 0, "An error occured while sending your message.\r\nError code: 12"},
+        Failure{FaultKind::Code, -1, 0, "An error occured while sending your message.\r\nError code: -1"}));
+
+struct RefusedPreparation {
+  const char* operation;
+  FaultKind kind;
+  int number;
+  const char* message;
+};
+
+TEST_F(SmsSending, refusedScheduleOrSenderIdGivesUpTheSend) {
+  const RefusedPreparation samples[] = {
+      {"scheduleMessageEnable", FaultKind::Code, 9,
+       "Error setting schedule date. Perhaps you have scheduled the message too far into the future? Error: "
+       "9"},
+      {"scheduleMessageEnable", FaultKind::HttpError, 0,
+       "Error setting schedule date. Perhaps you have scheduled the message too far into the future? Error: "
+       "0"},
+      {"setSmsSenderId", FaultKind::Code, 12,
+       "Error setting your Sender Id. Are you sure you have set a valid Sender Id and your account is "
+       "enabled to "
+       "set Any Sender ID? Error: 12"},
+      {"setSmsSenderId", FaultKind::Close, 0, unreachable},
+  };
+  SmsDraft draft = draft_;
+  const QDateTime later = QDateTime::currentDateTimeUtc().addDays(1);
+  draft.schedule = {QStringLiteral("tomorrow"), later.toString(QStringLiteral("yyyy/MM/dd HH:mm:ss"))};
+  state.senderId = QStringLiteral("+61491570999");
+  for (const RefusedPreparation& sample : samples) {
+    simulator.clearFaults();
+    misbehave(sample.kind, QString::fromLatin1(sample.operation), sample.number);
+    EXPECT_EQ(send(draft), SendOutcome::NotSent) << sample.operation;
+    EXPECT_EQ(notifier.shown.back().style, message_style::stop);
+    EXPECT_THAT(notifier.takeTexts(), ElementsAre(sample.message));
+  }
+  EXPECT_FALSE(operations().contains(QStringLiteral("sendSms")));
+}
+
+TEST_F(SmsSending, failureToCancelAnOldScheduleIsPassedOver) {
+  misbehave(FaultKind::SoapFault, QStringLiteral("scheduleMessageDisable"));
+  EXPECT_EQ(send(draft_), SendOutcome::Delivered);
+  EXPECT_THAT(simulator.messages(), SizeIs(1));
+}
+
+TEST_F(SmsSending, tenThousandRecipientsGoOutInOneCall) {
+  simulator.setBalance(QStringLiteral("demo"), 10'000);
+  QStringList numbers;
+  for (int i = 0; i < 10'000; ++i) numbers.append(QStringLiteral("+6149%1").arg(100'000'00 + 100 * i));
+  EXPECT_EQ(send(draftTo(numbers)), SendOutcome::Delivered);
+  EXPECT_THAT(log.entries(), SizeIs(10'000));
+  EXPECT_EQ(operations().count(QStringLiteral("sendSms")), 1);
+}
+
+}  // namespace
+}  // namespace parlexo
