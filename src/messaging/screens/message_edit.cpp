@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include <QKeyEvent>
 #include <QMimeData>
 #include <QScopedValueRollback>
 #include <QTextCursor>
@@ -15,6 +16,13 @@ QString beginningOf(const QString& text, int room) {
   qsizetype kept = std::clamp<qsizetype>(room, 0, text.size());
   if (kept > 0 && kept < text.size() && text.at(kept - 1).isHighSurrogate()) --kept;
   return text.left(kept);
+}
+
+bool entersText(const QKeyEvent& event) {
+  const bool isCommand = event.modifiers() & (Qt::ControlModifier | Qt::AltModifier);
+  const QString text = event.text();
+  return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter ||
+         (!isCommand && !text.isEmpty() && text.at(0).isPrint());
 }
 
 }  // namespace
@@ -45,14 +53,27 @@ void MessageEdit::truncate(int units) {
   if (units < length()) removeJoined(units, length());
 }
 
+void MessageEdit::keyPressEvent(QKeyEvent* event) {
+  // A key that finds no room is dropped before it gets into the text, or undo would collect steps that
+  // change nothing.
+  if (room() > 0 || !entersText(*event)) QPlainTextEdit::keyPressEvent(event);
+}
+
 void MessageEdit::insertFromMimeData(const QMimeData* source) {
   // Cut before it is inserted: laying out a text of megabytes only to drop it again would take seconds.
   QString pasted = source->text();
   pasted.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
-  const QTextCursor cursor = textCursor();
-  const int selected = cursor.selectionEnd() - cursor.selectionStart();
-  textCursor().insertText(beginningOf(pasted, limit_ - length() + selected));
+  // An edit block of its own, or undo would take away what was typed just before as well.
+  QTextCursor cursor = textCursor();
+  cursor.beginEditBlock();
+  cursor.insertText(beginningOf(pasted, room()));
+  cursor.endEditBlock();
   ensureCursorVisible();
+}
+
+int MessageEdit::room() const {
+  const QTextCursor cursor = textCursor();
+  return limit_ - length() + cursor.selectionEnd() - cursor.selectionStart();
 }
 
 void MessageEdit::noteChange(int position, int /*removed*/, int added) {

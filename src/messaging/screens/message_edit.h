@@ -29,9 +29,11 @@ class MessageEdit final : public QPlainTextEdit {
   void truncate(int units);
 
  protected:
+  void keyPressEvent(QKeyEvent* event) override;
   void insertFromMimeData(const QMimeData* source) override;
 
  private:
+  [[nodiscard]] int room() const;
   void noteChange(int position, int removed, int added);
   void enforceLimit();
   void removeJoined(int from, int to);

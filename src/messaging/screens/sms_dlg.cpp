@@ -42,7 +42,8 @@ QLabel* labelFor(QWidget* field, const QString& text) {
   return label;
 }
 
-// A titled box with two radio buttons, in a button group of the given name.
+// A titled box with two radio buttons, in a button group of the given name. The first is chosen here and
+// not before: until they are grouped, all radio buttons of the page exclude each other.
 QGroupBox* choiceBox(const QString& title, const QString& groupName, QRadioButton* first,
                      QRadioButton* second) {
   auto* box = new QGroupBox(title);
@@ -53,6 +54,7 @@ QGroupBox* choiceBox(const QString& title, const QString& groupName, QRadioButto
     group->addButton(choice);
     layout->addWidget(choice);
   }
+  first->setChecked(true);
   return box;
 }
 
@@ -63,6 +65,7 @@ CQuillonSMSDlg::CQuillonSMSDlg(const MessagingServices& services, QWidget* paren
   setObjectName(QStringLiteral("smsPage"));
   createControls();
   createLayout();
+  connect(standardCharset_, &QRadioButton::toggled, this, &CQuillonSMSDlg::applyCharset);
   showSchedule();
   applyCharset();
 }
@@ -95,8 +98,6 @@ void CQuillonSMSDlg::createCharsetChoice() {
   standardCharset_->setObjectName(QStringLiteral("standardCharset"));
   unicodeCharset_ = new QRadioButton(QStringLiteral("Unicode (Languages support)"), this);
   unicodeCharset_->setObjectName(QStringLiteral("unicodeCharset"));
-  standardCharset_->setChecked(true);
-  connect(standardCharset_, &QRadioButton::toggled, this, &CQuillonSMSDlg::applyCharset);
 }
 
 void CQuillonSMSDlg::createTypeChoice() {
@@ -104,7 +105,6 @@ void CQuillonSMSDlg::createTypeChoice() {
   standardType_->setObjectName(QStringLiteral("standardType"));
   flashType_ = new QRadioButton(QStringLiteral("Flash"), this);
   flashType_->setObjectName(QStringLiteral("flashType"));
-  standardType_->setChecked(true);
 }
 
 void CQuillonSMSDlg::createCounters() {
