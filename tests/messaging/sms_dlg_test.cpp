@@ -1,0 +1,245 @@
+#include "messaging/screens/sms_dlg.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QLineEdit>
+#include <QListView>
+#include <QRadioButton>
+#include <QSignalSpy>
+#include <QTest>
+#include <QTimer>
+#include <gmock/gmock.h>
+
+#include "addressbook/screens/select_contacts_dlg.h"
+#include "messaging/screens/message_edit.h"
+#include "tests/messaging/gateway_rig.h"
+#include "ui/picture_button.h"
+
+namespace parlexo {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+using testing::SizeIs;
+
+/// The SMS page on the screen, and a user's hands.
+class SmsPage : public testing::Test, protected GatewayRig {
+ protected:
+  SmsPage() {
+    book.addContact("Ann", "+61491570156", "Y");
+    book.addContact("Lee, Bob", "+60312345678", "Y");
+    book.addContact("Local", "0491570156", "Y");
+    book.addContact("Mute", "+861012345678", "N");
+    page.show();
+    page.activateWindow();
+    (void)QTest::qWaitForWindowActive(&page);
+  }
+
+  template <class Widget>
+  Widget& find(const char* name) {
+    auto* widget = page.findChild<Widget*>(QString::fromLatin1(name));
+    if (!widget) qFatal("no %s", name);
+    return *widget;
+  }
+  MessageEdit& editor() { return find<MessageEdit>("messageEdit"); }
+  QListView& contactsBox() { return find<QListView>("contactsBox"); }
+  void press(const char* name) { QTest::mouseClick(&find<PictureButton>(name), Qt::LeftButton); }
+  void choose(const char* name) { find<QRadioButton>(name).setChecked(true); }
+  void paste(const QString& text) {
+    QGuiApplication::clipboard()->setText(text);
+    editor().paste();
+  }
+  std::string counters() {
+    return (find<QLineEdit>("totalSms").text() + u'/' + find<QLineEdit>("charactersRemaining").text())
+        .toStdString();
+  }
+
+  // Presses Select Contacts and does `work` in the dialog that opens.
+  void inSelection(const std::function<void(CSelectContactsDlg&)>& work) {
+    QTimer::singleShot(0, &page, [&work] {
+      auto* dialog = qobject_cast<CSelectContactsDlg*>(QApplication::activeModalWidget());
+      if (!dialog) qFatal("the selection did not open");
+      work(*dialog);
+    });
+    press("selectContactsButton");
+  }
+  // Ticks exactly these contacts and closes with Select.
+  void select(const QStringList& names) {
+    inSelection([&names](CSelectContactsDlg& dialog) {
+      QAbstractItemModel& model = *dialog.findChild<QAbstractItemView*>("contactList")->model();
+      for (int row = 0; row < model.rowCount(); ++row) {
+        const bool wanted = names.contains(model.index(row, 1).data().toString());
+        model.setData(model.index(row, 0), wanted ? Qt::Checked : Qt::Unchecked, Qt::CheckStateRole);
+      }
+      dialog.accept();
+    });
+  }
+
+  CQuillonSMSDlg page{services()};
+};
+
+TEST_F(SmsPage, countersFollowEveryKeyAndCharacterSet) {
+  EXPECT_EQ(counters(), "1/760");
+  QTest::keyClicks(&editor(), "Hi ~");
+  EXPECT_EQ(counters(), "1/755");
+  choose("unicodeCharset");
+  EXPECT_EQ(counters(), "1/331");
+  choose("standardCharset");
+  paste(QString(156, QChar(u'x')));
+  EXPECT_EQ(counters(), "2/599");
+  editor().undo();
+  EXPECT_EQ(counters(), "1/755");
+}
+
+TEST_F(SmsPage, pastingStopsAtTheLimitAndKeepsWhatStandsBehindTheCursor) {
+  editor().setPlainText("head tail");
+  QTextCursor cursor = editor().textCursor();
+  cursor.setPosition(5);
+  editor().setTextCursor(cursor);
+  paste(QString(100'000, QChar(u'x')));
+  EXPECT_EQ(counters(), "5/0");
+  EXPECT_EQ(editor().text(), "head " + QString(751, QChar(u'x')) + "tail");
+  EXPECT_EQ(editor().textCursor().position(), 756);
+  QTest::keyClicks(&editor(), "y");
+  EXPECT_EQ(editor().length(), 760);
+  EXPECT_FALSE(editor().text().contains(QChar(u'y')));
+  editor().undo();
+  EXPECT_EQ(editor().text(), "head tail");
+  EXPECT_THAT(notifier.takeTexts(), IsEmpty());
+}
+
+TEST_F(SmsPage, charactersThatCountTwiceAreCutFromTheEnd) {
+  paste(QString(700, QChar(u'x')) + "END");
+  editor().moveCursor(QTextCursor::Start);
+  paste(QString(40, QChar(u'~')));
+  EXPECT_EQ(counters(), "5/0");
+  EXPECT_EQ(editor().text(), QString(40, QChar(u'~')) + QString(680, QChar(u'x')));
+  EXPECT_EQ(editor().textCursor().position(), 40);
+}
+
+TEST_F(SmsPage, switchingToUnicodeDropsATextThatIsTooLong) {
+  paste(QString(335, QChar(u'x')));
+  choose("unicodeCharset");
+  EXPECT_EQ(counters(), "5/0");
+  choose("standardCharset");
+  paste(QStringLiteral("y"));
+  choose("unicodeCharset");
+  EXPECT_THAT(notifier.takeTexts(),
+              ElementsAre("You have entered too much text for messaging. Clearing text to send"));
+  EXPECT_EQ(editor().text(), "");
+  EXPECT_EQ(counters(), "1/335");
+  paste(QString(334, QChar(u'x')) + QString::fromUtf8("\U0001F600"));
+  EXPECT_EQ(counters(), "5/1");  // half an emoji is none
+}
+
+TEST_F(SmsPage, textFromElsewhereThatIsTooLongForUnicodeIsReportedAndDropped) {
+  choose("unicodeCharset");
+  editor().setText(QString(336, QChar(u'x')));
+  EXPECT_THAT(notifier.takeTexts(),
+              ElementsAre("Unicode text is too long for message, we can not send this!"));
+  EXPECT_EQ(editor().text(), "");
+  EXPECT_EQ(counters(), "1/335");
+}
+
+TEST_F(SmsPage, selectionFillsTheBoxAndOpensWithItsContactsTicked) {
+  select({"Ann", "Lee, Bob", "Local"});
+  EXPECT_THAT(notifier.takeTexts(),
+              ElementsAre("The following Contacts had bad phone numbers and were removed:Local"));
+  EXPECT_EQ(page.draft().displayList, "Ann [+61491570156],Lee, Bob [+60312345678]");
+  EXPECT_EQ(page.draft().numbersList, "+61491570156,+60312345678");
+  inSelection([](CSelectContactsDlg& dialog) {
+    EXPECT_EQ(dialog.selection().size(), 2U);
+    EXPECT_TRUE(dialog.selection().contains(QStringLiteral("Lee, Bob")));
+    EXPECT_EQ(dialog.findChild<QAbstractItemView*>("contactList")->model()->rowCount(),
+              3);  // Mute has no SMS
+    dialog.reject();
+  });
+  EXPECT_EQ(page.draft().numbersList, "+61491570156,+60312345678");
+}
+
+TEST_F(SmsPage, deleteAsksAndRemovesTheHighlightedEntries) {
+  select({"Ann", "Lee, Bob"});
+  page.activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&page));
+  contactsBox().setFocus();
+  QTest::keyClick(&contactsBox(), Qt::Key_Delete);
+  contactsBox().selectionModel()->select(contactsBox().model()->index(0, 0), QItemSelectionModel::Select);
+  notifier.answers = {MessageResult::No, MessageResult::Yes};
+  QTest::keyClick(&contactsBox(), Qt::Key_Delete);
+  EXPECT_EQ(page.draft().numbersList, "+61491570156,+60312345678");
+  QTest::keyClick(&contactsBox(), Qt::Key_Delete);
+  EXPECT_EQ(page.draft().displayList, "Lee, Bob [+60312345678]");
+  EXPECT_EQ(page.draft().numbersList, "+60312345678");
+  EXPECT_THAT(notifier.takeTexts(),
+              ElementsAre("Can't delete the selected contacts as you have not selected one or more contacts",
+                          "Are you sure you want to delete the selected contacts?",
+                          "Are you sure you want to delete the selected contacts?"));
+}
+
+TEST_F(SmsPage, clearEmptiesTheBoxButNotTheNumbers) {
+  select({"Ann"});
+  press("clearContactsButton");
+  EXPECT_EQ(contactsBox().model()->rowCount(), 0);
+  EXPECT_EQ(page.draft().numbersList, "+61491570156");
+  QTest::keyClicks(&editor(), "x");
+  press("sendButton");
+  EXPECT_THAT(notifier.takeTexts(),
+              ElementsAre("The contacts list is blank. Select contacts to send message to."));
+}
+
+TEST_F(SmsPage, successfulSendClearsTheFormButKeepsTheChoices) {
+  QSignalSpy sent(&page, &CQuillonSMSDlg::messageSent);
+  select({"Ann"});
+  choose("unicodeCharset");
+  choose("flashType");
+  QTest::keyClicks(&editor(), "Hi");
+  press("sendButton");
+  ASSERT_THAT(sent, SizeIs(1));
+  EXPECT_EQ(sent.at(0).at(0).toString(), "SMS");
+  const simulator::AcceptedMessage message = simulator.messages().at(0);
+  EXPECT_EQ(message.rawText.toStdString(), "%%UNICODE%%00480069");
+  EXPECT_TRUE(message.flash);
+  const SmsDraft after = page.draft();
+  EXPECT_EQ(after.text, "");
+  EXPECT_EQ(after.displayList, "");
+  EXPECT_EQ(after.numbersList, "+61491570156");
+  EXPECT_EQ(after.charset, SmsCharset::Unicode);
+  EXPECT_TRUE(after.flash);
+  EXPECT_EQ(counters(), "1/335");
+}
+
+TEST_F(SmsPage, failedSendKeepsTheForm) {
+  QSignalSpy sent(&page, &CQuillonSMSDlg::messageSent);
+  select({"Ann"});
+  QTest::keyClicks(&editor(), "Hi");
+  misbehave(simulator::FaultKind::Code, QStringLiteral("sendSms"), 5);
+  press("sendButton");
+  EXPECT_THAT(notifier.takeTexts(),
+              ElementsAre("An error occured while sending your message.\r\nError code: 5"));
+  EXPECT_THAT(sent, IsEmpty());
+  EXPECT_EQ(page.draft().text, "Hi");
+  EXPECT_EQ(page.draft().displayList, "Ann [+61491570156]");
+}
+
+TEST_F(SmsPage, aSecondSendWhileOneRunsIsDropped) {
+  select({"Ann"});
+  QTest::keyClicks(&editor(), "Hi");
+  notifier.onShow = [this] { press("sendButton"); };
+  press("sendButton");
+  EXPECT_THAT(simulator.messages(), SizeIs(1));
+}
+
+TEST_F(SmsPage, buttonsAskForStatusAndExplainTemplates) {
+  QSignalSpy requested(&page, &CQuillonSMSDlg::statusRequested);
+  press("getStatusButton");
+  EXPECT_EQ(requested.at(0).at(0).toString(), "SMS");
+  press("templatesTipButton");
+  EXPECT_EQ(notifier.shown.back().style, message_style::information);
+  EXPECT_THAT(
+      notifier.takeTexts(),
+      ElementsAre("You can save templates for frequently used messages. Be sure to leave contacts empty "
+                  "if you do not wish to save your contacts."));
+}
+
+}  // namespace
+}  // namespace parlexo

@@ -1,0 +1,134 @@
+#include "messaging/screens/status_dlg.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QComboBox>
+#include <QElapsedTimer>
+#include <QHeaderView>
+#include <QMenu>
+#include <QTest>
+#include <QTreeView>
+#include <gmock/gmock.h>
+
+#include "tests/messaging/gateway_rig.h"
+#include "ui/picture_button.h"
+
+namespace parlexo {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+class StatusPage : public testing::Test, protected GatewayRig {
+ protected:
+  void logMessage(const char* receipt, const char* date, const char* type = "SMS") {
+    log.add({"+61491570156", QString::fromLatin1(receipt), "Delivered to Gateway", QString::fromLatin1(type),
+             QString::fromLatin1(date)});
+    simulator.rememberReceipt(QStringLiteral("demo"), QString::fromLatin1(receipt));
+  }
+  void open() {
+    page_ = std::make_unique<CStatusDlg>(services());
+    page_->show();
+    list_ = page_->findChild<QTreeView*>("statusList");
+    combo_ = page_->findChild<QComboBox*>("messageType");
+  }
+  [[nodiscard]] std::vector<std::string> column(int which) const {
+    std::vector<std::string> cells;
+    for (int row = 0; row < list_->model()->rowCount(); ++row)
+      cells.push_back(list_->model()->index(row, which).data().toString().toStdString());
+    return cells;
+  }
+  void getStatus() { QTest::mouseClick(page_->findChild<PictureButton*>("getStatusButton"), Qt::LeftButton); }
+
+  std::unique_ptr<CStatusDlg> page_;
+  QTreeView* list_ = nullptr;
+  QComboBox* combo_ = nullptr;
+};
+
+TEST_F(StatusPage, opensWithSmsInOrderAndTheFirstRowSelected) {
+  logMessage("late", "01/01/2026 10:00:30");
+  logMessage("early", "01/01/2026 10:00:10");
+  logMessage("fax", "01/01/2026 10:00:00", "Fax");
+  logMessage("other", "01/01/2026 10:00:00", "Pigeon");
+  open();
+  EXPECT_EQ(combo_->currentText(), "SMS");
+  EXPECT_THAT(column(1), ElementsAre("early", "late"));
+  EXPECT_EQ(list_->selectionModel()->selectedRows().size(), 1);
+  EXPECT_TRUE(list_->selectionModel()->isRowSelected(0));
+  combo_->setCurrentText("Fax");
+  EXPECT_THAT(column(1), ElementsAre("fax"));
+  combo_->setCurrentText("Voice");
+  EXPECT_THAT(column(1), IsEmpty());
+}
+
+TEST_F(StatusPage, selectTypeRefreshesEvenWhenTheTypeStays) {
+  open();
+  logMessage("new", "01/01/2026 10:00:00");
+  page_->selectType("SMS");
+  EXPECT_THAT(column(1), ElementsAre("new"));
+  page_->hide();
+  logMessage("newer", "01/01/2026 10:00:01");
+  page_->show();
+  EXPECT_THAT(column(1), ElementsAre("new", "newer"));
+}
+
+TEST_F(StatusPage, getStatusAsksForTheSelectedRowsInListOrder) {
+  logMessage("R1", "01/01/2026 10:00:01");
+  logMessage("R2", "01/01/2026 10:00:02");
+  logMessage("R3", "01/01/2026 10:00:03");
+  open();
+  list_->selectionModel()->select(list_->model()->index(2, 0),
+                                  QItemSelectionModel::Select | QItemSelectionModel::Rows);
+  getStatus();
+  EXPECT_THAT(column(3), ElementsAre("Delivered to handset", "Delivered to Gateway", "Delivered to handset"));
+  EXPECT_EQ(list_->selectionModel()->selectedRows().size(), 2);
+  EXPECT_EQ(operations().count(QStringLiteral("getStatus")), 2);
+  list_->clearSelection();
+  getStatus();
+  EXPECT_EQ(operations().count(QStringLiteral("getStatus")), 2);
+  EXPECT_THAT(notifier.takeTexts(), IsEmpty());
+}
+
+TEST_F(StatusPage, contextMenuHasOneEntryThatAsksForTheStatus) {
+  logMessage("R1", "01/01/2026 10:00:01");
+  open();
+  auto* menu = page_->findChild<QMenu*>("statusMenu");
+  Q_EMIT list_->customContextMenuRequested(QPoint(5, 5));
+  EXPECT_TRUE(menu->isVisible());
+  ASSERT_EQ(menu->actions().size(), 1);
+  EXPECT_EQ(menu->actions()[0]->text(), "Status");
+  menu->actions()[0]->trigger();
+  menu->close();
+  EXPECT_THAT(column(3), ElementsAre("Delivered to handset"));
+}
+
+TEST_F(StatusPage, copyTakesTheSelectedRowsAsTheColumnsStand) {
+  logMessage("R1", "01/01/2026 10:00:01");
+  logMessage("R2", "01/01/2026 10:00:02");
+  open();
+  list_->header()->moveSection(1, 0);
+  list_->selectAll();
+  page_->activateWindow();
+  (void)QTest::qWaitForWindowActive(page_.get());
+  list_->setFocus();
+  QTest::keySequence(list_, QKeySequence::Copy);
+  EXPECT_EQ(QGuiApplication::clipboard()->text().toStdString(),
+            "R1\t01/01/2026 10:00:01\t+61491570156\tDelivered to Gateway\n"
+            "R2\t01/01/2026 10:00:02\t+61491570156\tDelivered to Gateway");
+}
+
+TEST_F(StatusPage, tenThousandEntriesFillQuickly) {
+  for (int i = 0; i < 10'000; ++i)
+    log.add({"+1", QString::number(i), "s", "SMS",
+             QStringLiteral("01/01/2026 10:00:%1").arg(i % 60, 2, 10, QChar(u'0'))});
+  open();
+  QElapsedTimer timer;
+  timer.start();
+  page_->selectType("SMS");
+  page_->grab();
+  EXPECT_LT(timer.elapsed(), 1000);
+  EXPECT_EQ(list_->model()->rowCount(), 10'000);
+}
+
+}  // namespace
+}  // namespace parlexo
