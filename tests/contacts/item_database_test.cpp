@@ -72,12 +72,20 @@ TEST_F(ItemDatabaseFixture, newKeysAreAppendedAndMarkedInUseWhateverTheirStateBy
 TEST_F(ItemDatabaseFixture, writeOfStoredKeyChangesOnlyItsData) {
   // A state byte other than 1 counts as in use, and bytes behind the key's end stay as another program
   // left them.
-  writeBytes(path_, anna + bytes("\5Bo\0x2222222", recordSize) + cleo);
+  writeBytes(path_, anna +
+                        bytes("\5Bo\0"
+                              "x2222222",
+                              recordSize) +
+                        cleo);
   EXPECT_TRUE(
       write(bytes("\1Bo\0\0"
                   "9999999",
                   recordSize)));
-  EXPECT_EQ(readBytes(path_), anna + bytes("\5Bo\0x9999999", recordSize) + cleo);
+  EXPECT_EQ(readBytes(path_), anna +
+                                  bytes("\5Bo\0"
+                                        "x9999999",
+                                        recordSize) +
+                                  cleo);
 }
 
 TEST_F(ItemDatabaseFixture, writeOfDeletedKeyRevivesItsSlot) {
