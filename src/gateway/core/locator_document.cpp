@@ -1,12 +1,11 @@
 #include "gateway/core/locator_document.h"
 
 #include <algorithm>
-#include <cstdlib>
-#include <limits>
 
 #include <QByteArrayList>
 
 #include "base/code_page.h"
+#include "gateway/core/leading_number.h"
 
 namespace parlexo {
 
@@ -44,13 +43,6 @@ class LineScanner {
 
   QByteArray rest_;
 };
-
-/// atoi() without its undefined behaviour: numbers beyond an int become the nearest one.
-int leadingNumber(const QByteArray& text) {
-  const long long number = std::strtoll(text.constData(), nullptr, 10);
-  return static_cast<int>(
-      std::clamp<long long>(number, std::numeric_limits<int>::min(), std::numeric_limits<int>::max()));
-}
 
 std::optional<GatewayLocation> parseServerLine(const QByteArray& line) {
   LineScanner scanner(line);

@@ -1,9 +1,8 @@
 #include "gateway/core/server_locator.h"
 
-#include <memory>
+#include <limits>
 
 #include <QEventLoop>
-#include <QNetworkAccessManager>
 #include <QNetworkProxy>
 #include <QNetworkReply>
 #include <QNetworkRequest>
@@ -18,76 +17,36 @@ namespace {
 constexpr int statusOk = 200;
 constexpr int statusProxyLogin = 407;
 
-/// What came of one download.
-struct Download {
-  int status = 0;  ///< HTTP status, 0 when there was none
-  QNetworkReply::NetworkError error = QNetworkReply::NoError;
-  bool isWhole = false;  ///< the document, up to the allowed length, has arrived
-  QByteArray document;
-};
-
-QNetworkProxy proxyOf(const ProxySettings& settings) {
-  // Without this Qt would take a proxy from the environment, which the gateway's own calls don't see.
-  if (settings.host.isEmpty()) return QNetworkProxy::NoProxy;
-  return {QNetworkProxy::HttpProxy, settings.host, static_cast<quint16>(settings.port), settings.user,
-          settings.password};
+/// A port beyond 65535 would lose its upper bits and lead to another proxy.
+bool hasPort(const ProxyAddress& address) {
+  return address.port > 0 && address.port <= std::numeric_limits<quint16>::max();
 }
 
-QNetworkRequest requestFor(const QUrl& site, const LocatorLimits& limits) {
+QNetworkProxy proxyAt(const ProxyAddress& address) {
+  // Without this Qt would take a proxy from the environment, which the gateway's own calls don't see.
+  if (address.isEmpty() || !hasPort(address)) return QNetworkProxy::NoProxy;
+  // No name and password here: the header says them, and Qt must not start an exchange of its own.
+  return {QNetworkProxy::HttpProxy, address.host, static_cast<quint16>(address.port)};
+}
+
+void addHeaderLine(QNetworkRequest& request, const QByteArray& line) {
+  const qsizetype colon = line.indexOf(": ");
+  request.setRawHeader(line.first(colon), line.sliced(colon + 2).trimmed());
+}
+
+QNetworkRequest requestFor(const QUrl& site) {
   QUrl address(site);
   address.setPath(QStringLiteral("/WSDLServerLocator.xml"));
   QNetworkRequest request(address);
-  request.setRawHeader("Accept", "text/plain, text/html, text/htm, text/xml");
-  request.setRawHeader("User-Agent", "Parlexo/1.0");
-  // The limit on the document counts bytes as they arrive, so they must not be compressed.
-  request.setRawHeader("Accept-Encoding", "identity");
+  addHeaderLine(request, "Accept: text/plain, text/html, text/htm, text/xml\r\n");
+  addHeaderLine(request, "User-Agent: Parlexo/1.0\r\n");
   request.setAttribute(QNetworkRequest::RedirectPolicyAttribute, QNetworkRequest::ManualRedirectPolicy);
-  request.setAttribute(QNetworkRequest::CacheLoadControlAttribute, QNetworkRequest::AlwaysNetwork);
-  request.setAttribute(QNetworkRequest::Http2AllowedAttribute, false);
-  request.setTransferTimeout(static_cast<int>(limits.transfer.count()));
   return request;
-}
-
-/// Waits for the reply's end, or until more than the limit has arrived.
-Download wait(QNetworkReply& reply, qint64 limit) {
-  Download download;
-  QEventLoop loop;
-  const auto take = [&] {
-    // A reply that failed at once is not open.
-    if (reply.isOpen()) download.document += reply.read(limit - download.document.size());
-    if (download.document.size() >= limit) loop.quit();
-  };
-  QObject::connect(&reply, &QNetworkReply::readyRead, &loop, take);
-  QObject::connect(&reply, &QNetworkReply::finished, &loop, &QEventLoop::quit);
-  if (!reply.isFinished()) loop.exec();
-  take();
-  download.status = reply.attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
-  download.error = reply.error();
-  download.isWhole = download.error == QNetworkReply::NoError;
-  return download;
-}
-
-Download attempt(const QUrl& site, const ProxySettings& proxy, const LocatorLimits& limits) {
-  QNetworkAccessManager manager;
-  manager.setProxy(proxyOf(proxy));
-  const std::unique_ptr<QNetworkReply> reply(manager.get(requestFor(site, limits)));
-  reply->setReadBufferSize(limits.documentBytes);
-  return wait(*reply, limits.documentBytes);
 }
 
 /// True when no connection came about, so that another attempt may do better.
 bool hasNotConnected(const Download& download) {
-  switch (download.error) {
-    case QNetworkReply::ConnectionRefusedError:
-    case QNetworkReply::HostNotFoundError:
-    case QNetworkReply::TemporaryNetworkFailureError:
-    case QNetworkReply::UnknownNetworkError:
-    case QNetworkReply::ProxyConnectionRefusedError:
-    case QNetworkReply::ProxyNotFoundError:
-      return true;
-    default:
-      return false;
-  }
+  return download.error != QNetworkReply::NoError && !download.wasSent && download.status == 0;
 }
 
 void pause(std::chrono::milliseconds delay) {
@@ -100,11 +59,23 @@ void pause(std::chrono::milliseconds delay) {
 
 ServerLocator::ServerLocator(const QUrl& site, const LocatorLimits& limits) : site_(site), limits_(limits) {}
 
-ServerLocator::Outcome ServerLocator::locate(RunState& state) const {
-  Download download = attempt(site_, state.proxy, limits_);
+Download ServerLocator::attempt(const ProxySettings& login, const ProxyAddress& preconfigured) const {
+  const bool isLogin = !login.host.isEmpty();
+  const ProxyAddress proxy = isLogin ? ProxyAddress{login.host, login.port} : preconfigured;
+  QNetworkRequest request = requestFor(site_);
+  if (isLogin) addHeaderLine(request, makeProxyAuthorisation(login.user, login.password));
+  return download(request, proxyAt(proxy),
+                  {.silence = limits_.transfer, .whole = limits_.whole, .bytes = limits_.documentBytes});
+}
+
+ServerLocator::Outcome ServerLocator::locate(RunState& state, const ProxyAddress& preconfigured) const {
+  // The login must not go anywhere but to its proxy.
+  if (!state.proxy.host.isEmpty() && !hasPort({state.proxy.host, state.proxy.port}))
+    return Outcome::NotLocated;
+  Download download = attempt(state.proxy, preconfigured);
   if (hasNotConnected(download)) {
     pause(limits_.retryDelay);
-    download = attempt(site_, state.proxy, limits_);
+    download = attempt(state.proxy, preconfigured);
   }
   if (download.status == statusProxyLogin ||
       download.error == QNetworkReply::ProxyAuthenticationRequiredError) {

@@ -5,14 +5,17 @@
 #include <QUrl>
 
 #include "base/run_state.h"
+#include "gateway/core/bounded_download.h"
+#include "gateway/core/proxy_text.h"
 
 namespace parlexo {
 
 /// Patience and limits of the locator's download.
 struct LocatorLimits {
-  std::chrono::milliseconds transfer{30'000};   ///< one attempt
+  std::chrono::milliseconds transfer{30'000};   ///< silence in one attempt, until it is connected and after
   std::chrono::milliseconds retryDelay{1'000};  ///< before the second and last attempt to connect
   qint64 documentBytes = 64 * 1024;             ///< a longer document is read up to here
+  std::chrono::milliseconds whole{90'000};      ///< for a document that comes in drops
 };
 
 /// Downloads the locator document from the service's web site. Waits in a local event loop, so it is used by
@@ -30,10 +33,13 @@ class ServerLocator {
   explicit ServerLocator(const QUrl& site, const LocatorLimits& limits = {});
 
   /// Downloads "/WSDLServerLocator.xml" and stores what it tells in `state.gateway`: all of it or, unless
-  /// the outcome is Located, nothing. The proxy of `state` is used where its host is set.
-  [[nodiscard]] Outcome locate(RunState& state) const;
+  /// the outcome is Located, nothing. Where the proxy of `state` has a host, the request goes through it and
+  /// carries its login; otherwise it goes through `preconfigured`, or straight when that is empty too.
+  [[nodiscard]] Outcome locate(RunState& state, const ProxyAddress& preconfigured = {}) const;
 
  private:
+  [[nodiscard]] Download attempt(const ProxySettings& login, const ProxyAddress& preconfigured) const;
+
   QUrl site_;
   LocatorLimits limits_;
 };

@@ -1,0 +1,71 @@
+#include "gateway/core/proxy_discovery.h"
+
+#include <utility>
+
+#include <QHostAddress>
+#include <QNetworkProxy>
+#include <QNetworkRequest>
+#include <QTemporaryFile>
+
+namespace parlexo {
+
+namespace {
+
+using namespace std::chrono_literals;
+
+constexpr DownloadLimits scriptLimits{.silence = 5s, .whole = 10s, .bytes = 1 << 20};
+
+bool isOnThisMachine(const QString& host) {
+  return host == QLatin1String("localhost") || QHostAddress(host).isLoopback();
+}
+
+/// The script's bytes; empty when it can't be had or is longer than any real one.
+QByteArray downloadScript(const QUrl& address, const CancelFlag& cancel) {
+  QNetworkRequest request(address);
+  request.setAttribute(QNetworkRequest::RedirectPolicyAttribute, QNetworkRequest::NoLessSafeRedirectPolicy);
+  const Download script = download(request, QNetworkProxy::NoProxy, scriptLimits, cancel);
+  const bool isComplete = script.isWhole && script.document.size() < scriptLimits.bytes;
+  return isComplete ? script.document : QByteArray();
+}
+
+/// The proxy that the network's configuration script names, as text.
+QString askScript(const ProxySystem& system, const QUrl& address, const CancelFlag& cancel) {
+  const QUrl place = system.scriptAddress(cancel);
+  if (!place.isValid()) return {};
+  const QByteArray script = downloadScript(place, cancel);
+  QTemporaryFile file;
+  if (script.isEmpty() || !file.open() || file.write(script) != script.size() || !file.flush()) return {};
+  const QString answer = system.scriptAnswer(file.fileName(), address, cancel);
+  const QLatin1String prefix("PROXY ");
+  return answer.startsWith(prefix) ? answer.sliced(prefix.size()) : QString();
+}
+
+}  // namespace
+
+ProxyDiscovery::ProxyDiscovery(QUrl address, CallRunner& runner, std::shared_ptr<const ProxySystem> system)
+    : address_(std::move(address)), runner_(runner), system_(std::move(system)) {}
+
+ProxyAddress ProxyDiscovery::configured() const {
+  if (isOnThisMachine(address_.host())) return {};
+  return run([](const ProxySystem& system, const QUrl& address, const CancelFlag& cancel) {
+    return system.configuredProxy(address, cancel);
+  });
+}
+
+ProxyAddress ProxyDiscovery::discover() const {
+  return run([](const ProxySystem& system, const QUrl& address, const CancelFlag& cancel) {
+    const QString configured = system.configuredProxy(address, cancel);
+    return configured.isEmpty() ? askScript(system, address, cancel) : configured;
+  });
+}
+
+ProxyAddress ProxyDiscovery::run(const Search& search) const {
+  const auto found = std::make_shared<QString>();
+  const bool ended =
+      runner_.run([search, found, system = system_, address = address_](const CancelFlag& cancel) {
+        *found = search(*system, address, cancel);
+      });
+  return ended && !found->isEmpty() ? parseProxyText(*found) : ProxyAddress();
+}
+
+}  // namespace parlexo

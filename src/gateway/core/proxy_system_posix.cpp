@@ -1,0 +1,94 @@
+#include <array>
+
+#include <QCoreApplication>
+#include <QDeadlineTimer>
+#include <QFileInfo>
+#include <QProcess>
+#include <QStringList>
+
+#include "gateway/core/proxy_system.h"
+
+namespace parlexo {
+
+namespace {
+
+using namespace std::chrono_literals;
+
+constexpr auto patience = 8s;  // for one question; look-ups on a dead network take longer
+constexpr int pollMilliseconds = 50;
+constexpr int defaultHttpPort = 80;
+
+/// The helper program that asks libproxy, looks up names and runs scripts: beside the program or, in a
+/// package, where programs lie that no user calls. Empty when it isn't there.
+QString finderProgram() {
+  const QString folder = QCoreApplication::applicationDirPath();
+  for (const char* place : {"/parlexo-proxy-finder", "/../libexec/parlexo/parlexo-proxy-finder"}) {
+    const QFileInfo file(folder + QLatin1String(place));
+    if (file.isExecutable()) return file.absoluteFilePath();
+  }
+  return {};
+}
+
+/// Waits for the end of `process`; kills it when the time is over or `cancel` is raised.
+bool endsWell(QProcess& process, const CancelFlag& cancel) {
+  const QDeadlineTimer deadline(patience);
+  while (process.state() != QProcess::NotRunning) {
+    if (cancel.isRaised() || deadline.hasExpired()) {
+      process.kill();
+      process.waitForFinished();
+      return false;
+    }
+    process.waitForFinished(pollMilliseconds);
+  }
+  return process.error() == QProcess::UnknownError && process.exitStatus() == QProcess::NormalExit &&
+         process.exitCode() == 0;
+}
+
+/// Runs the helper, which bounds its own output, and returns the lines it wrote. A process of its own can
+/// be killed whatever the network or a script does in it.
+QStringList ask(const QStringList& question, const CancelFlag& cancel) {
+  const QString program = finderProgram();
+  if (program.isEmpty()) return {};
+  QProcess finder;
+  finder.setStandardInputFile(QProcess::nullDevice());
+  finder.setStandardErrorFile(QProcess::nullDevice());
+  finder.start(program, question, QIODevice::ReadOnly);
+  if (!endsWell(finder, cancel)) return {};
+  return QString::fromUtf8(finder.readAllStandardOutput()).split(u'\n', Qt::SkipEmptyParts);
+}
+
+QString encoded(const QUrl& address) {
+  // The script engine sets the address between single quotes.
+  return QString::fromLatin1(address.toEncoded()).replace(u'\'', QStringLiteral("%27"));
+}
+
+/// Asks a helper process for everything that may block.
+class PosixProxySystem final : public ProxySystem {
+ public:
+  [[nodiscard]] QString configuredProxy(const QUrl& address, const CancelFlag& cancel) const override {
+    const QStringList answers = ask({QStringLiteral("setting"), encoded(address)}, cancel);
+    if (answers.isEmpty()) return {};
+    // The first is the one to use. Of the other kinds, "direct" is no proxy and SOCKS none for HTTP.
+    const QUrl proxy(answers.first());
+    if (proxy.scheme() != QLatin1String("http") || proxy.host().isEmpty()) return {};
+    return QStringLiteral("%1:%2").arg(proxy.host()).arg(proxy.port(defaultHttpPort));
+  }
+
+  [[nodiscard]] QUrl scriptAddress(const CancelFlag& cancel) const override {
+    return QUrl(ask({QStringLiteral("detect")}, cancel).value(0));
+  }
+
+  [[nodiscard]] QString scriptAnswer(const QString& file, const QUrl& address,
+                                     const CancelFlag& cancel) const override {
+    return ask({QStringLiteral("script"), file, encoded(address), address.host(QUrl::FullyEncoded)}, cancel)
+        .value(0);
+  }
+};
+
+}  // namespace
+
+std::shared_ptr<const ProxySystem> makeProxySystem() {
+  return std::make_shared<PosixProxySystem>();
+}
+
+}  // namespace parlexo
