@@ -5,6 +5,9 @@
 #include "app/core/shut_down.h"
 #include "app/core/start_up.h"
 #include "base/product.h"
+#include "gateway/boxes/proxy_login_dlg.h"
+#include "gateway/core/gateway_search.h"
+#include "gateway/core/proxy_discovery.h"
 #include "gateway/core/server_locator.h"
 
 namespace parlexo {
@@ -40,7 +43,11 @@ int Application::run() {
 }
 
 bool Application::locateGateway() {
-  return ServerLocator(QUrl(site_)).locate(state_) == ServerLocator::Outcome::Located;
+  const QUrl site(site_);
+  const ServerLocator locator(site);
+  const ProxyDiscovery discovery(site, runner_);
+  ProxyLoginBox login(discovery);
+  return GatewaySearch({locator, discovery, progress_, login}).run(state_);
 }
 
 }  // namespace parlexo
