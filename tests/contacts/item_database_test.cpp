@@ -10,16 +10,16 @@ namespace {
 
 using testing::ElementsAre;
 
-QByteArray bytes(const char* literal, qsizetype size) {
-  return QByteArray(literal, size);
+// The bytes of a record, or of its beginning: the first digit is the state byte, and a dot is a zero byte.
+QByteArray record(const char* picture) {
+  QByteArray bytes = QByteArray(picture).replace('.', '\0');
+  bytes[0] = static_cast<char>(bytes[0] - '0');
+  return bytes;
 }
 
-const QByteArray anna = bytes("\1Anna1111111", recordSize);
-const QByteArray bob = bytes(
-    "\1Bob\0"
-    "2222222",
-    recordSize);
-const QByteArray cleo = bytes("\1Cleo3333333", recordSize);
+const QByteArray anna = record("1Anna1111111");
+const QByteArray bob = record("1Bob.2222222");
+const QByteArray cleo = record("1Cleo3333333");
 
 class ItemDatabaseFixture : public StoreFixture {
  protected:
@@ -72,34 +72,23 @@ TEST_F(ItemDatabaseFixture, newKeysAreAppendedAndMarkedInUseWhateverTheirStateBy
 TEST_F(ItemDatabaseFixture, writeOfStoredKeyChangesOnlyItsData) {
   // A state byte other than 1 counts as in use, and bytes behind the key's end stay as another program
   // left them.
-  writeBytes(path_, anna +
-                        bytes("\5Bo\0"
-                              "x2222222",
-                              recordSize) +
-                        cleo);
-  EXPECT_TRUE(
-      write(bytes("\1Bo\0\0"
-                  "9999999",
-                  recordSize)));
-  EXPECT_EQ(readBytes(path_), anna +
-                                  bytes("\5Bo\0"
-                                        "x9999999",
-                                        recordSize) +
-                                  cleo);
+  writeBytes(path_, anna + record("5Bo.x2222222") + cleo);
+  EXPECT_TRUE(write(record("1Bo..9999999")));
+  EXPECT_EQ(readBytes(path_), anna + record("5Bo.x9999999") + cleo);
 }
 
 TEST_F(ItemDatabaseFixture, writeOfDeletedKeyRevivesItsSlot) {
   bool deleted = false;
   EXPECT_TRUE(write(anna) && write(bob) && erase("Anna", deleted));
   EXPECT_TRUE(deleted);
-  EXPECT_EQ(readBytes(path_), bytes("\0Anna1111111", recordSize) + bob);
+  EXPECT_EQ(readBytes(path_), record("0Anna1111111") + bob);
   EXPECT_THAT(readAll(), ElementsAre(bob));
-  EXPECT_THAT(readAll(true), ElementsAre(bytes("\0Anna1111111", recordSize), bob));
+  EXPECT_THAT(readAll(true), ElementsAre(record("0Anna1111111"), bob));
 
   EXPECT_TRUE(erase("Anna", deleted));
   EXPECT_FALSE(deleted);
-  EXPECT_TRUE(write(bytes("\1Anna7777777", recordSize)));
-  EXPECT_EQ(readBytes(path_), bytes("\1Anna7777777", recordSize) + bob);
+  EXPECT_TRUE(write(record("1Anna7777777")));
+  EXPECT_EQ(readBytes(path_), record("1Anna7777777") + bob);
 }
 
 TEST_F(ItemDatabaseFixture, keysCompareWholeAndByCase) {
@@ -113,13 +102,13 @@ TEST_F(ItemDatabaseFixture, keysCompareWholeAndByCase) {
 }
 
 TEST_F(ItemDatabaseFixture, ofDoubledKeysTheLaterIsUsed) {
-  const QByteArray later = bytes("\1Anna5555555", recordSize);
+  const QByteArray later = record("1Anna5555555");
   writeBytes(path_, anna + bob + later);
-  EXPECT_TRUE(write(bytes("\1Anna8888888", recordSize)));
-  EXPECT_EQ(readBytes(path_), anna + bob + bytes("\1Anna8888888", recordSize));
+  EXPECT_TRUE(write(record("1Anna8888888")));
+  EXPECT_EQ(readBytes(path_), anna + bob + record("1Anna8888888"));
   bool deleted = false;
   EXPECT_TRUE(erase("Anna", deleted));
-  EXPECT_EQ(readBytes(path_), anna + bob + bytes("\0Anna8888888", recordSize));
+  EXPECT_EQ(readBytes(path_), anna + bob + record("0Anna8888888"));
 }
 
 TEST_F(ItemDatabaseFixture, visitorStopsTheReading) {
@@ -135,9 +124,9 @@ TEST_F(ItemDatabaseFixture, shortLastRecordIsFilledUpFromTheOneBefore) {
     QByteArray file;
     QByteArray lastRead;
   } cases[] = {
-      {anna + bob + bytes("\1Cleo", 5), bytes("\1Cleo2222222", recordSize)},
-      {anna + bytes("\1B", 2), bytes("\1Bnna1111111", recordSize)},
-      {bytes("\1Cl", 3), bytes("\1Cl\0\0\0\0\0\0\0\0\0", recordSize)},
+      {anna + bob + record("1Cleo"), record("1Cleo2222222")},
+      {anna + record("1B"), record("1Bnna1111111")},
+      {record("1Cl"), record("1Cl.........")},
   };
   for (const auto& each : cases) {
     writeBytes(path_, each.file);
@@ -172,15 +161,8 @@ TEST_F(ItemDatabaseFixture, newKeyFollowsTheRecordsThatOthersAppended) {
   EXPECT_TRUE(write(cleo));
   EXPECT_EQ(readBytes(path_), anna + bob + cleo);
   // The rebuilt index knows where bob is.
-  EXPECT_TRUE(
-      write(bytes("\1Bob\0"
-                  "4444444",
-                  recordSize)));
-  EXPECT_EQ(readBytes(path_), anna +
-                                  bytes("\1Bob\0"
-                                        "4444444",
-                                        recordSize) +
-                                  cleo);
+  EXPECT_TRUE(write(record("1Bob.4444444")));
+  EXPECT_EQ(readBytes(path_), anna + record("1Bob.4444444") + cleo);
 }
 
 TEST_F(ItemDatabaseFixture, fileThatWasMadeAnewTakesKnownKeysWithoutGapsOrDoubles) {
@@ -192,9 +174,9 @@ TEST_F(ItemDatabaseFixture, fileThatWasMadeAnewTakesKnownKeysWithoutGapsOrDouble
 
 TEST_F(ItemDatabaseFixture, knownKeyIsStillStoredAlignedBehindShortRecord) {
   EXPECT_TRUE(write(anna));
-  writeBytes(path_, bob + bytes("\1C", 2));
+  writeBytes(path_, bob + record("1C"));
   EXPECT_TRUE(write(anna));
-  EXPECT_EQ(readBytes(path_), bob + bytes("\1C\0\0\0\0\0\0\0\0\0\0", recordSize) + anna);
+  EXPECT_EQ(readBytes(path_), bob + record("1C..........") + anna);
 }
 
 TEST_F(ItemDatabaseFixture, fileThatKeepsChangingIsGivenUpAfterElevenAttempts) {
