@@ -26,7 +26,8 @@ class CallRunner {
 
   /// Runs `exchange`, possibly on another thread. The exchange must own all that it uses, because one
   /// that is cancelled and does not come back is left behind. It should end soon once `cancel` is raised.
-  /// Returns true when the exchange has ended and its results may be read, false when it was left behind.
+  /// Returns true when the exchange has ended and its results may be read, false when it was left
+  /// behind or could not do its work (it threw, or no thread was to be had).
   [[nodiscard]] virtual bool run(Exchange exchange) = 0;
 
  protected:
