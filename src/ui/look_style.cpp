@@ -1,9 +1,12 @@
 #include "ui/look_style.h"
 
+#include <algorithm>
+
 #include <QAbstractScrollArea>
 #include <QPainter>
 #include <QStyleFactory>
 #include <QStyleOption>
+#include <QTabBar>
 
 #include "ui/flat_scroll_bar.h"
 #include "ui/look.h"
@@ -11,6 +14,9 @@
 namespace parlexo {
 
 namespace {
+
+constexpr int rowPadding = 4;  // pixels that a list's row is higher than its text
+constexpr int focusWidth = 2;  // pixels of the frame around the list or edit that has the keyboard
 
 void drawOutline(QPainter& painter, const QRectF& frame, qreal radius, const QColor& color, qreal width) {
   painter.save();
@@ -28,6 +34,21 @@ void drawHeaderSection(const QStyleOption& option, QPainter& painter) {
   painter.fillRect(area, lit ? look::gradientBottom : look::dialogBackground);
   painter.fillRect(QRect(area.left(), area.bottom(), area.width(), 1), look::border);
   painter.fillRect(QRect(area.right(), area.top() + 3, 1, area.height() - 6), look::border);
+}
+
+void drawTab(const QStyleOptionTab& tab, QPainter& painter) {
+  const bool selected = tab.state & QStyle::State_Selected;
+  const bool lit = tab.state & QStyle::State_MouseOver;
+  const QRectF shape = QRectF(tab.rect).adjusted(0.5, selected ? 0.5 : 2.5, -0.5, 6);
+  painter.save();
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setClipRect(tab.rect.adjusted(0, 0, 0, selected ? 1 : -1));
+  painter.setPen(QPen(look::border, 1));
+  painter.setBrush(selected ? look::gradientTop : lit ? look::dialogBackground : look::gradientBottom);
+  painter.drawRoundedRect(shape, 4, 4);
+  if (selected)
+    painter.fillRect(QRectF(shape.left() + 3, shape.top(), shape.width() - 6, 2), look::selection);
+  painter.restore();
 }
 
 /// A selected row keeps its dark ground while the list is out of focus, so a mark inside it must be light.
@@ -49,7 +70,17 @@ void LookStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opti
   }
   if (element == PE_Frame && qobject_cast<const QAbstractScrollArea*>(widget)) {
     const bool focused = option->state & State_HasFocus;
-    drawOutline(*painter, option->rect, 2, focused ? look::selection : look::border, focused ? 2 : 1);
+    drawOutline(*painter, option->rect, 2, focused ? look::selection : look::border,
+                focused ? focusWidth : 1);
+    return;
+  }
+  if (element == PE_FrameGroupBox) {
+    const int title = std::max(pixelMetric(PM_IndicatorHeight, option, widget), option->fontMetrics.height());
+    drawOutline(*painter, option->rect.adjusted(0, title + 3, 0, 0), 4, look::border, 1);
+    return;
+  }
+  if (element == PE_PanelScrollAreaCorner) {
+    painter->fillRect(option->rect, look::dialogBackground);
     return;
   }
   QProxyStyle::drawPrimitive(element, option, painter, widget);
@@ -63,6 +94,11 @@ void LookStyle::drawControl(ControlElement element, const QStyleOption* option, 
   }
   if (element == CE_HeaderEmptyArea) {
     painter->fillRect(option->rect, look::dialogBackground);
+    return;
+  }
+  const auto* tab = qstyleoption_cast<const QStyleOptionTab*>(option);
+  if (element == CE_TabBarTabShape && tab && tab->shape == QTabBar::RoundedNorth) {
+    drawTab(*tab, *painter);
     return;
   }
   QProxyStyle::drawControl(element, option, painter, widget);
@@ -85,9 +121,17 @@ QRect LookStyle::subControlRect(ComplexControl control, const QStyleOptionComple
   return QProxyStyle::subControlRect(control, option, part, widget);
 }
 
+QSize LookStyle::sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& contents,
+                                  const QWidget* widget) const {
+  const QSize size = QProxyStyle::sizeFromContents(type, option, contents, widget);
+  return type == CT_ItemViewItem ? size + QSize(0, rowPadding) : size;
+}
+
 int LookStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const {
   if (metric == PM_ScrollBarExtent) return flat_scroll_bar::thickness;
   if (metric == PM_ScrollBarSliderMin) return flat_scroll_bar::shortestThumb;
+  const bool isScrollArea = qobject_cast<const QAbstractScrollArea*>(widget);
+  if (metric == PM_DefaultFrameWidth && isScrollArea) return focusWidth;
   if (metric == PM_ScrollView_ScrollBarSpacing) return 0;
   return QProxyStyle::pixelMetric(metric, option, widget);
 }

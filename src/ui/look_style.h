@@ -4,8 +4,8 @@
 
 namespace parlexo {
 
-/// Fusion in the program's colours, with flat scroll bars, flat list headers and a focus mark that shows
-/// wherever the keyboard is, not only after the first Tab.
+/// Fusion in the program's colours, with flat scroll bars, flat list headers and tabs, and a focus mark that
+/// shows wherever the keyboard is, not only after the first Tab.
 class LookStyle final : public QProxyStyle {
   Q_OBJECT
 
@@ -20,6 +20,8 @@ class LookStyle final : public QProxyStyle {
                           const QWidget* widget) const override;
   [[nodiscard]] QRect subControlRect(ComplexControl control, const QStyleOptionComplex* option,
                                      SubControl part, const QWidget* widget) const override;
+  [[nodiscard]] QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& contents,
+                                       const QWidget* widget) const override;
   [[nodiscard]] int pixelMetric(PixelMetric metric, const QStyleOption* option,
                                 const QWidget* widget) const override;
   [[nodiscard]] int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,

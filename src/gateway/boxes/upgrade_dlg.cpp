@@ -61,7 +61,7 @@ CUpgradeDlg::CUpgradeDlg(const QString& latestVersion, QWidget* parent, WebOpene
   makeBold(*addLabel(*column, "warning", warning()));
   QLabel* news = addLabel(*column, "announcement", announcement(latestVersion));
   news->setVisible(!latestVersion.isEmpty());
-  addLabel(*column, "explanation", explanation())->setMinimumWidth(dialogUnits(*this, 250, 0).width());
+  addLabel(*column, "explanation", explanation())->setMinimumWidth(dialogUnits(*this, 290, 0).width());
   column->addStretch();
 
   auto* download = new PictureButton(QStringLiteral("&Download"));
