@@ -53,11 +53,6 @@ bool isKeyInput(QEvent::Type type) {
   }
 }
 
-/// A close request of the window frame; a close() in code must go through.
-bool isUserClose(const QEvent& event) {
-  return event.type() == QEvent::Close && event.spontaneous();
-}
-
 /// The window that `target`, a widget, a native window, an action or a shortcut, belongs to.
 const QObject* windowOf(const QObject* target) {
   for (; target; target = target->parent()) {
@@ -69,7 +64,8 @@ const QObject* windowOf(const QObject* target) {
 
 }  // namespace
 
-InputBlock::InputBlock() : modalBefore_(QApplication::activeModalWidget()) {
+InputBlock::InputBlock(CloseRequests closeRequests)
+    : closeRequests_(closeRequests), modalBefore_(QApplication::activeModalWidget()) {
   activeBlocks().push_back(this);
   qApp->installEventFilter(this);
 }
@@ -92,7 +88,8 @@ bool InputBlock::lets(const QObject* target) const {
 }
 
 bool InputBlock::eventFilter(QObject* target, QEvent* event) {
-  const bool isInput = isPointerInput(event->type()) || isKeyInput(event->type()) || isUserClose(*event);
+  const bool isClose = event->type() == QEvent::Close && closeRequests_ == CloseRequests::Dropped;
+  const bool isInput = isPointerInput(event->type()) || isKeyInput(event->type()) || isClose;
   if (!isInput || lets(target)) return false;
   event->setAccepted(event->type() != QEvent::Close && event->type() != QEvent::ShortcutOverride);
   return true;

@@ -6,14 +6,21 @@
 
 namespace parlexo {
 
-/// While it lives, clicks, keys, wheel, drops, shortcuts and the window frame's close button are dropped,
-/// not kept for later. Only modal windows that opened after it did still take input. Blocks may nest; they
-/// belong to the interface thread.
+/// While it lives, clicks, keys, wheel, drops and shortcuts are dropped, not kept for later. Only modal
+/// windows that opened after it did still take input. Blocks may nest; they belong to the interface thread.
 class InputBlock final : public QObject {
   Q_OBJECT
 
  public:
-  InputBlock();
+  enum class CloseRequests {
+    /// Also the close button of window frames is dropped. A close() or accept() in code looks the same to Qt,
+    /// so this is for waits in which no code of a page runs.
+    Dropped,
+    /// For blocks under a modal window, whose modality already holds the frames of the others.
+    LeftToModality,
+  };
+
+  explicit InputBlock(CloseRequests closeRequests = CloseRequests::LeftToModality);
   ~InputBlock() override;
 
   /// Whether a press by an assistive tool, which is no input event, has to be dropped for `widget`.
@@ -25,6 +32,7 @@ class InputBlock final : public QObject {
  private:
   [[nodiscard]] bool lets(const QObject* target) const;
 
+  CloseRequests closeRequests_;
   QPointer<QWidget> modalBefore_;
 };
 

@@ -51,7 +51,7 @@ void CConnectingDlg::paintEvent(QPaintEvent* event) {
 }
 
 void CConnectingDlg::closeEvent(QCloseEvent* event) {
-  event->setAccepted(!event->spontaneous());
+  event->ignore();
 }
 
 }  // namespace parlexo

@@ -72,7 +72,7 @@ ExchangeWait::~ExchangeWait() {
 }
 
 bool ExchangeWait::run(CallRunner::Exchange exchange) {
-  const InputBlock block;
+  const InputBlock block(InputBlock::CloseRequests::Dropped);
   worker_ = std::make_shared<Worker>(std::move(exchange));
   std::thread thread;
   try {

@@ -23,6 +23,8 @@ void ProgressBox::show(const QString& text) {
   if (!box_) {
     block_ = std::make_unique<InputBlock>();
     box_ = new CConnectingDlg(QApplication::activeWindow());
+    // The box may go before hide() is called: with the window it stands over.
+    QObject::connect(box_, &QObject::destroyed, box_, [this] { block_.reset(); });
     if (!text.isEmpty()) box_->setText(text);
   }
   box_->show();
@@ -41,10 +43,7 @@ void ProgressBox::setText(const QString& text) {
 }
 
 void ProgressBox::hide() {
-  if (!box_) {
-    block_.reset();  // the box may have gone with its parent window
-    return;
-  }
+  if (!box_) return;
   // What the user pressed during blocking work still waits in the queue; it has to meet the block.
   handleWaitingEvents();
   remove();
@@ -54,7 +53,6 @@ void ProgressBox::remove() {
   QPointer<QWidget> parent = box_ ? box_->parentWidget() : nullptr;
   const bool wasActive = box_ && box_->isActiveWindow();
   delete box_.data();
-  block_.reset();
   if (parent && wasActive) parent->activateWindow();
 }
 

@@ -1,0 +1,116 @@
+#include "gateway/boxes/progress_box.h"
+
+#include <memory>
+
+#include <QLabel>
+#include <QThread>
+
+#include "tests/gateway/boxes/sample_page.h"
+
+namespace parlexo {
+namespace {
+
+const QString defaultLabel = QStringLiteral("Connecting to the Parlexo gateway.");
+
+QString label() {
+  return boxes().size() == 1 ? boxes().front()->findChild<QLabel*>()->text()
+                             : QStringLiteral("no single box");
+}
+
+TEST(ProgressBox, labelComesFromTheFirstShowOrFromSetText) {
+  ProgressBox progress;
+  progress.setText(QStringLiteral("nothing shows"));
+  EXPECT_TRUE(boxes().isEmpty());
+  progress.show();
+  EXPECT_EQ(label(), defaultLabel);
+  progress.hide();
+  progress.show(QStringLiteral("Loading Contacts from Database..."));
+  EXPECT_EQ(label(), QStringLiteral("Loading Contacts from Database..."));
+  progress.show(QStringLiteral("other"));
+  EXPECT_EQ(label(), QStringLiteral("Loading Contacts from Database..."));
+  progress.setText(QStringLiteral("Loading all Contacts (20 Loaded)..."));
+  EXPECT_EQ(label(), QStringLiteral("Loading all Contacts (20 Loaded)..."));
+  progress.setText({});
+  EXPECT_EQ(label(), defaultLabel);
+  progress.hide();
+  progress.hide();
+  EXPECT_TRUE(boxes().isEmpty());
+}
+
+TEST(ProgressBox, fitsItsTextAndCannotBeClosedByTheUser) {
+  SamplePage page;
+  ProgressBox progress;
+  progress.show();
+  CConnectingDlg* box = boxes().front();
+  EXPECT_EQ(box->parentWidget(), &page.window);
+  progress.setText(QString(80, QLatin1Char('M')));
+  EXPECT_GE(box->findChild<QLabel*>()->width(),
+            box->fontMetrics().horizontalAdvance(QString(80, QLatin1Char('M'))));
+  const int wide = box->width();
+  progress.setText(QStringLiteral("short"));
+  EXPECT_EQ(box->width(), wide);
+  QTest::keyClick(box, Qt::Key_Escape);
+  box->close();
+  EXPECT_TRUE(box->isVisible());
+}
+
+TEST(ProgressBox, dialogUnderItCanBeEndedByItsCode) {
+  GradientDialog dialog;
+  dialog.setModal(true);
+  dialog.show();
+  ProgressBox progress;
+  progress.show();
+  dialog.accept();
+  EXPECT_FALSE(dialog.isVisible());
+}
+
+TEST(ProgressBox, clicksDuringBlockingWorkAreDroppedNotKept) {
+  SamplePage page;
+  ProgressBox progress;
+  progress.show();
+  page.queueClick();
+  QThread::msleep(40);
+  progress.setText(QStringLiteral("half way"));
+  page.queueClick();
+  progress.hide();
+  QCoreApplication::processEvents();
+  EXPECT_EQ(page.clicks.count(), 0);
+  page.queueClick();
+  QCoreApplication::processEvents();
+  EXPECT_EQ(page.clicks.count(), 1) << "without the box the page works again";
+}
+
+TEST(ProgressBox, manyTextsCostFewRepaints) {
+  ProgressBox progress;
+  progress.show();
+  struct PaintCounter : QObject {
+    bool eventFilter(QObject*, QEvent* event) override {
+      paints += event->type() == QEvent::Paint ? 1 : 0;
+      return false;
+    }
+    int paints = 0;
+  } counter;
+  boxes().front()->findChild<QLabel*>()->installEventFilter(&counter);
+  QElapsedTimer clock;
+  clock.start();
+  for (int i = 0; i < 300 || clock.elapsed() < 150; ++i) progress.setText(QString::number(i));
+  EXPECT_GE(counter.paints, 1);
+  EXPECT_LE(counter.paints, clock.elapsed() / 30 + 1);
+}
+
+TEST(ProgressBox, boxThatGoesWithItsWindowFreesTheInput) {
+  ProgressBox progress;
+  {
+    const SamplePage gone;
+    progress.show();
+  }
+  EXPECT_FALSE(progress.isShowing());
+  SamplePage page;
+  QTest::mouseClick(page.send, Qt::LeftButton);
+  EXPECT_EQ(page.clicks.count(), 1);
+  progress.show();
+  EXPECT_EQ(boxes().size(), 1);
+}
+
+}  // namespace
+}  // namespace parlexo

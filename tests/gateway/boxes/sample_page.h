@@ -1,0 +1,47 @@
+#pragma once
+
+#include <QApplication>
+#include <QMouseEvent>
+#include <QSignalSpy>
+#include <QTest>
+#include <QVBoxLayout>
+#include <gtest/gtest.h>
+
+#include "gateway/boxes/connecting_dlg.h"
+#include "ui/gradient_page.h"
+#include "ui/picture_button.h"
+
+namespace parlexo {
+
+/// A window with one button whose presses are counted.
+struct SamplePage {
+  SamplePage() {
+    (new QVBoxLayout(&window))->addWidget(send);
+    window.show();
+    window.activateWindow();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
+  }
+
+  /// Puts a click into the event queue, as one that comes while the interface thread is busy.
+  void queueClick() const {
+    for (const auto type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
+      const auto buttons = type == QEvent::MouseButtonPress ? Qt::LeftButton : Qt::NoButton;
+      QCoreApplication::postEvent(send, new QMouseEvent(type, QPointF(5, 5), send->mapToGlobal(QPointF(5, 5)),
+                                                        Qt::LeftButton, buttons, Qt::NoModifier));
+    }
+  }
+
+  GradientPage window;
+  PictureButton* send = new PictureButton(QStringLiteral("S&end >"));
+  QSignalSpy clicks{send, &QAbstractButton::clicked};
+};
+
+inline QList<CConnectingDlg*> boxes() {
+  QList<CConnectingDlg*> found;
+  for (QWidget* window : QApplication::topLevelWidgets()) {
+    if (auto* box = qobject_cast<CConnectingDlg*>(window)) found << box;
+  }
+  return found;
+}
+
+}  // namespace parlexo

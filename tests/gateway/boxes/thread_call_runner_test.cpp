@@ -1,0 +1,144 @@
+#include "gateway/boxes/thread_call_runner.h"
+
+#include <atomic>
+#include <chrono>
+#include <stdexcept>
+#include <thread>
+
+#include <QTimer>
+
+#include "gateway/boxes/progress_box.h"
+#include "tests/gateway/boxes/sample_page.h"
+
+namespace parlexo {
+namespace {
+
+using namespace std::chrono_literals;
+
+CallRunner::Exchange lasting(std::chrono::milliseconds time) {
+  return [time](const CancelFlag&) { std::this_thread::sleep_for(time); };
+}
+
+class ThreadCallRunnerTest : public testing::Test {
+ protected:
+  ProgressBox progress_;
+  ThreadCallRunner runner_{progress_, {50ms, 100ms}};
+};
+
+TEST_F(ThreadCallRunnerTest, exchangeRunsElsewhereWhileEventsGoOn) {
+  int ticks = 0;
+  QTimer timer;
+  QObject::connect(&timer, &QTimer::timeout, [&] { ++ticks; });
+  timer.start(10ms);
+  std::thread::id worker;
+  EXPECT_TRUE(runner_.run([&](const CancelFlag&) {
+    worker = std::this_thread::get_id();
+    std::this_thread::sleep_for(120ms);
+  }));
+  EXPECT_NE(worker, std::thread::id());
+  EXPECT_NE(worker, std::this_thread::get_id());
+  EXPECT_GE(ticks, 3);
+}
+
+TEST_F(ThreadCallRunnerTest, manyShortExchangesAllEnd) {
+  int ended = 0;
+  for (int i = 0; i < 300; ++i) ended += runner_.run([](const CancelFlag&) {}) ? 1 : 0;
+  EXPECT_EQ(ended, 300);
+}
+
+TEST_F(ThreadCallRunnerTest, boxAppearsOnlyWhenTheExchangeLasts) {
+  struct Case {
+    std::chrono::milliseconds lasts;
+    bool shows;
+  };
+  for (const Case& row : {Case{1ms, false}, Case{200ms, true}}) {
+    bool shown = false;
+    QTimer timer;
+    QObject::connect(&timer, &QTimer::timeout, [&] { shown = shown || progress_.isShowing(); });
+    timer.start(5ms);
+    EXPECT_TRUE(runner_.run(lasting(row.lasts)));
+    EXPECT_EQ(shown, row.shows);
+    EXPECT_FALSE(progress_.isShowing());
+  }
+}
+
+TEST_F(ThreadCallRunnerTest, boxOfTheCallerStaysAndKeepsItsLabel) {
+  progress_.show(QStringLiteral("Sending"));
+  EXPECT_TRUE(runner_.run(lasting(120ms)));
+  ASSERT_EQ(boxes().size(), 1);
+  EXPECT_EQ(boxes().front()->text(), QStringLiteral("Sending"));
+}
+
+TEST_F(ThreadCallRunnerTest, inputIsDroppedBeforeAndUnderTheBox) {
+  SamplePage page;
+  for (const auto when : {5ms, 100ms}) {
+    QTimer::singleShot(when, [&] {
+      page.queueClick();
+      QTest::keyClick(&page.window, Qt::Key_E, Qt::AltModifier);
+    });
+  }
+  EXPECT_TRUE(runner_.run(lasting(200ms)));
+  QTest::qWait(150);
+  EXPECT_EQ(page.clicks.count(), 0);
+  QTest::mouseClick(page.send, Qt::LeftButton);
+  EXPECT_EQ(page.clicks.count(), 1);
+}
+
+TEST_F(ThreadCallRunnerTest, exchangeMayRunDuringAnother) {
+  std::atomic<bool> outerDone = false;
+  bool innerEnded = false;
+  QTimer::singleShot(10ms, [&] {
+    innerEnded = runner_.run(lasting(150ms));
+    EXPECT_TRUE(outerDone) << "the outer one was to end first";
+  });
+  EXPECT_TRUE(runner_.run([&](const CancelFlag&) {
+    std::this_thread::sleep_for(60ms);
+    outerDone = true;
+  }));
+  EXPECT_TRUE(innerEnded);
+  EXPECT_FALSE(progress_.isShowing());
+}
+
+TEST_F(ThreadCallRunnerTest, exceptionsBecomeAFailure) {
+  EXPECT_FALSE(runner_.run([](const CancelFlag&) { throw std::runtime_error("broken"); }));
+  EXPECT_FALSE(runner_.run([](const CancelFlag&) { throw 1; }));
+  EXPECT_TRUE(runner_.run([](const CancelFlag&) {}));
+}
+
+TEST_F(ThreadCallRunnerTest, onlyTheWorkersEndEndsTheWait) {
+  std::atomic<bool> done = false;
+  QTimer::singleShot(5ms, [] { QCoreApplication::exit(); });
+  EXPECT_TRUE(runner_.run([&](const CancelFlag&) {
+    std::this_thread::sleep_for(100ms);
+    done = true;
+  }));
+  EXPECT_TRUE(done);
+}
+
+TEST_F(ThreadCallRunnerTest, cancelledExchangeThatObeysHasEnded) {
+  QTimer::singleShot(10ms, [&] { runner_.cancel(); });
+  EXPECT_TRUE(runner_.run([](const CancelFlag& cancel) {
+    while (!cancel.isRaised()) std::this_thread::sleep_for(1ms);
+  }));
+}
+
+TEST_F(ThreadCallRunnerTest, cancelledExchangeThatHangsIsLeftBehindWithWhatItOwns) {
+  struct Shared {
+    std::atomic<bool> goOn = false;
+    std::atomic<bool> wentOn = false;
+  };
+  auto shared = std::make_shared<Shared>();
+  QTimer::singleShot(10ms, [&] { runner_.cancel(); });
+  EXPECT_FALSE(runner_.run([owned = shared](const CancelFlag&) {
+    while (!owned->goOn) std::this_thread::sleep_for(1ms);
+    owned->wentOn = true;
+  }));
+  EXPECT_FALSE(progress_.isShowing());
+  EXPECT_EQ(shared.use_count(), 2) << "the worker still owns its part";
+  shared->goOn = true;
+  EXPECT_TRUE(QTest::qWaitFor([&] { return shared.use_count() == 1; }));
+  EXPECT_TRUE(shared->wentOn);
+}
+
+}  // namespace
+}  // namespace parlexo

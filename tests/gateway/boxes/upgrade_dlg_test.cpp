@@ -1,0 +1,47 @@
+#include "gateway/boxes/upgrade_dlg.h"
+
+#include <QLabel>
+#include <QTest>
+#include <gmock/gmock.h>
+
+namespace parlexo {
+namespace {
+
+QStringList visibleTexts(const CUpgradeDlg& dialog) {
+  QStringList texts;
+  for (const QLabel* label : dialog.findChildren<QLabel*>()) {
+    if (label->isVisibleTo(&dialog)) texts << label->text();
+  }
+  return texts;
+}
+
+TEST(UpgradeDialog, tellsTheNewVersionOnlyWhenItIsKnown) {
+  const QString warning =
+      QStringLiteral("Product software version mismatch. You MUST upgrade your software!");
+  const QString explanation = QStringLiteral(
+      "The version of the client software you are using is out of date.\nPress the Download button to "
+      "download the latest version  of the program. Get the latest fixes and new features...");
+  const QString news = QStringLiteral("A new version 2.30%1 is now available!");
+  EXPECT_THAT(visibleTexts(CUpgradeDlg(QString())), testing::ElementsAre(warning, explanation));
+  EXPECT_THAT(visibleTexts(CUpgradeDlg(QStringLiteral("2.30%1"))),
+              testing::ElementsAre(warning, news, explanation));
+  EXPECT_EQ(CUpgradeDlg(QString()).windowTitle(), QStringLiteral("Parlexo(TM) : Product UPGRADE"));
+}
+
+TEST(UpgradeDialog, downloadOpensThePageAndCancelCloses) {
+  std::vector<QUrl> opened;
+  CUpgradeDlg dialog(QStringLiteral("2.30"), nullptr, [&](const QUrl& page) {
+    opened.push_back(page);
+    return true;
+  });
+  dialog.show();
+  QTest::keyClick(&dialog, Qt::Key_Return);
+  ASSERT_EQ(opened.size(), 1U);
+  EXPECT_EQ(opened[0], QUrl(QStringLiteral("https://www.parlexo.example/messagingclient.php")));
+  EXPECT_TRUE(dialog.isVisible());
+  QTest::mouseClick(dialog.findChild<QWidget*>(QStringLiteral("cancel")), Qt::LeftButton);
+  EXPECT_FALSE(dialog.isVisible());
+}
+
+}  // namespace
+}  // namespace parlexo

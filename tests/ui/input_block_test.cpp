@@ -1,0 +1,80 @@
+#include "ui/input_block.h"
+
+#include <memory>
+
+#include <QAccessible>
+#include <QAccessibleActionInterface>
+#include <QSignalSpy>
+#include <QTest>
+#include <QVBoxLayout>
+#include <QtTest/qtestspontaneevent.h>
+#include <gtest/gtest.h>
+
+#include "ui/gradient_page.h"
+#include "ui/picture_button.h"
+
+namespace parlexo {
+namespace {
+
+struct SampleWindow {
+  explicit SampleWindow(bool modal = false) {
+    (new QVBoxLayout(&window))->addWidget(button);
+    window.setModal(modal);
+    window.show();
+    window.activateWindow();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
+  }
+
+  /// Everything that a user could do to press the button; returns how many presses arrived.
+  int pressInEveryWay() {
+    QSignalSpy clicks(button, &QAbstractButton::clicked);
+    QTest::mouseClick(button, Qt::LeftButton);
+    QTest::keyClick(button, Qt::Key_Space);
+    QTest::keyClick(&window, Qt::Key_S, Qt::AltModifier);
+    QTest::qWait(150);
+    QAccessible::queryAccessibleInterface(button)->actionInterface()->doAction(
+        QAccessibleActionInterface::pressAction());
+    return int(clicks.count());
+  }
+
+  GradientDialog window;
+  PictureButton* button = new PictureButton(QStringLiteral("&Send"));
+};
+
+TEST(InputBlock, inputIsDroppedWhileItLivesAndWorksAgainAfter) {
+  SampleWindow sample;
+  auto outer = std::make_unique<InputBlock>();
+  auto inner = std::make_unique<InputBlock>();
+  EXPECT_EQ(sample.pressInEveryWay(), 0);
+  inner.reset();
+  EXPECT_EQ(sample.pressInEveryWay(), 0) << "the outer block still holds";
+  outer.reset();
+  EXPECT_EQ(sample.pressInEveryWay(), 4);
+}
+
+TEST(InputBlock, closeRequestsAreDroppedWhereAskedFor) {
+  SampleWindow sample;
+  {
+    const InputBlock block(InputBlock::CloseRequests::Dropped);
+    sample.window.close();
+    EXPECT_TRUE(sample.window.isVisible());
+  }
+  const InputBlock block;
+  sample.window.accept();
+  EXPECT_FALSE(sample.window.isVisible()) << "a page's code can end its dialog";
+}
+
+TEST(InputBlock, modalWindowOpenedLaterTakesInputAndAnOlderOneDoesNot) {
+  SampleWindow older(true);
+  const InputBlock block;
+  EXPECT_EQ(older.pressInEveryWay(), 0);
+  {
+    SampleWindow newer(true);
+    EXPECT_EQ(newer.pressInEveryWay(), 4);
+    EXPECT_EQ(older.pressInEveryWay(), 0);
+  }
+  EXPECT_EQ(older.pressInEveryWay(), 0);
+}
+
+}  // namespace
+}  // namespace parlexo
