@@ -11,7 +11,7 @@ using namespace Qt::StringLiterals;
 
 class ServiceHost : public testing::Test {
  protected:
-  ~ServiceHost() override { setServiceHost({}); }
+  void TearDown() override { setServiceHost({}); }
 };
 
 TEST_F(ServiceHost, pagesFollowTheChosenHostAndFallBackToTheCompiledOne) {
