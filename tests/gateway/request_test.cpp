@@ -163,8 +163,10 @@ std::vector<RequestCase> requestCases() {
 TEST(Request, hasItsFieldsInOrderWithTheirTypes) {
   for (const RequestCase& each : requestCases()) {
     const std::string sent = sentBy(each.call);
-    EXPECT_EQ(bodyOf(sent), envelopeStart + "<ns3:" + each.name + ">" + each.element + "</ns3:" + each.name +
-                                ">" + envelopeEnd);
+    std::string expected = envelopeStart;
+    expected.append("<ns3:").append(each.name).append(">").append(each.element);
+    expected.append("</ns3:").append(each.name).append(">").append(envelopeEnd);
+    EXPECT_EQ(bodyOf(sent), expected);
     EXPECT_NE(sent.find("#" + each.name + "\"\r\n"), std::string::npos) << each.name;
   }
 }

@@ -99,12 +99,12 @@ TEST(Response, isReadInEveryFormThatServersGiveIt) {
 TEST(Response, isReadInChunksAndUpToTheEndOfTheConnection) {
   const std::string body = envelope(statusElement("<nErrorCode>0</nErrorCode><sStatus>Sent</sStatus>"));
   const std::string head = "HTTP/1.1 200 OK\r\nContent-Type: text/xml\r\n";
+  const std::string unbounded = std::string(head).append("\r\n").append(body);
   char size[16];
   std::snprintf(size, sizeof size, "%zx\r\n", body.size() - 10);
   const std::string chunked = head + "Transfer-Encoding: chunked\r\n\r\na\r\n" + body.substr(0, 10) + "\r\n" +
                               size + body.substr(10) + "\r\n0\r\n\r\n";
-  for (const std::string& reply :
-       {chunked, head + "\r\n" + body, "HTTP/1.1 100 Continue\r\n\r\n" + head + "\r\n" + body}) {
+  for (const std::string& reply : {chunked, unbounded, "HTTP/1.1 100 Continue\r\n\r\n" + unbounded}) {
     const Query query(reply);
     EXPECT_EQ(query.result, 0) << reply;
     EXPECT_EQ(query.status(), "Sent");

@@ -22,13 +22,24 @@ using testing::httpReply;
 const std::string serverLine =
     R"(<server ip="10.0.0.7" port="8080" maxfilesize="2097152" maxfilesizemobile="51200">)";
 const std::string versionLine = R"(<version product="client" version="2.24"/>)";
-const std::string document = "<?xml version=\"1.0\"?>\n" + serverLine + "\n" + versionLine + "\n</server>\n";
+const std::string head = "<?xml version=\"1.0\"?>";
+
+std::string lines(const std::vector<std::string>& each, const char* end = "\n") {
+  std::string text;
+  for (const std::string& line : each) text.append(line).append(end);
+  return text;
+}
+
+const std::string document = lines({head, serverLine, versionLine, "</server>"});
 
 TEST(LocatorDocument, tellsTheFiveValuesAndTheEndpoint) {
-  for (const std::string& each :
-       {document, "<?xml?>\r\n \t" + serverLine + " \r\n<!-- more -->\r\n\r\n  " + versionLine + "\r\n",
-        "\n" + serverLine + "\n<version product=\"server\" version=\"9\">\n" + versionLine,
-        "anything\n" + serverLine + "\n" + versionLine + "\n<version product=\"client\" version=\"9\"/>\n"}) {
+  for (const std::string& each : std::vector<std::string>{
+           document,
+           lines({head, " \t" + serverLine + " ", "<!-- more -->", "", "  " + versionLine}, "\r\n"),
+           lines({"", serverLine, "<version product=\"server\" version=\"9\">", versionLine}),
+           lines({"anything", serverLine, versionLine, "<version product=\"client\" version=\"9\"/>"}),
+           document.substr(0, document.find("/>")),
+       }) {
     const auto location = parseLocatorDocument(QByteArray::fromStdString(each));
     ASSERT_TRUE(location) << each;
     EXPECT_EQ(location->host, "10.0.0.7");
@@ -47,9 +58,9 @@ TEST(LocatorDocument, readsNumbersAsFarAsTheyGo) {
   };
   for (const Case& each :
        {Case{"abc", 0}, {" 81x", 81}, {"-1", -1}, {"+9", 9}, {"0x10", 0}, {"99999999999", 2147483647}}) {
-    const std::string text = std::string("x\n<server ip=\"h\" port=\"") + each.port +
-                             "\" maxfilesize=\"1\" maxfilesizemobile=\"2\">\n" + versionLine;
-    const auto location = parseLocatorDocument(QByteArray::fromStdString(text));
+    const std::string server =
+        std::string("<server ip=\"h\" port=\"") + each.port + "\" maxfilesize=\"1\" maxfilesizemobile=\"2\">";
+    const auto location = parseLocatorDocument(QByteArray::fromStdString(lines({head, server, versionLine})));
     ASSERT_TRUE(location) << each.port;
     EXPECT_EQ(location->port, each.read) << each.port;
     EXPECT_EQ(location->endpoint, QStringLiteral("http://h:%1/ccx/onlineCommunication").arg(each.read));
@@ -57,30 +68,39 @@ TEST(LocatorDocument, readsNumbersAsFarAsTheyGo) {
 }
 
 TEST(LocatorDocument, ofAnotherFormTellsNothing) {
-  const std::string head = "<?xml?>\n";
-  for (const std::string& each : std::vector<std::string>{
-           "",
-           "\n",
-           "<?xml?>",
-           serverLine + "\n" + versionLine + "\n",         // the server stands on line 1
-           head + versionLine + "\n" + serverLine + "\n",  // the version comes first
-           head + "\n" + serverLine + "\n" + versionLine,  // the server stands on line 3
-           head + serverLine,                              // no version
-           head + serverLine + " " + versionLine,          // version on the server's line
-           head + serverLine + "\n<version product=\"server\" version=\"1\">",
-           head + serverLine + "\nx" + versionLine,  // something before the version
-           head + serverLine + "\n<version product=\"client\" build=\"1\" version=\"2\">",
-           head + serverLine + "\n<version product=\"client\" version=\"\">",
-           head + serverLine + "\n<version product=\"client\" version=\"2.2",
-           head + serverLine + "\n<version product=\"client\" >\n" + versionLine,  // the first one counts
-           head + "<server ip=\"h\" port=\"1\" name=\"x\" maxfilesize=\"1\" maxfilesizemobile=\"2\">\n" +
-               versionLine,
-           head + "<server port=\"1\" ip=\"h\" maxfilesize=\"1\" maxfilesizemobile=\"2\">\n" + versionLine,
-           head + "<server ip=\"\" port=\"1\" maxfilesize=\"1\" maxfilesizemobile=\"2\">\n" + versionLine,
-           head + "<server ip='h' port='1' maxfilesize='1' maxfilesizemobile='2'>\n" + versionLine,
-           head + "<Server ip=\"h\" port=\"1\" maxfilesize=\"1\" maxfilesizemobile=\"2\">\n" + versionLine,
-           head + "<server ip=\"h\" port=\"1\" maxfilesize=\"1\">\n" + versionLine}) {
-    EXPECT_FALSE(parseLocatorDocument(QByteArray::fromStdString(each))) << each;
+  struct Case {
+    const char* what;
+    std::vector<std::string> document;
+  };
+  for (const Case& each : std::vector<Case>{
+           {"nothing", {}},
+           {"one empty line", {""}},
+           {"one line", {head}},
+           {"server on line 1", {serverLine, versionLine}},
+           {"server on line 3", {head, "", serverLine, versionLine}},
+           {"version first", {head, versionLine, serverLine}},
+           {"no version", {head, serverLine}},
+           {"version on the server's line", {head, serverLine + versionLine}},
+           {"another product", {head, serverLine, R"(<version product="server" version="1">)"}},
+           {"text before the version", {head, serverLine, "x" + versionLine}},
+           {"attribute between", {head, serverLine, R"(<version product="client" build="1" version="2">)"}},
+           {"empty version", {head, serverLine, R"(<version product="client" version="">)"}},
+           {"cut version", {head, serverLine, R"(<version product="client" version="2.2)"}},
+           {"the first one counts", {head, serverLine, R"(<version product="client" >)", versionLine}},
+           {"extra attribute",
+            {head, R"(<server ip="h" port="1" name="x" maxfilesize="1" maxfilesizemobile="2">)",
+             versionLine}},
+           {"other order",
+            {head, R"(<server port="1" ip="h" maxfilesize="1" maxfilesizemobile="2">)", versionLine}},
+           {"empty host",
+            {head, R"(<server ip="" port="1" maxfilesize="1" maxfilesizemobile="2">)", versionLine}},
+           {"other quotes",
+            {head, "<server ip='h' port='1' maxfilesize='1' maxfilesizemobile='2'>", versionLine}},
+           {"other case",
+            {head, R"(<Server ip="h" port="1" maxfilesize="1" maxfilesizemobile="2">)", versionLine}},
+           {"three attributes", {head, R"(<server ip="h" port="1" maxfilesize="1">)", versionLine}},
+       }) {
+    EXPECT_FALSE(parseLocatorDocument(QByteArray::fromStdString(lines(each.document)))) << each.what;
   }
 }
 
@@ -116,8 +136,8 @@ TEST(ServerLocator, otherAnswersLocateNothingAndKeepNothing) {
            {"HTTP/1.1 302 Found\r\nLocation: /WSDLServerLocator.xml\r\nContent-Length: 0\r\n\r\n",
             ServerLocator::Outcome::NotLocated},
            {httpReply(document, "407 Proxy Authentication Required"), ServerLocator::Outcome::ProxyRefusal},
-           {httpReply("<?xml?>\n" + serverLine + "\n"), ServerLocator::Outcome::NotLocated},
-           {httpReply("<?xml?>\n" + serverLine + "\n" + std::string(70'000, ' ') + "\n" + versionLine),
+           {httpReply(lines({head, serverLine})), ServerLocator::Outcome::NotLocated},
+           {httpReply(lines({head, serverLine, std::string(70'000, ' '), versionLine})),
             ServerLocator::Outcome::NotLocated},
            {cut, ServerLocator::Outcome::NotLocated},
            {"nonsense", ServerLocator::Outcome::NotLocated},

@@ -16,7 +16,7 @@ constexpr char actionPrefix[] = "capeconnect:onlineCommunication:onlineCommunica
 /// place of the response.
 constexpr unsigned bodyLevel = 2;
 
-int send(::soap& context, const Exchange& exchange) {
+int sendRequest(::soap& context, const Exchange& exchange) {
   const std::string element = requestElement(exchange.operation);
   const std::string action =
       exchange.action ? exchange.action : actionPrefix + std::string(exchange.operation);
@@ -40,7 +40,7 @@ int httpVerdict(const ::soap& context) {
   return isError ? context.status : SOAP_OK;
 }
 
-int receive(::soap& context, const Exchange& exchange) {
+int receiveResponse(::soap& context, const Exchange& exchange) {
   if (readToBody(context)) return context.error;
   if (readRecord(context, responseElement(exchange.operation), exchange.response) == SOAP_OK) {
     return httpVerdict(context);
@@ -52,8 +52,8 @@ int receive(::soap& context, const Exchange& exchange) {
 }  // namespace
 
 int runExchange(::soap* context, const Exchange& exchange) {
-  int result = send(*context, exchange);
-  if (result == SOAP_OK) result = receive(*context, exchange);
+  int result = sendRequest(*context, exchange);
+  if (result == SOAP_OK) result = receiveResponse(*context, exchange);
   // Closing may report an error of its own; the first one is the one that tells.
   soap_closesock(context);
   return result;

@@ -1,6 +1,6 @@
 #include "gateway/protocol/serializer.h"
 
-#include <cstring>
+#include <algorithm>
 #include <optional>
 
 #include <stdsoap2.h>
@@ -113,7 +113,7 @@ bool takeBinary(::soap& context, const char* text, BinaryData& value) {
   if (!bytes) return false;
   auto* kept = static_cast<unsigned char*>(soap_malloc(&context, bytes->size() + 1));
   if (!kept) return false;
-  std::memcpy(kept, bytes->data(), bytes->size());
+  std::copy(bytes->begin(), bytes->end(), kept);
   value = {kept, static_cast<std::int32_t>(bytes->size())};
   return true;
 }

@@ -10,8 +10,8 @@ namespace {
 
 /// More than any answer of the gateway; what is longer comes from something else or means harm.
 constexpr ULONG64 longestReply = 32u << 20;
-/// Envelope, body, wrapper, field: a reply needs four levels, a fault's detail some more. Skipping unknown
-/// elements recurses once a level.
+/// Envelope, body, wrapper, field: a reply needs four levels, a fault some more. What is passed over may be
+/// nested to any depth, as the runtime skips it without recursion.
 constexpr unsigned deepestNesting = 64;
 
 }  // namespace

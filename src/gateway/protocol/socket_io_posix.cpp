@@ -103,7 +103,7 @@ int sendBytes(::soap* context, const char* bytes, size_t count) {
   const IoPatience& patience = patienceOf(context);
   while (count > 0) {
     if (!waitFor(context->socket, POLLOUT, silenceDeadline(patience), patience)) return SOAP_EOF;
-    const ssize_t sent = send(context->socket, bytes, count, MSG_NOSIGNAL);
+    const ssize_t sent = ::send(context->socket, bytes, count, MSG_NOSIGNAL);
     if (sent < 0 && (errno == EAGAIN || errno == EINTR)) continue;
     if (sent < 0) {
       context->errnum = errno;
@@ -121,7 +121,7 @@ size_t receiveBytes(::soap* context, char* buffer, size_t size) {
   const IoPatience& patience = patienceOf(context);
   const auto deadline = silenceDeadline(patience);
   while (waitFor(context->socket, POLLIN, deadline, patience)) {
-    const ssize_t received = recv(context->socket, buffer, size, 0);
+    const ssize_t received = ::recv(context->socket, buffer, size, 0);
     if (received >= 0) return static_cast<size_t>(received);
     if (errno == EAGAIN || errno == EINTR) continue;
     context->errnum = errno;
