@@ -21,7 +21,7 @@ class GatewayClient {
   GatewayClient& operator=(const GatewayClient&) = delete;
 
   /// From now on a raised `cancel` ends a running call within about 100 ms, with an error as its result
-  /// (a name look-up or a first wait inside the system excepted).
+  /// (a name look-up excepted).
   void watch(const CancelFlag& cancel);
 
   // One method per operation, in the contract's order: the request's fields, then the response. Each returns
