@@ -19,6 +19,7 @@ class RecipientsTest : public testing::Test {
   QStringList select(const std::vector<ContactRecord>& contacts,
                      RecipientNumber which = RecipientNumber::Phone) {
     std::vector<const ContactRecord*> pointers;
+    pointers.reserve(contacts.size());
     for (const ContactRecord& record : contacts) pointers.push_back(&record);
     return recipients_.select(pointers, which);
   }

@@ -24,6 +24,7 @@ std::vector<std::string> sorted(const std::vector<const char*>& dates) {
   }
   sortByStatusDate(entries);
   std::vector<std::string> result;
+  result.reserve(entries.size());
   for (const StatusEntry& entry : entries) result.push_back(entry.date.toStdString());
   return result;
 }
