@@ -14,6 +14,7 @@
 #include "messaging/core/messaging_texts.h"
 #include "messaging/screens/message_edit.h"
 #include "messaging/screens/recipients_panel.h"
+#include "ui/look.h"
 #include "ui/picture_button.h"
 
 namespace parlexo {
@@ -24,6 +25,7 @@ namespace {
 bool isRecounting = false;
 
 constexpr int counterCharacters = 5;
+constexpr int controlSpacing = 6;
 
 QString smsWord() {
   return QStringLiteral("SMS");
@@ -33,6 +35,9 @@ QLineEdit* readOnlyField(const QString& name, QWidget* parent) {
   auto* field = new QLineEdit(parent);
   field->setObjectName(name);
   field->setReadOnly(true);
+  QPalette palette = field->palette();
+  palette.setColor(QPalette::Base, look::listBackground);
+  field->setPalette(palette);
   return field;
 }
 
@@ -139,6 +144,7 @@ QLayout* CQuillonSMSDlg::messageColumn() {
   counters->addWidget(remaining_);
   counters->addStretch(1);
   auto* column = new QVBoxLayout;
+  column->setSpacing(controlSpacing);
   column->addWidget(labelFor(editor_, QStringLiteral("&Message")));
   column->addWidget(editor_, 1);
   column->addLayout(counters);
@@ -154,6 +160,7 @@ QLayout* CQuillonSMSDlg::choiceColumn() {
   templates->addWidget(buttonToCome(QStringLiteral("Save Template"), QStringLiteral("saveTemplateButton")));
   templates->addWidget(tip);
   auto* column = new QVBoxLayout;
+  column->setSpacing(controlSpacing);
   column->addWidget(choiceBox(QStringLiteral("Character set"), QStringLiteral("GroupEncoding"),
                               standardCharset_, unicodeCharset_));
   column->addWidget(

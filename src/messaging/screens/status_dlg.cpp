@@ -19,6 +19,7 @@
 #include <QVBoxLayout>
 
 #include "messaging/core/status_query_flow.h"
+#include "messaging/screens/row_delegate.h"
 #include "ui/list_style.h"
 #include "ui/picture_button.h"
 
@@ -26,6 +27,12 @@ namespace parlexo {
 namespace {
 
 constexpr std::array<int, StatusListModel::columns> columnWidths{120, 200, 100, 300};
+
+// What a date needs in the font of the list, which may be larger than the one that the widths were made for.
+int dateWidth(const QWidget& list) {
+  constexpr int cellMargins = 12;
+  return list.fontMetrics().horizontalAdvance(QStringLiteral("00/00/0000 00:00:00")) + cellMargins;
+}
 
 }  // namespace
 
@@ -73,12 +80,14 @@ void CStatusDlg::createList() {
   list_->setUniformRowHeights(true);
   list_->setAllColumnsShowFocus(true);
   list_->setSelectionMode(QAbstractItemView::ExtendedSelection);
+  list_->setItemDelegate(new RowDelegate(list_));
   styleList(*list_);
   QHeaderView& header = *list_->header();
   header.setSectionsMovable(true);
   header.setFirstSectionMovable(true);
   for (int column = 0; column < StatusListModel::columns; ++column)
     header.resizeSection(column, columnWidths[static_cast<std::size_t>(column)]);
+  header.resizeSection(0, std::max(columnWidths[0], dateWidth(*list_)));
   auto* copy = new QShortcut(QKeySequence(QKeySequence::Copy), list_);
   copy->setContext(Qt::WidgetShortcut);
   connect(copy, &QShortcut::activated, this, &CStatusDlg::copyRows);
