@@ -20,6 +20,11 @@
 
 namespace parlexo {
 
+/// What the user reads when the gateway was not reached.
+inline constexpr char unreachable[] =
+    "Could not connect to the Parlexo gateway server.\r\n\r\nPlease make sure you have internet "
+    "connectivity, your firewall allows gateway connection or try again later.";
+
 /// Everything that messaging works with: a gateway over a real connection to a simulator in the process, an
 /// account that is logged in, and a journal of what the user sees in which order.
 class GatewayRig {

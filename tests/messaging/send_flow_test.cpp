@@ -14,10 +14,6 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::SizeIs;
 
-const char* const unreachable =
-    "Could not connect to the Parlexo gateway server.\r\n\r\nPlease make sure you have internet "
-    "connectivity, your firewall allows gateway connection or try again later.";
-
 class SmsSending : public testing::Test, protected GatewayRig {
  protected:
   static SmsDraft draftTo(const QStringList& numbers) {

@@ -94,6 +94,10 @@ TEST_F(StatusFileTest, rejectedFilesLeaveTheLogEmptyAndSurviveBesideTheNextSave)
   const QByteArray good = "<Message Date=\"d\" Type=\"SMS\" Phone=\"+1\" Status=\"s\">R</Message>";
   QByteArray faultBehindTheLimit = "<Status>";
   for (int i = 0; i < 1100; ++i) faultBehindTheLimit += good;
+  const QByteArray entityBomb =
+      "<!DOCTYPE s [<!ENTITY a \"aaaaaaaaaa\"><!ENTITY b \"&a;&a;&a;&a;&a;&a;&a;&a;&a;&a;\">"
+      "<!ENTITY c \"&b;&b;&b;&b;&b;&b;&b;&b;&b;&b;\"><!ENTITY d \"&c;&c;&c;&c;&c;&c;&c;&c;&c;&c;\">]>"
+      "<Status><Message>&d;</Message></Status>";
   const QByteArray samples[] = {
       "",
       "no xml",
@@ -102,9 +106,7 @@ TEST_F(StatusFileTest, rejectedFilesLeaveTheLogEmptyAndSurviveBesideTheNextSave)
       "<Status><Message Status=\"say \"hi\"\">R</Message></Status>",
       "<Status>" + good + "</Status><Status/>",
       faultBehindTheLimit + "<Message></Status>",
-      "<!DOCTYPE s [<!ENTITY a \"aaaaaaaaaa\"><!ENTITY b \"&a;&a;&a;&a;&a;&a;&a;&a;&a;&a;\">"
-      "<!ENTITY c \"&b;&b;&b;&b;&b;&b;&b;&b;&b;&b;\"><!ENTITY d \"&c;&c;&c;&c;&c;&c;&c;&c;&c;&c;\">]>"
-      "<Status><Message>&d;</Message></Status>",
+      entityBomb,
   };
   for (const QByteArray& bytes : samples) {
     load(bytes);

@@ -13,10 +13,6 @@ using simulator::FaultKind;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-const char* const unreachable =
-    "Could not connect to the Parlexo gateway server.\r\n\r\nPlease make sure you have internet "
-    "connectivity, your firewall allows gateway connection or try again later.";
-
 // Three messages that are on their way, and nothing in the journal yet.
 class StatusQuery : public testing::Test, protected GatewayRig {
  protected:
