@@ -12,7 +12,7 @@ namespace parlexo {
 
 namespace {
 
-constexpr int rowPadding = 6;
+constexpr int tableRowPadding = 6;
 
 void styleHeader(QHeaderView& header) {
   header.setHighlightSections(false);
@@ -28,7 +28,7 @@ void styleTable(QTableView& table) {
   table.verticalHeader()->hide();
   table.verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
   table.verticalHeader()->setMinimumSectionSize(1);
-  table.verticalHeader()->setDefaultSectionSize(table.fontMetrics().height() + rowPadding);
+  table.verticalHeader()->setDefaultSectionSize(table.fontMetrics().height() + tableRowPadding);
   styleHeader(*table.horizontalHeader());
 }
 

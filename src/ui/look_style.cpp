@@ -15,7 +15,7 @@ namespace parlexo {
 
 namespace {
 
-constexpr int rowPadding = 4;  // pixels that a list's row is higher than its text
+constexpr int itemPadding = 4;  // pixels that a list's row is higher than its text
 constexpr int focusWidth = 2;  // pixels of the frame around the list or edit that has the keyboard
 
 void drawOutline(QPainter& painter, const QRectF& frame, qreal radius, const QColor& color, qreal width) {
@@ -124,7 +124,7 @@ QRect LookStyle::subControlRect(ComplexControl control, const QStyleOptionComple
 QSize LookStyle::sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& contents,
                                   const QWidget* widget) const {
   const QSize size = QProxyStyle::sizeFromContents(type, option, contents, widget);
-  return type == CT_ItemViewItem ? size + QSize(0, rowPadding) : size;
+  return type == CT_ItemViewItem ? size + QSize(0, itemPadding) : size;
 }
 
 int LookStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const {
