@@ -1,0 +1,59 @@
+// What the user of the send and status pages waits for: a keystroke or a paste being counted, 10,000
+// recipients taken over and halved, 10,000 entries put into the order of the status page.
+
+#include <vector>
+
+#include <benchmark/benchmark.h>
+
+#include "contacts/contact_record.h"
+#include "messaging/core/recipients.h"
+#include "messaging/core/sms_text.h"
+#include "messaging/core/status_order.h"
+
+namespace parlexo {
+namespace {
+
+void countText(benchmark::State& state, SmsCharset charset) {
+  const QString text(state.range(0), u'~');
+  for (auto _ : state) benchmark::DoNotOptimize(composeSms(text, charset));
+}
+BENCHMARK_CAPTURE(countText, standard, SmsCharset::Standard)->Arg(160)->Arg(760)->Arg(100'000);
+BENCHMARK_CAPTURE(countText, unicode, SmsCharset::Unicode)->Arg(70)->Arg(335)->Arg(100'000);
+
+void takeAndHalveRecipients(benchmark::State& state) {
+  std::vector<ContactRecord> contacts(static_cast<std::size_t>(state.range(0)));
+  std::vector<const ContactRecord*> selection;
+  std::vector<int> everySecond;
+  for (int i = 0; i < state.range(0); ++i) {
+    ContactRecord& contact = contacts[static_cast<std::size_t>(i)];
+    contact.name = QStringLiteral("Name %1").arg(i);
+    contact.phone = QStringLiteral("+%1").arg(100'000 + i);
+    selection.push_back(&contact);
+    if (i % 2 == 1) everySecond.push_back(i);
+  }
+  for (auto _ : state) {
+    Recipients recipients;
+    benchmark::DoNotOptimize(recipients.select(selection, RecipientNumber::Phone));
+    recipients.remove(everySecond);
+    benchmark::DoNotOptimize(recipients.numbersList());
+  }
+}
+BENCHMARK(takeAndHalveRecipients)->Arg(1'000)->Arg(10'000)->Unit(benchmark::kMillisecond);
+
+void orderStatusEntries(benchmark::State& state) {
+  std::vector<StatusEntry> entries;
+  for (int i = 0; i < state.range(0); ++i) {
+    StatusEntry entry;
+    entry.date = QStringLiteral("01/01/2026 10:00:%1").arg(i * 7 % 60, 2, 10, QChar(u'0'));
+    entries.push_back(entry);
+  }
+  for (auto _ : state) {
+    std::vector<StatusEntry> sorted = entries;
+    sortByStatusDate(sorted);
+    benchmark::DoNotOptimize(sorted);
+  }
+}
+BENCHMARK(orderStatusEntries)->Arg(1'000)->Arg(10'000)->Unit(benchmark::kMillisecond);
+
+}  // namespace
+}  // namespace parlexo
