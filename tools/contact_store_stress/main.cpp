@@ -1,0 +1,143 @@
+// contact-store-stress: many processes write, delete and read in one contact database and are killed at
+// random moments; afterwards the file is held against what each of them had been told.
+
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <csignal>
+#include <cstdio>
+#include <ctime>
+#include <map>
+#include <random>
+
+#include <QCommandLineParser>
+#include <QCoreApplication>
+#include <QDir>
+#include <QTemporaryDir>
+
+#include "tools/contact_store_stress/journal.h"
+#include "tools/contact_store_stress/verdict.h"
+#include "tools/contact_store_stress/worker.h"
+
+namespace {
+
+using namespace parlexo::stress;
+
+struct RunOptions {
+  int processes = 4;
+  int seconds = 5;
+  std::uint64_t seed = 1;
+  QString folder;
+};
+
+// Starts processes, kills one now and then and starts another in its place.
+class Arena {
+ public:
+  explicit Arena(const RunOptions& options)
+      : options_(options),
+        folder_(options.folder.toStdString()),
+        random_(options.seed),
+        until_(nowNanoseconds() + options.seconds * std::int64_t{1'000'000'000}) {}
+
+  void run() {
+    for (int i = 0; i < options_.processes; ++i) startWorker();
+    while (nowNanoseconds() < until_) {
+      const timespec moment = {0, static_cast<long>(random_() % 100'000'000)};
+      ::nanosleep(&moment, nullptr);
+      killSomebody();
+      startWorker();
+    }
+    for (const auto& [process, number] : workers_) ::waitpid(process, nullptr, 0);
+  }
+
+  [[nodiscard]] std::string database() const { return folder_ + "/All Contacts.all_grp"; }
+  [[nodiscard]] const std::vector<std::string>& journals() const { return journals_; }
+  [[nodiscard]] int killed() const { return killed_; }
+
+ private:
+  void startWorker() {
+    const int number = static_cast<int>(journals_.size());
+    journals_.push_back(folder_ + "/journal-" + std::to_string(number));
+    const WorkerTask task = {database(), journals_.back(), number, random_(), until_};
+    const pid_t process = ::fork();
+    if (process == 0) {
+      work(task);
+      std::_Exit(0);
+    }
+    if (process > 0) workers_[process] = number;
+  }
+
+  void killSomebody() {
+    if (workers_.empty()) return;
+    const auto chosen = std::next(workers_.begin(), static_cast<std::ptrdiff_t>(random_() % workers_.size()));
+    ::kill(chosen->first, SIGKILL);
+    int status = 0;
+    ::waitpid(chosen->first, &status, 0);
+    if (WIFSIGNALED(status)) ++killed_;
+    workers_.erase(chosen);
+  }
+
+  const RunOptions& options_;
+  std::string folder_;
+  std::mt19937_64 random_;
+  std::int64_t until_;
+  std::map<pid_t, int> workers_;
+  std::vector<std::string> journals_;
+  int killed_ = 0;
+};
+
+RunOptions parseOptions(const QCoreApplication& application) {
+  QCommandLineParser parser;
+  parser.setApplicationDescription(QStringLiteral(
+      "Lets processes work in one contact database, kills some, and checks that nothing promised was lost."));
+  parser.addHelpOption();
+  parser.addOptions({{QStringLiteral("processes"), QStringLiteral("How many work at the same time."),
+                      QStringLiteral("N"), QStringLiteral("4")},
+                     {QStringLiteral("seconds"), QStringLiteral("How long they work."), QStringLiteral("S"),
+                      QStringLiteral("5")},
+                     {QStringLiteral("seed"), QStringLiteral("Seed of what they choose and when they die."),
+                      QStringLiteral("K"), QStringLiteral("1")},
+                     {QStringLiteral("folder"),
+                      QStringLiteral("Where to work, and leave the files; a temporary folder without it."),
+                      QStringLiteral("DIR")}});
+  parser.process(application);
+  bool processesOk = false;
+  bool secondsOk = false;
+  bool seedOk = false;
+  RunOptions options = {parser.value(QStringLiteral("processes")).toInt(&processesOk),
+                        parser.value(QStringLiteral("seconds")).toInt(&secondsOk),
+                        parser.value(QStringLiteral("seed")).toULongLong(&seedOk),
+                        parser.value(QStringLiteral("folder"))};
+  if (!processesOk || !secondsOk || !seedOk || options.processes < 1 || options.seconds < 1) {
+    std::fputs("Processes, seconds and seed are whole numbers, the first two at least 1.\n", stderr);
+    std::exit(2);
+  }
+  return options;
+}
+
+int report(const Arena& arena) {
+  const Verdict verdict = judge(arena.database(), arena.journals());
+  for (const std::string& problem : verdict.problems) std::printf("PROBLEM %s\n", problem.c_str());
+  std::printf(
+      "%zu processes, %d killed; %zu operations: %zu acknowledged, %zu not; %zu records; %zu problem(s)\n",
+      arena.journals().size(), arena.killed(), verdict.operations, verdict.acknowledged, verdict.interrupted,
+      verdict.records, verdict.problems.size());
+  return verdict.problems.empty() && verdict.acknowledged > 0 ? 0 : 1;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  const QCoreApplication application(argc, argv);
+  RunOptions options = parseOptions(application);
+  const QTemporaryDir temporary;
+  if (options.folder.isEmpty()) options.folder = temporary.path();
+  if (!QDir().mkpath(options.folder) || !QDir(options.folder).isEmpty()) {
+    std::fprintf(stderr, "%s can't be made or is not empty.\n", qUtf8Printable(options.folder));
+    return 2;
+  }
+  Arena arena(options);
+  arena.run();
+  return report(arena);
+}

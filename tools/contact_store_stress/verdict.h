@@ -1,0 +1,24 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "tools/contact_store_stress/journal.h"
+
+namespace parlexo::stress {
+
+/// What a run came to.
+struct Verdict {
+  std::size_t operations = 0;
+  std::size_t acknowledged = 0;
+  std::size_t interrupted = 0;  ///< begun, with no word of how they ended
+  std::size_t records = 0;      ///< in the file, deleted ones included
+  std::vector<std::string> problems;
+};
+
+/// Holds the database file against the journals of all processes. For every key the file must show the
+/// outcome of an operation that no acknowledged one followed: nothing that was promised may be missing,
+/// nothing undone, nothing torn, and no key there twice.
+[[nodiscard]] Verdict judge(const std::string& database, const std::vector<std::string>& journals);
+
+}  // namespace parlexo::stress
