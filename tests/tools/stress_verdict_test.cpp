@@ -1,0 +1,101 @@
+// The stress program is only worth something if it finds a store that breaks its promises.
+
+#include <fstream>
+
+#include <QTemporaryDir>
+#include <gmock/gmock.h>
+
+#include "contacts/contact_file_format.h"
+#include "tools/contact_store_stress/verdict.h"
+#include "tools/contact_store_stress/worker.h"
+
+namespace parlexo::stress {
+namespace {
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+
+constexpr char inUse = 1;
+constexpr char deleted = 0;
+
+class StressVerdict : public testing::Test {
+ protected:
+  void stored(const std::string& key, const std::string& value, char state = inUse) {
+    std::string record = recordFor(key, value);
+    record[0] = state;
+    file_ += record;
+  }
+
+  std::vector<std::string> problems(const std::string& journal) {
+    write("journal", journal);
+    write("database", file_);
+    return judge(pathOf("database"), {pathOf("journal")}).problems;
+  }
+
+  std::string file_;
+
+ private:
+  std::string pathOf(const std::string& name) {
+    return folder_.filePath(QString::fromStdString(name)).toStdString();
+  }
+  void write(const std::string& name, const std::string& bytes) {
+    std::ofstream(pathOf(name), std::ios::binary) << bytes;
+  }
+
+  QTemporaryDir folder_;
+};
+
+// Ann is written from 10 to 20 and again from 30 to 40.
+const std::string twoWrites = "begin\tw\t10\tAnn\tfirst\ndone\t20\nbegin\tw\t30\tAnn\tsecond\ndone\t40\n";
+
+TEST_F(StressVerdict, lastAcknowledgedValueIsExpected) {
+  stored("Ann", "second");
+  EXPECT_THAT(problems(twoWrites), IsEmpty());
+}
+
+TEST_F(StressVerdict, lostAndOutdatedWritesAreFound) {
+  EXPECT_THAT(problems(twoWrites), ElementsAre(HasSubstr("Ann: shows \"(deleted)\"")));
+  stored("Ann", "first");
+  EXPECT_THAT(problems(twoWrites), ElementsAre(HasSubstr("Ann: shows \"first\"")));
+}
+
+TEST_F(StressVerdict, operationCutOffByAKillMayHaveHappenedOrNot) {
+  const std::string cutOff = twoWrites + "begin\td\t50\tAnn\t\n";
+  stored("Ann", "second", deleted);
+  EXPECT_THAT(problems(cutOff), IsEmpty());
+  file_.clear();
+  stored("Ann", "second");
+  EXPECT_THAT(problems(cutOff), IsEmpty());
+  EXPECT_THAT(problems(cutOff + "done\t60\n"), ElementsAre(HasSubstr("shows \"second\"")));
+}
+
+TEST_F(StressVerdict, overlappingOperationsMayEndInEitherOrder) {
+  const std::string overlapping = "begin\tw\t10\tAnn\tfirst\ndone\t35\nbegin\tw\t30\tAnn\tsecond\ndone\t40\n";
+  stored("Ann", "first");
+  EXPECT_THAT(problems(overlapping), IsEmpty());
+}
+
+TEST_F(StressVerdict, damagedFileIsFound) {
+  stored("Ann", "second");
+  stored("Ann", "second");
+  EXPECT_THAT(problems(twoWrites), ElementsAre(HasSubstr("is there twice")));
+
+  file_.clear();
+  stored("Ann", "second");
+  file_[300] ^= 1;
+  EXPECT_THAT(problems(twoWrites), ElementsAre(HasSubstr("torn or mixed up")));
+
+  file_.clear();
+  stored("Ann", "second");
+  file_ += "x";
+  EXPECT_THAT(problems(twoWrites), ElementsAre(HasSubstr("ends within a record")));
+
+  file_.clear();
+  stored("Ann", "second");
+  stored("Bob", "from nowhere");
+  EXPECT_THAT(problems(twoWrites), ElementsAre(HasSubstr("Bob: nobody wrote this")));
+}
+
+}  // namespace
+}  // namespace parlexo::stress
