@@ -167,6 +167,11 @@ TEST(Response, thatIsNoAnswerFailsAndLeavesTheRecordCleared) {
        envelope(statusElement("<nErrorCode>0</nErrorCode><sStatus href=\"#id0\"/>"))},
       {"reference to itself",
        envelope(statusElement("<nErrorCode id=\"a\" href=\"#a\"/><sStatus>Sent</sStatus>"))},
+      {"end tag of another field", envelope(statusElement("<nErrorCode>0</sStatus><sStatus>Sent</sStatus>"))},
+      {"end tag of another element",
+       envelope("<m:getStatusResponse><nErrorCode>0</nErrorCode></m:sendSmsResponse>")},
+      {"unknown element with the wrong end tag",
+       envelope(statusElement("<nErrorCode>0</nErrorCode><a>1</b>"))},
       {"unknown entity", envelope(statusElement("<nErrorCode>&seven;</nErrorCode>"))},
       {"no SOAP envelope",
        "<x xmlns:m=\"http://www.parlexo.example/onlineCommunication/binding\">" + good + "</x>"},
@@ -175,8 +180,8 @@ TEST(Response, thatIsNoAnswerFailsAndLeavesTheRecordCleared) {
     expectFailure(httpReply(body), what);
     expectFailure(httpReply(body, "500 Internal Server Error"), what);
   }
-  for (const char* status :
-       {"301 Moved", "400 Bad Request", "404 Not Found", "500 Internal Server Error", "503 Busy"}) {
+  for (const char* status : {"301 Moved", "400 Bad Request", "404 Not Found", "500 Internal Server Error",
+                             "503 Busy", "600 Odd", "199 Odd"}) {
     expectFailure(httpReply(envelope(good), status), status);
     expectFailure(httpReply("<html/>", status), status);
   }

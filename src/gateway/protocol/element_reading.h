@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string>
+
 #include <stdsoap2.h>
 
 namespace parlexo::protocol {
@@ -11,16 +13,27 @@ namespace parlexo::protocol {
 /// The number under which the runtime knows text.
 inline constexpr int textType = 1;
 
-/// Reads the element `tag`, or any where it is null, as text. An element that is nil gives null; one that is
-/// a reference is filled in when the runtime meets what it points to, at the latest at the message's end.
+/// The runtime counts end tags but, in its default mode, does not look at their names. `name` is the element
+/// that has just been read to its end; the context still holds the name in its end tag.
+[[nodiscard]] inline int checkEndTag(::soap& context, const std::string& name) {
+  return context.tag == name ? SOAP_OK : context.error = SOAP_SYNTAX_ERROR;
+}
+
+/// Reads the element at hand, which must be `tag` unless that is null, as text. An element that is nil gives
+/// null; one that is a reference is filled in when the runtime meets what it points to, at the latest at the
+/// message's end.
 [[nodiscard]] inline int readText(::soap& context, const char* tag, char** text) {
-  return soap_instring(&context, tag, text, "", textType, 1, 0, -1, nullptr) ? SOAP_OK : context.error;
+  const std::string name = context.tag;
+  if (!soap_instring(&context, tag, text, "", textType, 1, 0, -1, nullptr)) return context.error;
+  return checkEndTag(context, name);
 }
 
 /// Passes over the element at hand and all that is in it.
 [[nodiscard]] inline int skipElement(::soap& context) {
+  const std::string name = context.tag;
   if (soap_element_begin_in(&context, nullptr, 1, nullptr)) return context.error;
-  return context.body ? soap_element_end_in(&context, nullptr) : SOAP_OK;
+  if (!context.body) return SOAP_OK;
+  return soap_element_end_in(&context, nullptr) ? context.error : checkEndTag(context, name);
 }
 
 /// Lets `readChild` read every element up to the end of the one around them.
@@ -38,8 +51,9 @@ template <class ReadChild>
 [[nodiscard]] int readElement(::soap& context, const char* tag, ReadChild readChild) {
   if (soap_element_begin_in(&context, tag, 0, nullptr)) return context.error;
   if (!context.body) return SOAP_OK;
+  const std::string name = context.tag;
   if (readSiblings(context, readChild)) return context.error;
-  return soap_element_end_in(&context, tag);
+  return soap_element_end_in(&context, tag) ? context.error : checkEndTag(context, name);
 }
 
 }  // namespace parlexo::protocol
