@@ -1,5 +1,7 @@
 #include "app/core/balance_check.h"
 
+#include <ostream>
+
 #include <gmock/gmock.h>
 
 #include "app/core/login_flow.h"
@@ -33,6 +35,10 @@ struct Amount {
   Journal told;
   bool isZero;
 };
+
+void PrintTo(const Amount& amount, std::ostream* out) {
+  *out << amount.balance;
+}
 
 class BalanceAmount : public BalanceCheckTest, public testing::WithParamInterface<Amount> {};
 

@@ -1,5 +1,8 @@
 #include "app/core/command_line.h"
 
+#include <ostream>
+#include <string>
+
 #include <QDir>
 #include <gtest/gtest.h>
 
@@ -8,12 +11,22 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
+std::string joined(const QStringList& arguments) {
+  if (arguments.isEmpty()) return "no arguments";
+  const std::string text = arguments.join(u' ').toStdString();
+  return text.empty() ? "an empty argument" : text;
+}
+
 struct Accepted {
   QStringList arguments;
   bool demo;
   QString site;
   QString dataDir;
 };
+
+void PrintTo(const Accepted& accepted, std::ostream* out) {
+  *out << joined(accepted.arguments);
+}
 
 class AcceptedCommandLine : public testing::TestWithParam<Accepted> {};
 
@@ -51,6 +64,10 @@ struct Ending {
   int exitCode;
   QString mentions;
 };
+
+void PrintTo(const Ending& ending, std::ostream* out) {
+  *out << joined(ending.arguments);
+}
 
 class EndingCommandLine : public testing::TestWithParam<Ending> {};
 

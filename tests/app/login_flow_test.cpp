@@ -1,5 +1,7 @@
 #include "app/core/login_flow.h"
 
+#include <ostream>
+
 #include <gmock/gmock.h>
 
 #include "tests/app/run_fakes.h"
@@ -62,6 +64,10 @@ struct Refusal {
   QString message;
 };
 
+void PrintTo(const Refusal& refusal, std::ostream* out) {
+  *out << refusal.name;
+}
+
 class LoginRefusal : public LoginFlowTest, public testing::WithParamInterface<Refusal> {};
 
 TEST_P(LoginRefusal, isShownAndStoresNothing) {
@@ -79,15 +85,15 @@ const QString unreachable =
 INSTANTIATE_TEST_SUITE_P(
     Faults, LoginRefusal,
     testing::Values(
-        Refusal{"wrongPassword", FaultKind::Code, 4,
+        Refusal{"wrong password", FaultKind::Code, 4,
                 u"Invalid Username or Password. Passwords are case sensitive"_qs},
-        Refusal{"code12", FaultKind::Code, 12, u"An error occured while logging on. Error code: 12"_qs},
-        Refusal{"code7", FaultKind::Code, 7, u"An error occured while logging on. Error code: 7"_qs},
-        Refusal{"negative", FaultKind::Code, -1, u"An error occured while logging on. Error code: -1"_qs},
+        Refusal{"code 12", FaultKind::Code, 12, u"An error occured while logging on. Error code: 12"_qs},
+        Refusal{"code 7", FaultKind::Code, 7, u"An error occured while logging on. Error code: 7"_qs},
+        Refusal{"negative code", FaultKind::Code, -1,
+                u"An error occured while logging on. Error code: -1"_qs},
         Refusal{"cut", FaultKind::Cut, 0, unreachable}, Refusal{"closed", FaultKind::Close, 0, unreachable},
-        Refusal{"httpError", FaultKind::HttpError, 0, unreachable},
-        Refusal{"fault", FaultKind::SoapFault, 0, unreachable}),
-    [](const auto& tested) { return tested.param.name; });
+        Refusal{"HTTP error", FaultKind::HttpError, 0, unreachable},
+        Refusal{"fault", FaultKind::SoapFault, 0, unreachable}));
 
 }  // namespace
 }  // namespace parlexo

@@ -1,4 +1,5 @@
 #include <functional>
+#include <ostream>
 
 #include <QAbstractButton>
 #include <QCheckBox>
@@ -47,12 +48,17 @@ class NotificationTest : public testing::Test {
 };
 
 struct Buttons {
+  const char* what;
   unsigned style;
   std::vector<MessageResult> offered;
   QStringList texts;
   MessageResult onEscape;
   MessageResult whenSuppressed;
 };
+
+void PrintTo(const Buttons& buttons, std::ostream* out) {
+  *out << buttons.what;
+}
 
 class NotificationButtons : public NotificationTest, public testing::WithParamInterface<Buttons> {};
 
@@ -93,16 +99,26 @@ constexpr auto No = MessageResult::No;
 
 INSTANTIATE_TEST_SUITE_P(
     Styles, NotificationButtons,
-    testing::Values(
-        Buttons{message_style::ok | message_style::stop, {Ok}, {u"&OK"_qs}, Ok, Ok},
-        Buttons{message_style::yesNo | message_style::question, {Yes, No}, {u"&Yes"_qs, u"&No"_qs}, No, Ok},
-        Buttons{message_style::yesNoCancel | message_style::exclamation,
-                {Yes, No, Cancel},
-                {u"&Yes"_qs, u"&No"_qs, u"&Cancel"_qs},
-                Cancel,
-                No},
-        Buttons{message_style::okCancel, {}, {}, Ok, No},
-        Buttons{message_style::abortRetryIgnore | message_style::information, {}, {}, Ok, No}));
+    testing::Values(Buttons{"OK", message_style::ok | message_style::stop, {Ok}, {u"&OK"_qs}, Ok, Ok},
+                    Buttons{"Yes and No",
+                            message_style::yesNo | message_style::question,
+                            {Yes, No},
+                            {u"&Yes"_qs, u"&No"_qs},
+                            No,
+                            Ok},
+                    Buttons{"Yes, No and Cancel",
+                            message_style::yesNoCancel | message_style::exclamation,
+                            {Yes, No, Cancel},
+                            {u"&Yes"_qs, u"&No"_qs, u"&Cancel"_qs},
+                            Cancel,
+                            No},
+                    Buttons{"OK and Cancel", message_style::okCancel, {}, {}, Ok, No},
+                    Buttons{"Abort, Retry and Ignore",
+                            message_style::abortRetryIgnore | message_style::information,
+                            {},
+                            {},
+                            Ok,
+                            No}));
 
 TEST_F(NotificationTest, tickedBoxIsRememberedForThatMessageAlone) {
   const auto tickAndClose = [](auto& dialog) {

@@ -1,5 +1,7 @@
 #include "app/core/start_up.h"
 
+#include <ostream>
+
 #include <QDir>
 #include <gmock/gmock.h>
 
@@ -70,6 +72,10 @@ struct Obstacle {
   Journal after;  // what follows the loading
 };
 
+void PrintTo(const Obstacle& obstacle, std::ostream* out) {
+  *out << obstacle.name;
+}
+
 class StartUpObstacle : public StartUpTest, public testing::WithParamInterface<Obstacle> {};
 
 TEST_P(StartUpObstacle, isToldToTheUser) {
@@ -90,21 +96,22 @@ Journal otherClient(const QString& version) {
 
 INSTANTIATE_TEST_SUITE_P(
     Faults, StartUpObstacle,
-    testing::Values(Obstacle{"locatorMalformed", FaultKind::BadLocator, u"locator"_qs, 0, {}, noLocation},
-                    Obstacle{"locatorHttpError", FaultKind::HttpError, u"locator"_qs, 0, {}, noLocation},
-                    Obstacle{"locatorCut", FaultKind::Cut, u"locator"_qs, 0, {}, noLocation},
-                    Obstacle{"versionClosed", FaultKind::Close, u"getVersion"_qs, 0, {}, noGateway},
-                    Obstacle{"versionCut", FaultKind::Cut, u"getVersion"_qs, 0, {}, noGateway},
-                    Obstacle{"versionHttpError", FaultKind::HttpError, u"getVersion"_qs, 0, {}, noGateway},
-                    Obstacle{"versionNotXml", FaultKind::NotXml, u"getVersion"_qs, 0, {}, noGateway},
-                    Obstacle{"versionFault", FaultKind::SoapFault, u"getVersion"_qs, 0, u"no"_qs, noGateway},
-                    Obstacle{"protocolOlder", FaultKind::Version, u"getVersion"_qs, 102, {}, wrongProtocol},
-                    Obstacle{"protocolNewer", FaultKind::Version, u"getVersion"_qs, 104, {}, wrongProtocol},
-                    Obstacle{"clientOlder", FaultKind::ClientVersion, u"locator"_qs, 0, u"2.23"_qs,
-                             otherClient(u"2.23"_qs)},
-                    Obstacle{"clientNewer", FaultKind::ClientVersion, u"locator"_qs, 0, u"2.240"_qs,
-                             otherClient(u"2.240"_qs)}),
-    [](const auto& tested) { return tested.param.name; });
+    testing::Values(
+        Obstacle{"malformed locator", FaultKind::BadLocator, u"locator"_qs, 0, {}, noLocation},
+        Obstacle{"HTTP error of the locator", FaultKind::HttpError, u"locator"_qs, 0, {}, noLocation},
+        Obstacle{"cut locator", FaultKind::Cut, u"locator"_qs, 0, {}, noLocation},
+        Obstacle{"version query closed", FaultKind::Close, u"getVersion"_qs, 0, {}, noGateway},
+        Obstacle{"cut version", FaultKind::Cut, u"getVersion"_qs, 0, {}, noGateway},
+        Obstacle{"HTTP error of the version query", FaultKind::HttpError, u"getVersion"_qs, 0, {}, noGateway},
+        Obstacle{"version that is not XML", FaultKind::NotXml, u"getVersion"_qs, 0, {}, noGateway},
+        Obstacle{"fault of the version query", FaultKind::SoapFault, u"getVersion"_qs, 0, u"no"_qs,
+                 noGateway},
+        Obstacle{"older protocol", FaultKind::Version, u"getVersion"_qs, 102, {}, wrongProtocol},
+        Obstacle{"newer protocol", FaultKind::Version, u"getVersion"_qs, 104, {}, wrongProtocol},
+        Obstacle{"older client", FaultKind::ClientVersion, u"locator"_qs, 0, u"2.23"_qs,
+                 otherClient(u"2.23"_qs)},
+        Obstacle{"newer client", FaultKind::ClientVersion, u"locator"_qs, 0, u"2.240"_qs,
+                 otherClient(u"2.240"_qs)}));
 
 TEST_F(StartUpTest, siteThatRefusesConnectionsIsToldToTheUser) {
   simulator.stop();

@@ -1,5 +1,7 @@
 #include "base/message_texts.h"
 
+#include <ostream>
+
 #include <gtest/gtest.h>
 
 #include "base/product.h"
@@ -40,6 +42,10 @@ struct Placeholder {
   int number;
   QString result;
 };
+
+void PrintTo(const Placeholder& placeholder, std::ostream* out) {
+  *out << placeholder.pattern.toStdString() << " with " << placeholder.number;
+}
 
 class WithNumber : public testing::TestWithParam<Placeholder> {};
 
