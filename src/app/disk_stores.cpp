@@ -21,6 +21,7 @@ void DiskStores::loadStatusLog() {
 
 void DiskStores::releaseContacts() {
   addressBook_.clear();
+  database_.dropAllItemIndexes();
 }
 
 void DiskStores::saveStatusLog() {
