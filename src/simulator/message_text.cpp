@@ -61,10 +61,6 @@ MessageText readMessageText(const QByteArray& raw) {
   return {fromCodePage(raw), false, units, partsFor(units, standardSizes)};
 }
 
-bool fitsOneMessage(const MessageText& text) {
-  return text.parts <= mostParts;
-}
-
 QString forLog(const QString& text) {
   QString line;
   line.reserve(text.size());

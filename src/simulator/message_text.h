@@ -20,9 +20,6 @@ struct MessageText {
 /// Most SMS that one message may take.
 inline constexpr int mostParts = 5;
 
-/// True when `text` fits into the SMS that one message may take.
-[[nodiscard]] bool fitsOneMessage(const MessageText& text);
-
 /// `text` for a log: lines joined by "⏎", other control characters as "\x1B".
 [[nodiscard]] QString forLog(const QString& text);
 
