@@ -7,6 +7,7 @@
 #include <unistd.h>
 
 #include <array>
+#include <chrono>
 #include <cstdlib>
 #include <utility>
 
@@ -101,10 +102,27 @@ void FakeGateway::answer(int connection) {
     const std::lock_guard lock(mutex_);
     return answer_;
   }();
-  for (std::size_t sent = 0; sent < answer.size();) {
-    const ssize_t count = send(connection, answer.data() + sent, answer.size() - sent, MSG_NOSIGNAL);
-    if (count <= 0) return;
-    sent += static_cast<std::size_t>(count);
+  if (manner_ == Manner::Drops) return sendInDrops(connection, answer);
+  if (!sendAll(connection, answer)) return;
+  const std::string blanks(65536, ' ');
+  while (manner_ == Manner::Endless && !isStopping_ && sendAll(connection, blanks)) {
+  }
+}
+
+bool FakeGateway::sendAll(int connection, std::string_view bytes) {
+  while (!bytes.empty()) {
+    const ssize_t count = send(connection, bytes.data(), bytes.size(), MSG_NOSIGNAL);
+    if (count <= 0) return false;
+    bytesSent_ += static_cast<std::size_t>(count);
+    bytes.remove_prefix(static_cast<std::size_t>(count));
+  }
+  return true;
+}
+
+void FakeGateway::sendInDrops(int connection, std::string_view bytes) {
+  for (std::size_t at = 0; at < bytes.size() && !isStopping_; ++at) {
+    if (!sendAll(connection, bytes.substr(at, 1))) return;
+    std::this_thread::sleep_for(std::chrono::milliseconds(20));
   }
 }
 

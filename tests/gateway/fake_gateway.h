@@ -3,16 +3,18 @@
 #include <atomic>
 #include <mutex>
 #include <string>
+#include <string_view>
 #include <thread>
 
 namespace parlexo::testing {
 
 /// A server on a loopback port that takes one connection after the other, reads one whole request from each
 /// and answers it with fixed bytes, whatever they are, before it closes. With `Silent` it reads and then
-/// keeps the connection open without a word.
+/// keeps the connection open without a word; with `Endless` it sends blanks behind the answer for as long as
+/// they are taken, with `Drops` it sends the answer a byte every 20 ms.
 class FakeGateway {
  public:
-  enum class Manner { Answers, Silent };
+  enum class Manner { Answers, Silent, Endless, Drops };
 
   explicit FakeGateway(std::string answer, Manner manner = Manner::Answers);
   ~FakeGateway();
@@ -26,12 +28,16 @@ class FakeGateway {
   void setAnswer(std::string answer);
   /// Requests read so far.
   [[nodiscard]] int requestCount() const { return requestCount_; }
+  /// Bytes of answers that the system has taken so far.
+  [[nodiscard]] std::size_t bytesSent() const { return bytesSent_; }
   /// Ends the server and returns the bytes of the last request.
   [[nodiscard]] std::string lastRequest();
 
  private:
   void serve();
   void answer(int connection);
+  [[nodiscard]] bool sendAll(int connection, std::string_view bytes);
+  void sendInDrops(int connection, std::string_view bytes);
   void stop();
 
   std::mutex mutex_;
@@ -41,6 +47,7 @@ class FakeGateway {
   int port_ = 0;
   std::atomic<bool> isStopping_ = false;
   std::atomic<int> requestCount_ = 0;
+  std::atomic<std::size_t> bytesSent_ = 0;
   std::string request_;
   std::thread thread_;
 };

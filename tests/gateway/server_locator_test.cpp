@@ -4,140 +4,79 @@
 #include <string>
 #include <vector>
 
-#include <QCoreApplication>
+#include <QHostAddress>
+#include <QStringList>
+#include <QTcpServer>
+#include <QTcpSocket>
+#include <QTimer>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "gateway/core/locator_document.h"
 #include "tests/gateway/fake_gateway.h"
+#include "tests/gateway/locator_text.h"
 
 namespace parlexo {
 namespace {
 
 using namespace std::chrono_literals;
 using testing::FakeGateway;
+using namespace Qt::StringLiterals;
 using ::testing::HasSubstr;
 using testing::httpReply;
-
-const std::string serverLine =
-    R"(<server ip="10.0.0.7" port="8080" maxfilesize="2097152" maxfilesizemobile="51200">)";
-const std::string versionLine = R"(<version product="client" version="2.24"/>)";
-const std::string head = "<?xml version=\"1.0\"?>";
-
-std::string lines(const std::vector<std::string>& each, const char* end = "\n") {
-  std::string text;
-  for (const std::string& line : each) text.append(line).append(end);
-  return text;
-}
-
-const std::string document = lines({head, serverLine, versionLine, "</server>"});
-
-TEST(LocatorDocument, tellsTheFiveValuesAndTheEndpoint) {
-  for (const std::string& each : std::vector<std::string>{
-           document,
-           lines({head, " \t" + serverLine + " ", "<!-- more -->", "", "  " + versionLine}, "\r\n"),
-           lines({"", serverLine, "<version product=\"server\" version=\"9\">", versionLine}),
-           lines({"anything", serverLine, versionLine, "<version product=\"client\" version=\"9\"/>"}),
-           document.substr(0, document.find("/>")),
-       }) {
-    const auto location = parseLocatorDocument(QByteArray::fromStdString(each));
-    ASSERT_TRUE(location) << each;
-    EXPECT_EQ(location->host, "10.0.0.7");
-    EXPECT_EQ(location->port, 8080);
-    EXPECT_EQ(location->maxFileSize, 2097152);
-    EXPECT_EQ(location->maxFileSizeMobile, 51200);
-    EXPECT_EQ(location->latestClientVersion, "2.24");
-    EXPECT_EQ(location->endpoint, "http://10.0.0.7:8080/ccx/onlineCommunication");
-  }
-}
-
-TEST(LocatorDocument, readsNumbersAsFarAsTheyGo) {
-  struct Case {
-    const char* port;
-    int read;
-  };
-  for (const Case& each :
-       {Case{"abc", 0}, {" 81x", 81}, {"-1", -1}, {"+9", 9}, {"0x10", 0}, {"99999999999", 2147483647}}) {
-    const std::string server =
-        std::string("<server ip=\"h\" port=\"") + each.port + "\" maxfilesize=\"1\" maxfilesizemobile=\"2\">";
-    const auto location = parseLocatorDocument(QByteArray::fromStdString(lines({head, server, versionLine})));
-    ASSERT_TRUE(location) << each.port;
-    EXPECT_EQ(location->port, each.read) << each.port;
-    EXPECT_EQ(location->endpoint, QStringLiteral("http://h:%1/ccx/onlineCommunication").arg(each.read));
-  }
-}
-
-TEST(LocatorDocument, ofAnotherFormTellsNothing) {
-  struct Case {
-    const char* what;
-    std::vector<std::string> document;
-  };
-  for (const Case& each : std::vector<Case>{
-           {"nothing", {}},
-           {"one empty line", {""}},
-           {"one line", {head}},
-           {"server on line 1", {serverLine, versionLine}},
-           {"server on line 3", {head, "", serverLine, versionLine}},
-           {"version first", {head, versionLine, serverLine}},
-           {"no version", {head, serverLine}},
-           {"version on the server's line", {head, serverLine + versionLine}},
-           {"another product", {head, serverLine, R"(<version product="server" version="1">)"}},
-           {"text before the version", {head, serverLine, "x" + versionLine}},
-           {"attribute between", {head, serverLine, R"(<version product="client" build="1" version="2">)"}},
-           {"empty version", {head, serverLine, R"(<version product="client" version="">)"}},
-           {"cut version", {head, serverLine, R"(<version product="client" version="2.2)"}},
-           {"the first one counts", {head, serverLine, R"(<version product="client" >)", versionLine}},
-           {"extra attribute",
-            {head, R"(<server ip="h" port="1" name="x" maxfilesize="1" maxfilesizemobile="2">)",
-             versionLine}},
-           {"other order",
-            {head, R"(<server port="1" ip="h" maxfilesize="1" maxfilesizemobile="2">)", versionLine}},
-           {"empty host",
-            {head, R"(<server ip="" port="1" maxfilesize="1" maxfilesizemobile="2">)", versionLine}},
-           {"other quotes",
-            {head, "<server ip='h' port='1' maxfilesize='1' maxfilesizemobile='2'>", versionLine}},
-           {"other case",
-            {head, R"(<Server ip="h" port="1" maxfilesize="1" maxfilesizemobile="2">)", versionLine}},
-           {"three attributes", {head, R"(<server ip="h" port="1" maxfilesize="1">)", versionLine}},
-       }) {
-    EXPECT_FALSE(parseLocatorDocument(QByteArray::fromStdString(lines(each.document)))) << each.what;
-  }
-}
+using testing::lines;
+using testing::locatorText;
+using testing::serverLine;
+using ::testing::UnorderedElementsAre;
+using testing::versionLine;
+using testing::xmlHead;
 
 LocatorLimits quickLimits() {
-  return {.transfer = 1s, .retryDelay = 50ms, .documentBytes = 64 * 1024};
+  return {.transfer = 1s, .retryDelay = 50ms, .documentBytes = 64 * 1024, .whole = 1500ms};
 }
 
 ServerLocator::Outcome locate(const std::string& site, RunState& state) {
   return ServerLocator(QUrl(QString::fromStdString(site)), quickLimits()).locate(state);
 }
 
-TEST(ServerLocator, fetchesTheDocumentWithItsHeaders) {
-  FakeGateway site(httpReply(document));
+/// The lines of a request's head, without the language, which is that of the machine.
+QStringList headOf(const std::string& request) {
+  QStringList lines = QString::fromStdString(request).split(QStringLiteral("\r\n"), Qt::SkipEmptyParts);
+  lines.removeIf([](const QString& line) { return line.startsWith(u"Accept-Language: "); });
+  return lines;
+}
+
+TEST(ServerLocator, sendsItsTwoHeadersAndNothingOfTheUser) {
+  FakeGateway site(httpReply(locatorText));
   RunState state;
+  state.proxy.user = QStringLiteral("proxy user without a proxy");
+  state.proxy.password = QStringLiteral("secret");
   EXPECT_EQ(locate(site.base(), state), ServerLocator::Outcome::Located);
   EXPECT_EQ(state.gateway.host, "10.0.0.7");
-  const std::string request = site.lastRequest();
-  EXPECT_EQ(request.find("GET /WSDLServerLocator.xml HTTP/1.1\r\n"), 0u) << request;
-  EXPECT_THAT(request, HasSubstr("\r\nAccept: text/plain, text/html, text/htm, text/xml\r\n"));
-  EXPECT_THAT(request, HasSubstr("\r\nUser-Agent: Parlexo/1.0\r\n"));
+  const QString host = QStringLiteral("Host: 127.0.0.1:%1").arg(site.port());
+  EXPECT_THAT(headOf(site.lastRequest()),
+              UnorderedElementsAre(u"GET /WSDLServerLocator.xml HTTP/1.1"_qs, host,
+                                   u"Accept: text/plain, text/html, text/htm, text/xml"_qs,
+                                   u"User-Agent: Parlexo/1.0"_qs, u"Accept-Encoding: identity"_qs,
+                                   u"Connection: Keep-Alive"_qs, u"Cache-Control: no-cache"_qs,
+                                   u"Pragma: no-cache"_qs));
 }
 
 TEST(ServerLocator, otherAnswersLocateNothingAndKeepNothing) {
-  const std::string cut = httpReply(document).substr(0, httpReply(document).size() - 5);
+  const std::string cut = httpReply(locatorText).substr(0, httpReply(locatorText).size() - 5);
   struct Case {
     std::string reply;
     ServerLocator::Outcome outcome;
   };
   for (const Case& each : std::vector<Case>{
-           {httpReply(document, "404 Not Found"), ServerLocator::Outcome::NotLocated},
-           {httpReply(document, "500 Internal Server Error"), ServerLocator::Outcome::NotLocated},
-           {httpReply(document, "201 Created"), ServerLocator::Outcome::NotLocated},
+           {httpReply(locatorText, "404 Not Found"), ServerLocator::Outcome::NotLocated},
+           {httpReply(locatorText, "500 Internal Server Error"), ServerLocator::Outcome::NotLocated},
+           {httpReply(locatorText, "201 Created"), ServerLocator::Outcome::NotLocated},
            {"HTTP/1.1 302 Found\r\nLocation: /WSDLServerLocator.xml\r\nContent-Length: 0\r\n\r\n",
             ServerLocator::Outcome::NotLocated},
-           {httpReply(document, "407 Proxy Authentication Required"), ServerLocator::Outcome::ProxyRefusal},
-           {httpReply(lines({head, serverLine})), ServerLocator::Outcome::NotLocated},
-           {httpReply(lines({head, serverLine, std::string(70'000, ' '), versionLine})),
+           {httpReply(locatorText, "407 Proxy Authentication Required"),
+            ServerLocator::Outcome::ProxyRefusal},
+           {httpReply(lines({xmlHead, serverLine})), ServerLocator::Outcome::NotLocated},
+           {httpReply(lines({xmlHead, serverLine, std::string(70'000, ' '), versionLine})),
             ServerLocator::Outcome::NotLocated},
            {cut, ServerLocator::Outcome::NotLocated},
            {"nonsense", ServerLocator::Outcome::NotLocated},
@@ -152,44 +91,121 @@ TEST(ServerLocator, otherAnswersLocateNothingAndKeepNothing) {
   }
 }
 
-TEST(ServerLocator, readsNoFurtherThanTheLimit) {
-  FakeGateway site(httpReply(document + std::string(8 << 20, '\n')));
-  RunState state;
-  EXPECT_EQ(locate(site.base(), state), ServerLocator::Outcome::Located);
+TEST(ServerLocator, redirectIsNotFollowed) {
+  FakeGateway elsewhere(httpReply(locatorText));
+  for (const std::string status : {"301 Moved Permanently", "302 Found", "303 See Other",
+                                   "307 Temporary Redirect", "308 Permanent Redirect"}) {
+    FakeGateway site("HTTP/1.1 " + status + "\r\nLocation: " + elsewhere.base() +
+                     "/WSDLServerLocator.xml\r\nContent-Length: 0\r\n\r\n");
+    RunState state;
+    EXPECT_EQ(locate(site.base(), state), ServerLocator::Outcome::NotLocated) << status;
+  }
+  EXPECT_EQ(elsewhere.requestCount(), 0);
 }
 
-TEST(ServerLocator, silentSiteEndsTheDownload) {
-  FakeGateway site("", FakeGateway::Manner::Silent);
-  RunState state;
-  const auto start = std::chrono::steady_clock::now();
-  EXPECT_EQ(locate(site.base(), state), ServerLocator::Outcome::NotLocated);
-  EXPECT_LT(std::chrono::steady_clock::now() - start, 5s);
-  EXPECT_EQ(site.requestCount(), 1);
+TEST(ServerLocator, hugeAndEndlessDocumentsAreReadToTheLimitOnly) {
+  const std::string endlessHead = "HTTP/1.1 200 OK\r\n\r\n";
+  struct Case {
+    std::string reply;
+    FakeGateway::Manner manner;
+    ServerLocator::Outcome outcome;
+  };
+  for (const Case& each : std::vector<Case>{
+           {httpReply(locatorText + std::string(100 << 20, '\n')), FakeGateway::Manner::Answers,
+            ServerLocator::Outcome::Located},
+           {httpReply(std::string(100 << 20, 'x')), FakeGateway::Manner::Answers,
+            ServerLocator::Outcome::NotLocated},
+           {endlessHead + locatorText, FakeGateway::Manner::Endless, ServerLocator::Outcome::Located},
+           {endlessHead, FakeGateway::Manner::Endless, ServerLocator::Outcome::NotLocated},
+           {"HTTP/1.1 200 OK\r\nX: ", FakeGateway::Manner::Endless, ServerLocator::Outcome::NotLocated},
+       }) {
+    FakeGateway site(each.reply, each.manner);
+    RunState state;
+    EXPECT_EQ(locate(site.base(), state), each.outcome);
+    // What lies in the buffers of both ends of the connection counts as sent.
+    EXPECT_LT(site.bytesSent(), 24u << 20);
+  }
 }
 
-TEST(ServerLocator, triesOnceMoreWhenNothingListens) {
+TEST(ServerLocator, siteThatIsSilentOrDripsEndsTheDownload) {
+  struct Case {
+    const char* name;
+    FakeGateway::Manner manner;
+  };
+  for (const Case& each :
+       {Case{"silent", FakeGateway::Manner::Silent}, {"drips", FakeGateway::Manner::Drops}}) {
+    FakeGateway site(httpReply(locatorText), each.manner);
+    RunState state;
+    const auto start = std::chrono::steady_clock::now();
+    EXPECT_EQ(locate(site.base(), state), ServerLocator::Outcome::NotLocated) << each.name;
+    EXPECT_LT(std::chrono::steady_clock::now() - start, 3500ms) << each.name;
+    EXPECT_EQ(site.requestCount(), 1) << each.name;
+    EXPECT_TRUE(state.gateway.host.isEmpty()) << each.name;
+  }
+}
+
+TEST(ServerLocator, connectsOnceMoreAfterTheDelay) {
+  const int port = testing::closedPort();
+  // The port is closed when the download begins.
+  QTcpServer late;
+  QObject::connect(&late, &QTcpServer::newConnection, &late, [&] {
+    QTcpSocket* incoming = late.nextPendingConnection();
+    QObject::connect(incoming, &QTcpSocket::readyRead, incoming, [incoming] {
+      if (incoming->readAll().endsWith("\r\n\r\n")) {
+        incoming->write(QByteArray::fromStdString(httpReply(locatorText)));
+        incoming->disconnectFromHost();
+      }
+    });
+  });
+  QTimer::singleShot(100ms, &late, [&] { late.listen(QHostAddress::LocalHost, static_cast<quint16>(port)); });
+  RunState state;
+  const QUrl address(QStringLiteral("http://127.0.0.1:%1").arg(port));
+  LocatorLimits limits = quickLimits();
+  limits.retryDelay = 400ms;
+  EXPECT_EQ(ServerLocator(address, limits).locate(state), ServerLocator::Outcome::Located);
+}
+
+TEST(ServerLocator, givesUpAfterTheSecondRefusedConnection) {
   RunState state;
   const auto start = std::chrono::steady_clock::now();
   EXPECT_EQ(locate("http://127.0.0.1:" + std::to_string(testing::closedPort()), state),
             ServerLocator::Outcome::NotLocated);
-  EXPECT_GE(std::chrono::steady_clock::now() - start, 50ms);
+  const auto spent = std::chrono::steady_clock::now() - start;
+  EXPECT_GE(spent, 50ms);
+  EXPECT_LT(spent, 1s);
 }
 
-TEST(ServerLocator, usesTheProxyOfTheRun) {
-  FakeGateway proxy(httpReply(document));
+TEST(ServerLocator, goesThroughThePreconfiguredProxyWithoutALogin) {
+  FakeGateway proxy(httpReply(locatorText));
   RunState state;
-  state.proxy.host = QStringLiteral("127.0.0.1");
-  state.proxy.port = proxy.port();
-  EXPECT_EQ(locate("http://www.parlexo.invalid", state), ServerLocator::Outcome::Located);
-  EXPECT_EQ(proxy.lastRequest().find("GET http://www.parlexo.invalid/WSDLServerLocator.xml HTTP/1.1\r\n"),
-            0u);
+  const ServerLocator locator(QUrl(u"http://www.parlexo.invalid"_qs), quickLimits());
+  EXPECT_EQ(locator.locate(state, {u"127.0.0.1"_qs, proxy.port()}), ServerLocator::Outcome::Located);
+  const std::string request = proxy.lastRequest();
+  EXPECT_EQ(request.find("GET http://www.parlexo.invalid/WSDLServerLocator.xml HTTP/1.1\r\n"), 0u);
+  EXPECT_EQ(request.find("roxy-Authorization"), std::string::npos);
+}
+
+TEST(ServerLocator, logsInToTheProxyOfTheRunAtOnce) {
+  FakeGateway proxy(httpReply(locatorText));
+  RunState state;
+  state.proxy = {.password = u"secret"_qs, .user = u"me"_qs, .host = u"127.0.0.1"_qs, .port = proxy.port()};
+  const ServerLocator locator(QUrl(u"http://www.parlexo.invalid"_qs), quickLimits());
+  EXPECT_EQ(locator.locate(state, {u"127.0.0.1"_qs, testing::closedPort()}), ServerLocator::Outcome::Located);
+  EXPECT_EQ(proxy.requestCount(), 1);
+  const std::string request = proxy.lastRequest();
+  EXPECT_EQ(request.find("GET http://www.parlexo.invalid/WSDLServerLocator.xml HTTP/1.1\r\n"), 0u);
+  EXPECT_THAT(request, HasSubstr("\r\nProxy-Authorization: Basic bWU6c2VjcmV0\r\n"));
+}
+
+TEST(ServerLocator, proxyPortOutOfRangeIsNotBentIntoAnother) {
+  FakeGateway proxy(httpReply(locatorText));
+  for (const int port : {0, -1, 65536 + proxy.port()}) {
+    RunState state;
+    state.proxy = {.password = {}, .user = {}, .host = u"127.0.0.1"_qs, .port = port};
+    EXPECT_EQ(locate(proxy.base(), state), ServerLocator::Outcome::NotLocated) << port;
+  }
+  EXPECT_EQ(proxy.requestCount(), 0);
 }
 
 }  // namespace
 }  // namespace parlexo
-
-int main(int argc, char** argv) {
-  QCoreApplication application(argc, argv);
-  ::testing::InitGoogleMock(&argc, argv);
-  return RUN_ALL_TESTS();
-}

@@ -27,7 +27,7 @@ constexpr int noAnswer = 1;
 constexpr int notUnderstood = 2;
 
 constexpr std::size_t longestAnswer = 4096;
-constexpr rlim_t scriptSeconds = 3;
+constexpr rlim_t scriptSeconds = 2;
 constexpr rlim_t scriptMemory = 256u << 20;
 
 void print(std::string_view answer) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <memory>
 
 #include <QString>
@@ -31,7 +32,8 @@ class ProxySystem {
   ProxySystem& operator=(const ProxySystem&) = default;
 };
 
-/// The one of this platform.
-[[nodiscard]] std::shared_ptr<const ProxySystem> makeProxySystem();
+/// The one of this platform. A question that is not answered within `patience` stays open.
+[[nodiscard]] std::shared_ptr<const ProxySystem> makeProxySystem(
+    std::chrono::milliseconds patience = std::chrono::seconds(8));
 
 }  // namespace parlexo

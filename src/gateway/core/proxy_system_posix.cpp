@@ -1,5 +1,3 @@
-#include <array>
-
 #include <QCoreApplication>
 #include <QDeadlineTimer>
 #include <QFileInfo>
@@ -12,9 +10,6 @@ namespace parlexo {
 
 namespace {
 
-using namespace std::chrono_literals;
-
-constexpr auto patience = 8s;  // for one question; look-ups on a dead network take longer
 constexpr int pollMilliseconds = 50;
 constexpr int defaultHttpPort = 80;
 
@@ -30,7 +25,7 @@ QString finderProgram() {
 }
 
 /// Waits for the end of `process`; kills it when the time is over or `cancel` is raised.
-bool endsWell(QProcess& process, const CancelFlag& cancel) {
+bool endsWell(QProcess& process, std::chrono::milliseconds patience, const CancelFlag& cancel) {
   const QDeadlineTimer deadline(patience);
   while (process.state() != QProcess::NotRunning) {
     if (cancel.isRaised() || deadline.hasExpired()) {
@@ -44,19 +39,6 @@ bool endsWell(QProcess& process, const CancelFlag& cancel) {
          process.exitCode() == 0;
 }
 
-/// Runs the helper, which bounds its own output, and returns the lines it wrote. A process of its own can
-/// be killed whatever the network or a script does in it.
-QStringList ask(const QStringList& question, const CancelFlag& cancel) {
-  const QString program = finderProgram();
-  if (program.isEmpty()) return {};
-  QProcess finder;
-  finder.setStandardInputFile(QProcess::nullDevice());
-  finder.setStandardErrorFile(QProcess::nullDevice());
-  finder.start(program, question, QIODevice::ReadOnly);
-  if (!endsWell(finder, cancel)) return {};
-  return QString::fromUtf8(finder.readAllStandardOutput()).split(u'\n', Qt::SkipEmptyParts);
-}
-
 QString encoded(const QUrl& address) {
   // The script engine sets the address between single quotes.
   return QString::fromLatin1(address.toEncoded()).replace(u'\'', QStringLiteral("%27"));
@@ -65,6 +47,8 @@ QString encoded(const QUrl& address) {
 /// Asks a helper process for everything that may block.
 class PosixProxySystem final : public ProxySystem {
  public:
+  explicit PosixProxySystem(std::chrono::milliseconds patience) : patience_(patience) {}
+
   [[nodiscard]] QString configuredProxy(const QUrl& address, const CancelFlag& cancel) const override {
     const QStringList answers = ask({QStringLiteral("setting"), encoded(address)}, cancel);
     if (answers.isEmpty()) return {};
@@ -83,12 +67,28 @@ class PosixProxySystem final : public ProxySystem {
     return ask({QStringLiteral("script"), file, encoded(address), address.host(QUrl::FullyEncoded)}, cancel)
         .value(0);
   }
+
+ private:
+  /// Runs the helper, which bounds its own output, and returns the lines it wrote. A process of its own can
+  /// be killed whatever the network or a script does in it.
+  [[nodiscard]] QStringList ask(const QStringList& question, const CancelFlag& cancel) const {
+    const QString program = finderProgram();
+    if (program.isEmpty()) return {};
+    QProcess finder;
+    finder.setStandardInputFile(QProcess::nullDevice());
+    finder.setStandardErrorFile(QProcess::nullDevice());
+    finder.start(program, question, QIODevice::ReadOnly);
+    if (!endsWell(finder, patience_, cancel)) return {};
+    return QString::fromUtf8(finder.readAllStandardOutput()).split(u'\n', Qt::SkipEmptyParts);
+  }
+
+  std::chrono::milliseconds patience_;  // look-ups on a dead network take longer
 };
 
 }  // namespace
 
-std::shared_ptr<const ProxySystem> makeProxySystem() {
-  return std::make_shared<PosixProxySystem>();
+std::shared_ptr<const ProxySystem> makeProxySystem(std::chrono::milliseconds patience) {
+  return std::make_shared<PosixProxySystem>(patience);
 }
 
 }  // namespace parlexo

@@ -1,0 +1,106 @@
+#include "gateway/boxes/proxy_login_dlg.h"
+
+#include <QLabel>
+#include <QLineEdit>
+#include <QTest>
+#include <QTimer>
+#include <gtest/gtest.h>
+
+#include "gateway/boxes/animated_picture.h"
+#include "tests/gateway/fake_proxy_system.h"
+
+namespace parlexo {
+namespace {
+
+using namespace Qt::StringLiterals;
+using testing::FakeProxySystem;
+
+class ProxyLoginDlgTest : public ::testing::Test {
+ protected:
+  static QLineEdit& field(const QWidget& dialog, const QString& name) {
+    return *dialog.findChild<QLineEdit*>(name);
+  }
+
+  DirectCallRunner runner;
+  std::shared_ptr<FakeProxySystem> system = std::make_shared<FakeProxySystem>();
+  ProxyDiscovery discovery{QUrl(u"http://www.parlexo.invalid"_qs), runner, system};
+};
+
+TEST_F(ProxyLoginDlgTest, isFilledWithTheProxyThatWasFound) {
+  system->configured = u"http=10.0.0.1:3128;https=10.0.0.1:3129"_qs;
+  const CProxyLoginDlg dialog(discovery);
+  EXPECT_EQ(field(dialog, u"proxyHost"_qs).text(), "10.0.0.1");
+  EXPECT_EQ(field(dialog, u"proxyPort"_qs).text(), "3128");
+  EXPECT_EQ(field(dialog, u"proxyUser"_qs).text(), "");
+  EXPECT_TRUE(dialog.findChild<CAnimatedPicture*>()->isRunning());
+}
+
+TEST_F(ProxyLoginDlgTest, isEmptyWhenNoneWasFound) {
+  const CProxyLoginDlg dialog(discovery);
+  for (const QLineEdit* each : dialog.findChildren<QLineEdit*>()) EXPECT_EQ(each->text(), "");
+  const ProxySettings settings = dialog.settings();
+  EXPECT_TRUE(settings.host.isEmpty());
+  EXPECT_EQ(settings.port, 0);
+}
+
+TEST_F(ProxyLoginDlgTest, labelsLeadToTheirFieldsInReadingOrder) {
+  CProxyLoginDlg dialog(discovery);
+  dialog.show();
+  EXPECT_EQ(dialog.windowTitle(), "Parlexo(TM) : Proxy Login");
+  QStringList labels;
+  for (const QLabel* label : dialog.findChildren<QLabel*>()) {
+    if (label->buddy()) labels << label->text() + u' ' + label->buddy()->objectName();
+  }
+  EXPECT_EQ(labels, QStringList({u"Proxy User Name: proxyUser"_qs, u"Proxy Password: proxyPassword"_qs,
+                                 u"Proxy Host / Address: proxyHost"_qs, u"Proxy Port: proxyPort"_qs}));
+  QStringList order;
+  for (int i = 0; i < 6; ++i) {
+    order << dialog.focusWidget()->objectName();
+    QTest::keyClick(dialog.focusWidget(), Qt::Key_Tab);
+  }
+  EXPECT_EQ(order, QStringList({u"proxyUser"_qs, u"proxyPassword"_qs, u"proxyHost"_qs, u"proxyPort"_qs,
+                                u"ok"_qs, u"cancel"_qs}));
+}
+
+TEST_F(ProxyLoginDlgTest, okHandsOutWhatWasTyped) {
+  struct Case {
+    QString port;
+    int number;
+  };
+  for (const Case& each : {Case{u"8080"_qs, 8080}, {u" 81 or so"_qs, 81}, {u"abc"_qs, 0}, {u"-3"_qs, -3}}) {
+    CProxyLoginDlg dialog(discovery);
+    dialog.show();
+    QTest::keyClicks(&field(dialog, u"proxyUser"_qs), u"mary"_qs);
+    QTest::keyClicks(&field(dialog, u"proxyPassword"_qs), u" s3cret "_qs);
+    QTest::keyClicks(&field(dialog, u"proxyHost"_qs), u" proxy.local "_qs);
+    QTest::keyClicks(&field(dialog, u"proxyPort"_qs), each.port);
+    EXPECT_EQ(field(dialog, u"proxyPassword"_qs).displayText().count(u's'), 0);
+    QTest::keyClick(&field(dialog, u"proxyPort"_qs), Qt::Key_Return);
+    EXPECT_EQ(dialog.result(), QDialog::Accepted);
+    const ProxySettings settings = dialog.settings();
+    EXPECT_EQ(settings.user, "mary");
+    EXPECT_EQ(settings.password, " s3cret ");
+    EXPECT_EQ(settings.host, "proxy.local");
+    EXPECT_EQ(settings.port, each.number);
+  }
+}
+
+TEST_F(ProxyLoginDlgTest, boxTellsCancelFromOk) {
+  system->configured = u"proxy.local:8080"_qs;
+  const auto answerWith = [this](const QString& button) {
+    QTimer::singleShot(0, [button] {
+      QWidget* dialog = QApplication::activeModalWidget();
+      ASSERT_NE(dialog, nullptr);
+      QTest::mouseClick(dialog->findChild<QWidget*>(button), Qt::LeftButton);
+    });
+    return ProxyLoginBox(discovery).ask();
+  };
+  EXPECT_FALSE(answerWith(u"cancel"_qs));
+  const auto entered = answerWith(u"ok"_qs);
+  ASSERT_TRUE(entered);
+  EXPECT_EQ(entered->host, "proxy.local");
+  EXPECT_EQ(entered->port, 8080);
+}
+
+}  // namespace
+}  // namespace parlexo

@@ -1,0 +1,175 @@
+#include <optional>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "app/core/login_flow.h"
+#include "app/core/shut_down.h"
+#include "gateway/core/gateway_search.h"
+#include "tests/app/run_fakes.h"
+#include "tests/gateway/fake_gateway.h"
+#include "tests/gateway/fake_proxy_system.h"
+#include "tests/gateway/tiny_proxy.h"
+
+namespace parlexo {
+namespace {
+
+using namespace Qt::StringLiterals;
+using ::testing::Each;
+using ::testing::ElementsAre;
+using testing::FakeProxySystem;
+using ::testing::StartsWith;
+using testing::TinyProxy;
+
+/// Answers the proxy dialog for the user.
+class JournalProxyLogin final : public ProxyLogin {
+ public:
+  explicit JournalProxyLogin(Journal& journal) : journal_(journal) {}
+
+  std::optional<ProxySettings> ask() override {
+    journal_ << u"proxy login"_qs;
+    return entered;
+  }
+
+  std::optional<ProxySettings> entered;
+
+ private:
+  Journal& journal_;
+};
+
+/// A run whose system names a real proxy for the service's site; the site is a simulator.
+class ProxiedRun : public RunTest {
+ protected:
+  void SetUp() override {
+    RunTest::SetUp();
+    ASSERT_TRUE(proxy.isRunning());
+    system->configured = u"127.0.0.1:%1"_qs.arg(proxy.port());
+  }
+
+  [[nodiscard]] ProxySettings mary(const QString& password = u"s3cret-word"_qs) const {
+    return {.password = password, .user = u"mary"_qs, .host = u"127.0.0.1"_qs, .port = proxy.port()};
+  }
+
+  bool search() {
+    const QUrl site(simulator.site());
+    const ServerLocator locator(
+        site, {.transfer = std::chrono::seconds(5), .retryDelay = std::chrono::milliseconds(1)});
+    // Asked for another host, because a proxy is never asked for by settings for one of this machine.
+    const ProxyDiscovery discovery(QUrl(u"http://www.parlexo.invalid"_qs), runner, system);
+    return GatewaySearch({locator, discovery, progress, login}).run(state);
+  }
+
+  [[nodiscard]] QString locatorRequest() const {
+    return u"GET %1/WSDLServerLocator.xml HTTP/1.1"_qs.arg(simulator.site());
+  }
+  [[nodiscard]] QString soapRequest() const {
+    return u"POST %1/ccx/onlineCommunication HTTP/1.1"_qs.arg(simulator.site());
+  }
+
+  const Journal asked = {u"progress hidden"_qs, u"proxy login"_qs, u"progress "_qs};
+  TinyProxy proxy;
+  std::shared_ptr<FakeProxySystem> system = std::make_shared<FakeProxySystem>();
+  JournalProxyLogin login{journal};
+};
+
+TEST_F(ProxiedRun, rightLoginCarriesEveryCallButTheLast) {
+  login.entered = mary();
+  ASSERT_TRUE(search());
+  EXPECT_EQ(journal, asked);
+  EXPECT_THAT(proxy.requests(), ElementsAre(locatorRequest(), locatorRequest()));
+  EXPECT_EQ(proxy.refusals(), 1);
+
+  ASSERT_EQ(LoginFlow(state, settings, gateway, notifier).attempt(u"demo"_qs, u"demo1234"_qs),
+            LoginOutcome::Accepted);
+  EXPECT_EQ(proxy.requests().mid(2), QStringList({soapRequest()}));
+  shutDown(state, stores, progress, runner);
+  EXPECT_THAT(simulator.calledOperations(), ElementsAre(u"locator"_qs, u"sessionStart"_qs, u"sessionEnd"_qs));
+  EXPECT_EQ(proxy.requests().size(), 3);
+  EXPECT_EQ(proxy.refusals(), 1);
+}
+
+TEST_F(ProxiedRun, wrongLoginFailsAfterOneQuestion) {
+  login.entered = mary(u"wrong"_qs);
+  EXPECT_FALSE(search());
+  EXPECT_EQ(journal, asked);
+  EXPECT_EQ(proxy.requests().size(), 2);
+  EXPECT_EQ(proxy.refusals(), 2);
+  EXPECT_TRUE(state.gateway.endpoint.isEmpty());
+  EXPECT_THAT(simulator.calledOperations(), ElementsAre());
+}
+
+TEST_F(ProxiedRun, cancelFailsAndKeepsNothing) {
+  EXPECT_FALSE(search());
+  EXPECT_EQ(journal, asked.first(2));
+  EXPECT_EQ(proxy.requests().size(), 1);
+  EXPECT_TRUE(state.proxy.host.isEmpty());
+}
+
+TEST_F(ProxiedRun, loginWithoutAHostGoesNowhere) {
+  login.entered = mary();
+  login.entered->host.clear();
+  EXPECT_FALSE(search());
+  EXPECT_EQ(journal, asked);
+  EXPECT_EQ(proxy.requests().size(), 1);
+  EXPECT_THAT(simulator.calledOperations(), ElementsAre());
+}
+
+TEST_F(ProxiedRun, loginToAnotherProxyIsNotTakenToTheFirst) {
+  login.entered = mary();
+  login.entered->port = testing::closedPort();
+  EXPECT_FALSE(search());
+  EXPECT_EQ(journal, asked);
+  EXPECT_EQ(proxy.requests().size(), 1);
+}
+
+TEST_F(ProxiedRun, systemWithoutAProxyIsNotAskedForALogin) {
+  system->configured.clear();
+  EXPECT_TRUE(search());
+  EXPECT_THAT(journal, ElementsAre());
+  EXPECT_THAT(proxy.requests(), ElementsAre());
+  EXPECT_TRUE(state.proxy.host.isEmpty());
+}
+
+TEST_F(ProxiedRun, proxyThatIsGoneFailsTheSearchAndEveryCall) {
+  login.entered = mary();
+  ASSERT_TRUE(search());
+  proxy.stop();
+  EXPECT_FALSE(search());
+  EXPECT_EQ(journal, asked);
+  const auto reply = gateway.call<protocol::getVersionResponse>(
+      [](GatewayClient& client, protocol::getVersionResponse& response) {
+        return client.getVersion(response);
+      });
+  EXPECT_FALSE(reply.answered());
+  EXPECT_THAT(simulator.calledOperations(), ElementsAre(u"locator"_qs));
+}
+
+TEST_F(ProxiedRun, callsTakeNameAndPasswordTogetherOrNotAtAll) {
+  login.entered = mary();
+  ASSERT_TRUE(search());
+  struct Case {
+    const char* name;
+    QString user;
+    QString password;
+    bool isAnswered;
+  };
+  for (const Case& each : {Case{"both", u"mary"_qs, u"s3cret-word"_qs, true},
+                           {"name alone", u"mary"_qs, {}, false},
+                           {"password alone", {}, u"s3cret-word"_qs, false},
+                           {"none", {}, {}, false}}) {
+    state.proxy.user = each.user;
+    state.proxy.password = each.password;
+    const auto before = proxy.requests().size();
+    const auto refusedBefore = proxy.refusals();
+    const auto reply = gateway.call<protocol::getVersionResponse>(
+        [](GatewayClient& client, protocol::getVersionResponse& response) {
+          return client.getVersion(response);
+        });
+    EXPECT_EQ(reply.answered(), each.isAnswered) << each.name;
+    EXPECT_EQ(proxy.requests().mid(before), QStringList({soapRequest()})) << each.name;
+    EXPECT_EQ(proxy.refusals() - refusedBefore, each.isAnswered ? 0 : 1) << each.name;
+  }
+}
+
+}  // namespace
+}  // namespace parlexo
