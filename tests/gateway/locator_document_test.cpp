@@ -14,13 +14,12 @@ using testing::lines;
 using testing::locatorText;
 using testing::serverLine;
 using testing::versionLine;
-
-const std::string& head = testing::xmlHead;
+using testing::xmlHead;
 
 TEST(LocatorDocument, tellsTheFiveValuesAndTheEndpoint) {
   for (const std::string& each : std::vector<std::string>{
            locatorText,
-           lines({head, " \t" + serverLine + " ", "<!-- more -->", "", "  " + versionLine}, "\r\n"),
+           lines({xmlHead, " \t" + serverLine + " ", "<!-- more -->", "", "  " + versionLine}, "\r\n"),
            lines({"", serverLine, "<version product=\"server\" version=\"9\">", versionLine}),
            lines({"anything", serverLine, versionLine, "<version product=\"client\" version=\"9\"/>"}),
            locatorText.substr(0, locatorText.find("/>")),
@@ -45,7 +44,8 @@ TEST(LocatorDocument, readsNumbersAsFarAsTheyGo) {
        {Case{"abc", 0}, {" 81x", 81}, {"-1", -1}, {"+9", 9}, {"0x10", 0}, {"99999999999", 2147483647}}) {
     const std::string server =
         std::string("<server ip=\"h\" port=\"") + each.port + "\" maxfilesize=\"1\" maxfilesizemobile=\"2\">";
-    const auto location = parseLocatorDocument(QByteArray::fromStdString(lines({head, server, versionLine})));
+    const auto location =
+        parseLocatorDocument(QByteArray::fromStdString(lines({xmlHead, server, versionLine})));
     ASSERT_TRUE(location) << each.port;
     EXPECT_EQ(location->port, each.read) << each.port;
     EXPECT_EQ(location->endpoint, QStringLiteral("http://h:%1/ccx/onlineCommunication").arg(each.read));
@@ -60,30 +60,31 @@ TEST(LocatorDocument, ofAnotherFormTellsNothing) {
   for (const Case& each : std::vector<Case>{
            {"nothing", {}},
            {"one empty line", {""}},
-           {"one line", {head}},
+           {"one line", {xmlHead}},
            {"server on line 1", {serverLine, versionLine}},
-           {"server on line 3", {head, "", serverLine, versionLine}},
-           {"version first", {head, versionLine, serverLine}},
-           {"no version", {head, serverLine}},
-           {"version on the server's line", {head, serverLine + versionLine}},
-           {"another product", {head, serverLine, R"(<version product="server" version="1">)"}},
-           {"text before the version", {head, serverLine, "x" + versionLine}},
-           {"attribute between", {head, serverLine, R"(<version product="client" build="1" version="2">)"}},
-           {"empty version", {head, serverLine, R"(<version product="client" version="">)"}},
-           {"cut version", {head, serverLine, R"(<version product="client" version="2.2)"}},
-           {"the first one counts", {head, serverLine, R"(<version product="client" >)", versionLine}},
+           {"server on line 3", {xmlHead, "", serverLine, versionLine}},
+           {"version first", {xmlHead, versionLine, serverLine}},
+           {"no version", {xmlHead, serverLine}},
+           {"version on the server's line", {xmlHead, serverLine + versionLine}},
+           {"another product", {xmlHead, serverLine, R"(<version product="server" version="1">)"}},
+           {"text before the version", {xmlHead, serverLine, "x" + versionLine}},
+           {"attribute between",
+            {xmlHead, serverLine, R"(<version product="client" build="1" version="2">)"}},
+           {"empty version", {xmlHead, serverLine, R"(<version product="client" version="">)"}},
+           {"cut version", {xmlHead, serverLine, R"(<version product="client" version="2.2)"}},
+           {"the first one counts", {xmlHead, serverLine, R"(<version product="client" >)", versionLine}},
            {"extra attribute",
-            {head, R"(<server ip="h" port="1" name="x" maxfilesize="1" maxfilesizemobile="2">)",
+            {xmlHead, R"(<server ip="h" port="1" name="x" maxfilesize="1" maxfilesizemobile="2">)",
              versionLine}},
            {"other order",
-            {head, R"(<server port="1" ip="h" maxfilesize="1" maxfilesizemobile="2">)", versionLine}},
+            {xmlHead, R"(<server port="1" ip="h" maxfilesize="1" maxfilesizemobile="2">)", versionLine}},
            {"empty host",
-            {head, R"(<server ip="" port="1" maxfilesize="1" maxfilesizemobile="2">)", versionLine}},
+            {xmlHead, R"(<server ip="" port="1" maxfilesize="1" maxfilesizemobile="2">)", versionLine}},
            {"other quotes",
-            {head, "<server ip='h' port='1' maxfilesize='1' maxfilesizemobile='2'>", versionLine}},
+            {xmlHead, "<server ip='h' port='1' maxfilesize='1' maxfilesizemobile='2'>", versionLine}},
            {"other case",
-            {head, R"(<Server ip="h" port="1" maxfilesize="1" maxfilesizemobile="2">)", versionLine}},
-           {"three attributes", {head, R"(<server ip="h" port="1" maxfilesize="1">)", versionLine}},
+            {xmlHead, R"(<Server ip="h" port="1" maxfilesize="1" maxfilesizemobile="2">)", versionLine}},
+           {"three attributes", {xmlHead, R"(<server ip="h" port="1" maxfilesize="1">)", versionLine}},
        }) {
     EXPECT_FALSE(parseLocatorDocument(QByteArray::fromStdString(lines(each.document)))) << each.what;
   }

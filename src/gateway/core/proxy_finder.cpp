@@ -111,12 +111,19 @@ int tellScriptAnswer(const char* file, const char* address, const char* host) {
   return answered;
 }
 
-}  // namespace
-
-int main(int argc, char** argv) {
+int answer(int argc, char** argv) {
   const std::vector<std::string_view> words(argv + 1, argv + argc);
   if (words.size() == 2 && words[0] == "setting") return tellSetting(argv[2]);
   if (words.size() == 1 && words[0] == "detect") return tellScriptAddress();
   if (words.size() == 4 && words[0] == "script") return tellScriptAnswer(argv[2], argv[3], argv[4]);
   return notUnderstood;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  const int result = answer(argc, argv);
+  std::fflush(stdout);
+  // Past the libraries' own endings: the script engine need not be taken apart with a script's objects in it.
+  std::_Exit(result);
 }
