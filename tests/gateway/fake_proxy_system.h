@@ -6,7 +6,7 @@
 
 #include "gateway/core/proxy_system.h"
 
-namespace parlexo::testing {
+namespace parlexo {
 
 /// A platform that answers as the test says and notes what it was asked.
 class FakeProxySystem final : public ProxySystem {
@@ -32,4 +32,4 @@ class FakeProxySystem final : public ProxySystem {
   mutable QByteArray scriptText;
 };
 
-}  // namespace parlexo::testing
+}  // namespace parlexo

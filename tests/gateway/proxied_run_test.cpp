@@ -17,7 +17,6 @@ namespace {
 using namespace Qt::StringLiterals;
 using ::testing::Each;
 using ::testing::ElementsAre;
-using testing::FakeProxySystem;
 using ::testing::StartsWith;
 using testing::TinyProxy;
 

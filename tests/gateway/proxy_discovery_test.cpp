@@ -19,7 +19,6 @@ namespace {
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 using testing::FakeGateway;
-using testing::FakeProxySystem;
 using testing::httpReply;
 
 const QUrl wanted(u"http://www.parlexo.invalid/WSDLServerLocator.xml"_qs);

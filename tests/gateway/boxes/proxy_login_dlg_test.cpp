@@ -13,7 +13,6 @@ namespace parlexo {
 namespace {
 
 using namespace Qt::StringLiterals;
-using testing::FakeProxySystem;
 
 class ProxyLoginDlgTest : public ::testing::Test {
  protected:
