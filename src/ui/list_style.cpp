@@ -3,6 +3,7 @@
 #include <QHeaderView>
 #include <QListView>
 #include <QPalette>
+#include <QStyledItemDelegate>
 #include <QTableView>
 #include <QTreeView>
 
@@ -12,7 +13,17 @@ namespace parlexo {
 
 namespace {
 
-constexpr int tableRowPadding = 6;
+constexpr int rowPadding = 6;
+
+/// Lists and trees ask their delegate how high a row is, tables their header.
+class PaddedRows final : public QStyledItemDelegate {
+ public:
+  using QStyledItemDelegate::QStyledItemDelegate;
+
+  [[nodiscard]] QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+    return QStyledItemDelegate::sizeHint(option, index) + QSize(0, rowPadding);
+  }
+};
 
 void styleHeader(QHeaderView& header) {
   header.setHighlightSections(false);
@@ -28,7 +39,7 @@ void styleTable(QTableView& table) {
   table.verticalHeader()->hide();
   table.verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
   table.verticalHeader()->setMinimumSectionSize(1);
-  table.verticalHeader()->setDefaultSectionSize(table.fontMetrics().height() + tableRowPadding);
+  table.verticalHeader()->setDefaultSectionSize(table.fontMetrics().height() + rowPadding);
   styleHeader(*table.horizontalHeader());
 }
 
@@ -49,7 +60,11 @@ void styleList(QAbstractItemView& view) {
   view.setPalette(palette);
   view.setAlternatingRowColors(false);
   view.setSelectionBehavior(QAbstractItemView::SelectRows);
-  if (auto* table = qobject_cast<QTableView*>(&view)) styleTable(*table);
+  if (auto* table = qobject_cast<QTableView*>(&view)) {
+    styleTable(*table);
+    return;
+  }
+  view.setItemDelegate(new PaddedRows(&view));
   if (auto* tree = qobject_cast<QTreeView*>(&view)) styleHeader(*tree->header());
 }
 

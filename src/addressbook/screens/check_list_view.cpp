@@ -8,33 +8,15 @@
 #include <QItemSelectionModel>
 #include <QKeyEvent>
 #include <QScrollBar>
-#include <QStyledItemDelegate>
 
 #include "ui/list_style.h"
 
 namespace parlexo {
 
-namespace {
-
-constexpr int rowPadding = 6;
-
-/// Keeps the check boxes of neighbouring rows apart.
-class RowDelegate final : public QStyledItemDelegate {
- public:
-  using QStyledItemDelegate::QStyledItemDelegate;
-
-  [[nodiscard]] QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
-    return QStyledItemDelegate::sizeHint(option, index) + QSize(0, rowPadding);
-  }
-};
-
-}  // namespace
-
 CheckListView::CheckListView(CheckListModel& model, const QString& label, QWidget* parent)
     : QTreeView(parent), model_(model) {
   styleList(*this);
   setModel(&model);
-  setItemDelegate(new RowDelegate(this));
   setAccessibleName(label);
   setRootIsDecorated(false);
   setUniformRowHeights(true);

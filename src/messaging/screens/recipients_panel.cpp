@@ -14,7 +14,6 @@
 #include "base/notifier.h"
 #include "contacts/address_book.h"
 #include "messaging/core/messaging_texts.h"
-#include "messaging/screens/row_delegate.h"
 #include "ui/list_style.h"
 #include "ui/picture_button.h"
 
@@ -48,7 +47,6 @@ QWidget* RecipientsPanel::createBox() {
   box_->setSelectionMode(QAbstractItemView::ExtendedSelection);
   box_->setEditTriggers(QAbstractItemView::NoEditTriggers);
   box_->setUniformItemSizes(true);
-  box_->setItemDelegate(new RowDelegate(box_));
   styleList(*box_);
   auto* removal = new QShortcut(QKeySequence(QKeySequence::Delete), box_);
   removal->setContext(Qt::WidgetShortcut);

@@ -19,7 +19,6 @@
 #include <QVBoxLayout>
 
 #include "messaging/core/status_query_flow.h"
-#include "messaging/screens/row_delegate.h"
 #include "ui/list_style.h"
 #include "ui/picture_button.h"
 
@@ -80,7 +79,6 @@ void CStatusDlg::createList() {
   list_->setUniformRowHeights(true);
   list_->setAllColumnsShowFocus(true);
   list_->setSelectionMode(QAbstractItemView::ExtendedSelection);
-  list_->setItemDelegate(new RowDelegate(list_));
   styleList(*list_);
   QHeaderView& header = *list_->header();
   header.setSectionsMovable(true);
