@@ -1,5 +1,7 @@
 #include "ui/list_style.h"
 
+#include <algorithm>
+
 #include <QHeaderView>
 #include <QListView>
 #include <QPalette>
@@ -14,6 +16,7 @@ namespace parlexo {
 namespace {
 
 constexpr int rowPadding = 6;
+constexpr int cellMargins = 12;
 
 /// Lists and trees ask their delegate how high a row is, tables their header.
 class PaddedRows final : public QStyledItemDelegate {
@@ -66,6 +69,10 @@ void styleList(QAbstractItemView& view) {
   }
   view.setItemDelegate(new PaddedRows(&view));
   if (auto* tree = qobject_cast<QTreeView*>(&view)) styleHeader(*tree->header());
+}
+
+int fittingColumnWidth(const QWidget& list, int usual, const QString& widest) {
+  return std::max(usual, list.fontMetrics().horizontalAdvance(widest) + cellMargins);
 }
 
 }  // namespace parlexo

@@ -1,7 +1,5 @@
 #include "addressbook/screens/select_contacts_dlg.h"
 
-#include <algorithm>
-
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -9,6 +7,7 @@
 
 #include "addressbook/screens/check_list_view.h"
 #include "addressbook/screens/select_by_extra_dlg.h"
+#include "ui/list_style.h"
 #include "ui/look.h"
 #include "ui/picture_button.h"
 
@@ -19,14 +18,7 @@ namespace {
 constexpr int checkWidth = 30;
 constexpr int nameWidth = 200;
 constexpr int numberWidth = 100;
-constexpr int cellMargin = 5;
 constexpr int listHeightUnits = 190;
-
-/// Wide enough for the longest international number, which has 15 digits.
-int fittingNumberWidth(const QWidget& widget) {
-  const int longest = widget.fontMetrics().horizontalAdvance(QStringLiteral("+000000000000000"));
-  return std::max(numberWidth, longest + 2 * cellMargin);
-}
 
 }  // namespace
 
@@ -53,7 +45,10 @@ void CSelectContactsDlg::createLists() {
   groupView_->setColumnWidths({checkWidth, nameWidth});
   contactView_ = new CheckListView(contacts_, QStringLiteral("Contacts:"), this);
   contactView_->setObjectName(QStringLiteral("contactList"));
-  contactView_->setColumnWidths({checkWidth, nameWidth, fittingNumberWidth(*this)});
+  // The longest international number has 15 digits.
+  const int fittingNumberWidth =
+      fittingColumnWidth(*contactView_, numberWidth, QStringLiteral("+000000000000000"));
+  contactView_->setColumnWidths({checkWidth, nameWidth, fittingNumberWidth});
   for (CheckListView* view : {groupView_, contactView_}) {
     view->setMinimumWidth(view->fittingWidth());
     view->setMinimumHeight(dialogUnits(*this, 0, listHeightUnits / 2).height());

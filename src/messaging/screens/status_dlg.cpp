@@ -25,13 +25,13 @@
 namespace parlexo {
 namespace {
 
-constexpr std::array<int, StatusListModel::columns> columnWidths{120, 200, 100, 300};
+struct ColumnWidth {
+  int usual;
+  const char* widest;  // what must never be cut off; the longest international number has 15 digits
+};
 
-// What a date needs in the font of the list, which may be larger than the one that the widths were made for.
-int dateWidth(const QWidget& list) {
-  constexpr int cellMargins = 12;
-  return list.fontMetrics().horizontalAdvance(QStringLiteral("00/00/0000 00:00:00")) + cellMargins;
-}
+constexpr std::array<ColumnWidth, StatusListModel::columns> columnWidths{
+    {{120, "00/00/0000 00:00:00"}, {200, ""}, {100, "+000000000000000"}, {300, ""}}};
 
 }  // namespace
 
@@ -83,9 +83,9 @@ void CStatusDlg::createList() {
   QHeaderView& header = *list_->header();
   header.setSectionsMovable(true);
   header.setFirstSectionMovable(true);
-  for (int column = 0; column < StatusListModel::columns; ++column)
-    header.resizeSection(column, columnWidths[static_cast<std::size_t>(column)]);
-  header.resizeSection(0, std::max(columnWidths[0], dateWidth(*list_)));
+  int column = 0;
+  for (const auto& [usual, widest] : columnWidths)
+    header.resizeSection(column++, fittingColumnWidth(*list_, usual, QString::fromLatin1(widest)));
   auto* copy = new QShortcut(QKeySequence(QKeySequence::Copy), list_);
   copy->setContext(Qt::WidgetShortcut);
   connect(copy, &QShortcut::activated, this, &CStatusDlg::copyRows);
