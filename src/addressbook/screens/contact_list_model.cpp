@@ -5,9 +5,7 @@
 namespace parlexo {
 
 ContactListModel::ContactListModel(SelectionLists& lists, const QString& mode, QObject* parent)
-    : CheckListModel({QStringLiteral("Select"), QStringLiteral("Name"),
-                      showsFaxNumbers(mode) ? QStringLiteral("Fax") : QStringLiteral("Phone")},
-                     parent),
+    : CheckListModel({QStringLiteral("Select"), QStringLiteral("Name"), QStringLiteral("Phone")}, parent),
       lists_(lists),
       showsFax_(showsFaxNumbers(mode)) {}
 

@@ -11,7 +11,8 @@ class ContactListModel final : public CheckListModel {
   Q_OBJECT
 
  public:
-  /// `lists` must outlive the model; `mode` decides whether phone or fax numbers are shown.
+  /// `lists` must outlive the model; `mode` decides whether phone or fax numbers are shown,
+  /// in a column that is called "Phone" either way.
   ContactListModel(SelectionLists& lists, const QString& mode, QObject* parent = nullptr);
 
   [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
