@@ -117,6 +117,12 @@ TEST_F(SmsPage, charactersThatCountTwiceAreCutFromTheEnd) {
   EXPECT_EQ(editor().textCursor().position(), 40);
 }
 
+TEST_F(SmsPage, aPastedZeroCharacterDoesNotEndTheText) {
+  paste(QStringLiteral("one") + QChar(u'\0') + QStringLiteral("\r\ntwo"));
+  EXPECT_EQ(page.draft().text, "one\ntwo");
+  EXPECT_EQ(counters(), "1/753");
+}
+
 TEST_F(SmsPage, switchingToUnicodeDropsATextThatIsTooLong) {
   paste(QString(335, QChar(u'x')));
   choose("unicodeCharset");

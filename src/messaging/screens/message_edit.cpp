@@ -63,6 +63,7 @@ void MessageEdit::insertFromMimeData(const QMimeData* source) {
   // Cut before it is inserted: laying out a text of megabytes only to drop it again would take seconds.
   QString pasted = source->text();
   pasted.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
+  pasted.remove(QChar(u'\0'));  // would end the text on its way to the gateway
   // An edit block of its own, or undo would take away what was typed just before as well.
   QTextCursor cursor = textCursor();
   cursor.beginEditBlock();
