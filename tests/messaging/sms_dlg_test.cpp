@@ -176,6 +176,8 @@ TEST_F(SmsPage, deleteAsksAndRemovesTheHighlightedEntries) {
   QTest::keyClick(&contactsBox(), Qt::Key_Delete);
   EXPECT_EQ(page.draft().displayList, "Lee, Bob [+60312345678]");
   EXPECT_EQ(page.draft().numbersList, "+60312345678");
+  EXPECT_EQ(contactsBox().currentIndex().row(), 0) << "a long list stays at the place of the removal";
+  EXPECT_FALSE(contactsBox().selectionModel()->hasSelection());
   EXPECT_THAT(notifier.takeTexts(),
               ElementsAre("Can't delete the selected contacts as you have not selected one or more contacts",
                           "Are you sure you want to delete the selected contacts?",

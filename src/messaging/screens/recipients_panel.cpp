@@ -1,5 +1,6 @@
 #include "messaging/screens/recipients_panel.h"
 
+#include <algorithm>
 #include <utility>
 #include <vector>
 
@@ -99,6 +100,9 @@ void RecipientsPanel::removeHighlighted() {
   }
   if (!notifier_.confirm(messaging_texts::confirmRemoval())) return;
   model_.update([&](Recipients& recipients) { recipients.remove(rows); });
+  // A long list stays where the user was at work; nothing is highlighted, so that a further <DEL> asks anew.
+  const int place = std::min(*std::min_element(rows.begin(), rows.end()), model_.rowCount() - 1);
+  box_->selectionModel()->setCurrentIndex(model_.index(place), QItemSelectionModel::NoUpdate);
 }
 
 ContactSelection RecipientsPanel::currentSelection() const {
