@@ -7,6 +7,7 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
+#include <QScreen>
 #include <QShortcut>
 #include <QTabWidget>
 #include <QVBoxLayout>
@@ -52,7 +53,8 @@ CMainDlg::CMainDlg(const std::vector<MainTab>& tabs, QWidget* parent) : Gradient
   addShortcuts();
   shareExitMnemonic();
   tabs_->setFocus();
-  setMinimumSize(dialogUnits(*this, 558, 330));
+  // On a screen smaller than that, Send and Exit must not lie beyond its edge.
+  resize(dialogUnits(*this, 558, 330).boundedTo(screen()->availableSize()));
 }
 
 void CMainDlg::setUserName(const QString& name) {
@@ -119,6 +121,15 @@ void CMainDlg::addShortcuts() {
   connect(quit, &QShortcut::activated, this, &CMainDlg::accept);
   auto* help = new QShortcut(QKeySequence(Qt::Key_F1), this);
   connect(help, &QShortcut::activated, this, &CMainDlg::showAbout);
+  // The tab widget would hear these only while the focus is on one of its pages.
+  auto* next = new QShortcut(QKeySequence::NextChild, this);
+  connect(next, &QShortcut::activated, this, [this] { turnTabs(1); });
+  auto* previous = new QShortcut(QKeySequence::PreviousChild, this);
+  connect(previous, &QShortcut::activated, this, [this] { turnTabs(-1); });
+}
+
+void CMainDlg::turnTabs(int steps) {
+  tabs_->setCurrentIndex((tabs_->currentIndex() + steps + tabs_->count()) % tabs_->count());
 }
 
 // Where the visible page has a button of the same mnemonic ("S&end >"), the key is the page's.

@@ -49,6 +49,8 @@ class CMainDlg : public GradientDialog {
   void addTabs(QVBoxLayout& column, const std::vector<MainTab>& tabs);
   void addFooter(QVBoxLayout& column);
   void addShortcuts();
+  /// One tab forward (1) or back (-1), round the ends.
+  void turnTabs(int steps);
   void shareExitMnemonic();
   void showAbout();
 

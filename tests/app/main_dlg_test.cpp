@@ -3,6 +3,7 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QScreen>
 #include <QSignalSpy>
 #include <QTabWidget>
 #include <QTemporaryDir>
@@ -18,7 +19,6 @@
 #include "gateway/boxes/progress_box.h"
 #include "messaging/screens/sms_dlg.h"
 #include "ui/hyperlink_label.h"
-#include "ui/look.h"
 #include "ui/picture_button.h"
 
 namespace parlexo {
@@ -46,6 +46,18 @@ class MainDlgTest : public testing::Test {
   CMainDlg window_{{{u"SMS"_qs, [] { return pageWithButton(u"S&end >"_qs); }},
                     {u"Status"_qs, [] { return pageWithButton(u"Get &Status"_qs); }}}};
 };
+
+TEST_F(MainDlgTest, ctrlTabTurnsTheTabsFromAnywhere) {
+  const auto* tabs = window_.findChild<QTabWidget*>();
+  auto* exit = window_.findChild<QWidget*>(u"exit"_qs);
+  exit->setFocus();
+  for (const int expected : {1, 0}) {
+    QTest::keyClick(exit, Qt::Key_Tab, Qt::ControlModifier);
+    EXPECT_EQ(tabs->currentIndex(), expected);
+  }
+  QTest::keyClick(exit, Qt::Key_Backtab, Qt::ControlModifier | Qt::ShiftModifier);
+  EXPECT_EQ(tabs->currentIndex(), 1) << "back from the first is the last";
+}
 
 TEST_F(MainDlgTest, onlyExitCtrlQAndTheCloseBoxEndIt) {
   QTest::keyClick(&window_, Qt::Key_Escape);
@@ -141,7 +153,13 @@ TEST_F(MainTabsTest, standInTheirOrder) {
   EXPECT_EQ(window_.windowTitle(), u"Parlexo(TM) : Messaging Client v2.24"_qs);
   EXPECT_EQ(window_.findChild<QLineEdit*>(u"userName"_qs)->text(), u"demo"_qs);
   EXPECT_EQ(window_.findChild<QLineEdit*>(u"balance"_qs)->text(), u"99.95"_qs);
-  EXPECT_EQ(window_.minimumSize(), dialogUnits(window_, 558, 330));
+}
+
+TEST_F(MainTabsTest, fitASmallScreen) {
+  EXPECT_LE(window_.width(), window_.screen()->availableSize().width());
+  const QSize smallest = window_.minimumSizeHint();
+  EXPECT_LE(smallest.width(), 800);
+  EXPECT_LE(smallest.height(), 560) << "600 without the title bar and a task bar";
 }
 
 }  // namespace
