@@ -241,6 +241,7 @@ void CQuillonSMSDlg::clearForm() {
 
 void CQuillonSMSDlg::showSchedule() {
   scheduleText_->setText(schedule_.text);
+  scheduleText_->setCursorPosition(0);  // a field too narrow for its text shows the beginning
 }
 
 void CQuillonSMSDlg::showTemplatesTip() {
