@@ -44,21 +44,24 @@ function(parlexo_program name)
   target_link_libraries(${name} PRIVATE ${arg_LINKS} parlexo_options)
 endfunction()
 
-# parlexo_test(NAME SOURCES file... LINKS target...): a GoogleTest program whose cases CTest runs one by
-# one. The target `core_tests` collects those that open no window; they are the ones run under ASan.
+# parlexo_test(NAME [WINDOWS] SOURCES file... LINKS target...): a GoogleTest program, without a main of its
+# own, whose cases CTest runs one by one. WINDOWS says that it opens windows. The targets `core_tests` and
+# `window_tests` stand for all of either kind; the former run under the sanitizers too.
 add_custom_target(core_tests)
 add_custom_target(window_tests)
 function(parlexo_test name)
-  cmake_parse_arguments(arg "WINDOWS" "" "SOURCES;LINKS;LABELS" ${ARGN})
-  parlexo_program(${name} SOURCES ${arg_SOURCES} LINKS ${arg_LINKS} GTest::gmock)
-  target_include_directories(${name} PRIVATE "${CMAKE_SOURCE_DIR}")
+  cmake_parse_arguments(arg "WINDOWS" "" "SOURCES;LINKS" ${ARGN})
   if(arg_WINDOWS)
-    add_dependencies(window_tests ${name})
-    set(labels window)
+    set(label window)
+    list(APPEND arg_LINKS ui Qt6::Test)
   else()
-    add_dependencies(core_tests ${name})
-    set(labels core)
+    set(label core)
   endif()
+  parlexo_program(${name}
+    SOURCES ${CMAKE_SOURCE_DIR}/tests/${label}_main.cpp ${arg_SOURCES}
+    LINKS ${arg_LINKS} GTest::gmock)
+  target_include_directories(${name} PRIVATE "${CMAKE_SOURCE_DIR}")
+  add_dependencies(${label}_tests ${name})
   gtest_discover_tests(${name} DISCOVERY_MODE PRE_TEST DISCOVERY_TIMEOUT 60
-    TEST_PREFIX "${name}." PROPERTIES TIMEOUT 120 LABELS "${labels}")
+    TEST_PREFIX "${name}." PROPERTIES TIMEOUT 120 LABELS ${label})
 endfunction()

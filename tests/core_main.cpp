@@ -1,3 +1,5 @@
+// Runs the tests that open no window. Downloads and servers wait in event loops, which need an application.
+
 #include <QCoreApplication>
 #include <gmock/gmock.h>
 

@@ -1,5 +1,7 @@
+// Runs the tests that open windows: on no display unless the environment names one, in the program's look.
+
 #include <QApplication>
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
 #include "ui/look.h"
 
@@ -8,6 +10,6 @@ int main(int argc, char** argv) {
   QApplication application(argc, argv);
   QApplication::setQuitOnLastWindowClosed(false);
   parlexo::applyLook(application);
-  testing::InitGoogleTest(&argc, argv);
+  testing::InitGoogleMock(&argc, argv);
   return RUN_ALL_TESTS();
 }
