@@ -3,6 +3,7 @@
 
 #include "contacts/contact_file_format.h"
 #include "contacts/sample_contacts.h"
+#include "contacts/shared_file.h"
 #include "tests/contacts/store_fixture.h"
 
 namespace parlexo {
@@ -84,6 +85,19 @@ TEST_F(AddressBookLoading, marksMembersWithoutContactAsDeleted) {
             deletedRecord(gone) + ann + deletedRecord(wrongCase));
   EXPECT_EQ(book_.findGroup(QStringLiteral("Team"))->members().size(), 1U);
   EXPECT_THAT(notifier_.shown, IsEmpty());
+}
+
+TEST_F(AddressBookLoading, tellsOnceAboutGroupThatCannotBeCleanedAndGoesOn) {
+  const QByteArray orphans = packMember(QStringLiteral("Gone")) + packMember(QStringLiteral("Lost"));
+  const QString team = QStringLiteral("Team.grp");
+  put(team, orphans);
+  SharedFile otherReader;
+  ASSERT_EQ(otherReader.open(pathOf(team), SharedFile::Mode::Read), SharedFile::OpenResult::Opened);
+  EXPECT_TRUE(book_.loadAll(progress_));
+  EXPECT_EQ(readBytes(pathOf(team)), orphans);
+  EXPECT_THAT(notifier_.shown,
+              ElementsAre(QStringLiteral("16 There was a problem deleting a contact from your database. "
+                                         "Error=[deleteItem:1 - Database access share error!]")));
 }
 
 TEST_F(AddressBookLoading, cutNamesMeetAgainAtTheNextStart) {
