@@ -26,8 +26,7 @@ QString warning() {
 QString explanation() {
   return QStringLiteral(
       "The version of the client software you are using is out of date.\nPress the Download button to "
-      "download "
-      "the latest version  of the program. Get the latest fixes and new features...");
+      "download the latest version  of the program. Get the latest fixes and new features...");
 }
 
 QLabel* addLabel(QBoxLayout& column, const char* name, const QString& text) {
