@@ -16,7 +16,7 @@ namespace parlexo {
 namespace {
 
 constexpr int itemPadding = 4;  // pixels that a list's row is higher than its text
-constexpr int focusWidth = 2;  // pixels of the frame around the list or edit that has the keyboard
+constexpr int focusWidth = 2;   // pixels of the frame around the list or edit that has the keyboard
 
 void drawOutline(QPainter& painter, const QRectF& frame, qreal radius, const QColor& color, qreal width) {
   painter.save();

@@ -11,7 +11,7 @@ struct Namespace namespaces[] = {
     {"SOAP-ENC", "http://schemas.xmlsoap.org/soap/encoding/", "http://www.w3.org/*/soap-encoding", nullptr},
     {"xsi", "http://www.w3.org/2001/XMLSchema-instance", "http://www.w3.org/*/XMLSchema-instance", nullptr},
     {"xsd", "http://www.w3.org/2001/XMLSchema", "http://www.w3.org/*/XMLSchema", nullptr},
-    {"ns3", "http://" PARLEXO_SERVICE_HOST "/onlineCommunication/binding", nullptr, nullptr},
+    {"ns3", "http://www.parlexo.example/onlineCommunication/binding", nullptr, nullptr},
     {nullptr, nullptr, nullptr, nullptr}};
 
 /// A fault in its SOAP 1.1 and its SOAP 1.2 form; what was absent is null. The texts are the context's.
