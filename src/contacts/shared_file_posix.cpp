@@ -27,17 +27,20 @@ auto uninterrupted(Call call) {
   return result;
 }
 
+// Without O_NONBLOCK a pipe in the place of the file would hold the program until somebody writes into it.
+constexpr int commonFlags = O_CLOEXEC | O_NONBLOCK;
+
 int openFlags(SharedFile::Mode mode) {
   switch (mode) {
     case SharedFile::Mode::Read:
     case SharedFile::Mode::Create:
-      return O_RDONLY | O_CLOEXEC;
+      return O_RDONLY | commonFlags;
     case SharedFile::Mode::Write:
     case SharedFile::Mode::Erase:
     case SharedFile::Mode::Remove:
-      return O_RDWR | O_DSYNC | O_CLOEXEC;
+      return O_RDWR | O_DSYNC | commonFlags;
   }
-  return O_RDONLY | O_CLOEXEC;
+  return O_RDONLY | commonFlags;
 }
 
 // An SMB server answers so when a program on Windows holds the file.
@@ -65,8 +68,11 @@ SharedFile::~SharedFile() {
 }
 
 SharedFile::OpenResult SharedFile::open(const QString& path, Mode mode) {
+  close();
   path_ = QFile::encodeName(path);
   mode_ = mode;
+  // The system would end the path there and open another file.
+  if (path_.contains('\0')) return OpenResult::Failed;
   for (int tries = 0; tries < replacementTries; ++tries) {
     const OpenResult result = openOnce();
     if (result != OpenResult::Opened || mode == Mode::Create || isStillAtPath()) return result;
@@ -137,7 +143,7 @@ bool SharedFile::write(QByteArrayView bytes) {
   while (!bytes.isEmpty()) {
     const auto count =
         uninterrupted([&] { return ::write(handle_, bytes.data(), static_cast<std::size_t>(bytes.size())); });
-    if (count < 0) {
+    if (count <= 0) {
       // Nothing better can be done when cutting back fails too: the caller reports the failed write.
       if (size() > before && ::ftruncate(handle_, *before) != 0) return false;
       return false;

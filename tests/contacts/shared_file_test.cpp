@@ -1,13 +1,13 @@
 #include "contacts/shared_file.h"
 
-#include <sys/resource.h>
+#include <sys/stat.h>
 
 #include <atomic>
-#include <csignal>
 #include <thread>
 
 #include <QFileInfo>
 
+#include "tests/contacts/file_size_limit.h"
 #include "tests/contacts/store_fixture.h"
 
 namespace parlexo {
@@ -19,26 +19,6 @@ using OpenResult = SharedFile::OpenResult;
 class SharedFileFixture : public StoreFixture {
  protected:
   QString path_ = pathOf(QStringLiteral("shared"));
-};
-
-// Lets this process write no file beyond a length, as on a disk that is full.
-class FileSizeLimit {
- public:
-  explicit FileSizeLimit(rlim_t length) : handler_(std::signal(SIGXFSZ, SIG_IGN)) {
-    ::getrlimit(RLIMIT_FSIZE, &before_);
-    const rlimit limit = {length, before_.rlim_max};
-    ::setrlimit(RLIMIT_FSIZE, &limit);
-  }
-  ~FileSizeLimit() {
-    ::setrlimit(RLIMIT_FSIZE, &before_);
-    std::signal(SIGXFSZ, handler_);
-  }
-  FileSizeLimit(const FileSizeLimit&) = delete;
-  FileSizeLimit& operator=(const FileSizeLimit&) = delete;
-
- private:
-  rlimit before_ = {};
-  void (*handler_)(int);
 };
 
 TEST_F(SharedFileFixture, modesShutEachOtherOut) {
@@ -89,6 +69,19 @@ TEST_F(SharedFileFixture, appendThatDoesNotFitIsCutBack) {
   }
   EXPECT_FALSE(written);
   EXPECT_EQ(readBytes(path_), QByteArray(100, 'a'));
+}
+
+TEST_F(SharedFileFixture, onlyOrdinaryFilesOfTheWholePathAreOpened) {
+  ASSERT_EQ(::mkfifo(qPrintable(path_), 0600), 0);
+  writeBytes(pathOf(QStringLiteral("cut")), "x");
+  const QString withZero = pathOf(QStringLiteral("cut")) + QChar(u'\0') + QStringLiteral(".grp");
+  for (const Mode mode : {Mode::Read, Mode::Write, Mode::Erase, Mode::Create, Mode::Remove}) {
+    SharedFile file;
+    EXPECT_EQ(file.open(path_, mode), OpenResult::Failed) << "a pipe";
+    EXPECT_EQ(file.open(folder_.path(), mode), OpenResult::Failed) << "a folder";
+    EXPECT_EQ(file.open(withZero, mode), OpenResult::Failed) << "a zero in the path";
+  }
+  EXPECT_EQ(readBytes(pathOf(QStringLiteral("cut"))), "x");
 }
 
 TEST_F(SharedFileFixture, openedFileIsNeverOneThatWasRemovedMeanwhile) {

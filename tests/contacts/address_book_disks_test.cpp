@@ -1,0 +1,283 @@
+// The address book on disks that fail and under names that file systems find hard. Everything here stops
+// the superuser too, as which tests may run.
+
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <memory>
+#include <utility>
+
+#include <QDir>
+#include <gmock/gmock.h>
+
+#include "contacts/contact_file_format.h"
+#include "tests/contacts/file_size_limit.h"
+#include "tests/contacts/store_fixture.h"
+
+namespace parlexo {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+const QString saving =
+    QStringLiteral("16 There was a problem trying to save your contact to the database. Error=");
+const QString deleting =
+    QStringLiteral("16 There was a problem deleting a contact from your database. Error=");
+const QString adding =
+    QStringLiteral("16 There was a problem saving your contact to the database group. Error=");
+const QString creating = QStringLiteral(
+    "16 There was a problem trying to create your group in the database "
+    "Error=[createDb:1 - Can't create the database!]");
+const QString connecting = QStringLiteral(
+    "16 There was a problem connecting to the database. Please ensure you can connect to the database "
+    "storage location. Error=");
+const QString removing =
+    QStringLiteral("16 There was a problem trying to delete your group from the database");
+const QString readOpenError = QStringLiteral("[readAllItems:2 - Database open error!]");
+
+const QString known = QStringLiteral("Known");
+const QString fresh = QStringLiteral("Fresh");
+const QString circle = QStringLiteral("Circle");
+
+class AddressBookOnDisk : public AddressBookFixture {
+ protected:
+  void SetUp() override {
+    ASSERT_TRUE(save(known) && book_.createGroup(circle, {known}));
+    contactBytes_ = fileOf(contactsFile);
+    memberBytes_ = fileOf(circleFile_);
+  }
+
+  bool save(const QString& name, const QString& phone = {}) {
+    ContactRecord contact;
+    contact.name = name;
+    contact.phone = phone;
+    return book_.saveContact(contact);
+  }
+  QByteArray fileOf(const QString& name) const { return readBytes(pathOf(name)); }
+  QStringList takeMessages() { return std::exchange(notifier_.shown, {}); }
+  // What a program that starts now finds.
+  bool startsAgain(const QString& folder) {
+    indexes_.dropAllItemIndexes();
+    next_ = std::make_unique<AddressBook>(folder, nextDatabase_, notifier_);
+    return next_->loadAll(progress_);
+  }
+
+  const QString circleFile_ = QStringLiteral("Circle.grp");
+  QByteArray contactBytes_;
+  QByteArray memberBytes_;
+  ItemIndexCache indexes_;
+  ItemDatabase nextDatabase_{indexes_, waiter_};
+  std::unique_ptr<AddressBook> next_;
+};
+
+TEST_F(AddressBookOnDisk, fullDiskRefusesWhatIsNewAndLosesNothing) {
+  {
+    // Half a record more than the file has; the group's file is shorter, so it still takes its member.
+    const FileSizeLimit limit(contactRecordSize + contactRecordSize / 2);
+    EXPECT_FALSE(save(fresh));
+    EXPECT_TRUE(save(known, QStringLiteral("+1"))) << "a change needs no room";
+  }
+  EXPECT_THAT(takeMessages(),
+              ElementsAre(saving + QStringLiteral("[writeItem:13 - Can't append item to the database!]")));
+  EXPECT_TRUE(book_.findContact(fresh)) << "memory keeps it";
+  EXPECT_EQ(fileOf(contactsFile).size(), contactRecordSize);
+  {
+    const FileSizeLimit limit(memberRecordSize);
+    EXPECT_FALSE(book_.addMember(circle, fresh));
+  }
+  EXPECT_THAT(takeMessages(),
+              ElementsAre(adding + QStringLiteral("[writeItem:13 - Can't append item to the database!]")));
+  EXPECT_EQ(fileOf(circleFile_), memberBytes_);
+  EXPECT_TRUE(save(fresh) && book_.addMember(circle, fresh)) << "there is room again";
+  EXPECT_TRUE(startsAgain(folder_.path()));
+  EXPECT_EQ(next_->findGroup(circle)->members().size(), 2U);
+}
+
+TEST_F(AddressBookOnDisk, writesThatFailInPlaceLeaveContactAndMember) {
+  {
+    const FileSizeLimit limit(0);
+    EXPECT_FALSE(save(known, QStringLiteral("+2")));
+    EXPECT_FALSE(book_.removeMember(circle, known));
+    EXPECT_FALSE(book_.deleteContact(known));
+  }
+  const QString deleteError = deleting + QStringLiteral("[deleteItem:8 - Can't write item to database!]");
+  EXPECT_THAT(takeMessages(), ElementsAre(saving + QStringLiteral("[writeItem:9 - Can't write to database!]"),
+                                          deleteError, deleteError));
+  EXPECT_EQ(fileOf(contactsFile), contactBytes_);
+  EXPECT_EQ(fileOf(circleFile_), memberBytes_);
+  EXPECT_FALSE(book_.findContact(known));
+}
+
+TEST_F(AddressBookOnDisk, orphanThatCannotBeDeletedIsToldAndLoadingGoesOn) {
+  writeBytes(pathOf(QStringLiteral("Aces.grp")), packMember(QStringLiteral("Gone")));
+  {
+    const FileSizeLimit limit(0);
+    EXPECT_TRUE(startsAgain(folder_.path()));
+  }
+  EXPECT_THAT(takeMessages(),
+              ElementsAre(deleting + QStringLiteral("[deleteItem:8 - Can't write item to database!]")));
+  EXPECT_TRUE(next_->findGroup(QStringLiteral("Aces"))->members().empty());
+  EXPECT_TRUE(next_->findGroup(circle)->contains(known));
+}
+
+TEST_F(AddressBookOnDisk, folderThatGoesAwayGivesEachMessageAndMayComeBack) {
+  const QString away = folder_.path() + QStringLiteral(" away");
+  ASSERT_TRUE(QDir().rename(folder_.path(), away));
+  EXPECT_FALSE(save(known));
+  EXPECT_FALSE(book_.createGroup(QStringLiteral("New")));
+  EXPECT_FALSE(book_.addMember(circle, known));
+  EXPECT_FALSE(book_.removeMember(circle, known));
+  EXPECT_FALSE(book_.deleteGroup(circle));
+  EXPECT_THAT(
+      takeMessages(),
+      ElementsAre(saving + QStringLiteral("[writeItem:3 - Database open error!]"), creating,
+                  adding + QStringLiteral("[writeItem:3 - Database open error!]"),
+                  deleting + QStringLiteral("[deleteItem:2 - Database access share error!]"), removing));
+  EXPECT_FALSE(startsAgain(folder_.path()));
+  EXPECT_EQ(takeMessages().last(), connecting + readOpenError);
+  ASSERT_TRUE(QDir().rename(away, folder_.path()));
+  EXPECT_TRUE(save(fresh) && startsAgain(folder_.path()));
+  EXPECT_TRUE(next_->findContact(known) && next_->findContact(fresh));
+  EXPECT_THAT(takeMessages(), IsEmpty());
+}
+
+// Nobody in particular for a while, when the tests run as the superuser, whom no permission stops.
+class Unprivileged {
+ public:
+  Unprivileged() : before_(::geteuid()) {
+    if (before_ == 0) become(nobody);
+  }
+  ~Unprivileged() {
+    if (before_ == 0) become(before_);
+  }
+  Unprivileged(const Unprivileged&) = delete;
+  Unprivileged& operator=(const Unprivileged&) = delete;
+
+ private:
+  static constexpr uid_t nobody = 65534;
+
+  static void become(uid_t user) { EXPECT_EQ(::seteuid(user), 0); }
+
+  uid_t before_;
+};
+
+void allow(const QString& path, mode_t permissions) {
+  ASSERT_EQ(::chmod(qPrintable(path), permissions), 0);
+}
+
+TEST_F(AddressBookOnDisk, readOnlyFolderIsReadAndRefusesEveryChange) {
+  allow(pathOf(contactsFile), 0444);
+  allow(pathOf(circleFile_), 0666);
+  allow(folder_.path(), 0555);
+  {
+    const Unprivileged user;
+    if (!QFile(pathOf(circleFile_)).open(QIODevice::ReadOnly)) GTEST_SKIP() << "the folder can't be entered";
+    EXPECT_TRUE(startsAgain(folder_.path()));
+    EXPECT_TRUE(next_->findGroup(circle)->contains(known));
+    EXPECT_FALSE(save(known));
+    EXPECT_FALSE(book_.createGroup(QStringLiteral("New")));
+    EXPECT_FALSE(book_.deleteGroup(circle)) << "its file can be written, but not be removed";
+    EXPECT_FALSE(book_.deleteContact(known));
+  }
+  EXPECT_THAT(takeMessages(),
+              ElementsAre(QStringLiteral("0 Can't create the personal contacts database: ") +
+                              pathOf(QStringLiteral("My Personal Contacts.grp")) +
+                              QStringLiteral(" Error=[createDb:1 - Can't create the database!]"),
+                          saving + QStringLiteral("[writeItem:3 - Database open error!]"), creating, removing,
+                          deleting + QStringLiteral("[deleteItem:2 - Database access share error!]")));
+  allow(folder_.path(), 0700);
+  EXPECT_EQ(fileOf(contactsFile), contactBytes_);
+  EXPECT_EQ(fileOf(circleFile_), memberBytes_);
+}
+
+TEST_F(AddressBookOnDisk, unreadableFilesEndTheLoading) {
+  allow(folder_.path(), 0777);
+  for (const QString& file : {circleFile_, contactsFile}) {
+    allow(pathOf(file), 0);
+    const Unprivileged user;
+    EXPECT_FALSE(startsAgain(folder_.path()));
+    EXPECT_THAT(takeMessages(), ElementsAre(connecting + readOpenError)) << qPrintable(file);
+  }
+}
+
+TEST_F(AddressBookOnDisk, folderInPlaceOfFileGivesTheOpenMessages) {
+  ASSERT_TRUE(QFile::remove(pathOf(contactsFile)) && QDir(folder_.path()).mkdir(contactsFile));
+  ASSERT_TRUE(QFile::remove(pathOf(circleFile_)) && QDir(folder_.path()).mkdir(circleFile_));
+  EXPECT_FALSE(save(known));
+  EXPECT_FALSE(book_.deleteGroup(circle));
+  EXPECT_FALSE(startsAgain(folder_.path()));
+  EXPECT_THAT(takeMessages(), ElementsAre(saving + QStringLiteral("[writeItem:3 - Database open error!]"),
+                                          removing, connecting + readOpenError));
+  EXPECT_TRUE(QDir(pathOf(circleFile_)).exists());
+}
+
+TEST_F(AddressBookOnDisk, folderAtTheGroupsPathIsNoGroup) {
+  ASSERT_TRUE(QFile::remove(pathOf(circleFile_)) && QDir(folder_.path()).mkdir(circleFile_));
+  EXPECT_TRUE(startsAgain(folder_.path()));
+  EXPECT_FALSE(next_->findGroup(circle));
+  EXPECT_FALSE(next_->createGroup(circle, {known}));
+  EXPECT_TRUE(next_->findGroup(circle)->contains(known));
+  EXPECT_THAT(takeMessages(), ElementsAre(creating));
+}
+
+TEST_F(AddressBookOnDisk, groupsOfAnyNameThatFilesCanHaveComeBack) {
+  const struct {
+    QString group;
+    QString file;
+    QString readBack;
+  } cases[] = {
+      {QStringLiteral("."), QStringLiteral("-9.grp"), QStringLiteral(".")},
+      {QStringLiteral(".."), QStringLiteral("-9-9.grp"), QStringLiteral("..")},
+      {QStringLiteral("../x"), QStringLiteral("-9-9-4x.grp"), QStringLiteral("../x")},
+      {QStringLiteral("%\\:/*?\"'.<>"), QStringLiteral("-1-2-3-4-5-6-7-8-9-A-B.grp"),
+       QStringLiteral("%\\:/*?\"'.<>")},
+      {QStringLiteral("--"), QStringLiteral("----.grp"), QStringLiteral("--")},
+      {QStringLiteral(" two  blanks "), QStringLiteral(" two  blanks .grp"), QStringLiteral(" two  blanks ")},
+      {QStringLiteral("Zo\u00EB \u4E2D"), QStringLiteral("Zo\u00EB \u4E2D.grp"),
+       QStringLiteral("Zo\u00EB \u4E2D")},
+      {QStringLiteral(".grp"), QStringLiteral("-9grp.grp"), QStringLiteral(".grp")},
+      {QString(), QStringLiteral(".grp"), QString()},
+      {QString(251, u'g'), QString(251, u'g') + QStringLiteral(".grp"), QString(251, u'g')},
+      {QStringLiteral("a-1"), QStringLiteral("a--1.grp"), QStringLiteral("a%")},
+  };
+  for (const auto& each : cases) {
+    EXPECT_TRUE(book_.createGroup(each.group, {known})) << qPrintable(each.group);
+    EXPECT_EQ(fileOf(each.file), packMember(known)) << qPrintable(each.file);
+  }
+  EXPECT_TRUE(startsAgain(folder_.path()));
+  for (const auto& each : cases) {
+    const GroupFile* group = next_->findGroup(each.readBack);
+    EXPECT_TRUE(group && group->contains(known)) << qPrintable(each.readBack);
+  }
+  EXPECT_THAT(takeMessages(), IsEmpty());
+}
+
+TEST_F(AddressBookOnDisk, groupNamesThatNoFileCanHaveAreRefused) {
+  for (const QString& name : {QString(252, u'g'), QString(130, u'.'), QStringLiteral("a") + QChar(u'\0')}) {
+    EXPECT_FALSE(book_.createGroup(name, {known}));
+    EXPECT_THAT(takeMessages(), ElementsAre(creating));
+    EXPECT_TRUE(book_.findGroup(name)->contains(known));
+    EXPECT_FALSE(book_.deleteGroup(name));
+    EXPECT_THAT(takeMessages(), ElementsAre(removing));
+  }
+}
+
+TEST_F(AddressBookOnDisk, foldersOfAnyNameWork) {
+  const QString long255(255, u'f');
+  for (const QString& name : {QStringLiteral("with  blanks "), QStringLiteral("Kont\u00E4kte \u4E2D\u6587"),
+                              QStringLiteral("-9%\\:*?\"'"), long255, QStringLiteral("deep/er/and/deeper")}) {
+    ASSERT_TRUE(QDir(folder_.path()).mkpath(name));
+    AddressBook book(pathOf(name), database_, notifier_);
+    ContactRecord contact;
+    contact.name = fresh;
+    EXPECT_TRUE(book.saveContact(contact) && book.createGroup(circle, {fresh})) << qPrintable(name);
+    // With the separator at its end it is the same folder.
+    EXPECT_TRUE(startsAgain(pathOf(name) + QDir::separator()));
+    EXPECT_TRUE(next_->findGroup(circle)->contains(fresh)) << qPrintable(name);
+  }
+  EXPECT_THAT(takeMessages(), IsEmpty());
+}
+
+}  // namespace
+}  // namespace parlexo
