@@ -1,0 +1,132 @@
+// Files that a program sharing no code with this one has written (tools/make-golden-contacts): they are
+// read as meant, and the store writes the very same bytes.
+
+#include <QDir>
+#include <gmock/gmock.h>
+
+#include "contacts/contact_file_format.h"
+#include "tests/contacts/store_fixture.h"
+
+namespace parlexo {
+namespace {
+
+using testing::IsEmpty;
+
+const QString zoe = QStringLiteral("Zo\u00EB");
+const QString zoeInSmall = QStringLiteral("zo\u00EB");
+const QString every = QStringLiteral("Every field \u20AC");
+const QString full = QString(80, u'N');
+const QString team = QStringLiteral("Team: A/2 -..");
+const QString teamFile = QStringLiteral("Team-3 A-42 ---9-9.grp");
+
+ContactRecord fullContact() {
+  ContactRecord contact = {full,
+                           u'+' + QString(19, u'1'),
+                           QStringLiteral("N"),
+                           QStringLiteral("Y"),
+                           u'+' + QString(19, u'2'),
+                           QString(60, u'e'),
+                           {}};
+  for (std::size_t i = 0; i < contact.extra.size(); ++i)
+    contact.extra[i] = QString(40, QChar(u'a' + static_cast<int>(i)));
+  return contact;
+}
+
+ContactRecord everyContact() {
+  return {every,
+          QStringLiteral("+61491570156"),
+          QStringLiteral("Y"),
+          QStringLiteral("Y"),
+          QStringLiteral("+61290000000"),
+          QStringLiteral("every@example.org"),
+          {QStringLiteral("one"), QStringLiteral("two"), QStringLiteral("three"), QStringLiteral("four"),
+           QStringLiteral("five"), QStringLiteral("six")}};
+}
+
+ContactRecord zoeContact() {
+  ContactRecord contact = {zoe,
+                           QStringLiteral("+447700900025"),
+                           QStringLiteral("Y"),
+                           QStringLiteral("N"),
+                           {},
+                           QStringLiteral("zoe@example.org"),
+                           {}};
+  contact.extra[0] = QStringLiteral("Oslo");
+  return contact;
+}
+
+bool operator==(const ContactRecord& a, const ContactRecord& b) {
+  return packContact(a) == packContact(b) && a.name == b.name && a.email == b.email && a.phone == b.phone &&
+         a.fax == b.fax && a.extra == b.extra;
+}
+
+class GoldenFiles : public AddressBookFixture {
+ protected:
+  void SetUp() override {
+    for (const QString& name : QDir(golden_).entryList(QDir::Files))
+      ASSERT_TRUE(QFile::copy(golden_ + name, pathOf(name)));
+    ASSERT_TRUE(book_.loadAll(progress_));
+  }
+  [[nodiscard]] QByteArray goldenRecord(const QString& file, int number, int size) const {
+    return readBytes(golden_ + file).mid(number * size, size);
+  }
+
+  const QString golden_ = QStringLiteral(GOLDEN_FOLDER "/");
+};
+
+TEST_F(GoldenFiles, areReadAsMeant) {
+  EXPECT_EQ(book_.contacts().size(), 7U);
+  EXPECT_TRUE(*book_.findContact(zoe) == zoeContact());
+  EXPECT_TRUE(*book_.findContact(every) == everyContact());
+  EXPECT_TRUE(*book_.findContact(full) == fullContact());
+  EXPECT_EQ(book_.findContact(QStringLiteral("Odd state"))->phone, QStringLiteral("+447700900001"));
+  EXPECT_EQ(book_.findContact(QStringLiteral("Rubbish"))->phone, QStringLiteral("+447700900002"));
+  EXPECT_EQ(book_.findContact(zoeInSmall)->fax, QStringLiteral("+447700900003"));
+  EXPECT_EQ(book_.findContact(QStringLiteral("Twice"))->phone, QStringLiteral("+447700900005"));
+  EXPECT_FALSE(book_.findContact(QStringLiteral("Gone")));
+
+  EXPECT_EQ(book_.groups().size(), 3U);
+  EXPECT_EQ(book_.findGroup(team)->members().size(), 3U);
+  for (const QString& name : {zoe, full, QStringLiteral("Rubbish")})
+    EXPECT_EQ(book_.findGroup(team)->members().at(name), book_.findContact(name));
+  EXPECT_TRUE(book_.findGroup(QStringLiteral("a%"))->contains(every));
+  EXPECT_THAT(notifier_.shown, IsEmpty());
+}
+
+TEST_F(GoldenFiles, readingChangesNoByte) {
+  for (const QString& name : QDir(golden_).entryList(QDir::Files))
+    EXPECT_EQ(readBytes(pathOf(name)), readBytes(golden_ + name)) << qPrintable(name);
+}
+
+TEST_F(GoldenFiles, sameContactsAndMembersAreWrittenInTheSameBytes) {
+  AddressBook copy(pathOf(QStringLiteral("copy")), database_, notifier_);
+  ASSERT_TRUE(QDir(folder_.path()).mkdir(QStringLiteral("copy")));
+  EXPECT_TRUE(copy.saveContact(zoeContact()) && copy.saveContact(everyContact()) &&
+              copy.saveContact(fullContact()));
+  EXPECT_TRUE(copy.createGroup(team, {zoe, full}));
+  const auto contacts = [this](int number) { return goldenRecord(contactsFile, number, 512); };
+  const auto members = [this](int number) { return goldenRecord(teamFile, number, 256); };
+  EXPECT_EQ(readBytes(pathOf(QStringLiteral("copy/") + contactsFile)),
+            contacts(0) + contacts(2) + contacts(3));
+  EXPECT_EQ(readBytes(pathOf(QStringLiteral("copy/") + teamFile)), members(0) + members(2));
+}
+
+TEST_F(GoldenFiles, changesTouchTheirBytesAlone) {
+  QByteArray contacts = readBytes(golden_ + contactsFile);
+  QByteArray members = readBytes(golden_ + teamFile);
+  ContactRecord odd = *book_.findContact(QStringLiteral("Odd state"));
+  odd.extra[5] = QStringLiteral("last");
+  EXPECT_TRUE(book_.saveContact(odd));
+  contacts.replace(4 * 512 + 383, 4, "last");
+  // The group's file lost this member once; the slot is still there.
+  EXPECT_TRUE(book_.addMember(team, zoeInSmall));
+  members[256] = 1;
+  EXPECT_TRUE(book_.deleteContact(zoe));
+  contacts[0] = 0;
+  members[0] = 0;
+  EXPECT_EQ(readBytes(pathOf(contactsFile)), contacts);
+  EXPECT_EQ(readBytes(pathOf(teamFile)), members);
+}
+
+}  // namespace
+}  // namespace parlexo
