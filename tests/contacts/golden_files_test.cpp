@@ -16,8 +16,8 @@ const QString zoe = QStringLiteral("Zo\u00EB");
 const QString zoeInSmall = QStringLiteral("zo\u00EB");
 const QString every = QStringLiteral("Every field \u20AC");
 const QString full = QString(80, u'N');
-const QString team = QStringLiteral("Team: A/2 -..");
-const QString teamFile = QStringLiteral("Team-3 A-42 ---9-9.grp");
+const QString oddTeam = QStringLiteral("Team: A/2 -..");
+const QString oddTeamFile = QStringLiteral("Team-3 A-42 ---9-9.grp");
 
 ContactRecord fullContact() {
   ContactRecord contact = {full,
@@ -86,9 +86,9 @@ TEST_F(GoldenFiles, areReadAsMeant) {
   EXPECT_FALSE(book_.findContact(QStringLiteral("Gone")));
 
   EXPECT_EQ(book_.groups().size(), 3U);
-  EXPECT_EQ(book_.findGroup(team)->members().size(), 3U);
+  EXPECT_EQ(book_.findGroup(oddTeam)->members().size(), 3U);
   for (const QString& name : {zoe, full, QStringLiteral("Rubbish")})
-    EXPECT_EQ(book_.findGroup(team)->members().at(name), book_.findContact(name));
+    EXPECT_EQ(book_.findGroup(oddTeam)->members().at(name), book_.findContact(name));
   EXPECT_TRUE(book_.findGroup(QStringLiteral("a%"))->contains(every));
   EXPECT_THAT(notifier_.shown, IsEmpty());
 }
@@ -103,29 +103,29 @@ TEST_F(GoldenFiles, sameContactsAndMembersAreWrittenInTheSameBytes) {
   ASSERT_TRUE(QDir(folder_.path()).mkdir(QStringLiteral("copy")));
   EXPECT_TRUE(copy.saveContact(zoeContact()) && copy.saveContact(everyContact()) &&
               copy.saveContact(fullContact()));
-  EXPECT_TRUE(copy.createGroup(team, {zoe, full}));
+  EXPECT_TRUE(copy.createGroup(oddTeam, {zoe, full}));
   const auto contacts = [this](int number) { return goldenRecord(contactsFile, number, 512); };
-  const auto members = [this](int number) { return goldenRecord(teamFile, number, 256); };
+  const auto members = [this](int number) { return goldenRecord(oddTeamFile, number, 256); };
   EXPECT_EQ(readBytes(pathOf(QStringLiteral("copy/") + contactsFile)),
             contacts(0) + contacts(2) + contacts(3));
-  EXPECT_EQ(readBytes(pathOf(QStringLiteral("copy/") + teamFile)), members(0) + members(2));
+  EXPECT_EQ(readBytes(pathOf(QStringLiteral("copy/") + oddTeamFile)), members(0) + members(2));
 }
 
 TEST_F(GoldenFiles, changesTouchTheirBytesAlone) {
   QByteArray contacts = readBytes(golden_ + contactsFile);
-  QByteArray members = readBytes(golden_ + teamFile);
+  QByteArray members = readBytes(golden_ + oddTeamFile);
   ContactRecord odd = *book_.findContact(QStringLiteral("Odd state"));
   odd.extra[5] = QStringLiteral("last");
   EXPECT_TRUE(book_.saveContact(odd));
   contacts.replace(4 * 512 + 383, 4, "last");
   // The group's file lost this member once; the slot is still there.
-  EXPECT_TRUE(book_.addMember(team, zoeInSmall));
+  EXPECT_TRUE(book_.addMember(oddTeam, zoeInSmall));
   members[256] = 1;
   EXPECT_TRUE(book_.deleteContact(zoe));
   contacts[0] = 0;
   members[0] = 0;
   EXPECT_EQ(readBytes(pathOf(contactsFile)), contacts);
-  EXPECT_EQ(readBytes(pathOf(teamFile)), members);
+  EXPECT_EQ(readBytes(pathOf(oddTeamFile)), members);
 }
 
 }  // namespace
