@@ -33,7 +33,7 @@ class DiskStores final : public RunStores {
  private:
   Notifier& notifier_;
   Progress& progress_;
-  PumpingLockWaiter waiter_;
+  PumpingLockWaiter waiter_{progress_};
   ItemIndexCache indexes_;
   ItemDatabase database_{indexes_, waiter_};
   AddressBook addressBook_;

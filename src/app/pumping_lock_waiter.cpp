@@ -1,7 +1,5 @@
 #include "app/pumping_lock_waiter.h"
 
-#include <chrono>
-
 #include <QEventLoop>
 #include <QTimer>
 
@@ -9,13 +7,44 @@
 
 namespace parlexo {
 
+namespace {
+
+constexpr qint64 stepsPerSecond = 2;
+
+}  // namespace
+
+PumpingLockWaiter::PumpingLockWaiter(Progress& progress, std::chrono::milliseconds step)
+    : progress_(progress), step_(step) {
+  clock_.start();
+}
+
+qint64 PumpingLockWaiter::nowSeconds() {
+  return clock_.elapsed() / (step_.count() * stepsPerSecond);
+}
+
 void PumpingLockWaiter::pause() {
-  using namespace std::chrono_literals;
+  if (!isWaiting_) showBox();
   // What is pressed meanwhile must not reach a page: it would use the store while the store waits.
   const InputBlock block;
   QEventLoop loop;
-  QTimer::singleShot(500ms, &loop, &QEventLoop::quit);
+  QTimer::singleShot(step_, &loop, &QEventLoop::quit);
   loop.exec();
+}
+
+void PumpingLockWaiter::showBox() {
+  const QString text = QStringLiteral("Waiting for another user to finish with the contacts...");
+  isWaiting_ = true;
+  labelBefore_ = progress_.text();
+  progress_.show(text);
+  progress_.setText(text);
+}
+
+void PumpingLockWaiter::waitIsOver() {
+  isWaiting_ = false;
+  if (labelBefore_.isNull())
+    progress_.hide();
+  else
+    progress_.setText(labelBefore_);
 }
 
 }  // namespace parlexo

@@ -1,22 +1,35 @@
 #pragma once
 
-#include <QElapsedTimer>
+#include <chrono>
 
+#include <QElapsedTimer>
+#include <QString>
+
+#include "base/progress.h"
 #include "contacts/lock_waiter.h"
 
 namespace parlexo {
 
-/// Waits for a file that somebody else holds without freezing the program: windows are repainted
-/// meanwhile, input is dropped.
+/// Waits for a file that somebody else holds without freezing the program: the progress box says so,
+/// windows are repainted meanwhile, input is dropped.
 class PumpingLockWaiter final : public LockWaiter {
  public:
-  PumpingLockWaiter() { clock_.start(); }
+  /// `step` is how long a pause takes. With a shorter one the clock runs faster in proportion.
+  explicit PumpingLockWaiter(Progress& progress,
+                             std::chrono::milliseconds step = std::chrono::milliseconds(500));
 
-  [[nodiscard]] qint64 nowSeconds() override { return clock_.elapsed() / 1000; }
+  [[nodiscard]] qint64 nowSeconds() override;
   void pause() override;
+  void waitIsOver() override;
 
  private:
+  void showBox();
+
+  Progress& progress_;
+  std::chrono::milliseconds step_;
   QElapsedTimer clock_;
+  bool isWaiting_ = false;
+  QString labelBefore_;  ///< null when there was no box
 };
 
 }  // namespace parlexo

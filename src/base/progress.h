@@ -17,6 +17,8 @@ class Progress {
   virtual void setText(const QString& text) = 0;
   /// Removes the box; harmless when there is none.
   virtual void hide() = 0;
+  /// The label of a showing box; a null string when there is none.
+  [[nodiscard]] virtual QString text() const { return {}; }
 
  protected:
   Progress() = default;

@@ -87,6 +87,26 @@ std::vector<char> allocate(qint64 size, const Failure& failure) {
   }
 }
 
+// Tells the waiter when its pauses are over.
+class Wait {
+ public:
+  explicit Wait(LockWaiter& waiter) : waiter_(waiter) {}
+  ~Wait() {
+    if (hasPaused_) waiter_.waitIsOver();
+  }
+  Wait(const Wait&) = delete;
+  Wait& operator=(const Wait&) = delete;
+
+  void pause() {
+    hasPaused_ = true;
+    waiter_.pause();
+  }
+
+ private:
+  LockWaiter& waiter_;
+  bool hasPaused_ = false;
+};
+
 // Hands out the records of a file one after the other. Before the block lies the record that came last, so
 // that a short record at the file's end can be filled up from it.
 class BlockReader {
@@ -160,11 +180,12 @@ ItemDatabase::ItemDatabase(ItemIndexCache& cache, LockWaiter& waiter) : cache_(c
 SharedFile::OpenResult ItemDatabase::openWithWait(SharedFile& file, const QString& path,
                                                   SharedFile::Mode mode, int timeout) {
   const qint64 start = waiter_.nowSeconds();
+  Wait wait(waiter_);
   for (;;) {
     const SharedFile::OpenResult result = file.open(path, mode);
     if (result != SharedFile::OpenResult::SharingViolation) return result;
     if (waiter_.nowSeconds() - start > timeout) return result;
-    waiter_.pause();
+    wait.pause();
   }
 }
 

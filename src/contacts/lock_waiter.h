@@ -14,6 +14,8 @@ class LockWaiter {
   [[nodiscard]] virtual qint64 nowSeconds() = 0;
   /// Lets 500 milliseconds go by.
   virtual void pause() = 0;
+  /// Called once after the last pause of an operation, whether or not the file was got.
+  virtual void waitIsOver() {}
 
  protected:
   LockWaiter() = default;

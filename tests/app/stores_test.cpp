@@ -1,3 +1,6 @@
+#include <chrono>
+#include <functional>
+
 #include <QElapsedTimer>
 #include <QFile>
 #include <QTemporaryDir>
@@ -6,7 +9,9 @@
 
 #include "app/disk_stores.h"
 #include "app/pumping_lock_waiter.h"
+#include "gateway/boxes/progress_box.h"
 #include "tests/app/run_fakes.h"
+#include "tests/contacts/other_process.h"
 
 namespace parlexo {
 namespace {
@@ -62,18 +67,81 @@ TEST_F(DiskStoresTest, firstStartMissesTheStatusFileOnceAndHasThePersonalGroup) 
   EXPECT_EQ(journal_, Journal());
 }
 
-TEST(PumpingLockWaiter, eventsRunWhileItWaits) {
-  PumpingLockWaiter waiter;
+class WaitingForOthers : public testing::Test {
+ protected:
+  bool write() {
+    QString error;
+    const QByteArray record("\1Anna1111111", 12);
+    const bool written = database_.writeItem(error, 4, path_, int(record.size()), record, 60);
+    EXPECT_EQ(error, QString());
+    return written;
+  }
+  // Called from within the wait: the loop that runs then is the one that keeps the program alive.
+  void laterDo(const std::function<void()>& action) { QTimer::singleShot(20, &context_, action); }
+
+  QTemporaryDir folder_;
+  QString path_ = folder_.filePath(u"items"_qs);
+  QObject context_;
+  ProgressBox box_;
+  PumpingLockWaiter waiter_{box_, std::chrono::milliseconds(5)};
+  ItemIndexCache cache_;
+  ItemDatabase database_{cache_, waiter_};
+  const QString waitingText_ = u"Waiting for another user to finish with the contacts..."_qs;
+};
+
+TEST_F(WaitingForOthers, boxSaysSoWhileEventsRunAndGoesWithTheOtherProcess) {
+  OtherProcess other(path_, LOCK_EX);
+  QString label;
+  laterDo([&] {
+    label = box_.text();
+    other.leave();
+  });
+  EXPECT_TRUE(write());
+  EXPECT_EQ(label, waitingText_);
+  EXPECT_FALSE(box_.isShowing());
+}
+
+TEST_F(WaitingForOthers, boxThatWasThereGetsItsLabelBack) {
+  box_.show(u"Loading Group \"x\"..."_qs);
+  OtherProcess other(path_, LOCK_SH);
+  QString label;
+  laterDo([&] {
+    label = box_.text();
+    other.leave();
+  });
+  EXPECT_TRUE(write());
+  EXPECT_EQ(label, waitingText_);
+  EXPECT_EQ(box_.text(), u"Loading Group \"x\"..."_qs);
+}
+
+TEST_F(WaitingForOthers, fileThatIsFreeBringsNoBox) {
   bool ran = false;
-  QTimer timer;
-  timer.setSingleShot(true);
-  QObject::connect(&timer, &QTimer::timeout, [&ran] { ran = true; });
-  timer.start(10);
+  laterDo([&] { ran = true; });
+  EXPECT_TRUE(write());
+  EXPECT_FALSE(ran || box_.isShowing());
+}
+
+TEST_F(WaitingForOthers, patienceEndsAfterItsSecondsOfHalfSecondSteps) {
+  const OtherProcess other(path_, LOCK_EX);
+  // The clock runs a hundred times faster: the 30 seconds of reading an index take 0.31 s.
+  QString error;
+  const QByteArray record("\1Anna1111111", 12);
+  QElapsedTimer time;
+  time.start();
+  EXPECT_FALSE(database_.writeItem(error, 4, path_, 12, record, 60));
+  EXPECT_EQ(error, u"[readAllItems:1 - Database access share error!]"_qs);
+  EXPECT_GE(time.elapsed(), 300);
+  EXPECT_LT(time.elapsed(), 10'000);
+  EXPECT_FALSE(box_.isShowing());
+}
+
+TEST_F(WaitingForOthers, pauseIsHalfSecondUnlessTold) {
+  PumpingLockWaiter waiter(box_);
   QElapsedTimer time;
   time.start();
   waiter.pause();
-  EXPECT_TRUE(ran);
   EXPECT_GE(time.elapsed(), 490);
+  waiter.waitIsOver();
 }
 
 }  // namespace

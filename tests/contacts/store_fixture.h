@@ -28,10 +28,12 @@ class FakeWaiter final : public LockWaiter {
     ++halfSeconds_;
     if (onPause) onPause();
   }
+  void waitIsOver() override { ++waitsOver; }
   [[nodiscard]] qint64 pauses() const { return halfSeconds_; }
 
   std::function<void()> onOpening;
   std::function<void()> onPause;
+  int waitsOver = 0;
 
  private:
   qint64 halfSeconds_ = 0;

@@ -49,6 +49,10 @@ void ProgressBox::hide() {
   remove();
 }
 
+QString ProgressBox::text() const {
+  return box_ ? box_->text() : QString();
+}
+
 void ProgressBox::remove() {
   QPointer<QWidget> parent = box_ ? box_->parentWidget() : nullptr;
   const bool wasActive = box_ && box_->isActiveWindow();

@@ -21,6 +21,7 @@ class ProgressBox final : public Progress {
   void show(const QString& text = {}) override;
   void setText(const QString& text) override;
   void hide() override;
+  [[nodiscard]] QString text() const override;
 
   [[nodiscard]] bool isShowing() const { return !box_.isNull(); }
 
