@@ -1,0 +1,44 @@
+#pragma once
+
+#include <memory>
+#include <unordered_map>
+
+#include <QByteArray>
+#include <QHash>  // std::hash of QString
+#include <QString>
+#include <sqlite3.h>
+
+#include "contacts/contact_record.h"
+
+namespace parlexo {
+
+/// An address book in an SQLite database, to measure ours against: the same contacts and groups, the same
+/// maps in memory, and every transaction as durable as our writes (WAL, synchronous=FULL).
+class SqliteBook {
+ public:
+  struct Contents {
+    std::unordered_map<QString, ContactRecord> contacts;
+    std::unordered_map<QString, std::unordered_map<QString, const ContactRecord*>> groups;
+  };
+
+  /// Opens the database, which is made where missing.
+  explicit SqliteBook(const QByteArray& path);
+
+  /// Fills an empty database with the sample contacts and groups, in one transaction.
+  void fill(int contactTotal, int groupTotal);
+  [[nodiscard]] Contents load() const;
+  /// Adds or changes one contact in a transaction of its own. False on failure.
+  [[nodiscard]] bool save(const ContactRecord& contact) const;
+
+ private:
+  using Database = std::unique_ptr<sqlite3, decltype(&sqlite3_close)>;
+  using Statement = std::unique_ptr<sqlite3_stmt, decltype(&sqlite3_finalize)>;
+
+  [[nodiscard]] bool run(const char* sql) const;
+  [[nodiscard]] Statement prepare(const char* sql) const;
+
+  Database database_;
+  Statement saving_;
+};
+
+}  // namespace parlexo
