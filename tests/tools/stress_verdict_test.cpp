@@ -6,8 +6,8 @@
 #include <gmock/gmock.h>
 
 #include "contacts/contact_file_format.h"
+#include "tools/contact_store_stress/stress_record.h"
 #include "tools/contact_store_stress/verdict.h"
-#include "tools/contact_store_stress/worker.h"
 
 namespace parlexo::stress {
 namespace {
@@ -22,7 +22,7 @@ constexpr char deleted = 0;
 class StressVerdict : public testing::Test {
  protected:
   void stored(const std::string& key, const std::string& value, char state = inUse) {
-    std::string record = recordFor(key, value);
+    std::string record = recordFor(Kind::Contacts, key, value);
     record[0] = state;
     file_ += record;
   }
@@ -30,7 +30,16 @@ class StressVerdict : public testing::Test {
   std::vector<std::string> problems(const std::string& journal) {
     write("journal", journal);
     write("database", file_);
-    return judge(pathOf("database"), {pathOf("journal")}).problems;
+    return judge(Kind::Contacts, pathOf("database"), {pathOf("journal")}).problems;
+  }
+
+  // An "@" in the journal stands for the group's file.
+  std::vector<std::string> groupProblems(std::string journal) {
+    for (std::size_t at = 0; (at = journal.find('@', at)) != std::string::npos;)
+      journal.replace(at, 1, pathOf("group") + '|');
+    write("journal", journal);
+    write("group", file_);
+    return judgeGroups({pathOf("group")}, {pathOf("journal")}).problems;
   }
 
   std::string file_;
@@ -95,6 +104,35 @@ TEST_F(StressVerdict, damagedFileIsFound) {
   stored("Ann", "second");
   stored("Bob", "from nowhere");
   EXPECT_THAT(problems(twoWrites), ElementsAre(HasSubstr("Bob: nobody wrote this")));
+}
+
+TEST_F(StressVerdict, memberMustStayUnlessSomethingMayHaveTakenItAway) {
+  const std::string added = "begin\tw\t10\t@Ann\tmember\ndone\t20\n";
+  const struct {
+    std::string after;
+    bool mayBeMissing;
+  } cases[] = {
+      {"", false},
+      {"begin\tw\t30\t@Bob\tmember\ndone\t40\n", false},
+      {"begin\td\t30\t@Bob\t\ndone\t40\n", false},
+      {"begin\td\t30\t@Ann\t\n", true},
+      {"begin\td\t30\t@Ann\t\nnothing\n", false},
+      {"begin\tr\t30\t@\t\ndone\t40\n", true},
+      {"begin\tr\t1\t@\t\ndone\t15\n", true},
+      {"begin\tr\t1\t@\t\ndone\t9\n", false},
+      {"begin\tr\t30\t@\t\ndone\t40\nbegin\tw\t50\t@Ann\tmember\ndone\t60\n", false},
+  };
+  file_ = recordFor(Kind::Members, "Bob", {});
+  for (const auto& each : cases) {
+    const std::string known = added + each.after + "begin\tw\t70\t@Bob\tmember\ndone\t80\n";
+    EXPECT_EQ(groupProblems(known).empty(), each.mayBeMissing) << each.after;
+  }
+  file_ += recordFor(Kind::Members, "Ann", {}) + recordFor(Kind::Members, "Bob", {});
+  const std::string both = added + "begin\tw\t70\t@Bob\tmember\ndone\t80\n";
+  EXPECT_THAT(groupProblems(both), IsEmpty());
+  EXPECT_THAT(groupProblems(added), ElementsAre(HasSubstr("Bob: nobody wrote this")));
+  file_ += "x";
+  EXPECT_THAT(groupProblems(both), ElementsAre(HasSubstr("ends within a record")));
 }
 
 }  // namespace

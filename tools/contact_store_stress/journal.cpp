@@ -31,6 +31,10 @@ void JournalWriter::end(bool success) {
   line(std::string(success ? "done\t" : "failed\t") + std::to_string(nowNanoseconds()));
 }
 
+void JournalWriter::endWithoutEffect() {
+  line("nothing");
+}
+
 void JournalWriter::complain(const std::string& what) {
   line("complaint\t" + what);
 }
@@ -69,6 +73,8 @@ Journal readJournal(const std::string& path) {
     } else if (fields[0] == "done") {
       journal.operations.back().ended = std::stoll(fields[1]);
       journal.operations.back().acknowledged = true;
+    } else if (fields[0] == "nothing") {
+      journal.operations.pop_back();
     } else if (fields[0] == "complaint") {
       journal.complaints.push_back(line);
     }

@@ -6,7 +6,7 @@
 
 namespace parlexo::stress {
 
-enum class Action : char { Write = 'w', Delete = 'd' };
+enum class Action : char { Write = 'w', Delete = 'd', RemoveFile = 'r' };
 
 /// One operation of one process as its journal tells it. Times are nanoseconds of the machine's monotonic
 /// clock, which all processes share.
@@ -33,6 +33,8 @@ class JournalWriter {
 
   void begin(Action action, const std::string& key, const std::string& value);
   void end(bool success);
+  /// The store said that it found nothing to do.
+  void endWithoutEffect();
   /// Something that must never happen; it makes the whole run fail.
   void complain(const std::string& what);
 
@@ -43,7 +45,7 @@ class JournalWriter {
 };
 
 struct Journal {
-  std::vector<Operation> operations;
+  std::vector<Operation> operations;  ///< without those that had nothing to do
   std::vector<std::string> complaints;
 };
 

@@ -1,5 +1,5 @@
-// contact-store-stress: many processes write, delete and read in one contact database and are killed at
-// random moments; afterwards the file is held against what each of them had been told.
+// contact-store-stress: many processes write, delete and read in one contacts folder and are killed at
+// random moments; afterwards the files are held against what each of them had been told.
 
 #include <sys/wait.h>
 #include <unistd.h>
@@ -17,6 +17,7 @@
 #include <QTemporaryDir>
 
 #include "tools/contact_store_stress/journal.h"
+#include "tools/contact_store_stress/stress_record.h"
 #include "tools/contact_store_stress/verdict.h"
 #include "tools/contact_store_stress/worker.h"
 
@@ -29,6 +30,7 @@ struct RunOptions {
   int seconds = 5;
   std::uint64_t seed = 1;
   QString folder;
+  bool groups = false;
 };
 
 // Starts processes, kills one now and then and starts another in its place.
@@ -51,7 +53,7 @@ class Arena {
     for (const auto& [process, number] : workers_) ::waitpid(process, nullptr, 0);
   }
 
-  [[nodiscard]] std::string database() const { return folder_ + "/All Contacts.all_grp"; }
+  [[nodiscard]] const std::string& folder() const { return folder_; }
   [[nodiscard]] const std::vector<std::string>& journals() const { return journals_; }
   [[nodiscard]] int killed() const { return killed_; }
 
@@ -59,10 +61,10 @@ class Arena {
   void startWorker() {
     const int number = static_cast<int>(journals_.size());
     journals_.push_back(folder_ + "/journal-" + std::to_string(number));
-    const WorkerTask task = {database(), journals_.back(), number, random_(), until_};
+    const WorkerTask task = {folder_, journals_.back(), number, random_(), until_};
     const pid_t process = ::fork();
     if (process == 0) {
-      work(task);
+      options_.groups ? workOnGroups(task) : workOnContacts(task);
       std::_Exit(0);
     }
     if (process > 0) workers_[process] = number;
@@ -90,7 +92,7 @@ class Arena {
 RunOptions parseOptions(const QCoreApplication& application) {
   QCommandLineParser parser;
   parser.setApplicationDescription(QStringLiteral(
-      "Lets processes work in one contact database, kills some, and checks that nothing promised was lost."));
+      "Lets processes work in one contacts folder, kills some, and checks that nothing promised was lost."));
   parser.addHelpOption();
   parser.addOptions({{QStringLiteral("processes"), QStringLiteral("How many work at the same time."),
                       QStringLiteral("N"), QStringLiteral("4")},
@@ -100,7 +102,9 @@ RunOptions parseOptions(const QCoreApplication& application) {
                       QStringLiteral("K"), QStringLiteral("1")},
                      {QStringLiteral("folder"),
                       QStringLiteral("Where to work, and leave the files; a temporary folder without it."),
-                      QStringLiteral("DIR")}});
+                      QStringLiteral("DIR")},
+                     {QStringLiteral("groups"),
+                      QStringLiteral("Delete group files and make them anew under the others' hands.")}});
   parser.process(application);
   bool processesOk = false;
   bool secondsOk = false;
@@ -108,7 +112,7 @@ RunOptions parseOptions(const QCoreApplication& application) {
   RunOptions options = {parser.value(QStringLiteral("processes")).toInt(&processesOk),
                         parser.value(QStringLiteral("seconds")).toInt(&secondsOk),
                         parser.value(QStringLiteral("seed")).toULongLong(&seedOk),
-                        parser.value(QStringLiteral("folder"))};
+                        parser.value(QStringLiteral("folder")), parser.isSet(QStringLiteral("groups"))};
   if (!processesOk || !secondsOk || !seedOk || options.processes < 1 || options.seconds < 1) {
     std::fputs("Processes, seconds and seed are whole numbers, the first two at least 1.\n", stderr);
     std::exit(2);
@@ -116,14 +120,22 @@ RunOptions parseOptions(const QCoreApplication& application) {
   return options;
 }
 
-int report(const Arena& arena) {
-  const Verdict verdict = judge(arena.database(), arena.journals());
+bool report(const char* what, const Verdict& verdict) {
   for (const std::string& problem : verdict.problems) std::printf("PROBLEM %s\n", problem.c_str());
-  std::printf(
-      "%zu processes, %d killed; %zu operations: %zu acknowledged, %zu not; %zu records; %zu problem(s)\n",
-      arena.journals().size(), arena.killed(), verdict.operations, verdict.acknowledged, verdict.interrupted,
-      verdict.records, verdict.problems.size());
-  return verdict.problems.empty() && verdict.acknowledged > 0 ? 0 : 1;
+  std::printf("%s: %zu operations: %zu acknowledged, %zu not; %zu records, %zu doubled; %zu problem(s)\n",
+              what, verdict.operations, verdict.acknowledged, verdict.interrupted, verdict.records,
+              verdict.doubled, verdict.problems.size());
+  return verdict.problems.empty() && verdict.acknowledged > 0;
+}
+
+bool isStoreSound(const Arena& arena, bool groups) {
+  const std::string& folder = arena.folder();
+  std::printf("%zu processes, %d killed\n", arena.journals().size(), arena.killed());
+  if (groups) return report("groups", judgeGroups(groupPaths(folder), arena.journals()));
+  std::vector<std::string> memberJournals;
+  for (const std::string& journal : arena.journals()) memberJournals.push_back(memberJournal(journal));
+  const bool contacts = report("contacts", judge(Kind::Contacts, contactsPath(folder), arena.journals()));
+  return report("members", judge(Kind::Members, membersPath(folder), memberJournals)) && contacts;
 }
 
 }  // namespace
@@ -139,5 +151,5 @@ int main(int argc, char** argv) {
   }
   Arena arena(options);
   arena.run();
-  return report(arena);
+  return isStoreSound(arena, options.groups) ? 0 : 1;
 }

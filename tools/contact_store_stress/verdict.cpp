@@ -6,17 +6,22 @@
 #include <map>
 #include <optional>
 
-#include "contacts/contact_file_format.h"
 #include "contacts/item_database.h"
-#include "tools/contact_store_stress/worker.h"
 
 namespace parlexo::stress {
 
 namespace {
 
 using History = std::map<std::string, std::vector<Operation>>;
-// Key -> value, or nothing for a deleted record.
-using Contents = std::map<std::string, std::optional<std::string>>;
+// The values of all records with one key, in the order of the file; nothing for a deleted one.
+struct Stored {
+  std::vector<std::optional<std::string>> values;
+
+  [[nodiscard]] bool isInUse() const {
+    return std::any_of(values.begin(), values.end(), [](const auto& value) { return value.has_value(); });
+  }
+};
+using Contents = std::map<std::string, Stored>;
 
 History readHistory(const std::vector<std::string>& journals, Verdict& verdict) {
   History history;
@@ -33,18 +38,20 @@ History readHistory(const std::vector<std::string>& journals, Verdict& verdict) 
   return history;
 }
 
-Contents readContents(const std::string& path, Verdict& verdict) {
+Contents readContents(Kind kind, const std::string& path, Verdict& verdict) {
   std::ifstream file(path, std::ios::binary);
   const std::string bytes((std::istreambuf_iterator<char>(file)), {});
-  if (bytes.size() % contactRecordSize != 0) verdict.problems.emplace_back("the file ends within a record");
+  const auto recordSize = static_cast<std::size_t>(recordSizeOf(kind));
+  if (bytes.size() % recordSize != 0) verdict.problems.push_back(path + " ends within a record");
   Contents contents;
-  for (std::size_t at = 0; at + contactRecordSize <= bytes.size(); at += contactRecordSize) {
+  for (std::size_t at = 0; at + recordSize <= bytes.size(); at += recordSize) {
     ++verdict.records;
-    const CheckedRecord record = checkRecord(&bytes[at]);
+    const CheckedRecord record = checkRecord(kind, &bytes[at]);
     if (!record.problem.empty()) verdict.problems.push_back(record.key + ": " + record.problem);
-    if (contents.count(record.key) != 0) verdict.problems.push_back(record.key + ": is there twice");
-    const bool inUse = bytes[at] == ItemDatabase::recordInUse;
-    contents[record.key] = inUse ? std::optional(record.value) : std::nullopt;
+    auto& found = contents[record.key];
+    found.values.push_back(bytes[at] == ItemDatabase::recordInUse ? std::optional(record.value)
+                                                                  : std::nullopt);
+    if (found.values.size() > 1) ++verdict.doubled;
   }
   return contents;
 }
@@ -71,22 +78,57 @@ bool isExplained(const std::vector<Operation>& all, const std::optional<std::str
   });
 }
 
+// What was promised to be there, is, unless something may have taken it away since.
+bool isMissing(const std::vector<Operation>& all, const std::vector<Operation>& removals) {
+  const auto mayUndo = [](const Operation& add) {
+    return
+        [&add](const Operation& other) { return other.action != Action::Write && other.ended > add.begun; };
+  };
+  return std::any_of(all.begin(), all.end(), [&](const Operation& add) {
+    return add.action == Action::Write && add.acknowledged &&
+           std::none_of(all.begin(), all.end(), mayUndo(add)) &&
+           std::none_of(removals.begin(), removals.end(), mayUndo(add));
+  });
+}
+
 }  // namespace
 
-Verdict judge(const std::string& database, const std::vector<std::string>& journals) {
+Verdict judge(Kind kind, const std::string& database, const std::vector<std::string>& journals) {
   Verdict verdict;
   const History history = readHistory(journals, verdict);
-  const Contents contents = readContents(database, verdict);
+  const Contents contents = readContents(kind, database, verdict);
   for (const auto& [key, operations] : history) {
     const auto stored = contents.find(key);
-    const std::optional<std::string> found = stored == contents.end() ? std::nullopt : stored->second;
+    const std::optional<std::string> found =
+        stored == contents.end() ? std::nullopt : stored->second.values.back();
     if (!isExplained(operations, found)) {
       verdict.problems.push_back(key + ": shows \"" + found.value_or("(deleted)") +
                                  "\", which no operation that may have been the last has left");
     }
   }
-  for (const auto& [key, value] : contents) {
+  for (const auto& [key, stored] : contents) {
+    if (stored.values.size() > 1) verdict.problems.push_back(key + ": is there twice");
     if (history.count(key) == 0) verdict.problems.push_back(key + ": nobody wrote this");
+  }
+  return verdict;
+}
+
+Verdict judgeGroups(const std::vector<std::string>& databases, const std::vector<std::string>& journals) {
+  Verdict verdict;
+  const History history = readHistory(journals, verdict);
+  for (const std::string& database : databases) {
+    const std::string prefix = database + '|';
+    const Contents contents = readContents(Kind::Members, database, verdict);
+    const auto removed = history.find(prefix);
+    const auto removals = removed == history.end() ? std::vector<Operation>() : removed->second;
+    for (const auto& [key, operations] : history) {
+      if (key.rfind(prefix, 0) != 0) continue;
+      const auto stored = contents.find(key.substr(prefix.size()));
+      const bool isThere = stored != contents.end() && stored->second.isInUse();
+      if (!isThere && isMissing(operations, removals)) verdict.problems.push_back(key + ": is missing");
+    }
+    for (const auto& [key, stored] : contents)
+      if (history.count(prefix + key) == 0) verdict.problems.push_back(key + ": nobody wrote this");
   }
   return verdict;
 }

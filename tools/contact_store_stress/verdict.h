@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "tools/contact_store_stress/journal.h"
+#include "tools/contact_store_stress/stress_record.h"
 
 namespace parlexo::stress {
 
@@ -13,12 +14,19 @@ struct Verdict {
   std::size_t acknowledged = 0;
   std::size_t interrupted = 0;  ///< begun, with no word of how they ended
   std::size_t records = 0;      ///< in the file, deleted ones included
+  std::size_t doubled = 0;      ///< records whose key an earlier one has too
   std::vector<std::string> problems;
 };
 
 /// Holds the database file against the journals of all processes. For every key the file must show the
 /// outcome of an operation that no acknowledged one followed: nothing that was promised may be missing,
 /// nothing undone, nothing torn, and no key there twice.
-[[nodiscard]] Verdict judge(const std::string& database, const std::vector<std::string>& journals);
+[[nodiscard]] Verdict judge(Kind kind, const std::string& database, const std::vector<std::string>& journals);
+
+/// Holds files that were deleted and made anew under fire against the journals. Then the store promises
+/// less: records are whole, and a member whose adding was acknowledged is there unless something that could
+/// take it away ended after that began. A key may be there twice, and then a deletion hides only one of them.
+[[nodiscard]] Verdict judgeGroups(const std::vector<std::string>& databases,
+                                  const std::vector<std::string>& journals);
 
 }  // namespace parlexo::stress

@@ -9,6 +9,7 @@
 #include "contacts/contact_file_format.h"
 #include "contacts/item_database.h"
 #include "tools/contact_store_stress/journal.h"
+#include "tools/contact_store_stress/stress_record.h"
 
 namespace parlexo::stress {
 
@@ -16,29 +17,10 @@ namespace {
 
 constexpr int ownKeys = 20;
 constexpr int sharedKeys = 40;
+constexpr int groupKeys = 30;
+constexpr int groupCount = 3;
 constexpr int timeoutSeconds = 60;
 constexpr long pauseNanoseconds = 500'000;
-
-// FNV-1a; any hash that spreads would do.
-QString digest(const std::string& key, const std::string& value, int field) {
-  std::uint64_t hash = 0xcbf29ce484222325u + static_cast<std::uint64_t>(field);
-  for (const char byte : key + '\0' + value)
-    hash = (hash ^ static_cast<unsigned char>(byte)) * 0x100000001b3u;
-  return QString::number(hash, 16);
-}
-
-ContactRecord contactFor(const std::string& key, const std::string& value) {
-  ContactRecord contact;
-  contact.name = QString::fromStdString(key);
-  contact.email = QString::fromStdString(value);
-  contact.phone = digest(key, value, 0);
-  contact.fax = digest(key, value, 1);
-  contact.supportsSms = QStringLiteral("Y");
-  contact.supportsMedia = QStringLiteral("N");
-  for (std::size_t i = 0; i < contact.extra.size(); ++i)
-    contact.extra[i] = digest(key, value, 2 + static_cast<int>(i));
-  return contact;
-}
 
 // Tries often instead of sleeping: the fight for the file is what this program is about.
 class ImpatientWaiter final : public LockWaiter {
@@ -50,100 +32,159 @@ class ImpatientWaiter final : public LockWaiter {
   }
 };
 
-class Worker {
+// One database as one process uses it: what is done to it goes into a journal. `prefix` goes before the
+// keys there, where several databases share a journal.
+class JournaledStore {
  public:
-  explicit Worker(const WorkerTask& task)
-      : task_(task),
-        path_(QString::fromStdString(task.database)),
-        journal_(task.journal),
-        random_(task.seed) {}
+  JournaledStore(Kind kind, const std::string& path, JournalWriter& journal, ItemDatabase& database,
+                 const std::string& prefix = {})
+      : kind_(kind),
+        path_(QString::fromStdString(path)),
+        journal_(journal),
+        database_(database),
+        prefix_(prefix) {}
 
-  void run() {
-    while (nowNanoseconds() < task_.until) {
-      const auto dice = pick(10);
-      if (dice == 0) {
-        readAll();
-      } else if (dice <= 2) {
-        erase(someKey());
-      } else {
-        write(someKey());
-      }
-    }
-  }
-
- private:
-  std::uint64_t pick(std::uint64_t count) { return random_() % count; }
-
-  std::string someKey() {
-    if (pick(2) == 0) return "shared " + std::to_string(pick(sharedKeys));
-    return "own " + std::to_string(task_.number) + ' ' + std::to_string(pick(ownKeys));
-  }
-
-  void write(const std::string& key) {
-    const std::string value = std::to_string(task_.number) + '/' + std::to_string(++sequence_);
-    const QByteArray record = packContact(contactFor(key, value));
-    journal_.begin(Action::Write, key, value);
-    const bool written =
-        database_.writeItem(error_, nameWidth, path_, contactRecordSize, record, timeoutSeconds);
-    finish(written, written);
+  void write(const std::string& key, const std::string& value) {
+    const std::string record = recordFor(kind_, key, value);
+    journal_.begin(Action::Write, prefix_ + key, kind_ == Kind::Members ? memberValue : value);
+    const bool written = database_.writeItem(error_, nameWidth, path_, recordSizeOf(kind_),
+                                             QByteArrayView(record), timeoutSeconds);
+    finish(written);
   }
 
   void erase(const std::string& key) {
     bool deleted = false;
-    journal_.begin(Action::Delete, key, {});
+    journal_.begin(Action::Delete, prefix_ + key, {});
     const bool success = database_.deleteItem(error_, nameWidth, path_, QByteArray::fromStdString(key),
-                                              contactRecordSize, deleted, timeoutSeconds);
+                                              recordSizeOf(kind_), deleted, timeoutSeconds);
     // A key that came after this process had read its index is not found, and the store says so.
-    finish(success, success && deleted);
+    if (success && !deleted)
+      journal_.endWithoutEffect();
+    else
+      finish(success);
   }
 
   void readAll() {
     const auto check = [this](QByteArrayView record) {
-      const CheckedRecord checked = checkRecord(record.data());
+      const CheckedRecord checked = checkRecord(kind_, record.data());
       if (!checked.problem.empty()) journal_.complain("read " + checked.key + ": " + checked.problem);
       return true;
     };
-    if (!database_.readAllItems(error_, contactRecordSize, path_, check, timeoutSeconds)) {
+    if (!database_.readAllItems(error_, recordSizeOf(kind_), path_, check, timeoutSeconds))
       journal_.complain("reading: " + error_.toStdString());
-    }
+    error_.clear();
   }
 
-  void finish(bool success, bool promised) {
-    journal_.end(promised);
+  // The file goes with all that is in it. It may be gone already, or in use.
+  void removeFile() {
+    journal_.begin(Action::RemoveFile, prefix_, {});
+    if (database_.removeDb(path_))
+      journal_.end(true);
+    else
+      journal_.endWithoutEffect();
+  }
+
+  void makeFile() {
+    if (!database_.createDb(error_, path_)) journal_.complain(error_.toStdString());
+    error_.clear();
+  }
+
+ private:
+  void finish(bool success) {
+    journal_.end(success);
     // Eleven times in a row somebody else may append first; nothing is stored then and nothing promised.
     if (!success && !error_.contains(QLatin1String("[writeItem:5"))) journal_.complain(error_.toStdString());
     error_.clear();
   }
 
-  const WorkerTask& task_;
+  Kind kind_;
   QString path_;
-  JournalWriter journal_;
-  std::mt19937_64 random_;
-  ItemIndexCache cache_;
-  ImpatientWaiter waiter_;
-  ItemDatabase database_{cache_, waiter_};
+  JournalWriter& journal_;
+  ItemDatabase& database_;
+  std::string prefix_;
   QString error_;
-  std::uint64_t sequence_ = 0;
 };
+
+// What both kinds of work need.
+struct Process {
+  explicit Process(const WorkerTask& given) : task(given), random(given.seed) {}
+
+  [[nodiscard]] bool hasTime() const { return nowNanoseconds() < task.until; }
+  std::uint64_t pick(std::uint64_t count) { return random() % count; }
+
+  const WorkerTask& task;
+  std::mt19937_64 random;
+  ItemIndexCache cache;
+  ImpatientWaiter waiter;
+  ItemDatabase database{cache, waiter};
+};
+
+std::string someKey(Process& process) {
+  if (process.pick(2) == 0) return "shared " + std::to_string(process.pick(sharedKeys));
+  return "own " + std::to_string(process.task.number) + ' ' + std::to_string(process.pick(ownKeys));
+}
 
 }  // namespace
 
-void work(const WorkerTask& task) {
-  Worker(task).run();
+void workOnContacts(const WorkerTask& task) {
+  Process process(task);
+  JournalWriter contactJournal(task.journal);
+  JournalWriter groupJournal(memberJournal(task.journal));
+  JournaledStore contacts(Kind::Contacts, contactsPath(task.folder), contactJournal, process.database);
+  JournaledStore members(Kind::Members, membersPath(task.folder), groupJournal, process.database);
+  std::uint64_t sequence = 0;
+  while (process.hasTime()) {
+    JournaledStore& store = process.pick(3) == 0 ? members : contacts;
+    const auto dice = process.pick(10);
+    if (dice == 0)
+      store.readAll();
+    else if (dice <= 2)
+      store.erase(someKey(process));
+    else
+      store.write(someKey(process), std::to_string(task.number) + '/' + std::to_string(++sequence));
+  }
 }
 
-std::string recordFor(const std::string& key, const std::string& value) {
-  return packContact(contactFor(key, value)).toStdString();
+void workOnGroups(const WorkerTask& task) {
+  Process process(task);
+  JournalWriter journal(task.journal);
+  std::vector<JournaledStore> groups;
+  for (const std::string& path : groupPaths(task.folder))
+    groups.emplace_back(Kind::Members, path, journal, process.database, path + '|');
+  while (process.hasTime()) {
+    JournaledStore& group = groups[process.pick(groups.size())];
+    const std::string key = "member " + std::to_string(process.pick(groupKeys));
+    const auto dice = process.pick(40);
+    if (dice == 0)
+      group.removeFile();
+    else if (dice == 1)
+      group.makeFile();
+    else if (dice <= 4)
+      group.readAll();
+    else if (dice <= 12)
+      group.erase(key);
+    else
+      group.write(key, {});
+  }
 }
 
-CheckedRecord checkRecord(const char* record) {
-  const QByteArrayView bytes(record, contactRecordSize);
-  const ContactRecord contact = unpackContact(bytes);
-  CheckedRecord checked = {contact.name.toStdString(), contact.email.toStdString(), {}};
-  const std::string expected = recordFor(checked.key, checked.value);
-  if (bytes.sliced(1) != QByteArrayView(expected).sliced(1))
-    checked.problem = "the record is torn or mixed up";
-  return checked;
+std::string memberJournal(const std::string& journal) {
+  return journal + "-members";
+}
+
+std::string contactsPath(const std::string& folder) {
+  return folder + "/All Contacts.all_grp";
+}
+
+std::string membersPath(const std::string& folder) {
+  return folder + "/Team.grp";
+}
+
+std::vector<std::string> groupPaths(const std::string& folder) {
+  std::vector<std::string> paths;
+  for (int number = 0; number < groupCount; ++number)
+    paths.push_back(folder + "/Group " + std::to_string(number) + ".grp");
+  return paths;
 }
 
 }  // namespace parlexo::stress
