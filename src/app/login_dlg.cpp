@@ -9,6 +9,7 @@
 
 #include "app/banner.h"
 #include "base/product.h"
+#include "base/secret.h"
 #include "ui/hyperlink_label.h"
 #include "ui/look.h"
 #include "ui/picture_button.h"
@@ -25,6 +26,13 @@ void addLink(QVBoxLayout& column, const QString& explanation, const QString& nam
   auto* link = new HyperlinkLabel(address, QUrl(address));
   link->setObjectName(name);
   column.addWidget(link, 0, Qt::AlignLeft);
+}
+
+void wipeField(QLineEdit& field) {
+  QString text = field.text();
+  // Unlike clear(), this also drops what undo would bring back; then the text is ours alone.
+  field.setText({});
+  wipe(text);
 }
 
 }  // namespace
@@ -101,6 +109,11 @@ void CLoginDlg::logIn() {
 void CLoginDlg::reject() {
   // An attempt that is under way would come back to a dialog that is gone.
   if (!attempting_) GradientDialog::reject();
+}
+
+void CLoginDlg::done(int result) {
+  wipeField(*password_);
+  GradientDialog::done(result);
 }
 
 void CLoginDlg::showEvent(QShowEvent* event) {

@@ -20,6 +20,8 @@ class CLoginDlg : public GradientDialog {
   CLoginDlg(LoginFlow& flow, const QString& rememberedUser, QWidget* parent = nullptr);
 
   void reject() override;
+  /// Also wipes the password field.
+  void done(int result) override;
 
  protected:
   void showEvent(QShowEvent* event) override;

@@ -51,6 +51,8 @@ TEST_F(LoginDlgTest, refusedPasswordKeepsItOpenForAnotherTryByEnter) {
   EXPECT_EQ(dialog.result(), QDialog::Accepted);
   EXPECT_FALSE(dialog.isVisible());
   EXPECT_EQ(state.userName, u"demo"_qs);
+  password->undo();
+  EXPECT_EQ(password->text(), QString()) << "wiped, and not to be had back";
 }
 
 TEST_F(LoginDlgTest, firstStartBeginsWithTheUserNameAndCanBeCancelled) {

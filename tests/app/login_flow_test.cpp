@@ -2,8 +2,11 @@
 
 #include <ostream>
 
+#include <QDirIterator>
+#include <QFile>
 #include <gmock/gmock.h>
 
+#include "app/core/shut_down.h"
 #include "tests/app/run_fakes.h"
 
 namespace parlexo {
@@ -41,6 +44,21 @@ TEST_F(LoginFlowTest, acceptedLoginReplacesSessionAndIsRemembered) {
   EXPECT_EQ(state.userName, u"demo"_qs);
   EXPECT_EQ(settings.rememberedUser(), u"demo"_qs);
   EXPECT_EQ(journal, Journal());
+}
+
+TEST_F(LoginFlowTest, passwordIsWrittenNowhere) {
+  ASSERT_EQ(attempt(u"demo"_qs, u"demo1234"_qs), LoginOutcome::Accepted);
+  shutDown(state, stores, progress, runner);
+  { const Settings given = std::move(settings); }
+  int files = 0;
+  QDirIterator all(folder.path(), QDir::Files, QDirIterator::Subdirectories);
+  while (all.hasNext()) {
+    QFile file(all.next());
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    EXPECT_FALSE(file.readAll().contains("demo1234")) << file.fileName().toStdString();
+    ++files;
+  }
+  EXPECT_GT(files, 0) << "the user name is remembered";
 }
 
 TEST_F(LoginFlowTest, acceptanceWithoutTokenClosesTheDialogAndStoresNothing) {

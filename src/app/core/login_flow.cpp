@@ -1,6 +1,7 @@
 #include "app/core/login_flow.h"
 
 #include "base/message_texts.h"
+#include "base/secret.h"
 
 namespace parlexo {
 
@@ -10,9 +11,9 @@ constexpr int wrongCredentials = 4;
 
 LoginOutcome LoginFlow::attempt(const QString& user, const QString& password) {
   const auto reply = gateway_.call<protocol::sessionStartResponse>(
-      [user = toWire(user), password = toWire(password)](GatewayClient& client,
-                                                         protocol::sessionStartResponse& response) {
-        return client.sessionStart(user, password, response);
+      [user = toWire(user), password = secretToWire(password)](GatewayClient& client,
+                                                               protocol::sessionStartResponse& response) {
+        return client.sessionStart(user, *password, response);
       });
   if (!reply.answered()) {
     notifier_.error(text(TextId::GatewayUnreachable));

@@ -1,9 +1,11 @@
 #include "gateway/core/gateway_client.h"
 
-#include <utility>
+#include <cstddef>
+#include <span>
 
 #include <stdsoap2.h>
 
+#include "base/secret.h"
 #include "gateway/protocol/client_call.h"
 #include "gateway/protocol/contract.h"
 
@@ -35,6 +37,8 @@ GatewayClient::GatewayClient(const GatewayAccess& access)
 }
 
 GatewayClient::~GatewayClient() {
+  // The request may have held a password.
+  if (soap) wipe(std::as_writable_bytes(std::span(soap->buf)));
   protocol::freeContext(soap);
 }
 
@@ -43,15 +47,18 @@ void GatewayClient::watch(const CancelFlag& cancel) {
 }
 
 template <class Request, class Response>
-int GatewayClient::call(Request request, Response& response) {
+int GatewayClient::call(Request&& request, Response& response) {
   response = Response{};
   if (!soap) return noContext;
-  return protocol::call(soap, endpoint, std::move(request), response);
+  return protocol::call(soap, endpoint, request, response);
 }
 
 int GatewayClient::sessionStart(const std::string& sUser, const std::string& sPassword,
                                 protocol::sessionStartResponse& response) {
-  return call(protocol::sessionStart{sUser, sPassword}, response);
+  protocol::sessionStart request{sUser, sPassword};
+  const int result = call(request, response);
+  wipe(request.sPassword);
+  return result;
 }
 
 int GatewayClient::sessionEnd(const std::string& sSession, protocol::sessionEndResponse& response) {
@@ -135,7 +142,11 @@ int GatewayClient::getAccountHistory(const std::string& sSession,
 int GatewayClient::setAccountPassword(const std::string& sSession, const std::string& sOldPassword,
                                       const std::string& sNewPassword,
                                       protocol::setAccountPasswordResponse& response) {
-  return call(protocol::setAccountPassword{sSession, sOldPassword, sNewPassword}, response);
+  protocol::setAccountPassword request{sSession, sOldPassword, sNewPassword};
+  const int result = call(request, response);
+  wipe(request.sOldPassword);
+  wipe(request.sNewPassword);
+  return result;
 }
 
 int GatewayClient::partnerAddUser(const std::string& sSession, const std::string& sUser,
@@ -212,7 +223,10 @@ int GatewayClient::editEmailMessaging(const std::string& sSession, bool bEmailEn
 int GatewayClient::partnerStartSessionForSubUser(const std::string& sUser, const std::string& sPassword,
                                                  const std::string& sSubUser,
                                                  protocol::partnerStartSessionForSubUserResponse& response) {
-  return call(protocol::partnerStartSessionForSubUser{sUser, sPassword, sSubUser}, response);
+  protocol::partnerStartSessionForSubUser request{sUser, sPassword, sSubUser};
+  const int result = call(request, response);
+  wipe(request.sPassword);
+  return result;
 }
 
 int GatewayClient::partnerEndSessionForSubUser(const std::string& sSession,

@@ -105,7 +105,7 @@ class GatewayClient {
 
  private:
   template <class Request, class Response>
-  [[nodiscard]] int call(Request request, Response& response);
+  [[nodiscard]] int call(Request&& request, Response& response);
 
   protocol::IoPatience patience_;
 };

@@ -2,7 +2,6 @@
 
 #include <string_view>
 #include <type_traits>
-#include <utility>
 
 #include "gateway/protocol/contract.h"
 #include "gateway/protocol/fields.h"
@@ -27,9 +26,9 @@ struct Exchange {
 [[nodiscard]] int runExchange(::soap* context, const Exchange& exchange);
 
 /// The same with records: calls the operation that `Request` names. `response` is cleared first and stays
-/// cleared on failure; its strings live as long as the context.
+/// cleared on failure; its strings live as long as the context. `request` is only read.
 template <class Request, class Response>
-[[nodiscard]] int call(::soap* context, const char* endpoint, Request request, Response& response) {
+[[nodiscard]] int call(::soap* context, const char* endpoint, Request& request, Response& response) {
   const auto& operation = operationWith<Request>();
   static_assert(std::is_same_v<typename std::remove_cvref_t<decltype(operation)>::Response, Response>,
                 "the response record belongs to another operation");

@@ -102,6 +102,10 @@ std::optional<std::string> fromBase64(std::string_view text) {
   return bytes;
 }
 
+bool hasForbiddenCharacters(std::string_view text) {
+  return std::any_of(text.begin(), text.end(), isForbidden);
+}
+
 std::string withoutForbiddenCharacters(std::string text) {
   std::replace_if(text.begin(), text.end(), isForbidden, '?');
   return text;

@@ -23,6 +23,9 @@ namespace parlexo::protocol {
 /// Blanks anywhere are passed over; nothing when another character is no base64 or the length is wrong.
 [[nodiscard]] std::optional<std::string> fromBase64(std::string_view text);
 
+/// Whether `text` has bytes that no XML document may hold.
+[[nodiscard]] bool hasForbiddenCharacters(std::string_view text);
+
 /// `text` with "?" for every byte that no XML document may hold: the control characters but tab and the two
 /// of line ends.
 [[nodiscard]] std::string withoutForbiddenCharacters(std::string text);

@@ -31,6 +31,13 @@ int writeBinary(::soap& context, const char* name, const BinaryData& value) {
   return SOAP_OK;
 }
 
+int writeOwnedText(::soap& context, const char* name, const std::string& text) {
+  if (hasForbiddenCharacters(text))
+    return writeText(context, name, "xsd:string", withoutForbiddenCharacters(text));
+  // Passwords pass here, and their owner wipes them: no copy.
+  return writeText(context, name, "xsd:string", text);
+}
+
 int writeBorrowedText(::soap& context, const char* name, const char* text) {
   if (!text) return SOAP_OK;
   return writeText(context, name, "xsd:string", withoutForbiddenCharacters(text));
@@ -39,8 +46,7 @@ int writeBorrowedText(::soap& context, const char* name, const char* text) {
 int writeField(::soap& context, const Field& field) {
   switch (field.type) {
     case FieldType::Text:
-      return writeText(context, field.name, "xsd:string",
-                       withoutForbiddenCharacters(*static_cast<const std::string*>(field.value)));
+      return writeOwnedText(context, field.name, *static_cast<const std::string*>(field.value));
     case FieldType::BorrowedText:
       return writeBorrowedText(context, field.name, *static_cast<const char* const*>(field.value));
     case FieldType::Integer:

@@ -1,0 +1,47 @@
+#include "base/secret.h"
+
+#include "base/code_page.h"
+
+namespace parlexo {
+
+namespace {
+
+// Writing by way of data() to shared memory would wipe a copy made for that purpose.
+template <class Container>
+void wipeUnshared(Container& container) {
+  if (container.isDetached()) wipe(std::as_writable_bytes(std::span(container)));
+  container.resize(0);
+}
+
+}  // namespace
+
+void wipe(std::span<std::byte> memory) {
+  volatile std::byte* const bytes = memory.data();
+  for (std::size_t i = 0; i < memory.size(); ++i) bytes[i] = std::byte{};
+}
+
+void wipe(std::string& text) {
+  wipe(std::as_writable_bytes(std::span(text)));
+  text.clear();
+}
+
+void wipe(QByteArray& bytes) {
+  wipeUnshared(bytes);
+}
+
+void wipe(QString& text) {
+  wipeUnshared(text);
+}
+
+std::shared_ptr<const std::string> secretToWire(const QString& text) {
+  QByteArray bytes = toCodePage(text);
+  std::shared_ptr<std::string> secret(
+      new std::string(bytes.constData(), static_cast<std::size_t>(bytes.size())), [](std::string* owned) {
+        wipe(*owned);
+        delete owned;
+      });
+  wipe(bytes);
+  return secret;
+}
+
+}  // namespace parlexo

@@ -1,0 +1,45 @@
+#include "base/secret.h"
+
+#include <algorithm>
+
+#include <gtest/gtest.h>
+
+namespace parlexo {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+// Emptied texts keep their memory, so it may be looked at.
+template <class Text>
+void expectWiped(Text text) {
+  const auto* memory = text.data();
+  const auto size = text.size();
+  ASSERT_GT(size, 0);
+  wipe(text);
+  EXPECT_EQ(text.size(), 0);
+  ASSERT_EQ(std::as_const(text).data(), memory);
+  EXPECT_TRUE(std::all_of(memory, memory + size, [](auto each) { return each == decltype(each){}; }));
+}
+
+TEST(Secret, wipedMemoryHoldsNothingOfTheText) {
+  expectWiped(std::string("short"));
+  expectWiped(std::string("a password that is too long for the string itself"));
+  expectWiped(QByteArray("bytes"));
+  expectWiped(QString::fromLatin1("demo1234"));
+}
+
+TEST(Secret, textThatAnotherOneSharesStaysWhole) {
+  QString text = QString::fromLatin1("demo1234");
+  const QString other = text;
+  wipe(text);
+  EXPECT_EQ(text, QString());
+  EXPECT_EQ(other, u"demo1234"_qs);
+}
+
+TEST(Secret, travelsInTheCodePage) {
+  EXPECT_EQ(*secretToWire(u"p\u00E4ss\u20AC"_qs), "p\xE4ss\x80");
+  EXPECT_EQ(*secretToWire({}), "");
+}
+
+}  // namespace
+}  // namespace parlexo
