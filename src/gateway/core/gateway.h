@@ -25,6 +25,10 @@ class Reply {
   /// The runtime's result: 0 when a well-formed answer was read.
   [[nodiscard]] int result() const { return result_; }
   [[nodiscard]] bool answered() const { return result_ == 0; }
+  /// The user cancelled the call, perhaps too late to keep an answer away; or the program could not run it.
+  [[nodiscard]] bool cancelled() const { return cancelled_; }
+  /// The whole request went out and nothing readable came back: the gateway may have carried it out.
+  [[nodiscard]] bool leftInTheDark() const { return leftInTheDark_; }
   /// The response record; all zero when there was no answer.
   [[nodiscard]] const Response& operator*() const { return exchange_ ? exchange_->response : none_; }
   [[nodiscard]] const Response* operator->() const { return &**this; }
@@ -37,11 +41,14 @@ class Reply {
     GatewayClient client;
     Response response{};
     int result = 0;
+    bool cancelled = false;
   };
 
   std::shared_ptr<Exchange> exchange_;
   Response none_{};
   int result_ = exchangeLeftBehind;
+  bool cancelled_ = true;
+  bool leftInTheDark_ = false;
 };
 
 /// Where flows ask the gateway: builds a fresh GatewayClient for every call and lets the call runner run it.
@@ -61,9 +68,12 @@ class Gateway {
       exchange->client.watch(raised);
       exchange->result = operation(exchange->client, exchange->response);
       if (exchange->result != 0) exchange->response = Response{};
+      exchange->cancelled = raised.isRaised();
     });
+    reply.leftInTheDark_ = exchange->client.isOutcomeOpen();
     if (!ended) return reply;
     reply.result_ = exchange->result;
+    reply.cancelled_ = exchange->cancelled;
     reply.exchange_ = std::move(exchange);
     return reply;
   }

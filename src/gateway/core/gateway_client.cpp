@@ -50,7 +50,7 @@ template <class Request, class Response>
 int GatewayClient::call(Request&& request, Response& response) {
   response = Response{};
   if (!soap) return noContext;
-  return protocol::call(soap, endpoint, request, response);
+  return protocol::call(soap, endpoint, request, response, &isOutcomeOpen_);
 }
 
 int GatewayClient::sessionStart(const std::string& sUser, const std::string& sPassword,

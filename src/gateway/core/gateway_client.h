@@ -1,5 +1,6 @@
 #pragma once
 
+#include <atomic>
 #include <string>
 
 #include "base/call_runner.h"
@@ -23,6 +24,10 @@ class GatewayClient {
   /// From now on a raised `cancel` ends a running call within about 100 ms, with an error as its result
   /// (a name look-up excepted).
   void watch(const CancelFlag& cancel);
+
+  /// Whether a request has gone out whole and no reply has told what became of it: the gateway may have
+  /// carried it out. Any thread may ask, also during a call.
+  [[nodiscard]] bool isOutcomeOpen() const { return isOutcomeOpen_; }
 
   // One method per operation, in the contract's order: the request's fields, then the response. Each returns
   // the runtime's result: 0 when a well-formed response was read, 16 when there is no context (nothing is
@@ -108,6 +113,7 @@ class GatewayClient {
   [[nodiscard]] int call(Request&& request, Response& response);
 
   protocol::IoPatience patience_;
+  std::atomic<bool> isOutcomeOpen_ = false;
 };
 
 }  // namespace parlexo

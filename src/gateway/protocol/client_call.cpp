@@ -40,6 +40,17 @@ int httpVerdict(const ::soap& context) {
   return isError ? context.status : SOAP_OK;
 }
 
+bool isFault(int result) {
+  return result == SOAP_CLI_FAULT || result == SOAP_SVR_FAULT || result == SOAP_FAULT;
+}
+
+/// An error that the gateway reports is an answer. One that a proxy reports for it (502, 504) is none, nor is
+/// a reply that breaks off or can't be read.
+bool tellsTheOutcome(const ::soap& context, int result) {
+  const bool isProxysError = context.status == 502 || context.status == 504;
+  return result == SOAP_OK || isFault(result) || (httpVerdict(context) != SOAP_OK && !isProxysError);
+}
+
 int receiveResponse(::soap& context, const Exchange& exchange) {
   if (readToBody(context)) return context.error;
   if (readRecord(context, responseElement(exchange.operation), exchange.response) == SOAP_OK) {
@@ -53,7 +64,11 @@ int receiveResponse(::soap& context, const Exchange& exchange) {
 
 int runExchange(::soap* context, const Exchange& exchange) {
   int result = sendRequest(*context, exchange);
-  if (result == SOAP_OK) result = receiveResponse(*context, exchange);
+  if (result == SOAP_OK) {
+    if (exchange.outcomeIsOpen) *exchange.outcomeIsOpen = true;
+    result = receiveResponse(*context, exchange);
+    if (exchange.outcomeIsOpen) *exchange.outcomeIsOpen = !tellsTheOutcome(*context, result);
+  }
   // Closing may report an error of its own; the first one is the one that tells.
   soap_closesock(context);
   return result;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <atomic>
 #include <string_view>
 #include <type_traits>
 
@@ -17,6 +18,9 @@ struct Exchange {
   std::string_view operation;
   Fields request;
   Fields response;
+  /// True from the moment that the system has taken the whole request until a reply tells what became of it:
+  /// in between, and for good when none comes, the gateway may carry it out without our knowing. May be null.
+  std::atomic<bool>* outcomeIsOpen = nullptr;
 };
 
 /// Sends the request and reads the response on `context`; the connection is closed when this returns. Returns
@@ -28,7 +32,8 @@ struct Exchange {
 /// The same with records: calls the operation that `Request` names. `response` is cleared first and stays
 /// cleared on failure; its strings live as long as the context. `request` is only read.
 template <class Request, class Response>
-[[nodiscard]] int call(::soap* context, const char* endpoint, Request& request, Response& response) {
+[[nodiscard]] int call(::soap* context, const char* endpoint, Request& request, Response& response,
+                       std::atomic<bool>* outcomeIsOpen = nullptr) {
   const auto& operation = operationWith<Request>();
   static_assert(std::is_same_v<typename std::remove_cvref_t<decltype(operation)>::Response, Response>,
                 "the response record belongs to another operation");
@@ -36,7 +41,8 @@ template <class Request, class Response>
   const int result = runExchange(context, {.endpoint = endpoint,
                                            .operation = operation.name,
                                            .request = operation.fields(request),
-                                           .response = operation.fields(response)});
+                                           .response = operation.fields(response),
+                                           .outcomeIsOpen = outcomeIsOpen});
   if (result != 0) response = Response{};
   return result;
 }
