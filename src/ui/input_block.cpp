@@ -62,6 +62,15 @@ const QObject* windowOf(const QObject* target) {
   return nullptr;
 }
 
+constexpr char exemptMark[] = "takesInputDuringWaits";
+
+bool isExempt(const QObject* window) {
+  const QWidgetList widgets = QApplication::topLevelWidgets();
+  return window && std::ranges::any_of(widgets, [window](const QWidget* widget) {
+           return widget->windowHandle() == window && widget->property(exemptMark).toBool();
+         });
+}
+
 }  // namespace
 
 InputBlock::InputBlock(CloseRequests closeRequests)
@@ -78,10 +87,15 @@ bool InputBlock::holds(const QWidget& widget) {
   return std::ranges::any_of(activeBlocks(), [&](const auto* block) { return !block->lets(&widget); });
 }
 
+void InputBlock::exempt(QWidget& window) {
+  window.setProperty(exemptMark, true);
+}
+
 bool InputBlock::lets(const QObject* target) const {
+  const QObject* window = windowOf(target);
+  if (isExempt(window)) return true;
   const QWidget* modal = QApplication::activeModalWidget();
   if (!modal || modal == modalBefore_) return false;
-  const QObject* window = windowOf(target);
   const QWidget* popup = QApplication::activePopupWidget();
   const bool inPopup = popup && window == popup->windowHandle();
   return inPopup || (window && window == modal->windowHandle());

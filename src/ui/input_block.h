@@ -26,6 +26,9 @@ class InputBlock final : public QObject {
   /// Whether a press by an assistive tool, which is no input event, has to be dropped for `widget`.
   [[nodiscard]] static bool holds(const QWidget& widget);
 
+  /// From now on blocks let input for `window` pass, for a window in which a wait can be cancelled.
+  static void exempt(QWidget& window);
+
  protected:
   bool eventFilter(QObject* target, QEvent* event) override;
 

@@ -6,7 +6,9 @@
 #include <QPainter>
 
 #include "gateway/boxes/animated_picture.h"
+#include "ui/input_block.h"
 #include "ui/look.h"
+#include "ui/picture_button.h"
 
 namespace parlexo {
 
@@ -26,7 +28,13 @@ CConnectingDlg::CConnectingDlg(QWidget* parent) : GradientDialog(parent) {
   row->setSpacing(12);
   row->addWidget(animation);
   row->addWidget(label_, 1);
+  cancel_ = new PictureButton(QStringLiteral("Cancel"), this);
+  cancel_->setObjectName(QStringLiteral("cancel"));
+  cancel_->hide();
+  connect(cancel_, &PictureButton::clicked, this, &CConnectingDlg::cancel);
+  row->addWidget(cancel_);
   setMinimumSize(dialogUnits(*this, 194, 38));
+  InputBlock::exempt(*this);
 }
 
 QString CConnectingDlg::defaultText() {
@@ -39,6 +47,26 @@ QString CConnectingDlg::text() const {
 
 void CConnectingDlg::setText(const QString& text) {
   label_->setText(text.isEmpty() ? defaultText() : text);
+  growToFit();
+}
+
+void CConnectingDlg::offerCancel() {
+  if (!cancel_->isHidden()) return;
+  cancel_->show();
+  growToFit();
+}
+
+void CConnectingDlg::reject() {
+  cancel();
+}
+
+void CConnectingDlg::cancel() {
+  if (cancel_->isHidden() || !cancel_->isEnabled()) return;
+  cancel_->setEnabled(false);
+  Q_EMIT cancelled();
+}
+
+void CConnectingDlg::growToFit() {
   const QSize needed = sizeHint();
   if (needed.width() > minimumWidth()) setMinimumWidth(needed.width());
 }

@@ -6,8 +6,11 @@ class QLabel;
 
 namespace parlexo {
 
-/// The small box with animation and label that stands there while the program waits. It takes no input and
-/// blocks that of all other windows; only code closes it.
+class PictureButton;
+
+/// The small box with animation and label that stands there while the program waits. It blocks the input of
+/// all other windows and takes none but a press of its Cancel button, once that is offered; only code closes
+/// it.
 class CConnectingDlg final : public GradientDialog {
   Q_OBJECT
 
@@ -21,14 +24,26 @@ class CConnectingDlg final : public GradientDialog {
   /// stays quiet while numbers in the text count up.
   void setText(const QString& text);
 
-  void reject() override {}
+  /// Shows the Cancel button. A press, or Escape, emits cancelled() and makes the button dull.
+  void offerCancel();
+
+  /// Escape: like Cancel, as soon as that is offered.
+  void reject() override;
+
+ Q_SIGNALS:
+  /// At most once.
+  void cancelled();
 
  protected:
   void paintEvent(QPaintEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
 
  private:
+  void cancel();
+  void growToFit();
+
   QLabel* label_ = nullptr;
+  PictureButton* cancel_ = nullptr;
 };
 
 }  // namespace parlexo

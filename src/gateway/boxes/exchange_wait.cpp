@@ -59,8 +59,11 @@ class ExchangeWait::Worker {
   std::atomic<bool> ended_ = false;
 };
 
-ExchangeWait::ExchangeWait(ProgressBox& progress, std::chrono::milliseconds untilBox) : progress_(progress) {
-  QObject::connect(&boxTimer_, &QTimer::timeout, &boxTimer_, [this] { showBox(); });
+ExchangeWait::ExchangeWait(ProgressBox& progress, std::chrono::milliseconds untilBox,
+                           std::chrono::milliseconds untilCancel, std::function<void()> onCancel)
+    : progress_(progress), untilCancel_(untilCancel), onCancel_(std::move(onCancel)) {
+  if (progress_.isShowing()) (void)progress_.sinceFirstExchange();
+  QObject::connect(&boxTimer_, &QTimer::timeout, &boxTimer_, [this] { look(); });
   graceTimer_.setSingleShot(true);
   QObject::connect(&graceTimer_, &QTimer::timeout, &graceTimer_, [this] { givenUp_ = true; });
   boxTimer_.start(untilBox);
@@ -98,9 +101,13 @@ void ExchangeWait::cancel(std::chrono::milliseconds grace) {
   if (!graceTimer_.isActive()) graceTimer_.start(grace);
 }
 
-// Called again and again: the box of an exchange inside this one may have come and gone meanwhile.
+// Again and again: the box of an exchange inside this one may have come and gone meanwhile.
+void ExchangeWait::look() {
+  if (!progress_.isShowing()) showBox();
+  if (progress_.sinceFirstExchange() >= untilCancel_) progress_.offerCancel(onCancel_);
+}
+
 void ExchangeWait::showBox() {
-  if (progress_.isShowing()) return;
   showedBox_ = true;
   progress_.show();
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <chrono>
+#include <functional>
 #include <memory>
 
 #include <QTimer>
@@ -15,7 +16,10 @@ class ProgressBox;
 /// has been given up. Shows the progress box when the wait lasts and takes away what it showed.
 class ExchangeWait {
  public:
-  ExchangeWait(ProgressBox& progress, std::chrono::milliseconds untilBox);
+  /// `onCancel` is called when the user presses the Cancel that the box offers after `untilCancel`; the box
+  /// may outlive the wait, so what it refers to must outlive the box.
+  ExchangeWait(ProgressBox& progress, std::chrono::milliseconds untilBox,
+               std::chrono::milliseconds untilCancel, std::function<void()> onCancel);
   ~ExchangeWait();
   ExchangeWait(const ExchangeWait&) = delete;
   ExchangeWait& operator=(const ExchangeWait&) = delete;
@@ -30,9 +34,12 @@ class ExchangeWait {
  private:
   class Worker;
 
+  void look();
   void showBox();
 
   ProgressBox& progress_;
+  std::chrono::milliseconds untilCancel_;
+  std::function<void()> onCancel_;
   std::shared_ptr<Worker> worker_;
   CancelFlag cancelFlag_;
   QTimer boxTimer_;

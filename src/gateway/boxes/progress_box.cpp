@@ -1,5 +1,7 @@
 #include "gateway/boxes/progress_box.h"
 
+#include <utility>
+
 #include <QApplication>
 #include <QEventLoop>
 
@@ -26,6 +28,9 @@ void ProgressBox::show(const QString& text) {
     // The box may go before hide() is called: with the window it stands over.
     QObject::connect(box_, &QObject::destroyed, box_, [this] { block_.reset(); });
     if (!text.isEmpty()) box_->setText(text);
+    exchanging_.invalidate();
+    isOffered_ = false;
+    isCancelled_ = false;
   }
   box_->show();
   box_->raise();
@@ -51,6 +56,21 @@ void ProgressBox::hide() {
 
 QString ProgressBox::text() const {
   return box_ ? box_->text() : QString();
+}
+
+void ProgressBox::offerCancel(std::function<void()> cancel) {
+  if (!box_ || isOffered_) return;
+  isOffered_ = true;
+  QObject::connect(box_, &CConnectingDlg::cancelled, box_, [this, cancel = std::move(cancel)] {
+    isCancelled_ = true;
+    cancel();
+  });
+  box_->offerCancel();
+}
+
+std::chrono::milliseconds ProgressBox::sinceFirstExchange() {
+  if (!exchanging_.isValid()) exchanging_.start();
+  return std::chrono::milliseconds(exchanging_.elapsed());
 }
 
 void ProgressBox::remove() {

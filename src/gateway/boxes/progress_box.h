@@ -1,5 +1,7 @@
 #pragma once
 
+#include <chrono>
+#include <functional>
 #include <memory>
 
 #include <QElapsedTimer>
@@ -25,12 +27,24 @@ class ProgressBox final : public Progress {
 
   [[nodiscard]] bool isShowing() const { return !box_.isNull(); }
 
+  /// Offers the user to end the wait; `cancel` is called once if he does. The offer goes with the box.
+  /// Nothing happens without a box or where the offer stands already.
+  void offerCancel(std::function<void()> cancel);
+  /// Whether the user has pressed the Cancel of the box that is showing.
+  [[nodiscard]] bool isCancelled() const { return box_ && isCancelled_; }
+  /// How long exchanges have been under way under the box that is showing: zero at the first call for a box,
+  /// the time since then later.
+  [[nodiscard]] std::chrono::milliseconds sinceFirstExchange();
+
  private:
   void remove();
 
   std::unique_ptr<InputBlock> block_;
   QPointer<CConnectingDlg> box_;
   QElapsedTimer sinceRepaint_;
+  QElapsedTimer exchanging_;
+  bool isOffered_ = false;
+  bool isCancelled_ = false;
 };
 
 }  // namespace parlexo

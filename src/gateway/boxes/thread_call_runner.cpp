@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "gateway/boxes/exchange_wait.h"
+#include "gateway/boxes/progress_box.h"
 
 namespace parlexo {
 
@@ -12,8 +13,9 @@ ThreadCallRunner::ThreadCallRunner(ProgressBox& progress, Timing timing)
     : progress_(progress), timing_(timing) {}
 
 bool ThreadCallRunner::run(Exchange exchange) {
-  ExchangeWait wait(progress_, timing_.untilBox);
+  ExchangeWait wait(progress_, timing_.untilBox, timing_.untilCancel, [this] { cancel(); });
   waits_.push_back(&wait);
+  if (progress_.isCancelled()) wait.cancel(timing_.afterCancel);
   const bool ended = wait.run(std::move(exchange));
   std::erase(waits_, &wait);
   return ended;

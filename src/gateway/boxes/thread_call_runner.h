@@ -11,12 +11,14 @@ class ExchangeWait;
 class ProgressBox;
 
 /// Runs an exchange on a worker thread while the interface thread keeps painting. Input that comes
-/// meanwhile is dropped; a progress box appears when the exchange lasts and none stands there yet.
+/// meanwhile is dropped; a progress box appears when the exchange lasts and none stands there yet. When it
+/// goes on lasting, the box offers Cancel; a press also holds for later exchanges under the same box.
 class ThreadCallRunner final : public CallRunner {
  public:
   struct Timing {
     std::chrono::milliseconds untilBox{300};
-    std::chrono::milliseconds afterCancel{2000};  ///< how long a cancelled worker may take to end
+    std::chrono::milliseconds untilCancel{10'000};  ///< of exchanges under one box, until it offers Cancel
+    std::chrono::milliseconds afterCancel{2000};    ///< how long a cancelled worker may take to end
   };
 
   /// `progress` must outlive the runner.

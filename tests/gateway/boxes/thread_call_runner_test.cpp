@@ -2,9 +2,11 @@
 
 #include <atomic>
 #include <chrono>
+#include <functional>
 #include <stdexcept>
 #include <thread>
 
+#include <QElapsedTimer>
 #include <QTimer>
 
 #include "gateway/boxes/progress_box.h"
@@ -22,7 +24,7 @@ CallRunner::Exchange lasting(std::chrono::milliseconds time) {
 class ThreadCallRunnerTest : public testing::Test {
  protected:
   ProgressBox progress_;
-  ThreadCallRunner runner_{progress_, {50ms, 100ms}};
+  ThreadCallRunner runner_{progress_, {.untilBox = 50ms, .afterCancel = 100ms}};
 };
 
 TEST_F(ThreadCallRunnerTest, exchangeRunsElsewhereWhileEventsGoOn) {
@@ -120,6 +122,79 @@ TEST_F(ThreadCallRunnerTest, cancelledExchangeThatObeysHasEnded) {
   EXPECT_TRUE(runner_.run([](const CancelFlag& cancel) {
     while (!cancel.isRaised()) std::this_thread::sleep_for(1ms);
   }));
+}
+
+/// A user who waits for the Cancel button of the box and then uses it.
+class CancelOffer : public testing::Test {
+ protected:
+  static QAbstractButton* button() {
+    auto* found = boxes().isEmpty() ? nullptr : boxes().front()->findChild<QAbstractButton*>();
+    return found && found->isVisible() ? found : nullptr;
+  }
+
+  /// Runs an exchange that lasts `longest` unless it is cancelled; tells whether it was.
+  bool isCancelled(const std::function<void(CConnectingDlg&)>& use, std::chrono::milliseconds longest = 3s) {
+    std::atomic<bool> cancelled = false;
+    QTimer user;
+    QObject::connect(&user, &QTimer::timeout, [&] {
+      if (!button() || !button()->isEnabled()) return;
+      offeredAfter_ = clock_.elapsed();
+      use(*boxes().front());
+    });
+    user.start(5ms);
+    clock_.start();
+    EXPECT_TRUE(runner_.run([&](const CancelFlag& cancel) {
+      const auto end = std::chrono::steady_clock::now() + longest;
+      while (!cancel.isRaised() && std::chrono::steady_clock::now() < end) std::this_thread::sleep_for(1ms);
+      cancelled = cancel.isRaised();
+    }));
+    return cancelled;
+  }
+
+  static void click(CConnectingDlg&) { QTest::mouseClick(button(), Qt::LeftButton); }
+  static void nothing(CConnectingDlg&) {}
+
+  ProgressBox progress_;
+  ThreadCallRunner runner_{progress_, {.untilBox = 20ms, .untilCancel = 200ms, .afterCancel = 100ms}};
+  QElapsedTimer clock_;
+  qint64 offeredAfter_ = -1;
+};
+
+TEST_F(CancelOffer, comesLateAndEndsTheExchangeByMouseOrKeys) {
+  const std::pair<const char*, std::function<void(CConnectingDlg&)>> ways[] = {
+      {"mouse", click},
+      {"Escape", [](CConnectingDlg& box) { QTest::keyClick(&box, Qt::Key_Escape); }},
+      {"Tab and Space", [](CConnectingDlg& box) {
+         QTest::keyClick(box.windowHandle(), Qt::Key_Tab);
+         QTest::keyClick(box.windowHandle(), Qt::Key_Space);
+       }}};
+  for (const bool callersBox : {false, true}) {
+    for (const auto& [name, way] : ways) {
+      if (callersBox) progress_.show(QStringLiteral("Sending"));
+      EXPECT_TRUE(isCancelled(way)) << name;
+      EXPECT_GE(offeredAfter_, 200) << name;
+      progress_.hide();
+    }
+  }
+}
+
+TEST_F(CancelOffer, isNotMadeToShortExchangesNorByEscapeBefore) {
+  QTimer::singleShot(80ms, [] { QTest::keyClick(boxes().front(), Qt::Key_Escape); });
+  EXPECT_FALSE(isCancelled(click, 150ms));
+  EXPECT_EQ(offeredAfter_, -1);
+  EXPECT_FALSE(isCancelled(nothing, 300ms));
+  EXPECT_GE(offeredAfter_, 200) << "the time of the box before does not count";
+}
+
+TEST_F(CancelOffer, countsAndHoldsForAllExchangesUnderOneBox) {
+  progress_.show();
+  for (int i = 0; i < 3; ++i) EXPECT_FALSE(isCancelled(nothing, 80ms));
+  EXPECT_TRUE(isCancelled(click));
+  EXPECT_LT(offeredAfter_, 150) << "most of the time had passed already";
+  EXPECT_TRUE(isCancelled(nothing)) << "the user did not want the next one either";
+  progress_.hide();
+  progress_.show();
+  EXPECT_FALSE(isCancelled(nothing, 50ms));
 }
 
 TEST_F(ThreadCallRunnerTest, cancelledExchangeThatHangsIsLeftBehindWithWhatItOwns) {
