@@ -1,5 +1,7 @@
 #pragma once
 
+#include <chrono>
+#include <thread>
 #include <vector>
 
 #include <QString>
@@ -24,6 +26,34 @@ namespace parlexo {
 inline constexpr char unreachable[] =
     "Could not connect to the Parlexo gateway server.\r\n\r\nPlease make sure you have internet "
     "connectivity, your firewall allows gateway connection or try again later.";
+
+/// Runs exchanges directly, for a user who may lose patience with one of them.
+class ImpatientRunner final : public CallRunner {
+ public:
+  /// The user will cancel the `number`th exchange from now (1 is the next) `after` it has begun.
+  void cancel(int number, std::chrono::milliseconds after = std::chrono::milliseconds(200)) {
+    untilCancelled_ = number;
+    after_ = after;
+  }
+
+  [[nodiscard]] bool run(Exchange exchange) override {
+    const CancelFlag flag;
+    std::thread user;
+    if (untilCancelled_ > 0 && --untilCancelled_ == 0) {
+      user = std::thread([flag, after = after_] {
+        std::this_thread::sleep_for(after);
+        flag.raise();
+      });
+    }
+    exchange(flag);
+    if (user.joinable()) user.join();
+    return true;
+  }
+
+ private:
+  int untilCancelled_ = 0;
+  std::chrono::milliseconds after_{};
+};
 
 /// Everything that messaging works with: a gateway over a real connection to a simulator in the process, an
 /// account that is logged in, and a journal of what the user sees in which order.
@@ -64,7 +94,7 @@ class GatewayRig {
   std::vector<std::string> journal;
   simulator::Simulator simulator{{}};
   RunState state;
-  DirectCallRunner runner;
+  ImpatientRunner runner;
   Gateway gateway{state, runner, GatewayTimeouts{2, 1}};
   RecordingNotifier notifier;
   test::SampleBook book;

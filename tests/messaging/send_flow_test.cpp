@@ -1,3 +1,4 @@
+#include <QElapsedTimer>
 #include <QFile>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -133,6 +134,7 @@ struct Failure {
   FaultKind kind;
   int number;
   std::size_t accepted;  // messages that the gateway has taken in spite of it
+  SendOutcome outcome;
   const char* message;
 };
 
@@ -144,12 +146,11 @@ class SmsSendingFailure : public SmsSending, public testing::WithParamInterface<
 
 TEST_P(SmsSendingFailure, isToldOnceAndNeverSentTwice) {
   const Failure& failure = GetParam();
-  const bool anyCall = failure.kind == FaultKind::Refuse;
-  misbehave(failure.kind, anyCall ? QStringLiteral("any") : QStringLiteral("sendSms"), failure.number);
-  EXPECT_EQ(send(draft_), SendOutcome::NotSent);
+  misbehave(failure.kind, QStringLiteral("sendSms"), failure.number);
+  EXPECT_EQ(send(draft_), failure.outcome);
   EXPECT_THAT(journal, ElementsAre("(box)", "(no box)", failure.message));
   EXPECT_EQ(notifier.shown.back().style, message_style::stop);
-  EXPECT_EQ(operations().count(QStringLiteral("sendSms")), anyCall ? 0 : 1);
+  EXPECT_EQ(operations().count(QStringLiteral("sendSms")), 1);
   EXPECT_THAT(simulator.messages(), SizeIs(failure.accepted));
   EXPECT_THAT(log.entries(), IsEmpty());
   EXPECT_FALSE(QFile::exists(file.path()));
@@ -157,13 +158,25 @@ TEST_P(SmsSendingFailure, isToldOnceAndNeverSentTwice) {
 
 INSTANTIATE_TEST_SUITE_P(
     , SmsSendingFailure,
-    testing::Values(
-        Failure{FaultKind::Refuse, 0, 0, unreachable}, Failure{FaultKind::Close, 0, 1, unreachable},
-        Failure{FaultKind::Cut, 0, 1, unreachable}, Failure{FaultKind::Late, 2500, 1, unreachable},
-        Failure{FaultKind::HttpError, 0, 0, unreachable}, Failure{FaultKind::NotXml, 0, 0, unreachable},
-        Failure{FaultKind::SoapFault, 0, 0, unreachable},
-        Failure{FaultKind::Code, 12, 0, "An error occured while sending your message.\r\nError code: 12"},
-        Failure{FaultKind::Code, -1, 0, "An error occured while sending your message.\r\nError code: -1"}));
+    testing::Values(Failure{FaultKind::Close, 0, 1, SendOutcome::Unanswered, unreachable},
+                    Failure{FaultKind::Cut, 0, 1, SendOutcome::Unanswered, unreachable},
+                    Failure{FaultKind::Late, 2500, 1, SendOutcome::Unanswered, unreachable},
+                    Failure{FaultKind::HttpError, 0, 0, SendOutcome::NotSent, unreachable},
+                    Failure{FaultKind::NotXml, 0, 0, SendOutcome::Unanswered, unreachable},
+                    Failure{FaultKind::SoapFault, 0, 0, SendOutcome::NotSent, unreachable},
+                    Failure{FaultKind::Code, 12, 0, SendOutcome::NotSent,
+                            "An error occured while sending your message.\r\nError code: 12"},
+                    Failure{FaultKind::Code, -1, 0, SendOutcome::NotSent,
+                            "An error occured while sending your message.\r\nError code: -1"}));
+
+TEST_F(SmsSending, gatewayThatTakesNoConnectionHasTakenNoMessage) {
+  misbehave(FaultKind::Refuse, QStringLiteral("any"));
+  EXPECT_NE(send(draft_), SendOutcome::Delivered);
+  simulator.stop();
+  EXPECT_EQ(send(draft_), SendOutcome::NotSent);
+  EXPECT_THAT(notifier.takeTexts(), ElementsAre(unreachable, unreachable));
+  EXPECT_THAT(simulator.messages(), IsEmpty());
+}
 
 struct RefusedPreparation {
   const char* operation;
@@ -198,6 +211,52 @@ TEST_F(SmsSending, refusedScheduleOrSenderIdGivesUpTheSend) {
     EXPECT_THAT(notifier.takeTexts(), ElementsAre(sample.message));
   }
   EXPECT_FALSE(operations().contains(QStringLiteral("sendSms")));
+}
+
+TEST_F(SmsSending, cancellingAnyCallEndsTheSend) {
+  struct {
+    int number;  // of the call
+    const char* operation;
+    const char* message;
+    SendOutcome outcome;
+    std::size_t accepted;
+  } const samples[] = {
+      {1, "scheduleMessageDisable", unreachable, SendOutcome::NotSent, 0},
+      {2, "scheduleMessageEnable",
+       "Error setting schedule date. Perhaps you have scheduled the message too far into the future? Error: "
+       "0",
+       SendOutcome::NotSent, 0},
+      {3, "setSmsSenderId", unreachable, SendOutcome::NotSent, 0},
+      {4, "sendSms", unreachable, SendOutcome::Unanswered, 1},
+  };
+  SmsDraft draft = draft_;
+  const QDateTime later = QDateTime::currentDateTimeUtc().addDays(1);
+  draft.schedule = {QStringLiteral("tomorrow"), later.toString(QStringLiteral("yyyy/MM/dd HH:mm:ss"))};
+  state.senderId = QStringLiteral("+61491570999");
+  for (const auto& sample : samples) {
+    simulator.clearFaults();
+    misbehave(FaultKind::Late, QString::fromLatin1(sample.operation), 900);
+    runner.cancel(sample.number);
+    const auto before = operations().size();
+    QElapsedTimer clock;
+    clock.start();
+    EXPECT_EQ(send(draft), sample.outcome) << sample.operation;
+    EXPECT_LT(clock.elapsed(), 700) << sample.operation;
+    EXPECT_EQ(operations().size() - before, sample.number);
+    EXPECT_EQ(operations().back(), QString::fromLatin1(sample.operation));
+    EXPECT_THAT(notifier.takeTexts(), ElementsAre(sample.message));
+    EXPECT_THAT(simulator.messages(), SizeIs(sample.accepted)) << sample.operation;
+  }
+}
+
+TEST_F(SmsSending, answerThatOutranTheCancelCounts) {
+  runner.cancel(1, {});
+  misbehave(FaultKind::Late, QStringLiteral("scheduleMessageDisable"), 300);
+  EXPECT_EQ(send(draft_), SendOutcome::NotSent);
+  simulator.clearFaults();
+  runner.cancel(2, std::chrono::milliseconds(500));
+  EXPECT_EQ(send(draft_), SendOutcome::Delivered);
+  EXPECT_THAT(log.entries(), SizeIs(2));
 }
 
 TEST_F(SmsSending, failureToCancelAnOldScheduleIsPassedOver) {

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QClipboard>
+#include <QLabel>
 #include <QLineEdit>
 #include <QListView>
 #include <QRadioButton>
@@ -227,6 +228,26 @@ TEST_F(SmsPage, failedSendKeepsTheForm) {
   EXPECT_THAT(sent, IsEmpty());
   EXPECT_EQ(page.draft().text, "Hi");
   EXPECT_EQ(page.draft().displayList, "Ann [+61491570156]");
+}
+
+TEST_F(SmsPage, noticeOfAnUnansweredSendStandsUntilTheNextOneIsAnswered) {
+  const auto& notice = find<QLabel>("unansweredNotice");
+  select({"Ann"});
+  QTest::keyClicks(&editor(), "Hi");
+  EXPECT_FALSE(notice.isVisible());
+  misbehave(simulator::FaultKind::Close, QStringLiteral("sendSms"));
+  press("sendButton");
+  EXPECT_TRUE(notice.isVisible());
+  EXPECT_THAT(notifier.takeTexts(), ElementsAre(unreachable));
+  EXPECT_EQ(page.draft().text, "Hi");
+  simulator.clearFaults();
+  state.balanceIsZero = true;
+  press("sendButton");
+  EXPECT_TRUE(notice.isVisible()) << "nothing was sent";
+  state.balanceIsZero = false;
+  press("sendButton");
+  EXPECT_FALSE(notice.isVisible());
+  EXPECT_THAT(simulator.messages(), SizeIs(2));
 }
 
 TEST_F(SmsPage, aSecondSendWhileOneRunsIsDropped) {

@@ -9,13 +9,17 @@
 namespace parlexo {
 namespace {
 
-void cancelSchedule(const MessagingServices& services) {
-  // Whatever comes back: if the gateway is out of reach or the session over, the send itself will say so.
-  (void)services.gateway.call<protocol::scheduleMessageDisableResponse>(
+bool cancelSchedule(const MessagingServices& services) {
+  const auto reply = services.gateway.call<protocol::scheduleMessageDisableResponse>(
       [session = toWire(services.state.session)](GatewayClient& client,
                                                  protocol::scheduleMessageDisableResponse& response) {
         return client.scheduleMessageDisable(session, response);
       });
+  // Whatever comes back: if the gateway is out of reach or the session over, the send itself will say so.
+  // Only the user's own wish to stop is not for the send to find out.
+  if (!reply.cancelled()) return true;
+  services.notifier.error(text(TextId::GatewayUnreachable));
+  return false;
 }
 
 bool setSchedule(const MessagingServices& services, const QString& value) {
@@ -24,7 +28,7 @@ bool setSchedule(const MessagingServices& services, const QString& value) {
           GatewayClient& client, protocol::scheduleMessageEnableResponse& response) {
         return client.scheduleMessageEnable(value, session, response);
       });
-  if (reply.answered() && reply->nErrorCode == 0) return true;
+  if (reply.answered() && reply->nErrorCode == 0 && !reply.cancelled()) return true;
   services.notifier.error(withNumber(messaging_texts::scheduleRefused(), reply->nErrorCode));
   return false;
 }
@@ -35,7 +39,7 @@ bool setSenderId(const MessagingServices& services) {
           GatewayClient& client, protocol::setSmsSenderIdResponse& response) {
         return client.setSmsSenderId(session, senderId, response);
       });
-  if (!reply.answered())
+  if (!reply.answered() || reply.cancelled())
     services.notifier.error(text(TextId::GatewayUnreachable));
   else if (reply->nErrorCode != 0)
     services.notifier.error(withNumber(messaging_texts::senderIdRefused(), reply->nErrorCode));
@@ -47,7 +51,7 @@ bool setSenderId(const MessagingServices& services) {
 }  // namespace
 
 bool announceSend(const MessagingServices& services, const Schedule& schedule, SenderIdUse use) {
-  cancelSchedule(services);
+  if (!cancelSchedule(services)) return false;
   if (!schedule.isNow() && !setSchedule(services, schedule.value)) return false;
   const bool hasSenderId = use == SenderIdUse::Set && !services.state.senderId.isEmpty();
   return !hasSenderId || setSenderId(services);

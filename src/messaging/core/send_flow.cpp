@@ -27,7 +27,7 @@ bool SendFlow::announce(const Schedule& schedule) const {
 
 SendOutcome SendFlow::deliver(const QString& numbers, const Operation& operation) const {
   const SendReply reply = callUnderProgress(operation);
-  if (!accepted(reply)) return SendOutcome::NotSent;
+  if (!accepted(reply)) return reply.leftInTheDark ? SendOutcome::Unanswered : SendOutcome::NotSent;
   record(reply.receipts, numbers);
   if (hasFailures(reply.receipts)) {
     services_.notifier.information(failureWarning(text(kind_.someFailed), reply.receipts));

@@ -13,6 +13,7 @@ namespace parlexo {
 /// What the page does with its form after a send.
 enum class SendOutcome {
   NotSent,       ///< refused or failed, the user knows why: the form stays
+  Unanswered,    ///< sent, but no answer came: perhaps accepted, which the page says; the form stays
   PartlyFailed,  ///< accepted, but not for every number: the form stays
   Delivered,     ///< accepted for every number: the form is cleared
 };
@@ -32,6 +33,7 @@ struct SendReply {
   bool answered = false;
   int code = 0;
   QString receipts;
+  bool leftInTheDark = false;  ///< the gateway may have accepted the message without our knowing
 };
 
 /// The way that every kind of message takes, in the steps that a kind may put checks of its own between.

@@ -19,7 +19,7 @@ SendReply sendSms(const Gateway& gateway, const QString& session, const QString&
        numbers = toWire(draft.numbersList)](GatewayClient& client, protocol::sendSmsResponse& response) {
         return client.sendSms(session, message, flash, numbers, response);
       });
-  return {reply.answered(), reply->nErrorCode, fromWire(reply->sListReciepts)};
+  return {reply.answered(), reply->nErrorCode, fromWire(reply->sListReciepts), reply.leftInTheDark()};
 }
 
 }  // namespace

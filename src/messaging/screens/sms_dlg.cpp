@@ -14,6 +14,7 @@
 #include "messaging/core/messaging_texts.h"
 #include "messaging/screens/message_edit.h"
 #include "messaging/screens/recipients_panel.h"
+#include "messaging/screens/unanswered_notice.h"
 #include "ui/look.h"
 #include "ui/picture_button.h"
 
@@ -95,6 +96,7 @@ void CQuillonSMSDlg::createControls() {
   createTypeChoice();
   recipients_ =
       new RecipientsPanel(services_.addressBook, services_.notifier, smsWord(), RecipientNumber::Phone, this);
+  notice_ = new UnansweredNotice(this);
   scheduleText_ = readOnlyField(QStringLiteral("scheduleText"), this);
 }
 
@@ -132,6 +134,7 @@ void CQuillonSMSDlg::createLayout() {
   layout->setSpacing(10);
   layout->addLayout(top, 3);
   layout->addWidget(recipients_, 2);
+  layout->addWidget(notice_);
   layout->addLayout(bottomRow());
 }
 
@@ -226,7 +229,9 @@ void CQuillonSMSDlg::recount() {
 void CQuillonSMSDlg::send() {
   if (isSending_) return;
   const QScopedValueRollback guard(isSending_, true);
-  if (flow_.send(draft()) != SendOutcome::Delivered) return;
+  const SendOutcome outcome = flow_.send(draft());
+  notice_->follow(outcome);
+  if (outcome != SendOutcome::Delivered) return;
   clearForm();
   Q_EMIT messageSent(smsWord());
 }

@@ -17,6 +17,7 @@ namespace parlexo {
 class MessageEdit;
 class PictureButton;
 class RecipientsPanel;
+class UnansweredNotice;
 
 /// The SMS page: a text, its character set and type, recipients, and the way to the gateway.
 class CQuillonSMSDlg final : public GradientPage {
@@ -69,6 +70,7 @@ class CQuillonSMSDlg final : public GradientPage {
   QLineEdit* remaining_ = nullptr;
   QLineEdit* scheduleText_ = nullptr;
   RecipientsPanel* recipients_ = nullptr;
+  UnansweredNotice* notice_ = nullptr;
 };
 
 }  // namespace parlexo

@@ -1,0 +1,31 @@
+#include "messaging/screens/unanswered_notice.h"
+
+namespace parlexo {
+
+UnansweredNotice::UnansweredNotice(QWidget* parent) : QLabel(parent) {
+  setObjectName(QStringLiteral("unansweredNotice"));
+  setTextFormat(Qt::PlainText);
+  setText(QStringLiteral(
+      "No answer came to your last message, so it may have been accepted. Look into the account history "
+      "before you send it again."));
+  setWordWrap(true);
+  setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+  setFocusPolicy(Qt::ClickFocus);
+  hide();
+}
+
+void UnansweredNotice::follow(SendOutcome outcome) {
+  switch (outcome) {
+    case SendOutcome::Unanswered:
+      show();
+      return;
+    case SendOutcome::PartlyFailed:
+    case SendOutcome::Delivered:
+      hide();
+      return;
+    case SendOutcome::NotSent:
+      return;
+  }
+}
+
+}  // namespace parlexo
