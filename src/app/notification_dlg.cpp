@@ -1,8 +1,12 @@
 #include "app/notification_dlg.h"
 
 #include <QCheckBox>
+#include <QClipboard>
+#include <QGuiApplication>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QPlainTextEdit>
+#include <QShortcut>
 #include <QVBoxLayout>
 
 #include "app/core/notification_results.h"
@@ -16,9 +20,31 @@ namespace parlexo {
 
 namespace {
 
+// Ctrl+C without a selection copies all, wherever in the dialog the focus is: what a message box is expected
+// to do.
+class MessageView final : public QPlainTextEdit {
+ public:
+  using QPlainTextEdit::QPlainTextEdit;
+
+  void copyText() {
+    if (textCursor().hasSelection())
+      copy();
+    else
+      QGuiApplication::clipboard()->setText(toPlainText());
+  }
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override {
+    if (event->matches(QKeySequence::Copy))
+      copyText();
+    else
+      QPlainTextEdit::keyPressEvent(event);
+  }
+};
+
 // Read-only, so that a long text scrolls and every text can be selected, copied and read aloud.
-QPlainTextEdit* createMessage(const QString& text) {
-  auto* message = new QPlainTextEdit(text);
+MessageView* createMessage(const QString& text) {
+  auto* message = new MessageView(text);
   message->setObjectName(QStringLiteral("message"));
   message->setAccessibleName(QStringLiteral("Message"));
   message->setReadOnly(true);
@@ -71,7 +97,10 @@ QHBoxLayout* CNotificationDlg::createHeader(const QString& text) {
   left->addStretch();
   auto* row = new QHBoxLayout;
   row->addLayout(left);
-  row->addWidget(createMessage(text), 1);
+  MessageView* message = createMessage(text);
+  auto* copy = new QShortcut(QKeySequence(QKeySequence::Copy), this);
+  connect(copy, &QShortcut::activated, message, &MessageView::copyText);
+  row->addWidget(message, 1);
   return row;
 }
 

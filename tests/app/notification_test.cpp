@@ -3,7 +3,10 @@
 
 #include <QAbstractButton>
 #include <QCheckBox>
+#include <QClipboard>
+#include <QGuiApplication>
 #include <QPlainTextEdit>
+#include <QScrollBar>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
@@ -13,6 +16,7 @@
 #include "app/notification_dlg.h"
 #include "app/notification_notifier.h"
 #include "gateway/boxes/progress_box.h"
+#include "ui/look.h"
 
 namespace parlexo {
 namespace {
@@ -140,6 +144,30 @@ TEST_F(NotificationTest, messageThatCannotBeSuppressedHasNoCheckBox) {
     dialog.close();
   });
   EXPECT_TRUE(shown_);
+}
+
+TEST_F(NotificationTest, longListScrollsAndIsCopiedByCtrlC) {
+  QString list = u"The following numbers failed:"_qs;
+  for (int i = 0; i < 10'000; ++i) list += u"\n+61491%1"_qs.arg(570000 + i);
+  CNotificationDlg dialog(list, message_style::ok, false);
+  dialog.show();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
+  EXPECT_LE(dialog.height(), dialogUnits(dialog, 218, 194).height());
+  auto* message = dialog.findChild<QPlainTextEdit*>();
+  EXPECT_GT(message->verticalScrollBar()->maximum(), 9'000);
+  auto* ok = dialog.findChild<QAbstractButton*>(u"button1"_qs);
+
+  const auto copied = [](QWidget* focus) {
+    QGuiApplication::clipboard()->clear();
+    focus->setFocus();
+    QTest::keyClick(focus, Qt::Key_C, Qt::ControlModifier);
+    return QGuiApplication::clipboard()->text();
+  };
+  EXPECT_EQ(copied(ok), list);
+  EXPECT_EQ(copied(message), list);
+  QTest::keyClick(message, Qt::Key_End, Qt::ShiftModifier);
+  EXPECT_EQ(copied(message), u"The following numbers failed:"_qs);
+  EXPECT_EQ(copied(ok), u"The following numbers failed:"_qs);
 }
 
 TEST_F(NotificationTest, messageOverTheProgressBoxTakesInput) {
