@@ -110,6 +110,9 @@ INSTANTIATE_TEST_SUITE_P(
         Obstacle{"newer protocol", FaultKind::Version, u"getVersion"_qs, 104, {}, wrongProtocol},
         Obstacle{"older client", FaultKind::ClientVersion, u"locator"_qs, 0, u"2.23"_qs,
                  otherClient(u"2.23"_qs)},
+        Obstacle{"slightly newer client", FaultKind::ClientVersion, u"locator"_qs, 0, u"2.25"_qs,
+                 otherClient(u"2.25"_qs)},
+        Obstacle{"locator without a version", FaultKind::ClientVersion, u"locator"_qs, 0, {}, noLocation},
         Obstacle{"newer client", FaultKind::ClientVersion, u"locator"_qs, 0, u"2.240"_qs,
                  otherClient(u"2.240"_qs)}));
 
