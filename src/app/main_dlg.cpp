@@ -121,6 +121,12 @@ void CMainDlg::addShortcuts() {
   connect(quit, &QShortcut::activated, this, &CMainDlg::accept);
   auto* help = new QShortcut(QKeySequence(Qt::Key_F1), this);
   connect(help, &QShortcut::activated, this, &CMainDlg::showAbout);
+  auto* refreshing = new QShortcut(QKeySequence(Qt::Key_F5), this);
+  connect(refreshing, &QShortcut::activated, this, &CMainDlg::refresh);
+  for (int i = 0; i < std::min(tabs_->count(), 9); ++i) {
+    auto* tab = new QShortcut(QKeySequence(Qt::CTRL | static_cast<Qt::Key>(Qt::Key_1 + i)), this);
+    connect(tab, &QShortcut::activated, this, [this, i] { tabs_->setCurrentIndex(i); });
+  }
   // The tab widget would hear these only while the focus is on one of its pages.
   auto* next = new QShortcut(QKeySequence::NextChild, this);
   connect(next, &QShortcut::activated, this, [this] { turnTabs(1); });
@@ -130,6 +136,11 @@ void CMainDlg::addShortcuts() {
 
 void CMainDlg::turnTabs(int steps) {
   tabs_->setCurrentIndex((tabs_->currentIndex() + steps + tabs_->count()) % tabs_->count());
+}
+
+void CMainDlg::refresh() {
+  Q_EMIT refreshRequested();
+  if (auto* page = qobject_cast<GradientPage*>(tabs_->currentWidget())) page->refresh();
 }
 
 // Where the visible page has a button of the same mnemonic ("S&end >"), the key is the page's.

@@ -39,6 +39,8 @@ class CMainDlg : public GradientDialog {
  Q_SIGNALS:
   /// Once, from the event loop, after the window has become visible.
   void opened();
+  /// The user wants the balance anew; the page in front refreshes itself.
+  void refreshRequested();
 
  protected:
   void showEvent(QShowEvent* event) override;
@@ -51,6 +53,7 @@ class CMainDlg : public GradientDialog {
   void addShortcuts();
   /// One tab forward (1) or back (-1), round the ends.
   void turnTabs(int steps);
+  void refresh();
   void shareExitMnemonic();
   void showAbout();
 

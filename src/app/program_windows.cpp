@@ -37,7 +37,11 @@ void ProgramWindows::runMainWindow() {
   BalanceCheck check(services_.state, services_.gateway, services_.notifier, services_.progress);
   window.setBalance(check.run());
   services_.progress.hide();
+  QObject::connect(&window, &CMainDlg::refreshRequested, &window,
+                   [&] { window.setBalance(check.refresh()); });
+  window.restoreGeometry(services_.settings.windowGeometry());
   window.exec();
+  services_.settings.setWindowGeometry(window.saveGeometry());
 }
 
 }  // namespace parlexo

@@ -98,6 +98,14 @@ void Settings::suppressMessage(int messageNumber) {
   store_->setValue(suppressionKey(messageNumber), 1);
 }
 
+QByteArray Settings::windowGeometry() const {
+  return QByteArray::fromBase64(storedText(*store_, QStringLiteral("Window/Geometry")).toLatin1());
+}
+
+void Settings::setWindowGeometry(const QByteArray& geometry) {
+  store_->setValue(QStringLiteral("Window/Geometry"), QString::fromLatin1(geometry.toBase64()));
+}
+
 QString Settings::cached(QString& cache, const QString& key, const QString& fallback) {
   if (cache.isEmpty()) cache = storedText(*store_, key);
   if (cache.isEmpty()) cache = fallback;

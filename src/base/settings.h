@@ -2,6 +2,7 @@
 
 #include <memory>
 
+#include <QByteArray>
 #include <QSettings>
 #include <QString>
 
@@ -48,6 +49,10 @@ class Settings {
   /// Whether the user asked not to see the message with this number again, and the wish itself.
   [[nodiscard]] bool isMessageSuppressed(int messageNumber) const;
   void suppressMessage(int messageNumber);
+
+  /// Where the main window was and how large, as its saveGeometry() told; empty when nobody ever said.
+  [[nodiscard]] QByteArray windowGeometry() const;
+  void setWindowGeometry(const QByteArray& geometry);
 
  private:
   QString cached(QString& cache, const QString& key, const QString& fallback);

@@ -12,6 +12,9 @@ class GradientPage : public QWidget {
  public:
   explicit GradientPage(QWidget* parent = nullptr);
 
+  /// Fetches anew what the page shows, where that can change behind its back.
+  virtual void refresh() {}
+
  protected:
   void paintEvent(QPaintEvent* event) override;
 };

@@ -1,6 +1,7 @@
 #include "app/core/balance_check.h"
 
 #include <ostream>
+#include <tuple>
 
 #include <gmock/gmock.h>
 
@@ -80,6 +81,23 @@ TEST_F(BalanceCheckTest, gatewayOutOfReachIsReported) {
                      u"sure you have internet connectivity, your firewall allows gateway connection or try "
                      u"again later."_qs}));
   EXPECT_FALSE(state.balanceIsZero);
+}
+
+TEST_F(BalanceCheckTest, refreshIsQuietAndSetsTheZeroFlagForGood) {
+  ASSERT_EQ(LoginFlow(state, settings, gateway, notifier).attempt(u"demo"_qs, u"demo1234"_qs),
+            LoginOutcome::Accepted);
+  BalanceCheck check(state, gateway, notifier, progress);
+  const std::tuple<double, QString, bool> steps[] = {
+      {1.5, u"1.50"_qs, false}, {0.0, u"0.00"_qs, true}, {50.0, u"50.00"_qs, true}};
+  for (const auto& [balance, shown, isZero] : steps) {
+    ASSERT_TRUE(simulator.setBalance(u"demo"_qs, balance));
+    EXPECT_EQ(check.refresh(), shown);
+    EXPECT_EQ(state.balanceIsZero, isZero);
+  }
+  EXPECT_EQ(journal, nothing);
+  simulator.stop();
+  EXPECT_EQ(check.refresh(), QString());
+  EXPECT_EQ(journal.size(), 2) << "the box goes and the failure is told";
 }
 
 TEST_F(BalanceCheckTest, zeroFlagIsNeverClearedAgain) {

@@ -1,5 +1,8 @@
 #include "app/main_dlg.h"
 
+#include <functional>
+#include <utility>
+
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -57,6 +60,33 @@ TEST_F(MainDlgTest, ctrlTabTurnsTheTabsFromAnywhere) {
   }
   QTest::keyClick(exit, Qt::Key_Backtab, Qt::ControlModifier | Qt::ShiftModifier);
   EXPECT_EQ(tabs->currentIndex(), 1) << "back from the first is the last";
+}
+
+TEST_F(MainDlgTest, ctrlAndADigitOpensThatTab) {
+  const auto* tabs = window_.findChild<QTabWidget*>();
+  auto* exit = window_.findChild<QWidget*>(u"exit"_qs);
+  exit->setFocus();
+  for (const auto& [key, tab] : {std::pair{Qt::Key_2, 1}, {Qt::Key_9, 1}, {Qt::Key_1, 0}}) {
+    QTest::keyClick(exit, key, Qt::ControlModifier);
+    EXPECT_EQ(tabs->currentIndex(), tab);
+  }
+}
+
+TEST_F(MainDlgTest, f5RefreshesTheBalanceAndThePageInFront) {
+  struct Page final : GradientPage {
+    void refresh() override { ++refreshes; }
+    int refreshes = 0;
+  };
+  auto* front = new Page;
+  auto* behind = new Page;
+  CMainDlg window({{u"A"_qs, [front] { return front; }}, {u"B"_qs, [behind] { return behind; }}});
+  QSignalSpy balance(&window, &CMainDlg::refreshRequested);
+  window.open();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+  QTest::keyClick(&window, Qt::Key_F5);
+  EXPECT_EQ(balance.count(), 1);
+  EXPECT_EQ(front->refreshes, 1);
+  EXPECT_EQ(behind->refreshes, 0);
 }
 
 TEST_F(MainDlgTest, onlyExitCtrlQAndTheCloseBoxEndIt) {
@@ -140,6 +170,33 @@ TEST_F(MainTabsTest, pagesTellEachOtherWhatWasSent) {
   Q_EMIT sms->statusRequested(u"SMS"_qs);
   EXPECT_EQ(type->currentText(), u"SMS"_qs);
   EXPECT_EQ(tabs->tabText(tabs->currentIndex()), u"Status"_qs);
+}
+
+TEST_F(MainTabsTest, windowIsFoundAgainWhereItWasLeft) {
+  QRect left;
+  QRect found;
+  const auto visit = [this](const std::function<void(CMainDlg&)>& act) {
+    QTimer::singleShot(0, &window_, [act] {
+      // The balance can't be had without a gateway, which a message tells before the window opens.
+      if (QWidget* message = QApplication::activeModalWidget()) message->close();
+    });
+    QTimer::singleShot(500, &window_, [act] {
+      auto* window = qobject_cast<CMainDlg*>(QApplication::activeModalWidget());
+      ASSERT_TRUE(window);
+      act(*window);
+      window->accept();
+    });
+    windows_.runMainWindow();
+  };
+  visit([&left](CMainDlg& window) {
+    window.setGeometry(40, 60, window.width() + 30, window.height() + 20);
+    left = window.geometry();
+  });
+  visit([&found](CMainDlg& window) { found = window.geometry(); });
+  EXPECT_EQ(found, left);
+  settings_.setWindowGeometry("nonsense");
+  visit([&found](CMainDlg& window) { found = window.geometry(); });
+  EXPECT_NE(found, left);
 }
 
 TEST_F(MainTabsTest, standInTheirOrder) {

@@ -52,6 +52,7 @@ TEST_F(SettingsTest, writtenValuesLieUnderTheirSectionsAndComeBackAtTheNextStart
     settings.setTemplatesFolder(u"/srv/templates"_qs);
     settings.setRememberedUser(u"zoë"_qs);
     settings.suppressMessage(146);
+    settings.setWindowGeometry(QByteArray("\0geometry\xFF", 10));
   }
   const QString stored = storedFile();
   for (const auto& line : {u"[Mobile]\nPhoneNumber=+61491570156\n"_qs, u"[Login]\nUser=zo"_qs,
@@ -64,6 +65,7 @@ TEST_F(SettingsTest, writtenValuesLieUnderTheirSectionsAndComeBackAtTheNextStart
   EXPECT_EQ(next.contactsFolder(), u"/srv/shared, all/contacts"_qs);
   EXPECT_EQ(next.templatesFolder(), u"/srv/templates"_qs);
   EXPECT_EQ(next.rememberedUser(), u"zoë"_qs);
+  EXPECT_EQ(next.windowGeometry(), QByteArray("\0geometry\xFF", 10));
   EXPECT_TRUE(next.isMessageSuppressed(146));
   EXPECT_FALSE(next.isMessageSuppressed(147));
 }

@@ -25,6 +25,13 @@ QString BalanceCheck::run() {
   return balance ? take(*balance) : QString();
 }
 
+QString BalanceCheck::refresh() {
+  const auto balance = query();
+  if (!balance) return {};
+  if (*balance <= 0.0) state_.balanceIsZero = true;
+  return twoDecimals(*balance);
+}
+
 QString BalanceCheck::take(double balance) {
   judge(balance);
   return twoDecimals(balance);

@@ -25,6 +25,9 @@ class BalanceCheck {
   /// hidden before any message.
   [[nodiscard]] QString run();
 
+  /// The balance anew, for the user who asks for it and looks at it: as run(), but without the warnings.
+  [[nodiscard]] QString refresh();
+
   /// Judges a balance that the gateway has told and returns it with two decimals.
   [[nodiscard]] QString take(double balance);
 

@@ -29,6 +29,9 @@ class CStatusDlg final : public GradientPage {
   /// refreshes the list.
   void selectType(const QString& typeWord);
 
+  /// Asks the gateway for the status of the selected messages.
+  void refresh() override { getStatus(); }
+
  protected:
   /// Reads the log anew when it has changed since the list was filled.
   void showEvent(QShowEvent* event) override;
