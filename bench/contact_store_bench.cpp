@@ -10,6 +10,7 @@
 #include <chrono>
 #include <functional>
 #include <memory>
+#include <random>
 #include <unordered_map>
 #include <vector>
 
@@ -139,8 +140,8 @@ class Stopwatch {
   std::vector<double> times_;
 };
 
-// A disk's mood changes from second to second, so the three take turns, each being first as often as the
-// others. The time shown is the store's own; the counters are the medians in microseconds.
+// A disk's mood changes from second to second, so the three take turns, in an order drawn anew each time. The
+// time shown is the store's own; the counters are the medians in microseconds.
 void save(benchmark::State& state, bool isNew) {
   const BenchFolder& folder = BenchFolder::of(sizeOf(state));
   const QString path = folder.file(contactsFile);
@@ -157,14 +158,13 @@ void save(benchmark::State& state, bool isNew) {
   NextContact next(isNew);
   // The first one reads the index, which the program does once in a run.
   if (!savings[0](next())) return state.SkipWithError("not saved");
-  std::size_t first = 0;
+  std::array<std::size_t, savings.size()> order = {0, 1, 2};
+  std::mt19937 random;
   for (auto step : state) {
     const ContactRecord& contact = next();
-    for (std::size_t turn = 0; turn < savings.size(); ++turn) {
-      const std::size_t which = (first + turn) % savings.size();
+    std::shuffle(order.begin(), order.end(), random);
+    for (const std::size_t which : order)
       if (!watches[which].time(savings[which], contact)) return state.SkipWithError("not saved");
-    }
-    ++first;
     state.SetIterationTime(watches[0].last() / 1e6);
   }
   const double store = watches[0].median();

@@ -1,5 +1,8 @@
 // Reading the whole address book at the start of the program.
 
+#include <algorithm>
+#include <utility>
+
 #include <QDir>
 #include <QFileInfo>
 #include <QLatin1String>
@@ -15,6 +18,9 @@ namespace parlexo {
 namespace {
 
 constexpr int contactsPerProgress = 20;
+// Room is made at once for as many contacts as the file has, but not for more than this: a broken file may
+// claim any length.
+constexpr qint64 contactsToExpect = 1'000'000;
 
 QString connectingProblem(const QString& error) {
   return QStringLiteral(
@@ -53,8 +59,12 @@ bool AddressBook::loadContacts(Progress& progress) {
   progress.setText(QStringLiteral("Loading all Contacts..."));
   const QString loadedText = QStringLiteral("Loading all Contacts (%i Loaded)...");
   int loaded = 0;
+  contacts_.reserve(static_cast<std::size_t>(
+      std::min(QFileInfo(contactsPath()).size() / contactRecordSize, contactsToExpect)));
   const auto add = [&](QByteArrayView record) {
-    saveContact(unpackContact(record), false);
+    ContactRecord contact = unpackContact(record);
+    const QString name = contact.name;
+    contacts_.insert_or_assign(name, std::move(contact));
     if (++loaded % contactsPerProgress == 0) progress.setText(withNumber(loadedText, loaded));
     return true;
   };
