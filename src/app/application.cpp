@@ -47,7 +47,7 @@ bool Application::locateGateway() {
   const ServerLocator locator(site);
   const ProxyDiscovery discovery(site, runner_);
   ProxyLoginBox login(discovery);
-  return GatewaySearch({locator, discovery, progress_, login}).run(state_);
+  return GatewaySearch({locator, discovery, runner_, progress_, login}).run(state_);
 }
 
 }  // namespace parlexo

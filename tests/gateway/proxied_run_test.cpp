@@ -55,7 +55,7 @@ class ProxiedRun : public RunTest {
         site, {.transfer = std::chrono::seconds(5), .retryDelay = std::chrono::milliseconds(1)});
     // Asked for another host, because a proxy is never asked for by settings for one of this machine.
     const ProxyDiscovery discovery(QUrl(u"http://www.parlexo.invalid"_qs), runner, system);
-    return GatewaySearch({locator, discovery, progress, login}).run(state);
+    return GatewaySearch({locator, discovery, runner, progress, login}).run(state);
   }
 
   [[nodiscard]] QString locatorRequest() const {

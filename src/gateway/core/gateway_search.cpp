@@ -1,9 +1,11 @@
 #include "gateway/core/gateway_search.h"
 
+#include <memory>
+
 namespace parlexo {
 
 bool GatewaySearch::run(RunState& state) const {
-  switch (parts_.locator.locate(state, parts_.discovery.configured())) {
+  switch (locate(state, parts_.discovery.configured())) {
     case ServerLocator::Outcome::Located:
       return true;
     case ServerLocator::Outcome::ProxyRefusal:
@@ -14,6 +16,22 @@ bool GatewaySearch::run(RunState& state) const {
   return false;
 }
 
+ServerLocator::Outcome GatewaySearch::locate(RunState& state, const ProxyAddress& preconfigured) const {
+  struct Attempt {
+    ServerLocator locator;
+    ProxyAddress preconfigured;
+    RunState state;
+    ServerLocator::Outcome outcome = ServerLocator::Outcome::NotLocated;
+  };
+  auto attempt = std::make_shared<Attempt>(Attempt{parts_.locator, preconfigured, state});
+  const bool ended = parts_.runner.run([attempt](const CancelFlag& cancel) {
+    attempt->outcome = attempt->locator.locate(attempt->state, attempt->preconfigured, cancel);
+  });
+  if (!ended) return ServerLocator::Outcome::NotLocated;
+  state.gateway = attempt->state.gateway;
+  return attempt->outcome;
+}
+
 bool GatewaySearch::logInAndRepeat(RunState& state) const {
   parts_.progress.hide();
   const auto entered = parts_.login.ask();
@@ -22,7 +40,7 @@ bool GatewaySearch::logInAndRepeat(RunState& state) const {
   state.proxy = *entered;
   // Without a host the repeat would go straight, which is not what the user agreed to.
   if (state.proxy.host.isEmpty()) return false;
-  return parts_.locator.locate(state) == ServerLocator::Outcome::Located;
+  return locate(state, {}) == ServerLocator::Outcome::Located;
 }
 
 }  // namespace parlexo

@@ -2,6 +2,7 @@
 
 #include <optional>
 
+#include "base/call_runner.h"
 #include "base/progress.h"
 #include "base/run_state.h"
 #include "gateway/core/proxy_discovery.h"
@@ -30,6 +31,7 @@ class GatewaySearch {
   struct Parts {
     const ServerLocator& locator;
     const ProxyDiscovery& discovery;
+    CallRunner& runner;  ///< runs the downloads
     Progress& progress;
     ProxyLogin& login;
   };
@@ -42,6 +44,7 @@ class GatewaySearch {
   [[nodiscard]] bool run(RunState& state) const;
 
  private:
+  [[nodiscard]] ServerLocator::Outcome locate(RunState& state, const ProxyAddress& preconfigured) const;
   [[nodiscard]] bool logInAndRepeat(RunState& state) const;
 
   Parts parts_;

@@ -59,24 +59,28 @@ void pause(std::chrono::milliseconds delay) {
 
 ServerLocator::ServerLocator(const QUrl& site, const LocatorLimits& limits) : site_(site), limits_(limits) {}
 
-Download ServerLocator::attempt(const ProxySettings& login, const ProxyAddress& preconfigured) const {
+Download ServerLocator::attempt(const ProxySettings& login, const ProxyAddress& preconfigured,
+                                const CancelFlag& cancel) const {
   const bool isLogin = !login.host.isEmpty();
   const ProxyAddress proxy = isLogin ? ProxyAddress{login.host, login.port} : preconfigured;
   QNetworkRequest request = requestFor(site_);
   if (isLogin) addHeaderLine(request, makeProxyAuthorisation(login.user, login.password));
   return download(request, proxyAt(proxy),
-                  {.silence = limits_.transfer, .whole = limits_.whole, .bytes = limits_.documentBytes});
+                  {.silence = limits_.transfer, .whole = limits_.whole, .bytes = limits_.documentBytes},
+                  cancel);
 }
 
-ServerLocator::Outcome ServerLocator::locate(RunState& state, const ProxyAddress& preconfigured) const {
+ServerLocator::Outcome ServerLocator::locate(RunState& state, const ProxyAddress& preconfigured,
+                                             const CancelFlag& cancel) const {
   // The login must not go anywhere but to its proxy.
   if (!state.proxy.host.isEmpty() && !hasPort({state.proxy.host, state.proxy.port}))
     return Outcome::NotLocated;
-  Download download = attempt(state.proxy, preconfigured);
-  if (hasNotConnected(download)) {
+  Download download = attempt(state.proxy, preconfigured, cancel);
+  if (hasNotConnected(download) && !cancel.isRaised()) {
     pause(limits_.retryDelay);
-    download = attempt(state.proxy, preconfigured);
+    download = attempt(state.proxy, preconfigured, cancel);
   }
+  if (cancel.isRaised()) return Outcome::NotLocated;
   if (download.status == statusProxyLogin ||
       download.error == QNetworkReply::ProxyAuthenticationRequiredError) {
     return Outcome::ProxyRefusal;

@@ -4,6 +4,7 @@
 
 #include <QUrl>
 
+#include "base/call_runner.h"
 #include "base/run_state.h"
 #include "gateway/core/bounded_download.h"
 #include "gateway/core/proxy_text.h"
@@ -18,8 +19,8 @@ struct LocatorLimits {
   std::chrono::milliseconds whole{90'000};      ///< for a document that comes in drops
 };
 
-/// Downloads the locator document from the service's web site. Waits in a local event loop, so it is used by
-/// the interface thread, under the progress box.
+/// Downloads the locator document from the service's web site. Waits in a local event loop; any thread may
+/// use it.
 class ServerLocator {
  public:
   /// What an attempt to locate the gateway came to.
@@ -35,10 +36,13 @@ class ServerLocator {
   /// Downloads "/WSDLServerLocator.xml" and stores what it tells in `state.gateway`: all of it or, unless
   /// the outcome is Located, nothing. Where the proxy of `state` has a host, the request goes through it and
   /// carries its login; otherwise it goes through `preconfigured`, or straight when that is empty too.
-  [[nodiscard]] Outcome locate(RunState& state, const ProxyAddress& preconfigured = {}) const;
+  /// About 100 ms after `cancel` was raised (a second, where it waits for another attempt) it gives up.
+  [[nodiscard]] Outcome locate(RunState& state, const ProxyAddress& preconfigured = {},
+                               const CancelFlag& cancel = {}) const;
 
  private:
-  [[nodiscard]] Download attempt(const ProxySettings& login, const ProxyAddress& preconfigured) const;
+  [[nodiscard]] Download attempt(const ProxySettings& login, const ProxyAddress& preconfigured,
+                                 const CancelFlag& cancel) const;
 
   QUrl site_;
   LocatorLimits limits_;
