@@ -62,12 +62,12 @@ SqliteBook::SqliteBook(const QByteArray& path)
   saving_ = prepare(contactRow);
 }
 
-void SqliteBook::fill(int contactTotal, int groupTotal) {
+void SqliteBook::fill(int contactTotal, int groupCount) {
   const auto contacts = sampleContacts(contactTotal);
   const Statement members = prepare(memberRow);
   bool done = run("begin");
   for (const ContactRecord& contact : contacts) done = insertContact(saving_.get(), contact) && done;
-  for (const SampleGroup& group : sampleGroups(groupTotal, contacts)) {
+  for (const SampleGroup& group : sampleGroups(groupCount, contacts)) {
     for (const QString& member : group.memberNames)
       done = insertRow(members.get(), {group.name, member}) && done;
   }

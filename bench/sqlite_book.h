@@ -25,7 +25,7 @@ class SqliteBook {
   explicit SqliteBook(const QByteArray& path);
 
   /// Fills an empty database with the sample contacts and groups, in one transaction.
-  void fill(int contactTotal, int groupTotal);
+  void fill(int contactTotal, int groupCount);
   [[nodiscard]] Contents load() const;
   /// Adds or changes one contact in a transaction of its own. False on failure.
   [[nodiscard]] bool save(const ContactRecord& contact) const;

@@ -182,6 +182,7 @@ std::string membersPath(const std::string& folder) {
 
 std::vector<std::string> groupPaths(const std::string& folder) {
   std::vector<std::string> paths;
+  paths.reserve(groupCount);
   for (int number = 0; number < groupCount; ++number)
     paths.push_back(folder + "/Group " + std::to_string(number) + ".grp");
   return paths;
