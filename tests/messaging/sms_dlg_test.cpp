@@ -1,6 +1,7 @@
 #include "messaging/screens/sms_dlg.h"
 
 #include <QApplication>
+#include <QCalendarWidget>
 #include <QClipboard>
 #include <QLabel>
 #include <QLineEdit>
@@ -13,6 +14,7 @@
 
 #include "addressbook/screens/select_contacts_dlg.h"
 #include "messaging/screens/message_edit.h"
+#include "messaging/screens/schedule_dlg.h"
 #include "tests/messaging/gateway_rig.h"
 #include "ui/picture_button.h"
 
@@ -55,14 +57,18 @@ class SmsPage : public testing::Test, protected GatewayRig {
         .toStdString();
   }
 
-  // Presses Select Contacts and does `work` in the dialog that opens.
-  void inSelection(const std::function<void(CSelectContactsDlg&)>& work) {
-    QTimer::singleShot(0, &page, [&work] {
-      auto* dialog = qobject_cast<CSelectContactsDlg*>(QApplication::activeModalWidget());
-      if (!dialog) qFatal("the selection did not open");
+  // Presses a button and does `work` in the dialog that opens.
+  template <class Dialog>
+  void inDialog(const char* button, const std::function<void(Dialog&)>& work) {
+    QTimer::singleShot(0, &page, [&work, button] {
+      auto* dialog = qobject_cast<Dialog*>(QApplication::activeModalWidget());
+      if (!dialog) qFatal("%s opens no such dialog", button);
       work(*dialog);
     });
-    press("selectContactsButton");
+    press(button);
+  }
+  void inSelection(const std::function<void(CSelectContactsDlg&)>& work) {
+    inDialog("selectContactsButton", work);
   }
   // Ticks exactly these contacts and closes with Select.
   void select(const QStringList& names) {
@@ -256,6 +262,27 @@ TEST_F(SmsPage, aSecondSendWhileOneRunsIsDropped) {
   notifier.onShow = [this] { press("sendButton"); };
   press("sendButton");
   EXPECT_THAT(simulator.messages(), SizeIs(1));
+}
+
+TEST_F(SmsPage, scheduleTravelsWithTheNextMessageOnly) {
+  select({"Ann"});
+  QTest::keyClicks(&editor(), "Hi");
+  const auto& shown = find<QLineEdit>("scheduleText");
+  EXPECT_EQ(shown.text(), "Send Message Now");
+  Schedule chosen;
+  inDialog<CScheduleDlg>("setDateTimeButton", [&chosen](CScheduleDlg& dialog) {
+    auto& calendar = *dialog.findChild<QCalendarWidget*>();
+    calendar.setSelectedDate(calendar.selectedDate().addDays(2));
+    chosen = dialog.schedule();
+    dialog.accept();
+  });
+  EXPECT_EQ(shown.text(), chosen.text);
+  inDialog<CScheduleDlg>("setDateTimeButton", [](CScheduleDlg& dialog) { dialog.reject(); });
+  EXPECT_EQ(page.draft().schedule.value, chosen.value);
+  press("sendButton");
+  EXPECT_EQ(simulator.messages().at(0).schedule->toString("yyyy/MM/dd HH:mm:ss"), chosen.value);
+  EXPECT_EQ(shown.text(), "Send Message Now");
+  EXPECT_TRUE(page.draft().schedule.isNow());
 }
 
 TEST_F(SmsPage, buttonsAskForStatusAndExplainTemplates) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QDateTime>
 #include <QString>
 
 namespace parlexo {
@@ -13,5 +14,13 @@ struct Schedule {
 
   [[nodiscard]] bool isNow() const { return text == sendNow(); }
 };
+
+/// The schedule that delivers at `instant`, whatever zone it is given in.
+[[nodiscard]] Schedule scheduleAt(const QDateTime& instant);
+
+/// The instant at which the clocks of the system's time zone show `date` and `time`, both valid. A time that
+/// they show twice, because they are put back, means the first of the two. A time that they skip, because
+/// they are put forward, is reckoned as if they were not: 02:30 becomes 03:30 where an hour is missing.
+[[nodiscard]] QDateTime instantOfLocalTime(QDate date, QTime time);
 
 }  // namespace parlexo

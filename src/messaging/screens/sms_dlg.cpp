@@ -12,10 +12,11 @@
 #include "base/message_texts.h"
 #include "base/notifier.h"
 #include "messaging/core/messaging_texts.h"
+#include "messaging/screens/delivery_panel.h"
 #include "messaging/screens/message_edit.h"
+#include "messaging/screens/page_controls.h"
 #include "messaging/screens/recipients_panel.h"
 #include "messaging/screens/unanswered_notice.h"
-#include "ui/look.h"
 #include "ui/picture_button.h"
 
 namespace parlexo {
@@ -30,22 +31,6 @@ constexpr int controlSpacing = 6;
 
 QString smsWord() {
   return QStringLiteral("SMS");
-}
-
-QLineEdit* readOnlyField(const QString& name, QWidget* parent) {
-  auto* field = new QLineEdit(parent);
-  field->setObjectName(name);
-  field->setReadOnly(true);
-  QPalette palette = field->palette();
-  palette.setColor(QPalette::Base, look::listBackground);
-  field->setPalette(palette);
-  return field;
-}
-
-QLabel* labelFor(QWidget* field, const QString& text) {
-  auto* label = new QLabel(text, field->parentWidget());
-  label->setBuddy(field);
-  return label;
 }
 
 // A titled box with two radio buttons, in a button group of the given name. The first is chosen here and
@@ -72,7 +57,6 @@ CQuillonSMSDlg::CQuillonSMSDlg(const MessagingServices& services, QWidget* paren
   createControls();
   createLayout();
   connect(standardCharset_, &QRadioButton::toggled, this, &CQuillonSMSDlg::applyCharset);
-  showSchedule();
   applyCharset();
 }
 
@@ -83,7 +67,7 @@ SmsDraft CQuillonSMSDlg::draft() const {
   draft.flash = !standardType_->isChecked();
   draft.displayList = recipients_->recipients().displayList();
   draft.numbersList = recipients_->recipients().numbersList();
-  draft.schedule = schedule_;
+  draft.schedule = delivery_->schedule();
   return draft;
 }
 
@@ -97,7 +81,7 @@ void CQuillonSMSDlg::createControls() {
   recipients_ =
       new RecipientsPanel(services_.addressBook, services_.notifier, smsWord(), RecipientNumber::Phone, this);
   notice_ = new UnansweredNotice(this);
-  scheduleText_ = readOnlyField(QStringLiteral("scheduleText"), this);
+  delivery_ = new DeliveryPanel(this);
 }
 
 void CQuillonSMSDlg::createCharsetChoice() {
@@ -181,10 +165,7 @@ QLayout* CQuillonSMSDlg::bottomRow() {
   sendButton->setDefault(true);
 
   auto* row = new QHBoxLayout;
-  row->addWidget(labelFor(scheduleText_, QStringLiteral("Sc&hedule messages to be sent at:")));
-  row->addWidget(scheduleText_, 1);
-  row->addWidget(buttonToCome(QStringLiteral("Set Date/Time"), QStringLiteral("setDateTimeButton")));
-  row->addWidget(buttonToCome(QStringLiteral("Sender ID"), QStringLiteral("senderIdButton")));
+  row->addWidget(delivery_, 1);
   row->addSpacing(24);
   row->addWidget(status);
   row->addWidget(sendButton);
@@ -239,14 +220,8 @@ void CQuillonSMSDlg::send() {
 void CQuillonSMSDlg::clearForm() {
   editor_->clear();
   recipients_->clearEntries();
-  schedule_.text = Schedule::sendNow();
-  showSchedule();
+  delivery_->sendNow();
   recount();
-}
-
-void CQuillonSMSDlg::showSchedule() {
-  scheduleText_->setText(schedule_.text);
-  scheduleText_->setCursorPosition(0);  // a field too narrow for its text shows the beginning
 }
 
 void CQuillonSMSDlg::showTemplatesTip() {

@@ -3,7 +3,6 @@
 #include <QString>
 
 #include "messaging/core/messaging_services.h"
-#include "messaging/core/schedule.h"
 #include "messaging/core/sms_send_flow.h"
 #include "messaging/core/sms_text.h"
 #include "ui/gradient_page.h"
@@ -14,6 +13,7 @@ class QRadioButton;
 
 namespace parlexo {
 
+class DeliveryPanel;
 class MessageEdit;
 class PictureButton;
 class RecipientsPanel;
@@ -53,12 +53,10 @@ class CQuillonSMSDlg final : public GradientPage {
   void recount();
   void send();
   void clearForm();
-  void showSchedule();
   void showTemplatesTip();
 
   MessagingServices services_;
   SmsSendFlow flow_;
-  Schedule schedule_;
   bool isSending_ = false;
 
   MessageEdit* editor_ = nullptr;
@@ -68,9 +66,9 @@ class CQuillonSMSDlg final : public GradientPage {
   QRadioButton* flashType_ = nullptr;
   QLineEdit* totalSms_ = nullptr;
   QLineEdit* remaining_ = nullptr;
-  QLineEdit* scheduleText_ = nullptr;
   RecipientsPanel* recipients_ = nullptr;
   UnansweredNotice* notice_ = nullptr;
+  DeliveryPanel* delivery_ = nullptr;
 };
 
 }  // namespace parlexo

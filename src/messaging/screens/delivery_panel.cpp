@@ -1,0 +1,49 @@
+#include "messaging/screens/delivery_panel.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+
+#include "messaging/screens/page_controls.h"
+#include "messaging/screens/schedule_dlg.h"
+#include "ui/picture_button.h"
+
+namespace parlexo {
+
+DeliveryPanel::DeliveryPanel(QWidget* parent) : QWidget(parent) {
+  setObjectName(QStringLiteral("deliveryPanel"));
+  text_ = readOnlyField(QStringLiteral("scheduleText"), this);
+  auto* dateTime = new PictureButton(QStringLiteral("Set Date/Time"), this);
+  dateTime->setObjectName(QStringLiteral("setDateTimeButton"));
+  connect(dateTime, &PictureButton::clicked, this, &DeliveryPanel::setDateTime);
+  auto* senderId = new PictureButton(QStringLiteral("Sender ID"), this);
+  senderId->setObjectName(QStringLiteral("senderIdButton"));
+  senderId->setEnabled(false);
+
+  auto* row = new QHBoxLayout(this);
+  row->setContentsMargins({});
+  row->addWidget(labelFor(text_, QStringLiteral("Sc&hedule messages to be sent at:")));
+  row->addWidget(text_, 1);
+  row->addWidget(dateTime);
+  row->addWidget(senderId);
+  showSchedule();
+}
+
+void DeliveryPanel::sendNow() {
+  schedule_.text = Schedule::sendNow();
+  showSchedule();
+}
+
+void DeliveryPanel::setDateTime() {
+  CScheduleDlg dialog(this);
+  if (dialog.exec() != QDialog::Accepted) return;
+  schedule_ = dialog.schedule();
+  showSchedule();
+}
+
+void DeliveryPanel::showSchedule() {
+  text_->setText(schedule_.text);
+  text_->setCursorPosition(0);  // a field too narrow for its text shows the beginning
+}
+
+}  // namespace parlexo

@@ -1,0 +1,133 @@
+#include "messaging/screens/schedule_dlg.h"
+
+#include <utility>
+
+#include <QCalendarWidget>
+#include <QFormLayout>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QSignalBlocker>
+#include <QTextCharFormat>
+#include <QTimeEdit>
+#include <QVBoxLayout>
+
+#include "messaging/screens/page_controls.h"
+#include "ui/look.h"
+#include "ui/picture_button.h"
+
+namespace parlexo {
+
+CScheduleDlg::CScheduleDlg(QWidget* parent, Clock clock) : GradientDialog(parent), clock_(std::move(clock)) {
+  setObjectName(QStringLiteral("scheduleDialog"));
+  setWindowTitle(QStringLiteral("Parlexo(TM) : Schedule Messages"));
+  createControls();
+  createLayout();
+  chooseCurrentTime();
+  connect(calendar_, &QCalendarWidget::selectionChanged, this, &CScheduleDlg::takeChosenTime);
+  connect(time_, &QTimeEdit::timeChanged, this, &CScheduleDlg::takeChosenTime);
+  calendar_->setFocus(Qt::OtherFocusReason);
+}
+
+void CScheduleDlg::createControls() {
+  calendar_ = new QCalendarWidget(this);
+  calendar_->setObjectName(QStringLiteral("calendar"));
+  calendar_->setAccessibleName(QStringLiteral("Date:"));
+  calendar_->setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
+  QTextCharFormat likeOtherDays;  // any day will do, and red is hard to read on the highlighted one
+  likeOtherDays.setForeground(look::text);
+  for (const Qt::DayOfWeek day : {Qt::Saturday, Qt::Sunday})
+    calendar_->setWeekdayTextFormat(day, likeOtherDays);
+  time_ = new QTimeEdit(this);
+  time_->setObjectName(QStringLiteral("timeEdit"));
+  time_->setDisplayFormat(QStringLiteral("HH:mm:ss"));
+  today_ = new PictureButton(QStringLiteral("Today's Date/Time"), this);
+  today_->setObjectName(QStringLiteral("todayButton"));
+  connect(today_, &PictureButton::clicked, this, &CScheduleDlg::chooseCurrentTime);
+  localField_ = readOnlyField(QStringLiteral("localField"), this);
+  gmtField_ = readOnlyField(QStringLiteral("gmtField"), this);
+  for (QLineEdit* field : {localField_, gmtField_})
+    field->setMinimumWidth(field->fontMetrics().horizontalAdvance(QStringLiteral("0000/00/00 00:00:00")) +
+                           20);
+}
+
+void CScheduleDlg::createLayout() {
+  auto* date = new QVBoxLayout;
+  date->setSpacing(4);
+  date->addWidget(labelFor(calendar_, QStringLiteral("&Date:")));
+  date->addWidget(calendar_);
+  date->addStretch(1);
+  auto* choice = new QHBoxLayout;
+  choice->setSpacing(16);
+  choice->addLayout(date, 1);
+  choice->addLayout(timeColumn());
+
+  auto* layout = new QVBoxLayout(this);
+  layout->setContentsMargins(16, 14, 16, 14);
+  layout->setSpacing(10);
+  layout->addWidget(new QLabel(
+      QStringLiteral("You can schedule your messages to be sent at the given date and time:"), this));
+  layout->addLayout(choice, 1);
+  layout->addLayout(buttonRow());
+}
+
+QLayout* CScheduleDlg::timeColumn() {
+  auto* fields = new QGroupBox(QStringLiteral("Send message on:"), this);
+  auto* rows = new QFormLayout(fields);
+  rows->addRow(QStringLiteral("&local time"), localField_);
+  rows->addRow(QStringLiteral("&GMT"), gmtField_);
+  auto* column = new QVBoxLayout;
+  column->setSpacing(4);
+  column->addWidget(labelFor(time_, QStringLiteral("&Time:")));
+  column->addWidget(time_);
+  column->addWidget(today_);
+  column->addSpacing(10);
+  column->addWidget(fields);
+  column->addStretch(1);
+  return column;
+}
+
+QLayout* CScheduleDlg::buttonRow() {
+  auto* select = new PictureButton(QStringLiteral("&Select Date/Time"), this);
+  select->setObjectName(QStringLiteral("selectButton"));
+  select->setDefault(true);
+  connect(select, &PictureButton::clicked, this, &QDialog::accept);
+  auto* cancel = new PictureButton(QStringLiteral("&Cancel"), this);
+  cancel->setObjectName(QStringLiteral("cancelButton"));
+  connect(cancel, &PictureButton::clicked, this, &QDialog::reject);
+  auto* row = new QHBoxLayout;
+  row->addStretch(1);
+  row->addWidget(select);
+  row->addWidget(cancel);
+  return row;
+}
+
+void CScheduleDlg::chooseCurrentTime() {
+  // The fields tell this very instant: reckoned back from the clocks' time, it could be an hour off in the
+  // night in which the clocks are put back.
+  const QDateTime now = clock_().toLocalTime();
+  const QSignalBlocker calendarBlocker(calendar_);
+  const QSignalBlocker timeBlocker(time_);
+  calendar_->setSelectedDate(now.date());
+  time_->setTime(now.time());
+  chosen_ = {calendar_->selectedDate(), time_->time()};
+  showInstant(now);
+}
+
+void CScheduleDlg::takeChosenTime() {
+  const std::pair choice(calendar_->selectedDate(), time_->time());
+  // Enter in the time makes it tell its time again, which must not turn the second of two equal times that
+  // the clocks show into the first.
+  if (choice == chosen_) return;
+  chosen_ = choice;
+  showInstant(instantOfLocalTime(choice.first, choice.second));
+}
+
+void CScheduleDlg::showInstant(const QDateTime& instant) {
+  schedule_ = scheduleAt(instant);
+  localField_->setText(schedule_.text);
+  gmtField_->setText(schedule_.value);
+}
+
+}  // namespace parlexo

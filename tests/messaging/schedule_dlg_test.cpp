@@ -1,0 +1,89 @@
+#include "messaging/screens/schedule_dlg.h"
+
+#include <QCalendarWidget>
+#include <QLineEdit>
+#include <QTest>
+#include <QTimeEdit>
+#include <gtest/gtest.h>
+
+#include "tests/messaging/time_zone_scope.h"
+#include "ui/picture_button.h"
+
+namespace parlexo {
+namespace {
+
+QDateTime gmt(const char* text) {
+  QDateTime time = QDateTime::fromString(QString::fromLatin1(text), Qt::ISODate);
+  time.setTimeSpec(Qt::UTC);
+  return time;
+}
+
+/// The dialog in Berlin, in the night in which the clocks are put back, when 02:30 has come for the second
+/// time.
+class ScheduleDialog : public testing::Test {
+ protected:
+  ScheduleDialog() { dialog.show(); }
+
+  std::string fields() {
+    return (dialog.findChild<QLineEdit*>("localField")->text() + " = " +
+            dialog.findChild<QLineEdit*>("gmtField")->text())
+        .toStdString();
+  }
+  void press(const char* name) {
+    QTest::mouseClick(dialog.findChild<PictureButton*>(QString::fromLatin1(name)), Qt::LeftButton);
+  }
+
+  TimeZoneScope zone{"Europe/Berlin"};
+  QDateTime now = gmt("2026-10-25T01:30:15");
+  CScheduleDlg dialog{nullptr, [this] { return now; }};
+  QCalendarWidget& calendar = *dialog.findChild<QCalendarWidget*>("calendar");
+  QTimeEdit& time = *dialog.findChild<QTimeEdit*>("timeEdit");
+};
+
+TEST_F(ScheduleDialog, opensWithThisVeryInstant) {
+  EXPECT_EQ(calendar.selectedDate(), QDate(2026, 10, 25));
+  EXPECT_EQ(time.time(), QTime(2, 30, 15));
+  EXPECT_EQ(fields(), "2026/10/25 02:30:15 = 2026/10/25 01:30:15");
+}
+
+TEST_F(ScheduleDialog, fieldsFollowCalendarTimeAndToday) {
+  QTest::keyClick(calendar.focusWidget(), Qt::Key_Right);
+  EXPECT_EQ(fields(), "2026/10/26 02:30:15 = 2026/10/26 01:30:15");
+  QTest::keyClick(calendar.focusWidget(), Qt::Key_Left);
+  EXPECT_EQ(fields(), "2026/10/25 02:30:15 = 2026/10/25 00:30:15") << "the first of the two";
+  time.setFocus();
+  time.setSelectedSection(QDateTimeEdit::HourSection);
+  QTest::keyClick(&time, Qt::Key_Up);
+  EXPECT_EQ(fields(), "2026/10/25 03:30:15 = 2026/10/25 02:30:15");
+  now = gmt("2026-03-28T23:30:00");
+  press("todayButton");
+  EXPECT_EQ(fields(), "2026/03/29 00:30:00 = 2026/03/28 23:30:00");
+  time.setTime({2, 30});
+  EXPECT_EQ(fields(), "2026/03/29 03:30:00 = 2026/03/29 01:30:00") << "02:30 does not exist";
+  EXPECT_EQ(time.time(), QTime(2, 30)) << "what is being typed is left alone";
+  calendar.setSelectedDate({2199, 7, 1});
+  EXPECT_EQ(fields(), "2199/07/01 02:30:00 = 2199/07/01 00:30:00");
+}
+
+TEST_F(ScheduleDialog, enterSelectsAndEscapeCancels) {
+  QTest::keyClick(&time, Qt::Key_Return);
+  EXPECT_EQ(dialog.result(), QDialog::Accepted);
+  EXPECT_EQ(dialog.schedule().text, "2026/10/25 02:30:15");
+  EXPECT_EQ(dialog.schedule().value, "2026/10/25 01:30:15");
+  dialog.show();
+  QTest::keyClick(&time, Qt::Key_Escape);
+  EXPECT_EQ(dialog.result(), QDialog::Rejected);
+}
+
+TEST_F(ScheduleDialog, tabWalksInReadingOrder) {
+  dialog.activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
+  dialog.findChild<PictureButton*>("todayButton")->setFocus();
+  for (const char* next : {"localField", "gmtField", "selectButton", "cancelButton"}) {
+    QTest::keyClick(dialog.focusWidget(), Qt::Key_Tab);
+    EXPECT_EQ(dialog.focusWidget()->objectName(), next);
+  }
+}
+
+}  // namespace
+}  // namespace parlexo

@@ -1,0 +1,143 @@
+#include "messaging/core/schedule.h"
+
+#include <gtest/gtest.h>
+
+#include "tests/messaging/time_zone_scope.h"
+
+namespace parlexo {
+namespace {
+
+struct LocalTime {
+  const char* what;
+  const char* zone;
+  QDate date;
+  QTime time;
+  const char* local;
+  const char* gmt;
+};
+
+void PrintTo(const LocalTime& sample, std::ostream* out) {
+  *out << sample.what << " in " << sample.zone;
+}
+
+class ScheduleInZone : public testing::TestWithParam<LocalTime> {};
+
+TEST_P(ScheduleInZone, namesTheSameInstantInBothTexts) {
+  const LocalTime& sample = GetParam();
+  const TimeZoneScope zone(sample.zone);
+  // What the C library was asked before must make no difference.
+  for (const QDate before : {QDate(2026, 1, 15), QDate(2026, 7, 15)}) {
+    (void)QDateTime(before, QTime(12, 0)).toSecsSinceEpoch();
+    const Schedule schedule = scheduleAt(instantOfLocalTime(sample.date, sample.time));
+    EXPECT_EQ(schedule.text.toStdString(), sample.local);
+    EXPECT_EQ(schedule.value.toStdString(), sample.gmt);
+    EXPECT_FALSE(schedule.isNow());
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(Zones, ScheduleInZone,
+                         testing::Values(LocalTime{"GMT itself",
+                                                   "UTC",
+                                                   {2026, 11, 21},
+                                                   {9, 5, 7},
+                                                   "2026/11/21 09:05:07",
+                                                   "2026/11/21 09:05:07"},
+                                         LocalTime{"east, across midnight and the year",
+                                                   "Asia/Kolkata",
+                                                   {2027, 1, 1},
+                                                   {2, 0},
+                                                   "2027/01/01 02:00:00",
+                                                   "2026/12/31 20:30:00"},
+                                         LocalTime{"west, across midnight",
+                                                   "America/New_York",
+                                                   {2026, 1, 31},
+                                                   {20, 0},
+                                                   "2026/01/31 20:00:00",
+                                                   "2026/02/01 01:00:00"},
+                                         LocalTime{"furthest east",
+                                                   "Pacific/Kiritimati",
+                                                   {2026, 6, 1},
+                                                   {13, 59, 59},
+                                                   "2026/06/01 13:59:59",
+                                                   "2026/05/31 23:59:59"},
+                                         LocalTime{"second before the gap",
+                                                   "Europe/Berlin",
+                                                   {2026, 3, 29},
+                                                   {1, 59, 59},
+                                                   "2026/03/29 01:59:59",
+                                                   "2026/03/29 00:59:59"},
+                                         LocalTime{"in the gap",
+                                                   "Europe/Berlin",
+                                                   {2026, 3, 29},
+                                                   {2, 30},
+                                                   "2026/03/29 03:30:00",
+                                                   "2026/03/29 01:30:00"},
+                                         LocalTime{"behind the gap",
+                                                   "Europe/Berlin",
+                                                   {2026, 3, 29},
+                                                   {3, 0},
+                                                   "2026/03/29 03:00:00",
+                                                   "2026/03/29 01:00:00"},
+                                         LocalTime{"in a gap at midnight",
+                                                   "America/Sao_Paulo",
+                                                   {2018, 11, 4},
+                                                   {0, 0},
+                                                   "2018/11/04 01:00:00",
+                                                   "2018/11/04 03:00:00"},
+                                         LocalTime{"in a gap of half an hour",
+                                                   "Australia/Lord_Howe",
+                                                   {2026, 10, 4},
+                                                   {2, 15},
+                                                   "2026/10/04 02:45:00",
+                                                   "2026/10/03 15:45:00"},
+                                         LocalTime{"in the gap where winter is the exception",
+                                                   "Europe/Dublin",
+                                                   {2026, 3, 29},
+                                                   {1, 30},
+                                                   "2026/03/29 02:30:00",
+                                                   "2026/03/29 01:30:00"},
+                                         LocalTime{"on a day that was left out",
+                                                   "Pacific/Apia",
+                                                   {2011, 12, 30},
+                                                   {12, 0},
+                                                   "2011/12/31 12:00:00",
+                                                   "2011/12/30 22:00:00"},
+                                         LocalTime{"in the hour that comes twice",
+                                                   "Europe/Berlin",
+                                                   {2026, 10, 25},
+                                                   {2, 30},
+                                                   "2026/10/25 02:30:00",
+                                                   "2026/10/25 00:30:00"},
+                                         LocalTime{"in the hour that comes twice",
+                                                   "America/New_York",
+                                                   {2026, 11, 1},
+                                                   {1, 30},
+                                                   "2026/11/01 01:30:00",
+                                                   "2026/11/01 05:30:00"},
+                                         LocalTime{"behind the hour that comes twice",
+                                                   "America/New_York",
+                                                   {2026, 11, 1},
+                                                   {2, 0},
+                                                   "2026/11/01 02:00:00",
+                                                   "2026/11/01 07:00:00"},
+                                         LocalTime{"in half an hour that comes twice",
+                                                   "Australia/Lord_Howe",
+                                                   {2026, 4, 5},
+                                                   {1, 45},
+                                                   "2026/04/05 01:45:00",
+                                                   "2026/04/04 14:45:00"},
+                                         LocalTime{"behind the 32-bit seconds",
+                                                   "Europe/Berlin",
+                                                   {2040, 7, 1},
+                                                   {12, 0},
+                                                   "2040/07/01 12:00:00",
+                                                   "2040/07/01 10:00:00"},
+                                         LocalTime{"before the zones",
+                                                   "UTC",
+                                                   {1801, 2, 3},
+                                                   {4, 5, 6},
+                                                   "1801/02/03 04:05:06",
+                                                   "1801/02/03 04:05:06"}));
+
+}  // namespace
+}  // namespace parlexo
