@@ -15,7 +15,9 @@
 #include "addressbook/screens/select_contacts_dlg.h"
 #include "messaging/screens/message_edit.h"
 #include "messaging/screens/schedule_dlg.h"
+#include "messaging/screens/sender_id_dlg.h"
 #include "tests/messaging/gateway_rig.h"
+#include "ui/hyperlink_label.h"
 #include "ui/picture_button.h"
 
 namespace parlexo {
@@ -283,6 +285,50 @@ TEST_F(SmsPage, scheduleTravelsWithTheNextMessageOnly) {
   EXPECT_EQ(simulator.messages().at(0).schedule->toString("yyyy/MM/dd HH:mm:ss"), chosen.value);
   EXPECT_EQ(shown.text(), "Send Message Now");
   EXPECT_TRUE(page.draft().schedule.isNow());
+}
+
+TEST_F(SmsPage, senderIdIsKeptForEveryMessageOfTheRun) {
+  inDialog<CSenderIdDlg>("senderIdButton", [](CSenderIdDlg& dialog) {
+    EXPECT_EQ(dialog.findChild<HyperlinkLabel*>()->page().path(), "/login.php");
+    auto& edit = *dialog.findChild<QLineEdit*>();
+    EXPECT_EQ(edit.text(), "");
+    QTest::keyClicks(&edit, "+61491570999");
+    QTest::keyClick(&edit, Qt::Key_Return);
+  });
+  EXPECT_EQ(state.senderId, "+61491570999");
+  EXPECT_THAT(operations(), IsEmpty());
+  inDialog<CSenderIdDlg>("senderIdButton", [](CSenderIdDlg& dialog) {
+    auto& edit = *dialog.findChild<QLineEdit*>();
+    EXPECT_EQ(edit.text(), "+61491570999");
+    edit.clear();
+    QTest::mouseClick(dialog.findChild<PictureButton*>("closeButton"), Qt::LeftButton);
+  });
+  for (const char* text : {"one", "two"}) {
+    select({"Ann"});
+    QTest::keyClicks(&editor(), text);
+    press("sendButton");
+    EXPECT_EQ(simulator.messages().back().senderId, "+61491570999") << text;
+  }
+}
+
+TEST_F(SmsPage, refusedScheduleOrSenderIdKeepsTheForm) {
+  select({"Ann"});
+  QTest::keyClicks(&editor(), "Hi");
+  inDialog<CScheduleDlg>("setDateTimeButton", [](CScheduleDlg& dialog) { dialog.accept(); });
+  const QString scheduled = page.draft().schedule.text;
+  misbehave(simulator::FaultKind::Code, QStringLiteral("scheduleMessageEnable"), 21);
+  press("sendButton");
+  simulator.clearFaults();
+  state.senderId = QStringLiteral("+61491570999");
+  misbehave(simulator::FaultKind::Code, QStringLiteral("scheduleMessageEnable"), 0);
+  misbehave(simulator::FaultKind::Code, QStringLiteral("setSmsSenderId"), 22);
+  press("sendButton");
+  EXPECT_THAT(notifier.takeTexts(), ElementsAre(testing::EndsWith("too far into the future? Error: 21"),
+                                                testing::EndsWith("to set Any Sender ID? Error: 22")));
+  EXPECT_EQ(page.draft().text, "Hi");
+  EXPECT_EQ(page.draft().displayList, "Ann [+61491570156]");
+  EXPECT_EQ(page.draft().schedule.text, scheduled);
+  EXPECT_FALSE(operations().contains("sendSms"));
 }
 
 TEST_F(SmsPage, buttonsAskForStatusAndExplainTemplates) {

@@ -14,7 +14,7 @@ struct RunState;
 /// What the messaging pages and flows work with. The application owns it all and keeps it alive longer
 /// than any page.
 struct MessagingServices {
-  const RunState& state;
+  RunState& state;  ///< pages change the sender ID in it, and nothing else
   const Gateway& gateway;
   Notifier& notifier;
   Progress& progress;

@@ -6,26 +6,27 @@
 
 #include "messaging/screens/page_controls.h"
 #include "messaging/screens/schedule_dlg.h"
+#include "messaging/screens/sender_id_dlg.h"
 #include "ui/picture_button.h"
 
 namespace parlexo {
 
-DeliveryPanel::DeliveryPanel(QWidget* parent) : QWidget(parent) {
+DeliveryPanel::DeliveryPanel(QString& senderId, QWidget* parent) : QWidget(parent), senderId_(senderId) {
   setObjectName(QStringLiteral("deliveryPanel"));
   text_ = readOnlyField(QStringLiteral("scheduleText"), this);
   auto* dateTime = new PictureButton(QStringLiteral("Set Date/Time"), this);
   dateTime->setObjectName(QStringLiteral("setDateTimeButton"));
   connect(dateTime, &PictureButton::clicked, this, &DeliveryPanel::setDateTime);
-  auto* senderId = new PictureButton(QStringLiteral("Sender ID"), this);
-  senderId->setObjectName(QStringLiteral("senderIdButton"));
-  senderId->setEnabled(false);
+  auto* sender = new PictureButton(QStringLiteral("Sender ID"), this);
+  sender->setObjectName(QStringLiteral("senderIdButton"));
+  connect(sender, &PictureButton::clicked, this, &DeliveryPanel::setSenderId);
 
   auto* row = new QHBoxLayout(this);
   row->setContentsMargins({});
   row->addWidget(labelFor(text_, QStringLiteral("Sc&hedule messages to be sent at:")));
   row->addWidget(text_, 1);
   row->addWidget(dateTime);
-  row->addWidget(senderId);
+  row->addWidget(sender);
   showSchedule();
 }
 
@@ -39,6 +40,11 @@ void DeliveryPanel::setDateTime() {
   if (dialog.exec() != QDialog::Accepted) return;
   schedule_ = dialog.schedule();
   showSchedule();
+}
+
+void DeliveryPanel::setSenderId() {
+  CSenderIdDlg dialog(senderId_, this);
+  if (dialog.exec() == QDialog::Accepted) senderId_ = dialog.senderId();
 }
 
 void DeliveryPanel::showSchedule() {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QString>
 #include <QWidget>
 
 #include "messaging/core/schedule.h"
@@ -8,12 +9,14 @@ class QLineEdit;
 
 namespace parlexo {
 
-/// When a send page's message goes out: shows the schedule and lets the user set it.
+/// How a send page's message goes out: shows its schedule and lets the user set it, and the sender ID that
+/// all pages share.
 class DeliveryPanel final : public QWidget {
   Q_OBJECT
 
  public:
-  explicit DeliveryPanel(QWidget* parent = nullptr);
+  /// `senderId` must outlive the panel.
+  explicit DeliveryPanel(QString& senderId, QWidget* parent = nullptr);
 
   [[nodiscard]] const Schedule& schedule() const { return schedule_; }
 
@@ -22,8 +25,10 @@ class DeliveryPanel final : public QWidget {
 
  private:
   void setDateTime();
+  void setSenderId();
   void showSchedule();
 
+  QString& senderId_;
   Schedule schedule_;
   QLineEdit* text_ = nullptr;
 };

@@ -11,6 +11,7 @@
 
 #include "base/message_texts.h"
 #include "base/notifier.h"
+#include "base/run_state.h"
 #include "messaging/core/messaging_texts.h"
 #include "messaging/screens/delivery_panel.h"
 #include "messaging/screens/message_edit.h"
@@ -81,7 +82,7 @@ void CQuillonSMSDlg::createControls() {
   recipients_ =
       new RecipientsPanel(services_.addressBook, services_.notifier, smsWord(), RecipientNumber::Phone, this);
   notice_ = new UnansweredNotice(this);
-  delivery_ = new DeliveryPanel(this);
+  delivery_ = new DeliveryPanel(services_.state.senderId, this);
 }
 
 void CQuillonSMSDlg::createCharsetChoice() {

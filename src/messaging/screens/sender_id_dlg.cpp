@@ -1,0 +1,80 @@
+#include "messaging/screens/sender_id_dlg.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QUrl>
+#include <QVBoxLayout>
+
+#include "base/product.h"
+#include "messaging/screens/page_controls.h"
+#include "ui/hyperlink_label.h"
+#include "ui/look.h"
+#include "ui/picture_button.h"
+
+namespace parlexo {
+namespace {
+
+QLabel* wrappedLabel(const QString& text, QWidget* parent) {
+  auto* label = new QLabel(text, parent);
+  label->setWordWrap(true);
+  return label;
+}
+
+HyperlinkLabel* accountLink(QWidget* parent) {
+  auto* link = new HyperlinkLabel(QStringLiteral("Log in to your account"),
+                                  QUrl(webPage(QStringLiteral("/login.php"))), parent);
+  link->setObjectName(QStringLiteral("accountLink"));
+  return link;
+}
+
+QLayout* senderIdButtons(QDialog& dialog) {
+  auto* save = new PictureButton(QStringLiteral("&Save"), &dialog);
+  save->setObjectName(QStringLiteral("saveButton"));
+  save->setDefault(true);
+  QObject::connect(save, &PictureButton::clicked, &dialog, &QDialog::accept);
+  auto* close = new PictureButton(QStringLiteral("&Close"), &dialog);
+  close->setObjectName(QStringLiteral("closeButton"));
+  QObject::connect(close, &PictureButton::clicked, &dialog, &QDialog::reject);
+  auto* row = new QHBoxLayout;
+  row->addStretch(1);
+  row->addWidget(save);
+  row->addWidget(close);
+  return row;
+}
+
+}  // namespace
+
+CSenderIdDlg::CSenderIdDlg(const QString& current, QWidget* parent) : GradientDialog(parent) {
+  setObjectName(QStringLiteral("senderIdDialog"));
+  setWindowTitle(QStringLiteral("Parlexo(TM) : Sender Id"));
+  auto* layout = new QVBoxLayout(this);
+  layout->setContentsMargins(16, 14, 16, 14);
+  layout->setSpacing(8);
+  layout->addWidget(wrappedLabel(
+      QStringLiteral("The Sender Id that your SMS, MMS and fax messages carry can be changed in your online "
+                     "account."),
+      this));
+  layout->addWidget(accountLink(this), 0, Qt::AlignLeft);
+  layout->addSpacing(6);
+  layout->addWidget(wrappedLabel(
+      QStringLiteral("If your account has been enabled to set any Sender Id then simply just set your mobile "
+                     "Sender Id below. "),
+      this));
+  edit_ = new QLineEdit(current, this);
+  edit_->setObjectName(QStringLiteral("senderIdEdit"));
+  layout->addWidget(labelFor(edit_, QStringLiteral("&Any Mobile Sender ID:")));
+  layout->addWidget(edit_);
+  layout->addStretch(1);
+  layout->addSpacing(4);
+  layout->addLayout(senderIdButtons(*this));
+  setMinimumSize(dialogUnits(*this, 220, 110));
+  edit_->selectAll();
+  edit_->setFocus(Qt::OtherFocusReason);
+}
+
+QString CSenderIdDlg::senderId() const {
+  return edit_->text();
+}
+
+}  // namespace parlexo

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <QString>
+
+#include "ui/gradient_page.h"
+
+class QLineEdit;
+
+namespace parlexo {
+
+/// Lets the user set the sender ID that all send pages use until the program ends. Nothing is asked of the
+/// gateway here: the next send tells it.
+class CSenderIdDlg final : public GradientDialog {
+  Q_OBJECT
+
+ public:
+  /// Opens with `current` in the edit; empty for none.
+  explicit CSenderIdDlg(const QString& current, QWidget* parent = nullptr);
+
+  /// What stands in the edit; to be kept when the dialog was accepted.
+  [[nodiscard]] QString senderId() const;
+
+ private:
+  QLineEdit* edit_ = nullptr;
+};
+
+}  // namespace parlexo
