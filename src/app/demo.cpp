@@ -4,7 +4,6 @@
 
 #include <QDateTime>
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
 #include <QLocale>
 #include <QTemporaryDir>
@@ -15,6 +14,7 @@
 #include "contacts/sample_contacts.h"
 #include "messaging/core/status_file.h"
 #include "messaging/core/status_log.h"
+#include "messaging/core/template.h"
 #include "simulator/simulator.h"
 
 namespace parlexo {
@@ -51,9 +51,6 @@ constexpr std::array sampleTemplates = {
     SampleTemplate{"Roster changed",
                    "The roster for next week has changed. Please look at the notice board."},
 };
-
-// What stands between the recipients and the text in a template file; these samples have no recipients.
-constexpr char templateSeparator[] = "{|/SEP/|}";
 
 StatusLog earlierLog() {
   const QDateTime now = QDateTime::currentDateTime();
@@ -118,11 +115,10 @@ QString Demo::fillTemplates() const {
   const QDir folder(Settings(dataFolder_).templatesFolder());
   if (folder.exists()) return {};
   makeFolderPath(folder.path());
+  const TemplateFolder templates(folder.path());
   for (const auto& sample : sampleTemplates) {
-    QFile file(folder.filePath(QLatin1String(sample.name) + QStringLiteral(".tpl")));
-    if (!file.open(QIODevice::WriteOnly) || file.write(QByteArray(templateSeparator) + sample.text) < 0) {
-      return file.fileName() + QStringLiteral(": ") + file.errorString();
-    }
+    if (!templates.save(QLatin1String(sample.name), {{}, QLatin1String(sample.text)}))
+      return QStringLiteral("Can't write the template %1").arg(QLatin1String(sample.name));
   }
   return {};
 }

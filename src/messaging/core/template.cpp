@@ -1,0 +1,69 @@
+#include "messaging/core/template.h"
+
+#include <algorithm>
+
+#include <QDir>
+#include <QFile>
+#include <QSaveFile>
+
+#include "base/code_page.h"
+
+namespace parlexo {
+namespace {
+
+constexpr char templateSeparator[] = "{|/SEP/|}";
+constexpr qint64 largestTemplate = 64 * 1024 * 1024;  // bytes; more than a million recipients
+
+QString templateSuffix() {
+  return QStringLiteral(".tpl");
+}
+
+bool isTemplateName(const QString& name) {
+  const auto isRefused = [](QChar c) { return c == u'/' || c == u'\\' || c == u'\0'; };
+  return !name.isEmpty() && std::none_of(name.begin(), name.end(), isRefused);
+}
+
+}  // namespace
+
+QByteArray templateBytes(const Template& content) {
+  return toCodePage(content.displayList) + templateSeparator + toCodePage(content.message);
+}
+
+std::optional<Template> parseTemplate(const QByteArray& bytes) {
+  const qsizetype separator = bytes.indexOf(templateSeparator);
+  const qsizetype message = separator + static_cast<qsizetype>(sizeof(templateSeparator)) - 1;
+  if (separator < 0 || bytes.indexOf(templateSeparator, message) >= 0) return std::nullopt;
+  return Template{fromCodePage(bytes.left(separator)).trimmed(), fromCodePage(bytes.mid(message)).trimmed()};
+}
+
+QStringList TemplateFolder::names() const {
+  QStringList names;
+  // Sorted here, because the file systems of Windows list their files in this order and others in none.
+  const QDir::SortFlags order = QDir::Name | QDir::IgnoreCase;
+  for (const QString& file : QDir(path_).entryList(QDir::Files | QDir::Hidden, order))
+    if (file.endsWith(templateSuffix())) names.append(file.chopped(templateSuffix().size()));
+  return names;
+}
+
+bool TemplateFolder::save(const QString& name, const Template& content) const {
+  if (!isTemplateName(name)) return false;
+  QSaveFile file(fileOf(name));
+  return file.open(QIODevice::WriteOnly) && file.write(templateBytes(content)) >= 0 && file.commit();
+}
+
+std::optional<Template> TemplateFolder::load(const QString& name) const {
+  QFile file(fileOf(name));
+  if (!file.open(QIODevice::ReadOnly) || file.size() > largestTemplate) return std::nullopt;
+  const QByteArray bytes = file.readAll();
+  return file.error() == QFileDevice::NoError ? parseTemplate(bytes) : std::nullopt;
+}
+
+bool TemplateFolder::remove(const QString& name) const {
+  return QFile::remove(fileOf(name)) || !QFile::exists(fileOf(name));
+}
+
+QString TemplateFolder::fileOf(const QString& name) const {
+  return QDir(path_).filePath(name + templateSuffix());
+}
+
+}  // namespace parlexo
