@@ -2,12 +2,16 @@
 
 #include <QCoreApplication>
 #include <QKeyEvent>
+#include <QLineEdit>
 #include <QPixmap>
+#include <QSortFilterProxyModel>
+#include <QTreeView>
 #include <benchmark/benchmark.h>
 
 #include "addressbook/core/extra_selection.h"
 #include "addressbook/core/selection_lists.h"
 #include "addressbook/screens/check_list_view.h"
+#include "addressbook/screens/contact_list_model.h"
 #include "addressbook/screens/select_contacts_dlg.h"
 #include "tests/addressbook/sample_book.h"
 
@@ -106,6 +110,76 @@ void searchForMissingName(benchmark::State& state) {
   for (auto step : state) view.keyboardSearch(QStringLiteral("z"));
 }
 BENCHMARK(searchForMissingName)->Unit(benchmark::kMillisecond);
+
+/// What is typed letter by letter: a name, a number, two words, something that nobody has.
+const char* const typings[] = {"ann 0123", "+614000", "eva city 7", "zq"};
+
+/// Every keystroke in the search field, to the laid out and repainted list; the argument picks the typing.
+void searchByKeystrokes(benchmark::State& state) {
+  test::RecordingNotifier notifier;
+  CSelectContactsDlg dialog(town().book(), QStringLiteral("SMS"), {}, notifier);
+  showAndPaint(dialog);
+  auto& view = *dialog.findChild<CheckListView*>(QStringLiteral("contactList"));
+  auto& search = *dialog.findChild<QLineEdit*>(QStringLiteral("contactSearch"));
+  const QString typing = QString::fromLatin1(typings[state.range(0)]);
+  qsizetype typed = 0;
+  for (auto step : state) {
+    typed = typed % typing.size() + 1;
+    search.setText(typing.first(typed));
+    benchmark::DoNotOptimize(view.viewport()->grab());
+  }
+  state.SetLabel(typing.toStdString());
+}
+BENCHMARK(searchByKeystrokes)->DenseRange(0, 3)->Unit(benchmark::kMillisecond);
+
+/// From nothing found back to all contacts in the repainted list.
+void clearSearch(benchmark::State& state) {
+  test::RecordingNotifier notifier;
+  CSelectContactsDlg dialog(town().book(), QStringLiteral("SMS"), everybody(), notifier);
+  showAndPaint(dialog);
+  auto& view = *dialog.findChild<CheckListView*>(QStringLiteral("contactList"));
+  auto& search = *dialog.findChild<QLineEdit*>(QStringLiteral("contactSearch"));
+  for (auto step : state) {
+    search.setText(QStringLiteral("zq"));
+    search.clear();
+    benchmark::DoNotOptimize(view.viewport()->grab());
+  }
+}
+BENCHMARK(clearSearch)->Unit(benchmark::kMillisecond);
+
+/// The same keystrokes with Qt's own filter between the same rows and the same kind of view. It looks at
+/// the names and numbers alone, for one text instead of words.
+void searchWithProxyModel(benchmark::State& state) {
+  SelectionLists lists(town().book(), QStringLiteral("SMS"), {});
+  ContactListModel model(lists, QStringLiteral("SMS"));
+  QSortFilterProxyModel filter;
+  filter.setSourceModel(&model);
+  filter.setFilterCaseSensitivity(Qt::CaseInsensitive);
+  filter.setFilterKeyColumn(-1);
+  QTreeView view;
+  view.setUniformRowHeights(true);
+  view.setModel(&filter);
+  showAndPaint(view);
+  const QString typing = QString::fromLatin1(typings[state.range(0)]);
+  qsizetype typed = 0;
+  for (auto step : state) {
+    typed = typed % typing.size() + 1;
+    filter.setFilterFixedString(typing.first(typed));
+    benchmark::DoNotOptimize(view.viewport()->grab());
+  }
+  state.SetLabel(typing.toStdString());
+}
+BENCHMARK(searchWithProxyModel)->DenseRange(0, 3)->Unit(benchmark::kMillisecond);
+
+/// Making 100,000 contacts ready to be searched, which the dialog does once.
+void prepareSearch(benchmark::State& state) {
+  SelectionLists lists(town().book(), QStringLiteral("SMS"), {});
+  for (auto step : state) {
+    ContactListModel model(lists, QStringLiteral("SMS"));
+    model.search(QStringLiteral("zq"));
+  }
+}
+BENCHMARK(prepareSearch)->Unit(benchmark::kMillisecond);
 
 /// "Select" with 50,000 ticked contacts.
 void collectTicked(benchmark::State& state) {

@@ -4,6 +4,8 @@
 
 #include <QAbstractButton>
 #include <QHeaderView>
+#include <QLabel>
+#include <QLineEdit>
 #include <QListView>
 #include <QSignalSpy>
 #include <QStringList>
@@ -57,6 +59,23 @@ class SelectContactsDlg : public testing::Test {
     }
     return names;
   }
+
+  static QStringList shown(const QAbstractItemView& view, int column) {
+    QStringList cells;
+    for (int row = 0; row < view.model()->rowCount(); ++row)
+      cells << view.model()->index(row, column).data().toString();
+    return cells;
+  }
+
+  /// Types into a search field that is empty.
+  QLineEdit& type(const char* fieldName, const QString& text) {
+    auto& field = *dialog_->findChild<QLineEdit*>(fieldName);
+    field.clear();
+    QTest::keyClicks(&field, text);
+    return field;
+  }
+
+  QString countLine() { return dialog_->findChild<QLabel*>("countLine")->text(); }
 
   QStringList selected() const {
     QStringList names;
@@ -187,6 +206,81 @@ TEST_F(SelectContactsDlg, emptyListGivesAnEmptySelection) {
   EXPECT_TRUE(selected().isEmpty());
 }
 
+TEST_F(SelectContactsDlg, searchFiltersByNameNumberAndExtra) {
+  people_.addContact("Fay \u00c9va", "+61491570158", "Y", "N", "+61255509999",
+                     {"Perth", "", "", "", "", "vip"});
+  open(people_, "All");
+  const struct {
+    const char* typed;
+    QStringList names;
+  } cases[] = {
+      {"A", {"Ann", "Dan", "eva", "Fay \u00c9va"}},
+      {"dan ", {"Dan"}},
+      {"57015", {"Ann", "eva", "Fay \u00c9va"}},
+      {"491 0157", {"eva"}},
+      {"p\u00e9", {}},
+      {"VIP fay", {"Fay \u00c9va"}},
+      {"perth\u00c9V", {}},
+      {"\u00e9VA", {"Fay \u00c9va"}},
+      {"5550", {}},
+  };
+  for (const auto& [typed, names] : cases) {
+    dialog_->findChild<QLineEdit*>("contactSearch")->setText(QString::fromUtf8(typed));
+    EXPECT_EQ(shown(contacts(), 1), names) << typed;
+  }
+  EXPECT_EQ(shown(groups(), 1), QStringList({"all", "Team"})) << "each search has its own list";
+  type("groupSearch", "EA");
+  EXPECT_EQ(shown(groups(), 1), QStringList("Team"));
+  open(people_, "Fax");
+  type("contactSearch", "5550");
+  EXPECT_EQ(shown(contacts(), 1), QStringList({"Cid", "Fay \u00c9va"})) << "the number that is shown";
+}
+
+TEST_F(SelectContactsDlg, searchKeepsTicksAndTicksWhatIsShown) {
+  open(people_, "All", {"Cid"});
+  EXPECT_EQ(countLine(), "1 of 5 contacts selected");
+  QLineEdit& field = type("contactSearch", "an");
+  EXPECT_EQ(countLine(), "1 of 5 contacts selected, 1 hidden by the search");
+  clickCell(contacts(), 1, 0);
+  EXPECT_EQ(ticked(), QStringList("Dan"));
+  type("groupSearch", "team");
+  clickCell(groups(), 0, 0);
+  EXPECT_EQ(ticked(), QStringList({"Ann", "Dan"}));
+  EXPECT_EQ(countLine(), "4 of 5 contacts selected, 2 hidden by the search");
+  field.clear();
+  EXPECT_EQ(ticked(), QStringList({"Ann", "Cid", "Dan", "eva"}));
+  EXPECT_EQ(countLine(), "4 of 5 contacts selected");
+  type("contactSearch", "bob");
+  press("clearAllButton");
+  EXPECT_EQ(countLine(), "0 of 5 contacts selected") << "clearing reaches hidden rows too";
+  press("selectButton");
+  EXPECT_TRUE(selected().isEmpty());
+}
+
+TEST_F(SelectContactsDlg, searchIsWorkedByKeyboard) {
+  open(people_, "All");
+  QTest::keyClick(&contacts(), Qt::Key_O, Qt::AltModifier);
+  auto* field = dialog_->findChild<QLineEdit*>("contactSearch");
+  ASSERT_TRUE(field->hasFocus());
+  QTest::keyClicks(field, "an");
+  QTest::keyClick(field, Qt::Key_Return);
+  EXPECT_TRUE(contacts().hasFocus()) << "Enter goes on to the list and does not close the dialog";
+  QTest::keyClick(&contacts(), Qt::Key_A, Qt::ControlModifier);
+  QTest::keyClick(&contacts(), Qt::Key_Space);
+  EXPECT_EQ(ticked(), QStringList({"Ann", "Dan"}));
+  field->setFocus();
+  QTest::keyClick(field, Qt::Key_Escape);
+  EXPECT_TRUE(dialog_->isVisible());
+  EXPECT_EQ(contacts().model()->rowCount(), 5);
+  QTest::keyClick(field, Qt::Key_Down);
+  QTest::keyClick(&contacts(), Qt::Key_Down);
+  QTest::keyClick(&contacts(), Qt::Key_Space);
+  EXPECT_EQ(ticked(), QStringList({"Ann", "bob", "Dan"})) << "rows selected under the search are forgotten";
+  field->setFocus();
+  QTest::keyClick(field, Qt::Key_Escape);
+  EXPECT_FALSE(dialog_->isVisible());
+}
+
 TEST_F(SelectContactsDlg, speaksItsNamesToAScreenReader) {
   open(people_, "All");
   EXPECT_EQ(dialog_->windowTitle(), "Parlexo(TM) : Contacts");
@@ -229,6 +323,30 @@ TEST_F(SelectByExtraDlg, nothingChosenIsToldAndKeepsTheDialogOpen) {
   QTest::mouseClick(dialog.findChild<QAbstractButton*>("selectButton"), Qt::LeftButton);
   EXPECT_EQ(notifier_.texts.size(), 2);
   EXPECT_TRUE(dialog.contacts().empty());
+}
+
+TEST_F(SelectByExtraDlg, searchKeepsWhatWasChosen) {
+  CSelectByExtraDlg dialog(people_.book(), notifier_);
+  dialog.show();
+  ASSERT_TRUE(QTest::qWaitForWindowExposed(&dialog));
+  auto& values = *dialog.findChild<QListView*>("extra1List");
+  auto& field = *dialog.findChild<QLineEdit*>("extra1Search");
+  auto& count = *dialog.findChild<QLabel*>("countLine");
+  EXPECT_EQ(count.text(), "0 values selected");
+  clickValue(dialog, "extra1List", "Perth");
+  EXPECT_EQ(count.text(), "1 value selected, 2 contacts match");
+  QTest::keyClicks(&field, "hob");
+  EXPECT_EQ(shown(values, 0), QStringList("Hobart"));
+  clickValue(dialog, "extra1List", "Hobart");
+  EXPECT_EQ(count.text(), "2 values selected, 3 contacts match");
+  field.clear();
+  EXPECT_EQ(values.selectionModel()->selectedIndexes().size(), 2);
+  clickValue(dialog, "extra1List", "Perth");
+  EXPECT_EQ(count.text(), "1 value selected, 1 contact matches");
+  QTest::keyClicks(&field, "perth");
+  QTest::mouseClick(dialog.findChild<QAbstractButton*>("selectButton"), Qt::LeftButton);
+  ASSERT_EQ(dialog.contacts().size(), 1U);
+  EXPECT_EQ(dialog.contacts().front()->name, "Hal");
 }
 
 TEST_F(SelectByExtraDlg, itsContactsAreTickedAsFarAsTheyAreEligible) {

@@ -84,6 +84,10 @@ void SelectionLists::clear() {
   groupTicks_.assign(groupTicks_.size(), false);
 }
 
+int SelectionLists::tickedCount() const {
+  return static_cast<int>(std::count(contactTicks_.begin(), contactTicks_.end(), true));
+}
+
 ContactSelection SelectionLists::tickedContacts() const {
   ContactSelection::Contacts ticked;
   for (std::size_t row = 0; row < contacts_.size(); ++row) {

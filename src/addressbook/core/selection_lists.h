@@ -49,6 +49,8 @@ class SelectionLists {
   /// Unticks every contact and every group.
   void clear();
 
+  /// How many contacts are ticked.
+  [[nodiscard]] int tickedCount() const;
   /// The ticked contacts. Ticked groups count only through the contacts that they ticked.
   [[nodiscard]] ContactSelection tickedContacts() const;
 

@@ -1,9 +1,22 @@
 #include "addressbook/screens/check_list_model.h"
 
+#include <algorithm>
+#include <numeric>
+#include <utility>
+
 namespace parlexo {
 
-CheckListModel::CheckListModel(const QStringList& headers, QObject* parent)
-    : QAbstractTableModel(parent), headers_(headers) {}
+CheckListModel::CheckListModel(const QStringList& headers, int entryCount, QObject* parent)
+    : QAbstractTableModel(parent),
+      headers_(headers),
+      entryCount_(entryCount),
+      shown_(static_cast<std::size_t>(entryCount)) {
+  std::iota(shown_.begin(), shown_.end(), 0);
+}
+
+int CheckListModel::rowCount(const QModelIndex& parent) const {
+  return parent.isValid() ? 0 : static_cast<int>(shown_.size());
+}
 
 int CheckListModel::columnCount(const QModelIndex& parent) const {
   return parent.isValid() ? 0 : static_cast<int>(headers_.size());
@@ -39,18 +52,49 @@ bool CheckListModel::setData(const QModelIndex& index, const QVariant& value, in
   return true;
 }
 
+int CheckListModel::tickedRowCount() const {
+  return static_cast<int>(
+      std::count_if(shown_.begin(), shown_.end(), [this](int entry) { return isEntryTicked(entry); }));
+}
+
 void CheckListModel::setTicked(const std::vector<int>& rows, bool ticked) {
   RowSpan changed;
   for (const int row : rows) {
-    setTicked(row, ticked);
-    changed.include(row);
+    setEntryTicked(entryOf(row), ticked);
+    changed.include(entryOf(row));
   }
   refreshTicks(changed);
 }
 
-void CheckListModel::refreshTicks(RowSpan rows) {
-  if (rows.isEmpty()) return;
-  Q_EMIT dataChanged(index(rows.first, SelectColumn), index(rows.last, SelectColumn), {Qt::CheckStateRole});
+void CheckListModel::refreshTicks(RowSpan entries) {
+  const auto first = std::lower_bound(shown_.begin(), shown_.end(), entries.first);
+  const auto last = std::upper_bound(first, shown_.end(), entries.last);
+  if (!entries.isEmpty()) Q_EMIT ticksChanged();
+  if (entries.isEmpty() || first == last) return;
+  const auto firstRow = static_cast<int>(first - shown_.begin());
+  const auto lastRow = static_cast<int>(last - shown_.begin()) - 1;
+  Q_EMIT dataChanged(index(firstRow, SelectColumn), index(lastRow, SelectColumn), {Qt::CheckStateRole});
+}
+
+void CheckListModel::prepareSearch() {
+  if (std::exchange(isSearchReady_, true)) return;
+  search_.reserve(static_cast<std::size_t>(entryCount_));
+  for (int entry = 0; entry < entryCount_; ++entry) {
+    addSearchedFields(entry, search_);
+    search_.endText();
+  }
+}
+
+void CheckListModel::search(const QString& typed) {
+  prepareSearch();
+  // What is typed behind a text can only take rows away.
+  const bool narrows = typed.startsWith(searched_);
+  std::vector<int> found = narrows ? search_.find(typed, shown_) : search_.find(typed);
+  searched_ = typed;
+  if (found == shown_) return;
+  beginResetModel();
+  shown_ = std::move(found);
+  endResetModel();
 }
 
 }  // namespace parlexo

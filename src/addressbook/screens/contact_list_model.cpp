@@ -5,27 +5,32 @@
 namespace parlexo {
 
 ContactListModel::ContactListModel(SelectionLists& lists, const QString& mode, QObject* parent)
-    : CheckListModel({QStringLiteral("Select"), QStringLiteral("Name"), QStringLiteral("Phone")}, parent),
+    : CheckListModel({QStringLiteral("Select"), QStringLiteral("Name"), QStringLiteral("Phone")},
+                     lists.contactCount(), parent),
       lists_(lists),
       showsFax_(showsFaxNumbers(mode)) {}
 
-int ContactListModel::rowCount(const QModelIndex& parent) const {
-  return parent.isValid() ? 0 : lists_.contactCount();
-}
-
-QString ContactListModel::cell(int row, int column) const {
-  const ContactRecord& contact = lists_.contact(row);
+QString ContactListModel::entryCell(int entry, int column) const {
+  const ContactRecord& contact = lists_.contact(entry);
   if (column == NameColumn) return contact.name;
   if (column == NumberColumn) return showsFax_ ? contact.fax : contact.phone;
   return {};
 }
 
-bool ContactListModel::isTicked(int row) const {
-  return lists_.isContactTicked(row);
+bool ContactListModel::isEntryTicked(int entry) const {
+  return lists_.isContactTicked(entry);
 }
 
-void ContactListModel::setTicked(int row, bool ticked) {
-  lists_.setContactTicked(row, ticked);
+void ContactListModel::setEntryTicked(int entry, bool ticked) {
+  lists_.setContactTicked(entry, ticked);
+}
+
+void ContactListModel::addSearchedFields(int entry, TextSearch& search) const {
+  const ContactRecord& contact = lists_.contact(entry);
+  search.addField(contact.name);
+  search.addField(contact.phone);
+  if (showsFax_) search.addField(contact.fax);
+  for (const QString& extra : contact.extra) search.addField(extra);
 }
 
 }  // namespace parlexo

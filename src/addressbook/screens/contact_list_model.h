@@ -15,12 +15,11 @@ class ContactListModel final : public CheckListModel {
   /// in a column that is called "Phone" either way.
   ContactListModel(SelectionLists& lists, const QString& mode, QObject* parent = nullptr);
 
-  [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
-  [[nodiscard]] QString cell(int row, int column) const override;
-  [[nodiscard]] bool isTicked(int row) const override;
-
  private:
-  void setTicked(int row, bool ticked) override;
+  [[nodiscard]] QString entryCell(int entry, int column) const override;
+  [[nodiscard]] bool isEntryTicked(int entry) const override;
+  void setEntryTicked(int entry, bool ticked) override;
+  void addSearchedFields(int entry, TextSearch& search) const override;
 
   SelectionLists& lists_;
   bool showsFax_;

@@ -5,22 +5,23 @@
 namespace parlexo {
 
 GroupListModel::GroupListModel(SelectionLists& lists, QObject* parent)
-    : CheckListModel({QStringLiteral("Select"), QStringLiteral("Name")}, parent), lists_(lists) {}
+    : CheckListModel({QStringLiteral("Select"), QStringLiteral("Name")}, lists.groupCount(), parent),
+      lists_(lists) {}
 
-int GroupListModel::rowCount(const QModelIndex& parent) const {
-  return parent.isValid() ? 0 : lists_.groupCount();
+QString GroupListModel::entryCell(int entry, int column) const {
+  return column == NameColumn ? lists_.group(entry).name() : QString();
 }
 
-QString GroupListModel::cell(int row, int column) const {
-  return column == NameColumn ? lists_.group(row).name() : QString();
+bool GroupListModel::isEntryTicked(int entry) const {
+  return lists_.isGroupTicked(entry);
 }
 
-bool GroupListModel::isTicked(int row) const {
-  return lists_.isGroupTicked(row);
+void GroupListModel::setEntryTicked(int entry, bool ticked) {
+  Q_EMIT contactTicksChanged(lists_.setGroupTicked(entry, ticked));
 }
 
-void GroupListModel::setTicked(int row, bool ticked) {
-  Q_EMIT contactTicksChanged(lists_.setGroupTicked(row, ticked));
+void GroupListModel::addSearchedFields(int entry, TextSearch& search) const {
+  search.addField(lists_.group(entry).name());
 }
 
 }  // namespace parlexo

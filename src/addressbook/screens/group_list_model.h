@@ -15,16 +15,15 @@ class GroupListModel final : public CheckListModel {
   /// `lists` must outlive the model.
   explicit GroupListModel(SelectionLists& lists, QObject* parent = nullptr);
 
-  [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
-  [[nodiscard]] QString cell(int row, int column) const override;
-  [[nodiscard]] bool isTicked(int row) const override;
-
  Q_SIGNALS:
   /// The ticks of contacts in these rows of the other list may have changed.
   void contactTicksChanged(parlexo::RowSpan rows);
 
  private:
-  void setTicked(int row, bool ticked) override;
+  [[nodiscard]] QString entryCell(int entry, int column) const override;
+  [[nodiscard]] bool isEntryTicked(int entry) const override;
+  void setEntryTicked(int entry, bool ticked) override;
+  void addSearchedFields(int entry, TextSearch& search) const override;
 
   SelectionLists& lists_;
 };

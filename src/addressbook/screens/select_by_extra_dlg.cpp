@@ -2,13 +2,11 @@
 
 #include <QGridLayout>
 #include <QHBoxLayout>
-#include <QItemSelectionModel>
 #include <QLabel>
-#include <QListView>
-#include <QStringListModel>
 
+#include "addressbook/screens/extra_value_box.h"
+#include "addressbook/screens/search_field.h"
 #include "base/notifier.h"
-#include "ui/list_style.h"
 #include "ui/look.h"
 #include "ui/picture_button.h"
 
@@ -19,7 +17,6 @@ namespace {
 constexpr int boxesPerRow = 3;
 constexpr int boxWidthUnits = 110;
 constexpr int boxHeightUnits = 75;
-constexpr int captionGap = 4;
 
 QLabel* explanation(QWidget* parent) {
   auto* label = new QLabel(
@@ -31,17 +28,12 @@ QLabel* explanation(QWidget* parent) {
   return label;
 }
 
-/// A list box in which every click and every press of the space bar adds a value or takes it back.
-QListView* valueBox(const QStringList& values, const QString& label, QWidget* parent) {
-  auto* box = new QListView(parent);
-  styleList(*box);
-  box->setModel(new QStringListModel(values, box));
-  box->setAccessibleName(label);
-  box->setEditTriggers(QAbstractItemView::NoEditTriggers);
-  box->setSelectionMode(QAbstractItemView::MultiSelection);
-  box->setUniformItemSizes(true);
-  box->setMinimumSize(dialogUnits(*parent, boxWidthUnits, boxHeightUnits));
-  return box;
+QString valueCountText(qsizetype values, std::size_t contacts) {
+  const QString chosen =
+      values == 1 ? QStringLiteral("1 value selected") : QStringLiteral("%1 values selected").arg(values);
+  if (values == 0) return chosen;
+  return chosen + (contacts == 1 ? QStringLiteral(", 1 contact matches")
+                                 : QStringLiteral(", %1 contacts match").arg(contacts));
 }
 
 }  // namespace
@@ -54,24 +46,28 @@ CSelectByExtraDlg::CSelectByExtraDlg(const AddressBook& book, Notifier& notifier
   grid->addWidget(explanation(this), 0, 0, 1, boxesPerRow);
   const ExtraValues values = distinctExtraValues(book);
   for (int field = 0; field < ContactRecord::extraCount; ++field) addField(*grid, field, values[field]);
-  addButtons(*grid, grid->rowCount());
+  addBottomRow(*grid, grid->rowCount());
+  showCount();
   boxes_.front()->setFocus(Qt::OtherFocusReason);
 }
 
 void CSelectByExtraDlg::addField(QGridLayout& grid, int field, const QStringList& values) {
-  const QString label = QStringLiteral("Extra %1:").arg(field + 1);
-  QListView* box = valueBox(values, label, this);
-  box->setObjectName(QStringLiteral("extra%1List").arg(field + 1));
+  const int number = field + 1;
+  auto* box = new ExtraValueBox(values, QStringLiteral("Extra %1:").arg(number), this);
+  box->setObjectName(QStringLiteral("extra%1List").arg(number));
+  box->setMinimumSize(dialogUnits(*this, boxWidthUnits, boxHeightUnits));
+  connect(box, &ExtraValueBox::chosenChanged, this, &CSelectByExtraDlg::showCount);
+  auto* search = new SearchField(QStringLiteral("Search Extra %1").arg(number), *box, this);
+  search->setObjectName(QStringLiteral("extra%1Search").arg(number));
+  connect(search, &QLineEdit::textChanged, box, &ExtraValueBox::search);
   const int row = 1 + 2 * (field / boxesPerRow);
   const int column = field % boxesPerRow;
-  auto* caption = new QLabel(label, this);
-  caption->setContentsMargins(0, captionGap, 0, 0);
-  grid.addWidget(caption, row, column);
+  grid.addLayout(searchRow(QStringLiteral("Extra &%1:").arg(number), *search), row, column);
   grid.addWidget(box, row + 1, column);
   boxes_[field] = box;
 }
 
-void CSelectByExtraDlg::addButtons(QGridLayout& grid, int row) {
+void CSelectByExtraDlg::addBottomRow(QGridLayout& grid, int row) {
   auto* select = new PictureButton(QStringLiteral("&Select"), this);
   select->setObjectName(QStringLiteral("selectButton"));
   select->setDefault(true);
@@ -80,9 +76,12 @@ void CSelectByExtraDlg::addButtons(QGridLayout& grid, int row) {
   cancel->setObjectName(QStringLiteral("cancelButton"));
   connect(cancel, &PictureButton::clicked, this, &QDialog::reject);
 
+  count_ = new QLabel(this);
+  count_->setObjectName(QStringLiteral("countLine"));
+
   auto* buttons = new QHBoxLayout;
   buttons->setContentsMargins(0, 6, 0, 0);
-  buttons->addStretch(1);
+  buttons->addWidget(count_, 1);
   buttons->addWidget(select);
   buttons->addWidget(cancel);
   grid.addLayout(buttons, row, 0, 1, boxesPerRow);
@@ -90,12 +89,15 @@ void CSelectByExtraDlg::addButtons(QGridLayout& grid, int row) {
 
 ExtraChoice CSelectByExtraDlg::choice() const {
   ExtraChoice chosen;
-  for (std::size_t field = 0; field < boxes_.size(); ++field) {
-    for (const QModelIndex& index : boxes_[field]->selectionModel()->selectedIndexes()) {
-      chosen[field].insert(index.data().toString());
-    }
-  }
+  for (std::size_t field = 0; field < boxes_.size(); ++field) chosen[field] = boxes_[field]->chosen();
   return chosen;
+}
+
+void CSelectByExtraDlg::showCount() {
+  const ExtraChoice chosen = choice();
+  qsizetype values = 0;
+  for (const QSet<QString>& ofField : chosen) values += ofField.size();
+  count_->setText(valueCountText(values, values == 0 ? 0 : contactsMatching(book_, chosen).size()));
 }
 
 void CSelectByExtraDlg::accept() {

@@ -8,11 +8,12 @@
 #include "ui/gradient_page.h"
 
 class QGridLayout;
-class QListView;
+class QLabel;
 
 namespace parlexo {
 
 class AddressBook;
+class ExtraValueBox;
 class Notifier;
 
 /// Lets the user pick every contact whose Extra fields carry chosen values: values within one field are
@@ -32,12 +33,14 @@ class CSelectByExtraDlg final : public GradientDialog {
 
  private:
   void addField(QGridLayout& grid, int field, const QStringList& values);
-  void addButtons(QGridLayout& grid, int row);
+  void addBottomRow(QGridLayout& grid, int row);
   [[nodiscard]] ExtraChoice choice() const;
+  void showCount();
 
   const AddressBook& book_;
   Notifier& notifier_;
-  std::array<QListView*, ContactRecord::extraCount> boxes_{};
+  std::array<ExtraValueBox*, ContactRecord::extraCount> boxes_{};
+  QLabel* count_;
   ContactSelection::Contacts matching_;
 };
 

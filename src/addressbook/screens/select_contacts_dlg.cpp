@@ -3,9 +3,11 @@
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QTimer>
 #include <QVBoxLayout>
 
 #include "addressbook/screens/check_list_view.h"
+#include "addressbook/screens/search_field.h"
 #include "addressbook/screens/select_by_extra_dlg.h"
 #include "ui/list_style.h"
 #include "ui/look.h"
@@ -19,6 +21,12 @@ constexpr int checkWidth = 30;
 constexpr int nameWidth = 200;
 constexpr int numberWidth = 100;
 constexpr int listHeightUnits = 190;
+
+QString contactCountText(int ticked, int all, int tickedAndShown) {
+  const QString count = QStringLiteral("%1 of %2 contacts selected").arg(ticked).arg(all);
+  if (ticked == tickedAndShown) return count;
+  return count + QStringLiteral(", %1 hidden by the search").arg(ticked - tickedAndShown);
+}
 
 }  // namespace
 
@@ -34,9 +42,13 @@ CSelectContactsDlg::CSelectContactsDlg(const AddressBook& book, const QString& m
   setWindowTitle(QStringLiteral("Parlexo(TM) : Contacts"));
   setObjectName(QStringLiteral("selectContactsDialog"));
   createLists();
+  createSearches();
   createButtons();
   createLayout();
+  showCount();
   contactView_->setFocus(Qt::OtherFocusReason);
+  // Once the dialog is seen and before anybody can type.
+  QTimer::singleShot(0, this, [this] { contacts_.prepareSearch(); });
 }
 
 void CSelectContactsDlg::createLists() {
@@ -54,6 +66,19 @@ void CSelectContactsDlg::createLists() {
     view->setMinimumHeight(dialogUnits(*this, 0, listHeightUnits / 2).height());
   }
   connect(&groups_, &GroupListModel::contactTicksChanged, &contacts_, &ContactListModel::refreshTicks);
+}
+
+void CSelectContactsDlg::createSearches() {
+  groupSearch_ = new SearchField(QStringLiteral("Search groups"), *groupView_, this);
+  groupSearch_->setObjectName(QStringLiteral("groupSearch"));
+  connect(groupSearch_, &QLineEdit::textChanged, &groups_, &CheckListModel::search);
+  contactSearch_ = new SearchField(QStringLiteral("Search name, number or Extra"), *contactView_, this);
+  contactSearch_->setObjectName(QStringLiteral("contactSearch"));
+  connect(contactSearch_, &QLineEdit::textChanged, &contacts_, &CheckListModel::search);
+  count_ = new QLabel(this);
+  count_->setObjectName(QStringLiteral("countLine"));
+  connect(&contacts_, &CheckListModel::ticksChanged, this, &CSelectContactsDlg::showCount);
+  connect(&contacts_, &CheckListModel::modelReset, this, &CSelectContactsDlg::showCount);
 }
 
 void CSelectContactsDlg::createButtons() {
@@ -74,10 +99,11 @@ void CSelectContactsDlg::createButtons() {
 
 void CSelectContactsDlg::createLayout() {
   auto* lists = new QGridLayout;
-  lists->addWidget(new QLabel(QStringLiteral("Groups:"), this), 0, 0);
-  lists->addWidget(new QLabel(QStringLiteral("Contacts:"), this), 0, 1);
+  lists->addLayout(searchRow(QStringLiteral("&Groups:"), *groupSearch_), 0, 0);
+  lists->addLayout(searchRow(QStringLiteral("C&ontacts:"), *contactSearch_), 0, 1);
   lists->addWidget(groupView_, 1, 0);
   lists->addWidget(contactView_, 1, 1);
+  lists->addWidget(count_, 2, 1);
   lists->setColumnStretch(0, groupView_->fittingWidth());
   lists->setColumnStretch(1, contactView_->fittingWidth());
   lists->setHorizontalSpacing(12);
@@ -103,6 +129,10 @@ void CSelectContactsDlg::clearTicks() {
   lists_.clear();
   groups_.refreshTicks({0, lists_.groupCount() - 1});
   contacts_.refreshTicks({0, lists_.contactCount() - 1});
+}
+
+void CSelectContactsDlg::showCount() {
+  count_->setText(contactCountText(lists_.tickedCount(), lists_.contactCount(), contacts_.tickedRowCount()));
 }
 
 void CSelectContactsDlg::selectByExtra() {

@@ -8,15 +8,18 @@
 #include "addressbook/screens/group_list_model.h"
 #include "ui/gradient_page.h"
 
+class QLabel;
+
 namespace parlexo {
 
 class AddressBook;
 class CheckListView;
 class Notifier;
 class PictureButton;
+class SearchField;
 
 /// Lets the user pick contacts by ticking them, ticking whole groups, or choosing values of their Extra
-/// fields.
+/// fields. Searches hide rows of the lists; hidden rows keep their ticks and count.
 class CSelectContactsDlg final : public GradientDialog {
   Q_OBJECT
 
@@ -34,9 +37,11 @@ class CSelectContactsDlg final : public GradientDialog {
 
  private:
   void createLists();
+  void createSearches();
   void createButtons();
   void createLayout();
   void clearTicks();
+  void showCount();
   void selectByExtra();
 
   const AddressBook& book_;
@@ -47,6 +52,9 @@ class CSelectContactsDlg final : public GradientDialog {
   ContactListModel contacts_;
   CheckListView* groupView_;
   CheckListView* contactView_;
+  SearchField* groupSearch_;
+  SearchField* contactSearch_;
+  QLabel* count_;
   PictureButton* selectButton_;
   PictureButton* clearButton_;
   PictureButton* cancelButton_;
