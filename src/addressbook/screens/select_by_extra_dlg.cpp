@@ -29,7 +29,7 @@ QLabel* explanation(QWidget* parent) {
 }
 
 QString valueCountText(qsizetype values, std::size_t contacts) {
-  const QString chosen =
+  QString chosen =
       values == 1 ? QStringLiteral("1 value selected") : QStringLiteral("%1 values selected").arg(values);
   if (values == 0) return chosen;
   return chosen + (contacts == 1 ? QStringLiteral(", 1 contact matches")

@@ -23,7 +23,7 @@ constexpr int numberWidth = 100;
 constexpr int listHeightUnits = 190;
 
 QString contactCountText(int ticked, int all, int tickedAndShown) {
-  const QString count = QStringLiteral("%1 of %2 contacts selected").arg(ticked).arg(all);
+  QString count = QStringLiteral("%1 of %2 contacts selected").arg(ticked).arg(all);
   if (ticked == tickedAndShown) return count;
   return count + QStringLiteral(", %1 hidden by the search").arg(ticked - tickedAndShown);
 }
