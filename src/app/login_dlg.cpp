@@ -9,9 +9,9 @@
 
 #include "app/banner.h"
 #include "base/product.h"
-#include "base/secret.h"
 #include "ui/hyperlink_label.h"
 #include "ui/look.h"
+#include "ui/page_controls.h"
 #include "ui/picture_button.h"
 
 namespace parlexo {
@@ -26,13 +26,6 @@ void addLink(QVBoxLayout& column, const QString& explanation, const QString& nam
   auto* link = new HyperlinkLabel(address, QUrl(address));
   link->setObjectName(name);
   column.addWidget(link, 0, Qt::AlignLeft);
-}
-
-void wipeField(QLineEdit& field) {
-  QString text = field.text();
-  // Unlike clear(), this also drops what undo would bring back; then the text is ours alone.
-  field.setText({});
-  wipe(text);
 }
 
 }  // namespace

@@ -15,12 +15,6 @@
 namespace parlexo {
 namespace {
 
-QLabel* wrappedLabel(const QString& text, QWidget* parent) {
-  auto* label = new QLabel(text, parent);
-  label->setWordWrap(true);
-  return label;
-}
-
 HyperlinkLabel* accountLink(QWidget* parent) {
   auto* link = new HyperlinkLabel(QStringLiteral("Log in to your account"),
                                   QUrl(webPage(QStringLiteral("/login.php"))), parent);

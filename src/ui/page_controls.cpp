@@ -1,10 +1,11 @@
-#include "messaging/screens/page_controls.h"
+#include "ui/page_controls.h"
 
 #include <QLabel>
 #include <QLineEdit>
 #include <QPalette>
 #include <QString>
 
+#include "base/secret.h"
 #include "ui/look.h"
 
 namespace parlexo {
@@ -23,6 +24,19 @@ QLabel* labelFor(QWidget* control, const QString& text) {
   auto* label = new QLabel(text, control->parentWidget());
   label->setBuddy(control);
   return label;
+}
+
+QLabel* wrappedLabel(const QString& text, QWidget* parent) {
+  auto* label = new QLabel(text, parent);
+  label->setWordWrap(true);
+  return label;
+}
+
+void wipeField(QLineEdit& field) {
+  QString text = field.text();
+  // Unlike clear(), this also drops what undo would bring back; then the text is ours alone.
+  field.setText({});
+  wipe(text);
 }
 
 }  // namespace parlexo

@@ -1,0 +1,25 @@
+#pragma once
+
+class QLabel;
+class QLineEdit;
+class QString;
+class QWidget;
+
+namespace parlexo {
+
+/// The small controls that pages and dialogs have in common.
+
+/// A field that shows a text of the program.
+[[nodiscard]] QLineEdit* readOnlyField(const QString& objectName, QWidget* parent);
+
+/// A label whose mnemonic leads to `control`, with the same parent.
+[[nodiscard]] QLabel* labelFor(QWidget* control, const QString& text);
+
+/// A text that takes as many lines as it needs.
+[[nodiscard]] QLabel* wrappedLabel(const QString& text, QWidget* parent);
+
+/// Empties a field that held a password, also of what its undo would bring back, and overwrites the text in
+/// memory.
+void wipeField(QLineEdit& field);
+
+}  // namespace parlexo
