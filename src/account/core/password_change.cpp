@@ -1,0 +1,82 @@
+#include "account/core/password_change.h"
+
+#include <algorithm>
+#include <string>
+
+#include "base/message_texts.h"
+#include "base/notifier.h"
+#include "base/progress.h"
+#include "base/run_state.h"
+#include "base/secret.h"
+#include "gateway/core/gateway.h"
+
+namespace parlexo {
+namespace {
+
+constexpr std::size_t shortestPassword = 6;  // bytes
+constexpr std::size_t longestPassword = 10;
+
+bool hasPasswordLength(const QString& password) {
+  const auto bytes = secretToWire(password);
+  return bytes->size() >= shortestPassword && bytes->size() <= longestPassword;
+}
+
+bool hasLetterAndDigit(const QString& password) {
+  const auto isLetter = [](QChar c) { return (c >= u'a' && c <= u'z') || (c >= u'A' && c <= u'Z'); };
+  const auto isDigit = [](QChar c) { return c >= u'0' && c <= u'9'; };
+  return std::any_of(password.begin(), password.end(), isLetter) &&
+         std::any_of(password.begin(), password.end(), isDigit);
+}
+
+}  // namespace
+
+std::optional<PasswordProblem> problemWith(const PasswordDraft& draft) {
+  const auto& [oldPassword, newPassword, retyped] = draft;
+  if (!hasPasswordLength(oldPassword))
+    return {{QStringLiteral("No old password has been provided that is between 6 and 10 characters."),
+             PasswordField::Old}};
+  if (!hasPasswordLength(newPassword))
+    return {{QStringLiteral("No new password has been provided that is between 6 and 10 characters."),
+             PasswordField::New}};
+  if (!hasLetterAndDigit(retyped))
+    // Retyped as it was meant, it is the new password that has to be another one.
+    return {{QStringLiteral("Password must contain some characters and some numbers."),
+             retyped == newPassword ? PasswordField::New : PasswordField::Retyped}};
+  if (!hasPasswordLength(retyped))
+    return {{QStringLiteral("No new retype password has been provided that is between 6 and 10 characters."),
+             PasswordField::Retyped}};
+  if (newPassword != retyped)
+    return {
+        {QStringLiteral("The new password and retyped password does not match. Please enter the passwords "
+                        "match."),
+         PasswordField::Retyped}};
+  return std::nullopt;
+}
+
+std::optional<PasswordField> PasswordChangeFlow::change(const PasswordDraft& draft) const {
+  if (const auto problem = problemWith(draft)) {
+    services_.notifier.error(problem->text);
+    return problem->field;
+  }
+  const Answer answer = ask(draft);
+  if (answer.answered && answer.code == 0) {
+    services_.notifier.information(QStringLiteral("Your password has successfully been updated!"));
+    return std::nullopt;
+  }
+  services_.notifier.error(
+      withNumber(QStringLiteral("Could not successfully set the new password. Error: %i"), answer.code));
+  return PasswordField::Old;
+}
+
+PasswordChangeFlow::Answer PasswordChangeFlow::ask(const PasswordDraft& draft) const {
+  const ProgressScope box(services_.progress);
+  const auto reply = services_.gateway.call<protocol::setAccountPasswordResponse>(
+      [session = toWire(services_.state.session), oldPassword = secretToWire(draft.oldPassword),
+       newPassword = secretToWire(draft.newPassword)](GatewayClient& client,
+                                                      protocol::setAccountPasswordResponse& response) {
+        return client.setAccountPassword(session, *oldPassword, *newPassword, response);
+      });
+  return {reply.answered(), reply->nErrorCode};
+}
+
+}  // namespace parlexo
