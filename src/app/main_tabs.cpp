@@ -1,6 +1,7 @@
 #include "app/main_tabs.h"
 
 #include "app/empty_page.h"
+#include "messaging/screens/send_page.h"
 #include "messaging/screens/sms_dlg.h"
 #include "messaging/screens/status_dlg.h"
 
@@ -15,12 +16,12 @@ MainTab tabToCome(const QString& text) {
 }
 
 // The visible tab stays: whoever has just sent a message may want to write the next one.
-void showSentMessages(CQuillonSMSDlg& page, CStatusDlg& status) {
-  QObject::connect(&page, &CQuillonSMSDlg::messageSent, &status, &CStatusDlg::selectType);
+void showSentMessages(SendPage& page, CStatusDlg& status) {
+  QObject::connect(&page, &SendPage::messageSent, &status, &CStatusDlg::selectType);
 }
 
-void openStatusOnRequest(CQuillonSMSDlg& page, CStatusDlg& status, CMainDlg& window) {
-  QObject::connect(&page, &CQuillonSMSDlg::statusRequested, &window, [&status, &window](const QString& type) {
+void openStatusOnRequest(SendPage& page, CStatusDlg& status, CMainDlg& window) {
+  QObject::connect(&page, &SendPage::statusRequested, &window, [&status, &window](const QString& type) {
     status.selectType(type);
     window.openTab(statusTab);
   });
@@ -41,11 +42,12 @@ std::vector<MainTab> mainTabs(const MessagingServices& services) {
 }
 
 void connectPages(CMainDlg& window) {
-  auto* sms = window.findChild<CQuillonSMSDlg*>();
   auto* status = window.findChild<CStatusDlg*>();
-  if (!sms || !status) return;
-  showSentMessages(*sms, *status);
-  openStatusOnRequest(*sms, *status, window);
+  if (!status) return;
+  for (auto* page : window.findChildren<SendPage*>()) {
+    showSentMessages(*page, *status);
+    openStatusOnRequest(*page, *status, window);
+  }
 }
 
 }  // namespace parlexo

@@ -11,23 +11,28 @@
 
 namespace parlexo {
 
-DeliveryPanel::DeliveryPanel(QString& senderId, QWidget* parent) : QWidget(parent), senderId_(senderId) {
+DeliveryPanel::DeliveryPanel(QString& senderId, SenderIdUse use, QWidget* parent)
+    : QWidget(parent), senderId_(senderId) {
   setObjectName(QStringLiteral("deliveryPanel"));
   text_ = readOnlyField(QStringLiteral("scheduleText"), this);
   auto* dateTime = new PictureButton(QStringLiteral("Set Date/Time"), this);
   dateTime->setObjectName(QStringLiteral("setDateTimeButton"));
   connect(dateTime, &PictureButton::clicked, this, &DeliveryPanel::setDateTime);
-  auto* sender = new PictureButton(QStringLiteral("Sender ID"), this);
-  sender->setObjectName(QStringLiteral("senderIdButton"));
-  connect(sender, &PictureButton::clicked, this, &DeliveryPanel::setSenderId);
 
   auto* row = new QHBoxLayout(this);
   row->setContentsMargins({});
   row->addWidget(labelFor(text_, QStringLiteral("Sc&hedule messages to be sent at:")));
   row->addWidget(text_, 1);
   row->addWidget(dateTime);
-  row->addWidget(sender);
+  if (use == SenderIdUse::Set) row->addWidget(senderButton());
   showSchedule();
+}
+
+PictureButton* DeliveryPanel::senderButton() {
+  auto* created = new PictureButton(QStringLiteral("Sender ID"), this);
+  created->setObjectName(QStringLiteral("senderIdButton"));
+  connect(created, &PictureButton::clicked, this, &DeliveryPanel::setSenderId);
+  return created;
 }
 
 void DeliveryPanel::sendNow() {

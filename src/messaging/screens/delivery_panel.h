@@ -4,10 +4,13 @@
 #include <QWidget>
 
 #include "messaging/core/schedule.h"
+#include "messaging/core/send_calls.h"
 
 class QLineEdit;
 
 namespace parlexo {
+
+class PictureButton;
 
 /// How a send page's message goes out: shows its schedule and lets the user set it, and the sender ID that
 /// all pages share.
@@ -15,8 +18,8 @@ class DeliveryPanel final : public QWidget {
   Q_OBJECT
 
  public:
-  /// `senderId` must outlive the panel.
-  explicit DeliveryPanel(QString& senderId, QWidget* parent = nullptr);
+  /// Offers to set the sender ID where the page's messages use it. `senderId` must outlive the panel.
+  DeliveryPanel(QString& senderId, SenderIdUse use, QWidget* parent = nullptr);
 
   [[nodiscard]] const Schedule& schedule() const { return schedule_; }
 
@@ -24,6 +27,7 @@ class DeliveryPanel final : public QWidget {
   void sendNow();
 
  private:
+  [[nodiscard]] PictureButton* senderButton();
   void setDateTime();
   void setSenderId();
   void showSchedule();

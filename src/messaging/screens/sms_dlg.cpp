@@ -11,13 +11,10 @@
 
 #include "base/message_texts.h"
 #include "base/notifier.h"
-#include "base/run_state.h"
 #include "messaging/core/messaging_texts.h"
-#include "messaging/screens/delivery_panel.h"
 #include "messaging/screens/message_edit.h"
 #include "messaging/screens/page_controls.h"
 #include "messaging/screens/recipients_panel.h"
-#include "messaging/screens/unanswered_notice.h"
 #include "ui/picture_button.h"
 
 namespace parlexo {
@@ -53,10 +50,14 @@ QGroupBox* choiceBox(const QString& title, const QString& groupName, QRadioButto
 }  // namespace
 
 CQuillonSMSDlg::CQuillonSMSDlg(const MessagingServices& services, QWidget* parent)
-    : GradientPage(parent), services_(services), flow_(services) {
+    : SendPage(services, {smsWord(), smsWord()}, parent), flow_(services) {
   setObjectName(QStringLiteral("smsPage"));
   createControls();
-  createLayout();
+  auto* message = new QHBoxLayout;
+  message->setSpacing(14);
+  message->addLayout(messageColumn(), 1);
+  message->addLayout(choiceColumn());
+  layOut(message, 3);
   connect(standardCharset_, &QRadioButton::toggled, this, &CQuillonSMSDlg::applyCharset);
   applyCharset();
 }
@@ -66,9 +67,9 @@ SmsDraft CQuillonSMSDlg::draft() const {
   draft.text = editor_->text();
   draft.charset = charset();
   draft.flash = !standardType_->isChecked();
-  draft.displayList = recipients_->recipients().displayList();
-  draft.numbersList = recipients_->recipients().numbersList();
-  draft.schedule = delivery_->schedule();
+  draft.displayList = recipients().recipients().displayList();
+  draft.numbersList = recipients().recipients().numbersList();
+  draft.schedule = schedule();
   return draft;
 }
 
@@ -79,10 +80,6 @@ void CQuillonSMSDlg::createControls() {
   createCounters();
   createCharsetChoice();
   createTypeChoice();
-  recipients_ =
-      new RecipientsPanel(services_.addressBook, services_.notifier, smsWord(), RecipientNumber::Phone, this);
-  notice_ = new UnansweredNotice(this);
-  delivery_ = new DeliveryPanel(services_.state.senderId, this);
 }
 
 void CQuillonSMSDlg::createCharsetChoice() {
@@ -107,20 +104,6 @@ void CQuillonSMSDlg::createCounters() {
     counter->setAlignment(Qt::AlignRight);
     counter->setFixedWidth(counter->fontMetrics().averageCharWidth() * counterCharacters + 16);
   }
-}
-
-void CQuillonSMSDlg::createLayout() {
-  auto* top = new QHBoxLayout;
-  top->setSpacing(14);
-  top->addLayout(messageColumn(), 1);
-  top->addLayout(choiceColumn());
-  auto* layout = new QVBoxLayout(this);
-  layout->setContentsMargins(14, 10, 14, 12);
-  layout->setSpacing(10);
-  layout->addLayout(top, 3);
-  layout->addWidget(recipients_, 2);
-  layout->addWidget(notice_);
-  layout->addLayout(bottomRow());
 }
 
 QLayout* CQuillonSMSDlg::messageColumn() {
@@ -158,27 +141,6 @@ QLayout* CQuillonSMSDlg::choiceColumn() {
   return column;
 }
 
-QLayout* CQuillonSMSDlg::bottomRow() {
-  auto* status = button(QStringLiteral("&Get Status"), QStringLiteral("getStatusButton"));
-  connect(status, &PictureButton::clicked, this, [this] { Q_EMIT statusRequested(smsWord()); });
-  auto* sendButton = button(QStringLiteral("S&end >"), QStringLiteral("sendButton"));
-  connect(sendButton, &PictureButton::clicked, this, &CQuillonSMSDlg::send);
-  sendButton->setDefault(true);
-
-  auto* row = new QHBoxLayout;
-  row->addWidget(delivery_, 1);
-  row->addSpacing(24);
-  row->addWidget(status);
-  row->addWidget(sendButton);
-  return row;
-}
-
-PictureButton* CQuillonSMSDlg::button(const QString& text, const QString& name) {
-  auto* created = new PictureButton(text, this);
-  created->setObjectName(name);
-  return created;
-}
-
 PictureButton* CQuillonSMSDlg::buttonToCome(const QString& text, const QString& name) {
   PictureButton* created = button(text, name);
   created->setEnabled(false);
@@ -192,7 +154,7 @@ SmsCharset CQuillonSMSDlg::charset() const {
 void CQuillonSMSDlg::applyCharset() {
   editor_->setTextLimit(limitsOf(charset()).text);
   if (editor_->length() > editor_->textLimit()) {
-    services_.notifier.error(messaging_texts::tooMuchText());
+    services().notifier.error(messaging_texts::tooMuchText());
     editor_->truncate(0);
   }
   recount();
@@ -202,32 +164,24 @@ void CQuillonSMSDlg::recount() {
   if (isRecounting) return;
   const QScopedValueRollback guard(isRecounting, true);
   const SmsComposition composition = composeSms(editor_->text(), charset());
-  if (composition.tooLong) services_.notifier.error(messaging_texts::unicodeTooLong());
+  if (composition.tooLong) services().notifier.error(messaging_texts::unicodeTooLong());
   editor_->truncate(static_cast<int>(composition.editorText.size()));
   totalSms_->setText(QString::number(composition.totalSms));
   remaining_->setText(QString::number(composition.remaining));
 }
 
-void CQuillonSMSDlg::send() {
-  if (isSending_) return;
-  const QScopedValueRollback guard(isSending_, true);
-  const SendOutcome outcome = flow_.send(draft());
-  notice_->follow(outcome);
-  if (outcome != SendOutcome::Delivered) return;
-  clearForm();
-  Q_EMIT messageSent(smsWord());
+SendOutcome CQuillonSMSDlg::sendMessage() {
+  return flow_.send(draft());
 }
 
-void CQuillonSMSDlg::clearForm() {
+void CQuillonSMSDlg::clearMessage() {
   editor_->clear();
-  recipients_->clearEntries();
-  delivery_->sendNow();
   recount();
 }
 
 void CQuillonSMSDlg::showTemplatesTip() {
-  services_.notifier.show(text(TextId::TemplatesTip), message_style::information,
-                          static_cast<int>(TextId::TemplatesTip));
+  services().notifier.show(text(TextId::TemplatesTip), message_style::information,
+                           static_cast<int>(TextId::TemplatesTip));
 }
 
 }  // namespace parlexo

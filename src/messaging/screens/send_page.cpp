@@ -1,0 +1,72 @@
+#include "messaging/screens/send_page.h"
+
+#include <utility>
+
+#include <QHBoxLayout>
+#include <QScopedValueRollback>
+#include <QVBoxLayout>
+
+#include "base/run_state.h"
+#include "messaging/screens/delivery_panel.h"
+#include "messaging/screens/recipients_panel.h"
+#include "messaging/screens/unanswered_notice.h"
+#include "ui/picture_button.h"
+
+namespace parlexo {
+
+SendPage::SendPage(const MessagingServices& services, SendPageKind kind, QWidget* parent)
+    : GradientPage(parent), services_(services), kind_(std::move(kind)) {}
+
+void SendPage::layOut(QLayout* message, int stretch) {
+  constexpr int recipientsStretch = 2;
+  recipients_ =
+      new RecipientsPanel(services_.addressBook, services_.notifier, kind_.selectionMode, kind_.number, this);
+  notice_ = new UnansweredNotice(this);
+  delivery_ = new DeliveryPanel(services_.state.senderId, kind_.senderIdUse, this);
+  auto* layout = new QVBoxLayout(this);
+  layout->setContentsMargins(14, 10, 14, 12);
+  layout->setSpacing(10);
+  layout->addLayout(message, stretch);
+  layout->addWidget(recipients_, recipientsStretch);
+  layout->addWidget(notice_);
+  addBottomRow(*layout);
+}
+
+void SendPage::addBottomRow(QVBoxLayout& layout) {
+  auto* status = button(QStringLiteral("&Get Status"), QStringLiteral("getStatusButton"));
+  connect(status, &PictureButton::clicked, this, [this] { Q_EMIT statusRequested(kind_.typeWord); });
+  auto* sendButton = button(QStringLiteral("S&end >"), QStringLiteral("sendButton"));
+  connect(sendButton, &PictureButton::clicked, this, &SendPage::send);
+  sendButton->setDefault(true);
+
+  auto* row = new QHBoxLayout;
+  row->addWidget(delivery_, 1);
+  row->addSpacing(24);
+  row->addWidget(status);
+  row->addWidget(sendButton);
+  layout.addLayout(row);
+}
+
+PictureButton* SendPage::button(const QString& text, const QString& name) {
+  auto* created = new PictureButton(text, this);
+  created->setObjectName(name);
+  return created;
+}
+
+const Schedule& SendPage::schedule() const {
+  return delivery_->schedule();
+}
+
+void SendPage::send() {
+  if (isSending_) return;
+  const QScopedValueRollback guard(isSending_, true);
+  const SendOutcome outcome = sendMessage();
+  notice_->follow(outcome);
+  if (outcome != SendOutcome::Delivered) return;
+  clearMessage();
+  recipients_->clearEntries();
+  delivery_->sendNow();
+  Q_EMIT messageSent(kind_.typeWord);
+}
+
+}  // namespace parlexo
