@@ -1,5 +1,6 @@
 #include "app/main_tabs.h"
 
+#include "addressbook/screens/contacts_page.h"
 #include "app/empty_page.h"
 #include "messaging/screens/send_page.h"
 #include "messaging/screens/sms_dlg.h"
@@ -29,16 +30,18 @@ void openStatusOnRequest(SendPage& page, CStatusDlg& status, CMainDlg& window) {
 
 }  // namespace
 
-std::vector<MainTab> mainTabs(const MessagingServices& services) {
-  return {{QStringLiteral("SMS"), [services] { return new CQuillonSMSDlg(services); }},
-          tabToCome(QStringLiteral("WAP")),
-          tabToCome(QStringLiteral("MMS")),
-          tabToCome(QStringLiteral("Fax")),
-          tabToCome(QStringLiteral("Receive Messages")),
-          tabToCome(QStringLiteral("Contacts")),
-          tabToCome(QStringLiteral("Account History")),
-          {statusTab, [services] { return new CStatusDlg(services); }},
-          tabToCome(QStringLiteral("Settings"))};
+std::vector<MainTab> mainTabs(const MessagingServices& services,
+                              const AddressBookServices& addressBookServices) {
+  return {
+      {QStringLiteral("SMS"), [services] { return new CQuillonSMSDlg(services); }},
+      tabToCome(QStringLiteral("WAP")),
+      tabToCome(QStringLiteral("MMS")),
+      tabToCome(QStringLiteral("Fax")),
+      tabToCome(QStringLiteral("Receive Messages")),
+      {QStringLiteral("Contacts"), [addressBookServices] { return new CContactsPage(addressBookServices); }},
+      tabToCome(QStringLiteral("Account History")),
+      {statusTab, [services] { return new CStatusDlg(services); }},
+      tabToCome(QStringLiteral("Settings"))};
 }
 
 void connectPages(CMainDlg& window) {

@@ -2,14 +2,16 @@
 
 #include <vector>
 
+#include "addressbook/core/addressbook_services.h"
 #include "app/main_dlg.h"
 #include "messaging/core/messaging_services.h"
 
 namespace parlexo {
 
-/// The pages of the main window, in the order of its tabs. `services` must refer to objects that outlive
-/// the window.
-[[nodiscard]] std::vector<MainTab> mainTabs(const MessagingServices& services);
+/// The pages of the main window, in the order of its tabs. What the services refer to must outlive the
+/// window.
+[[nodiscard]] std::vector<MainTab> mainTabs(const MessagingServices& services,
+                                            const AddressBookServices& addressBookServices);
 
 /// Connects what happens on one page of `window` to what another one shows.
 void connectPages(CMainDlg& window);

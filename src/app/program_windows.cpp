@@ -28,9 +28,10 @@ void ProgramWindows::logInAgain() {
 }
 
 void ProgramWindows::runMainWindow() {
+  AddressBook& book = services_.stores.addressBook();
   CMainDlg window(mainTabs({services_.state, services_.gateway, services_.notifier, services_.progress, *this,
-                            services_.stores.addressBook(), services_.stores.statusLog(),
-                            services_.stores.statusFile()}));
+                            book, services_.stores.statusLog(), services_.stores.statusFile()},
+                           {book, services_.notifier, services_.progress, services_.settings}));
   connectPages(window);
   const QScopedValueRollback<CMainDlg*> open(mainWindow_, &window);
   window.setUserName(services_.state.userName);

@@ -154,7 +154,8 @@ class MainTabsTest : public testing::Test {
   DiskStores stores_{settings_, notifier_, progress_};
   ProgramWindows windows_{{state_, settings_, stores_, gateway_, notifier_, progress_}};
   CMainDlg window_{mainTabs({state_, gateway_, notifier_, progress_, windows_, stores_.addressBook(),
-                             stores_.statusLog(), stores_.statusFile()})};
+                             stores_.statusLog(), stores_.statusFile()},
+                            {stores_.addressBook(), notifier_, progress_, settings_})};
 };
 
 TEST_F(MainTabsTest, pagesTellEachOtherWhatWasSent) {
