@@ -1,0 +1,58 @@
+#include "base/csv_writer.h"
+
+#include <algorithm>
+
+#include <QDir>
+#include <QSaveFile>
+
+namespace parlexo {
+namespace {
+
+constexpr char byteOrderMark[] = "\xEF\xBB\xBF";
+
+// Spreadsheets look behind a leading tab or line break too.
+bool looksLikeFormula(QStringView cell) {
+  static constexpr QStringView signs = u"=+-@\t\r\n";
+  return !cell.isEmpty() && signs.contains(cell.front());
+}
+
+// Blanks at the ends would be within their rights unquoted, but many readers trim them.
+bool needsQuotes(QStringView cell) {
+  static constexpr QStringView special = u",\"\r\n";
+  if (cell.isEmpty()) return false;
+  return cell.front().isSpace() || cell.back().isSpace() ||
+         std::any_of(cell.begin(), cell.end(), [](QChar c) { return special.contains(c); });
+}
+
+QString quoted(QString cell) {
+  return u'"' + cell.replace(u'"', QStringLiteral("\"\"")) + u'"';
+}
+
+}  // namespace
+
+CsvWriter::CsvWriter(CsvCells cells) : cells_(cells), bytes_(byteOrderMark) {}
+
+void CsvWriter::addRow(const QStringList& cells) {
+  QStringList written;
+  written.reserve(cells.size());
+  for (const QString& cell : cells) {
+    const bool isTamed = cells_ == CsvCells::Harmless && looksLikeFormula(cell);
+    const QString text = isTamed ? u'\'' + cell : cell;
+    written.append(needsQuotes(text) ? quoted(text) : text);
+  }
+  // An only cell that is empty must not read as a blank line, which readers skip.
+  bytes_ +=
+      (written == QStringList{QString()} ? QStringLiteral("\"\"") : written.join(u',')).toUtf8() + "\r\n";
+}
+
+QString CsvWriter::save(const QString& path) const {
+  QSaveFile file(path);
+  if (file.open(QIODevice::WriteOnly)) {
+    file.write(bytes_);
+    if (file.commit()) return {};
+  }
+  return QStringLiteral("The file %1 could not be written: %2")
+      .arg(QDir::toNativeSeparators(path), file.errorString());
+}
+
+}  // namespace parlexo

@@ -1,0 +1,78 @@
+#include "base/csv_writer.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+#include <gtest/gtest.h>
+
+namespace parlexo {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+QByteArray lineOf(const QStringList& cells, CsvCells kind) {
+  CsvWriter csv(kind);
+  csv.addRow(cells);
+  return csv.bytes().mid(3);
+}
+
+TEST(CsvWriter, quotesOnlyTheCellsThatNeedIt) {
+  const struct {
+    QStringList cells;
+    QByteArray line;
+  } cases[] = {
+      {{u"plain"_qs, u"two words"_qs, QString()}, "plain,two words,\r\n"},
+      {{u"Doe, J."_qs, u"say \"hi\""_qs}, "\"Doe, J.\",\"say \"\"hi\"\"\"\r\n"},
+      {{u"two\r\nlines"_qs, u"a\nb"_qs, u"a\rb"_qs}, "\"two\r\nlines\",\"a\nb\",\"a\rb\"\r\n"},
+      {{u" in front"_qs, u"behind "_qs}, "\" in front\",\"behind \"\r\n"},
+      {{u"Zo\u00EB \u4E2D \U0001F600"_qs}, "Zo\xC3\xAB \xE4\xB8\xAD \xF0\x9F\x98\x80\r\n"},
+      {{QString()}, "\"\"\r\n"},
+      {{QString(), QString()}, ",\r\n"},
+  };
+  for (const auto& [cells, line] : cases) {
+    EXPECT_EQ(lineOf(cells, CsvCells::AsTheyAre), line) << line.constData();
+    EXPECT_EQ(lineOf(cells, CsvCells::Harmless), line) << line.constData();
+  }
+}
+
+TEST(CsvWriter, formulasBecomeTextsWhereTheFileIsForPeople) {
+  const struct {
+    QString cell;
+    QByteArray harmless;
+    QByteArray asItIs;
+  } cases[] = {
+      {u"=1+1"_qs, "'=1+1", "=1+1"},
+      {u"+61491570156"_qs, "'+61491570156", "+61491570156"},
+      {u"-0.05"_qs, "'-0.05", "-0.05"},
+      {u"@SUM(A1)"_qs, "'@SUM(A1)", "@SUM(A1)"},
+      {u"\t=1"_qs, "'\t=1", "\"\t=1\""},
+      {u"\r=1"_qs, "\"'\r=1\"", "\"\r=1\""},
+      {u"=\"a\",1"_qs, "\"'=\"\"a\"\",1\"", "\"=\"\"a\"\",1\""},
+      {u"1+1=2"_qs, "1+1=2", "1+1=2"},
+  };
+  for (const auto& [cell, harmless, asItIs] : cases) {
+    EXPECT_EQ(lineOf({cell}, CsvCells::Harmless), harmless + "\r\n");
+    EXPECT_EQ(lineOf({cell}, CsvCells::AsTheyAre), asItIs + "\r\n");
+  }
+}
+
+TEST(CsvWriter, replacesAFileAsAWholeOrLeavesItAlone) {
+  const QTemporaryDir folder;
+  const QString path = folder.filePath(u"list.csv"_qs);
+  CsvWriter csv(CsvCells::AsTheyAre);
+  csv.addRow({u"Name"_qs});
+  csv.addRow({u"Ann"_qs});
+  ASSERT_EQ(csv.save(path), QString());
+  ASSERT_EQ(csv.save(path), QString());
+  QFile file(path);
+  ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+  EXPECT_EQ(file.readAll(), "\xEF\xBB\xBFName\r\nAnn\r\n");
+
+  const QString nowhere = folder.filePath(u"missing/list.csv"_qs);
+  const QString problem = csv.save(nowhere);
+  EXPECT_TRUE(problem.contains(nowhere)) << problem.toStdString();
+  EXPECT_FALSE(problem.endsWith(u": "_qs)) << problem.toStdString();
+  EXPECT_NE(csv.save(folder.path()), QString());
+}
+
+}  // namespace
+}  // namespace parlexo
