@@ -1,0 +1,13 @@
+// Stands in for the reader of .xls in builds without libfreexl.
+
+#include "contacts/import/workbook_readers.h"
+
+namespace parlexo {
+
+QString readBinaryWorkbook(const QString& /*path*/, const ImportLimits& /*limits*/,
+                           const CancelFlag& /*cancel*/, NamedSheets& /*sheets*/) {
+  return QStringLiteral(
+      "This program was built without the reader of .xls workbooks. Save the sheet as CSV.");
+}
+
+}  // namespace parlexo

@@ -1,0 +1,148 @@
+#include "contacts/import/delimited_file.h"
+
+#include <algorithm>
+#include <map>
+#include <optional>
+
+#include <QFile>
+#include <QFileInfo>
+#include <QStringDecoder>
+
+#include "base/code_page.h"
+#include "contacts/import/delimited_parser.h"
+
+namespace parlexo {
+
+namespace {
+
+constexpr qint64 chunkBytes = 1 << 18;
+constexpr int rowsToJudge = 20;
+
+/// Turns the bytes of a file into text, chunk by chunk, without the byte order mark.
+class TextDecoder {
+ public:
+  explicit TextDecoder(TextEncoding encoding) : converter_(converterFor(encoding)) {}
+
+  QString decode(QByteArrayView bytes) {
+    QString text = converter_ ? QString(converter_->decode(bytes)) : fromCodePage(bytes);
+    if (atStart_ && !text.isEmpty()) {
+      atStart_ = false;
+      if (text.front() == QChar(QChar::ByteOrderMark)) text.remove(0, 1);
+    }
+    return text;
+  }
+
+ private:
+  static std::optional<QStringDecoder> converterFor(TextEncoding encoding) {
+    switch (encoding) {
+      case TextEncoding::Utf8:
+        return std::optional<QStringDecoder>(QStringDecoder::Utf8);
+      case TextEncoding::Utf16LittleEndian:
+        return std::optional<QStringDecoder>(QStringDecoder::Utf16LE);
+      case TextEncoding::Utf16BigEndian:
+        return std::optional<QStringDecoder>(QStringDecoder::Utf16BE);
+      case TextEncoding::CodePage:
+        return std::nullopt;
+    }
+    Q_UNREACHABLE();
+  }
+
+  std::optional<QStringDecoder> converter_;
+  bool atStart_ = true;
+};
+
+bool isUtf8(QFile& file, const CancelFlag& cancel) {
+  QStringDecoder decoder(QStringDecoder::Utf8);
+  while (!file.atEnd() && !cancel.isRaised()) {
+    const QString text = decoder.decode(file.read(chunkBytes));
+    if (text.isEmpty() || decoder.hasError()) return false;
+  }
+  // A sequence that the file's end cuts short shows by what follows it.
+  const QString tail = decoder.decode("\n");
+  return tail.size() == 1 && !decoder.hasError();
+}
+
+TextEncoding detectEncoding(QFile& file, const CancelFlag& cancel) {
+  const QByteArray start = file.peek(3);
+  if (start.startsWith("\xEF\xBB\xBF")) return TextEncoding::Utf8;
+  if (start.startsWith("\xFF\xFE")) return TextEncoding::Utf16LittleEndian;
+  if (start.startsWith("\xFE\xFF")) return TextEncoding::Utf16BigEndian;
+  return isUtf8(file, cancel) ? TextEncoding::Utf8 : TextEncoding::CodePage;
+}
+
+/// How many of the rows have the commonest number of cells, which must be more than one.
+int evenRows(const Sheet& sheet) {
+  std::map<int, int> rowsByCells;
+  for (int row = 0; row < sheet.rowCount(); ++row) {
+    if (sheet.isBlank(row)) continue;
+    if (sheet.cellCount(row) > 1) ++rowsByCells[sheet.cellCount(row)];
+  }
+  int most = 0;
+  for (const auto& [cells, rows] : rowsByCells) most = std::max(most, rows);
+  return most;
+}
+
+QChar detectDelimiter(const QString& path, TextEncoding encoding, const ImportLimits& limits,
+                      const CancelFlag& cancel) {
+  QChar best = path.endsWith(QLatin1String(".tsv"), Qt::CaseInsensitive) ? u'\t' : u',';
+  int bestRows = 0;
+  for (const QChar delimiter : knownDelimiters) {
+    const SheetReading reading = readDelimited(path, {encoding, delimiter}, limits, cancel, rowsToJudge);
+    // Where the quotation marks make no sense, the delimiter is another.
+    const int rows = reading.problem.isEmpty() ? evenRows(reading.sheet) : 0;
+    if (rows <= bestRows) continue;
+    bestRows = rows;
+    best = delimiter;
+  }
+  return best;
+}
+
+}  // namespace
+
+QString fileProblem(const QString& path, const ImportLimits& limits) {
+  const QFileInfo info(path);
+  if (!info.exists()) return QStringLiteral("There is no such file: ") + path;
+  // A pipe or a device might never come to its end.
+  if (!info.isFile()) return QStringLiteral("This is not a file: ") + path;
+  if (info.size() > limits.fileBytes)
+    return QStringLiteral("The file has %L1 MB. Files of more than %L2 MB can't be imported.")
+        .arg(info.size() >> 20)
+        .arg(limits.fileBytes >> 20);
+  if (info.size() == 0) return QStringLiteral("The file is empty.");
+  QFile file(path);
+  if (!file.open(QIODevice::ReadOnly))
+    return QStringLiteral("The file can't be opened: ") + file.errorString();
+  return {};
+}
+
+DelimitedFormat detectFormat(const QString& path, const ImportLimits& limits, const CancelFlag& cancel) {
+  QFile file(path);
+  if (!file.open(QIODevice::ReadOnly)) return {};
+  const TextEncoding encoding = detectEncoding(file, cancel);
+  return {encoding, detectDelimiter(path, encoding, limits, cancel)};
+}
+
+SheetReading readDelimited(const QString& path, const DelimitedFormat& format, const ImportLimits& limits,
+                           const CancelFlag& cancel, int maxRows) {
+  SheetReading reading;
+  QFile file(path);
+  if (!file.open(QIODevice::ReadOnly)) {
+    reading.problem = QStringLiteral("The file can't be opened: ") + file.errorString();
+    return reading;
+  }
+  TextDecoder decoder(format.encoding);
+  DelimitedParser parser(format.delimiter, limits, maxRows, reading.sheet);
+  for (;;) {
+    const QByteArray bytes = file.read(chunkBytes);
+    if (bytes.isEmpty()) break;
+    if (!parser.feed(decoder.decode(bytes)) || cancel.isRaised()) break;
+  }
+  if (cancel.isRaised()) return reading;
+  parser.finish();
+  reading.problem = file.error() == QFileDevice::NoError
+                        ? parser.problem()
+                        : QStringLiteral("The file can't be read: ") + file.errorString();
+  return reading;
+}
+
+}  // namespace parlexo

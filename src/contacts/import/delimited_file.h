@@ -1,0 +1,48 @@
+#pragma once
+
+#include <limits>
+
+#include <QString>
+
+#include "base/call_runner.h"
+#include "contacts/import/import_limits.h"
+#include "contacts/import/sheet.h"
+
+namespace parlexo {
+
+enum class TextEncoding { Utf8, Utf16LittleEndian, Utf16BigEndian, CodePage };
+
+/// How a text file is to be read.
+struct DelimitedFormat {
+  TextEncoding encoding = TextEncoding::Utf8;
+  QChar delimiter = u',';
+
+  bool operator==(const DelimitedFormat&) const = default;
+};
+
+/// The delimiters that are looked for, the likelier first.
+inline constexpr QChar knownDelimiters[] = {u',', u';', u'\t', u'|'};
+
+/// What came of reading: the rows and, where something was wrong, a message for the user.
+struct SheetReading {
+  Sheet sheet;
+  QString problem;
+};
+
+/// Why the file can't be imported before even looking into it: it is missing, no file, empty or too large;
+/// empty when nothing is in the way.
+[[nodiscard]] QString fileProblem(const QString& path, const ImportLimits& limits = {});
+
+/// Tells the encoding by the byte order mark, else by whether all bytes are valid UTF-8, else it is the code
+/// page; and the delimiter by which of the known ones cuts the first rows most evenly. Reads the whole file
+/// once; a file that can't be read has some format.
+[[nodiscard]] DelimitedFormat detectFormat(const QString& path, const ImportLimits& limits,
+                                           const CancelFlag& cancel);
+
+/// Reads at most the first `maxRows` rows. The problem of a file that can't be read or is broken names the
+/// line; a cancelled reading ends early and has none.
+[[nodiscard]] SheetReading readDelimited(const QString& path, const DelimitedFormat& format,
+                                         const ImportLimits& limits, const CancelFlag& cancel,
+                                         int maxRows = std::numeric_limits<int>::max());
+
+}  // namespace parlexo

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QString>
+#include <QStringView>
+
+namespace parlexo {
+
+/// A number as a user would type it: whole numbers with all their digits and without an exponent.
+[[nodiscard]] QString numberText(double value);
+
+/// The same for a number as it stands in a workbook's XML; digits alone stay as they are, however many.
+/// What is no number stays as well.
+[[nodiscard]] QString numberText(QStringView written);
+
+/// Whether a workbook's number format, like "dd/mm/yyyy", shows numbers as dates or times.
+[[nodiscard]] bool isDateFormat(QStringView format);
+
+/// The day, and the time where there is one, that a workbook's serial number stands for: days since the end
+/// of 1899, or since 1904 began. A number that is no such day gives its numberText().
+[[nodiscard]] QString dateText(double serial, bool since1904);
+
+}  // namespace parlexo

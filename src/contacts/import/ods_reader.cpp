@@ -1,0 +1,120 @@
+#include "contacts/import/ods_reader.h"
+
+#include <algorithm>
+#include <limits>
+#include <memory>
+
+#include <QXmlStreamReader>
+
+#include "contacts/import/number_format.h"
+
+namespace parlexo {
+
+namespace {
+
+QStringView odsAttribute(const QXmlStreamReader& xml, QStringView name) {
+  for (const QXmlStreamAttribute& candidate : xml.attributes())
+    if (candidate.name() == name) return candidate.value();
+  return {};
+}
+
+int repeatsOf(const QXmlStreamReader& xml, QStringView name) {
+  return std::max(1, odsAttribute(xml, name).toInt());
+}
+
+/// Counts past the last cell of any sheet stay there.
+void advance(int& position, int count) {
+  position = std::min(position, std::numeric_limits<int>::max() / 2);
+  position += std::min(count, std::numeric_limits<int>::max() / 2);
+}
+
+/// The text of the paragraph or of a stretch of it at which `xml` stands.
+QString paragraphText(QXmlStreamReader& xml) {
+  constexpr int longestBlank = 1000;
+  QString text;
+  while (!xml.atEnd() && xml.readNext() != QXmlStreamReader::EndElement) {
+    if (xml.isCharacters()) text += xml.text();
+    if (!xml.isStartElement()) continue;
+    if (xml.name() == u"s") text += QString(std::min(repeatsOf(xml, u"c"), longestBlank), u' ');
+    if (xml.name() == u"tab" || xml.name() == u"line-break") text += u' ';
+    if (xml.name() == u"annotation" || xml.name() == u"note")
+      xml.skipCurrentElement();
+    else
+      text += paragraphText(xml);
+  }
+  return text;
+}
+
+/// What is written in the cell at which `xml` stands; notes are no part of it.
+QString shownText(QXmlStreamReader& xml) {
+  QString text;
+  while (xml.readNextStartElement()) {
+    if (xml.name() != u"p") {
+      xml.skipCurrentElement();
+      continue;
+    }
+    if (!text.isEmpty()) text += u'\n';
+    text += paragraphText(xml);
+  }
+  return text;
+}
+
+/// The value of the cell where it has one that is not a text; null else.
+QString valueText(const QXmlStreamReader& xml) {
+  const QStringView type = odsAttribute(xml, u"value-type");
+  if (type == u"float" || type == u"percentage" || type == u"currency")
+    return numberText(odsAttribute(xml, u"value"));
+  if (type == u"date") return odsAttribute(xml, u"date-value").toString().replace(u'T', u' ');
+  if (type == u"boolean") return odsAttribute(xml, u"boolean-value").toString().toUpper();
+  return {};
+}
+
+}  // namespace
+
+bool OdsReader::read() {
+  const std::unique_ptr<QIODevice> part = archive_.openPart(QStringLiteral("content.xml"));
+  if (!part) return false;
+  QXmlStreamReader xml(part.get());
+  while (!xml.atEnd() && builder_.isOpen())
+    if (xml.readNext() == QXmlStreamReader::StartElement && xml.name() == u"table") readTable(xml);
+  return !xml.hasError();
+}
+
+// Rows may stand in groups and header groups.
+void OdsReader::readTable(QXmlStreamReader& xml) {
+  sheet_ = builder_.addSheet(odsAttribute(xml, u"name").toString());
+  row_ = 0;
+  while (!xml.atEnd() && builder_.isOpen()) {
+    xml.readNext();
+    if (xml.isStartElement() && xml.name() == u"table-row") readRow(xml);
+    if (xml.isEndElement() && xml.name() == u"table") return;
+  }
+}
+
+void OdsReader::readRow(QXmlStreamReader& xml) {
+  const int repeats = repeatsOf(xml, u"number-rows-repeated");
+  column_ = 0;
+  while (builder_.isOpen() && xml.readNextStartElement()) {
+    if (xml.name() == u"table-cell" || xml.name() == u"covered-table-cell")
+      readCell(xml, repeats);
+    else
+      xml.skipCurrentElement();
+  }
+  advance(row_, repeats);
+}
+
+void OdsReader::readCell(QXmlStreamReader& xml, int repeats) {
+  const int columns = repeatsOf(xml, u"number-columns-repeated");
+  QString text = valueText(xml);
+  const QString shown = shownText(xml);
+  if (text.isEmpty()) text = shown;
+  if (!text.isEmpty()) {
+    const std::size_t number = builder_.addText(text);
+    for (int row = 0; row < repeats && builder_.isOpen(); ++row)
+      for (int column = 0; column < columns && builder_.isOpen(); ++column)
+        builder_.setText(sheet_, row_ + row, column_ + column, number);
+  }
+  advance(column_, columns);
+}
+
+}  // namespace parlexo

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QString>
+
+#include "contacts/import/workbook_builder.h"
+#include "contacts/import/zip_archive.h"
+
+class QXmlStreamReader;
+
+namespace parlexo {
+
+/// Reads the cells of an .ods workbook.
+class OdsReader {
+ public:
+  OdsReader(ZipArchive& archive, WorkbookBuilder& builder) : archive_(archive), builder_(builder) {}
+
+  /// False when the content is missing or is no XML; the builder may have a better message.
+  [[nodiscard]] bool read();
+
+ private:
+  void readTable(QXmlStreamReader& xml);
+  void readRow(QXmlStreamReader& xml);
+  /// `repeats` rows from row_ on.
+  void readCell(QXmlStreamReader& xml, int repeats);
+
+  ZipArchive& archive_;
+  WorkbookBuilder& builder_;
+  std::size_t sheet_ = 0;
+  int row_ = 0;
+  int column_ = 0;
+};
+
+}  // namespace parlexo

@@ -1,0 +1,13 @@
+// Stands in for the reader of .xlsx and .ods in builds without libzip.
+
+#include "contacts/import/workbook_readers.h"
+
+namespace parlexo {
+
+QString readPackedWorkbook(const QString& /*path*/, const ImportLimits& /*limits*/,
+                           const CancelFlag& /*cancel*/, NamedSheets& /*sheets*/) {
+  return QStringLiteral(
+      "This program was built without the reader of .xlsx and .ods workbooks. Save the sheet as CSV.");
+}
+
+}  // namespace parlexo

@@ -1,0 +1,36 @@
+#pragma once
+
+#include <vector>
+
+#include <QString>
+
+#include "base/call_runner.h"
+#include "contacts/import/import_limits.h"
+#include "contacts/import/sheet.h"
+
+namespace parlexo {
+
+/// The sheets of a workbook file (.xls, .xlsx or .ods) with their rows and cells as texts. Numbers keep all
+/// their digits; of formulas the file's last result counts.
+class CSpreadSheet {
+ public:
+  struct NamedSheet {
+    QString name;
+    Sheet sheet;
+  };
+
+  /// Whether the file begins like a workbook, whatever its name says: programs give text files the names of
+  /// workbooks and the other way round.
+  [[nodiscard]] static bool isWorkbook(const QString& path);
+
+  /// Reads all sheets. Returns what is wrong with the file, as the user is told; empty when nothing is.
+  /// Raising `cancel` ends the reading early.
+  [[nodiscard]] QString read(const QString& path, const ImportLimits& limits, const CancelFlag& cancel);
+
+  [[nodiscard]] const std::vector<NamedSheet>& sheets() const { return sheets_; }
+
+ private:
+  std::vector<NamedSheet> sheets_;
+};
+
+}  // namespace parlexo

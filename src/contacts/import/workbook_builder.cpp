@@ -1,0 +1,83 @@
+#include "contacts/import/workbook_builder.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace parlexo {
+
+namespace {
+
+QString textLimitProblem() {
+  return QStringLiteral("The file has too much text.");
+}
+
+}  // namespace
+
+std::size_t WorkbookBuilder::addSheet(const QString& name) {
+  if (sheets_.size() >= static_cast<std::size_t>(limits_.sheets))
+    problem_ = QStringLiteral("The file has more than %L1 sheets.").arg(limits_.sheets);
+  else
+    sheets_.push_back({name, {}});
+  return sheets_.size() - 1;
+}
+
+std::size_t WorkbookBuilder::addText(const QString& text) {
+  if (!isOpen()) return texts_.size();
+  textLength_ += text.size();
+  if (textLength_ > limits_.textLength || text.size() > limits_.cellLength) problem_ = textLimitProblem();
+  texts_.push_back(text);
+  return texts_.size() - 1;
+}
+
+bool WorkbookBuilder::takes(int row, int column) {
+  if (!isOpen() || row < 0 || column < 0) return false;
+  if (column >= limits_.columns)
+    problem_ = QStringLiteral("The file has more than %L1 columns.").arg(limits_.columns);
+  else if (row >= limits_.rows)
+    problem_ = QStringLiteral("The file has more than %L1 rows.").arg(limits_.rows);
+  else if (++cellCount_ > limits_.cells)
+    problem_ = QStringLiteral("The file has more than %L1 cells.").arg(limits_.cells);
+  return problem_.isEmpty();
+}
+
+void WorkbookBuilder::setText(std::size_t sheet, int row, int column, std::size_t textNumber) {
+  if (textNumber >= texts_.size() || sheet >= sheets_.size() || !takes(row, column)) return;
+  sheets_[sheet].cells.push_back({row, column, static_cast<quint32>(textNumber)});
+}
+
+void WorkbookBuilder::setCell(std::size_t sheet, int row, int column, const QString& text) {
+  if (!text.isEmpty()) setText(sheet, row, column, addText(text));
+}
+
+NamedSheets WorkbookBuilder::build() {
+  NamedSheets built;
+  qsizetype length = 0;
+  for (RawSheet& raw : sheets_) {
+    if (raw.cells.empty()) continue;
+    for (const Cell& cell : raw.cells) length += texts_[cell.text].size();
+    // Few texts may be in many cells.
+    if (length > limits_.textLength) problem_ = textLimitProblem();
+    if (!isOpen()) return {};
+    built.push_back({raw.name, tableOf(raw.cells, texts_)});
+  }
+  return built;
+}
+
+Sheet WorkbookBuilder::tableOf(std::vector<Cell>& cells, const std::vector<QString>& texts) {
+  const auto place = [](const Cell& cell) { return std::pair(cell.row, cell.column); };
+  std::stable_sort(cells.begin(), cells.end(),
+                   [&](const Cell& left, const Cell& right) { return place(left) < place(right); });
+  Sheet sheet;
+  for (std::size_t i = 0; i < cells.size(); ++i) {
+    // Of a cell that was told twice, the later one.
+    if (i + 1 < cells.size() && place(cells[i]) == place(cells[i + 1])) continue;
+    while (sheet.rowCount() < cells[i].row) sheet.endRow();
+    while (sheet.openRowCells() < cells[i].column) sheet.endCell();
+    sheet.append(texts[cells[i].text]);
+    sheet.endCell();
+  }
+  if (!cells.empty()) sheet.endRow();
+  return sheet;
+}
+
+}  // namespace parlexo

@@ -1,0 +1,53 @@
+#pragma once
+
+#include <set>
+#include <utility>
+#include <vector>
+
+#include <QString>
+
+#include "contacts/import/workbook_builder.h"
+#include "contacts/import/zip_archive.h"
+
+class QXmlStreamReader;
+
+namespace parlexo {
+
+/// Reads the cells of an .xlsx workbook: which parts its sheets are, the texts that they share, which
+/// formats are dates, then sheet by sheet.
+class XlsxReader {
+ public:
+  XlsxReader(ZipArchive& archive, WorkbookBuilder& builder) : archive_(archive), builder_(builder) {}
+
+  /// False when a part is missing or is no XML; the builder may have a better message.
+  [[nodiscard]] bool read();
+
+ private:
+  struct Relation {
+    QString id;
+    QString type;
+    QString part;
+  };
+  struct Place {
+    int row = 0;
+    int column = 0;
+  };
+
+  [[nodiscard]] std::vector<Relation> readRelations(const QString& ofPart);
+  [[nodiscard]] bool readWorkbook(const QString& part);
+  [[nodiscard]] bool readTexts(const QString& part);
+  [[nodiscard]] bool readStyles(const QString& part);
+  [[nodiscard]] bool readSheet(const QString& name, const QString& part);
+  void readCell(QXmlStreamReader& xml, std::size_t sheet, Place place);
+  void setNumber(std::size_t sheet, Place place, const QString& written, std::size_t style);
+
+  ZipArchive& archive_;
+  WorkbookBuilder& builder_;
+  std::vector<std::pair<QString, QString>> sheets_;  ///< name and id of the relation
+  std::size_t firstText_ = 0;
+  std::size_t textCount_ = 0;
+  std::vector<bool> dateStyles_;
+  bool since1904_ = false;
+};
+
+}  // namespace parlexo
