@@ -29,7 +29,7 @@ Application::Application(const ProgramOptions& options)
       runner_(progress_),
       gateway_(state_, runner_),
       stores_(*settings_, notifier_, progress_),
-      windows_({state_, *settings_, stores_, gateway_, notifier_, progress_}) {
+      windows_({state_, *settings_, stores_, gateway_, notifier_, progress_, runner_}) {
   setServiceHost(settings_->serviceHost());
   if (site_.isEmpty()) site_ = QStringLiteral("http://") + settings_->serviceHost();
 }

@@ -29,9 +29,10 @@ void ProgramWindows::logInAgain() {
 
 void ProgramWindows::runMainWindow() {
   AddressBook& book = services_.stores.addressBook();
-  CMainDlg window(mainTabs({services_.state, services_.gateway, services_.notifier, services_.progress, *this,
-                            book, services_.stores.statusLog(), services_.stores.statusFile()},
-                           {book, services_.notifier, services_.progress, services_.settings}));
+  CMainDlg window(
+      mainTabs({services_.state, services_.gateway, services_.notifier, services_.progress, *this, book,
+                services_.stores.statusLog(), services_.stores.statusFile()},
+               {book, services_.notifier, services_.progress, services_.settings, services_.runner}));
   connectPages(window);
   const QScopedValueRollback<CMainDlg*> open(mainWindow_, &window);
   window.setUserName(services_.state.userName);

@@ -3,6 +3,7 @@
 #include <QString>
 
 #include "app/core/start_up.h"
+#include "base/call_runner.h"
 #include "base/notifier.h"
 #include "base/progress.h"
 #include "base/run_state.h"
@@ -23,6 +24,7 @@ struct WindowServices {
   const Gateway& gateway;
   Notifier& notifier;
   Progress& progress;
+  CallRunner& runner;
 };
 
 /// Opens the program's own windows with their real parts behind them.

@@ -152,10 +152,10 @@ class MainTabsTest : public testing::Test {
   NotificationNotifier notifier_{settings_};
   ProgressBox progress_;
   DiskStores stores_{settings_, notifier_, progress_};
-  ProgramWindows windows_{{state_, settings_, stores_, gateway_, notifier_, progress_}};
+  ProgramWindows windows_{{state_, settings_, stores_, gateway_, notifier_, progress_, runner_}};
   CMainDlg window_{mainTabs({state_, gateway_, notifier_, progress_, windows_, stores_.addressBook(),
                              stores_.statusLog(), stores_.statusFile()},
-                            {stores_.addressBook(), notifier_, progress_, settings_})};
+                            {stores_.addressBook(), notifier_, progress_, settings_, runner_})};
 };
 
 TEST_F(MainTabsTest, pagesTellEachOtherWhatWasSent) {

@@ -3,6 +3,7 @@
 namespace parlexo {
 
 class AddressBook;
+class CallRunner;
 class Notifier;
 class Progress;
 class Settings;
@@ -14,6 +15,7 @@ struct AddressBookServices {
   Notifier& notifier;
   Progress& progress;
   Settings& settings;
+  CallRunner& runner;  ///< for reading files that others may hold or that are large
 };
 
 }  // namespace parlexo
