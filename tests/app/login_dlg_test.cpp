@@ -86,7 +86,7 @@ class SessionRenewalTest : public LoginDlgTest {
   }
 
   DiskStores disk_{settings, notifier, progress};
-  ProgramWindows renewal_{{state, settings, disk_, gateway, notifier, progress}};
+  ProgramWindows renewal_{{state, settings, disk_, gateway, notifier, progress, runner}};
   QObject context_;
 };
 
