@@ -4,12 +4,19 @@
 
 #include <QApplication>
 #include <QEventLoop>
+#include <QScreen>
 
 namespace parlexo {
 
 namespace {
 
 constexpr qint64 repaintPause = 30;  // milliseconds
+
+// Window managers put a frameless box without an owner into a corner.
+void centreOnScreen(QWidget& box) {
+  box.adjustSize();
+  box.move(box.screen()->availableGeometry().center() - box.rect().center());
+}
 
 void handleWaitingEvents() {
   QCoreApplication::processEvents(QEventLoop::ExcludeSocketNotifiers);
@@ -28,6 +35,7 @@ void ProgressBox::show(const QString& text) {
     // The box may go before hide() is called: with the window it stands over.
     QObject::connect(box_, &QObject::destroyed, box_, [this] { block_.reset(); });
     if (!text.isEmpty()) box_->setText(text);
+    if (!box_->parentWidget()) centreOnScreen(*box_);
     exchanging_.invalidate();
     isOffered_ = false;
     isCancelled_ = false;
