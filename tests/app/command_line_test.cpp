@@ -49,15 +49,15 @@ TEST_P(AcceptedCommandLine, setsTheOptions) {
 
 INSTANTIATE_TEST_SUITE_P(
     Arguments, AcceptedCommandLine,
-    testing::Values(Accepted{{}, false, {}, {}}, Accepted{{u"--demo"_qs}, true, {}, {}},
-                    Accepted{
-                        {u"--site"_qs, u"http://127.0.0.1:8081"_qs}, false, u"http://127.0.0.1:8081"_qs, {}},
-                    Accepted{{u"--site=http://[::1]:8081/"_qs, u"--data-dir=/tmp/a=b"_qs},
-                             false,
-                             u"http://[::1]:8081"_qs,
-                             u"/tmp/a=b"_qs},
-                    Accepted{{u"--data-dir"_qs, u"x"_qs}, false, {}, QDir::currentPath() + u"/x"_qs},
-                    Accepted{{u"-platform"_qs, u"offscreen"_qs, u"--demo"_qs}, true, {}, {}}));
+    testing::Values(
+        Accepted{{}, false, {}, {}}, Accepted{{u"--demo"_qs}, true, {}, {}},
+        Accepted{{u"--site"_qs, u"http://127.0.0.1:8081"_qs}, false, u"http://127.0.0.1:8081"_qs, {}},
+        Accepted{{u"--site=http://[::1]:8081/"_qs, u"--data-dir=/tmp/a=b"_qs},
+                 false,
+                 u"http://[::1]:8081"_qs,
+                 u"/tmp/a=b"_qs},
+        Accepted{{u"--data-dir"_qs, u"x"_qs}, false, {}, QDir::currentPath() + u"/x"_qs},
+        Accepted{{u"-platform"_qs, u"offscreen"_qs, u"-style=fusion"_qs, u"--demo"_qs}, true, {}, {}}));
 
 struct Ending {
   QStringList arguments;
@@ -84,6 +84,8 @@ INSTANTIATE_TEST_SUITE_P(
     testing::Values(Ending{{u"--help"_qs}, 0, u"--data-dir DIR"_qs},
                     Ending{{u"--version"_qs}, 0, u"Parlexo Client 2.24\n"_qs},
                     Ending{{u"--demos"_qs}, 2, u"unknown option \"--demos\""_qs},
+                    Ending{{u"-h"_qs}, 0, u"--data-dir DIR"_qs},
+                    Ending{{u"-demo"_qs}, 2, u"unknown option \"-demo\""_qs},
                     Ending{{u"demo"_qs}, 2, u"unknown option \"demo\""_qs},
                     Ending{{QString()}, 2, u"unknown"_qs},
                     Ending{{u"--site"_qs}, 2, u"option \"--site\" needs a value"_qs},

@@ -27,21 +27,36 @@ QString helpText() {
          "                          leave a picture of every step in DIR\n"
          "  --site http://HOST:PORT ask this web site where the gateway is, not %1\n"
          "  --data-dir DIR          keep contacts, templates, status log and settings in DIR\n"
-         "  --version               print the version and end\n"
-         "  --help                  print this text and end\n"_qs.arg(defaultServiceHost());
+         "  -v, --version           print the version and end\n"
+         "  -h, --help              print this text and end\n"_qs.arg(defaultServiceHost());
 }
 
 ImmediateEnd wrong(const QString& message) {
   return {wrongUsage, u"parlexo-client: "_qs + message + u"\nTry \"parlexo-client --help\".\n"_qs};
 }
 
-bool isToolkitOption(const QString& argument) {
-  return argument.size() > 1 && argument[0] == u'-' && argument[1] != u'-';
+bool isToolkitFlag(const QString& argument) {
+  static const QStringList names = {u"-reverse"_qs, u"-nograb"_qs, u"-dograb"_qs, u"-widgetcount"_qs};
+  return names.contains(argument) || argument.startsWith(u"-style="_qs) ||
+         argument.startsWith(u"-stylesheet="_qs);
 }
 
-bool toolkitOptionTakesValue(const QString& argument) {
-  static const QStringList names = {u"-platform"_qs,   u"-platformtheme"_qs, u"-style"_qs,
-                                    u"-stylesheet"_qs, u"-display"_qs,       u"-geometry"_qs};
+bool isToolkitOptionWithValue(const QString& argument) {
+  static const QStringList names = {u"-platform"_qs,
+                                    u"-platformtheme"_qs,
+                                    u"-platformpluginpath"_qs,
+                                    u"-plugin"_qs,
+                                    u"-qwindowgeometry"_qs,
+                                    u"-qwindowtitle"_qs,
+                                    u"-qwindowicon"_qs,
+                                    u"-style"_qs,
+                                    u"-stylesheet"_qs,
+                                    u"-session"_qs,
+                                    u"-display"_qs,
+                                    u"-geometry"_qs,
+                                    u"-title"_qs,
+                                    u"-icon"_qs,
+                                    u"-name"_qs};
   return names.contains(argument);
 }
 
@@ -65,14 +80,15 @@ class Parser {
 
  private:
   void take(const QString& argument) {
-    if (!isToolkitOption(argument)) return takeOwn(argument);
-    if (toolkitOptionTakesValue(argument) && !rest_.isEmpty()) rest_.removeFirst();
+    if (isToolkitFlag(argument)) return;
+    if (!isToolkitOptionWithValue(argument)) return takeOwn(argument);
+    if (!rest_.isEmpty()) rest_.removeFirst();
   }
 
   void takeOwn(const QString& argument) {
-    if (argument == u"--help"_qs) {
+    if (argument == u"--help"_qs || argument == u"-h"_qs) {
       end_ = ImmediateEnd{0, helpText()};
-    } else if (argument == u"--version"_qs) {
+    } else if (argument == u"--version"_qs || argument == u"-v"_qs) {
       end_ = ImmediateEnd{0, u"Parlexo Client %1\n"_qs.arg(QLatin1String(clientVersion))};
     } else if (argument == u"--demo"_qs) {
       options_.demo = true;

@@ -22,8 +22,8 @@ struct ImmediateEnd {
   QString output;
 };
 
-/// Reads the arguments after the program's name. Arguments that the toolkit understands (a single dash
-/// and a word, such as "-platform offscreen") are passed over. A wrong option ends with exit code 2.
+/// Reads the arguments after the program's name. Options that the toolkit understands, such as "-platform
+/// offscreen", are passed over with their values. A wrong option ends with exit code 2.
 [[nodiscard]] std::variant<ProgramOptions, ImmediateEnd> parseCommandLine(const QStringList& arguments);
 
 }  // namespace parlexo
