@@ -3,10 +3,12 @@
 #include <cstdio>
 #include <optional>
 
+#include <QCommandLineOption>
 #include <QCommandLineParser>
 #include <QCoreApplication>
 #include <QString>
 
+#include "base/product.h"
 #include "contacts/sample_contacts.h"
 
 namespace {
@@ -32,13 +34,20 @@ int main(int argc, char** argv) {
   QCommandLineParser parser;
   parser.setApplicationDescription(
       QStringLiteral("Writes a made-up address book into the folder DIR, which must not hold one yet."));
-  parser.addHelpOption();
+  const QCommandLineOption help = parser.addHelpOption();
+  QCoreApplication::setApplicationVersion(QLatin1String(parlexo::clientVersion));
+  const QCommandLineOption version = parser.addVersionOption();
   parser.addOption(
       {contactsOption, QStringLiteral("How many contacts (40)."), QStringLiteral("N"), QStringLiteral("40")});
   parser.addOption({groupsOption, QStringLiteral("How many groups beside My Personal Contacts (6)."),
                     QStringLiteral("M"), QStringLiteral("6")});
   parser.addPositionalArgument(QStringLiteral("DIR"), QStringLiteral("The contacts folder to fill."));
-  parser.process(application);
+  if (!parser.parse(QCoreApplication::arguments())) {
+    std::fprintf(stderr, "make-contacts: %s (see --help)\n", qPrintable(parser.errorText()));
+    return badUsage;
+  }
+  if (parser.isSet(help)) parser.showHelp();
+  if (parser.isSet(version)) parser.showVersion();
 
   const std::optional<int> contacts = countOf(parser, contactsOption);
   const std::optional<int> groups = countOf(parser, groupsOption);
