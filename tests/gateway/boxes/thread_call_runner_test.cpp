@@ -21,7 +21,7 @@ CallRunner::Exchange lasting(std::chrono::milliseconds time) {
   return [time](const CancelFlag&) { std::this_thread::sleep_for(time); };
 }
 
-class ThreadCallRunnerTest : public testing::Test {
+class ThreadCallRunnerTest : public ::testing::Test {
  protected:
   ProgressBox progress_;
   ThreadCallRunner runner_{progress_, {.untilBox = 50ms, .afterCancel = 100ms}};
@@ -125,7 +125,7 @@ TEST_F(ThreadCallRunnerTest, cancelledExchangeThatObeysHasEnded) {
 }
 
 /// A user who waits for the Cancel button of the box and then uses it.
-class CancelOffer : public testing::Test {
+class CancelOffer : public ::testing::Test {
  protected:
   static QAbstractButton* button() {
     auto* found = boxes().isEmpty() ? nullptr : boxes().front()->findChild<QAbstractButton*>();

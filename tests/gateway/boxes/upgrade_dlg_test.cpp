@@ -22,9 +22,9 @@ TEST(UpgradeDialog, tellsTheNewVersionOnlyWhenItIsKnown) {
       "The version of the client software you are using is out of date.\nPress the Download button to "
       "download the latest version  of the program. Get the latest fixes and new features...");
   const QString news = QStringLiteral("A new version 2.30%1 is now available!");
-  EXPECT_THAT(visibleTexts(CUpgradeDlg(QString())), testing::ElementsAre(warning, explanation));
+  EXPECT_THAT(visibleTexts(CUpgradeDlg(QString())), ::testing::ElementsAre(warning, explanation));
   EXPECT_THAT(visibleTexts(CUpgradeDlg(QStringLiteral("2.30%1"))),
-              testing::ElementsAre(warning, news, explanation));
+              ::testing::ElementsAre(warning, news, explanation));
   EXPECT_EQ(CUpgradeDlg(QString()).windowTitle(), QStringLiteral("Parlexo(TM) : Product UPGRADE"));
 }
 
