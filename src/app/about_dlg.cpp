@@ -30,8 +30,6 @@ QLabel* createVersionLabel() {
 CAboutDlg::CAboutDlg(QWidget* parent) : GradientDialog(parent) {
   setObjectName(QStringLiteral("about"));
   setWindowTitle(QStringLiteral("Parlexo(TM) : About"));
-  auto* picture = new CAnimatedPicture;
-  if (picture->loadFromResource(QLatin1String(connectingAnimation))) picture->start();
   auto* site = new HyperlinkLabel(webPage({}), QUrl(webPage({})));
   site->setObjectName(QStringLiteral("site"));
   auto* texts = new QVBoxLayout;
@@ -44,7 +42,7 @@ CAboutDlg::CAboutDlg(QWidget* parent) : GradientDialog(parent) {
   ok->setDefault(true);
   connect(ok, &PictureButton::clicked, this, &CAboutDlg::accept);
   auto* row = new QHBoxLayout(this);
-  row->addWidget(picture, 0, Qt::AlignTop);
+  row->addWidget(createConnectingAnimation(this), 0, Qt::AlignTop);
   row->addLayout(texts, 1);
   row->addWidget(ok, 0, Qt::AlignTop);
   ok->setFocus();

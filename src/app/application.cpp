@@ -5,6 +5,7 @@
 #include "app/core/shut_down.h"
 #include "app/core/start_up.h"
 #include "base/product.h"
+#include "base/secret.h"
 #include "gateway/boxes/proxy_login_dlg.h"
 #include "gateway/core/gateway_search.h"
 #include "gateway/core/proxy_discovery.h"
@@ -39,6 +40,7 @@ int Application::run() {
                    [this] { return locateGateway(); }});
   const int exitCode = startUp.run();
   shutDown(state_, stores_, progress_, runner_);
+  wipe(state_.proxy.password);
   return exitCode;
 }
 

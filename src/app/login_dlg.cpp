@@ -19,9 +19,7 @@ namespace parlexo {
 namespace {
 
 void addLink(QVBoxLayout& column, const QString& explanation, const QString& name, const QString& page) {
-  auto* label = new QLabel(explanation);
-  label->setWordWrap(true);
-  column.addWidget(label);
+  column.addWidget(wrappedLabel(explanation, column.parentWidget()));
   const QString address = webPage(page);
   auto* link = new HyperlinkLabel(address, QUrl(address));
   link->setObjectName(name);
@@ -55,10 +53,8 @@ void CLoginDlg::addFields(QVBoxLayout& column, const QString& rememberedUser) {
   password_->setEchoMode(QLineEdit::Password);
   auto* grid = new QGridLayout;
   const auto addRow = [grid](int row, const QString& text, QLineEdit* field) {
-    auto* label = new QLabel(text);
-    label->setBuddy(field);
-    grid->addWidget(label, row, 0);
     grid->addWidget(field, row, 1);
+    grid->addWidget(labelFor(field, text), row, 0);
   };
   addRow(0, QStringLiteral("User Name:"), user_);
   addRow(1, QStringLiteral("Password:"), password_);
@@ -73,17 +69,13 @@ QLineEdit* CLoginDlg::createField(const QString& name) {
 }
 
 void CLoginDlg::addButtons(QVBoxLayout& column) {
-  auto* login = new PictureButton(QStringLiteral("Login"));
-  login->setObjectName(QStringLiteral("logIn"));
-  login->setDefault(true);
-  connect(login, &PictureButton::clicked, this, &CLoginDlg::logIn);
-  auto* cancel = new PictureButton(QStringLiteral("Cancel"));
-  cancel->setObjectName(QStringLiteral("cancel"));
-  connect(cancel, &PictureButton::clicked, this, &CLoginDlg::reject);
   auto* row = new QHBoxLayout;
   row->addStretch();
-  row->addWidget(login);
-  row->addWidget(cancel);
+  auto* login = addButton(*row, QStringLiteral("logIn"), QStringLiteral("Login"));
+  login->setDefault(true);
+  connect(login, &PictureButton::clicked, this, &CLoginDlg::logIn);
+  auto* cancel = addButton(*row, QStringLiteral("cancel"), QStringLiteral("Cancel"));
+  connect(cancel, &PictureButton::clicked, this, &CLoginDlg::reject);
   column.addLayout(row);
 }
 

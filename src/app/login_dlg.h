@@ -3,7 +3,6 @@
 #include "app/core/login_flow.h"
 #include "ui/gradient_page.h"
 
-class QLabel;
 class QLineEdit;
 class QVBoxLayout;
 

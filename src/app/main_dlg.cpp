@@ -17,6 +17,7 @@
 #include "base/product.h"
 #include "ui/hyperlink_label.h"
 #include "ui/look.h"
+#include "ui/page_controls.h"
 #include "ui/picture_button.h"
 
 namespace parlexo {
@@ -27,10 +28,8 @@ QLineEdit* addField(QGridLayout& grid, int row, const QString& name, const QStri
   auto* field = new QLineEdit;
   field->setObjectName(name);
   field->setReadOnly(true);
-  auto* label = new QLabel(labelText);
-  label->setBuddy(field);
-  grid.addWidget(label, row, 0);
   grid.addWidget(field, row, 1);
+  grid.addWidget(labelFor(field, labelText), row, 0);
   return field;
 }
 

@@ -65,9 +65,7 @@ CNotificationDlg::CNotificationDlg(const QString& text, unsigned style, bool sup
   setWindowTitle(QStringLiteral("Parlexo(TM) : Notification"));
   auto* column = new QVBoxLayout(this);
   column->addLayout(createHeader(text), 1);
-  auto* picture = new CAnimatedPicture;
-  if (picture->loadFromResource(QLatin1String(connectingAnimation))) picture->start();
-  column->addWidget(picture, 0, Qt::AlignHCenter);
+  column->addWidget(createConnectingAnimation(this), 0, Qt::AlignHCenter);
   dontShowAgain_ = new QCheckBox(QStringLiteral("&Don't show again"));
   dontShowAgain_->setObjectName(QStringLiteral("dontShowAgain"));
   column->addWidget(dontShowAgain_);

@@ -1,5 +1,6 @@
 #include "ui/page_controls.h"
 
+#include <QBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPalette>
@@ -7,6 +8,7 @@
 
 #include "base/secret.h"
 #include "ui/look.h"
+#include "ui/picture_button.h"
 
 namespace parlexo {
 
@@ -30,6 +32,13 @@ QLabel* wrappedLabel(const QString& text, QWidget* parent) {
   auto* label = new QLabel(text, parent);
   label->setWordWrap(true);
   return label;
+}
+
+PictureButton* addButton(QBoxLayout& row, const QString& objectName, const QString& text) {
+  auto* button = new PictureButton(text);
+  button->setObjectName(objectName);
+  row.addWidget(button);
+  return button;
 }
 
 void wipeField(QLineEdit& field) {

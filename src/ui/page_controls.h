@@ -1,11 +1,14 @@
 #pragma once
 
+class QBoxLayout;
 class QLabel;
 class QLineEdit;
 class QString;
 class QWidget;
 
 namespace parlexo {
+
+class PictureButton;
 
 /// The small controls that pages and dialogs have in common.
 
@@ -17,6 +20,9 @@ namespace parlexo {
 
 /// A text that takes as many lines as it needs.
 [[nodiscard]] QLabel* wrappedLabel(const QString& text, QWidget* parent);
+
+/// A new button at the end of `row`.
+PictureButton* addButton(QBoxLayout& row, const QString& objectName, const QString& text);
 
 /// Empties a field that held a password, also of what its undo would bring back, and overwrites the text in
 /// memory.

@@ -25,7 +25,8 @@ class BalanceCheck {
   /// hidden before any message.
   [[nodiscard]] QString run();
 
-  /// The balance anew, for the user who asks for it and looks at it: as run(), but without the warnings.
+  /// The balance anew, for the user who asks for it and looks at it: as run(), but without the warnings,
+  /// which belong to the start of a run. What a balance of zero forbids, the send pages say when asked to.
   [[nodiscard]] QString refresh();
 
   /// Judges a balance that the gateway has told and returns it with two decimals.

@@ -92,4 +92,12 @@ void CAnimatedPicture::paintEvent(QPaintEvent*) {
   painter.drawImage(QPointF((width() - size.width()) / 2, (height() - size.height()) / 2), picture);
 }
 
+CAnimatedPicture* createConnectingAnimation(QWidget* parent) {
+  auto* animation = new CAnimatedPicture(parent);
+  animation->setObjectName(QStringLiteral("animation"));
+  animation->loadFromResource(QLatin1String(connectingAnimation));
+  animation->start();
+  return animation;
+}
+
 }  // namespace parlexo

@@ -59,4 +59,7 @@ class CAnimatedPicture : public QWidget {
   QTimer timer_;
 };
 
+/// The animation of the program, playing.
+[[nodiscard]] CAnimatedPicture* createConnectingAnimation(QWidget* parent = nullptr);
+
 }  // namespace parlexo

@@ -16,17 +16,13 @@ CConnectingDlg::CConnectingDlg(QWidget* parent) : GradientDialog(parent) {
   setObjectName(QStringLiteral("connectingDlg"));
   setWindowFlag(Qt::FramelessWindowHint);
   setWindowModality(Qt::ApplicationModal);
-  auto* animation = new CAnimatedPicture(this);
-  animation->setObjectName(QStringLiteral("animation"));
-  animation->loadFromResource(QString::fromLatin1(connectingAnimation));
-  animation->start();
   label_ = new QLabel(defaultText(), this);
   label_->setObjectName(QStringLiteral("text"));
   label_->setTextFormat(Qt::PlainText);
   auto* row = new QHBoxLayout(this);
   row->setContentsMargins(12, 8, 14, 8);
   row->setSpacing(12);
-  row->addWidget(animation);
+  row->addWidget(createConnectingAnimation(this));
   row->addWidget(label_, 1);
   cancel_ = new PictureButton(QStringLiteral("Cancel"), this);
   cancel_->setObjectName(QStringLiteral("cancel"));

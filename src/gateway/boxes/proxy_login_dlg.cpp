@@ -5,9 +5,10 @@
 #include <QLabel>
 #include <QLineEdit>
 
-#include "gateway/boxes/animated_picture.h"
+#include "gateway/boxes/box_column.h"
 #include "gateway/core/leading_number.h"
 #include "ui/look.h"
+#include "ui/page_controls.h"
 #include "ui/picture_button.h"
 
 namespace parlexo {
@@ -22,20 +23,11 @@ QString proxyExplanation() {
 
 QLineEdit* addRow(QGridLayout& grid, const char* name, const QString& text) {
   auto* field = new QLineEdit;
-  field->setObjectName(QString::fromLatin1(name));
-  auto* label = new QLabel(text);
-  label->setBuddy(field);
+  field->setObjectName(QLatin1String(name));
   const int row = grid.rowCount();
-  grid.addWidget(label, row, 0);
   grid.addWidget(field, row, 1);
+  grid.addWidget(labelFor(field, text), row, 0);
   return field;
-}
-
-PictureButton* addButton(QBoxLayout& row, const char* name, const QString& text) {
-  auto* button = new PictureButton(text);
-  button->setObjectName(QString::fromLatin1(name));
-  row.addWidget(button);
-  return button;
 }
 
 }  // namespace
@@ -44,21 +36,18 @@ CProxyLoginDlg::CProxyLoginDlg(const ProxyDiscovery& discovery, QWidget* parent)
   const ProxyAddress proxy = discovery.discover();
   setObjectName(QStringLiteral("proxyLoginDlg"));
   setWindowTitle(QStringLiteral("Parlexo(TM) : Proxy Login"));
-  auto* column = new QVBoxLayout(this);
-  column->setContentsMargins(16, 14, 16, 14);
-  column->setSpacing(10);
-  auto* animation = new CAnimatedPicture(this);
-  animation->loadFromResource(QString::fromLatin1(connectingAnimation));
-  animation->start();
-  column->addWidget(animation);
+  QVBoxLayout* column = createColumn(*this);
   addFields(*column, proxy);
-  auto* explanation = new QLabel(proxyExplanation());
+  QLabel* explanation = wrappedLabel(proxyExplanation(), this);
   explanation->setObjectName(QStringLiteral("explanation"));
-  explanation->setWordWrap(true);
   column->addWidget(explanation);
   column->addStretch();
   addButtons(*column);
   setMinimumSize(dialogUnits(*this, 220, 139));
+}
+
+CProxyLoginDlg::~CProxyLoginDlg() {
+  wipeField(*password_);
 }
 
 void CProxyLoginDlg::addFields(QVBoxLayout& column, const ProxyAddress& proxy) {
@@ -79,11 +68,11 @@ void CProxyLoginDlg::addFields(QVBoxLayout& column, const ProxyAddress& proxy) {
 void CProxyLoginDlg::addButtons(QVBoxLayout& column) {
   auto* row = new QHBoxLayout;
   row->addStretch();
-  auto* ok = addButton(*row, "ok", QStringLiteral("OK"));
+  auto* ok = addButton(*row, QStringLiteral("ok"), QStringLiteral("OK"));
   ok->setDefault(true);
-  connect(ok, &QAbstractButton::clicked, this, &QDialog::accept);
-  connect(addButton(*row, "cancel", QStringLiteral("Cancel")), &QAbstractButton::clicked, this,
-          &QDialog::reject);
+  connect(ok, &PictureButton::clicked, this, &QDialog::accept);
+  auto* cancel = addButton(*row, QStringLiteral("cancel"), QStringLiteral("Cancel"));
+  connect(cancel, &PictureButton::clicked, this, &QDialog::reject);
   column.addLayout(row);
 }
 

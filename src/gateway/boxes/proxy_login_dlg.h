@@ -18,6 +18,8 @@ class CProxyLoginDlg final : public GradientDialog {
   /// Fills in the proxy that `discovery` finds, which may take some seconds; nothing found leaves its two
   /// fields empty.
   explicit CProxyLoginDlg(const ProxyDiscovery& discovery, QWidget* parent = nullptr);
+  /// Also wipes the password field.
+  ~CProxyLoginDlg() override;
 
   /// What stands in the fields. The port is the number that its text begins with, 0 without one.
   [[nodiscard]] ProxySettings settings() const;

@@ -2,12 +2,13 @@
 
 #include <utility>
 
-#include <QGridLayout>
 #include <QLabel>
+#include <QVBoxLayout>
 
 #include "base/product.h"
-#include "gateway/boxes/animated_picture.h"
+#include "gateway/boxes/box_column.h"
 #include "ui/look.h"
+#include "ui/page_controls.h"
 #include "ui/picture_button.h"
 
 namespace parlexo {
@@ -30,10 +31,9 @@ QString explanation() {
 }
 
 QLabel* addLabel(QBoxLayout& column, const char* name, const QString& text) {
-  auto* label = new QLabel(text);
-  label->setObjectName(QString::fromLatin1(name));
+  QLabel* label = wrappedLabel(text, column.parentWidget());
+  label->setObjectName(QLatin1String(name));
   label->setTextFormat(Qt::PlainText);
-  label->setWordWrap(true);
   column.addWidget(label);
   return label;
 }
@@ -50,33 +50,23 @@ CUpgradeDlg::CUpgradeDlg(const QString& latestVersion, QWidget* parent, WebOpene
     : GradientDialog(parent) {
   setObjectName(QStringLiteral("upgradeDlg"));
   setWindowTitle(QStringLiteral("Parlexo(TM) : Product UPGRADE"));
-  auto* column = new QVBoxLayout(this);
-  column->setContentsMargins(16, 14, 16, 14);
-  column->setSpacing(10);
-  auto* animation = new CAnimatedPicture(this);
-  animation->loadFromResource(QString::fromLatin1(connectingAnimation));
-  animation->start();
-  column->addWidget(animation);
+  QVBoxLayout* column = createColumn(*this);
   makeBold(*addLabel(*column, "warning", warning()));
   QLabel* news = addLabel(*column, "announcement", announcement(latestVersion));
   news->setVisible(!latestVersion.isEmpty());
   addLabel(*column, "explanation", explanation())->setMinimumWidth(dialogUnits(*this, 290, 0).width());
   column->addStretch();
 
-  auto* download = new PictureButton(QStringLiteral("&Download"));
-  download->setObjectName(QStringLiteral("download"));
-  download->setDefault(true);
-  auto* cancel = new PictureButton(QStringLiteral("&Cancel"));
-  cancel->setObjectName(QStringLiteral("cancel"));
   auto* buttons = new QHBoxLayout;
   buttons->addStretch();
-  buttons->addWidget(download);
-  buttons->addWidget(cancel);
+  auto* download = addButton(*buttons, QStringLiteral("download"), QStringLiteral("&Download"));
+  download->setDefault(true);
+  auto* cancel = addButton(*buttons, QStringLiteral("cancel"), QStringLiteral("&Cancel"));
   column->addLayout(buttons);
   download->setFocus();
-  connect(download, &QAbstractButton::clicked, this,
+  connect(download, &PictureButton::clicked, this,
           [opener = std::move(opener)] { opener(QUrl(webPage(QStringLiteral("/messagingclient.php")))); });
-  connect(cancel, &QAbstractButton::clicked, this, &QDialog::reject);
+  connect(cancel, &PictureButton::clicked, this, &QDialog::reject);
 }
 
 }  // namespace parlexo

@@ -1,0 +1,17 @@
+#include "gateway/boxes/box_column.h"
+
+#include <QVBoxLayout>
+
+#include "gateway/boxes/animated_picture.h"
+
+namespace parlexo {
+
+QVBoxLayout* createColumn(QWidget& dialog) {
+  auto* column = new QVBoxLayout(&dialog);
+  column->setContentsMargins(16, 14, 16, 14);
+  column->setSpacing(10);
+  column->addWidget(createConnectingAnimation(&dialog));
+  return column;
+}
+
+}  // namespace parlexo

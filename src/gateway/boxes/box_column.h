@@ -1,0 +1,11 @@
+#pragma once
+
+class QVBoxLayout;
+class QWidget;
+
+namespace parlexo {
+
+/// The layout of a dialog whose controls stand below one another, with the program's animation on top.
+[[nodiscard]] QVBoxLayout* createColumn(QWidget& dialog);
+
+}  // namespace parlexo
