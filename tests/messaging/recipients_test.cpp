@@ -67,6 +67,10 @@ TEST_F(RecipientsTest, clearAndTemplatesLeaveTheNumbers) {
   EXPECT_EQ(recipients_.entries()[0], (Recipient{"Lee, Bob", "+2"}));
   EXPECT_EQ(recipients_.entries()[1], (Recipient{"Zoe [x]", "+5"}));
   EXPECT_EQ(recipients_.numbersList(), "+1,+2,+1");
+  for (const char* list : {"a],b [+1]", "nonsense", "Zoe [+5],x []", "old [7],Ann [+1]"}) {
+    recipients_.setEntries(QString::fromUtf8(list));
+    EXPECT_EQ(recipients_.displayList().toStdString(), list) << "saved again, it must stay what it was";
+  }
 }
 
 TEST_F(RecipientsTest, removalAfterATemplateTakesOnlyNumbersThatMatch) {

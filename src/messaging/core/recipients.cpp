@@ -18,7 +18,7 @@ const QString& numberOf(const ContactRecord& contact, RecipientNumber which) {
 }
 
 Recipient parseEntry(const QString& text) {
-  const qsizetype bracket = text.lastIndexOf(QStringLiteral(" ["));
+  const qsizetype bracket = text.lastIndexOf(QStringLiteral(" [+"));
   if (bracket < 0 || !text.endsWith(QChar(u']'))) return {text, {}};
   return {text.left(bracket), text.mid(bracket + 2, text.size() - bracket - 3)};
 }
@@ -77,7 +77,8 @@ void Recipients::setEntries(const QString& displayList) {
   entries_.clear();
   qsizetype begin = 0;
   while (begin < displayList.size()) {
-    const qsizetype bracket = displayList.indexOf(QStringLiteral("],"), begin);
+    const qsizetype number = displayList.indexOf(QStringLiteral(" [+"), begin);
+    const qsizetype bracket = number < 0 ? -1 : displayList.indexOf(QStringLiteral("],"), number);
     const qsizetype end = bracket < 0 ? displayList.size() : bracket + 1;
     entries_.push_back(parseEntry(displayList.mid(begin, end - begin)));
     begin = end + 1;

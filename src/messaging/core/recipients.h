@@ -18,8 +18,10 @@ struct Recipient {
   QString name;
   QString number;
 
-  /// "Name [number]".
-  [[nodiscard]] QString text() const { return name + QStringLiteral(" [") + number + QChar(u']'); }
+  /// "Name [number]"; the name alone where a template held no number.
+  [[nodiscard]] QString text() const {
+    return number.isEmpty() ? name : name + QStringLiteral(" [") + number + QChar(u']');
+  }
   bool operator==(const Recipient&) const = default;
 };
 
@@ -41,7 +43,8 @@ class Recipients {
   void clearEntries() { entries_.clear(); }
 
   /// Replaces the entries by those of a display list, as a template holds it; the numbers stay. A name may
-  /// hold commas: an entry ends only at a comma behind its closing bracket.
+  /// hold commas and brackets: an entry ends only at a comma behind a number in brackets, and a number
+  /// begins with a plus sign.
   void setEntries(const QString& displayList);
 
   [[nodiscard]] const std::vector<Recipient>& entries() const { return entries_; }
