@@ -8,7 +8,8 @@ DiskStores::DiskStores(Settings& settings, Notifier& notifier, Progress& progres
     : notifier_(notifier),
       progress_(progress),
       addressBook_(settings.contactsFolder(), database_, notifier),
-      statusFile_(settings.statusFile()) {}
+      statusFile_(settings.statusFile()),
+      templates_(settings.templatesFolder()) {}
 
 bool DiskStores::loadContacts() {
   return addressBook_.loadAll(progress_);

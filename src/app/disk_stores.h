@@ -10,10 +10,12 @@
 #include "contacts/item_index_cache.h"
 #include "messaging/core/status_file.h"
 #include "messaging/core/status_log.h"
+#include "messaging/core/template.h"
 
 namespace parlexo {
 
-/// Owns what a run keeps on disk: the address book with its database, and the log of sent messages.
+/// Owns what a run keeps on disk: the address book with its database, the log of sent messages and
+/// the message templates.
 class DiskStores final : public RunStores {
  public:
   /// The folders are those that `settings` names now; a later change counts from the next start. The other
@@ -29,6 +31,7 @@ class DiskStores final : public RunStores {
   [[nodiscard]] AddressBook& addressBook() { return addressBook_; }
   [[nodiscard]] StatusLog& statusLog() { return statusLog_; }
   [[nodiscard]] StatusFile& statusFile() { return statusFile_; }
+  [[nodiscard]] const TemplateFolder& templates() const { return templates_; }
 
  private:
   Notifier& notifier_;
@@ -39,6 +42,7 @@ class DiskStores final : public RunStores {
   AddressBook addressBook_;
   StatusLog statusLog_;
   StatusFile statusFile_;
+  TemplateFolder templates_;
   bool statusLogIsRead_ = false;
 };
 

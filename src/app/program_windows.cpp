@@ -31,7 +31,7 @@ void ProgramWindows::runMainWindow() {
   AddressBook& book = services_.stores.addressBook();
   CMainDlg window(
       mainTabs({services_.state, services_.gateway, services_.notifier, services_.progress, *this, book,
-                services_.stores.statusLog(), services_.stores.statusFile()},
+                services_.stores.statusLog(), services_.stores.statusFile(), services_.stores.templates()},
                {book, services_.notifier, services_.progress, services_.settings, services_.runner}));
   connectPages(window);
   const QScopedValueRollback<CMainDlg*> open(mainWindow_, &window);

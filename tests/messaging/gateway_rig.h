@@ -16,6 +16,7 @@
 #include "messaging/core/messaging_services.h"
 #include "messaging/core/status_file.h"
 #include "messaging/core/status_log.h"
+#include "messaging/core/template.h"
 #include "simulator/simulator.h"
 #include "tests/addressbook/sample_book.h"
 #include "tests/messaging/recording_notifier.h"
@@ -79,7 +80,7 @@ class GatewayRig {
   [[nodiscard]] QStringList operations() const { return simulator.calledOperations().mid(1); }
 
   [[nodiscard]] MessagingServices services() {
-    return {state, gateway, notifier, progress, renewal, book.book(), log, file};
+    return {state, gateway, notifier, progress, renewal, book.book(), log, file, templates};
   }
 
   /// The fault for all calls of `operation` from now on.
@@ -101,6 +102,7 @@ class GatewayRig {
   StatusLog log;
   QTemporaryDir folder;
   StatusFile file{folder.filePath(QStringLiteral("Status.xml"))};
+  TemplateFolder templates{folder.path()};
 
  private:
   class JournalProgress final : public Progress {

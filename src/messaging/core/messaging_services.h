@@ -9,6 +9,7 @@ class Progress;
 class SessionRenewal;
 class StatusFile;
 class StatusLog;
+class TemplateFolder;
 struct RunState;
 
 /// What the messaging pages and flows work with. The application owns it all and keeps it alive longer
@@ -22,6 +23,7 @@ struct MessagingServices {
   const AddressBook& addressBook;
   StatusLog& statusLog;
   StatusFile& statusFile;
+  const TemplateFolder& templates;
 };
 
 }  // namespace parlexo

@@ -34,5 +34,31 @@ inline QString nothingHighlighted() {
 inline QString confirmRemoval() {
   return QStringLiteral("Are you sure you want to delete the selected contacts?");
 }
+inline QString templateSaved() {
+  return QStringLiteral("Your template was saved.");
+}
+inline QString templateNotSaved() {
+  return QStringLiteral("Could not save your template!!");
+}
+inline QString templateNotLoaded() {
+  return QStringLiteral("Something wrong with the Template as it could not be loaded");
+}
+inline QString templateNotDeleted() {
+  return QStringLiteral("Could not delete your template!!");
+}
+inline QString noTemplateToLoad() {
+  return QStringLiteral("Please select a Template to load");
+}
+inline QString noTemplateToDelete() {
+  return QStringLiteral("Please select a Template to delete");
+}
+inline QString confirmTemplateLoading(const QString& name) {
+  return QStringLiteral("Are you sure you want to load the Template called: \"") + name +
+         QStringLiteral("\"?");
+}
+inline QString confirmTemplateDeletion(const QString& name) {
+  return QStringLiteral("Are you sure you want to delete the Template called: \"") + name +
+         QStringLiteral("\"?");
+}
 
 }  // namespace parlexo::messaging_texts

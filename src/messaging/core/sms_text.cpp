@@ -48,6 +48,15 @@ QString hexForm(const QString& text) {
   return result;
 }
 
+// -1 for what is no hexadecimal digit.
+int digitValue(QChar digit) {
+  const char16_t c = digit.unicode();
+  if (c >= u'0' && c <= u'9') return c - u'0';
+  if (c >= u'A' && c <= u'F') return c - u'A' + 10;
+  if (c >= u'a' && c <= u'f') return c - u'a' + 10;
+  return -1;
+}
+
 SmsComposition composeStandard(const QString& text) {
   const SmsLimits limits = standardSmsLimits;
   SmsComposition result;
@@ -85,6 +94,26 @@ SmsComposition composeSms(const QString& editorText, SmsCharset charset) {
       return composeUnicode(editorText);
   }
   Q_UNREACHABLE();
+}
+
+std::optional<QString> decodedUnicodeSms(const QString& transmitText) {
+  constexpr qsizetype digitsPerUnit = 4;
+  const QString prefix = QString::fromUtf16(unicodePrefix);
+  const QStringView digits = QStringView(transmitText).mid(prefix.size());
+  if (!transmitText.startsWith(prefix) || digits.isEmpty() || digits.size() % digitsPerUnit != 0)
+    return std::nullopt;
+  QString text;
+  text.reserve(digits.size() / digitsPerUnit);
+  for (qsizetype begin = 0; begin < digits.size(); begin += digitsPerUnit) {
+    int unit = 0;
+    for (const QChar digit : digits.mid(begin, digitsPerUnit)) {
+      const int value = digitValue(digit);
+      if (value < 0) return std::nullopt;
+      unit = unit * 16 + value;
+    }
+    text += QChar(unit);
+  }
+  return text;
 }
 
 }  // namespace parlexo

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <optional>
+
 #include <QString>
 
 namespace parlexo {
@@ -43,5 +45,9 @@ struct SmsComposition {
 /// counts one unit, and two where the GSM alphabet needs an escape; a text over the limit loses its end,
 /// never half a surrogate pair. Linear in the length of the text.
 [[nodiscard]] SmsComposition composeSms(const QString& editorText, SmsCharset charset);
+
+/// The text that a Unicode text in the form that travels stands for. Nothing unless the prefix is followed by
+/// one or more whole groups of four hexadecimal digits and nothing else.
+[[nodiscard]] std::optional<QString> decodedUnicodeSms(const QString& transmitText);
 
 }  // namespace parlexo

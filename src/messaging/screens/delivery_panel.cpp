@@ -4,9 +4,9 @@
 #include <QLabel>
 #include <QLineEdit>
 
-#include "messaging/screens/page_controls.h"
 #include "messaging/screens/schedule_dlg.h"
 #include "messaging/screens/sender_id_dlg.h"
+#include "ui/page_controls.h"
 #include "ui/picture_button.h"
 
 namespace parlexo {

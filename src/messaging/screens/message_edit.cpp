@@ -18,6 +18,11 @@ QString beginningOf(const QString& text, int room) {
   return text.left(kept);
 }
 
+// A zero character would end the text on its way to the gateway.
+QString withoutZeros(QString text) {
+  return text.remove(QChar(u'\0'));
+}
+
 bool entersText(const QKeyEvent& event) {
   const bool isCommand = event.modifiers() & (Qt::ControlModifier | Qt::AltModifier);
   const QString text = event.text();
@@ -46,7 +51,7 @@ int MessageEdit::length() const {
 
 void MessageEdit::setText(const QString& text) {
   const QScopedValueRollback own(isProgramsOwn_, true);
-  setPlainText(text);
+  setPlainText(withoutZeros(text));
 }
 
 void MessageEdit::truncate(int units) {
@@ -61,9 +66,8 @@ void MessageEdit::keyPressEvent(QKeyEvent* event) {
 
 void MessageEdit::insertFromMimeData(const QMimeData* source) {
   // Cut before it is inserted: laying out a text of megabytes only to drop it again would take seconds.
-  QString pasted = source->text();
+  QString pasted = withoutZeros(source->text());
   pasted.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
-  pasted.remove(QChar(u'\0'));  // would end the text on its way to the gateway
   // An edit block of its own, or undo would take away what was typed just before as well.
   QTextCursor cursor = textCursor();
   cursor.beginEditBlock();

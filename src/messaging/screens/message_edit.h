@@ -23,6 +23,7 @@ class MessageEdit final : public QPlainTextEdit {
   [[nodiscard]] int length() const;
 
   /// Replaces the text by one that came from elsewhere: the limit does not apply, and there is no way back.
+  /// Zero characters, which would end the text on its way to the gateway, are left out.
   void setText(const QString& text);
 
   /// Cuts the text to its first `units`; the cursor stays where it is and undo brings all back.

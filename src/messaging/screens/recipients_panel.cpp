@@ -86,6 +86,10 @@ void RecipientsPanel::clearEntries() {
   model_.update([](Recipients& recipients) { recipients.clearEntries(); });
 }
 
+void RecipientsPanel::setEntries(const QString& displayList) {
+  model_.update([&displayList](Recipients& recipients) { recipients.setEntries(displayList); });
+}
+
 void RecipientsPanel::selectContacts() {
   CSelectContactsDlg dialog(book_, mode_, currentSelection(), notifier_, this);
   if (dialog.exec() == QDialog::Accepted) take(dialog.selection());

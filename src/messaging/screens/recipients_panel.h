@@ -53,6 +53,9 @@ class RecipientsPanel final : public QWidget {
   /// Empties the box; the numbers stay, as Recipients says.
   void clearEntries();
 
+  /// Fills the box from a display list, as a template holds it; the numbers stay, as Recipients says.
+  void setEntries(const QString& displayList);
+
   /// Lets the user pick contacts, those in the box ticked at first, and takes them over.
   void selectContacts();
   /// Removes the highlighted entries after a question.

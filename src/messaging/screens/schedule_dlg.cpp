@@ -13,8 +13,8 @@
 #include <QTimeEdit>
 #include <QVBoxLayout>
 
-#include "messaging/screens/page_controls.h"
 #include "ui/look.h"
+#include "ui/page_controls.h"
 #include "ui/picture_button.h"
 
 namespace parlexo {

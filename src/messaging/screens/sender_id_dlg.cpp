@@ -7,9 +7,9 @@
 #include <QVBoxLayout>
 
 #include "base/product.h"
-#include "messaging/screens/page_controls.h"
 #include "ui/hyperlink_label.h"
 #include "ui/look.h"
+#include "ui/page_controls.h"
 #include "ui/picture_button.h"
 
 namespace parlexo {

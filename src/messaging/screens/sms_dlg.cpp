@@ -1,5 +1,7 @@
 #include "messaging/screens/sms_dlg.h"
 
+#include <optional>
+
 #include <QButtonGroup>
 #include <QGroupBox>
 #include <QHBoxLayout>
@@ -12,9 +14,12 @@
 #include "base/message_texts.h"
 #include "base/notifier.h"
 #include "messaging/core/messaging_texts.h"
+#include "messaging/core/template.h"
+#include "messaging/screens/load_template_dlg.h"
 #include "messaging/screens/message_edit.h"
-#include "messaging/screens/page_controls.h"
 #include "messaging/screens/recipients_panel.h"
+#include "messaging/screens/save_template_dlg.h"
+#include "ui/page_controls.h"
 #include "ui/picture_button.h"
 
 namespace parlexo {
@@ -31,19 +36,25 @@ QString smsWord() {
   return QStringLiteral("SMS");
 }
 
-// A titled box with two radio buttons, in a button group of the given name. The first is chosen here and
-// not before: until they are grouped, all radio buttons of the page exclude each other.
-QGroupBox* choiceBox(const QString& title, const QString& groupName, QRadioButton* first,
-                     QRadioButton* second) {
-  auto* box = new QGroupBox(title);
+struct Choice {
+  QString text;
+  QString objectName;
+};
+
+// A titled box with two radio buttons in a button group of the given name, the first of them chosen.
+QGroupBox* choiceBox(const QString& title, const QString& groupName, const Choice& first,
+                     const Choice& second, QWidget* parent) {
+  auto* box = new QGroupBox(title, parent);
   auto* group = new QButtonGroup(box);
   group->setObjectName(groupName);
   auto* layout = new QVBoxLayout(box);
-  for (QRadioButton* choice : {first, second}) {
-    group->addButton(choice);
-    layout->addWidget(choice);
+  for (const Choice& choice : {first, second}) {
+    auto* button = new QRadioButton(choice.text, box);
+    button->setObjectName(choice.objectName);
+    group->addButton(button);
+    layout->addWidget(button);
   }
-  first->setChecked(true);
+  group->buttons().constFirst()->setChecked(true);
   return box;
 }
 
@@ -52,7 +63,7 @@ QGroupBox* choiceBox(const QString& title, const QString& groupName, QRadioButto
 CQuillonSMSDlg::CQuillonSMSDlg(const MessagingServices& services, QWidget* parent)
     : SendPage(services, {smsWord(), smsWord()}, parent), flow_(services) {
   setObjectName(QStringLiteral("smsPage"));
-  createControls();
+  // Everything is created in reading order, which makes it the order of the Tab key too.
   auto* message = new QHBoxLayout;
   message->setSpacing(14);
   message->addLayout(messageColumn(), 1);
@@ -73,30 +84,19 @@ SmsDraft CQuillonSMSDlg::draft() const {
   return draft;
 }
 
-void CQuillonSMSDlg::createControls() {
+QLayout* CQuillonSMSDlg::messageColumn() {
   editor_ = new MessageEdit(this);
   editor_->setObjectName(QStringLiteral("messageEdit"));
   connect(editor_, &MessageEdit::textChanged, this, &CQuillonSMSDlg::recount);
-  createCounters();
-  createCharsetChoice();
-  createTypeChoice();
+  auto* column = new QVBoxLayout;
+  column->setSpacing(controlSpacing);
+  column->addWidget(labelFor(editor_, QStringLiteral("&Message")));
+  column->addWidget(editor_, 1);
+  column->addLayout(counterRow());
+  return column;
 }
 
-void CQuillonSMSDlg::createCharsetChoice() {
-  standardCharset_ = new QRadioButton(QStringLiteral("Standard character set"), this);
-  standardCharset_->setObjectName(QStringLiteral("standardCharset"));
-  unicodeCharset_ = new QRadioButton(QStringLiteral("Unicode (Languages support)"), this);
-  unicodeCharset_->setObjectName(QStringLiteral("unicodeCharset"));
-}
-
-void CQuillonSMSDlg::createTypeChoice() {
-  standardType_ = new QRadioButton(QStringLiteral("Standard"), this);
-  standardType_->setObjectName(QStringLiteral("standardType"));
-  flashType_ = new QRadioButton(QStringLiteral("Flash"), this);
-  flashType_->setObjectName(QStringLiteral("flashType"));
-}
-
-void CQuillonSMSDlg::createCounters() {
+QLayout* CQuillonSMSDlg::counterRow() {
   totalSms_ = readOnlyField(QStringLiteral("totalSms"), this);
   remaining_ = readOnlyField(QStringLiteral("charactersRemaining"), this);
   for (QLineEdit* counter : {totalSms_, remaining_}) {
@@ -104,47 +104,49 @@ void CQuillonSMSDlg::createCounters() {
     counter->setAlignment(Qt::AlignRight);
     counter->setFixedWidth(counter->fontMetrics().averageCharWidth() * counterCharacters + 16);
   }
-}
-
-QLayout* CQuillonSMSDlg::messageColumn() {
-  auto* counters = new QHBoxLayout;
-  counters->addWidget(labelFor(totalSms_, QStringLiteral("Total SMS:")));
-  counters->addWidget(totalSms_);
-  counters->addSpacing(14);
-  counters->addWidget(labelFor(remaining_, QStringLiteral("Characters remaining:")));
-  counters->addWidget(remaining_);
-  counters->addStretch(1);
-  auto* column = new QVBoxLayout;
-  column->setSpacing(controlSpacing);
-  column->addWidget(labelFor(editor_, QStringLiteral("&Message")));
-  column->addWidget(editor_, 1);
-  column->addLayout(counters);
-  return column;
+  auto* row = new QHBoxLayout;
+  row->addWidget(labelFor(totalSms_, QStringLiteral("Total SMS:")));
+  row->addWidget(totalSms_);
+  row->addSpacing(14);
+  row->addWidget(labelFor(remaining_, QStringLiteral("Characters remaining:")));
+  row->addWidget(remaining_);
+  row->addStretch(1);
+  return row;
 }
 
 QLayout* CQuillonSMSDlg::choiceColumn() {
-  auto* tip = button(QStringLiteral("?"), QStringLiteral("templatesTipButton"));
-  tip->setAccessibleName(QStringLiteral("About templates"));
-  connect(tip, &PictureButton::clicked, this, &CQuillonSMSDlg::showTemplatesTip);
-  auto* templates = new QHBoxLayout;
-  templates->addWidget(buttonToCome(QStringLiteral("Load Template"), QStringLiteral("loadTemplateButton")));
-  templates->addWidget(buttonToCome(QStringLiteral("Save Template"), QStringLiteral("saveTemplateButton")));
-  templates->addWidget(tip);
+  auto* charsets =
+      choiceBox(QStringLiteral("Character set"), QStringLiteral("GroupEncoding"),
+                {QStringLiteral("Standard character set"), QStringLiteral("standardCharset")},
+                {QStringLiteral("Unicode (Languages support)"), QStringLiteral("unicodeCharset")}, this);
+  standardCharset_ = charsets->findChild<QRadioButton*>(QStringLiteral("standardCharset"));
+  unicodeCharset_ = charsets->findChild<QRadioButton*>(QStringLiteral("unicodeCharset"));
+  auto* types = choiceBox(QStringLiteral("Message type"), QStringLiteral("GroupType"),
+                          {QStringLiteral("Standard"), QStringLiteral("standardType")},
+                          {QStringLiteral("Flash"), QStringLiteral("flashType")}, this);
+  standardType_ = types->findChild<QRadioButton*>(QStringLiteral("standardType"));
   auto* column = new QVBoxLayout;
   column->setSpacing(controlSpacing);
-  column->addWidget(choiceBox(QStringLiteral("Character set"), QStringLiteral("GroupEncoding"),
-                              standardCharset_, unicodeCharset_));
-  column->addWidget(
-      choiceBox(QStringLiteral("Message type"), QStringLiteral("GroupType"), standardType_, flashType_));
+  column->addWidget(charsets);
+  column->addWidget(types);
   column->addStretch(1);
-  column->addLayout(templates);
+  column->addLayout(templateRow());
   return column;
 }
 
-PictureButton* CQuillonSMSDlg::buttonToCome(const QString& text, const QString& name) {
-  PictureButton* created = button(text, name);
-  created->setEnabled(false);
-  return created;
+QLayout* CQuillonSMSDlg::templateRow() {
+  auto* row = new QHBoxLayout;
+  const auto add = [this, row](const QString& text, const char* name, auto action) {
+    PictureButton* created = button(text, QLatin1String(name));
+    connect(created, &PictureButton::clicked, this, action);
+    row->addWidget(created);
+    return created;
+  };
+  add(QStringLiteral("Load Template"), "loadTemplateButton", &CQuillonSMSDlg::loadTemplate);
+  add(QStringLiteral("Save Template"), "saveTemplateButton", &CQuillonSMSDlg::saveTemplate);
+  add(QStringLiteral("?"), "templatesTipButton", &CQuillonSMSDlg::showTemplatesTip)
+      ->setAccessibleName(QStringLiteral("About templates"));
+  return row;
 }
 
 SmsCharset CQuillonSMSDlg::charset() const {
@@ -177,6 +179,34 @@ SendOutcome CQuillonSMSDlg::sendMessage() {
 void CQuillonSMSDlg::clearMessage() {
   editor_->clear();
   recount();
+}
+
+void CQuillonSMSDlg::saveTemplate() {
+  const SmsDraft current = draft();
+  const QString message = composeSms(current.text, current.charset).transmitText;
+  if (message.isEmpty()) {
+    services().notifier.error(messaging_texts::noSmsText());
+    return;
+  }
+  CSaveTemplateDlg(services().templates, {current.displayList, message}, services().notifier, this).exec();
+}
+
+void CQuillonSMSDlg::loadTemplate() {
+  CLoadTemplateDlg dialog(services().templates, services().notifier, this);
+  if (dialog.exec() == QDialog::Accepted) take(dialog.content());
+}
+
+void CQuillonSMSDlg::take(const Template& content) {
+  const std::optional<QString> decoded = decodedUnicodeSms(content.message);
+  const QString text = decoded.value_or(content.message);
+  // The old text goes first: a change of the character set must not complain about its length.
+  editor_->clear();
+  if (decoded)
+    unicodeCharset_->setChecked(true);
+  else if (text.size() > editor_->textLimit())
+    standardCharset_->setChecked(true);
+  editor_->setText(text);
+  recipients().setEntries(content.displayList);
 }
 
 void CQuillonSMSDlg::showTemplatesTip() {

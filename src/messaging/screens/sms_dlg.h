@@ -13,6 +13,7 @@ class QRadioButton;
 namespace parlexo {
 
 class MessageEdit;
+struct Template;
 
 /// The SMS page: a text, its character set and type, recipients, and the way to the gateway.
 class CQuillonSMSDlg final : public SendPage {
@@ -30,17 +31,17 @@ class CQuillonSMSDlg final : public SendPage {
   void clearMessage() override;
 
  private:
-  void createControls();
-  void createCharsetChoice();
-  void createTypeChoice();
-  void createCounters();
   [[nodiscard]] QLayout* messageColumn();
+  [[nodiscard]] QLayout* counterRow();
   [[nodiscard]] QLayout* choiceColumn();
-  [[nodiscard]] PictureButton* buttonToCome(const QString& text, const QString& name);
+  [[nodiscard]] QLayout* templateRow();
   [[nodiscard]] SmsCharset charset() const;
 
   void applyCharset();
   void recount();
+  void saveTemplate();
+  void loadTemplate();
+  void take(const Template& content);
   void showTemplatesTip();
 
   SmsSendFlow flow_;
@@ -49,7 +50,6 @@ class CQuillonSMSDlg final : public SendPage {
   QRadioButton* standardCharset_ = nullptr;
   QRadioButton* unicodeCharset_ = nullptr;
   QRadioButton* standardType_ = nullptr;
-  QRadioButton* flashType_ = nullptr;
   QLineEdit* totalSms_ = nullptr;
   QLineEdit* remaining_ = nullptr;
 };

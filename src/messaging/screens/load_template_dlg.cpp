@@ -1,0 +1,105 @@
+#include "messaging/screens/load_template_dlg.h"
+
+#include <algorithm>
+#include <optional>
+#include <utility>
+
+#include <QHBoxLayout>
+#include <QItemSelectionModel>
+#include <QLabel>
+#include <QListWidget>
+#include <QShortcut>
+#include <QVBoxLayout>
+
+#include "base/notifier.h"
+#include "messaging/core/messaging_texts.h"
+#include "ui/list_style.h"
+#include "ui/look.h"
+#include "ui/page_controls.h"
+#include "ui/picture_button.h"
+
+namespace parlexo {
+
+CLoadTemplateDlg::CLoadTemplateDlg(const TemplateFolder& folder, Notifier& notifier, QWidget* parent)
+    : GradientDialog(parent), folder_(folder), notifier_(notifier) {
+  setObjectName(QStringLiteral("loadTemplateDialog"));
+  setWindowTitle(QStringLiteral("Parlexo(TM) : Load or Delete Template"));
+  const QString caption = QStringLiteral("Select the Template you wish to Load or  Delete:");
+  names_ = new QListWidget(this);
+  names_->setObjectName(QStringLiteral("templateList"));
+  names_->setAccessibleName(caption);
+  names_->setUniformItemSizes(true);
+  styleList(*names_);
+  names_->addItems(folder.names());
+  connect(names_, &QListWidget::itemDoubleClicked, this, &CLoadTemplateDlg::accept);
+  auto* removal = new QShortcut(QKeySequence(QKeySequence::Delete), names_);
+  removal->setContext(Qt::WidgetShortcut);
+  connect(removal, &QShortcut::activated, this, &CLoadTemplateDlg::deleteSelected);
+
+  auto* layout = new QVBoxLayout(this);
+  layout->setContentsMargins(16, 14, 16, 14);
+  layout->addWidget(labelFor(names_, caption));
+  layout->addWidget(names_, 1);
+  layout->addSpacing(4);
+  layout->addLayout(createButtons());
+  resize(dialogUnits(*this, 210, 150).expandedTo(sizeHint()));
+  names_->setFocus(Qt::OtherFocusReason);
+}
+
+QLayout* CLoadTemplateDlg::createButtons() {
+  auto* row = new QHBoxLayout;
+  row->addStretch(1);
+  const auto button = [&](const QString& text, const QString& name, auto action) {
+    auto* created = new PictureButton(text, this);
+    created->setObjectName(name);
+    connect(created, &PictureButton::clicked, this, action);
+    row->addWidget(created);
+    return created;
+  };
+  button(QStringLiteral("&Load"), QStringLiteral("loadButton"), &QDialog::accept)->setDefault(true);
+  button(QStringLiteral("&Delete"), QStringLiteral("deleteButton"), &CLoadTemplateDlg::deleteSelected);
+  button(QStringLiteral("&Cancel"), QStringLiteral("cancelButton"), &QDialog::reject);
+  return row;
+}
+
+void CLoadTemplateDlg::accept() {
+  if (!hasSelection()) {
+    notifier_.warning(messaging_texts::noTemplateToLoad());
+    return;
+  }
+  if (!notifier_.confirm(messaging_texts::confirmTemplateLoading(selectedName()))) return;
+  std::optional<Template> loaded = folder_.load(selectedName());
+  if (!loaded) {
+    notifier_.error(messaging_texts::templateNotLoaded());
+    return;
+  }
+  content_ = std::move(*loaded);
+  GradientDialog::accept();
+}
+
+void CLoadTemplateDlg::deleteSelected() {
+  if (!hasSelection()) {
+    notifier_.warning(messaging_texts::noTemplateToDelete());
+    return;
+  }
+  if (!notifier_.confirm(messaging_texts::confirmTemplateDeletion(selectedName()))) return;
+  if (!folder_.remove(selectedName())) {
+    notifier_.error(messaging_texts::templateNotDeleted());
+    return;
+  }
+  const int row = names_->currentRow();
+  delete names_->takeItem(row);
+  // Nothing is selected now, so that a further Delete can't take the neighbour unasked for; the arrow keys go
+  // on from here.
+  names_->setCurrentRow(std::min(row, names_->count() - 1), QItemSelectionModel::Clear);
+}
+
+bool CLoadTemplateDlg::hasSelection() const {
+  return !names_->selectedItems().isEmpty();
+}
+
+QString CLoadTemplateDlg::selectedName() const {
+  return names_->currentItem()->text();
+}
+
+}  // namespace parlexo

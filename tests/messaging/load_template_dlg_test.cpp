@@ -1,0 +1,103 @@
+#include "messaging/screens/load_template_dlg.h"
+
+#include <optional>
+
+#include <QDir>
+#include <QFile>
+#include <QListWidget>
+#include <QTemporaryDir>
+#include <QTest>
+#include <gmock/gmock.h>
+
+#include "tests/messaging/recording_notifier.h"
+#include "ui/picture_button.h"
+
+namespace parlexo {
+namespace {
+
+using testing::ElementsAre;
+
+/// The dialog over three templates, one of which is none, and a user's hands.
+class LoadTemplateDlg : public testing::Test {
+ protected:
+  LoadTemplateDlg() {
+    if (!folder.save("good", {"Ann [+1]", "Hi"}) || !folder.save("other", {"", "Ho"})) qFatal("no templates");
+    QFile broken(directory.filePath("broken.tpl"));
+    if (!broken.open(QIODevice::WriteOnly)) qFatal("no broken template");
+    broken.write("Hi");
+    broken.close();
+    dialog.emplace(folder, notifier);
+    dialog->show();
+    dialog->activateWindow();
+    (void)QTest::qWaitForWindowActive(&*dialog);
+  }
+
+  void press(const char* name) { QTest::mouseClick(dialog->findChild<PictureButton*>(name), Qt::LeftButton); }
+  [[nodiscard]] QListWidget& list() const { return *dialog->findChild<QListWidget*>(); }
+  void pick(const char* name) { list().setCurrentItem(list().findItems(name, Qt::MatchExactly).at(0)); }
+
+  QTemporaryDir directory;
+  TemplateFolder folder{directory.path()};
+  RecordingNotifier notifier;
+  std::optional<CLoadTemplateDlg> dialog;
+};
+
+TEST_F(LoadTemplateDlg, asksForASelectionFirst) {
+  press("loadButton");
+  press("deleteButton");
+  EXPECT_THAT(notifier.shown,
+              testing::Each(testing::Field(&RecordingNotifier::Shown::style, message_style::exclamation)));
+  EXPECT_THAT(notifier.takeTexts(),
+              ElementsAre("Please select a Template to load", "Please select a Template to delete"));
+}
+
+TEST_F(LoadTemplateDlg, loadsOnlyAfterYesAndOnlyWhatIsATemplate) {
+  notifier.answers = {MessageResult::No, MessageResult::Yes};
+  pick("good");
+  press("loadButton");
+  EXPECT_THAT(notifier.takeTexts(),
+              ElementsAre("Are you sure you want to load the Template called: \"good\"?"));
+  EXPECT_TRUE(dialog->isVisible());
+  pick("broken");
+  press("loadButton");
+  EXPECT_THAT(notifier.takeTexts(),
+              ElementsAre("Are you sure you want to load the Template called: \"broken\"?",
+                          "Something wrong with the Template as it could not be loaded"));
+  EXPECT_TRUE(dialog->isVisible());
+  notifier.answers = {MessageResult::Yes};
+  pick("good");
+  press("loadButton");
+  EXPECT_EQ(dialog->result(), QDialog::Accepted);
+  EXPECT_EQ(dialog->content(), (Template{"Ann [+1]", "Hi"}));
+}
+
+TEST_F(LoadTemplateDlg, deletesAfterYesAndStaysWithNothingSelected) {
+  notifier.answers = {MessageResult::No, MessageResult::Yes};
+  pick("good");
+  press("deleteButton");
+  EXPECT_THAT(folder.names(), ElementsAre("broken", "good", "other"));
+  list().setFocus();
+  QTest::keyClick(&list(), Qt::Key_Delete);
+  EXPECT_THAT(folder.names(), ElementsAre("broken", "other"));
+  EXPECT_EQ(list().count(), 2);
+  press("deleteButton");
+  EXPECT_THAT(notifier.takeTexts(),
+              ElementsAre("Are you sure you want to delete the Template called: \"good\"?",
+                          "Are you sure you want to delete the Template called: \"good\"?",
+                          "Please select a Template to delete"));
+  EXPECT_TRUE(dialog->isVisible());
+}
+
+TEST_F(LoadTemplateDlg, tellsWhenATemplateCantBeDeletedAndKeepsItsEntry) {
+  pick("other");
+  ASSERT_TRUE(folder.remove("other") && QDir(directory.path()).mkdir("other.tpl"));
+  notifier.answers = {MessageResult::Yes};
+  press("deleteButton");
+  EXPECT_THAT(notifier.takeTexts(),
+              ElementsAre("Are you sure you want to delete the Template called: \"other\"?",
+                          "Could not delete your template!!"));
+  EXPECT_EQ(list().count(), 3);
+}
+
+}  // namespace
+}  // namespace parlexo
