@@ -1,0 +1,71 @@
+#include "account/core/email_preferences.h"
+
+#include "base/notifier.h"
+#include "base/progress.h"
+#include "base/run_state.h"
+#include "gateway/core/gateway.h"
+
+namespace parlexo {
+namespace {
+
+constexpr int badEmailSettingsCode = 2;
+
+EmailPreferences fromResponse(const protocol::getEmailMessagingResponse& response) {
+  return {.isEnabled = response.bEmailEnable,
+          .identityCode = fromWire(response.sEmailCode),
+          .splitsLongSms = response.bEmailSmsSplit,
+          .stopsAtDoubleLine = response.bEmailEndDoubleLine,
+          .stopsAtEndKeyword = response.bEmailEndStop,
+          .isFiltered = response.bEmailFilter,
+          .addresses = {fromWire(response.sEmailFilter1), fromWire(response.sEmailFilter2),
+                        fromWire(response.sEmailFilter3)}};
+}
+
+}  // namespace
+
+std::optional<EmailPreferences> EmailPreferencesFlow::load() const {
+  const auto reply = services_.gateway.call<protocol::getEmailMessagingResponse>(
+      [session = toWire(services_.state.session)](GatewayClient& client,
+                                                  protocol::getEmailMessagingResponse& response) {
+        return client.getEmailMessaging(session, response);
+      });
+  if (!reply.answered() || reply->nErrorCode != 0) return std::nullopt;
+  return fromResponse(*reply);
+}
+
+EmailSaveOutcome EmailPreferencesFlow::save(const EmailPreferences& preferences) const {
+  const EmailSaveOutcome outcome = ask(preferences);
+  switch (outcome) {
+    case EmailSaveOutcome::Saved:
+      services_.notifier.information(QStringLiteral("Saved email messaging preferences"));
+      break;
+    case EmailSaveOutcome::Incomplete:
+      services_.notifier.error(
+          QStringLiteral("Bad email messaging settings provided. You must provide an email code (and email "
+                         "addresses to filter if email filtering is enabled)"));
+      break;
+    case EmailSaveOutcome::Failed:
+      services_.notifier.error(
+          QStringLiteral("An error occured while trying to save your email messaging preferences"));
+      break;
+  }
+  return outcome;
+}
+
+EmailSaveOutcome EmailPreferencesFlow::ask(const EmailPreferences& preferences) const {
+  const ProgressScope box(services_.progress);
+  const auto reply = services_.gateway.call<protocol::editEmailMessagingResponse>(
+      [session = toWire(services_.state.session), wanted = preferences](
+          GatewayClient& client, protocol::editEmailMessagingResponse& response) {
+        const auto& [first, second, third] = wanted.addresses;
+        return client.editEmailMessaging(session, wanted.isEnabled, toWire(wanted.identityCode),
+                                         wanted.isFiltered, toWire(first), toWire(second), toWire(third),
+                                         wanted.splitsLongSms, wanted.stopsAtEndKeyword,
+                                         wanted.stopsAtDoubleLine, response);
+      });
+  if (!reply.answered()) return EmailSaveOutcome::Failed;
+  if (reply->nErrorCode == badEmailSettingsCode) return EmailSaveOutcome::Incomplete;
+  return reply->nErrorCode == 0 ? EmailSaveOutcome::Saved : EmailSaveOutcome::Failed;
+}
+
+}  // namespace parlexo

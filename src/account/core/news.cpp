@@ -1,0 +1,64 @@
+#include "account/core/news.h"
+
+#include <QRegularExpression>
+
+#include "gateway/core/gateway.h"
+
+namespace parlexo {
+namespace {
+
+QString showable(QString text) {
+  text.replace(QStringLiteral("\r\n"), QStringLiteral("\n")).replace(u'\r', u'\n');
+  text.removeIf([](QChar c) { return c.category() == QChar::Other_Control && c != u'\n' && c != u'\t'; });
+  return text;
+}
+
+// What closes a sentence or a bracket behind an address is no part of it.
+QString withoutClosing(QString address) {
+  while (!address.isEmpty()) {
+    const QChar last = address.back();
+    const bool closesOther = last == u')' && !address.contains(u'(');
+    if (!closesOther && !QStringLiteral(".,;:!?'").contains(last)) break;
+    address.chop(1);
+  }
+  return address;
+}
+
+QUrl pageOf(const QString& address) {
+  const QUrl page(address, QUrl::StrictMode);
+  return page.isValid() && !page.host().isEmpty() && page.userInfo().isEmpty() ? page : QUrl();
+}
+
+void append(std::vector<NewsPart>& parts, const QString& text, const QUrl& page = {}) {
+  if (!text.isEmpty()) parts.push_back({text, page});
+}
+
+}  // namespace
+
+std::optional<QString> fetchNews(const Gateway& gateway) {
+  const auto reply = gateway.call<protocol::getNewsResponse>(
+      [](GatewayClient& client, protocol::getNewsResponse& response) { return client.getNews(response); });
+  if (!reply.answered() || reply->nErrorCode != 0) return std::nullopt;
+  return fromWire(reply->sNews);
+}
+
+std::vector<NewsPart> newsParts(const QString& news) {
+  static const QRegularExpression addressLike(QStringLiteral(R"(\bhttps?://[^\s<>"]+)"),
+                                              QRegularExpression::CaseInsensitiveOption);
+  const QString text = showable(news);
+  std::vector<NewsPart> parts;
+  qsizetype taken = 0;
+  for (auto found = addressLike.globalMatch(text); found.hasNext();) {
+    const auto match = found.next();
+    const QString address = withoutClosing(match.captured());
+    const QUrl page = pageOf(address);
+    if (page.isEmpty()) continue;
+    append(parts, text.mid(taken, match.capturedStart() - taken));
+    append(parts, address, page);
+    taken = match.capturedStart() + address.size();
+  }
+  append(parts, text.mid(taken));
+  return parts;
+}
+
+}  // namespace parlexo

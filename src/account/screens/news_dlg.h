@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QString>
+#include <QUrl>
+
+#include "ui/gradient_page.h"
+#include "ui/web_opener.h"
+
+class QTextBrowser;
+
+namespace parlexo {
+
+/// Shows the gateway's news as plain text in which web addresses can be followed. The text comes from
+/// outside: nothing in it is taken for markup, and nothing is loaded for it.
+class CNewsDlg final : public GradientDialog {
+  Q_OBJECT
+
+ public:
+  explicit CNewsDlg(const QString& news, QWidget* parent = nullptr);
+
+  void setOpener(WebOpener opener) { opener_ = std::move(opener); }
+
+ private:
+  void fill(const QString& news);
+  void open(const QUrl& page) const;
+
+  QTextBrowser* text_ = nullptr;
+  WebOpener opener_ = openInBrowser;
+};
+
+}  // namespace parlexo

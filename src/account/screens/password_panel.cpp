@@ -1,0 +1,64 @@
+#include "account/screens/password_panel.h"
+
+#include <QFormLayout>
+#include <QLineEdit>
+
+#include "ui/page_controls.h"
+#include "ui/picture_button.h"
+
+namespace parlexo {
+
+PasswordPanel::PasswordPanel(const AccountServices& services, QWidget* parent)
+    : QGroupBox(QStringLiteral("Change Password:"), parent), flow_(services) {
+  setObjectName(QStringLiteral("passwordPanel"));
+  auto* form = new QFormLayout;
+  old_ = addEdit(*form, "oldPassword", QStringLiteral("Old password:"));
+  new_ = addEdit(*form, "newPassword", QStringLiteral("New Password:"));
+  retyped_ = addEdit(*form, "retypedPassword", QStringLiteral("Retype New Password:"));
+  auto* button = new PictureButton(QStringLiteral("Change &Password"), this);
+  button->setObjectName(QStringLiteral("changePasswordButton"));
+  connect(button, &PictureButton::clicked, this, &PasswordPanel::change);
+  auto* column = new QVBoxLayout(this);
+  column->addLayout(form);
+  column->addStretch(1);
+  column->addWidget(button, 0, Qt::AlignRight);
+}
+
+PasswordPanel::~PasswordPanel() {
+  wipeFields();
+}
+
+QLineEdit* PasswordPanel::addEdit(QFormLayout& form, const char* name, const QString& label) {
+  auto* edit = new QLineEdit(this);
+  edit->setObjectName(QLatin1String(name));
+  edit->setEchoMode(QLineEdit::Password);
+  connect(edit, &QLineEdit::returnPressed, this, &PasswordPanel::change);
+  form.addRow(labelFor(edit, label), edit);
+  return edit;
+}
+
+void PasswordPanel::change() {
+  // The draft is gone before the fields are wiped: memory that it shares with them would stay as it is.
+  const auto atFault = flow_.change({old_->text(), new_->text(), retyped_->text()});
+  if (!atFault) return wipeFields();
+  editFor(*atFault)->setFocus();
+  editFor(*atFault)->selectAll();
+}
+
+void PasswordPanel::wipeFields() {
+  for (QLineEdit* field : {old_, new_, retyped_}) wipeField(*field);
+}
+
+QLineEdit* PasswordPanel::editFor(PasswordField field) const {
+  switch (field) {
+    case PasswordField::Old:
+      return old_;
+    case PasswordField::New:
+      return new_;
+    case PasswordField::Retyped:
+      return retyped_;
+  }
+  return old_;
+}
+
+}  // namespace parlexo

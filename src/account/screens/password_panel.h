@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QGroupBox>
+
+#include "account/core/password_change.h"
+
+class QFormLayout;
+class QLineEdit;
+
+namespace parlexo {
+
+/// The part of the settings page that gives the account a new password. The passwords are wiped once they
+/// have served, and with the panel.
+class PasswordPanel final : public QGroupBox {
+  Q_OBJECT
+
+ public:
+  /// `services` must refer to objects that outlive the panel.
+  explicit PasswordPanel(const AccountServices& services, QWidget* parent = nullptr);
+  ~PasswordPanel() override;
+  PasswordPanel(const PasswordPanel&) = delete;
+  PasswordPanel& operator=(const PasswordPanel&) = delete;
+
+ private:
+  QLineEdit* addEdit(QFormLayout& form, const char* name, const QString& label);
+  void change();
+  void wipeFields();
+  [[nodiscard]] QLineEdit* editFor(PasswordField field) const;
+
+  PasswordChangeFlow flow_;
+  QLineEdit* old_ = nullptr;
+  QLineEdit* new_ = nullptr;
+  QLineEdit* retyped_ = nullptr;
+};
+
+}  // namespace parlexo

@@ -1,0 +1,31 @@
+#include "account/screens/settings_dlg.h"
+
+#include <QHBoxLayout>
+#include <QVBoxLayout>
+
+#include "account/screens/email_preferences_panel.h"
+#include "account/screens/password_panel.h"
+
+namespace parlexo {
+
+CSettingsDlg::CSettingsDlg(const AccountServices& services, const FolderChooser& chooser, QWidget* parent)
+    : GradientPage(parent) {
+  setObjectName(QStringLiteral("settingsPage"));
+  email_ = new EmailPreferencesPanel(services, this);
+  auto* lower = new QHBoxLayout;
+  lower->setSpacing(14);
+  lower->addWidget(new PasswordPanel(services, this), 2);
+  lower->addWidget(new StorageFoldersPanel(services, chooser, this), 3);
+  auto* column = new QVBoxLayout(this);
+  column->setContentsMargins(14, 10, 14, 12);
+  column->setSpacing(10);
+  column->addWidget(email_);
+  column->addLayout(lower);
+  column->addStretch(1);
+}
+
+void CSettingsDlg::refresh() {
+  email_->reloadUnlessChanged();
+}
+
+}  // namespace parlexo

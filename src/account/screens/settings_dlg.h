@@ -1,0 +1,26 @@
+#pragma once
+
+#include "account/screens/storage_folders_panel.h"
+#include "ui/gradient_page.h"
+
+namespace parlexo {
+
+class EmailPreferencesPanel;
+
+/// The settings page: the account's e-mail preferences and password, which the gateway keeps, and the folders
+/// on this computer.
+class CSettingsDlg final : public GradientPage {
+  Q_OBJECT
+
+ public:
+  /// Asks the gateway for the e-mail preferences. `services` must refer to objects that outlive the page.
+  explicit CSettingsDlg(const AccountServices& services, const FolderChooser& chooser = chooseFolder,
+                        QWidget* parent = nullptr);
+
+  void refresh() override;
+
+ private:
+  EmailPreferencesPanel* email_ = nullptr;
+};
+
+}  // namespace parlexo

@@ -1,0 +1,86 @@
+#include "account/screens/storage_folders_panel.h"
+
+#include <utility>
+
+#include <QDir>
+#include <QFileDialog>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QVBoxLayout>
+
+#include "base/notifier.h"
+#include "base/settings.h"
+#include "ui/page_controls.h"
+#include "ui/picture_button.h"
+
+namespace parlexo {
+namespace {
+
+QString promptFor(const QString& what) {
+  return QStringLiteral(
+             "Select the folder where your %1 will be stored. Store this on a network if you wish to share "
+             "with other users.")
+      .arg(what);
+}
+
+QString warningFor(const QString& what) {
+  return QStringLiteral(
+             "You have changed your storage directory for your %1. You must exit application and restart "
+             "application before using")
+      .arg(what);
+}
+
+void showPath(QLineEdit& field, const QString& path) {
+  field.setText(path);
+  field.setCursorPosition(0);  // a field too narrow for its text shows the beginning
+  field.setToolTip(path);
+}
+
+}  // namespace
+
+QString chooseFolder(QWidget* parent, const QString& prompt, const QString& start) {
+  return QDir::toNativeSeparators(QFileDialog::getExistingDirectory(parent, prompt, start));
+}
+
+StorageFoldersPanel::StorageFoldersPanel(const AccountServices& services, FolderChooser chooser,
+                                         QWidget* parent)
+    : QGroupBox(QStringLiteral("Storage Folders (Use Network Location to share between Users):"), parent),
+      services_(services),
+      chooser_(std::move(chooser)) {
+  setObjectName(QStringLiteral("foldersPanel"));
+  auto* column = new QVBoxLayout(this);
+  Settings& settings = services_.settings;
+  addFolder(*column, {QStringLiteral("Contacts"), QStringLiteral("Contacts Folder: "),
+                      [&settings] { return settings.contactsFolder(); },
+                      [&settings](const QString& path) { settings.setContactsFolder(path); }});
+  addFolder(*column, {QStringLiteral("Templates"), QStringLiteral("Templates Folder:"),
+                      [&settings] { return settings.templatesFolder(); },
+                      [&settings](const QString& path) { settings.setTemplatesFolder(path); }});
+  column->addStretch(1);
+}
+
+void StorageFoldersPanel::addFolder(QVBoxLayout& column, const Folder& folder) {
+  auto* path = readOnlyField(folder.what.toLower() + QStringLiteral("Folder"), this);
+  showPath(*path, folder.read());
+  auto* browse = new PictureButton(QStringLiteral("..."), this);
+  browse->setObjectName(folder.what.toLower() + QStringLiteral("BrowseButton"));
+  browse->setToolTip(QStringLiteral("Choose the folder for %1").arg(folder.what));
+  browse->setAccessibleName(browse->toolTip());
+  connect(browse, &PictureButton::clicked, this, [this, folder, path] { choose(folder, *path); });
+  column.addWidget(labelFor(path, folder.label));
+  auto* row = new QHBoxLayout;
+  row->addWidget(path, 1);
+  row->addWidget(browse);
+  column.addLayout(row);
+}
+
+void StorageFoldersPanel::choose(const Folder& folder, QLineEdit& path) {
+  const QString chosen = chooser_(window(), promptFor(folder.what), path.text());
+  if (chosen.isEmpty()) return;
+  showPath(path, chosen);
+  folder.write(chosen);
+  services_.notifier.warning(warningFor(folder.what));
+}
+
+}  // namespace parlexo
