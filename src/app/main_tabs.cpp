@@ -1,5 +1,7 @@
 #include "app/main_tabs.h"
 
+#include "account/screens/receive_messages_dlg.h"
+#include "account/screens/settings_dlg.h"
 #include "addressbook/screens/contacts_page.h"
 #include "app/empty_page.h"
 #include "messaging/screens/send_page.h"
@@ -31,17 +33,19 @@ void openStatusOnRequest(SendPage& page, CStatusDlg& status, CMainDlg& window) {
 }  // namespace
 
 std::vector<MainTab> mainTabs(const MessagingServices& services,
-                              const AddressBookServices& addressBookServices) {
+                              const AddressBookServices& addressBookServices,
+                              const AccountServices& accountServices) {
   return {
       {QStringLiteral("SMS"), [services] { return new CQuillonSMSDlg(services); }},
       tabToCome(QStringLiteral("WAP")),
       tabToCome(QStringLiteral("MMS")),
       tabToCome(QStringLiteral("Fax")),
-      tabToCome(QStringLiteral("Receive Messages")),
+      {QStringLiteral("Receive Messages"),
+       [accountServices] { return new CReceiveMessagesDlg(accountServices.state); }},
       {QStringLiteral("Contacts"), [addressBookServices] { return new CContactsPage(addressBookServices); }},
       tabToCome(QStringLiteral("Account History")),
       {statusTab, [services] { return new CStatusDlg(services); }},
-      tabToCome(QStringLiteral("Settings"))};
+      {QStringLiteral("Settings"), [accountServices] { return new CSettingsDlg(accountServices); }}};
 }
 
 void connectPages(CMainDlg& window) {

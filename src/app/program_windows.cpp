@@ -3,6 +3,8 @@
 #include <QApplication>
 #include <QScopedValueRollback>
 
+#include "account/core/news.h"
+#include "account/screens/news_dlg.h"
 #include "app/core/balance_check.h"
 #include "app/core/login_flow.h"
 #include "app/disk_stores.h"
@@ -29,10 +31,11 @@ void ProgramWindows::logInAgain() {
 
 void ProgramWindows::runMainWindow() {
   AddressBook& book = services_.stores.addressBook();
-  CMainDlg window(
-      mainTabs({services_.state, services_.gateway, services_.notifier, services_.progress, *this, book,
-                services_.stores.statusLog(), services_.stores.statusFile(), services_.stores.templates()},
-               {book, services_.notifier, services_.progress, services_.settings, services_.runner}));
+  CMainDlg window(mainTabs(
+      {services_.state, services_.gateway, services_.notifier, services_.progress, *this, book,
+       services_.stores.statusLog(), services_.stores.statusFile(), services_.stores.templates()},
+      {book, services_.notifier, services_.progress, services_.settings, services_.runner},
+      {services_.state, services_.settings, services_.gateway, services_.notifier, services_.progress}));
   connectPages(window);
   const QScopedValueRollback<CMainDlg*> open(mainWindow_, &window);
   window.setUserName(services_.state.userName);
@@ -41,9 +44,14 @@ void ProgramWindows::runMainWindow() {
   services_.progress.hide();
   QObject::connect(&window, &CMainDlg::refreshRequested, &window,
                    [&] { window.setBalance(check.refresh()); });
+  QObject::connect(&window, &CMainDlg::opened, &window, [&] { showNews(window); });
   window.restoreGeometry(services_.settings.windowGeometry());
   window.exec();
   services_.settings.setWindowGeometry(window.saveGeometry());
+}
+
+void ProgramWindows::showNews(CMainDlg& window) const {
+  if (const auto news = fetchNews(services_.gateway)) CNewsDlg(*news, &window).exec();
 }
 
 }  // namespace parlexo

@@ -38,6 +38,9 @@ class ProgramWindows final : public StartUpWindows, public SessionRenewal {
   void logInAgain() override;
 
  private:
+  /// Nobody is told of news that can't be had.
+  void showNews(CMainDlg& window) const;
+
   WindowServices services_;
   CMainDlg* mainWindow_ = nullptr;  ///< while it is open
 };

@@ -1,132 +1,29 @@
 #pragma once
 
-#include <chrono>
-#include <thread>
-#include <vector>
-
-#include <QString>
 #include <QTemporaryDir>
 
-#include "base/call_runner.h"
 #include "base/message_texts.h"
-#include "base/progress.h"
-#include "base/run_state.h"
-#include "base/session_renewal.h"
-#include "gateway/core/gateway.h"
 #include "messaging/core/messaging_services.h"
 #include "messaging/core/status_file.h"
 #include "messaging/core/status_log.h"
 #include "messaging/core/template.h"
-#include "simulator/simulator.h"
 #include "tests/addressbook/sample_book.h"
-#include "tests/messaging/recording_notifier.h"
+#include "tests/gateway/logged_in_rig.h"
 
 namespace parlexo {
 
-/// What the user reads when the gateway was not reached.
-inline constexpr char unreachable[] =
-    "Could not connect to the Parlexo gateway server.\r\n\r\nPlease make sure you have internet "
-    "connectivity, your firewall allows gateway connection or try again later.";
-
-/// Runs exchanges directly, for a user who may lose patience with one of them.
-class ImpatientRunner final : public CallRunner {
+/// Everything that messaging works with.
+class GatewayRig : public LoggedInRig {
  public:
-  /// The user will cancel the `number`th exchange from now (1 is the next) `after` it has begun.
-  void cancel(int number, std::chrono::milliseconds after = std::chrono::milliseconds(200)) {
-    untilCancelled_ = number;
-    after_ = after;
-  }
-
-  [[nodiscard]] bool run(Exchange exchange) override {
-    const CancelFlag flag;
-    std::thread user;
-    if (untilCancelled_ > 0 && --untilCancelled_ == 0) {
-      user = std::thread([flag, after = after_] {
-        std::this_thread::sleep_for(after);
-        flag.raise();
-      });
-    }
-    exchange(flag);
-    if (user.joinable()) user.join();
-    return true;
-  }
-
- private:
-  int untilCancelled_ = 0;
-  std::chrono::milliseconds after_{};
-};
-
-/// Everything that messaging works with: a gateway over a real connection to a simulator in the process, an
-/// account that is logged in, and a journal of what the user sees in which order.
-class GatewayRig {
- public:
-  GatewayRig() {
-    if (!simulator.start()) qFatal("the simulator does not start: %s", qPrintable(simulator.errorText()));
-    state.gateway.endpoint = simulator.site() + QStringLiteral("/ccx/onlineCommunication");
-    logIn();
-    notifier.onShow = [this] { journal.push_back(notifier.shown.back().text.toStdString()); };
-  }
-
-  void logIn() {
-    const auto reply = gateway.call<protocol::sessionStartResponse>(
-        [](GatewayClient& client, protocol::sessionStartResponse& response) {
-          return client.sessionStart("demo", "demo1234", response);
-        });
-    if (!reply.answered() || reply->nErrorCode != 0) qFatal("the simulator refuses the log-in");
-    state.session = fromWire(reply->sSession);
-  }
-
-  /// The operations asked for since the rig was made, the log-in left out.
-  [[nodiscard]] QStringList operations() const { return simulator.calledOperations().mid(1); }
-
   [[nodiscard]] MessagingServices services() {
-    return {state, gateway, notifier, progress, renewal, book.book(), log, file, templates};
+    return {state, gateway, notifier, progress(), renewal(), book.book(), log, file, templates};
   }
 
-  /// The fault for all calls of `operation` from now on.
-  void misbehave(simulator::FaultKind kind, const QString& operation, int number = 0) {
-    simulator::Fault fault;
-    fault.kind = kind;
-    fault.operation = operation;
-    fault.number = number;
-    if (!simulator.setFault(fault)) qFatal("%s", qPrintable(simulator::problemWith(fault)));
-  }
-
-  std::vector<std::string> journal;
-  simulator::Simulator simulator{{}};
-  RunState state;
-  ImpatientRunner runner;
-  Gateway gateway{state, runner, GatewayTimeouts{2, 1}};
-  RecordingNotifier notifier;
   test::SampleBook book;
   StatusLog log;
   QTemporaryDir folder;
   StatusFile file{folder.filePath(QStringLiteral("Status.xml"))};
   TemplateFolder templates{folder.path()};
-
- private:
-  class JournalProgress final : public Progress {
-   public:
-    explicit JournalProgress(std::vector<std::string>& journal) : journal_(journal) {}
-    void show(const QString& /*text*/) override { journal_.emplace_back("(box)"); }
-    void setText(const QString& /*text*/) override {}
-    void hide() override { journal_.emplace_back("(no box)"); }
-
-   private:
-    std::vector<std::string>& journal_;
-  };
-
-  class JournalRenewal final : public SessionRenewal {
-   public:
-    explicit JournalRenewal(std::vector<std::string>& journal) : journal_(journal) {}
-    void logInAgain() override { journal_.emplace_back("(login)"); }
-
-   private:
-    std::vector<std::string>& journal_;
-  };
-
-  JournalProgress progress{journal};
-  JournalRenewal renewal{journal};
 };
 
 }  // namespace parlexo

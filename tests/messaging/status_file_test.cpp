@@ -5,7 +5,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "tests/messaging/recording_notifier.h"
+#include "tests/base/recording_notifier.h"
 
 namespace parlexo {
 namespace {

@@ -12,12 +12,12 @@ namespace parlexo {
 /// How the gateway turns e-mails into messages of the account.
 struct EmailPreferences {
   bool isEnabled = false;
-  QString identityCode;
+  QString identityCode{};
   bool splitsLongSms = false;
   bool stopsAtDoubleLine = false;
   bool stopsAtEndKeyword = false;
   bool isFiltered = false;
-  std::array<QString, 3> addresses;  ///< those that may send when the filter is on
+  std::array<QString, 3> addresses{};  ///< those that may send when the filter is on
 
   [[nodiscard]] bool operator==(const EmailPreferences&) const = default;
 };

@@ -44,7 +44,7 @@ CNewsDlg::CNewsDlg(const QString& news, QWidget* parent) : GradientDialog(parent
   auto* picture = new CAnimatedPicture(this);
   if (picture->loadFromResource(QLatin1String(connectingAnimation))) picture->start();
   text_ = createBrowser(this);
-  connect(text_, &QTextBrowser::anchorClicked, this, &CNewsDlg::open);
+  connect(text_, &QTextBrowser::anchorClicked, this, &CNewsDlg::follow);
   fill(news);
   auto* ok = new PictureButton(text(TextId::ButtonOk), this);
   ok->setObjectName(QStringLiteral("ok"));
@@ -65,7 +65,7 @@ void CNewsDlg::fill(const QString& news) {
   for (const NewsPart& part : newsParts(news)) cursor.insertText(part.text, formatOf(part));
 }
 
-void CNewsDlg::open(const QUrl& page) const {
+void CNewsDlg::follow(const QUrl& page) const {
   if (isWebAddress(page) && opener_) opener_(page);
 }
 

@@ -22,7 +22,7 @@ class CNewsDlg final : public GradientDialog {
 
  private:
   void fill(const QString& news);
-  void open(const QUrl& page) const;
+  void follow(const QUrl& page) const;
 
   QTextBrowser* text_ = nullptr;
   WebOpener opener_ = openInBrowser;

@@ -1,0 +1,139 @@
+#include "account/screens/settings_dlg.h"
+
+#include <QCheckBox>
+#include <QLineEdit>
+#include <QTest>
+#include <gmock/gmock.h>
+
+#include "account/core/email_preferences.h"
+#include "tests/account/account_rig.h"
+#include "ui/picture_button.h"
+
+namespace parlexo {
+namespace {
+
+using namespace Qt::StringLiterals;
+using simulator::FaultKind;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+class SettingsPage : public testing::Test, protected AccountRig {
+ protected:
+  void open() {
+    page_ = std::make_unique<CSettingsDlg>(services(),
+                                           [this](QWidget*, const QString& prompt, const QString& start) {
+                                             asked_ << prompt << start;
+                                             return chosen_;
+                                           });
+    page_->show();
+    page_->activateWindow();
+    (void)QTest::qWaitForWindowActive(page_.get());
+  }
+  QLineEdit& edit(const char* name) { return *page_->findChild<QLineEdit*>(QLatin1String(name)); }
+  QCheckBox& box(const char* name) { return *page_->findChild<QCheckBox*>(QLatin1String(name)); }
+  void press(const char* name) {
+    QTest::mouseClick(page_->findChild<PictureButton*>(QLatin1String(name)), Qt::LeftButton);
+  }
+  [[nodiscard]] QStringList enabledControls() const {
+    QStringList names;
+    for (const auto* control : page_->findChild<QWidget*>(u"emailPanel"_qs)->findChildren<QWidget*>())
+      if (control->isEnabled() && control->focusPolicy() != Qt::NoFocus) names << control->objectName();
+    return names;
+  }
+
+  std::unique_ptr<CSettingsDlg> page_;
+  QStringList asked_;
+  QString chosen_;
+};
+
+TEST_F(SettingsPage, onlyWhatHasAnEffectIsEnabled) {
+  open();
+  EXPECT_EQ(enabledControls(), QStringList({"emailEnabled", "saveChangesButton"}));
+  box("emailEnabled").click();
+  EXPECT_EQ(enabledControls(),
+            QStringList({"emailEnabled", "identityCode", "splitLongSms", "stopAtDoubleLine",
+                         "stopAtEndKeyword", "emailFilter", "saveChangesButton"}));
+  box("emailFilter").click();
+  EXPECT_TRUE(edit("emailAddress3").isEnabled());
+  box("emailEnabled").click();
+  EXPECT_EQ(enabledControls(), QStringList({"emailEnabled", "saveChangesButton"}));
+}
+
+TEST_F(SettingsPage, incompletePreferencesLeadToWhatMayMiss) {
+  open();
+  box("emailEnabled").click();
+  press("saveChangesButton");
+  EXPECT_TRUE(edit("identityCode").hasFocus());
+  QTest::keyClicks(&edit("identityCode"), "x1");
+  box("emailFilter").click();
+  QTest::keyClick(&edit("identityCode"), Qt::Key_Return);
+  EXPECT_TRUE(edit("emailAddress1").hasFocus());
+  edit("emailAddress1").setText(u"日本@a.example"_qs);
+  press("saveChangesButton");
+  EXPECT_EQ(notifier.shown.back().style, message_style::information);
+  EXPECT_EQ(edit("emailAddress1").text(), u"??@a.example"_qs) << "as the gateway has it";
+  EXPECT_EQ(simulator.emailPreferences("demo").address1, u"??@a.example"_qs);
+}
+
+TEST_F(SettingsPage, refreshLoadsWhatStartUpMissedButKeepsWhatIsTyped) {
+  ASSERT_EQ(EmailPreferencesFlow(services()).save({.identityCode = u"held"_qs}), EmailSaveOutcome::Saved);
+  notifier.shown.clear();
+  misbehave(FaultKind::HttpError, "getEmailMessaging");
+  open();
+  EXPECT_EQ(edit("identityCode").text(), QString());
+  EXPECT_THAT(notifier.takeTexts(), IsEmpty());
+  simulator.clearFaults();
+  page_->refresh();
+  EXPECT_EQ(edit("identityCode").text(), u"held"_qs);
+  edit("identityCode").setText(u"typed"_qs);
+  page_->refresh();
+  EXPECT_EQ(edit("identityCode").text(), u"typed"_qs);
+}
+
+TEST_F(SettingsPage, passwordsStayAfterAFailureAndGoOnceTheyHaveServed) {
+  open();
+  QTest::keyClicks(&edit("oldPassword"), "wrong123");
+  for (const char* field : {"newPassword", "retypedPassword"}) {
+    EXPECT_EQ(edit(field).echoMode(), QLineEdit::Password);
+    QTest::keyClicks(&edit(field), "newer567");
+  }
+  QTest::keyClick(&edit("retypedPassword"), Qt::Key_Return);
+  EXPECT_EQ(edit("newPassword").text(), u"newer567"_qs);
+  EXPECT_TRUE(edit("oldPassword").hasFocus());
+  QTest::keyClicks(&edit("oldPassword"), "demo1234");  // takes the place of the selected wrong one
+  press("changePasswordButton");
+  EXPECT_TRUE(simulator.hasPassword("demo", "newer567"));
+  for (const char* field : {"oldPassword", "newPassword", "retypedPassword"}) {
+    edit(field).undo();
+    EXPECT_EQ(edit(field).text(), QString()) << field;
+  }
+}
+
+TEST_F(SettingsPage, chosenFolderIsKeptForTheNextStartAndWarnedOf) {
+  open();
+  const QString before = settings.templatesFolder();
+  press("templatesBrowseButton");
+  EXPECT_EQ(settings.templatesFolder(), before);
+  EXPECT_THAT(notifier.takeTexts(), IsEmpty()) << "cancelled";
+  chosen_ = folder.filePath("shared");
+  for (const char* button : {"templatesBrowseButton", "contactsBrowseButton", "contactsBrowseButton"})
+    press(button);
+  EXPECT_EQ(edit("contactsFolder").text(), chosen_);
+  EXPECT_EQ(Settings(folder.path()).contactsFolder(), chosen_);
+  EXPECT_EQ(Settings(folder.path()).templatesFolder(), chosen_);
+  EXPECT_EQ(asked_[0],
+            "Select the folder where your Templates will be stored. Store this on a network if you wish to "
+            "share with other users.");
+  EXPECT_EQ(asked_[1], before);
+  EXPECT_EQ(notifier.shown[0].style, message_style::exclamation);
+  const char* contacts =
+      "You have changed your storage directory for your Contacts. You must exit application and restart "
+      "application before using";
+  EXPECT_THAT(notifier.takeTexts(),
+              ElementsAre("You have changed your storage directory for your Templates. You must exit "
+                          "application and restart application before using",
+                          contacts, contacts));
+}
+
+}  // namespace
+}  // namespace parlexo
