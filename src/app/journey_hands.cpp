@@ -3,6 +3,7 @@
 #include <QAbstractButton>
 #include <QAbstractItemView>
 #include <QApplication>
+#include <QCheckBox>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QMouseEvent>
@@ -67,6 +68,16 @@ bool press(QWidget* window, const QString& buttonText) {
   for (auto* button : window->findChildren<QAbstractButton*>()) {
     if (button->text() != buttonText || !button->isVisible() || !button->isEnabled()) continue;
     click(button, QRectF(button->rect()).center());
+    return true;
+  }
+  return false;
+}
+
+bool toggle(QWidget* window, const QString& boxText) {
+  for (auto* box : window->findChildren<QCheckBox*>()) {
+    if (box->text() != boxText || !box->isVisible() || !box->isEnabled()) continue;
+    box->setFocus();
+    pressKey(box, Qt::Key_Space, QStringLiteral(" "));
     return true;
   }
   return false;

@@ -18,6 +18,8 @@ namespace hands {
 [[nodiscard]] bool typeInto(QWidget* window, const QString& label, const QString& text);
 /// Clicks the button with this text, mnemonic included.
 [[nodiscard]] bool press(QWidget* window, const QString& buttonText);
+/// Ticks or unticks the check box with this text.
+[[nodiscard]] bool toggle(QWidget* window, const QString& boxText);
 /// Brings the tab with this text (without its mnemonic) to the front.
 [[nodiscard]] bool showTab(QWidget* window, const QString& text);
 /// Ticks the check box of the row whose second column reads `name`, in the list called `list`.

@@ -7,6 +7,7 @@
 #include "app/core/command_line.h"
 #include "app/demo.h"
 #include "app/journey.h"
+#include "app/journey_plan.h"
 #include "app/process.h"
 #include "ui/look.h"
 
@@ -30,7 +31,7 @@ int endAtOnce(const ImmediateEnd& end) {
 
 int runJourney(const ProgramOptions& options) {
   Application client(options);
-  Journey journey(Demo::user(), Demo::password(), options.journeyDir);
+  Journey journey(journeyPlan(Demo::user(), Demo::password()), options.journeyDir);
   journey.start();
   const int exitCode = client.run();
   return exitCode == 0 && !journey.succeeded() ? journeyFailed : exitCode;

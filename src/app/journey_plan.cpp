@@ -1,0 +1,115 @@
+#include "app/journey_plan.h"
+
+#include <cstdio>
+
+#include "app/journey_hands.h"
+
+namespace parlexo {
+
+namespace {
+
+using Plan = std::vector<JourneyStep>;
+using Act = std::function<bool(QWidget* window)>;
+
+const QString loginWindow = QStringLiteral("Parlexo(TM) : Login");
+const QString newsWindow = QStringLiteral("Parlexo(TM) : News");
+const QString mainWindow = QStringLiteral("Parlexo(TM) : Messaging Client");
+const QString selectionWindow = QStringLiteral("Parlexo(TM) : Contacts");
+const QString notificationWindow = QStringLiteral("Parlexo(TM) : Notification");
+
+Act press(const QString& button) {
+  return [button](QWidget* window) { return hands::press(window, button); };
+}
+
+Act turnTo(const QString& tab) {
+  return [tab](QWidget* window) { return hands::showTab(window, tab); };
+}
+
+Act typeInto(const QString& label, const QString& text) {
+  return [label, text](QWidget* window) { return hands::typeInto(window, label, text); };
+}
+
+Act allOf(const std::vector<Act>& acts) {
+  return [acts](QWidget* window) {
+    bool succeeded = true;
+    for (const Act& act : acts) succeeded = succeeded && act(window);
+    return succeeded;
+  };
+}
+
+void planLogin(Plan& plan, const QString& user, const QString& password) {
+  plan.push_back({QStringLiteral("login"), QStringLiteral("Logs in as %1").arg(user), loginWindow,
+                  allOf({typeInto(QStringLiteral("User Name:"), user),
+                         typeInto(QStringLiteral("Password:"), password)})});
+  plan.push_back({QStringLiteral("login-filled"), QStringLiteral("Presses Login"), loginWindow,
+                  press(QStringLiteral("Login"))});
+  plan.push_back(
+      {QStringLiteral("news"), QStringLiteral("Reads the news"), newsWindow, press(QStringLiteral("&OK"))});
+}
+
+void planMessage(Plan& plan) {
+  plan.push_back({QStringLiteral("main-window"), QStringLiteral("Sees the balance; opens the contacts"),
+                  mainWindow, press(QStringLiteral("&Select Contacts..."))});
+  plan.push_back(
+      {QStringLiteral("contacts"), QStringLiteral("Ticks a group"), selectionWindow, [](QWidget* window) {
+         return hands::tick(window, QStringLiteral("Groups:"), QStringLiteral("My Personal Contacts"));
+       }});
+  plan.push_back({QStringLiteral("contacts-ticked"), QStringLiteral("Takes the ticked contacts"),
+                  selectionWindow, press(QStringLiteral("&Select"))});
+  plan.push_back(
+      {QStringLiteral("recipients"), QStringLiteral("Writes a message"), mainWindow,
+       typeInto(QStringLiteral("Message"),
+                QStringLiteral("Dear crew, tomorrow's start moves to 7:30 at the north gate. Bring "
+                               "rain gear. Thanks!"))});
+  plan.push_back({QStringLiteral("sms-page"), QStringLiteral("Presses Send"), mainWindow,
+                  press(QStringLiteral("S&end >"))});
+  plan.push_back({QStringLiteral("sent"),
+                  QStringLiteral("Reads that the message was delivered to the server"), notificationWindow,
+                  press(QStringLiteral("&OK"))});
+}
+
+void planStatus(Plan& plan) {
+  const QString status = QStringLiteral("Status");
+  plan.push_back({QStringLiteral("main-window-after"), QStringLiteral("Turns to the Status tab"), mainWindow,
+                  turnTo(status)});
+  plan.push_back({QStringLiteral("status"), QStringLiteral("Asks for the status of every message"),
+                  mainWindow,
+                  allOf({[status](QWidget* window) { return hands::selectAll(window, status); },
+                         press(QStringLiteral("Get &Status"))})});
+  plan.push_back({QStringLiteral("status-updated"), QStringLiteral("Sees how far each one is"), mainWindow,
+                  [status](QWidget* window) {
+                    std::printf("    %s\n", qUtf8Printable(hands::readList(window, status, 3)));
+                    return hands::showTab(window, QStringLiteral("Receive Messages"));
+                  }});
+}
+
+void planAccount(Plan& plan) {
+  plan.push_back({QStringLiteral("receive-page"),
+                  QStringLiteral("Sees under which numbers replies arrive; turns to the settings"),
+                  mainWindow, turnTo(QStringLiteral("Settings"))});
+  plan.push_back({QStringLiteral("settings"), QStringLiteral("Lets messages be sent by e-mail"), mainWindow,
+                  allOf({[](QWidget* window) {
+                           return hands::toggle(window, QStringLiteral("Enable Email Messaging:")) &&
+                                  hands::toggle(window, QStringLiteral("Split long SMS into several SMS"));
+                         },
+                         typeInto(QStringLiteral("Identity Code:"), QStringLiteral("crew-2026"))})});
+  plan.push_back({QStringLiteral("settings-page"), QStringLiteral("Saves that"), mainWindow,
+                  press(QStringLiteral("&Save Changes"))});
+  plan.push_back({QStringLiteral("settings-saved"), QStringLiteral("Reads that it was saved"),
+                  notificationWindow, press(QStringLiteral("&OK"))});
+}
+
+}  // namespace
+
+std::vector<JourneyStep> journeyPlan(const QString& user, const QString& password) {
+  Plan plan;
+  planLogin(plan, user, password);
+  planMessage(plan);
+  planStatus(plan);
+  planAccount(plan);
+  plan.push_back(
+      {QStringLiteral("end"), QStringLiteral("Leaves"), mainWindow, press(QStringLiteral("&Exit"))});
+  return plan;
+}
+
+}  // namespace parlexo
