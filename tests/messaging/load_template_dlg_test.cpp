@@ -9,7 +9,7 @@
 #include <QTest>
 #include <gmock/gmock.h>
 
-#include "tests/messaging/recording_notifier.h"
+#include "tests/base/recording_notifier.h"
 #include "ui/picture_button.h"
 
 namespace parlexo {

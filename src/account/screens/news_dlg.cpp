@@ -1,5 +1,6 @@
 #include "account/screens/news_dlg.h"
 
+#include <QHBoxLayout>
 #include <QPalette>
 #include <QTextBrowser>
 #include <QTextCharFormat>
@@ -8,8 +9,9 @@
 
 #include "account/core/news.h"
 #include "base/message_texts.h"
-#include "gateway/boxes/animated_picture.h"
+#include "gateway/boxes/box_column.h"
 #include "ui/look.h"
+#include "ui/page_controls.h"
 #include "ui/picture_button.h"
 
 namespace parlexo {
@@ -41,21 +43,17 @@ QTextBrowser* createBrowser(QWidget* parent) {
 CNewsDlg::CNewsDlg(const QString& news, QWidget* parent) : GradientDialog(parent) {
   setObjectName(QStringLiteral("newsDialog"));
   setWindowTitle(QStringLiteral("Parlexo(TM) : News"));
-  auto* picture = new CAnimatedPicture(this);
-  if (picture->loadFromResource(QLatin1String(connectingAnimation))) picture->start();
   text_ = createBrowser(this);
   connect(text_, &QTextBrowser::anchorClicked, this, &CNewsDlg::follow);
   fill(news);
-  auto* ok = new PictureButton(text(TextId::ButtonOk), this);
-  ok->setObjectName(QStringLiteral("ok"));
+  auto* row = new QHBoxLayout;
+  row->addStretch();
+  auto* ok = addButton(*row, QStringLiteral("ok"), text(TextId::ButtonOk));
   ok->setDefault(true);
   connect(ok, &PictureButton::clicked, this, &CNewsDlg::accept);
-  auto* column = new QVBoxLayout(this);
-  column->setContentsMargins(16, 14, 16, 14);
-  column->setSpacing(10);
-  column->addWidget(picture);
+  auto* column = createColumn(*this);
   column->addWidget(text_, 1);
-  column->addWidget(ok, 0, Qt::AlignRight);
+  column->addLayout(row);
   ok->setFocus();
   resize(dialogUnits(*this, 260, 180));
 }

@@ -11,6 +11,7 @@
 
 #include "base/notifier.h"
 #include "base/settings.h"
+#include "ui/look.h"
 #include "ui/page_controls.h"
 #include "ui/picture_button.h"
 
@@ -65,6 +66,7 @@ void StorageFoldersPanel::addFolder(QVBoxLayout& column, const Folder& folder) {
   showPath(*path, folder.read());
   auto* browse = new PictureButton(QStringLiteral("..."), this);
   browse->setObjectName(folder.what.toLower() + QStringLiteral("BrowseButton"));
+  browse->setFixedWidth(dialogUnits(*this, 20, 14).width());
   browse->setToolTip(QStringLiteral("Choose the folder for %1").arg(folder.what));
   browse->setAccessibleName(browse->toolTip());
   connect(browse, &PictureButton::clicked, this, [this, folder, path] { choose(folder, *path); });
