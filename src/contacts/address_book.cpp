@@ -21,6 +21,7 @@ AddressBook::AddressBook(const QString& folder, ItemDatabase& database, Notifier
     : folder_(withSeparator(folder)), database_(database), notifier_(notifier) {}
 
 void AddressBook::clear() {
+  ++revision_;
   groups_.clear();
   contacts_.clear();
 }
@@ -36,6 +37,7 @@ const GroupFile* AddressBook::findGroup(const QString& name) const {
 }
 
 bool AddressBook::saveContact(const ContactRecord& contact, bool writeToFile) {
+  ++revision_;
   contacts_[contact.name] = contact;
   if (!writeToFile) return true;
   QString error;
@@ -55,6 +57,7 @@ bool AddressBook::deleteContact(const QString& name) {
   bool written = deleteName(contactsPath(), packName(ownName), contactRecordSize);
   for (auto& [groupName, group] : groups_)
     if (group.contains(ownName)) written = deleteMember(group, ownName) && written;
+  ++revision_;
   contacts_.erase(found);
   return written;
 }
@@ -71,6 +74,7 @@ bool AddressBook::renameContact(const QString& oldName, const ContactRecord& con
 }
 
 bool AddressBook::createGroup(const QString& name, const QStringList& memberNames, bool writeToFile) {
+  ++revision_;
   groups_.try_emplace(name, name);
   bool written = true;
   if (writeToFile) {
@@ -88,6 +92,7 @@ bool AddressBook::createGroup(const QString& name, const QStringList& memberName
 bool AddressBook::deleteGroup(const QString& name) {
   // `name` may be the group's own.
   const QString path = groupPath(name);
+  ++revision_;
   groups_.erase(name);
   if (database_.removeDb(path)) return true;
   notifier_.error(QStringLiteral("There was a problem trying to delete your group from the database"));
@@ -98,6 +103,7 @@ bool AddressBook::addMember(const QString& groupName, const QString& contactName
   const auto group = groups_.find(groupName);
   const ContactRecord* contact = findContact(contactName);
   if (group == groups_.end() || !contact) return false;
+  ++revision_;
   group->second.members_[contact->name] = contact;
   if (!writeToFile) return true;
   QString error;
@@ -116,6 +122,7 @@ bool AddressBook::removeMember(const QString& groupName, const QString& contactN
 
 bool AddressBook::deleteMember(GroupFile& group, const QString& contactName) {
   const bool written = deleteName(groupPath(group.name()), packName(contactName), memberRecordSize);
+  ++revision_;
   group.members_.erase(contactName);
   return written;
 }

@@ -7,6 +7,7 @@
 #include <QByteArrayList>
 #include <QString>
 #include <QStringList>
+#include <QtGlobal>
 
 #include "base/notifier.h"
 #include "base/progress.h"
@@ -44,6 +45,8 @@ class AddressBook {
   /// Forgets contacts and groups; the files stay.
   void clear();
 
+  /// Another number after every change in memory, for who shows contacts or groups.
+  [[nodiscard]] quint64 revision() const { return revision_; }
   [[nodiscard]] const Contacts& contacts() const { return contacts_; }
   [[nodiscard]] const Groups& groups() const { return groups_; }
   /// Null when there is none of that name.
@@ -92,6 +95,7 @@ class AddressBook {
   Notifier& notifier_;
   Contacts contacts_;
   Groups groups_;
+  quint64 revision_ = 0;
 };
 
 }  // namespace parlexo

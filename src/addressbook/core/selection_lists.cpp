@@ -6,42 +6,19 @@
 
 #include <QSet>
 
-#include "addressbook/core/name_order.h"
-#include "contacts/address_book.h"
+#include "addressbook/core/sorted_book.h"
 #include "contacts/group_file.h"
 
 namespace parlexo {
-
-namespace {
-
-std::vector<const ContactRecord*> eligibleContacts(const AddressBook& book, const QString& mode) {
-  const Eligibility isEligible = eligibilityFor(mode);
-  std::vector<const ContactRecord*> contacts;
-  contacts.reserve(book.contacts().size());
-  for (const auto& [name, contact] : book.contacts()) {
-    if (isEligible(contact)) contacts.push_back(&contact);
-  }
-  sortByName(contacts, [](const ContactRecord* contact) { return contact->name; });
-  return contacts;
-}
-
-std::vector<const GroupFile*> allGroups(const AddressBook& book) {
-  std::vector<const GroupFile*> groups;
-  for (const auto& [name, group] : book.groups()) groups.push_back(&group);
-  sortByName(groups, [](const GroupFile* group) { return group->name(); });
-  return groups;
-}
-
-}  // namespace
 
 void RowSpan::include(int row) {
   *this = isEmpty() ? RowSpan{row, row} : RowSpan{std::min(first, row), std::max(last, row)};
 }
 
 SelectionLists::SelectionLists(const AddressBook& book, const QString& mode, const ContactSelection& initial)
-    : contacts_(eligibleContacts(book, mode)),
+    : contacts_(sortedContacts(book, eligibilityFor(mode))),
       contactTicks_(contacts_.size(), false),
-      groups_(allGroups(book)),
+      groups_(sortedGroups(book)),
       groupTicks_(groups_.size(), false) {
   rowOf_.reserve(contacts_.size());
   for (std::size_t row = 0; row < contacts_.size(); ++row)

@@ -1,8 +1,338 @@
 #include "addressbook/screens/contacts_page.h"
 
+#include <algorithm>
+#include <functional>
+#include <utility>
+
+#include <QHBoxLayout>
+#include <QItemSelectionModel>
+#include <QLabel>
+#include <QMenu>
+#include <QPlainTextEdit>
+#include <QScrollBar>
+#include <QShortcut>
+#include <QSignalBlocker>
+#include <QSplitter>
+#include <QStackedWidget>
+#include <QTimer>
+#include <QVBoxLayout>
+
+#include "addressbook/core/sorted_book.h"
+#include "addressbook/screens/contact_details_dlg.h"
+#include "addressbook/screens/folder_tree.h"
+#include "addressbook/screens/group_details_dlg.h"
+#include "addressbook/screens/row_list_view.h"
+#include "addressbook/screens/search_field.h"
+#include "contacts/address_book.h"
+#include "ui/list_style.h"
+#include "ui/look.h"
+#include "ui/picture_button.h"
+
 namespace parlexo {
 
+namespace {
+
+QString informationOn(const ContactFolder& folder) {
+  const QString lower(8, u'\n');
+  if (folder.kind == ContactFolder::Kind::Root)
+    return lower + QStringLiteral("Your Address Book for all your Contacts");
+  return lower + QStringLiteral(
+                     "All your contacts sorted in Alphabetic order. You cannot create contacts\n"
+                     "under these folders as they are READONLY. Deleting or modifying is permitted");
+}
+
+bool hasList(const ContactFolder& folder) {
+  return folder.kind != ContactFolder::Kind::Root && folder.kind != ContactFolder::Kind::AllContacts;
+}
+
+void onKey(QWidget* widget, const QKeySequence& key, std::function<void()> action) {
+  auto* shortcut = new QShortcut(key, widget);
+  shortcut->setContext(Qt::WidgetShortcut);
+  QObject::connect(shortcut, &QShortcut::activated, widget, std::move(action));
+}
+
+QString countText(int count, int selected, bool isSearching) {
+  QString text = count == 1 ? QStringLiteral("1 contact") : QStringLiteral("%1 contacts").arg(count);
+  if (isSearching) text += QStringLiteral(" found in the whole address book");
+  return selected < 2 ? text : text + QStringLiteral(", %1 selected").arg(selected);
+}
+
+}  // namespace
+
 CContactsPage::CContactsPage(const AddressBookServices& services, QWidget* parent)
-    : GradientPage(parent), services_(services) {}
+    : GradientPage(parent), services_(services), flow_(services), index_(services.book) {
+  setObjectName(QStringLiteral("contactsPage"));
+  createTree();
+  createList();
+  createSearch();
+  createMenu();
+  createLayout();
+  readBook();
+  tree_->select({ContactFolder::Kind::Group, QLatin1String(personalContactsName)});
+}
+
+void CContactsPage::createTree() {
+  tree_ = new FolderTree(this);
+  connect(tree_, &FolderTree::folderChosen, this, [this] {
+    const QSignalBlocker blocker(search_);
+    search_->clear();
+    fillFresh();
+  });
+  tree_->setContextMenuPolicy(Qt::CustomContextMenu);
+  connect(tree_, &QWidget::customContextMenuRequested, this, [this](const QPoint& where) {
+    if (QTreeWidgetItem* item = tree_->itemAt(where)) tree_->setCurrentItem(item);
+    // Whoever points at a folder means the folder.
+    list_->clearSelection();
+    openMenu(*tree_->viewport(), where);
+  });
+  onKey(tree_, QKeySequence::Delete, [this] {
+    list_->clearSelection();
+    remove();
+  });
+}
+
+void CContactsPage::createList() {
+  list_ = new RowListView(
+      model_, [this](int row) { return model_.contact(row).name; }, QStringLiteral("Contacts"), this);
+  list_->setObjectName(QStringLiteral("contactList"));
+  // The longest international number has 15 digits.
+  const int numberWidth = fittingColumnWidth(*list_, 120, QStringLiteral("+000000000000000"));
+  list_->setColumnWidths({150, numberWidth, 40, 40, numberWidth});
+  connect(list_, &QAbstractItemView::doubleClicked, this, &CContactsPage::edit);
+  for (const auto key : {Qt::Key_Return, Qt::Key_Enter}) onKey(list_, QKeySequence(key), [this] { edit(); });
+  onKey(list_, QKeySequence::Delete, [this] { remove(); });
+  connect(list_->selectionModel(), &QItemSelectionModel::selectionChanged, this, &CContactsPage::showCount);
+  list_->setContextMenuPolicy(Qt::CustomContextMenu);
+  connect(list_, &QWidget::customContextMenuRequested, this,
+          [this](const QPoint& where) { openMenu(*list_->viewport(), where); });
+
+  information_ = new QPlainTextEdit(this);
+  information_->setObjectName(QStringLiteral("informationPanel"));
+  information_->setAccessibleName(QStringLiteral("Information"));
+  information_->setReadOnly(true);
+  information_->setTabChangesFocus(true);
+  QPalette palette = information_->palette();
+  palette.setColor(QPalette::Base, look::listBackground);
+  information_->setPalette(palette);
+}
+
+void CContactsPage::createSearch() {
+  search_ =
+      new SearchField(QStringLiteral("Search all contacts: name, number, e-mail or Extra"), *list_, this);
+  search_->setObjectName(QStringLiteral("contactSearch"));
+  connect(search_, &QLineEdit::textChanged, this, &CContactsPage::fillFresh);
+  auto* find = new QShortcut(QKeySequence(QKeySequence::Find), this);
+  connect(find, &QShortcut::activated, this, [this] {
+    search_->setFocus(Qt::ShortcutFocusReason);
+    search_->selectAll();
+  });
+  count_ = new QLabel(this);
+  count_->setObjectName(QStringLiteral("countLine"));
+}
+
+void CContactsPage::createMenu() {
+  menu_ = new QMenu(this);
+  menu_->setObjectName(QStringLiteral("contactsMenu"));
+  const auto add = [this](const QString& text, void (CContactsPage::*action)()) {
+    connect(menu_->addAction(text), &QAction::triggered, this, action);
+  };
+  add(QStringLiteral("New Contact..."), &CContactsPage::newContact);
+  add(QStringLiteral("New Group..."), &CContactsPage::newGroup);
+  menu_->addSeparator();
+  add(QStringLiteral("Edit..."), &CContactsPage::edit);
+  add(QStringLiteral("Delete"), &CContactsPage::remove);
+}
+
+void CContactsPage::openMenu(QWidget& at, const QPoint& where) {
+  menu_->popup(at.mapToGlobal(where));
+}
+
+void CContactsPage::createLayout() {
+  auto* contacts = new QWidget(this);
+  contacts->setLayout(contactsColumn());
+  auto* halves = new QSplitter(this);
+  halves->setChildrenCollapsible(false);
+  halves->addWidget(tree_);
+  halves->addWidget(contacts);
+  halves->setStretchFactor(1, 1);
+  tree_->setMinimumWidth(dialogUnits(*this, 80, 0).width());
+  halves->setSizes({dialogUnits(*this, 120, 0).width(), list_->fittingWidth()});
+  auto* layout = new QVBoxLayout(this);
+  layout->setContentsMargins(14, 10, 14, 12);
+  layout->setSpacing(10);
+  layout->addWidget(halves, 1);
+  layout->addLayout(buttonRow());
+}
+
+QLayout* CContactsPage::contactsColumn() {
+  stack_ = new QStackedWidget(this);
+  stack_->addWidget(list_);
+  stack_->addWidget(information_);
+  auto* column = new QVBoxLayout;
+  column->setContentsMargins({});
+  column->setSpacing(6);
+  column->addLayout(searchRow(QStringLiteral("&Find:"), *search_));
+  column->addWidget(stack_, 1);
+  column->addWidget(count_);
+  return column;
+}
+
+QLayout* CContactsPage::buttonRow() {
+  auto* row = new QHBoxLayout;
+  const auto add = [this, row](const QString& text, const char* name, void (CContactsPage::*action)()) {
+    auto* button = new PictureButton(text, this);
+    button->setObjectName(QLatin1String(name));
+    connect(button, &PictureButton::clicked, this, action);
+    row->addWidget(button);
+    return button;
+  };
+  add(QStringLiteral("&New Contact..."), "newContactButton", &CContactsPage::newContact);
+  add(QStringLiteral("New &Group..."), "newGroupButton", &CContactsPage::newGroup);
+  add(QStringLiteral("&Import..."), "importButton", &CContactsPage::importContacts);
+  row->addStretch(1);
+  add(QStringLiteral("&Edit..."), "editButton", &CContactsPage::edit);
+  add(QStringLiteral("&Delete"), "deleteButton", &CContactsPage::remove);
+  auto* details = add(QStringLiteral("D&etails"), "detailsButton", &CContactsPage::edit);
+  // "&Edit..." does the same under the same key; with two to claim it, the key would only move the focus.
+  details->setShortcut({});
+  return row;
+}
+
+bool CContactsPage::isSearching() const {
+  return !search_->text().trimmed().isEmpty();
+}
+
+ContactFolder CContactsPage::shownFolder() const {
+  return isSearching() ? ContactFolder{ContactFolder::Kind::AllContacts, {}} : tree_->selected();
+}
+
+void CContactsPage::readBook() {
+  shownRevision_ = services_.book.revision();
+  index_.read();
+  QStringList groups;
+  for (const GroupFile* group : sortedGroups(services_.book)) groups.append(group->name());
+  tree_->setGroups(groups);
+  fill();
+  // Once the list is seen and before anybody can type.
+  QTimer::singleShot(0, this, [this] { index_.prepareSearch(); });
+}
+
+void CContactsPage::fill() {
+  const ContactFolder folder = tree_->selected();
+  const bool showsList = isSearching() || hasList(folder);
+  information_->setPlainText(informationOn(folder));
+  model_.setContacts(isSearching()     ? index_.find(search_->text())
+                     : hasList(folder) ? index_.contactsIn(folder)
+                                       : ContactIndex::Contacts());
+  stack_->setCurrentWidget(showsList ? static_cast<QWidget*>(list_) : information_);
+  showCount();
+}
+
+void CContactsPage::fillFresh() {
+  fill();
+  list_->clearSelection();
+  list_->setCurrentIndex({});
+  list_->scrollToTop();
+}
+
+void CContactsPage::refresh() {
+  list_->keepPlace([this] { readBook(); });
+}
+
+void CContactsPage::showEvent(QShowEvent* event) {
+  if (shownRevision_ != services_.book.revision()) refresh();
+  GradientPage::showEvent(event);
+}
+
+void CContactsPage::showCount() {
+  const bool showsList = stack_->currentWidget() == list_;
+  const auto selected = static_cast<int>(list_->selectionModel()->selectedRows().size());
+  count_->setText(showsList ? countText(model_.rowCount(), selected, isSearching()) : QString());
+}
+
+std::optional<ContactRecord> CContactsPage::editedByUser(const ContactRecord& contact) {
+  const auto isTaken = [this](const QString& name) { return services_.book.findContact(name) != nullptr; };
+  CContactDetailsDlg dialog(contact, isTaken, services_.notifier, this);
+  if (dialog.exec() != QDialog::Accepted) return {};
+  return dialog.contact();
+}
+
+void CContactsPage::newContact() {
+  const ContactFolder folder = tree_->selected();
+  if (!flow_.acceptsNewContact(folder)) return;
+  const auto contact = editedByUser({});
+  if (!contact) return;
+  flow_.addContact(*contact, folder.name);
+  search_->clear();
+  refresh();
+  list_->selectNames({contact->name});
+  list_->scrollTo(list_->currentIndex());
+}
+
+void CContactsPage::newGroup() {
+  CGroupDetailsDlg dialog(services_, {}, this);
+  if (dialog.exec() != QDialog::Accepted) return;
+  const GroupChanges changes = dialog.changes();
+  flow_.saveGroup(changes);
+  refresh();
+  tree_->select({ContactFolder::Kind::Group, changes.group});
+}
+
+void CContactsPage::importContacts() {
+  if (!flow_.acceptsImport(tree_->selected())) return;
+}
+
+void CContactsPage::edit() {
+  const int row = list_->chosenRow();
+  if (row >= 0) {
+    editContact(row);
+  } else if (const ContactFolder folder = shownFolder(); flow_.hasProperties(folder)) {
+    editGroup(folder.name);
+  }
+}
+
+void CContactsPage::editContact(int row) {
+  const auto contact = editedByUser(model_.contact(row));
+  if (!contact) return;
+  flow_.changeContact(*contact);
+  refresh();
+}
+
+void CContactsPage::editGroup(const QString& group) {
+  CGroupDetailsDlg dialog(services_, group, this);
+  if (dialog.exec() != QDialog::Accepted) return;
+  flow_.saveGroup(dialog.changes());
+  refresh();
+}
+
+void CContactsPage::remove() {
+  const QStringList names = list_->selectedNames();
+  if (!names.isEmpty()) {
+    removeContacts(names);
+  } else if (const ContactFolder folder = shownFolder(); flow_.confirmGroupDeletion(folder)) {
+    removeGroup(folder);
+  }
+}
+
+void CContactsPage::removeContacts(const QStringList& names) {
+  const ContactFolder folder = shownFolder();
+  if (!flow_.confirmDeletion(folder, static_cast<int>(names.size()))) return;
+  const int scrolled = list_->verticalScrollBar()->value();
+  const int place = list_->selectedRows().front();
+  // The list may be painted while the store waits for a file, and must not look for what is gone.
+  model_.setContacts({});
+  index_.forget();
+  flow_.deleteContacts(folder, names);
+  readBook();
+  list_->verticalScrollBar()->setValue(scrolled);
+  // The keyboard goes on where it was; nothing is selected, so that a further Delete can't hit by accident.
+  const int row = std::min(place, model_.rowCount() - 1);
+  list_->selectionModel()->setCurrentIndex(model_.index(row, 0), QItemSelectionModel::NoUpdate);
+}
+
+void CContactsPage::removeGroup(const ContactFolder& folder) {
+  flow_.deleteGroup(folder.name);
+  readBook();
+}
 
 }  // namespace parlexo

@@ -1,12 +1,32 @@
 #pragma once
 
+#include <optional>
+
+#include <QString>
+#include <QStringList>
+#include <QtGlobal>
+
 #include "addressbook/core/addressbook_services.h"
+#include "addressbook/core/contact_folder.h"
+#include "addressbook/core/contact_index.h"
+#include "addressbook/core/contacts_flow.h"
+#include "addressbook/screens/contact_rows_model.h"
 #include "ui/gradient_page.h"
+
+class QLabel;
+class QLayout;
+class QMenu;
+class QPlainTextEdit;
+class QStackedWidget;
 
 namespace parlexo {
 
+class FolderTree;
+class RowListView;
+class SearchField;
+
 /// The address book's page: folders and groups on the left, their contacts on the right, and everything
-/// that can be done with them.
+/// that can be done with them. A search shows what it finds in the whole address book, whatever the folder.
 class CContactsPage final : public GradientPage {
   Q_OBJECT
 
@@ -14,8 +34,56 @@ class CContactsPage final : public GradientPage {
   /// `services` must refer to objects that outlive the page.
   explicit CContactsPage(const AddressBookServices& services, QWidget* parent = nullptr);
 
+  /// Reads the selected folder anew; selection and scroll position stay.
+  void refresh() override;
+
+ protected:
+  /// Reads the address book anew when it has changed since the list was filled.
+  void showEvent(QShowEvent* event) override;
+
  private:
+  void createTree();
+  void createList();
+  void createSearch();
+  void createMenu();
+  void createLayout();
+  [[nodiscard]] QLayout* contactsColumn();
+  [[nodiscard]] QLayout* buttonRow();
+
+  /// What the user made of the contact in the dialog; nothing when it was cancelled.
+  [[nodiscard]] std::optional<ContactRecord> editedByUser(const ContactRecord& contact);
+  void newContact();
+  void newGroup();
+  void importContacts();
+  void edit();
+  void editContact(int row);
+  void editGroup(const QString& group);
+  void remove();
+  void removeContacts(const QStringList& names);
+  void removeGroup(const ContactFolder& folder);
+
+  /// The folder whose contacts the list shows: what a search finds belongs to no group.
+  [[nodiscard]] ContactFolder shownFolder() const;
+  [[nodiscard]] bool isSearching() const;
+  void readBook();
+  void fill();
+  void fillFresh();
+  void showCount();
+  void openMenu(QWidget& at, const QPoint& where);
+
   AddressBookServices services_;
+  ContactsFlow flow_;
+  ContactIndex index_;
+  ContactRowsModel model_;
+  quint64 shownRevision_ = 0;
+
+  FolderTree* tree_ = nullptr;
+  SearchField* search_ = nullptr;
+  QStackedWidget* stack_ = nullptr;
+  RowListView* list_ = nullptr;
+  QPlainTextEdit* information_ = nullptr;
+  QLabel* count_ = nullptr;
+  QMenu* menu_ = nullptr;
 };
 
 }  // namespace parlexo

@@ -1,0 +1,87 @@
+#include "addressbook/core/contact_form.h"
+
+#include <cstddef>
+#include <utility>
+
+#include <QRegularExpression>
+
+#include "addressbook/core/contact_selection.h"
+#include "base/code_page.h"
+
+namespace parlexo {
+
+namespace {
+
+using Field = ContactProblem::Field;
+
+// Blanks inside or around a number make it a wrong one: only a match of the whole value counts.
+bool matchesWhole(const QString& value, const QRegularExpression& pattern) {
+  const QRegularExpressionMatch match = pattern.match(value);
+  return match.hasMatch() && match.capturedLength() == value.size();
+}
+
+bool isEmailAddress(const QString& value) {
+  static const QRegularExpression pattern(QStringLiteral(R"(^[^@]+@([-\w]+\.)+[A-Za-z]{2,4}$)"));
+  return matchesWhole(value, pattern);
+}
+
+bool isInternationalNumber(const QString& value) {
+  static const QRegularExpression pattern(QStringLiteral(R"(\+\d{1,30})"));
+  return matchesWhole(value, pattern);
+}
+
+}  // namespace
+
+QString asContactText(const QString& typed) {
+  QString text;
+  for (const QChar character : typed)
+    if (character.category() != QChar::Other_Control) text.append(character);
+  return throughCodePage(text);
+}
+
+ContactForm::ContactForm(ContactRecord contact, NameTest isNameTaken)
+    : contact_(std::move(contact)), isNameTaken_(std::move(isNameTaken)), isNew_(contact_.name.isEmpty()) {}
+
+bool ContactForm::supportsSms() const {
+  return eligibilityFor(u"SMS")(contact_);
+}
+
+bool ContactForm::supportsMedia() const {
+  return eligibilityFor(u"Media")(contact_);
+}
+
+std::optional<ContactProblem> ContactForm::take(const ContactRecord& typed) {
+  takeTexts(typed);
+  if (auto problem = firstBadValue()) return problem;
+  contact_.supportsMedia = typed.supportsMedia;
+  contact_.supportsSms = typed.supportsSms;
+  if (isNew_ && isNameTaken_(contact_.name))
+    return ContactProblem{Field::Name, QStringLiteral("A contact with this name already exists")};
+  return {};
+}
+
+void ContactForm::takeTexts(const ContactRecord& typed) {
+  if (isNew_) contact_.name = typed.name.trimmed();
+  contact_.fax = typed.fax.trimmed();
+  contact_.phone = typed.phone.trimmed();
+  contact_.email = typed.email.trimmed();
+  for (std::size_t i = 0; i < contact_.extra.size(); ++i) contact_.extra[i] = typed.extra[i].trimmed();
+}
+
+std::optional<ContactProblem> ContactForm::firstBadValue() const {
+  if (contact_.name.isEmpty())
+    return ContactProblem{Field::Name, QStringLiteral("No contact name was given.")};
+  if (!contact_.email.isEmpty() && !isEmailAddress(contact_.email))
+    return ContactProblem{Field::Email, QStringLiteral("Invalid Email Address")};
+  if (!contact_.phone.isEmpty() && !isInternationalNumber(contact_.phone))
+    return ContactProblem{Field::Phone, QStringLiteral("Invalid Phone Number. Ensure that the phone number "
+                                                       "is in an International format.")};
+  if (!contact_.fax.isEmpty() && !isInternationalNumber(contact_.fax))
+    return ContactProblem{Field::Fax, QStringLiteral("Invalid Fax Number")};
+  if (contact_.phone.isEmpty() && contact_.fax.isEmpty())
+    return ContactProblem{Field::Phone,
+                          QStringLiteral("You must provide a valid phone number or valid fax number. ")};
+  return {};
+}
+
+}  // namespace parlexo

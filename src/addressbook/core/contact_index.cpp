@@ -1,0 +1,88 @@
+#include "addressbook/core/contact_index.h"
+
+#include <utility>
+
+#include "addressbook/core/sorted_book.h"
+#include "contacts/address_book.h"
+
+namespace parlexo {
+
+ContactIndex::ContactIndex(const AddressBook& book) : book_(book) {
+  read();
+}
+
+void ContactIndex::read() {
+  forget();
+  contacts_ = sortedContacts(book_, [](const ContactRecord&) { return true; });
+  placeOf_.reserve(contacts_.size());
+  for (std::size_t place = 0; place < contacts_.size(); ++place) {
+    placeOf_.emplace(contacts_[place], place);
+    byInitial_[initialOf(contacts_[place]->name)].push_back(contacts_[place]);
+  }
+}
+
+void ContactIndex::forget() {
+  contacts_.clear();
+  placeOf_.clear();
+  byInitial_.fill({});
+  search_ = {};
+  isSearchReady_ = false;
+}
+
+std::size_t ContactIndex::initialOf(const QString& name) {
+  const char16_t initial = name.isEmpty() ? u'\0' : name.front().toUpper().unicode();
+  return initial >= u'A' && initial <= u'Z' ? static_cast<std::size_t>(initial - u'A') : otherInitial;
+}
+
+ContactIndex::Contacts ContactIndex::contactsIn(const ContactFolder& folder) const {
+  switch (folder.kind) {
+    case ContactFolder::Kind::Root:
+    case ContactFolder::Kind::AllContacts:
+      return contacts_;
+    case ContactFolder::Kind::Group:
+      return members(folder.name);
+    case ContactFolder::Kind::Letter:
+      return byInitial_[initialOf(folder.name)];
+    case ContactFolder::Kind::Other:
+      return byInitial_[otherInitial];
+  }
+  Q_UNREACHABLE();
+}
+
+// Marking the members among all contacts brings them in order without a single comparison of names.
+ContactIndex::Contacts ContactIndex::members(const QString& groupName) const {
+  const GroupFile* group = book_.findGroup(groupName);
+  if (!group) return {};
+  std::vector<bool> isMember(contacts_.size(), false);
+  for (const auto& [name, contact] : group->members()) {
+    const auto found = placeOf_.find(contact);
+    if (found != placeOf_.end()) isMember[found->second] = true;
+  }
+  Contacts members;
+  members.reserve(group->members().size());
+  for (std::size_t place = 0; place < contacts_.size(); ++place)
+    if (isMember[place]) members.push_back(contacts_[place]);
+  return members;
+}
+
+void ContactIndex::prepareSearch() {
+  if (std::exchange(isSearchReady_, true)) return;
+  search_.reserve(contacts_.size());
+  for (const ContactRecord* contact : contacts_) {
+    for (const QString* field : {&contact->name, &contact->phone, &contact->fax, &contact->email})
+      search_.addField(*field);
+    for (const QString& extra : contact->extra) search_.addField(extra);
+    search_.endText();
+  }
+}
+
+ContactIndex::Contacts ContactIndex::find(const QString& typed) {
+  prepareSearch();
+  const std::vector<int> places = search_.find(typed);
+  Contacts found;
+  found.reserve(places.size());
+  for (const int place : places) found.push_back(contacts_[static_cast<std::size_t>(place)]);
+  return found;
+}
+
+}  // namespace parlexo

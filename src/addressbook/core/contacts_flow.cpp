@@ -1,0 +1,135 @@
+#include "addressbook/core/contacts_flow.h"
+
+#include <QLatin1String>
+
+#include "base/notifier.h"
+#include "base/progress.h"
+#include "contacts/address_book.h"
+
+namespace parlexo {
+
+namespace {
+
+QString membershipText() {
+  return QStringLiteral("Adding/removing contacts in Group...");
+}
+
+QString deletionQuestion(const ContactFolder& folder, int count) {
+  const QString question =
+      folder.isGroup()
+          ? QStringLiteral("Are you sure you want to remove this contact from the selected Group?")
+          : QStringLiteral(
+                "Are you sure you want to delete this contact completely from your Address Book "
+                "and all groups?");
+  if (count == 1) return question;
+  return question + QStringLiteral("\n\n(%1 contacts are selected.)").arg(count);
+}
+
+bool canBeDeleted(const ContactFolder& folder) {
+  return folder.isGroup() && folder.name != QLatin1String(personalContactsName);
+}
+
+}  // namespace
+
+bool ContactsFlow::acceptsNewContact(const ContactFolder& folder) const {
+  if (folder.isGroup()) return true;
+  services_.notifier.error(
+      QStringLiteral("You must select a \"Group\" or \"My Personal Contacts\" Folder. Contacts can only be "
+                     "added into these Folders."));
+  return false;
+}
+
+bool ContactsFlow::acceptsImport(const ContactFolder& folder) const {
+  if (folder.isGroup()) return true;
+  services_.notifier.error(
+      QStringLiteral("You must select a \"Group\" or \"My Personal Contacts\" Folder. Contacts can only be "
+                     "imported into these Folders."));
+  return false;
+}
+
+bool ContactsFlow::hasProperties(const ContactFolder& folder) const {
+  if (folder.isGroup()) return true;
+  services_.notifier.information(QStringLiteral("Can only get properties on \"Group\" folders."));
+  return false;
+}
+
+void ContactsFlow::addContact(const ContactRecord& contact, const QString& group) const {
+  const bool isWritten = services_.book.saveContact(contact);
+  const ProgressScope progress(services_.progress, membershipText());
+  services_.book.addMember(group, contact.name, isWritten);
+}
+
+void ContactsFlow::changeContact(const ContactRecord& contact) const {
+  services_.book.saveContact(contact);
+}
+
+void ContactsFlow::saveGroup(const GroupChanges& changes) const {
+  if (changes.isNew) {
+    const ProgressScope progress(services_.progress, QStringLiteral("Creating the Group..."));
+    bool isWritten = saveContacts(changes);
+    isWritten = services_.book.createGroup(changes.group, {}, isWritten) && isWritten;
+    changeMembers(changes, isWritten);
+    return;
+  }
+  if (changes.added.isEmpty() && changes.removed.isEmpty()) {
+    saveContacts(changes);
+    return;
+  }
+  const ProgressScope progress(services_.progress, membershipText());
+  changeMembers(changes, saveContacts(changes));
+}
+
+bool ContactsFlow::saveContacts(const GroupChanges& changes) const {
+  bool isWritten = true;
+  for (const ContactRecord& contact : changes.contacts)
+    isWritten = services_.book.saveContact(contact, isWritten) && isWritten;
+  return isWritten;
+}
+
+void ContactsFlow::changeMembers(const GroupChanges& changes, bool isWritten) const {
+  const auto keepAlive = [this] { services_.progress.setText(services_.progress.text()); };
+  for (const QString& name : changes.added) {
+    keepAlive();
+    isWritten = services_.book.addMember(changes.group, name, isWritten) && isWritten;
+  }
+  for (const QString& name : changes.removed) {
+    if (!isWritten) return;
+    keepAlive();
+    isWritten = services_.book.removeMember(changes.group, name);
+  }
+}
+
+bool ContactsFlow::confirmDeletion(const ContactFolder& folder, int count) const {
+  return services_.notifier.confirm(deletionQuestion(folder, count));
+}
+
+void ContactsFlow::deleteContacts(const ContactFolder& folder, const QStringList& names) const {
+  if (folder.isGroup()) {
+    const ProgressScope progress(services_.progress, membershipText());
+    changeMembers({folder.name, false, {}, {}, names}, true);
+    return;
+  }
+  const ProgressScope progress(services_.progress, QStringLiteral("Deleting the contacts..."));
+  for (const QString& name : names) {
+    services_.progress.setText(services_.progress.text());
+    if (!services_.book.deleteContact(name)) return;
+  }
+}
+
+bool ContactsFlow::confirmGroupDeletion(const ContactFolder& folder) const {
+  if (!canBeDeleted(folder)) {
+    services_.notifier.error(
+        QStringLiteral("Select a \"Group\" Folder that you wish to delete. You can only delete Groups that "
+                       "you created."));
+    return false;
+  }
+  return services_.notifier.confirm(
+      QStringLiteral("Are you sure you want to delete this group from your Address Book?"));
+}
+
+void ContactsFlow::deleteGroup(const QString& group) const {
+  const ProgressScope progress(services_.progress, QStringLiteral("Deleting the Group..."));
+  services_.book.deleteGroup(group);
+}
+
+}  // namespace parlexo

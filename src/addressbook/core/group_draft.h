@@ -1,0 +1,68 @@
+#pragma once
+
+#include <unordered_map>
+#include <vector>
+
+#include <QString>
+#include <QStringList>
+
+#include "addressbook/core/contact_selection.h"
+#include "contacts/contact_record.h"
+
+namespace parlexo {
+
+class AddressBook;
+
+/// What has to be written so that a group becomes what the user made of it.
+struct GroupChanges {
+  QString group;
+  bool isNew = false;                   ///< the group has to be created
+  std::vector<ContactRecord> contacts;  ///< new or changed ones, to be saved first
+  QStringList added;                    ///< contacts that become members
+  QStringList removed;                  ///< members that leave
+};
+
+/// A group while it is being edited: members come and go, contacts are created and changed, and nothing of
+/// it is in the address book before changes() are written. The book must outlive the draft and stay as it is.
+class GroupDraft {
+ public:
+  using Contacts = ContactSelection::Contacts;
+
+  /// An empty `name` begins a new group, any other must be that of a group of `book`.
+  GroupDraft(const AddressBook& book, const QString& name);
+
+  [[nodiscard]] bool isNew() const { return isNew_; }
+  [[nodiscard]] const QString& name() const { return name_; }
+  /// The members by name; the records are good until the next change.
+  [[nodiscard]] const Contacts& members() const { return members_; }
+  /// The members as far as they are contacts of the address book.
+  [[nodiscard]] ContactSelection selection() const;
+  /// Whether a new contact would meet another one of this name.
+  [[nodiscard]] bool isContactNameTaken(const QString& name) const;
+
+  /// Makes the picked contacts the members, and keeps those that are yet to be created.
+  void setSelection(const ContactSelection& picked);
+  /// Takes members out. A contact that was created here is dropped as a whole.
+  void remove(const QStringList& names);
+  /// Takes a new contact in, or the changed values of a member.
+  void put(const ContactRecord& contact);
+
+  /// Gives the group the name that was typed, blanks at both ends trimmed. Returns what is wrong with it, or
+  /// an empty text. The name of a group that exists is not looked at: it stays.
+  [[nodiscard]] QString takeName(const QString& typed);
+
+  [[nodiscard]] GroupChanges changes() const;
+
+ private:
+  [[nodiscard]] const ContactRecord* current(const ContactRecord* contact) const;
+  [[nodiscard]] bool isNameInUse(const QString& name) const;
+  void setMembers(Contacts members);
+
+  const AddressBook& book_;
+  bool isNew_;
+  QString name_;
+  std::unordered_map<QString, ContactRecord> pending_;  // new and changed contacts
+  Contacts members_;
+};
+
+}  // namespace parlexo

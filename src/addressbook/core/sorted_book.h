@@ -1,0 +1,19 @@
+#pragma once
+
+#include <vector>
+
+#include "addressbook/core/contact_selection.h"
+#include "contacts/contact_record.h"
+#include "contacts/group_file.h"
+
+namespace parlexo {
+
+class AddressBook;
+
+/// The contacts of `book` that are eligible, in the order of every list: by name, without regard to case.
+[[nodiscard]] ContactSelection::Contacts sortedContacts(const AddressBook& book, Eligibility isEligible);
+
+/// All groups of `book` in the same order.
+[[nodiscard]] std::vector<const GroupFile*> sortedGroups(const AddressBook& book);
+
+}  // namespace parlexo

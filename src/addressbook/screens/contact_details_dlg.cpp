@@ -1,0 +1,205 @@
+#include "addressbook/screens/contact_details_dlg.h"
+
+#include <cstddef>
+#include <utility>
+
+#include <QCheckBox>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QUrl>
+#include <QVBoxLayout>
+
+#include "addressbook/screens/contact_text_validator.h"
+#include "base/notifier.h"
+#include "base/product.h"
+#include "ui/hyperlink_label.h"
+#include "ui/look.h"
+#include "ui/page_controls.h"
+#include "ui/picture_button.h"
+
+namespace parlexo {
+
+namespace {
+
+constexpr int extraRows = ContactRecord::extraCount / 2;
+
+QString flagOf(const QCheckBox& box) {
+  return box.isChecked() ? QStringLiteral("Y") : QStringLiteral("N");
+}
+
+QCheckBox* flagBox(const char* name, const QString& text, bool isChecked, QWidget* parent) {
+  auto* box = new QCheckBox(text, parent);
+  box->setObjectName(QLatin1String(name));
+  box->setChecked(isChecked);
+  return box;
+}
+
+HyperlinkLabel* formatLink(QWidget* parent) {
+  auto* link = new HyperlinkLabel(QStringLiteral("Country and area codes, phone number formats"),
+                                  QUrl(webPage(QStringLiteral("/phonenumbers.php"))), parent);
+  link->setObjectName(QStringLiteral("numberFormatLink"));
+  return link;
+}
+
+QLayout* okAndCancel(QDialog& dialog) {
+  auto* ok = new PictureButton(QStringLiteral("&OK"), &dialog);
+  ok->setObjectName(QStringLiteral("okButton"));
+  ok->setDefault(true);
+  QObject::connect(ok, &PictureButton::clicked, &dialog, &QDialog::accept);
+  auto* cancel = new PictureButton(QStringLiteral("&Cancel"), &dialog);
+  cancel->setObjectName(QStringLiteral("cancelButton"));
+  QObject::connect(cancel, &PictureButton::clicked, &dialog, &QDialog::reject);
+  auto* row = new QHBoxLayout;
+  row->addStretch(1);
+  row->addWidget(ok);
+  row->addWidget(cancel);
+  return row;
+}
+
+}  // namespace
+
+CContactDetailsDlg::CContactDetailsDlg(const ContactRecord& contact, ContactForm::NameTest isNameTaken,
+                                       Notifier& notifier, QWidget* parent)
+    : GradientDialog(parent), form_(contact, std::move(isNameTaken)), notifier_(notifier) {
+  setObjectName(QStringLiteral("contactDetailsDialog"));
+  setWindowTitle(QStringLiteral("Parlexo(TM) : Contact Details"));
+  createEdits();
+  createLayout();
+  (form_.isNew() ? name_ : email_)->setFocus(Qt::OtherFocusReason);
+}
+
+QLineEdit* CContactDetailsDlg::createEdit(const char* name, const QString& text) {
+  auto* edit = new QLineEdit(text, this);
+  edit->setObjectName(QLatin1String(name));
+  edit->setValidator(new ContactTextValidator(edit));
+  return edit;
+}
+
+void CContactDetailsDlg::createEdits() {
+  const ContactRecord& contact = form_.contact();
+  if (form_.isNew()) {
+    name_ = createEdit("nameEdit", {});
+  } else {
+    name_ = readOnlyField(QStringLiteral("nameEdit"), this);
+    name_->setText(contact.name);
+  }
+  email_ = createEdit("emailEdit", contact.email);
+  phone_ = createEdit("phoneEdit", contact.phone);
+  fax_ = createEdit("faxEdit", contact.fax);
+}
+
+void CContactDetailsDlg::createLayout() {
+  auto* layout = new QVBoxLayout(this);
+  layout->setContentsMargins(16, 14, 16, 14);
+  layout->setSpacing(8);
+  layout->addLayout(addressRows());
+  layout->addLayout(flagRows());
+  layout->addWidget(extraBox());
+  layout->addStretch(1);
+  layout->addLayout(okAndCancel(*this));
+  setMinimumWidth(dialogUnits(*this, 330, 0).width());
+}
+
+QLayout* CContactDetailsDlg::addressRows() {
+  auto* grid = new QGridLayout;
+  const auto add = [&](int row, int column, const QString& label, QLineEdit* edit) {
+    grid->addWidget(labelFor(edit, label), row, column);
+    grid->addWidget(edit, row, column + 1);
+  };
+  add(0, 0, QStringLiteral("&Name:"), name_);
+  add(0, 2, QStringLiteral("&Email:"), email_);
+  add(1, 0, QStringLiteral("&Phone:"), phone_);
+  add(1, 2, QStringLiteral("&Fax:"), fax_);
+  grid->addWidget(
+      wrappedLabel(QStringLiteral("All phone and fax numbers must be entered in the international format, "
+                                  "for example +61491570156. Follow the link to find country and area "
+                                  "codes."),
+                   this),
+      2, 0, 1, 4);
+  grid->addWidget(formatLink(this), 3, 0, 1, 4, Qt::AlignLeft);
+  grid->setColumnStretch(1, 1);
+  grid->setColumnStretch(3, 1);
+  return grid;
+}
+
+QLayout* CContactDetailsDlg::flagRows() {
+  sms_ = flagBox("smsBox", QStringLiteral("Supports &SMS"), form_.supportsSms(), this);
+  media_ =
+      flagBox("mediaBox", QStringLiteral("Supports &Media (WAP and/or MMS)"), form_.supportsMedia(), this);
+  auto* boxes = new QHBoxLayout;
+  boxes->setSpacing(24);
+  boxes->addWidget(sms_);
+  boxes->addWidget(media_);
+  boxes->addStretch(1);
+  auto* column = new QVBoxLayout;
+  column->addWidget(wrappedLabel(
+      QStringLiteral("Select the SMS checkbox if the number supports SMS messaging and select the Media "
+                     "checkbox if the number supports WAP and/or MMS. If you do not correctly set the check "
+                     "boxes, then you will not be able to select your contact when sending SMS, WAP and/or "
+                     "MMS."),
+      this));
+  column->addLayout(boxes);
+  return column;
+}
+
+QGroupBox* CContactDetailsDlg::extraBox() {
+  auto* box = new QGroupBox(this);
+  auto* grid = new QGridLayout(box);
+  grid->addWidget(
+      wrappedLabel(QStringLiteral("Use the Extra fields to assign attributes to your contacts. These can be "
+                                  "used for selecting contact for messaging. For example: the Extra 1 field "
+                                  "can be state/province/area, Extra 2 can be employer name etc."),
+                   box),
+      0, 0, 1, 4);
+  for (int field = 0; field < ContactRecord::extraCount; ++field) {
+    const auto place = static_cast<std::size_t>(field);
+    const QString number = QString::number(field + 1);
+    extra_[place] = createEdit("", form_.contact().extra[place]);
+    extra_[place]->setObjectName(QStringLiteral("extra%1Edit").arg(number));
+    const int row = 1 + field % extraRows;
+    const int column = 2 * (field / extraRows);
+    grid->addWidget(labelFor(extra_[place], QStringLiteral("Extra &%1:").arg(number)), row, column);
+    grid->addWidget(extra_[place], row, column + 1);
+  }
+  grid->setColumnStretch(1, 1);
+  grid->setColumnStretch(3, 1);
+  return box;
+}
+
+ContactRecord CContactDetailsDlg::typed() const {
+  ContactRecord typed{
+      name_->text(), phone_->text(), flagOf(*sms_), flagOf(*media_), fax_->text(), email_->text(), {}};
+  for (std::size_t i = 0; i < extra_.size(); ++i) typed.extra[i] = extra_[i]->text();
+  return typed;
+}
+
+QLineEdit* CContactDetailsDlg::editOf(ContactProblem::Field field) const {
+  switch (field) {
+    case ContactProblem::Field::Name:
+      return name_;
+    case ContactProblem::Field::Email:
+      return email_;
+    case ContactProblem::Field::Phone:
+      return phone_;
+    case ContactProblem::Field::Fax:
+      return fax_;
+  }
+  Q_UNREACHABLE();
+}
+
+void CContactDetailsDlg::accept() {
+  const auto problem = form_.take(typed());
+  if (!problem) {
+    GradientDialog::accept();
+    return;
+  }
+  notifier_.error(problem->text);
+  QLineEdit* edit = editOf(problem->field);
+  edit->setFocus(Qt::OtherFocusReason);
+  edit->selectAll();
+}
+
+}  // namespace parlexo

@@ -1,0 +1,88 @@
+#include "addressbook/screens/contact_rows_model.h"
+
+#include <utility>
+
+namespace parlexo {
+
+namespace {
+
+using Column = ContactRowsModel::Column;
+
+QString headingOf(Column column) {
+  switch (column) {
+    case Column::NameColumn:
+      return QStringLiteral("Name");
+    case Column::PhoneColumn:
+      return QStringLiteral("Phone");
+    case Column::SmsColumn:
+      return QStringLiteral("SMS");
+    case Column::MediaColumn:
+      return QStringLiteral("Media");
+    case Column::FaxColumn:
+      return QStringLiteral("Fax");
+    case Column::columnTotal:
+      break;
+  }
+  return {};
+}
+
+QString yesOrNo(const ContactRecord& contact, QStringView mode) {
+  return eligibilityFor(mode)(contact) ? QStringLiteral("yes") : QStringLiteral("no");
+}
+
+QString cellOf(const ContactRecord& contact, Column column) {
+  switch (column) {
+    case Column::NameColumn:
+      return contact.name;
+    case Column::PhoneColumn:
+      return contact.phone;
+    case Column::SmsColumn:
+      return yesOrNo(contact, u"SMS");
+    case Column::MediaColumn:
+      return yesOrNo(contact, u"Media");
+    case Column::FaxColumn:
+      return contact.fax;
+    case Column::columnTotal:
+      break;
+  }
+  return {};
+}
+
+}  // namespace
+
+void ContactRowsModel::setContacts(ContactSelection::Contacts contacts) {
+  if (contacts == contacts_) {
+    if (!contacts_.empty()) Q_EMIT dataChanged(index(0, 0), index(rowCount() - 1, columnTotal - 1));
+    return;
+  }
+  beginResetModel();
+  contacts_ = std::move(contacts);
+  endResetModel();
+}
+
+int ContactRowsModel::rowCount(const QModelIndex& parent) const {
+  return parent.isValid() ? 0 : static_cast<int>(contacts_.size());
+}
+
+int ContactRowsModel::columnCount(const QModelIndex& parent) const {
+  return parent.isValid() ? 0 : columnTotal;
+}
+
+QVariant ContactRowsModel::headerData(int section, Qt::Orientation orientation, int role) const {
+  if (orientation != Qt::Horizontal) return {};
+  if (role == Qt::DisplayRole) return headingOf(static_cast<Column>(section));
+  if (role == Qt::TextAlignmentRole) return int(Qt::AlignLeft | Qt::AlignVCenter);
+  return {};
+}
+
+Qt::ItemFlags ContactRowsModel::flags(const QModelIndex& index) const {
+  if (!index.isValid()) return Qt::NoItemFlags;
+  return Qt::ItemIsSelectable | Qt::ItemIsEnabled | Qt::ItemNeverHasChildren;
+}
+
+QVariant ContactRowsModel::data(const QModelIndex& index, int role) const {
+  if (role != Qt::DisplayRole || !checkIndex(index, CheckIndexOption::IndexIsValid)) return {};
+  return cellOf(contact(index.row()), static_cast<Column>(index.column()));
+}
+
+}  // namespace parlexo

@@ -1,0 +1,86 @@
+#include "addressbook/screens/folder_tree.h"
+
+#include <QHeaderView>
+#include <QSignalBlocker>
+#include <QTreeWidgetItemIterator>
+
+#include "contacts/address_book.h"
+#include "ui/list_style.h"
+
+namespace parlexo {
+
+namespace {
+
+constexpr int kindRole = Qt::UserRole;
+
+ContactFolder folderOf(const QTreeWidgetItem& item) {
+  const auto kind = static_cast<ContactFolder::Kind>(item.data(0, kindRole).toInt());
+  switch (kind) {
+    case ContactFolder::Kind::Group:
+    case ContactFolder::Kind::Letter:
+      return {kind, item.text(0)};
+    case ContactFolder::Kind::Root:
+    case ContactFolder::Kind::AllContacts:
+    case ContactFolder::Kind::Other:
+      break;
+  }
+  return {kind, {}};
+}
+
+QTreeWidgetItem* folderItem(const QString& text, ContactFolder::Kind kind) {
+  auto* item = new QTreeWidgetItem({text});
+  item->setData(0, kindRole, static_cast<int>(kind));
+  item->setToolTip(0, text);
+  return item;
+}
+
+}  // namespace
+
+FolderTree::FolderTree(QWidget* parent) : QTreeWidget(parent) {
+  setObjectName(QStringLiteral("folderTree"));
+  setAccessibleName(QStringLiteral("Folders"));
+  setColumnCount(1);
+  setHeaderHidden(true);
+  styleList(*this);
+  addFixedFolders();
+  setCurrentItem(root_);
+  connect(this, &QTreeWidget::currentItemChanged, this, &FolderTree::folderChosen);
+}
+
+void FolderTree::addFixedFolders() {
+  root_ = folderItem(QStringLiteral("Address Book"), ContactFolder::Kind::Root);
+  addTopLevelItem(root_);
+  allContacts_ = folderItem(QLatin1String(allContactsName), ContactFolder::Kind::AllContacts);
+  root_->addChild(allContacts_);
+  for (char letter = 'A'; letter <= 'Z'; ++letter)
+    allContacts_->addChild(folderItem(QString(QLatin1Char(letter)), ContactFolder::Kind::Letter));
+  allContacts_->addChild(folderItem(QStringLiteral("Other"), ContactFolder::Kind::Other));
+  root_->setExpanded(true);
+}
+
+void FolderTree::setGroups(const QStringList& names) {
+  const QSignalBlocker blocker(this);
+  const ContactFolder before = selected();
+  while (root_->child(0) != allContacts_) delete root_->child(0);
+  QList<QTreeWidgetItem*> groups;
+  for (const QString& name : names) groups.append(folderItem(name, ContactFolder::Kind::Group));
+  root_->insertChildren(0, groups);
+  QTreeWidgetItem* item = itemOf(before);
+  setCurrentItem(item ? item : root_);
+}
+
+ContactFolder FolderTree::selected() const {
+  return currentItem() ? folderOf(*currentItem()) : ContactFolder();
+}
+
+void FolderTree::select(const ContactFolder& folder) {
+  if (QTreeWidgetItem* item = itemOf(folder)) setCurrentItem(item);
+}
+
+QTreeWidgetItem* FolderTree::itemOf(const ContactFolder& folder) const {
+  for (QTreeWidgetItemIterator item(root_); *item; ++item)
+    if (folderOf(**item) == folder) return *item;
+  return nullptr;
+}
+
+}  // namespace parlexo

@@ -1,0 +1,175 @@
+#include "addressbook/screens/group_details_dlg.h"
+
+#include <QHBoxLayout>
+#include <QItemSelectionModel>
+#include <QLabel>
+#include <QLineEdit>
+#include <QShortcut>
+#include <QVBoxLayout>
+
+#include "addressbook/screens/contact_details_dlg.h"
+#include "addressbook/screens/contact_text_validator.h"
+#include "addressbook/screens/row_list_view.h"
+#include "addressbook/screens/select_contacts_dlg.h"
+#include "base/notifier.h"
+#include "contacts/address_book.h"
+#include "ui/list_style.h"
+#include "ui/look.h"
+#include "ui/page_controls.h"
+#include "ui/picture_button.h"
+
+namespace parlexo {
+
+CGroupDetailsDlg::CGroupDetailsDlg(const AddressBookServices& services, const QString& group, QWidget* parent)
+    : GradientDialog(parent), services_(services), draft_(services.book, group) {
+  setObjectName(QStringLiteral("groupDetailsDialog"));
+  setWindowTitle(QStringLiteral("Parlexo(TM) : Group Details"));
+  createControls();
+  createLayout();
+  showMembers({});
+  enableButtons();
+  if (draft_.isNew()) {
+    name_->setFocus(Qt::OtherFocusReason);
+  } else {
+    list_->setFocus(Qt::OtherFocusReason);
+  }
+}
+
+void CGroupDetailsDlg::createControls() {
+  if (draft_.isNew()) {
+    name_ = new QLineEdit(this);
+    name_->setObjectName(QStringLiteral("groupNameEdit"));
+    name_->setValidator(new ContactTextValidator(name_));
+  } else {
+    name_ = readOnlyField(QStringLiteral("groupNameEdit"), this);
+    name_->setText(draft_.name());
+  }
+  list_ = new RowListView(
+      model_, [this](int row) { return model_.contact(row).name; }, QStringLiteral("Group Members:"), this);
+  list_->setObjectName(QStringLiteral("memberList"));
+  // The longest international number has 15 digits.
+  const int numberWidth = fittingColumnWidth(*list_, 100, QStringLiteral("+000000000000000"));
+  list_->setColumnWidths({120, numberWidth, 40, 40, numberWidth});
+  list_->setMinimumSize(list_->fittingWidth(), dialogUnits(*this, 0, 90).height());
+  connect(list_, &QAbstractItemView::doubleClicked, this, &CGroupDetailsDlg::showProperties);
+  connect(list_->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+          &CGroupDetailsDlg::enableButtons);
+  auto* removal = new QShortcut(QKeySequence(QKeySequence::Delete), list_);
+  removal->setContext(Qt::WidgetShortcut);
+  connect(removal, &QShortcut::activated, this, &CGroupDetailsDlg::remove);
+}
+
+PictureButton* CGroupDetailsDlg::createButton(const QString& text, const char* name) {
+  auto* button = new PictureButton(text, this);
+  button->setObjectName(QLatin1String(name));
+  return button;
+}
+
+void CGroupDetailsDlg::createLayout() {
+  auto* list = new QVBoxLayout;
+  list->setSpacing(4);
+  list->addWidget(labelFor(list_, QStringLiteral("Group &Members:")));
+  list->addWidget(list_, 1);
+  auto* middle = new QHBoxLayout;
+  middle->setSpacing(12);
+  middle->addLayout(list, 1);
+  middle->addLayout(buttonColumn());
+
+  auto* ok = createButton(QStringLiteral("&OK"), "okButton");
+  ok->setDefault(true);
+  connect(ok, &PictureButton::clicked, this, &QDialog::accept);
+  auto* cancel = createButton(QStringLiteral("&Cancel"), "cancelButton");
+  connect(cancel, &PictureButton::clicked, this, &QDialog::reject);
+  auto* bottom = new QHBoxLayout;
+  bottom->addStretch(1);
+  bottom->addWidget(ok);
+  bottom->addWidget(cancel);
+
+  auto* top = new QHBoxLayout;
+  top->addWidget(labelFor(name_, QStringLiteral("&Group Name:")));
+  top->addWidget(name_, 1);
+  auto* layout = new QVBoxLayout(this);
+  layout->setContentsMargins(16, 14, 16, 14);
+  layout->setSpacing(10);
+  layout->addLayout(top);
+  layout->addLayout(middle, 1);
+  layout->addLayout(bottom);
+  setTabOrder(name_, list_);
+  resize(sizeHint().expandedTo(dialogUnits(*this, 360, 210)));
+}
+
+QLayout* CGroupDetailsDlg::buttonColumn() {
+  auto* selection = createButton(QStringLiteral("&Select..."), "selectButton");
+  connect(selection, &PictureButton::clicked, this, &CGroupDetailsDlg::select);
+  removeButton_ = createButton(QStringLiteral("&Remove"), "removeButton");
+  connect(removeButton_, &PictureButton::clicked, this, &CGroupDetailsDlg::remove);
+  auto* creation = createButton(QStringLiteral("&New Contact..."), "newContactButton");
+  connect(creation, &PictureButton::clicked, this, [this] { editContact({}); });
+  propertiesButton_ = createButton(QStringLiteral("&Properties..."), "propertiesButton");
+  connect(propertiesButton_, &PictureButton::clicked, this, &CGroupDetailsDlg::showProperties);
+  auto* column = new QVBoxLayout;
+  column->addSpacing(fontMetrics().height() + 4);
+  for (PictureButton* button : {selection, removeButton_, creation, propertiesButton_})
+    column->addWidget(button);
+  column->addStretch(1);
+  return column;
+}
+
+void CGroupDetailsDlg::select() {
+  CSelectContactsDlg dialog(services_.book, QStringLiteral("All"), draft_.selection(), services_.notifier,
+                            this);
+  if (dialog.exec() != QDialog::Accepted) return;
+  const QStringList selected = list_->selectedNames();
+  draft_.setSelection(dialog.selection());
+  showMembers(selected);
+}
+
+void CGroupDetailsDlg::remove() {
+  const QStringList names = list_->selectedNames();
+  if (names.isEmpty()) return;
+  QString question = QStringLiteral("Are you sure you want to remove this contact from the group?");
+  if (names.size() > 1) question += QStringLiteral("\n\n(%1 contacts are selected.)").arg(names.size());
+  if (!services_.notifier.confirm(question)) return;
+  model_.setContacts({});
+  draft_.remove(names);
+  showMembers({});
+}
+
+void CGroupDetailsDlg::showProperties() {
+  const int row = list_->chosenRow();
+  if (row >= 0) editContact(model_.contact(row));
+}
+
+void CGroupDetailsDlg::editContact(const ContactRecord& contact) {
+  const auto isTaken = [this](const QString& name) { return draft_.isContactNameTaken(name); };
+  CContactDetailsDlg dialog(contact, isTaken, services_.notifier, this);
+  if (dialog.exec() != QDialog::Accepted) return;
+  draft_.put(dialog.contact());
+  showMembers({dialog.contact().name});
+}
+
+void CGroupDetailsDlg::showMembers(const QStringList& selectedNames) {
+  model_.setContacts(draft_.members());
+  list_->selectNames(selectedNames);
+  if (list_->currentIndex().isValid()) list_->scrollTo(list_->currentIndex());
+  enableButtons();
+}
+
+void CGroupDetailsDlg::enableButtons() {
+  const bool isAnySelected = list_->selectionModel()->hasSelection();
+  removeButton_->setEnabled(isAnySelected);
+  propertiesButton_->setEnabled(isAnySelected);
+}
+
+void CGroupDetailsDlg::accept() {
+  const QString problem = draft_.takeName(name_->text());
+  if (problem.isEmpty()) {
+    GradientDialog::accept();
+    return;
+  }
+  services_.notifier.error(problem);
+  name_->setFocus(Qt::OtherFocusReason);
+  name_->selectAll();
+}
+
+}  // namespace parlexo
