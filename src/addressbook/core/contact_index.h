@@ -36,7 +36,7 @@ class ContactIndex {
 
   /// Makes the contacts ready for find(), once per read(). The first find() does so where nobody has.
   void prepareSearch();
-  /// The contacts that have every word of `typed` in a name, number, address or Extra field, sorted.
+  /// The contacts that have every word of `typed` in its name, numbers or Extra fields, sorted.
   [[nodiscard]] Contacts find(const QString& typed);
 
  private:

@@ -146,7 +146,7 @@ QLayout* CContactDetailsDlg::flagRows() {
 }
 
 QGroupBox* CContactDetailsDlg::extraBox() {
-  auto* box = new QGroupBox(this);
+  auto* box = new QGroupBox(QStringLiteral("Extra fields"), this);
   auto* grid = new QGridLayout(box);
   grid->addWidget(
       wrappedLabel(QStringLiteral("Use the Extra fields to assign attributes to your contacts. These can be "

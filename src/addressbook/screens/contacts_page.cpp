@@ -118,7 +118,7 @@ void CContactsPage::createList() {
 
 void CContactsPage::createSearch() {
   search_ =
-      new SearchField(QStringLiteral("Search all contacts: name, number, e-mail or Extra"), *list_, this);
+      new SearchField(QStringLiteral("Search all contacts: name, number or Extra"), *list_, this);
   search_->setObjectName(QStringLiteral("contactSearch"));
   connect(search_, &QLineEdit::textChanged, this, &CContactsPage::fillFresh);
   auto* find = new QShortcut(QKeySequence(QKeySequence::Find), this);

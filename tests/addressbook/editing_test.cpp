@@ -1,0 +1,277 @@
+// Entering contacts and groups, and what is written of them.
+
+#include <optional>
+
+#include <QDir>
+#include <QTemporaryDir>
+#include <gmock/gmock.h>
+
+#include "addressbook/core/contact_form.h"
+#include "addressbook/core/contact_index.h"
+#include "addressbook/core/contacts_flow.h"
+#include "addressbook/core/group_draft.h"
+#include "tests/addressbook/disk_book.h"
+#include "tests/addressbook/sample_book.h"
+
+namespace parlexo {
+namespace {
+
+using test::FivePeople;
+using test::SampleBook;
+using Kind = ContactFolder::Kind;
+
+QStringList namesIn(const ContactSelection::Contacts& contacts) {
+  QStringList names;
+  for (const ContactRecord* contact : contacts) names << contact->name;
+  return names;
+}
+
+ContactRecord typedContact(const QString& name, const QString& phone, const QString& fax = {},
+                           const QString& email = {}) {
+  return {name, phone, "Y", "N", fax, email, {}};
+}
+
+ContactForm newContactForm() {
+  return {{}, [](const QString& name) { return name == "Ann"; }};
+}
+
+TEST(ContactForm, namesTheFirstProblemInItsOrder) {
+  const QString badPhone =
+      "Invalid Phone Number. Ensure that the phone number is in an International format.";
+  const QString digits30(30, u'1');
+  const struct {
+    ContactRecord typed;
+    QString problem;
+  } cases[] = {
+      {typedContact("  ", "x", "x", "x"), "No contact name was given."},
+      {typedContact("Bob", "x", "x", "x"), "Invalid Email Address"},
+      {typedContact("Bob", "x", "x"), badPhone},
+      {typedContact("Bob", "+1", "x"), "Invalid Fax Number"},
+      {typedContact("Bob", ""), "You must provide a valid phone number or valid fax number. "},
+      {typedContact("Ann", "+1"), "A contact with this name already exists"},
+      {typedContact("ann", "+1"), ""},
+      {typedContact("Bob", "", "+1"), ""},
+      {typedContact("Bob", "+" + digits30), ""},
+      {typedContact("Bob", "+" + digits30 + "1"), badPhone},
+      {typedContact("Bob", "+61 491 570 156"), badPhone},
+      {typedContact("Bob", "61491570156"), badPhone},
+      {typedContact("Bob", "++61"), badPhone},
+      {typedContact("Bob", "+"), badPhone},
+      {typedContact("Bob", QString::fromUtf8("+٦١")), badPhone},
+      {typedContact("Bob", "+1", "", "bob@parlexo.info"), ""},
+      {typedContact("Bob", "+1", "", "bob@mail.parlexo-a.co"), ""},
+      {typedContact("Bob", "+1", "", "b b@parlexo.co"), ""},
+      {typedContact("Bob", "+1", "", "bob@parlexo.store"), "Invalid Email Address"},
+      {typedContact("Bob", "+1", "", "bob@parlexo"), "Invalid Email Address"},
+      {typedContact("Bob", "+1", "", "bob@a@parlexo.co"), "Invalid Email Address"},
+      {typedContact("Bob", "+1", "", QString::fromUtf8("bob@bücher.de")), "Invalid Email Address"},
+  };
+  for (const auto& [typed, problem] : cases) {
+    const auto found = newContactForm().take(typed);
+    EXPECT_EQ(found ? found->text : QString(), problem)
+        << qPrintable(typed.name + ' ' + typed.phone + ' ' + typed.email);
+  }
+}
+
+TEST(ContactForm, keepsTrimmedTextsOfBadContactsAndFlagsOfGoodOnes) {
+  ContactForm form = newContactForm();
+  ContactRecord typed{"  Bob ", " 12 ", "Y", "Y", " +3\t", " b@c.de ", {" x ", "", "", "", "", " y"}};
+  EXPECT_EQ(form.take(typed)->field, ContactProblem::Field::Phone);
+  EXPECT_EQ(form.contact().name, "Bob");
+  EXPECT_EQ(form.contact().phone, "12");
+  EXPECT_EQ(form.contact().fax, "+3");
+  EXPECT_EQ(form.contact().email, "b@c.de");
+  EXPECT_EQ(form.contact().extra[0] + form.contact().extra[5], "xy");
+  EXPECT_EQ(form.contact().supportsSms, "");
+  typed.phone = "+12";
+  typed.supportsMedia = "N";
+  EXPECT_FALSE(form.take(typed));
+  EXPECT_EQ(form.contact().supportsSms + form.contact().supportsMedia, "YN");
+}
+
+TEST(ContactForm, nameOfAnExistingContactStaysAndIsNoDuplicate) {
+  ContactForm form({"Ann", "+1", "y", "no", {}, {}, {}}, [](const QString&) { return true; });
+  EXPECT_FALSE(form.isNew());
+  EXPECT_TRUE(form.supportsSms());
+  EXPECT_FALSE(form.supportsMedia());
+  EXPECT_FALSE(form.take(typedContact("Another", "+2")));
+  EXPECT_EQ(form.contact().name, "Ann");
+  EXPECT_EQ(form.contact().phone, "+2");
+}
+
+TEST(ContactText, holdsOnlyWhatTheCodePageHas) {
+  EXPECT_EQ(asContactText(QString::fromUtf8("Zoë € 李\t\U0001F600\n") + QChar(0) + "x"),
+            QString::fromUtf8("Zoë € ??x"));
+}
+
+TEST(ContactIndex, everyContactIsInOneReadOnlyFolder) {
+  SampleBook sample;
+  for (const char* name : {"ann", "Bob", "Álva", "4 You", "bea", "+Plus", "Zed", "øre", " Ann"})
+    sample.addContact(QString::fromUtf8(name));
+  sample.addGroup("Few", {"Zed", "ann", "Bob"});
+  const ContactIndex index(sample.book());
+  EXPECT_EQ(namesIn(index.contactsIn({Kind::Letter, "A"})), QStringList("ann"));
+  EXPECT_EQ(namesIn(index.contactsIn({Kind::Letter, "B"})), QStringList({"bea", "Bob"}));
+  EXPECT_EQ(namesIn(index.contactsIn({Kind::Letter, "C"})), QStringList());
+  EXPECT_EQ(namesIn(index.contactsIn({Kind::Other, {}})),
+            QStringList({" Ann", "+Plus", "4 You", QString::fromUtf8("Álva"), QString::fromUtf8("øre")}));
+  EXPECT_EQ(namesIn(index.contactsIn({Kind::Group, "Few"})), QStringList({"ann", "Bob", "Zed"}));
+  EXPECT_EQ(namesIn(index.contactsIn({Kind::Group, "None"})), QStringList());
+  EXPECT_EQ(index.contactsIn({Kind::AllContacts, {}}).size(), 9U);
+}
+
+TEST(ContactIndex, findsByNameNumbersAndExtraAndForgetsOnDemand) {
+  SampleBook sample;
+  sample.addContact("Ann", "+61491570156", "Y", "N", "+61255501234", {"Perth", "", "", "", "", "vip"});
+  sample.addContact("Bob", "+61491570157");
+  ContactIndex index(sample.book());
+  EXPECT_EQ(namesIn(index.find("57015")), QStringList({"Ann", "Bob"}));
+  EXPECT_EQ(namesIn(index.find("5550 VIP")), QStringList("Ann"));
+  EXPECT_EQ(namesIn(index.find("perth bob")), QStringList());
+  sample.addContact("Cid", "+61491570158");
+  EXPECT_EQ(namesIn(index.find("cid")), QStringList());
+  index.read();
+  EXPECT_EQ(namesIn(index.find("cid")), QStringList("Cid"));
+  index.forget();
+  EXPECT_TRUE(index.find("").empty());
+}
+
+TEST(GroupDraft, refusesNamesThatAreBlankOrTaken) {
+  FivePeople sample;
+  const struct {
+    const char* typed;
+    const char* problem;
+  } cases[] = {
+      {"  ", "Group name cannot be blank"},
+      {"Team", "A group with this name already exists."},
+      {" tEAM ", "A group with this name already exists."},
+      {"All Contacts", "A group with this name already exists."},
+      {" Teams ", ""},
+  };
+  for (const auto& [typed, problem] : cases)
+    EXPECT_EQ(GroupDraft(sample.book(), {}).takeName(typed), problem);
+  GroupDraft existing(sample.book(), "Team");
+  EXPECT_EQ(existing.takeName("other"), "");
+  EXPECT_EQ(existing.name(), "Team");
+  GroupDraft created(sample.book(), {});
+  EXPECT_EQ(created.takeName(" Teams "), "");
+  EXPECT_EQ(created.changes().group, "Teams");
+}
+
+TEST(GroupDraft, changesAreTheDifferenceAndTheBookStaysAsItIs) {
+  FivePeople sample;
+  const quint64 revision = sample.book().revision();
+  GroupDraft draft(sample.book(), "Team");
+  EXPECT_EQ(namesIn(draft.members()), QStringList({"Ann", "Cid", "eva"}));
+  draft.remove({"Cid"});
+  draft.setSelection(ContactSelection({sample.book().findContact("eva"), sample.book().findContact("bob")}));
+  draft.put(typedContact("New", "+1"));
+  draft.put(typedContact("Passing", "+2"));
+  draft.put(typedContact("eva", "+3"));
+  EXPECT_TRUE(draft.isContactNameTaken("New"));
+  draft.remove({"Passing"});
+  draft.setSelection(draft.selection());
+  EXPECT_EQ(namesIn(draft.members()), QStringList({"bob", "eva", "New"}));
+  EXPECT_EQ(draft.members()[1]->phone, "+3") << "the changed values are shown";
+  const GroupChanges changes = draft.changes();
+  EXPECT_FALSE(changes.isNew);
+  EXPECT_EQ(changes.added, QStringList({"bob", "New"}));
+  EXPECT_EQ(changes.removed, QStringList({"Ann", "Cid"}));
+  ASSERT_EQ(changes.contacts.size(), 2U);
+  EXPECT_EQ(changes.contacts[0].name + changes.contacts[1].name, "evaNew");
+  EXPECT_EQ(sample.book().revision(), revision);
+}
+
+/// The flow over a contact store on disk.
+class ContactsFlowTest : public test::DiskBook {
+ protected:
+  ContactsFlowTest() {
+    addContact("Ann");
+    addContact("Bob");
+    book_.createGroup("My Personal Contacts", {"Ann"});
+    book_.createGroup("Team", {"Ann", "Bob"});
+    notifier_.shown.clear();
+  }
+
+  ContactsFlow flow_{services()};
+  const ContactFolder team_{Kind::Group, "Team"};
+};
+
+TEST_F(ContactsFlowTest, tellsWhichFoldersTakeWhat) {
+  const ContactFolder others[] = {
+      {Kind::Root, {}}, {Kind::AllContacts, {}}, {Kind::Letter, "A"}, {Kind::Other, {}}};
+  for (const ContactFolder& folder : others) {
+    EXPECT_FALSE(flow_.acceptsNewContact(folder));
+    EXPECT_FALSE(flow_.acceptsImport(folder));
+    EXPECT_FALSE(flow_.hasProperties(folder));
+    EXPECT_FALSE(flow_.confirmGroupDeletion(folder));
+    EXPECT_EQ(
+        notifier_.takeShown(),
+        QStringList({"16 You must select a \"Group\" or \"My Personal Contacts\" Folder. Contacts can only "
+                     "be added into these Folders.",
+                     "16 You must select a \"Group\" or \"My Personal Contacts\" Folder. Contacts can only "
+                     "be imported into these Folders.",
+                     "64 Can only get properties on \"Group\" folders.",
+                     "16 Select a \"Group\" Folder that you wish to delete. You can only delete Groups that "
+                     "you created."}));
+  }
+  const ContactFolder personal{Kind::Group, "My Personal Contacts"};
+  EXPECT_TRUE(flow_.acceptsNewContact(personal) && flow_.acceptsImport(personal));
+  EXPECT_TRUE(flow_.hasProperties(personal));
+  EXPECT_TRUE(notifier_.takeShown().isEmpty());
+  EXPECT_FALSE(flow_.confirmGroupDeletion(personal));
+  notifier_.takeShown();
+  notifier_.answer = MessageResult::Yes;
+  EXPECT_TRUE(flow_.confirmGroupDeletion(team_));
+  EXPECT_EQ(notifier_.takeShown(),
+            QStringList("36 Are you sure you want to delete this group from your Address Book?"));
+}
+
+TEST_F(ContactsFlowTest, deletionInAGroupLeavesTheContactAndElsewhereTakesItFromAllGroups) {
+  EXPECT_FALSE(flow_.confirmDeletion(team_, 1));
+  EXPECT_FALSE(flow_.confirmDeletion({Kind::Letter, "A"}, 2));
+  EXPECT_EQ(notifier_.takeShown(),
+            QStringList({"36 Are you sure you want to remove this contact from the selected Group?",
+                         "36 Are you sure you want to delete this contact completely from your Address Book "
+                         "and all groups?\n\n(2 contacts are selected.)"}));
+  flow_.deleteContacts(team_, {"Bob"});
+  EXPECT_TRUE(book_.findContact("Bob"));
+  EXPECT_EQ(progress_.texts, QStringList("Adding/removing contacts in Group..."));
+  flow_.deleteContacts({Kind::Letter, "A"}, {"Ann"});
+  for (const bool fromDisk : {false, true}) {
+    if (fromDisk) reload();
+    EXPECT_EQ(memberNames("Team"), QStringList());
+    EXPECT_EQ(memberNames("My Personal Contacts"), QStringList());
+    EXPECT_TRUE(book_.findContact("Bob"));
+    EXPECT_FALSE(book_.findContact("Ann"));
+  }
+}
+
+TEST_F(ContactsFlowTest, writesNewContactsGroupsAndDifferences) {
+  flow_.addContact(typedContact("Cid", "+1"), "Team");
+  flow_.saveGroup({"New", true, {typedContact("Dan", "+2")}, {"Ann", "Dan"}, {}});
+  flow_.saveGroup({"Team", false, {typedContact("Ann", "+3")}, {"Dan"}, {"Bob"}});
+  flow_.deleteGroup("My Personal Contacts");
+  EXPECT_EQ(progress_.texts, QStringList({"Adding/removing contacts in Group...", "Creating the Group...",
+                                          "Adding/removing contacts in Group...", "Deleting the Group..."}));
+  for (const bool fromDisk : {false, true}) {
+    if (fromDisk) reload();
+    EXPECT_EQ(memberNames("Team"), QStringList({"Ann", "Cid", "Dan"}));
+    EXPECT_EQ(memberNames("New"), QStringList({"Ann", "Dan"}));
+    EXPECT_EQ(book_.findContact("Ann")->phone, "+3");
+  }
+  EXPECT_TRUE(notifier_.takeShown().isEmpty());
+}
+
+TEST_F(ContactsFlowTest, oneMessageForAStoreThatCannotBeWritten) {
+  loseFolder();
+  flow_.saveGroup({"New", true, {typedContact("Dan", "+2"), typedContact("Eva", "+2")}, {"Ann", "Dan"}, {}});
+  EXPECT_EQ(notifier_.takeShown().size(), 1);
+  EXPECT_EQ(memberNames("New"), QStringList({"Ann", "Dan"})) << "memory keeps what the user typed";
+  flow_.deleteContacts(team_, {"Ann", "Bob"});
+  EXPECT_EQ(notifier_.takeShown().size(), 1);
+  EXPECT_EQ(memberNames("Team"), QStringList("Bob"));
+}
+
+}  // namespace
+}  // namespace parlexo
