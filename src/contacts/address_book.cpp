@@ -85,7 +85,7 @@ bool AddressBook::createGroup(const QString& name, const QStringList& memberName
           QStringLiteral("There was a problem trying to create your group in the database Error=") + error);
   }
   for (const QString& memberName : memberNames)
-    if (findContact(memberName)) written = addMember(name, memberName, writeToFile && written) && written;
+    if (findContact(memberName)) written = addMember(name, memberName, writeToFile) && written;
   return written;
 }
 

@@ -63,8 +63,7 @@ class AddressBook {
   bool renameContact(const QString& oldName, const ContactRecord& contact);
 
   /// Creates a group with those of `memberNames` that are contacts; a group that exists gets them in
-  /// addition. After the first write that fails, and its message, the rest is done in memory alone; the
-  /// result is then false.
+  /// addition. Each write is tried, whatever became of those before; false when one failed.
   bool createGroup(const QString& name, const QStringList& memberNames = {}, bool writeToFile = true);
   /// Removes the group and its file. False when the file could not be removed.
   bool deleteGroup(const QString& name);

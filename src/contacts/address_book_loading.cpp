@@ -106,11 +106,9 @@ void AddressBook::addLoadedMember(GroupFile& group, const QByteArray& name, QByt
     orphans.append(name);
 }
 
-// What hinders one deletion hinders those after it: in a folder that may only be read, the program would
-// start with a message, or a minute's wait, for each of hundreds. The next start tries again.
+// One that can't be deleted does not hinder the others; the next start tries it again.
 void AddressBook::deleteOrphans(const QString& path, const QByteArrayList& orphans) {
-  for (const QByteArray& orphan : orphans)
-    if (!deleteName(path, orphan, memberRecordSize)) return;
+  for (const QByteArray& orphan : orphans) deleteName(path, orphan, memberRecordSize);
 }
 
 }  // namespace parlexo

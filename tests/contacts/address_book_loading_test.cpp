@@ -1,3 +1,5 @@
+#include <optional>
+
 #include <QDir>
 #include <gmock/gmock.h>
 
@@ -87,14 +89,22 @@ TEST_F(AddressBookLoading, marksMembersWithoutContactAsDeleted) {
   EXPECT_THAT(notifier_.shown, IsEmpty());
 }
 
-TEST_F(AddressBookLoading, tellsOnceAboutGroupThatCannotBeCleanedAndGoesOn) {
+TEST_F(AddressBookLoading, tellsOfEachMemberThatCannotBeCleanedAwayAndGoesOn) {
   const QByteArray orphans = packMember(QStringLiteral("Gone")) + packMember(QStringLiteral("Lost"));
   const QString team = QStringLiteral("Team.grp");
   put(team, orphans);
-  SharedFile otherReader;
-  ASSERT_EQ(otherReader.open(pathOf(team), SharedFile::Mode::Read), SharedFile::OpenResult::Opened);
+  put(QStringLiteral("Zebras.grp"), packMember(QStringLiteral("Gone")));
+  std::optional<SharedFile> otherReader(std::in_place);
+  ASSERT_EQ(otherReader->open(pathOf(team), SharedFile::Mode::Read), SharedFile::OpenResult::Opened);
+  // The other reader leaves while the second member waits.
+  waiter_.onPause = [&] {
+    if (notifier_.shown.size() == 1) otherReader.reset();
+  };
   EXPECT_TRUE(book_.loadAll(progress_));
-  EXPECT_EQ(readBytes(pathOf(team)), orphans);
+  EXPECT_EQ(readBytes(pathOf(team)),
+            orphans.first(memberRecordSize) + deletedRecord(packMember(QStringLiteral("Lost"))));
+  EXPECT_EQ(readBytes(pathOf(QStringLiteral("Zebras.grp"))),
+            deletedRecord(packMember(QStringLiteral("Gone"))));
   EXPECT_THAT(notifier_.shown,
               ElementsAre(QStringLiteral("16 There was a problem deleting a contact from your database. "
                                          "Error=[deleteItem:1 - Database access share error!]")));

@@ -121,6 +121,8 @@ TEST(AddressBookFailures, areToldAndMemoryChangesAllTheSame) {
   EXPECT_TRUE(book.contacts().empty() && book.findGroup(team)->members().empty());
   EXPECT_FALSE(book.deleteGroup(team));
   EXPECT_TRUE(book.groups().empty());
+  const QString addingMember =
+      QStringLiteral("16 There was a problem saving your contact to the database group. Error=");
   const QString readError = QStringLiteral("[readAllItems:2 - Database open error!]");
   EXPECT_THAT(
       notifier.shown,
@@ -129,8 +131,7 @@ TEST(AddressBookFailures, areToldAndMemoryChangesAllTheSame) {
               readError,
           QStringLiteral("16 There was a problem trying to create your group in the database "
                          "Error=[createDb:1 - Can't create the database!]"),
-          QStringLiteral("16 There was a problem saving your contact to the database group. Error=") +
-              readError,
+          addingMember + readError, addingMember + QStringLiteral("[writeItem:3 - Database open error!]"),
           QStringLiteral("16 There was a problem deleting a contact from your database. Error=") + readError,
           QStringLiteral("16 There was a problem deleting a contact from your database. Error=") + readError,
           QStringLiteral("16 There was a problem trying to delete your group from the database")));

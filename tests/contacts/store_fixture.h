@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <ostream>
 #include <utility>
 
 #include <QByteArray>
@@ -14,6 +15,11 @@
 #include "base/progress.h"
 #include "contacts/address_book.h"
 #include "contacts/item_database.h"
+
+/// Lets a failed comparison show texts as texts.
+inline void PrintTo(const QString& text, std::ostream* out) {
+  *out << '"' << text.toStdString() << '"';
+}
 
 namespace parlexo {
 
