@@ -54,9 +54,9 @@ class SharedFile {
   [[nodiscard]] bool remove();
 
  private:
-  OpenResult openOnce();
+  // Nothing when the file that was opened is not the one at the path any more.
+  std::optional<OpenResult> openOnce();
   OpenResult lock() const;
-  bool isStillAtPath() const;
 
   QByteArray path_;
   Mode mode_ = Mode::Read;

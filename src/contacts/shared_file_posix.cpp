@@ -61,6 +61,12 @@ int openOrCreate(const char* path, SharedFile::Mode mode) {
   return uninterrupted([=] { return ::open(path, flags | O_CREAT, newFilePermissions); });
 }
 
+// Whoever waited for the lock may hold a file that was meanwhile deleted; a write into it would be lost.
+bool isAt(const char* path, const struct stat& opened) {
+  struct stat atPath {};
+  return ::stat(path, &atPath) == 0 && opened.st_dev == atPath.st_dev && opened.st_ino == atPath.st_ino;
+}
+
 }  // namespace
 
 SharedFile::~SharedFile() {
@@ -74,8 +80,8 @@ SharedFile::OpenResult SharedFile::open(const QString& path, Mode mode) {
   // The system would end the path there and open another file.
   if (path_.contains('\0')) return OpenResult::Failed;
   for (int tries = 0; tries < replacementTries; ++tries) {
-    const OpenResult result = openOnce();
-    if (result != OpenResult::Opened || mode == Mode::Create || isStillAtPath()) return result;
+    const std::optional<OpenResult> result = openOnce();
+    if (result) return *result;
   }
   close();
   return OpenResult::SharingViolation;
@@ -86,33 +92,31 @@ void SharedFile::close() {
   handle_ = noHandle;
 }
 
-SharedFile::OpenResult SharedFile::openOnce() {
+std::optional<SharedFile::OpenResult> SharedFile::openOnce() {
   close();
   handle_ = openOrCreate(path_.constData(), mode_);
   if (handle_ == noHandle) return failure(errno);
-  struct stat status {};
-  if (::fstat(handle_, &status) != 0 || !S_ISREG(status.st_mode)) {
+  const OpenResult locked = lock();
+  if (locked != OpenResult::Opened) {
+    close();
+    return locked;
+  }
+  struct stat opened {};
+  if (::fstat(handle_, &opened) != 0 || !S_ISREG(opened.st_mode)) {
     close();
     return OpenResult::Failed;
   }
-  const OpenResult result = lock();
-  if (result != OpenResult::Opened) close();
-  return result;
+  if (mode_ != Mode::Create && !isAt(path_.constData(), opened)) return std::nullopt;
+  return OpenResult::Opened;
 }
 
 SharedFile::OpenResult SharedFile::lock() const {
   if (mode_ == Mode::Create) return OpenResult::Opened;
   const int kind = mode_ == Mode::Read ? LOCK_SH : LOCK_EX;
   const int result = uninterrupted([&] { return ::flock(handle_, kind | LOCK_NB); });
-  return result == 0 ? OpenResult::Opened : failure(errno);
-}
-
-// Whoever waited for the lock may hold a file that was meanwhile deleted; a write into it would be lost.
-bool SharedFile::isStillAtPath() const {
-  struct stat opened {};
-  struct stat atPath {};
-  if (::fstat(handle_, &opened) != 0 || ::stat(path_.constData(), &atPath) != 0) return false;
-  return opened.st_dev == atPath.st_dev && opened.st_ino == atPath.st_ino;
+  if (result == 0) return OpenResult::Opened;
+  // Where the lock is a server's, a refusal may come back in these words.
+  return errno == EACCES ? OpenResult::SharingViolation : failure(errno);
 }
 
 std::optional<qint64> SharedFile::size() const {
