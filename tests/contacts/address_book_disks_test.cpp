@@ -131,6 +131,7 @@ TEST_F(AddressBookOnDisk, folderThatGoesAwayGivesEachMessageAndMayComeBack) {
   EXPECT_FALSE(book_.addMember(circle, known));
   EXPECT_FALSE(book_.removeMember(circle, known));
   EXPECT_FALSE(book_.deleteGroup(circle));
+  EXPECT_FALSE(book_.findGroup(circle)) << "memory lets go of it";
   EXPECT_THAT(
       takeMessages(),
       ElementsAre(saving + QStringLiteral("[writeItem:3 - Database open error!]"), creating,

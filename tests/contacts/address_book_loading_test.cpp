@@ -120,15 +120,6 @@ TEST_F(AddressBookLoading, cutNamesMeetAgainAtTheNextStart) {
   EXPECT_TRUE(next.findGroup(QStringLiteral("G"))->contains(QString(80, u'n')));
 }
 
-TEST_F(AddressBookLoading, endsWithMessageWhenContactsCannotBeRead) {
-  ASSERT_TRUE(QDir(folder_.path()).mkdir(contactsFile));
-  EXPECT_FALSE(book_.loadAll(progress_));
-  EXPECT_THAT(notifier_.shown, ElementsAre(QStringLiteral(
-                                   "16 There was a problem connecting to the database. Please ensure you "
-                                   "can connect to the database storage location. "
-                                   "Error=[readAllItems:2 - Database open error!]")));
-}
-
 TEST_F(AddressBookLoading, ofMissingFolderTellsThePersonalGroupFirst) {
   const QString folder = folder_.filePath(QStringLiteral("missing"));
   AddressBook book(folder, database_, notifier_);

@@ -8,7 +8,6 @@
 namespace parlexo {
 namespace {
 
-using testing::ElementsAre;
 using testing::IsEmpty;
 
 ContactRecord contact(const QString& name, const QString& phone = {}) {
@@ -102,39 +101,6 @@ TEST_F(AddressBookChanges, inMemoryAloneLeaveTheFiles) {
   EXPECT_EQ(fileOf(contactsFile).size(), 2 * contactRecordSize);
   EXPECT_EQ(fileOf(teamFile_).size(), 2 * memberRecordSize);
   EXPECT_TRUE(fileOf(QStringLiteral("Ghosts.grp")).isNull());
-}
-
-TEST(AddressBookFailures, areToldAndMemoryChangesAllTheSame) {
-  QTemporaryDir folder;
-  ItemIndexCache cache;
-  FakeWaiter waiter;
-  ItemDatabase database(cache, waiter);
-  RecordingNotifier notifier;
-  AddressBook book(folder.filePath(QStringLiteral("missing")), database, notifier);
-
-  EXPECT_FALSE(book.saveContact(contact(ann)));
-  EXPECT_FALSE(book.createGroup(team, {ann}));
-  EXPECT_FALSE(book.addMember(team, ann));
-  EXPECT_TRUE(book.findGroup(team)->contains(ann));
-  cache.dropAllItemIndexes();
-  EXPECT_FALSE(book.deleteContact(ann));
-  EXPECT_TRUE(book.contacts().empty() && book.findGroup(team)->members().empty());
-  EXPECT_FALSE(book.deleteGroup(team));
-  EXPECT_TRUE(book.groups().empty());
-  const QString addingMember =
-      QStringLiteral("16 There was a problem saving your contact to the database group. Error=");
-  const QString readError = QStringLiteral("[readAllItems:2 - Database open error!]");
-  EXPECT_THAT(
-      notifier.shown,
-      ElementsAre(
-          QStringLiteral("16 There was a problem trying to save your contact to the database. Error=") +
-              readError,
-          QStringLiteral("16 There was a problem trying to create your group in the database "
-                         "Error=[createDb:1 - Can't create the database!]"),
-          addingMember + readError, addingMember + QStringLiteral("[writeItem:3 - Database open error!]"),
-          QStringLiteral("16 There was a problem deleting a contact from your database. Error=") + readError,
-          QStringLiteral("16 There was a problem deleting a contact from your database. Error=") + readError,
-          QStringLiteral("16 There was a problem trying to delete your group from the database")));
 }
 
 }  // namespace

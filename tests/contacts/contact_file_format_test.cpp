@@ -54,12 +54,6 @@ TEST(ContactFileFormat, longValuesFillTheirFieldsAndNothingElse) {
   EXPECT_EQ(packName(contact.name), QByteArray(80, 'n'));
 }
 
-TEST(ContactFileFormat, memberRecordIsTheNameAlone) {
-  const QByteArray expected = "\x01" + field("J\xF6rg", 255);
-  EXPECT_EQ(packMember(QStringLiteral("J\u00F6rg")), expected);
-  EXPECT_EQ(unpackMember(expected), "J\xF6rg");
-}
-
 TEST(GroupFileName, everyReplacementInBothDirections) {
   const QString plain = QStringLiteral(R"(-%\:/*?"'.<>|ö)");
   const QString encoded = QStringLiteral("---1-2-3-4-5-6-7-8-9-A-B|ö.grp");

@@ -229,13 +229,6 @@ TEST_F(ItemDatabaseFixture, unusableRecordsAndPathsGiveTheOperationsMessage) {
   EXPECT_EQ(waiter_.pauses(), 0);
 }
 
-TEST_F(ItemDatabaseFixture, exceptionOfVisitorIsReportedAsUnknown) {
-  writeBytes(path_, anna);
-  const auto fail = [](QByteArrayView) -> bool { throw 1; };
-  EXPECT_FALSE(database_.readAllItems(error_, recordSize, path_, fail, timeout));
-  EXPECT_EQ(error_, QStringLiteral("[readAllItems:6 - Unknown error!]"));
-}
-
 TEST_F(ItemDatabaseFixture, droppedIndexIsReadAgain) {
   EXPECT_TRUE(write(anna));
   EXPECT_TRUE(cache_.find(path_));

@@ -8,7 +8,6 @@
 #include <functional>
 
 #include "contacts/item_database.h"
-#include "tests/contacts/other_process.h"
 #include "tests/contacts/store_fixture.h"
 
 namespace parlexo {
@@ -84,24 +83,15 @@ TEST_F(WaitingFixture, operationsSucceedWhenTheOtherUserLeavesInTime) {
     waiter_.onPause = [&] {
       if (--left == 0) other.leave();
     };
+    const int over = waiter_.waitsOver;
     EXPECT_TRUE(operation());
     EXPECT_EQ(left, 0);
+    EXPECT_EQ(waiter_.waitsOver - over, 1);
   }
+  waiter_.onPause = nullptr;
+  EXPECT_TRUE(write());
+  EXPECT_EQ(waiter_.waitsOver, 3) << "only a wait that took place is over";
   EXPECT_EQ(error_, QString());
-}
-
-TEST_F(WaitingFixture, anotherProcessIsWaitedForAndItsEndIsNoticed) {
-  for (const int lock : {LOCK_EX, LOCK_SH}) {
-    OtherProcess other(path_, lock);
-    EXPECT_FALSE(write());
-    EXPECT_EQ(error_, QStringLiteral("[writeItem:2 - Database access share error!]"));
-    error_.clear();
-    waiter_.onPause = [&] { other.leave(); };
-    const int over = waiter_.waitsOver;
-    EXPECT_TRUE(write() && write());
-    EXPECT_EQ(waiter_.waitsOver - over, 1) << "only a wait that took place is over";
-    waiter_.onPause = nullptr;
-  }
 }
 
 TEST_F(WaitingFixture, readersComeInTogetherAndCreationNeverWaits) {
