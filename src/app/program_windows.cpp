@@ -33,7 +33,8 @@ void ProgramWindows::runMainWindow() {
   AddressBook& book = services_.stores.addressBook();
   CMainDlg window(mainTabs(
       {services_.state, services_.gateway, services_.notifier, services_.progress, *this, book,
-       services_.stores.statusLog(), services_.stores.statusFile(), services_.stores.templates()},
+       services_.stores.statusLog(), services_.stores.statusFile(), services_.stores.templates(),
+       services_.settings},
       {book, services_.notifier, services_.progress, services_.settings, services_.runner},
       {services_.state, services_.settings, services_.gateway, services_.notifier, services_.progress}));
   connectPages(window);

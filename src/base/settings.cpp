@@ -1,5 +1,7 @@
 #include "base/settings.h"
 
+#include <algorithm>
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QStandardPaths>
@@ -13,6 +15,7 @@ namespace {
 
 constexpr char organisation[] = "Parlexo";
 constexpr char application[] = "Parlexo Client";
+constexpr int widestColumn = 4000;  // pixels; a hand-edited value must not push a list's columns out of reach
 
 QString defaultProgramFolder() {
 #ifdef PARLEXO_USER_DATA_FOLDER
@@ -29,6 +32,10 @@ QString inFolder(const QString& folder, const QString& name) {
 // A text as it stands in the store. A hand-edited value with a comma that is not quoted comes back as a list.
 QString storedText(const QSettings& store, const QString& key) {
   return store.value(key).toStringList().join(QStringLiteral(", "));
+}
+
+QString columnWidthsKey(const QString& list) {
+  return QStringLiteral("Columns/") + list;
 }
 
 QString suppressionKey(int messageNumber) {
@@ -104,6 +111,20 @@ QByteArray Settings::windowGeometry() const {
 
 void Settings::setWindowGeometry(const QByteArray& geometry) {
   store_->setValue(QStringLiteral("Window/Geometry"), QString::fromLatin1(geometry.toBase64()));
+}
+
+QList<int> Settings::columnWidths(const QString& list) const {
+  QList<int> widths;
+  const QString stored = storedText(*store_, columnWidthsKey(list));
+  for (const QString& width : stored.split(QChar(u' '), Qt::SkipEmptyParts))
+    widths.append(std::clamp(width.toInt(), 0, widestColumn));
+  return widths;
+}
+
+void Settings::setColumnWidths(const QString& list, const QList<int>& widths) {
+  QStringList texts;
+  for (const int width : widths) texts.append(QString::number(width));
+  store_->setValue(columnWidthsKey(list), texts.join(QChar(u' ')));
 }
 
 QString Settings::cached(QString& cache, const QString& key, const QString& fallback) {

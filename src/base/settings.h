@@ -3,6 +3,7 @@
 #include <memory>
 
 #include <QByteArray>
+#include <QList>
 #include <QSettings>
 #include <QString>
 
@@ -53,6 +54,11 @@ class Settings {
   /// Where the main window was and how large, as its saveGeometry() told; empty when nobody ever said.
   [[nodiscard]] QByteArray windowGeometry() const;
   void setWindowGeometry(const QByteArray& geometry);
+
+  /// The widths in pixels that the user gave to the columns of the list called `list`; 0 for a column that
+  /// was left alone, and empty when all were.
+  [[nodiscard]] QList<int> columnWidths(const QString& list) const;
+  void setColumnWidths(const QString& list, const QList<int>& widths);
 
  private:
   QString cached(QString& cache, const QString& key, const QString& fallback);

@@ -53,6 +53,7 @@ TEST_F(SettingsTest, writtenValuesLieUnderTheirSectionsAndComeBackAtTheNextStart
     settings.setRememberedUser(u"zoë"_qs);
     settings.suppressMessage(146);
     settings.setWindowGeometry(QByteArray("\0geometry\xFF", 10));
+    settings.setColumnWidths(u"statusList"_qs, {130, 0, 90});
   }
   const QString stored = storedFile();
   for (const auto& line : {u"[Mobile]\nPhoneNumber=+61491570156\n"_qs, u"[Login]\nUser=zo"_qs,
@@ -66,6 +67,8 @@ TEST_F(SettingsTest, writtenValuesLieUnderTheirSectionsAndComeBackAtTheNextStart
   EXPECT_EQ(next.templatesFolder(), u"/srv/templates"_qs);
   EXPECT_EQ(next.rememberedUser(), u"zoë"_qs);
   EXPECT_EQ(next.windowGeometry(), QByteArray("\0geometry\xFF", 10));
+  EXPECT_EQ(next.columnWidths(u"statusList"_qs), QList<int>({130, 0, 90}));
+  EXPECT_EQ(next.columnWidths(u"otherList"_qs), QList<int>());
   EXPECT_TRUE(next.isMessageSuppressed(146));
   EXPECT_FALSE(next.isMessageSuppressed(147));
 }
@@ -73,12 +76,14 @@ TEST_F(SettingsTest, writtenValuesLieUnderTheirSectionsAndComeBackAtTheNextStart
 TEST_F(SettingsTest, handEditedValuesReadAsTheyWereMeant) {
   store(
       "[Path]\nContacts=/data/a, "
-      "b\nTemplates=\n[Settings]\nMessageDontShowAgain146=0\n[Service]\nHost=a.example\n");
+      "b\nTemplates=\n[Settings]\nMessageDontShowAgain146=0\n[Service]\nHost=a.example\n"
+      "[Columns]\nlist=-5 wide 999999 80\n");
   Settings settings(folder_.path());
   EXPECT_EQ(settings.contactsFolder(), u"/data/a, b"_qs);
   EXPECT_EQ(settings.templatesFolder(), path(u"templates"_qs));
   EXPECT_FALSE(settings.isMessageSuppressed(146));
   EXPECT_EQ(settings.serviceHost(), u"a.example"_qs);
+  EXPECT_EQ(settings.columnWidths(u"list"_qs), QList<int>({0, 0, 4000, 80}));
 }
 
 TEST_F(SettingsTest, folderIsReadOnceAndFollowsItsSetter) {

@@ -3,6 +3,7 @@
 #include <QTemporaryDir>
 
 #include "base/message_texts.h"
+#include "base/settings.h"
 #include "messaging/core/messaging_services.h"
 #include "messaging/core/status_file.h"
 #include "messaging/core/status_log.h"
@@ -16,12 +17,13 @@ namespace parlexo {
 class GatewayRig : public LoggedInRig {
  public:
   [[nodiscard]] MessagingServices services() {
-    return {state, gateway, notifier, progress(), renewal(), book.book(), log, file, templates};
+    return {state, gateway, notifier, progress(), renewal(), book.book(), log, file, templates, settings};
   }
 
   test::SampleBook book;
   StatusLog log;
   QTemporaryDir folder;
+  Settings settings{folder.path()};
   StatusFile file{folder.filePath(QStringLiteral("Status.xml"))};
   TemplateFolder templates{folder.path()};
 };

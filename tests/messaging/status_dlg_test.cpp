@@ -4,6 +4,7 @@
 #include <QClipboard>
 #include <QComboBox>
 #include <QHeaderView>
+#include <QLabel>
 #include <QMenu>
 #include <QTest>
 #include <QTreeView>
@@ -115,6 +116,39 @@ TEST_F(StatusPage, contextMenuHasOneEntryThatAsksForTheStatus) {
   menu->actions()[0]->trigger();
   menu->close();
   EXPECT_THAT(column(3), ElementsAre("Delivered to handset"));
+}
+
+TEST_F(StatusPage, dateHeadingSortsByTimeBesideTheFirstOrder) {
+  logMessage("new", "02/01/2026 10:00:10");
+  logMessage("old", "30/12/2025 10:00:40");
+  logMessage("newest", "02/01/2026 10:00:50");
+  open();
+  const auto first = column(1);
+  QHeaderView& header = *list_->header();
+  const QPoint dateHeading(header.sectionViewportPosition(0) + 10, header.height() / 2);
+  QTest::mouseClick(header.viewport(), Qt::LeftButton, {}, dateHeading);
+  EXPECT_THAT(column(1), ElementsAre("old", "new", "newest"));
+  list_->selectionModel()->select(list_->model()->index(0, 0),
+                                  QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+  getStatus();
+  EXPECT_THAT(column(3), ElementsAre("Delivered to handset", "Delivered to Gateway", "Delivered to Gateway"));
+  QTest::mouseClick(header.viewport(), Qt::LeftButton, {}, dateHeading);
+  QTest::mouseClick(header.viewport(), Qt::LeftButton, {}, dateHeading);
+  EXPECT_EQ(column(1), first);
+}
+
+TEST_F(StatusPage, countLineSaysWhatIsShownAndWhatTheFileWillLose) {
+  const auto count = [this] { return page_->findChild<QLabel*>("statusCount")->text(); };
+  logMessage("R0", "01/01/2026 10:00:01");
+  open();
+  EXPECT_EQ(count(), "1 message of this type, 1 in all.");
+  for (int i = 1; i < 1000; ++i) logMessage(qPrintable(QStringLiteral("R%1").arg(i)), "", "Fax");
+  page_->selectType("Fax");
+  EXPECT_EQ(count(), "999 messages of this type, 1000 in all.");
+  logMessage("R1000", "", "Fax");
+  page_->selectType("Voice");
+  EXPECT_EQ(count(),
+            "0 messages of this type, 1001 in all. Only 1000 of them are kept when the program ends.");
 }
 
 TEST_F(StatusPage, copyTakesTheSelectedRowsAsTheColumnsStand) {

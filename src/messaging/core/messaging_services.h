@@ -7,6 +7,7 @@ class Gateway;
 class Notifier;
 class Progress;
 class SessionRenewal;
+class Settings;
 class StatusFile;
 class StatusLog;
 class TemplateFolder;
@@ -24,6 +25,7 @@ struct MessagingServices {
   StatusLog& statusLog;
   StatusFile& statusFile;
   const TemplateFolder& templates;
+  Settings& settings;
 };
 
 }  // namespace parlexo

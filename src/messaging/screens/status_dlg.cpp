@@ -1,37 +1,34 @@
 #include "messaging/screens/status_dlg.h"
 
-#include <algorithm>
-#include <array>
-
 #include <QAction>
-#include <QClipboard>
 #include <QComboBox>
-#include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QHeaderView>
-#include <QItemSelectionModel>
 #include <QLabel>
 #include <QMenu>
 #include <QScopedValueRollback>
-#include <QShortcut>
 #include <QSignalBlocker>
-#include <QTreeView>
 #include <QVBoxLayout>
 
+#include "messaging/core/status_count.h"
 #include "messaging/core/status_query_flow.h"
-#include "ui/list_style.h"
+#include "ui/export_button.h"
+#include "ui/page_controls.h"
 #include "ui/picture_button.h"
+#include "ui/record_table.h"
 
 namespace parlexo {
 namespace {
 
-struct ColumnWidth {
-  int usual;
-  const char* widest;  // what must never be cut off; the longest international number has 15 digits
-};
-
-constexpr std::array<ColumnWidth, StatusListModel::columns> columnWidths{
-    {{120, "00/00/0000 00:00:00"}, {200, ""}, {100, "+000000000000000"}, {300, ""}}};
+// The longest international number has 15 digits.
+RecordTable::Form statusForm() {
+  return {QStringLiteral("statusList"),
+          QStringLiteral("Status"),
+          {{120, QStringLiteral("00/00/0000 00:00:00")},
+           {200, QString()},
+           {100, QStringLiteral("+000000000000000")},
+           {300, QString()}}};
+}
 
 }  // namespace
 
@@ -71,24 +68,12 @@ void CStatusDlg::createTypeBox() {
 }
 
 void CStatusDlg::createList() {
-  list_ = new QTreeView(this);
-  list_->setObjectName(QStringLiteral("statusList"));
-  list_->setAccessibleName(QStringLiteral("Status"));
-  list_->setModel(&model_);
-  list_->setRootIsDecorated(false);
-  list_->setUniformRowHeights(true);
-  list_->setAllColumnsShowFocus(true);
-  list_->setSelectionMode(QAbstractItemView::ExtendedSelection);
-  styleList(*list_);
-  QHeaderView& header = *list_->header();
-  header.setSectionsMovable(true);
-  header.setFirstSectionMovable(true);
-  int column = 0;
-  for (const auto& [usual, widest] : columnWidths)
-    header.resizeSection(column++, fittingColumnWidth(*list_, usual, QString::fromLatin1(widest)));
-  auto* copy = new QShortcut(QKeySequence(QKeySequence::Copy), list_);
-  copy->setContext(Qt::WidgetShortcut);
-  connect(copy, &QShortcut::activated, this, &CStatusDlg::copyRows);
+  list_ = new RecordTable(model_, statusForm(), services_.settings, this);
+  list_->header()->setSectionsMovable(true);
+  list_->header()->setFirstSectionMovable(true);
+  count_ = wrappedLabel({}, this);
+  count_->setObjectName(QStringLiteral("statusCount"));
+  exportButton_ = new ExportButton(*list_, services_.notifier, this);
 }
 
 void CStatusDlg::createMenu() {
@@ -101,14 +86,14 @@ void CStatusDlg::createMenu() {
 }
 
 void CStatusDlg::createLayout() {
-  auto* label = new QLabel(QStringLiteral("Message &Type:"), this);
-  label->setBuddy(type_);
   auto* top = new QHBoxLayout;
-  top->addWidget(label);
+  top->addWidget(labelFor(type_, QStringLiteral("Message &Type:")));
   top->addWidget(type_);
   top->addStretch(1);
   auto* bottom = new QHBoxLayout;
-  bottom->addStretch(1);
+  bottom->setSpacing(10);
+  bottom->addWidget(count_, 1);
+  bottom->addWidget(exportButton_);
   bottom->addWidget(getStatusButton_);
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(14, 10, 14, 12);
@@ -121,38 +106,20 @@ void CStatusDlg::createLayout() {
 void CStatusDlg::fill() {
   model_.fill(services_.statusLog, type_->currentText());
   shownRevision_ = services_.statusLog.revision();
-  if (model_.rowCount() > 0) list_->setCurrentIndex(model_.index(0, 0));
+  count_->setText(statusCountText(model_.rowCount(), services_.statusLog.entries().size()));
+  exportButton_->setSuggestedName(type_->currentText() + QStringLiteral(" status"));
+  list_->setCurrentIndex(list_->model()->index(0, 0));
 }
 
 void CStatusDlg::getStatus() {
   if (isAsking_) return;
   const QScopedValueRollback guard(isAsking_, true);
   QStringList receipts;
-  for (const int row : selectedRows()) receipts.append(model_.entryAt(row).receipt);
+  for (const int row : list_->selectedRecords()) receipts.append(model_.entryAt(row).receipt);
   StatusQueryFlow(services_).query(receipts, [this](const QString& receipt, const QString& status) {
     model_.setStatus(receipt, status);
     shownRevision_ = services_.statusLog.revision();
   });
-}
-
-void CStatusDlg::copyRows() const {
-  QStringList lines;
-  for (const int row : selectedRows()) lines.append(rowText(row));
-  if (!lines.isEmpty()) QGuiApplication::clipboard()->setText(lines.join(QChar(u'\n')));
-}
-
-std::vector<int> CStatusDlg::selectedRows() const {
-  std::vector<int> rows;
-  for (const QModelIndex& index : list_->selectionModel()->selectedRows()) rows.push_back(index.row());
-  std::sort(rows.begin(), rows.end());
-  return rows;
-}
-
-QString CStatusDlg::rowText(int row) const {
-  QStringList cells;
-  for (int place = 0; place < StatusListModel::columns; ++place)
-    cells.append(model_.index(row, list_->header()->logicalIndex(place)).data().toString());
-  return cells.join(QChar(u'\t'));
 }
 
 }  // namespace parlexo

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <vector>
-
 #include <QString>
 
 #include "messaging/core/messaging_services.h"
@@ -9,12 +7,14 @@
 #include "ui/gradient_page.h"
 
 class QComboBox;
+class QLabel;
 class QMenu;
-class QTreeView;
 
 namespace parlexo {
 
+class ExportButton;
 class PictureButton;
+class RecordTable;
 
 /// The status page: what was sent, one message type at a time, and the question to the gateway what became
 /// of it.
@@ -43,9 +43,6 @@ class CStatusDlg final : public GradientPage {
   void createLayout();
   void fill();
   void getStatus();
-  void copyRows() const;
-  [[nodiscard]] std::vector<int> selectedRows() const;
-  [[nodiscard]] QString rowText(int row) const;
 
   MessagingServices services_;
   StatusListModel model_;
@@ -53,8 +50,10 @@ class CStatusDlg final : public GradientPage {
   bool isAsking_ = false;
 
   QComboBox* type_ = nullptr;
-  QTreeView* list_ = nullptr;
+  RecordTable* list_ = nullptr;
+  QLabel* count_ = nullptr;
   QMenu* menu_ = nullptr;
+  ExportButton* exportButton_ = nullptr;
   PictureButton* getStatusButton_ = nullptr;
 };
 

@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "messaging/core/status_order.h"
+#include "ui/sorted_rows.h"
 
 namespace parlexo {
 namespace {
@@ -48,8 +49,12 @@ int StatusListModel::columnCount(const QModelIndex& parent) const {
 }
 
 QVariant StatusListModel::data(const QModelIndex& index, int role) const {
-  if (!index.isValid() || role != Qt::DisplayRole) return {};
-  return fieldOf(entryAt(index.row()), static_cast<Column>(index.column()));
+  if (!index.isValid()) return {};
+  const StatusEntry& entry = entryAt(index.row());
+  const auto column = static_cast<Column>(index.column());
+  if (role == Qt::DisplayRole) return fieldOf(entry, column);
+  if (role == recordSortRole && column == Column::Date) return static_cast<double>(statusInstant(entry.date));
+  return {};
 }
 
 QVariant StatusListModel::headerData(int section, Qt::Orientation orientation, int role) const {

@@ -1,0 +1,53 @@
+#include "ui/sorted_rows.h"
+
+#include <cmath>
+#include <cstddef>
+
+namespace parlexo {
+
+SortedRows::SortedRows(QAbstractItemModel& source, QObject* parent) : QSortFilterProxyModel(parent) {
+  setDynamicSortFilter(false);
+  connect(&source, &QAbstractItemModel::modelAboutToBeReset, this, &SortedRows::forgetKeys);
+  connect(&source, &QAbstractItemModel::dataChanged, this, &SortedRows::forgetKeys);
+  setSourceModel(&source);
+}
+
+void SortedRows::sort(int column, Qt::SortOrder order) {
+  forgetKeys();
+  // Without a column a descending order would turn the model's own upside down.
+  QSortFilterProxyModel::sort(column, column < 0 ? Qt::AscendingOrder : order);
+}
+
+bool SortedRows::lessThan(const QModelIndex& left, const QModelIndex& right) const {
+  const Key& a = keyAt(left);
+  const Key& b = keyAt(right);
+  if (a.isText != b.isText) return b.isText;
+  if (a.number != b.number) return a.number < b.number;
+  return a.text.compare(b.text, Qt::CaseInsensitive) < 0;
+}
+
+SortedRows::Key SortedRows::keyOf(const QModelIndex& cell) {
+  const QVariant given = cell.data(recordSortRole);
+  if (given.isValid()) return {false, given.toDouble(), {}};
+  QString text = cell.data().toString();
+  bool isNumber = false;
+  const double number = text.toDouble(&isNumber);
+  // "nan" is a number to Qt, but it has no place in an order.
+  if (isNumber && std::isfinite(number)) return {false, number, std::move(text)};
+  return {true, 0.0, std::move(text)};
+}
+
+const SortedRows::Key& SortedRows::keyAt(const QModelIndex& cell) const {
+  const QAbstractItemModel& source = *sourceModel();
+  const auto rows = static_cast<std::size_t>(source.rowCount());
+  if (keys_.size() != rows || keyedColumn_ != cell.column()) {
+    keys_.clear();
+    keys_.reserve(rows);
+    for (int row = 0; row < source.rowCount(); ++row)
+      keys_.push_back(keyOf(source.index(row, cell.column())));
+    keyedColumn_ = cell.column();
+  }
+  return keys_[static_cast<std::size_t>(cell.row())];
+}
+
+}  // namespace parlexo

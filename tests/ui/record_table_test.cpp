@@ -1,0 +1,204 @@
+#include "ui/record_table.h"
+
+#include <array>
+#include <memory>
+#include <vector>
+
+#include <QClipboard>
+#include <QFile>
+#include <QGuiApplication>
+#include <QHeaderView>
+#include <QTemporaryDir>
+#include <QTest>
+#include <gmock/gmock.h>
+
+#include "base/notifier.h"
+#include "base/settings.h"
+#include "ui/export_button.h"
+#include "ui/sorted_rows.h"
+
+namespace parlexo {
+namespace {
+
+using namespace Qt::StringLiterals;
+using testing::ElementsAre;
+
+class ErrorNotifier final : public Notifier {
+ public:
+  MessageResult show(const QString& text, unsigned /*style*/, int /*suppressibleNumber*/) override {
+    errors << text;
+    return MessageResult::Ok;
+  }
+
+  QStringList errors;
+};
+
+/// A list that can be reset as a whole.
+class Sheet final : public QAbstractTableModel {
+ public:
+  using Rows = std::vector<std::array<const char*, 3>>;
+
+  explicit Sheet(Rows rows) : rows_(std::move(rows)) {}
+
+  [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override {
+    return parent.isValid() ? 0 : int(rows_.size());
+  }
+  [[nodiscard]] int columnCount(const QModelIndex& parent = {}) const override {
+    return parent.isValid() ? 0 : 3;
+  }
+  [[nodiscard]] QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override {
+    const QString text = QString::fromUtf8(rows_[index.row()][index.column()]);
+    if (role == Qt::DisplayRole) return text;
+    // The last column sorts by its length.
+    return role == recordSortRole && index.column() == 2 ? QVariant(double(text.size())) : QVariant();
+  }
+  [[nodiscard]] QVariant headerData(int section, Qt::Orientation /*orientation*/, int role) const override {
+    return role == Qt::DisplayRole ? QVariant(QStringList{"Key", "Value", "Note"}[section]) : QVariant();
+  }
+
+  void fill(Rows rows) {
+    beginResetModel();
+    rows_ = std::move(rows);
+    endResetModel();
+  }
+  void change(int row, const char* key) {
+    rows_[row][0] = key;
+    Q_EMIT dataChanged(index(row, 0), index(row, 0));
+  }
+
+ private:
+  Rows rows_;
+};
+
+class RecordTableTest : public testing::Test {
+ protected:
+  void open() {
+    table_ = std::make_unique<RecordTable>(sheet_, form_, settings_);
+    table_->resize(600, 200);
+    table_->show();
+    (void)QTest::qWaitForWindowExposed(table_.get());
+  }
+  void clickHeading(int column) {
+    QHeaderView& header = *table_->header();
+    QTest::mouseClick(header.viewport(), Qt::LeftButton, {},
+                      {header.sectionViewportPosition(column) + 10, header.height() / 2});
+  }
+  [[nodiscard]] std::vector<std::string> keys() const {
+    std::vector<std::string> keys;
+    for (int row = 0; row < table_->model()->rowCount(); ++row)
+      keys.push_back(table_->model()->index(row, 0).data().toString().toStdString());
+    return keys;
+  }
+
+  QTemporaryDir folder_;
+  Settings settings_{folder_.path()};
+  Sheet sheet_{
+      {{"10", "x", "ccc"}, {"b", "=1", "a"}, {"nan", "y", ""}, {"-2.5", "Z", "bb"}, {"A", "y", "d"}}};
+  RecordTable::Form form_{u"sheet"_qs, u"Sheet"_qs, {{60, {}}, {80, {}}, {100, {}}}};
+  std::unique_ptr<RecordTable> table_;
+};
+
+TEST_F(RecordTableTest, headingSortsTurnsRoundAndGivesTheFirstOrderBack) {
+  open();
+  const auto given = keys();
+  EXPECT_THAT(given, ElementsAre("10", "b", "nan", "-2.5", "A"));
+  clickHeading(0);
+  EXPECT_THAT(keys(), ElementsAre("-2.5", "10", "A", "b", "nan"));
+  clickHeading(0);
+  EXPECT_THAT(keys(), ElementsAre("nan", "b", "A", "10", "-2.5"));
+  clickHeading(0);
+  EXPECT_EQ(keys(), given);
+  clickHeading(2);
+  EXPECT_THAT(keys(), ElementsAre("nan", "b", "A", "-2.5", "10")) << "by the number behind the text";
+  clickHeading(1);
+  EXPECT_THAT(keys(), ElementsAre("b", "10", "nan", "A", "-2.5")) << "equal ones in the first order";
+}
+
+TEST_F(RecordTableTest, orderOutlivesAResetAndRowsStayWhileTheyChange) {
+  open();
+  clickHeading(0);
+  sheet_.fill({{"3", "", ""}, {"1", "", ""}, {"2", "", ""}});
+  EXPECT_THAT(keys(), ElementsAre("1", "2", "3"));
+  sheet_.change(1, "9");
+  EXPECT_THAT(keys(), ElementsAre("9", "2", "3"));
+  clickHeading(0);
+  EXPECT_THAT(keys(), ElementsAre("9", "3", "2"));
+}
+
+TEST_F(RecordTableTest, selectionCopyAndExportFollowWhatIsShown) {
+  open();
+  clickHeading(0);
+  table_->header()->moveSection(2, 0);
+  table_->selectRecord(1);
+  EXPECT_THAT(table_->selectedRecords(), ElementsAre(1));
+  table_->selectionModel()->select(table_->model()->index(0, 0),
+                                   QItemSelectionModel::Select | QItemSelectionModel::Rows);
+  EXPECT_THAT(table_->selectedRecords(), ElementsAre(3, 1));
+  sheet_.change(1, "b\r\nc\td");
+  table_->copySelected();
+  EXPECT_EQ(QGuiApplication::clipboard()->text(), u"bb\t-2.5\tZ\na\tb  c d\t=1"_qs);
+  EXPECT_EQ(table_->toCsv().bytes(),
+            "\xEF\xBB\xBFNote,Key,Value\r\nbb,'-2.5,Z\r\nccc,10,x\r\nd,A,y\r\n"
+            "a,\"b\r\nc\td\",'=1\r\n,nan,y\r\n");
+  table_->clearSelection();
+  table_->copySelected();
+  EXPECT_TRUE(QGuiApplication::clipboard()->text().startsWith(u"bb"_qs))
+      << "nothing selected, nothing copied";
+}
+
+TEST_F(RecordTableTest, rowSelectedBeforeTheListIsShownIsInSight) {
+  Sheet::Rows many(300, {"1", "", ""});
+  sheet_.fill(std::move(many));
+  table_ = std::make_unique<RecordTable>(sheet_, form_, settings_);
+  table_->selectRecord(299);
+  table_->resize(300, 150);
+  table_->show();
+  (void)QTest::qWaitForWindowExposed(table_.get());
+  const QRect last = table_->visualRect(table_->model()->index(299, 0));
+  EXPECT_TRUE(table_->viewport()->rect().contains(last.center()));
+}
+
+TEST_F(RecordTableTest, widthsOfTheUserLastAndAllOthersFollowTheFont) {
+  open();
+  const int usual = table_->columnWidth(0);
+  EXPECT_GE(usual, 60);
+  table_->resize(700, 200);
+  EXPECT_EQ(settings_.columnWidths(u"sheet"_qs), QList<int>()) << "the last column follows the window";
+  table_->header()->resizeSection(1, 133);
+  open();
+  EXPECT_EQ(table_->columnWidth(1), 133);
+  form_.columns[0].widest = QString(40, u'W');
+  open();
+  EXPECT_GT(table_->columnWidth(0), usual);
+  EXPECT_EQ(table_->columnWidth(1), 133);
+}
+
+TEST_F(RecordTableTest, exportWritesWhereTheUserSaysAndTellsWhyItCannot) {
+  open();
+  ErrorNotifier notifier;
+  ExportButton button(*table_, notifier);
+  button.setSuggestedName(u"My list"_qs);
+  QString path;
+  QString suggested;
+  button.setPathAsker([&](QWidget*, const QString& name) {
+    suggested = name;
+    return path;
+  });
+  button.click();
+  EXPECT_EQ(suggested, u"My list"_qs);
+  path = folder_.filePath(u"list.csv"_qs);
+  button.click();
+  QFile file(path);
+  ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+  EXPECT_EQ(file.readAll(), table_->toCsv().bytes());
+  EXPECT_TRUE(notifier.errors.isEmpty());
+  path = folder_.filePath(u"nowhere/list.csv"_qs);
+  button.click();
+  ASSERT_EQ(notifier.errors.size(), 1);
+  EXPECT_TRUE(notifier.errors[0].contains(path));
+  sheet_.fill({});
+  EXPECT_FALSE(button.isEnabled());
+}
+
+}  // namespace
+}  // namespace parlexo
