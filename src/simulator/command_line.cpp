@@ -67,6 +67,14 @@ QString readFault(CommandLine& line, const QString& value) {
   return parsed.problem;
 }
 
+QString readUploadRate(CommandLine& line, const QString& value) {
+  constexpr int most = 1'000'000'000;
+  const std::optional<int> rate = readNumber(value, 0, most);
+  if (!rate) return QStringLiteral("needs a number of bytes");
+  line.options.uploadRate = *rate;
+  return {};
+}
+
 QString readProtocolVersion(CommandLine& line, const QString& value) {
   bool isNumber = false;
   line.options.protocolVersion = value.toInt(&isNumber);
@@ -80,6 +88,7 @@ constexpr std::array optionRules = {
     OptionRule{"--fault", readFault},
     OptionRule{"--latency",
                [](CommandLine& line, const QString& value) { return readInto(line.options.latency, value); }},
+    OptionRule{"--upload-rate", readUploadRate},
     OptionRule{"--session-lifetime",
                [](CommandLine& line, const QString& value) {
                  return readInto(line.options.sessionLifetime, value);

@@ -18,6 +18,7 @@ Options
   --account USER:PASSWORD[:BALANCE[:nosenderid]]
                            an account; may be given several times (demo:demo1234:100)
   --latency MS             added to every answer (0)
+  --upload-rate N          bytes a second that each connection takes in, 0 for no limit (0)
   --session-lifetime MS    idle time after which a session has expired (3600000)
   --delivery-step MS       time from each delivery state to the next (5000)
   --news TEXT              what getNews answers

@@ -1,10 +1,14 @@
 #include "simulator/http_connection.h"
 
+#include <algorithm>
+
 namespace parlexo::simulator {
 
 namespace {
 
 constexpr qint64 readAheadBytes = 64 * 1024;
+constexpr std::chrono::milliseconds pacePeriod{20};
+constexpr int slowReadAhead = 16 * 1024;
 // How long a refused client may go on sending before it is cut off: closing at once would reset the
 // connection and with it the refusal that is still on its way.
 constexpr std::chrono::milliseconds refusalGrace{1000};
@@ -25,6 +29,24 @@ HttpConnection::HttpConnection(qintptr descriptor, const HttpHooks& hooks, std::
     deleteLater();
 }
 
+void HttpConnection::slowDown(int bytesPerSecond) {
+  ration_ = std::max<qint64>(1, bytesPerSecond * pacePeriod.count() / 1000);
+  // What the system takes in on its own would look to the client as if it had arrived.
+  socket_.setReadBufferSize(slowReadAhead);
+  socket_.setSocketOption(QAbstractSocket::ReceiveBufferSizeSocketOption, slowReadAhead);
+  socket_.disconnect(this);
+  connect(&socket_, &QTcpSocket::disconnected, this, &QObject::deleteLater);
+  connect(&pace_, &QTimer::timeout, this, &HttpConnection::read);
+  pace_.start(pacePeriod);
+}
+
+QByteArray HttpConnection::takeIn() {
+  if (ration_ == 0) return socket_.readAll();
+  QByteArray bytes = socket_.read(ration_);
+  if (!bytes.isEmpty()) deadline_.start(patience_);
+  return bytes;
+}
+
 void HttpConnection::read() {
   if (phase_ == Phase::Answering) return;
   if (phase_ == Phase::Ending) {
@@ -33,7 +55,7 @@ void HttpConnection::read() {
   }
   // First what an earlier read brought, so that many requests sent at once don't pile up here.
   auto state = parser_.feed({});
-  if (state == HttpRequestParser::State::NeedsMore) state = parser_.feed(socket_.readAll());
+  if (state == HttpRequestParser::State::NeedsMore) state = parser_.feed(takeIn());
   switch (state) {
     case HttpRequestParser::State::NeedsMore:
       if (parser_.takeContinueWish()) socket_.write("HTTP/1.1 100 Continue\r\n\r\n");

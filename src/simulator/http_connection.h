@@ -18,10 +18,14 @@ class HttpConnection final : public QObject {
   HttpConnection(qintptr descriptor, const HttpHooks& hooks, std::chrono::milliseconds patience,
                  QObject* parent);
 
+  /// From now on takes in at most `bytesPerSecond`, as over a slow line.
+  void slowDown(int bytesPerSecond);
+
  private:
   enum class Phase { Reading, Answering, Ending };
 
   void read();
+  [[nodiscard]] QByteArray takeIn();
   void answer();
   void send(const HttpReply& reply, bool keepAlive);
   void refuse(int status);
@@ -30,6 +34,8 @@ class HttpConnection final : public QObject {
   std::chrono::milliseconds patience_;
   QTcpSocket socket_;
   QTimer deadline_;
+  QTimer pace_;
+  qint64 ration_ = 0;  ///< bytes to take in with each beat of pace_
   HttpRequestParser parser_;
   Phase phase_ = Phase::Reading;
 };

@@ -13,8 +13,8 @@ constexpr qsizetype openConnections = 512;
 
 }  // namespace
 
-HttpServer::HttpServer(HttpHooks hooks, std::chrono::milliseconds patience)
-    : hooks_(std::move(hooks)), patience_(patience) {
+HttpServer::HttpServer(HttpHooks hooks, std::chrono::milliseconds patience, int uploadRate)
+    : hooks_(std::move(hooks)), patience_(patience), uploadRate_(uploadRate) {
   setListenBacklogSize(waitingConnections);
 }
 
@@ -28,7 +28,9 @@ void HttpServer::incomingConnection(qintptr descriptor) {
   }
   // The connection is its own owner from here on: it deletes itself when the peer is gone, or goes with the
   // server.
-  new HttpConnection(descriptor, hooks_, patience_, this);  // NOLINT(cppcoreguidelines-owning-memory)
+  auto* connection =
+      new HttpConnection(descriptor, hooks_, patience_, this);  // NOLINT(cppcoreguidelines-owning-memory)
+  if (uploadRate_ > 0) connection->slowDown(uploadRate_);
 }
 
 }  // namespace parlexo::simulator

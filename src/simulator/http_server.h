@@ -20,7 +20,9 @@ struct HttpHooks {
 class HttpServer final : public QTcpServer {
  public:
   /// A connection that does not bring a whole request, or does not take its reply, within `patience` is cut.
-  HttpServer(HttpHooks hooks, std::chrono::milliseconds patience);
+  /// With an `uploadRate` other than 0 each connection takes in so many bytes a second, and patience is
+  /// reckoned from the last of them.
+  HttpServer(HttpHooks hooks, std::chrono::milliseconds patience, int uploadRate = 0);
 
  protected:
   void incomingConnection(qintptr descriptor) override;
@@ -28,6 +30,7 @@ class HttpServer final : public QTcpServer {
  private:
   HttpHooks hooks_;
   std::chrono::milliseconds patience_;
+  int uploadRate_;
 };
 
 }  // namespace parlexo::simulator

@@ -48,7 +48,7 @@ class Simulator::Engine {
 std::unique_ptr<HttpServer> Simulator::Engine::newServer() {
   HttpHooks hooks{[this] { return service_.refusesConnection(); },
                   [this](const HttpRequest& request) { return service_.answer(request); }};
-  return std::make_unique<HttpServer>(std::move(hooks), options_.requestTimeout);
+  return std::make_unique<HttpServer>(std::move(hooks), options_.requestTimeout, options_.uploadRate);
 }
 
 bool Simulator::Engine::start() {

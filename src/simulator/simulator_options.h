@@ -56,6 +56,7 @@ struct Options {
   std::chrono::milliseconds sessionLifetime{3'600'000};  ///< idle time after which a session has expired
   std::chrono::milliseconds deliveryStep{5'000};         ///< time from each delivery state to the next
   std::chrono::milliseconds requestTimeout{30'000};  ///< longest wait for a whole request, and between two
+  int uploadRate = 0;                                ///< bytes a second taken in; 0 for no limit
   int scheduleDaysAhead = 365;
   int maxFileSize = 2 * 1024 * 1024;  ///< bytes of a fax or voice file
   int maxMobileFileSize = 50 * 1024;  ///< bytes of an MMS or WAP file
