@@ -2,6 +2,8 @@
 
 #include <QString>
 
+#include "base/transfer.h"
+
 namespace parlexo {
 
 /// The one progress box of the program, seen from code that knows no window.
@@ -15,6 +17,8 @@ class Progress {
   /// Changes the label of a showing box; an empty text puts the default label back. Without a box nothing
   /// happens. Lets the box repaint, at most every 30 ms.
   virtual void setText(const QString& text) = 0;
+  /// Shows below the label how far `transfer` has come, until the box goes. Without a box nothing happens.
+  virtual void follow(const Transfer& /*transfer*/) {}
   /// Removes the box; harmless when there is none.
   virtual void hide() = 0;
   /// The label of a showing box; a null string when there is none.

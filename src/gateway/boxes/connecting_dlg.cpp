@@ -4,6 +4,7 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPainter>
+#include <QVBoxLayout>
 
 #include "gateway/boxes/animated_picture.h"
 #include "ui/input_block.h"
@@ -19,11 +20,21 @@ CConnectingDlg::CConnectingDlg(QWidget* parent) : GradientDialog(parent) {
   label_ = new QLabel(defaultText(), this);
   label_->setObjectName(QStringLiteral("text"));
   label_->setTextFormat(Qt::PlainText);
+  detail_ = new QLabel(this);
+  detail_->setObjectName(QStringLiteral("detail"));
+  detail_->setTextFormat(Qt::PlainText);
+  detail_->hide();
+  auto* lines = new QVBoxLayout;
+  lines->setSpacing(2);
+  lines->addStretch(1);
+  lines->addWidget(label_);
+  lines->addWidget(detail_);
+  lines->addStretch(1);
   auto* row = new QHBoxLayout(this);
   row->setContentsMargins(12, 8, 14, 8);
   row->setSpacing(12);
   row->addWidget(createConnectingAnimation(this));
-  row->addWidget(label_, 1);
+  row->addLayout(lines, 1);
   cancel_ = new PictureButton(QStringLiteral("Cancel"), this);
   cancel_->setObjectName(QStringLiteral("cancel"));
   cancel_->hide();
@@ -43,6 +54,12 @@ QString CConnectingDlg::text() const {
 
 void CConnectingDlg::setText(const QString& text) {
   label_->setText(text.isEmpty() ? defaultText() : text);
+  growToFit();
+}
+
+void CConnectingDlg::setDetail(const QString& detail) {
+  detail_->setText(detail);
+  detail_->setVisible(!detail.isEmpty());
   growToFit();
 }
 

@@ -24,6 +24,9 @@ class CConnectingDlg final : public GradientDialog {
   /// stays quiet while numbers in the text count up.
   void setText(const QString& text);
 
+  /// A second, quieter line below the text; not there while empty. Changes nothing about the text.
+  void setDetail(const QString& detail);
+
   /// Shows the Cancel button. A press, or Escape, emits cancelled() and makes the button dull.
   void offerCancel();
 
@@ -43,6 +46,7 @@ class CConnectingDlg final : public GradientDialog {
   void growToFit();
 
   QLabel* label_ = nullptr;
+  QLabel* detail_ = nullptr;
   PictureButton* cancel_ = nullptr;
 };
 

@@ -6,11 +6,14 @@
 #include <QEventLoop>
 #include <QScreen>
 
+#include "base/data_size.h"
+
 namespace parlexo {
 
 namespace {
 
 constexpr qint64 repaintPause = 30;  // milliseconds
+constexpr std::chrono::milliseconds transferPause{100};
 
 // Window managers put a frameless box without an owner into a corner.
 void centreOnScreen(QWidget& box) {
@@ -55,6 +58,18 @@ void ProgressBox::setText(const QString& text) {
   handleWaitingEvents();
 }
 
+void ProgressBox::follow(const Transfer& transfer) {
+  if (!box_) return;
+  transferTimer_.disconnect();
+  QObject::connect(&transferTimer_, &QTimer::timeout, box_, [this, transfer] { showTransfer(transfer); });
+  transferTimer_.start(transferPause);
+}
+
+void ProgressBox::showTransfer(const Transfer& transfer) {
+  box_->setDetail(
+      QStringLiteral("%1 of %2 sent").arg(dataSizeText(transfer.done()), dataSizeText(transfer.total())));
+}
+
 void ProgressBox::hide() {
   if (!box_) return;
   // What the user pressed during blocking work still waits in the queue; it has to meet the block.
@@ -82,6 +97,7 @@ std::chrono::milliseconds ProgressBox::sinceFirstExchange() {
 }
 
 void ProgressBox::remove() {
+  transferTimer_.stop();
   QPointer<QWidget> parent = box_ ? box_->parentWidget() : nullptr;
   const bool wasActive = box_ && box_->isActiveWindow();
   delete box_.data();

@@ -6,6 +6,7 @@
 
 #include <QElapsedTimer>
 #include <QPointer>
+#include <QTimer>
 
 #include "base/progress.h"
 #include "gateway/boxes/connecting_dlg.h"
@@ -22,6 +23,7 @@ class ProgressBox final : public Progress {
 
   void show(const QString& text = {}) override;
   void setText(const QString& text) override;
+  void follow(const Transfer& transfer) override;
   void hide() override;
   [[nodiscard]] QString text() const override;
 
@@ -37,12 +39,14 @@ class ProgressBox final : public Progress {
   [[nodiscard]] std::chrono::milliseconds sinceFirstExchange();
 
  private:
+  void showTransfer(const Transfer& transfer);
   void remove();
 
   std::unique_ptr<InputBlock> block_;
   QPointer<CConnectingDlg> box_;
   QElapsedTimer sinceRepaint_;
   QElapsedTimer exchanging_;
+  QTimer transferTimer_;
   bool isOffered_ = false;
   bool isCancelled_ = false;
 };

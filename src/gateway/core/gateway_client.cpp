@@ -1,5 +1,6 @@
 #include "gateway/core/gateway_client.h"
 
+#include <algorithm>
 #include <cstddef>
 #include <span>
 
@@ -27,11 +28,17 @@ void installProxy(struct ::soap& context, const GatewayAccess& access) {
   }
 }
 
+/// What `part` of `whole` makes of `total`.
+std::int64_t shareOf(std::int64_t total, std::size_t part, std::size_t whole) {
+  return static_cast<std::int64_t>(static_cast<double>(total) * static_cast<double>(part) /
+                                   static_cast<double>(whole));
+}
+
 }  // namespace
 
 GatewayClient::GatewayClient(const GatewayAccess& access)
     : endpoint(access.endpoint.c_str()),
-      patience_{access.timeouts.connect, access.timeouts.silence, nullptr} {
+      patience_{access.timeouts.connect, access.timeouts.silence, nullptr, nullptr} {
   soap = protocol::newClientContext(patience_);
   if (soap) installProxy(*soap, access);
 }
@@ -46,11 +53,18 @@ void GatewayClient::watch(const CancelFlag& cancel) {
   patience_.isCancelled = [cancel] { return cancel.isRaised(); };
 }
 
+void GatewayClient::follow(const Transfer& transfer) {
+  patience_.onSent = [this, transfer, sent = std::size_t{0}](std::size_t bytes) mutable {
+    sent = std::min(sent + bytes, requestLength_);
+    if (requestLength_ > 0) transfer.setDone(shareOf(transfer.total(), sent, requestLength_));
+  };
+}
+
 template <class Request, class Response>
 int GatewayClient::call(Request&& request, Response& response) {
   response = Response{};
   if (!soap) return noContext;
-  return protocol::call(soap, endpoint, request, response, &isOutcomeOpen_);
+  return protocol::call(soap, endpoint, request, response, &isOutcomeOpen_, &requestLength_);
 }
 
 int GatewayClient::sessionStart(const std::string& sUser, const std::string& sPassword,

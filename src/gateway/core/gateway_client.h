@@ -1,9 +1,11 @@
 #pragma once
 
 #include <atomic>
+#include <cstddef>
 #include <string>
 
 #include "base/call_runner.h"
+#include "base/transfer.h"
 #include "gateway/core/gateway_access.h"
 #include "gateway/protocol/records.h"
 #include "gateway/protocol/soap_context.h"
@@ -24,6 +26,10 @@ class GatewayClient {
   /// From now on a raised `cancel` ends a running call within about 100 ms, with an error as its result
   /// (a name look-up excepted).
   void watch(const CancelFlag& cancel);
+
+  /// From now on `transfer` tells how much of the file in a request has gone out, of which the file is taken
+  /// to be nearly all.
+  void follow(const Transfer& transfer);
 
   /// Whether a request has gone out whole and no reply has told what became of it: the gateway may have
   /// carried it out. Any thread may ask, also during a call.
@@ -114,6 +120,7 @@ class GatewayClient {
 
   protocol::IoPatience patience_;
   std::atomic<bool> isOutcomeOpen_ = false;
+  std::size_t requestLength_ = 0;
 };
 
 }  // namespace parlexo

@@ -26,8 +26,9 @@ int sendRequest(::soap& context, const Exchange& exchange) {
   if ((context.mode & SOAP_IO_LENGTH) != 0 && writeEnvelope(context, element, exchange.request)) {
     return context.error;
   }
-  if (soap_end_count(&context) ||
-      soap_connect(&context, exchange.endpoint ? exchange.endpoint : defaultEndpoint, action.c_str()) ||
+  if (soap_end_count(&context)) return context.error;
+  if (exchange.requestLength) *exchange.requestLength = context.count;
+  if (soap_connect(&context, exchange.endpoint ? exchange.endpoint : defaultEndpoint, action.c_str()) ||
       writeEnvelope(context, element, exchange.request) || soap_end_send(&context)) {
     return context.error;
   }

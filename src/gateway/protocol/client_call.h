@@ -1,6 +1,7 @@
 #pragma once
 
 #include <atomic>
+#include <cstddef>
 #include <string_view>
 #include <type_traits>
 
@@ -21,6 +22,8 @@ struct Exchange {
   /// True from the moment that the system has taken the whole request until a reply tells what became of it:
   /// in between, and for good when none comes, the gateway may carry it out without our knowing. May be null.
   std::atomic<bool>* outcomeIsOpen = nullptr;
+  /// Set before the first byte goes out: the bytes of the request without its HTTP header. May be null.
+  std::size_t* requestLength = nullptr;
 };
 
 /// Sends the request and reads the response on `context`; the connection is closed when this returns. Returns
@@ -33,7 +36,7 @@ struct Exchange {
 /// cleared on failure; its strings live as long as the context. `request` is only read.
 template <class Request, class Response>
 [[nodiscard]] int call(::soap* context, const char* endpoint, Request& request, Response& response,
-                       std::atomic<bool>* outcomeIsOpen = nullptr) {
+                       std::atomic<bool>* outcomeIsOpen = nullptr, std::size_t* requestLength = nullptr) {
   const auto& operation = operationWith<Request>();
   static_assert(std::is_same_v<typename std::remove_cvref_t<decltype(operation)>::Response, Response>,
                 "the response record belongs to another operation");
@@ -42,7 +45,8 @@ template <class Request, class Response>
                                            .operation = operation.name,
                                            .request = operation.fields(request),
                                            .response = operation.fields(response),
-                                           .outcomeIsOpen = outcomeIsOpen});
+                                           .outcomeIsOpen = outcomeIsOpen,
+                                           .requestLength = requestLength});
   if (result != 0) response = Response{};
   return result;
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <functional>
 
 struct soap;
@@ -12,6 +13,8 @@ struct IoPatience {
   int silenceSeconds = 300;  ///< longest wait for the next byte, sending and receiving
   /// Polled every 50 ms while the context waits; true ends the exchange with an error. May be empty.
   std::function<bool()> isCancelled;
+  /// Called with the number of bytes each time that the system has taken some of the request. May be empty.
+  std::function<void(std::size_t)> onSent;
 };
 
 /// A context for one exchange with the gateway: the runtime's default modes, the gateway's namespaces, limits

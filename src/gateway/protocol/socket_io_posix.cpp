@@ -22,6 +22,9 @@ namespace {
 using Clock = std::chrono::steady_clock;
 
 constexpr int pollSliceMs = 50;
+/// What may wait unsent in the system. Its own measure is megabytes: a whole file would be gone at once as
+/// far as anybody can see, and a cancelled one would go on.
+constexpr int unsentBytes = 64 * 1024;
 
 struct AddressListDeleter {
   void operator()(addrinfo* list) const { freeaddrinfo(list); }
@@ -79,6 +82,7 @@ int connectTo(const addrinfo& address, Clock::time_point deadline, const IoPatie
     // The request goes out in several pieces; the last one should not wait for an acknowledgement.
     const int on = 1;
     setsockopt(socket, IPPROTO_TCP, TCP_NODELAY, &on, sizeof on);
+    setsockopt(socket, IPPROTO_TCP, TCP_NOTSENT_LOWAT, &unsentBytes, sizeof unsentBytes);
     return socket;
   }
   close(socket);
@@ -109,6 +113,7 @@ int sendBytes(::soap* context, const char* bytes, size_t count) {
       context->errnum = errno;
       return SOAP_EOF;
     }
+    if (patience.onSent) patience.onSent(static_cast<std::size_t>(sent));
     bytes += sent;
     count -= static_cast<size_t>(sent);
   }

@@ -1,0 +1,30 @@
+#include "base/data_size.h"
+
+#include <QLocale>
+
+namespace parlexo {
+
+namespace {
+
+constexpr std::int64_t kilo = 1024;
+
+QString inUnits(std::int64_t bytes, std::int64_t unit, const QString& name) {
+  QString number = QString::number(static_cast<double>(bytes) / static_cast<double>(unit), 'f', 1);
+  if (number.endsWith(QLatin1String(".0"))) number.chop(2);
+  return number + u' ' + name;
+}
+
+}  // namespace
+
+QString dataSizeText(std::int64_t bytes) {
+  if (bytes < kilo) return exactSizeText(bytes);
+  if (bytes < kilo * kilo) return inUnits(bytes, kilo, QStringLiteral("KB"));
+  return inUnits(bytes, kilo * kilo, QStringLiteral("MB"));
+}
+
+QString exactSizeText(std::int64_t bytes) {
+  const QString number = QLocale(QLocale::English).toString(static_cast<qlonglong>(bytes));
+  return number + (bytes == 1 ? QStringLiteral(" byte") : QStringLiteral(" bytes"));
+}
+
+}  // namespace parlexo
