@@ -101,6 +101,13 @@ QString text(TextId id) {
   Q_UNREACHABLE();
 }
 
+QString withText(TextId id, const QString& value) {
+  const QString placeholder = QStringLiteral("%s");
+  QString result = text(id);
+  const auto place = result.indexOf(placeholder);
+  return place < 0 ? result : result.replace(place, placeholder.size(), value);
+}
+
 QString withNumber(const QString& text, int number) {
   static const QRegularExpression placeholder(QStringLiteral("%[id]"));
   QString result = text;

@@ -60,4 +60,7 @@ enum class TextId : int {
   return withNumber(text(id), number);
 }
 
+/// The text with the given number, its first "%s" replaced by `value`.
+[[nodiscard]] QString withText(TextId id, const QString& value);
+
 }  // namespace parlexo

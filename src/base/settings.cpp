@@ -105,6 +105,14 @@ void Settings::suppressMessage(int messageNumber) {
   store_->setValue(suppressionKey(messageNumber), 1);
 }
 
+QString Settings::fileFolder() const {
+  return storedText(*store_, QStringLiteral("Path/Files"));
+}
+
+void Settings::setFileFolder(const QString& folder) {
+  store_->setValue(QStringLiteral("Path/Files"), folder);
+}
+
 QByteArray Settings::windowGeometry() const {
   return QByteArray::fromBase64(storedText(*store_, QStringLiteral("Window/Geometry")).toLatin1());
 }

@@ -51,6 +51,10 @@ class Settings {
   [[nodiscard]] bool isMessageSuppressed(int messageNumber) const;
   void suppressMessage(int messageNumber);
 
+  /// The folder from which a file was last chosen to be sent ("Path"/"Files"); empty when none ever was.
+  [[nodiscard]] QString fileFolder() const;
+  void setFileFolder(const QString& folder);
+
   /// Where the main window was and how large, as its saveGeometry() told; empty when nobody ever said.
   [[nodiscard]] QByteArray windowGeometry() const;
   void setWindowGeometry(const QByteArray& geometry);

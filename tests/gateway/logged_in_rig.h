@@ -1,6 +1,7 @@
 #pragma once
 
 #include <chrono>
+#include <functional>
 #include <string>
 #include <thread>
 #include <vector>
@@ -33,6 +34,7 @@ class ImpatientRunner final : public CallRunner {
   }
 
   [[nodiscard]] bool run(Exchange exchange) override {
+    if (onRun) onRun();
     const CancelFlag flag;
     std::thread user;
     if (untilCancelled_ > 0 && --untilCancelled_ == 0) {
@@ -46,6 +48,8 @@ class ImpatientRunner final : public CallRunner {
     return true;
   }
 
+  std::function<void()> onRun;  ///< called before each exchange
+
  private:
   int untilCancelled_ = 0;
   std::chrono::milliseconds after_{};
@@ -55,7 +59,7 @@ class ImpatientRunner final : public CallRunner {
 /// journal of what the user sees in which order.
 class LoggedInRig {
  public:
-  LoggedInRig() {
+  explicit LoggedInRig(const simulator::Options& options = {}) : simulator(options) {
     if (!simulator.start()) qFatal("the simulator does not start: %s", qPrintable(simulator.errorText()));
     state.gateway.endpoint = simulator.site() + QStringLiteral("/ccx/onlineCommunication");
     logIn();
@@ -84,10 +88,12 @@ class LoggedInRig {
   }
 
   [[nodiscard]] Progress& progress() { return journalProgress_; }
+  /// The transfers that the progress box was to show.
+  [[nodiscard]] const std::vector<Transfer>& transfers() const { return journalProgress_.followed; }
   [[nodiscard]] SessionRenewal& renewal() { return journalRenewal_; }
 
   std::vector<std::string> journal;
-  simulator::Simulator simulator{{}};
+  simulator::Simulator simulator;
   RunState state;
   ImpatientRunner runner;
   Gateway gateway{state, runner, GatewayTimeouts{2, 1}};
@@ -99,7 +105,10 @@ class LoggedInRig {
     explicit JournalProgress(std::vector<std::string>& journal) : journal_(journal) {}
     void show(const QString& /*text*/) override { journal_.emplace_back("(box)"); }
     void setText(const QString& /*text*/) override {}
+    void follow(const Transfer& transfer) override { followed.push_back(transfer); }
     void hide() override { journal_.emplace_back("(no box)"); }
+
+    std::vector<Transfer> followed;
 
    private:
     std::vector<std::string>& journal_;

@@ -16,6 +16,8 @@ namespace parlexo {
 /// Everything that messaging works with.
 class GatewayRig : public LoggedInRig {
  public:
+  using LoggedInRig::LoggedInRig;
+
   [[nodiscard]] MessagingServices services() {
     return {state, gateway, notifier, progress(), renewal(), book.book(), log, file, templates, settings};
   }

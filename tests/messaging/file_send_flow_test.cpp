@@ -1,0 +1,280 @@
+#include "messaging/core/file_send_flow.h"
+
+#include <thread>
+
+#include <QCoreApplication>
+#include <QCryptographicHash>
+#include <QDir>
+#include <QFile>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "tests/messaging/gateway_rig.h"
+#include "tests/messaging/memory_refusal.h"
+
+namespace parlexo {
+namespace {
+
+using simulator::FaultKind;
+using testing::ElementsAre;
+using testing::IsEmpty;
+using testing::SizeIs;
+
+constexpr int limitOfFax = 2 * 1024 * 1024;
+constexpr int limitOfMobile = 50 * 1024;
+
+/// What a user meets on one of the pages.
+struct Page {
+  FileKind kind;
+  const char* operation;
+  const char* typeWord;
+  int limit;
+  bool usesSenderId;
+  const char* noFile;
+  const char* cannotOpen;
+  const char* tooLarge;
+  const char* noMemory;
+  const char* unreached;
+  const char* refused;
+  const char* warning;
+  const char* success;
+};
+
+const Page pages[] = {
+    {FileKind::Fax, "sendFax", "Fax", limitOfFax, true, "No fax file has been selected. Select a fax file.",
+     "Error opening Fax file:", "Fax files must be 2MB or less",
+     "Error sending fax file. Insufficient memory", "Error sending fax file.",
+     "An error occured while sending the fax file. Error code: 12",
+     "Warning - The server was unable to send your fax file to the following numbers\n+61491570199\n",
+     "Fax message successfully delivered to the server."},
+    {FileKind::Mms, "sendMms", "MMS", limitOfMobile, true,
+     "No MMS media file has been selected. Select a MMS media file.", "Error opening media file :",
+     "Error media files must be 50Kb or less", "Error sending media file. Insufficient memory", unreachable,
+     "An error occured while sending the media file. Error code: 12",
+     "Warning - The server was unable to send your media file to the following numbers\n+61491570199\n",
+     "Media message successfully delivered to the server."},
+    {FileKind::Wap, "sendWap", "WAP", limitOfMobile, false,
+     "No WAP media file has been selected. Select a WAP media file.", "Error opening WAP file :",
+     "WAP files must be 50Kb or less", "Error sending WAP file. Insufficient memory", unreachable,
+     "An error occured while sending the WAP file. Error code: 12",
+     "Warning - The server was unable to send your WAP file to the following numbers\n+61491570199\n",
+     "WAP message successfully delivered to the server."},
+};
+
+void PrintTo(const Page& page, std::ostream* out) {
+  *out << page.typeWord;
+}
+
+class FileSending : public testing::TestWithParam<Page>, protected GatewayRig {
+ protected:
+  explicit FileSending(const simulator::Options& options = {}) : GatewayRig(options) {
+    state.gateway.maxFileSize = limitOfFax;
+    state.gateway.maxFileSizeMobile = limitOfMobile;
+  }
+
+  static QByteArray content(int size) {
+    QByteArray bytes(size, '\0');
+    for (int i = 0; i < size; ++i) bytes[i] = static_cast<char>(i * 7 + i / 251);
+    return bytes;
+  }
+  QString write(const QString& name, const QByteArray& bytes) {
+    QFile written(folder.filePath(name));
+    if (!written.open(QIODevice::WriteOnly) || written.write(bytes) != bytes.size()) qFatal("no disk");
+    return written.fileName();
+  }
+  FileDraft draftOf(const QString& path, const QString& numbers = QStringLiteral("+61491570156")) {
+    return {path, {}, QStringLiteral("somebody"), numbers, {}};
+  }
+  FileDraft goodDraft() { return draftOf(write(QStringLiteral("good.bin"), content(1000))); }
+  SendOutcome send(const FileDraft& draft) { return FileSendFlow(services(), GetParam().kind).send(draft); }
+  std::string cannotOpen(const QString& path) { return GetParam().cannotOpen + path.toStdString(); }
+};
+
+TEST_P(FileSending, acceptedFileArrivesByteForByteAndIsLogged) {
+  const QByteArray bytes = content(40'000);
+  FileDraft draft = draftOf(write(QString::fromUtf8("Gr\u00FC\u00DFe \u4F60.jpg"), bytes),
+                            QStringLiteral("+61491570156,+60312345678"));
+  draft.note = QString::fromUtf8("Caf\u00E9 & <b>\n\u20AC");
+  const QDateTime later = QDateTime::currentDateTimeUtc().addDays(1);
+  draft.schedule = {QStringLiteral("tomorrow"), later.toString(QStringLiteral("yyyy/MM/dd HH:mm:ss"))};
+  state.senderId = QStringLiteral("+61491570999");
+  EXPECT_EQ(send(draft), SendOutcome::Delivered);
+  EXPECT_THAT(journal, ElementsAre("(box)", "(no box)", GetParam().success));
+  EXPECT_EQ(notifier.shown.back().style, message_style::information);
+  QStringList expected{"scheduleMessageDisable", "scheduleMessageEnable", "setSmsSenderId",
+                       GetParam().operation};
+  if (!GetParam().usesSenderId) expected.removeAt(2);
+  EXPECT_EQ(operations(), expected);
+
+  const simulator::AcceptedMessage message = simulator.messages().at(0);
+  EXPECT_EQ(wordFor(message.type), GetParam().typeWord);
+  EXPECT_EQ(message.fileName, QString::fromUtf8("Gr\u00FC\u00DFe ?.jpg"));
+  EXPECT_EQ(message.fileSha256, QCryptographicHash::hash(bytes, QCryptographicHash::Sha256).toHex());
+  EXPECT_EQ(message.text, GetParam().kind == FileKind::Fax ? QString() : draft.note);
+  EXPECT_EQ(message.senderId, GetParam().usesSenderId ? state.senderId : QString());
+  EXPECT_EQ(message.schedule->toSecsSinceEpoch(), later.toSecsSinceEpoch());
+  ASSERT_THAT(log.entries(), SizeIs(2));
+  const StatusEntry& entry = log.entries().at(message.receipts.at(0));
+  EXPECT_EQ(entry.type, GetParam().typeWord);
+  EXPECT_EQ(entry.status, "Delivered to Gateway");
+  EXPECT_TRUE(QFile::exists(file.path()));
+}
+
+TEST_P(FileSending, failedNumbersAreListedAndLoggedToo) {
+  FileDraft draft = goodDraft();
+  draft.numbersList = QStringLiteral("+61491570156,+61491570199");
+  EXPECT_EQ(send(draft), SendOutcome::PartlyFailed);
+  EXPECT_EQ(notifier.shown.back().style, message_style::information);
+  EXPECT_THAT(notifier.takeTexts(), ElementsAre(GetParam().warning));
+  EXPECT_THAT(log.entries(), SizeIs(2));
+}
+
+TEST_P(FileSending, whatIsMissingStopsBeforeAnyCallInThePagesOrder) {
+  const QString large = write(QStringLiteral("large"), content(GetParam().limit + 1));
+  FileDraft draft;
+  draft.note = QString(10'241, QChar(u'x'));
+  state.balanceIsZero = true;
+  const auto expectRefusal = [&](const std::string& message, unsigned style = message_style::stop) {
+    EXPECT_EQ(send(draft), SendOutcome::NotSent);
+    EXPECT_EQ(notifier.shown.back().style, style);
+    EXPECT_THAT(notifier.takeTexts(), ElementsAre(testing::StartsWith(message)));
+  };
+  expectRefusal(GetParam().noFile);
+  draft.path = large;
+  expectRefusal("The contacts list is blank. Select contacts to send message to.");
+  draft.displayList = QStringLiteral("Ann [+1]");
+  if (GetParam().kind == FileKind::Mms) expectRefusal("Description must be 10Kb or less");
+  draft.note.chop(1);
+  expectRefusal("Your account balance is zero.\r\n", message_style::information);
+  state.balanceIsZero = false;
+  expectRefusal(GetParam().tooLarge);
+  EXPECT_THAT(operations(), IsEmpty());
+}
+
+TEST_P(FileSending, limitOfTheLocatorIsTheLargestLength) {
+  EXPECT_EQ(send(draftOf(write(QStringLiteral("full"), content(GetParam().limit)))), SendOutcome::Delivered);
+  EXPECT_EQ(simulator.messages().at(0).fileSize, GetParam().limit);
+  notifier.shown.clear();
+  state.gateway = {state.gateway.latestClientVersion, {}, 0, 0, 0, state.gateway.endpoint};
+  EXPECT_EQ(send(draftOf(write(QStringLiteral("byte"), "x"))), SendOutcome::NotSent);
+  EXPECT_THAT(notifier.takeTexts(), ElementsAre(GetParam().tooLarge));
+  EXPECT_EQ(send(draftOf(write(QStringLiteral("empty"), ""))), SendOutcome::NotSent);
+  EXPECT_EQ(operations().back(), GetParam().operation) << "an empty file is the gateway's to judge";
+}
+
+TEST_P(FileSending, whatIsNoWritableFileCannotBeOpened) {
+  const QString link = folder.filePath(QStringLiteral("dangling"));
+  ASSERT_TRUE(QFile::link(folder.filePath(QStringLiteral("nowhere")), link));
+  const QString missing = folder.filePath(QStringLiteral("missing"));
+  // The system lets nobody, root included, write to a program that runs.
+  const QString unwritable = QCoreApplication::applicationFilePath();
+  for (const QString& path : {missing, link, folder.path(), QStringLiteral("/dev/zero"), unwritable}) {
+    EXPECT_EQ(send(draftOf(path)), SendOutcome::NotSent);
+    EXPECT_EQ(notifier.shown.back().style, message_style::stop);
+    EXPECT_THAT(notifier.takeTexts(), ElementsAre(cannotOpen(path)));
+  }
+  EXPECT_FALSE(QFile::exists(missing)) << "opening must not create it";
+  EXPECT_THAT(operations(), IsEmpty());
+}
+
+TEST_P(FileSending, fileThatChangesWhileItWaitsIsNotSentUnlessItIsOnlyRemoved) {
+  const FileDraft draft = goodDraft();
+  for (const int size : {999, 1001}) {
+    runner.onRun = [&] { QFile::resize(draft.path, size); };
+    EXPECT_EQ(send(draft), SendOutcome::NotSent) << size;
+    EXPECT_THAT(notifier.takeTexts(), ElementsAre(cannotOpen(draft.path))) << size;
+    QFile::resize(draft.path, 1000);
+  }
+  EXPECT_FALSE(operations().contains(GetParam().operation));
+  runner.onRun = [&] { QFile::remove(draft.path); };
+  EXPECT_EQ(send(draft), SendOutcome::Delivered);
+  EXPECT_EQ(simulator.messages().at(0).fileSize, 1000);
+}
+
+TEST_P(FileSending, lackOfMemoryIsToldAfterTheCallsBefore) {
+  const FileDraft draft = draftOf(write(QStringLiteral("big"), content(limitOfMobile)));
+  const auto outcome = [&] {
+    const MemoryRefusal refusal(limitOfMobile);
+    return send(draft);
+  }();
+  EXPECT_EQ(outcome, SendOutcome::NotSent);
+  EXPECT_EQ(notifier.shown.back().style, message_style::stop);
+  EXPECT_THAT(notifier.takeTexts(), ElementsAre(GetParam().noMemory));
+  EXPECT_EQ(operations(), QStringList("scheduleMessageDisable"));
+  EXPECT_EQ(send(draft), SendOutcome::Delivered);
+}
+
+TEST_P(FileSending, failureOfTheSendIsToldOnceAndNothingIsRepeated) {
+  const FileDraft draft = goodDraft();
+  const struct {
+    FaultKind kind;
+    int number;
+    SendOutcome outcome;
+    const char* message;
+  } samples[] = {
+      {FaultKind::Close, 0, SendOutcome::Unanswered, GetParam().unreached},
+      {FaultKind::HttpError, 0, SendOutcome::NotSent, GetParam().unreached},
+      {FaultKind::Code, 12, SendOutcome::NotSent, GetParam().refused},
+      {FaultKind::Code, 7, SendOutcome::NotSent, "Your Session has expired. Please log back in"},
+  };
+  for (const auto& sample : samples) {
+    simulator.clearFaults();
+    misbehave(sample.kind, QString::fromLatin1(GetParam().operation), sample.number);
+    EXPECT_EQ(send(draft), sample.outcome) << sample.message;
+    EXPECT_EQ(notifier.shown.back().style, message_style::stop);
+    EXPECT_THAT(notifier.takeTexts(), ElementsAre(sample.message));
+  }
+  EXPECT_THAT(log.entries(), IsEmpty());
+  EXPECT_EQ(journal.back(), "(login)");
+  EXPECT_EQ(operations().count(QString::fromLatin1(GetParam().operation)), 4);
+}
+
+INSTANTIATE_TEST_SUITE_P(, FileSending, testing::ValuesIn(pages),
+                         [](const auto& page) { return std::string(page.param.typeWord); });
+
+class SlowFileSending : public FileSending {
+ protected:
+  SlowFileSending() : FileSending(slowly()) {}
+
+  static simulator::Options slowly() {
+    simulator::Options options;
+    options.uploadRate = 1'000'000;
+    return options;
+  }
+
+  const FileDraft draft_ = draftOf(write(QStringLiteral("long.tif"), content(700'000)));
+};
+
+TEST_P(SlowFileSending, transferIsFollowedWhileTheFileGoesOut) {
+  std::vector<std::int64_t> seen;
+  std::atomic<bool> over = false;
+  std::thread watcher([&] {
+    while (!over) {
+      std::this_thread::sleep_for(std::chrono::milliseconds(50));
+      if (!transfers().empty()) seen.push_back(transfers().front().done());
+    }
+  });
+  const SendOutcome outcome = send(draft_);
+  over = true;
+  watcher.join();
+  EXPECT_EQ(outcome, SendOutcome::Delivered);
+  EXPECT_TRUE(std::is_sorted(seen.begin(), seen.end()));
+  const auto isHalfway = [](std::int64_t done) { return done > 100'000 && done < 600'000; };
+  EXPECT_GE(std::count_if(seen.begin(), seen.end(), isHalfway), 2);
+  EXPECT_EQ(transfers().front().done(), 700'000);
+  EXPECT_EQ(transfers().front().total(), 700'000);
+}
+
+TEST_P(SlowFileSending, cancelledHalfwayItHasNotBeenSent) {
+  runner.cancel(2, std::chrono::milliseconds(300));
+  EXPECT_EQ(send(draft_), SendOutcome::NotSent);
+  EXPECT_LT(transfers().front().done(), 600'000);
+  EXPECT_THAT(notifier.takeTexts(), ElementsAre(GetParam().unreached));
+  EXPECT_THAT(simulator.messages(), IsEmpty());
+}
+
+INSTANTIATE_TEST_SUITE_P(, SlowFileSending, testing::Values(pages[0]),
+                         [](const auto& page) { return std::string(page.param.typeWord); });
+
+}  // namespace
+}  // namespace parlexo

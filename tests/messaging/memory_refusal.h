@@ -1,0 +1,16 @@
+#pragma once
+
+#include <cstddef>
+
+namespace parlexo {
+
+/// While it lives, requests for memory of `bytes`, or up to 16 more, are refused; all others are granted.
+class MemoryRefusal {
+ public:
+  explicit MemoryRefusal(std::size_t bytes);
+  ~MemoryRefusal();
+  MemoryRefusal(const MemoryRefusal&) = delete;
+  MemoryRefusal& operator=(const MemoryRefusal&) = delete;
+};
+
+}  // namespace parlexo
