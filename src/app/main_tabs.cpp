@@ -4,9 +4,12 @@
 #include "account/screens/settings_dlg.h"
 #include "addressbook/screens/contacts_page.h"
 #include "app/empty_page.h"
+#include "messaging/screens/fax_dlg.h"
+#include "messaging/screens/mms_dlg.h"
 #include "messaging/screens/send_page.h"
 #include "messaging/screens/sms_dlg.h"
 #include "messaging/screens/status_dlg.h"
+#include "messaging/screens/wap_dlg.h"
 
 namespace parlexo {
 
@@ -37,9 +40,9 @@ std::vector<MainTab> mainTabs(const MessagingServices& services,
                               const AccountServices& accountServices) {
   return {
       {QStringLiteral("SMS"), [services] { return new CQuillonSMSDlg(services); }},
-      tabToCome(QStringLiteral("WAP")),
-      tabToCome(QStringLiteral("MMS")),
-      tabToCome(QStringLiteral("Fax")),
+      {QStringLiteral("WAP"), [services] { return new CQuillonWAPDlg(services); }},
+      {QStringLiteral("MMS"), [services] { return new CQuillonMMSDlg(services); }},
+      {QStringLiteral("Fax"), [services] { return new CQuillonFaxDlg(services); }},
       {QStringLiteral("Receive Messages"),
        [accountServices] { return new CReceiveMessagesDlg(accountServices.state); }},
       {QStringLiteral("Contacts"), [addressBookServices] { return new CContactsPage(addressBookServices); }},

@@ -1,12 +1,14 @@
 #include "messaging/screens/message_edit.h"
 
 #include <algorithm>
+#include <functional>
 
 #include <QKeyEvent>
 #include <QMimeData>
 #include <QScopedValueRollback>
 #include <QTextCursor>
 #include <QTextDocument>
+#include <QUrl>
 
 namespace parlexo {
 namespace {
@@ -62,6 +64,14 @@ void MessageEdit::keyPressEvent(QKeyEvent* event) {
   // A key that finds no room is dropped before it gets into the text, or undo would collect steps that
   // change nothing.
   if (room() > 0 || !entersText(*event)) QPlainTextEdit::keyPressEvent(event);
+}
+
+// A file's address is no text that anybody wants to send; the page may know what to do with a dropped file.
+bool MessageEdit::canInsertFromMimeData(const QMimeData* source) const {
+  const QList<QUrl> urls = source->urls();
+  const bool isFiles =
+      !urls.isEmpty() && std::all_of(urls.begin(), urls.end(), std::mem_fn(&QUrl::isLocalFile));
+  return !isFiles && QPlainTextEdit::canInsertFromMimeData(source);
 }
 
 void MessageEdit::insertFromMimeData(const QMimeData* source) {

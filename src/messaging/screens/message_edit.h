@@ -30,6 +30,7 @@ class MessageEdit final : public QPlainTextEdit {
   void truncate(int units);
 
  protected:
+  [[nodiscard]] bool canInsertFromMimeData(const QMimeData* source) const override;
   void keyPressEvent(QKeyEvent* event) override;
   void insertFromMimeData(const QMimeData* source) override;
 

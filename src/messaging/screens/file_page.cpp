@@ -1,0 +1,195 @@
+#include "messaging/screens/file_page.h"
+
+#include <QDragEnterEvent>
+#include <QDropEvent>
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMimeData>
+#include <QVBoxLayout>
+
+#include "base/run_state.h"
+#include "messaging/screens/file_panel.h"
+#include "messaging/screens/message_edit.h"
+#include "messaging/screens/picture_preview.h"
+#include "messaging/screens/recipients_panel.h"
+#include "ui/page_controls.h"
+
+namespace parlexo {
+namespace {
+
+// What a multi-line edit takes by default where most of our users are. More than may be sent, so that whoever
+// has entered too much is told and can shorten it.
+constexpr int longestTypedDescription = 32'767;
+constexpr int counterDigits = 5;
+
+QString mediaMode() {
+  return QStringLiteral("Media");
+}
+
+}  // namespace
+
+/// In what the pages differ.
+struct FilePage::Kind {
+  QString objectName;
+  QString selectionMode;
+  RecipientNumber number;
+  QString fileLabel;
+  QString noteLabel;  ///< empty for a page without a note
+  int noteLimit;      ///< characters that can be entered
+  bool countsNote;
+  bool countsPages;
+  bool previewsPicture;
+};
+
+const FilePage::Kind& FilePage::kindOf(FileKind kind) {
+  // A contact's fax has a number of its own, and many a contact has nothing but that.
+  static const Kind fax = {QStringLiteral("faxPage"),
+                           QStringLiteral("Fax"),
+                           RecipientNumber::Fax,
+                           QStringLiteral("Fax &file:"),
+                           {},
+                           0,
+                           false,
+                           true,
+                           false};
+  static const Kind mms = {QStringLiteral("mmsPage"),
+                           mediaMode(),
+                           RecipientNumber::Phone,
+                           QStringLiteral("Media &file:"),
+                           QStringLiteral("&Description:"),
+                           longestTypedDescription,
+                           false,
+                           false,
+                           true};
+  static const Kind wap = {QStringLiteral("wapPage"),
+                           mediaMode(),
+                           RecipientNumber::Phone,
+                           QStringLiteral("WAP &file:"),
+                           QStringLiteral("Sender &Note:"),
+                           longestWapNote,
+                           true,
+                           false,
+                           false};
+  switch (kind) {
+    case FileKind::Fax:
+      return fax;
+    case FileKind::Mms:
+      return mms;
+    case FileKind::Wap:
+      return wap;
+  }
+  Q_UNREACHABLE();
+}
+
+FilePage::FilePage(const MessagingServices& services, FileKind kind, QWidget* parent)
+    : SendPage(services,
+               {fileMessageKind(kind).send.typeWord, kindOf(kind).selectionMode, kindOf(kind).number,
+                fileMessageKind(kind).send.senderIdUse},
+               parent),
+      kind_(kindOf(kind)),
+      limit_(fileMessageKind(kind).limit),
+      flow_(services, kind) {
+  setObjectName(kind_.objectName);
+  setAcceptDrops(true);
+  file_ = new FilePanel(kind_.fileLabel, services.settings, this);
+  layOut(messageArea(), note_ ? 1 : 0);
+}
+
+FileDraft FilePage::draft() const {
+  return {file_->path(), note_ ? note_->text() : QString(), recipients().recipients().displayList(),
+          recipients().recipients().numbersList(), schedule()};
+}
+
+void FilePage::refresh() {
+  const QSize picture = preview_ ? preview_->room() : QSize();
+  file_->setWishes({services().state.gateway.*limit_, kind_.countsPages, picture});
+  file_->look();
+}
+
+QLayout* FilePage::messageArea() {
+  auto* area = new QVBoxLayout;
+  area->setSpacing(6);
+  area->addWidget(file_);
+  if (!kind_.noteLabel.isEmpty()) area->addLayout(noteArea(), 1);
+  return area;
+}
+
+QLayout* FilePage::noteArea() {
+  note_ = new MessageEdit(this);
+  note_->setObjectName(QStringLiteral("noteEdit"));
+  note_->setTextLimit(kind_.noteLimit);
+  auto* area = new QGridLayout;
+  area->setVerticalSpacing(6);
+  area->setHorizontalSpacing(14);
+  area->addWidget(labelFor(note_, kind_.noteLabel), 0, 0);
+  area->addWidget(note_, 1, 0);
+  if (kind_.countsNote) area->addLayout(counterRow(), 2, 0);
+  if (kind_.previewsPicture) addPreview(*area);
+  area->setColumnStretch(0, 1);
+  area->setRowStretch(1, 1);
+  return area;
+}
+
+void FilePage::addPreview(QGridLayout& area) {
+  preview_ = new PicturePreview(this);
+  connect(file_, &FilePanel::looked, this, &FilePage::showPicture);
+  area.addWidget(labelFor(preview_, QStringLiteral("Preview:")), 0, 1);
+  area.addWidget(preview_, 1, 1);
+}
+
+QLayout* FilePage::counterRow() {
+  remaining_ = readOnlyField(QStringLiteral("charactersRemaining"), this);
+  remaining_->setFocusPolicy(Qt::ClickFocus);
+  remaining_->setAlignment(Qt::AlignRight);
+  remaining_->setFixedWidth(remaining_->fontMetrics().averageCharWidth() * counterDigits + 16);
+  connect(note_, &MessageEdit::textChanged, this, &FilePage::recount);
+  recount();
+  auto* row = new QHBoxLayout;
+  row->addWidget(labelFor(remaining_, QStringLiteral("Characters remaining:")));
+  row->addWidget(remaining_);
+  row->addStretch(1);
+  return row;
+}
+
+SendOutcome FilePage::sendMessage() {
+  const SendOutcome outcome = flow_.send(draft());
+  refresh();
+  return outcome;
+}
+
+void FilePage::clearMessage() {
+  file_->clear();
+  if (note_) note_->clear();
+}
+
+void FilePage::showEvent(QShowEvent* event) {
+  SendPage::showEvent(event);
+  refresh();
+}
+
+void FilePage::dragEnterEvent(QDragEnterEvent* event) {
+  if (FilePanel::draggedFile(*event->mimeData()).isEmpty()) return;
+  event->setDropAction(Qt::CopyAction);
+  event->accept();
+}
+
+void FilePage::dropEvent(QDropEvent* event) {
+  const QString path = FilePanel::draggedFile(*event->mimeData());
+  if (path.isEmpty()) return;
+  event->setDropAction(Qt::CopyAction);
+  event->accept();
+  file_->choose(path);
+}
+
+void FilePage::recount() {
+  remaining_->setText(QString::number(longestWapNote - note_->length()));
+}
+
+void FilePage::showPicture(const FileLook& look) {
+  const bool isKnown = !file_->path().isEmpty() && !look.facts.name.isEmpty();
+  preview_->display(look.picture, isKnown ? QStringLiteral("No preview") : QString());
+}
+
+}  // namespace parlexo

@@ -1,0 +1,121 @@
+#include "messaging/screens/file_panel.h"
+
+#include <memory>
+
+#include <QDir>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QFuture>
+#include <QGridLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMimeData>
+#include <QPromise>
+#include <QThreadPool>
+#include <QUrl>
+
+#include "base/data_size.h"
+#include "base/settings.h"
+#include "ui/page_controls.h"
+#include "ui/picture_button.h"
+
+namespace parlexo {
+namespace {
+
+// While somebody types a path, not every letter sets the disk going.
+constexpr int lookDelay = 250;  // ms
+
+}  // namespace
+
+FilePanel::FilePanel(const QString& label, Settings& settings, QWidget* parent)
+    : QWidget(parent), settings_(settings) {
+  setObjectName(QStringLiteral("filePanel"));
+  path_ = new QLineEdit(this);
+  path_->setObjectName(QStringLiteral("filePath"));
+  path_->setAcceptDrops(false);  // the page takes files, everywhere
+  connect(path_, &QLineEdit::textChanged, this, &FilePanel::pathChanged);
+  auto* browseButton = new PictureButton(QStringLiteral("&Browse..."), this);
+  browseButton->setObjectName(QStringLiteral("browseButton"));
+  connect(browseButton, &PictureButton::clicked, this, &FilePanel::browse);
+  facts_ = new QLabel(this);
+  facts_->setObjectName(QStringLiteral("fileFacts"));
+  facts_->setTextFormat(Qt::PlainText);
+  facts_->setWordWrap(true);
+
+  auto* grid = new QGridLayout(this);
+  grid->setContentsMargins({});
+  grid->setVerticalSpacing(4);
+  grid->addWidget(labelFor(path_, label), 0, 0);
+  grid->addWidget(path_, 0, 1);
+  grid->addWidget(browseButton, 0, 2);
+  grid->addWidget(facts_, 1, 1, 1, 2);
+  grid->setColumnStretch(1, 1);
+  untilLook_.setSingleShot(true);
+  connect(&untilLook_, &QTimer::timeout, this, &FilePanel::look);
+  display({});
+}
+
+QString FilePanel::path() const {
+  return path_->text();
+}
+
+void FilePanel::clear() {
+  path_->clear();
+}
+
+void FilePanel::browse() {
+  QFileDialog dialog(this, QStringLiteral("Open"), startFolder());
+  dialog.setFileMode(QFileDialog::ExistingFile);
+  // The details in the last brackets are what counts: "*.*" would leave out names without a dot.
+  dialog.setNameFilter(QStringLiteral("All Files (*.*) (*)"));
+  dialog.setOption(QFileDialog::HideNameFilterDetails);
+  if (dialog.exec() == QDialog::Accepted) choose(dialog.selectedFiles().constFirst());
+}
+
+void FilePanel::choose(const QString& path) {
+  settings_.setFileFolder(QDir::toNativeSeparators(QFileInfo(path).absolutePath()));
+  path_->setText(QDir::toNativeSeparators(path));
+  untilLook_.stop();
+  look();
+}
+
+QString FilePanel::draggedFile(const QMimeData& data) {
+  const QList<QUrl> urls = data.urls();
+  const QString path = urls.size() == 1 ? urls.constFirst().toLocalFile() : QString();
+  return QFileInfo(path).isFile() ? path : QString();
+}
+
+QString FilePanel::startFolder() const {
+  const QString last = settings_.fileFolder();
+  return !last.isEmpty() && QFileInfo(last).isDir() ? last : QDir::homePath();
+}
+
+void FilePanel::pathChanged() {
+  display({});
+  untilLook_.start(lookDelay);
+}
+
+void FilePanel::look() {
+  const QString path = this->path();
+  if (path.isEmpty()) return display({});
+  const auto promise = std::make_shared<QPromise<FileLook>>();
+  promise->future().then(this, [this, path](const FileLook& look) {
+    if (path == this->path()) display(look);
+  });
+  QThreadPool::globalInstance()->start([promise, path, wishes = wishes_] {
+    promise->start();
+    promise->addResult(lookAtFile(path, wishes));
+    promise->finish();
+  });
+}
+
+void FilePanel::display(const FileLook& look) {
+  if (path().isEmpty())
+    facts_->setText(
+        QStringLiteral("Choose a file of at most %1, or drop one here.").arg(dataSizeText(wishes_.limit)));
+  else  // a blank keeps the line's place, so that nothing jumps
+    facts_->setText(look.facts.name.isEmpty() ? QStringLiteral(" ") : look.facts.text());
+  Q_EMIT looked(look);
+}
+
+}  // namespace parlexo

@@ -1,0 +1,42 @@
+#include "messaging/screens/picture_preview.h"
+
+#include <utility>
+
+#include <QPainter>
+#include <QPixmap>
+
+#include "ui/look.h"
+
+namespace parlexo {
+
+PicturePreview::PicturePreview(QWidget* parent) : QLabel(parent) {
+  setObjectName(QStringLiteral("picturePreview"));
+  setAccessibleName(QStringLiteral("Preview"));
+  setAlignment(Qt::AlignCenter);
+  setTextFormat(Qt::PlainText);
+  setWordWrap(true);
+  setFixedWidth(dialogUnits(*this, 110, 0).width());
+  setMinimumHeight(dialogUnits(*this, 0, 60).height());
+  setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
+}
+
+QSize PicturePreview::room() const {
+  return (QSizeF(minimumSize().shrunkBy(QMargins(2, 2, 2, 2))) * devicePixelRatioF()).toSize();
+}
+
+void PicturePreview::display(QImage picture, const QString& text) {
+  if (picture.isNull()) return setText(text);
+  picture.setDevicePixelRatio(devicePixelRatioF());
+  setPixmap(QPixmap::fromImage(std::move(picture)));
+}
+
+void PicturePreview::paintEvent(QPaintEvent* event) {
+  QPainter painter(this);
+  painter.setPen(look::border);
+  painter.setBrush(look::listBackground);
+  painter.drawRect(rect().adjusted(0, 0, -1, -1));
+  painter.end();
+  QLabel::paintEvent(event);
+}
+
+}  // namespace parlexo
