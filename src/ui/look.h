@@ -18,6 +18,7 @@ inline constexpr QColor gradientTop(234, 247, 255);
 inline constexpr QColor gradientBottom(190, 226, 250);
 inline constexpr QColor text(0, 0, 0);
 inline constexpr QColor disabledText(92, 112, 130);
+inline constexpr QColor problemText(150, 20, 30);
 inline constexpr QColor selection(28, 104, 170);
 inline constexpr QColor selectedText(255, 255, 255);
 inline constexpr QColor link(0, 78, 156);

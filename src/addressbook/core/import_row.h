@@ -1,0 +1,39 @@
+#pragma once
+
+#include <QString>
+
+#include "addressbook/core/import_columns.h"
+#include "contacts/contact_record.h"
+#include "contacts/import/sheet.h"
+
+namespace parlexo {
+
+/// How the rows of a sheet become contacts.
+struct ImportPlan {
+  ImportColumns columns;
+  bool hasHeadings = true;  ///< the first row is no contact
+  QString countryCode;      ///< "+" and digits for numbers without one; may be empty
+  bool supportsSms = true;  ///< for contacts whose row does not say it
+  bool supportsMedia = false;
+  QString group;  ///< that the contacts join; may be empty
+
+  [[nodiscard]] bool maps(ImportField field) const;
+};
+
+/// One row as the import understands it.
+struct ImportRow {
+  ContactRecord contact;  ///< fields that the plan does not map are empty
+  QString refusal;        ///< why the row can't be imported; empty when it can
+};
+
+/// Reads a row of `sheet`. Texts are passed through the code page, as in all contacts.
+[[nodiscard]] ImportRow readImportRow(const Sheet& sheet, int row, const ImportPlan& plan);
+
+/// The new contact, with what the plan says for all contacts of this import.
+[[nodiscard]] ContactRecord newContact(const ImportRow& row, const ImportPlan& plan);
+
+/// `existing` with the values of the row in the fields that the plan maps.
+[[nodiscard]] ContactRecord overwritten(const ContactRecord& existing, const ImportRow& row,
+                                        const ImportPlan& plan);
+
+}  // namespace parlexo

@@ -1,0 +1,348 @@
+#include "addressbook/screens/import_contacts_dlg.h"
+
+#include <utility>
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QCoreApplication>
+#include <QElapsedTimer>
+#include <QFileDialog>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QProgressBar>
+#include <QSignalBlocker>
+#include <QStandardPaths>
+#include <QVBoxLayout>
+
+#include "addressbook/core/contact_import.h"
+#include "addressbook/core/import_number.h"
+#include "addressbook/screens/import_preview.h"
+#include "addressbook/screens/import_question_dlg.h"
+#include "addressbook/screens/import_summary_dlg.h"
+#include "base/message_texts.h"
+#include "base/notifier.h"
+#include "ui/look.h"
+#include "ui/page_controls.h"
+#include "ui/picture_button.h"
+
+namespace parlexo {
+
+namespace {
+
+constexpr qint64 repaintPause = 30;  // milliseconds
+
+QString delimiterName(QChar delimiter) {
+  switch (delimiter.unicode()) {
+    case u',':
+      return QStringLiteral("Comma");
+    case u';':
+      return QStringLiteral("Semicolon");
+    case u'\t':
+      return QStringLiteral("Tab");
+    default:
+      return QStringLiteral("Vertical bar");
+  }
+}
+
+QCheckBox* checkBox(const QString& text, const QString& objectName, QWidget* parent) {
+  auto* box = new QCheckBox(text, parent);
+  box->setObjectName(objectName);
+  return box;
+}
+
+}  // namespace
+
+/// Answers the running import from the dialog.
+class CImportContactsDlg::Running final : public ImportUser {
+ public:
+  explicit Running(CImportContactsDlg& dialog) : dialog_(dialog) { sinceRepaint_.start(); }
+
+  [[nodiscard]] bool goOn(int done, int total) override {
+    if (done > 0 && sinceRepaint_.elapsed() < repaintPause) return !dialog_.isCancelled_;
+    sinceRepaint_.restart();
+    return dialog_.showProgress(done, total);
+  }
+  [[nodiscard]] Answer contactExists(const QString& name) override {
+    CImportQuestionDlg question(name, &dialog_);
+    question.exec();
+    return question.answer();
+  }
+
+ private:
+  CImportContactsDlg& dialog_;
+  QElapsedTimer sinceRepaint_;
+};
+
+CImportContactsDlg::CImportContactsDlg(const AddressBookServices& services, const QString& selectedGroup,
+                                       QWidget* parent)
+    : GradientDialog(parent),
+      services_(services),
+      group_(selectedGroup),
+      source_(services.runner, services.progress) {
+  setObjectName(QStringLiteral("importContactsDialog"));
+  setWindowTitle(QStringLiteral("Parlexo(TM) : Import Contacts"));
+  createFileControls();
+  createPlanControls();
+  createBottom();
+  createLayout(selectedGroup);
+  showFormat();
+  showProblem();
+  browse_->setFocus(Qt::OtherFocusReason);
+}
+
+void CImportContactsDlg::createFileControls() {
+  file_ = readOnlyField(QStringLiteral("fileField"), this);
+  file_->setPlaceholderText(QStringLiteral("A .csv, .txt, .tsv, .xls, .xlsx or .ods file"));
+  browse_ = new PictureButton(QStringLiteral("&Browse..."), this);
+  browse_->setObjectName(QStringLiteral("browseButton"));
+  connect(browse_, &PictureButton::clicked, this, &CImportContactsDlg::browse);
+
+  workbookRow_ = new QWidget(this);
+  auto* workbook = new QHBoxLayout(workbookRow_);
+  workbook->setContentsMargins({});
+  sheet_ = createChoice(QStringLiteral("sheetChoice"), QStringLiteral("S&heet:"), *workbook);
+  textRow_ = new QWidget(this);
+  auto* text = new QHBoxLayout(textRow_);
+  text->setContentsMargins({});
+  encoding_ = createChoice(QStringLiteral("encodingChoice"), QStringLiteral("&Encoding:"), *text);
+  delimiter_ = createChoice(QStringLiteral("delimiterChoice"), QStringLiteral("&Delimiter:"), *text);
+
+  encoding_->addItem(QStringLiteral("UTF-8"), static_cast<int>(TextEncoding::Utf8));
+  encoding_->addItem(QStringLiteral("UTF-16, little end first"),
+                     static_cast<int>(TextEncoding::Utf16LittleEndian));
+  encoding_->addItem(QStringLiteral("UTF-16, big end first"), static_cast<int>(TextEncoding::Utf16BigEndian));
+  encoding_->addItem(QStringLiteral("Code page of the system"), static_cast<int>(TextEncoding::CodePage));
+  for (const QChar known : knownDelimiters) delimiter_->addItem(delimiterName(known), known);
+  for (QComboBox* choice : {encoding_, delimiter_})
+    connect(choice, &QComboBox::currentIndexChanged, this, &CImportContactsDlg::changeFormat);
+  connect(sheet_, &QComboBox::currentIndexChanged, this, [this](int number) {
+    source_.chooseSheet(number);
+    suggestPlan();
+  });
+}
+
+QComboBox* CImportContactsDlg::createChoice(const QString& objectName, const QString& caption,
+                                            QBoxLayout& row) {
+  auto* choice = new QComboBox(row.parentWidget());
+  choice->setObjectName(objectName);
+  row.addWidget(labelFor(choice, caption));
+  row.addWidget(choice);
+  row.addSpacing(12);
+  return choice;
+}
+
+void CImportContactsDlg::createPlanControls() {
+  headings_ =
+      checkBox(QStringLiteral("The first row &names the columns"), QStringLiteral("headingsBox"), this);
+  connect(headings_, &QCheckBox::toggled, this, &CImportContactsDlg::showPreview);
+  preview_ = new ImportPreview(this);
+  preview_->setObjectName(QStringLiteral("preview"));
+  preview_->setAccessibleName(QStringLiteral("First rows, and what each column becomes:"));
+  connect(preview_, &ImportPreview::columnsChanged, this, &CImportContactsDlg::judgeRows);
+  problem_ = wrappedLabel(QString(), this);
+  problem_->setObjectName(QStringLiteral("problemLine"));
+  problem_->setTextFormat(Qt::PlainText);
+
+  countryCode_ = new QLineEdit(this);
+  countryCode_->setObjectName(QStringLiteral("countryCode"));
+  countryCode_->setPlaceholderText(QStringLiteral("+61"));
+  countryCode_->setMaximumWidth(countryCode_->fontMetrics().horizontalAdvance(QStringLiteral("+0000000")) +
+                                16);
+  connect(countryCode_, &QLineEdit::textChanged, this, &CImportContactsDlg::judgeRows);
+  supportsSms_ = checkBox(QStringLiteral("Supports &SMS"), QStringLiteral("supportsSmsBox"), this);
+  supportsSms_->setChecked(true);
+  supportsMedia_ =
+      checkBox(QStringLiteral("Supports &Media (WAP and/or MMS)"), QStringLiteral("supportsMediaBox"), this);
+}
+
+void CImportContactsDlg::createBottom() {
+  progressText_ = new QLabel(this);
+  progressText_->setObjectName(QStringLiteral("progressText"));
+  progressBar_ = new QProgressBar(this);
+  progressBar_->setObjectName(QStringLiteral("progressBar"));
+  progressBar_->setAccessibleName(QStringLiteral("Importing contacts"));
+  progressBar_->setTextVisible(false);
+  progressBar_->hide();
+  import_ = new PictureButton(QStringLiteral("&Import"), this);
+  import_->setObjectName(QStringLiteral("importButton"));
+  import_->setDefault(true);
+  connect(import_, &PictureButton::clicked, this, &CImportContactsDlg::startImport);
+}
+
+void CImportContactsDlg::createLayout(const QString& group) {
+  auto* fileRow = new QHBoxLayout;
+  fileRow->addWidget(labelFor(file_, QStringLiteral("&File:")));
+  fileRow->addWidget(file_, 1);
+  fileRow->addWidget(browse_);
+  auto* formatRow = new QHBoxLayout;
+  formatRow->addWidget(workbookRow_);
+  formatRow->addWidget(textRow_);
+  formatRow->addWidget(headings_);
+  formatRow->addStretch(1);
+  auto* planRow = new QHBoxLayout;
+  planRow->addWidget(labelFor(countryCode_, QStringLiteral("&Country code for numbers without one:")));
+  planRow->addWidget(countryCode_);
+  planRow->addSpacing(12);
+  planRow->addWidget(supportsSms_);
+  planRow->addWidget(supportsMedia_);
+  planRow->addStretch(1);
+
+  options_ = new QWidget(this);
+  auto* options = new QVBoxLayout(options_);
+  options->setContentsMargins({});
+  options->addLayout(fileRow);
+  options->addLayout(formatRow);
+  options->addWidget(labelFor(preview_, QStringLiteral("First &rows, and what each column becomes:")));
+  options->addWidget(preview_, 1);
+  options->addWidget(problem_);
+  options->addLayout(planRow);
+  if (!group.isEmpty()) {
+    auto* joined = wrappedLabel(QStringLiteral("The contacts join the group \"%1\".").arg(group), options_);
+    joined->setTextFormat(Qt::PlainText);
+    options->addWidget(joined);
+  }
+  auto* cancel = new PictureButton(QStringLiteral("Cancel"), this);
+  cancel->setObjectName(QStringLiteral("cancelButton"));
+  connect(cancel, &PictureButton::clicked, this, &CImportContactsDlg::reject);
+  auto* bottom = new QHBoxLayout;
+  bottom->addWidget(progressText_);
+  bottom->addWidget(progressBar_, 1);
+  bottom->addStretch();
+  bottom->addWidget(import_);
+  bottom->addWidget(cancel);
+  auto* layout = new QVBoxLayout(this);
+  layout->setContentsMargins(16, 14, 16, 14);
+  layout->setSpacing(10);
+  layout->addWidget(options_, 1);
+  layout->addLayout(bottom);
+}
+
+void CImportContactsDlg::browse() {
+  const QString folder = source_.path().isEmpty()
+                             ? QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation)
+                             : source_.path();
+  const QString path = QFileDialog::getOpenFileName(
+      this, QStringLiteral("Import Contacts"), folder,
+      QStringLiteral("Contacts (*.csv *.txt *.tsv *.xls *.xlsx *.ods);;All files (*)"));
+  if (!path.isEmpty()) openFile(path);
+}
+
+void CImportContactsDlg::openFile(const QString& path) {
+  source_.open(path);
+  file_->setText(path);
+  file_->setToolTip(path);
+  const QSignalBlocker blocker(sheet_);
+  sheet_->clear();
+  sheet_->addItems(source_.sheetNames());
+  showFormat();
+  suggestPlan();
+  if (import_->isEnabled()) import_->setFocus(Qt::OtherFocusReason);
+}
+
+void CImportContactsDlg::showFormat() {
+  const QSignalBlocker encodingBlocker(encoding_);
+  const QSignalBlocker delimiterBlocker(delimiter_);
+  encoding_->setCurrentIndex(encoding_->findData(static_cast<int>(source_.format().encoding)));
+  delimiter_->setCurrentIndex(delimiter_->findData(source_.format().delimiter));
+  workbookRow_->setVisible(source_.isWorkbook());
+  textRow_->setVisible(!source_.isWorkbook());
+}
+
+void CImportContactsDlg::changeFormat() {
+  if (source_.path().isEmpty()) return;
+  source_.setFormat(
+      {static_cast<TextEncoding>(encoding_->currentData().toInt()), delimiter_->currentData().toChar()});
+  suggestPlan();
+}
+
+void CImportContactsDlg::suggestPlan() {
+  const QSignalBlocker blocker(headings_);
+  headings_->setChecked(source_.problem().isEmpty() && hasHeadings(source_.preview()));
+  showPreview();
+}
+
+void CImportContactsDlg::showPreview() {
+  ImportPlan suggested = plan();
+  const Sheet nothing;
+  const Sheet& sheet = source_.problem().isEmpty() ? source_.preview() : nothing;
+  suggested.columns = suggestColumns(sheet, headings_->isChecked());
+  preview_->show(sheet, suggested);
+  showProblem();
+}
+
+void CImportContactsDlg::judgeRows() {
+  preview_->judge(source_.preview(), plan());
+  showProblem();
+}
+
+void CImportContactsDlg::showProblem() {
+  const bool isOpen = !source_.path().isEmpty() && source_.problem().isEmpty();
+  const QString problem = isOpen ? problemOfPlan() : source_.problem();
+  QPalette palette = problem_->palette();
+  palette.setColor(QPalette::WindowText, look::problemText);
+  problem_->setPalette(palette);
+  problem_->setText(problem);
+  import_->setEnabled(isOpen);
+}
+
+ImportPlan CImportContactsDlg::plan() const {
+  return {.columns = preview_->columns(),
+          .hasHeadings = headings_->isChecked(),
+          .countryCode = countryCodeOf(countryCode_->text()).value_or(QString()),
+          .supportsSms = supportsSms_->isChecked(),
+          .supportsMedia = supportsMedia_->isChecked(),
+          .group = group_};
+}
+
+QString CImportContactsDlg::problemOfPlan() const {
+  if (!countryCodeOf(countryCode_->text()))
+    return QStringLiteral("The country code is a plus sign and one to four digits, as in +61.");
+  return planProblem(plan());
+}
+
+void CImportContactsDlg::startImport() {
+  if (isImporting_ || !import_->isEnabled()) return;
+  if (const QString problem = problemOfPlan(); !problem.isEmpty()) {
+    services_.notifier.error(problem);
+    return;
+  }
+  if (!source_.readAll()) {
+    showPreview();
+    services_.notifier.error(source_.problem());
+    return;
+  }
+  const ImportPlan chosen = plan();
+  setImporting(true);
+  Running user(*this);
+  const ImportOutcome outcome = importContacts(source_.preview(), chosen, services_.book, user);
+  setImporting(false);
+  CImportSummaryDlg(source_.preview(), chosen, outcome, services_.notifier, this).exec();
+  accept();
+}
+
+void CImportContactsDlg::setImporting(bool importing) {
+  isImporting_ = importing;
+  isCancelled_ = false;
+  options_->setEnabled(!importing);
+  import_->setEnabled(!importing);
+  progressBar_->setVisible(importing);
+  progressText_->setText(QString());
+}
+
+bool CImportContactsDlg::showProgress(int done, int total) {
+  progressText_->setText(importProgressText(done, total));
+  progressBar_->setMaximum(total);
+  progressBar_->setValue(done);
+  QCoreApplication::processEvents();
+  return !isCancelled_;
+}
+
+void CImportContactsDlg::reject() {
+  if (isImporting_)
+    isCancelled_ = true;
+  else
+    GradientDialog::reject();
+}
+
+}  // namespace parlexo

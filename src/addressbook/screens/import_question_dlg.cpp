@@ -1,0 +1,60 @@
+#include "addressbook/screens/import_question_dlg.h"
+
+#include <QCheckBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QVBoxLayout>
+
+#include "base/message_texts.h"
+#include "ui/look.h"
+#include "ui/picture_button.h"
+
+namespace parlexo {
+
+CImportQuestionDlg::CImportQuestionDlg(const QString& contactName, QWidget* parent)
+    : GradientDialog(parent),
+      forAll_(new QCheckBox(QStringLiteral("&Do this for all contacts that exist"), this)) {
+  constexpr int widthUnits = 230;
+  setObjectName(QStringLiteral("importQuestionDialog"));
+  setWindowTitle(QStringLiteral("Parlexo(TM) : Import Contacts"));
+  auto* question = new QLabel(
+      QStringLiteral(
+          "A contact with the name \"%1\" already exists. Do you want to overwrite it?\n\nFields that "
+          "the file does not have keep their values.")
+          .arg(contactName),
+      this);
+  question->setObjectName(QStringLiteral("question"));
+  question->setTextFormat(Qt::PlainText);
+  question->setWordWrap(true);
+  question->setMinimumWidth(dialogUnits(*this, widthUnits, 0).width());
+  forAll_->setObjectName(QStringLiteral("forAllBox"));
+  auto* row = new QHBoxLayout;
+  row->addStretch(1);
+  const auto addButton = [&](TextId text, const QString& name, ImportUser::Choice choice) {
+    auto* button = new PictureButton(parlexo::text(text), this);
+    button->setObjectName(name);
+    connect(button, &PictureButton::clicked, this, [this, choice] {
+      choice_ = choice;
+      accept();
+    });
+    row->addWidget(button);
+    return button;
+  };
+  addButton(TextId::ButtonYes, QStringLiteral("yesButton"), ImportUser::Choice::Overwrite);
+  auto* no = addButton(TextId::ButtonNo, QStringLiteral("noButton"), ImportUser::Choice::Skip);
+  addButton(TextId::ButtonCancel, QStringLiteral("cancelButton"), ImportUser::Choice::Cancel);
+  auto* layout = new QVBoxLayout(this);
+  layout->setContentsMargins(16, 14, 16, 14);
+  layout->setSpacing(12);
+  layout->addWidget(question);
+  layout->addWidget(forAll_);
+  layout->addLayout(row);
+  no->setDefault(true);
+  no->setFocus(Qt::OtherFocusReason);
+}
+
+ImportUser::Answer CImportQuestionDlg::answer() const {
+  return {choice_, forAll_->isChecked()};
+}
+
+}  // namespace parlexo

@@ -1,0 +1,159 @@
+#include <random>
+#include <string>
+#include <vector>
+
+#include <QFile>
+#include <QStringList>
+#include <QTemporaryDir>
+#include <gmock/gmock.h>
+
+#include "base/call_runner.h"
+#include "contacts/import/delimited_file.h"
+#include "contacts/import/delimited_parser.h"
+
+namespace parlexo {
+namespace {
+
+using testing::HasSubstr;
+
+/// The rows in one line: cells between bars, a slash behind each row.
+std::string rowsOf(const Sheet& sheet) {
+  QString all;
+  for (int row = 0; row < sheet.rowCount(); ++row) {
+    for (int column = 0; column < sheet.cellCount(row); ++column)
+      all += sheet.cell(row, column).toString() + u'|';
+    if (all.endsWith(u'|')) all.chop(1);
+    all += u'/';
+  }
+  return all.replace(u'\n', QStringLiteral("\\n")).toStdString();
+}
+
+struct Parsed {
+  Sheet sheet;
+  QString problem;
+};
+
+/// `step` characters at a time, as chunks of a file may cut the text anywhere.
+Parsed parse(const QString& text, int step, const ImportLimits& limits = {}, QChar delimiter = u',') {
+  Parsed parsed;
+  DelimitedParser parser(delimiter, limits, limits.rows + 1, parsed.sheet);
+  for (qsizetype at = 0; at < text.size(); at += step)
+    if (!parser.feed(QStringView(text).mid(at, step))) break;
+  parser.finish();
+  parsed.problem = parser.problem();
+  return parsed;
+}
+
+TEST(DelimitedParser, readsWhatProgramsWrite) {
+  const std::vector<std::pair<const char*, const char*>> cases = {
+      {"", ""},
+      {"a,b\r\nc,d\r\n", "a|b/c|d/"},
+      {"a,b\nc,d\re,f\r\ng", "a|b/c|d/e|f/g/"},
+      {"a,,\n,\n\nb", "a||/|//b/"},
+      {"\"a,b\",\"say \"\"hi\"\"\"\n", "a,b|say \"hi\"/"},
+      {"\"two\nlines\",x", "two\\nlines|x/"},
+      {"\"\",\"\"\r\n", "|/"},
+      {"\"a\" ,b\r\"c\"\n\"d\"", "a|b/c/d/"},
+      {"5\" pipe, \"x\"", "5\" pipe| \"x\"/"},
+  };
+  for (const auto& [text, rows] : cases)
+    for (const int step : {1, 2, 100}) {
+      const Parsed parsed = parse(QString::fromUtf8(text), step);
+      EXPECT_EQ(rowsOf(parsed.sheet), rows) << text << " by " << step;
+      EXPECT_TRUE(parsed.problem.isEmpty()) << text;
+    }
+}
+
+TEST(DelimitedParser, tellsTheLineOfWhatIsBrokenOrTooMuch) {
+  ImportLimits small;
+  small.columns = 3;
+  small.rows = 4;
+  small.cellLength = 10;
+  const std::vector<std::pair<QString, const char*>> cases = {
+      {"a\nb,\"c\nd\n", "Line 2: the quotation mark that opens"},
+      {"a\r\n\"b\"c\r\n", "Line 2: a quotation mark inside"},
+      {QString("a\nb") + QChar(0) + "c", "Line 2: there is a zero character"},
+      {"a,b,c,d\n", "Line 1: there are more than 3 columns"},
+      {"1\n2\n3\n4\n5\n6\n", "more than 4 rows"},
+      {"a\n12345678901", "Line 2: a cell has more than 10 characters"},
+      {"a\n\"1\n2\n3\n4\n5\n6\n7\n8\n9", "Line 2: a cell has more than 10"},
+  };
+  for (const auto& [text, problem] : cases)
+    EXPECT_THAT(parse(text, 3, small).problem.toStdString(), HasSubstr(problem)) << text.toStdString();
+}
+
+TEST(DelimitedParser, survivesAnyText) {
+  std::mt19937 random(20);
+  const QString alphabet = QStringLiteral("a,;\"\"\"\r\n \t\u00e9");
+  ImportLimits small;
+  small.columns = 20;
+  small.cellLength = 50;
+  for (int round = 0; round < 3000; ++round) {
+    QString text;
+    for (std::size_t length = random() % 200; length > 0; --length)
+      text += alphabet[static_cast<qsizetype>(random() % static_cast<std::size_t>(alphabet.size()))];
+    const Parsed whole = parse(text, 1000, small);
+    const Parsed pieces = parse(text, 1 + static_cast<int>(random() % 5), small);
+    ASSERT_EQ(rowsOf(whole.sheet), rowsOf(pieces.sheet)) << text.toStdString();
+    ASSERT_EQ(whole.problem, pieces.problem);
+    ASSERT_LE(whole.sheet.columnCount(), small.columns);
+  }
+}
+
+class DelimitedFileTest : public testing::Test {
+ protected:
+  QString write(const QByteArray& bytes, const QString& name = QStringLiteral("file.csv")) {
+    QFile file(folder_.filePath(name));
+    EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(bytes);
+    return file.fileName();
+  }
+  [[nodiscard]] SheetReading read(const QString& path) const {
+    return readDelimited(path, detectFormat(path, {}, cancel_), {}, cancel_);
+  }
+
+  QTemporaryDir folder_;
+  CancelFlag cancel_;
+};
+
+TEST_F(DelimitedFileTest, findsEncodingAndDelimiterByItself) {
+  const std::string read = "Name|Phone/Zo\u00eb|1,5/";
+  const std::vector<std::pair<QByteArray, const char*>> cases = {
+      {"Name;Phone\nZo\xC3\xAB;1,5\n", "UTF-8"},
+      {"\xEF\xBB\xBFName;Phone\nZo\xC3\xAB;1,5\n", "UTF-8 with its mark"},
+      {"Name\tPhone\r\nZo\xEB\t1,5", "code page"},
+      {QByteArray("\xFF\xFEN\0a\0m\0e\0|\0P\0h\0o\0n\0e\0\n\0Z\0o\0\xEB\0|\0001\0,\0005\0", 38), "UTF-16LE"},
+      {QByteArray("\xFE\xFF\0N\0a\0m\0e\0|\0P\0h\0o\0n\0e\0\n\0Z\0o\0\xEB\0|\0001\0,\0005", 38), "UTF-16BE"},
+  };
+  for (const auto& [bytes, what] : cases) EXPECT_EQ(rowsOf(this->read(write(bytes)).sheet), read) << what;
+}
+
+TEST_F(DelimitedFileTest, judgesTheEncodingByTheWholeFile) {
+  QByteArray late(600'000, 'a');
+  for (qsizetype at = 100; at < late.size(); at += 100) late[at] = '\n';
+  EXPECT_EQ(detectFormat(write(late), {}, cancel_).encoding, TextEncoding::Utf8);
+  EXPECT_EQ(detectFormat(write(late + '\xEB'), {}, cancel_).encoding, TextEncoding::CodePage);
+  // Both halves of the letter lie in different chunks.
+  late.replace((1 << 18) - 1, 2, "\xC3\xAB");
+  const QString path = write(late);
+  EXPECT_EQ(detectFormat(path, {}, cancel_).encoding, TextEncoding::Utf8);
+  const SheetReading all = read(path);
+  EXPECT_TRUE(all.sheet.cell((1 << 18) / 100, 0).contains(u'\u00eb'));
+}
+
+TEST_F(DelimitedFileTest, turnsAwayWhatCanNotBeImported) {
+  ImportLimits small;
+  small.fileBytes = 3 << 20;
+  QFile large(folder_.filePath(QStringLiteral("large.csv")));
+  ASSERT_TRUE(large.open(QIODevice::WriteOnly) && large.resize(1LL << 30));
+  EXPECT_EQ(fileProblem(large.fileName(), small).toStdString(),
+            "The file has 1,024 MB. Files of more than 3 MB can't be imported.");
+  EXPECT_THAT(fileProblem(large.fileName()).toStdString(), HasSubstr("64 MB"));
+  EXPECT_THAT(fileProblem(folder_.path()).toStdString(), HasSubstr("not a file"));
+  EXPECT_THAT(fileProblem(folder_.filePath("none")).toStdString(), HasSubstr("no such file"));
+  EXPECT_EQ(fileProblem(write({})).toStdString(), "The file is empty.");
+  EXPECT_TRUE(fileProblem(write("a")).isEmpty());
+}
+
+}  // namespace
+}  // namespace parlexo

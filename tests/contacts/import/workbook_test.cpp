@@ -1,0 +1,122 @@
+#include <QDir>
+#include <QFile>
+#include <QStringList>
+#include <QTemporaryDir>
+#include <gmock/gmock.h>
+
+#include "contacts/import/number_format.h"
+#include "contacts/import/spread_sheet.h"
+
+namespace parlexo {
+namespace {
+
+using testing::HasSubstr;
+
+QString sample(const char* name) {
+  return QStringLiteral(SAMPLE_FOLDER) + QLatin1String(name);
+}
+
+QStringList rowOf(const Sheet& sheet, int row) {
+  QStringList cells;
+  for (int column = 0; column < sheet.cellCount(row); ++column) cells << sheet.cell(row, column).toString();
+  return cells;
+}
+
+QString problemOf(const QString& path, const ImportLimits& limits = {}) {
+  CSpreadSheet book;
+  const QString problem = book.read(path, limits, CancelFlag());
+  EXPECT_EQ(problem.isEmpty(), !book.sheets().empty()) << path.toStdString();
+  return problem;
+}
+
+TEST(CSpreadSheet, readsTheWorkbooksOfRealProgramsAlike) {
+  const QStringList ann = {"Ann",         "Example",    "1001",
+                           "61491570156", "2020-05-06", QString::fromUtf8("Zürich")};
+  const QStringList bob = {"Bob", "Brown", "A-7", "0412 345 678", "2021-12-31", "a \"b\", c"};
+  for (const char* name :
+       {"openpyxl.xlsx", "xlwt.xls", "libreoffice.xlsx", "libreoffice.ods", "libreoffice.xls"}) {
+    ASSERT_TRUE(CSpreadSheet::isWorkbook(sample(name)));
+    CSpreadSheet book;
+    ASSERT_EQ(book.read(sample(name), {}, CancelFlag()), QString()) << name;
+    const Sheet& people = book.sheets().front().sheet;
+    ASSERT_EQ(people.rowCount(), 3) << name;
+    EXPECT_EQ(rowOf(people, 1).mid(0, 6), ann) << name;
+    EXPECT_EQ(rowOf(people, 2).mid(0, 6), bob) << name;
+  }
+}
+
+TEST(CSpreadSheet, takesTheResultsOfFormulas) {
+  for (const char* name : {"libreoffice.xlsx", "libreoffice.ods"}) {
+    CSpreadSheet book;
+    ASSERT_EQ(book.read(sample(name), {}, CancelFlag()), QString());
+    EXPECT_EQ(rowOf(book.sheets().front().sheet, 1).value(6), "Ann Example") << name;
+  }
+}
+
+TEST(CSpreadSheet, leavesOutSheetsWithoutCellsAndKeepsTheirPlaces) {
+  for (const char* name : {"openpyxl.xlsx", "xlwt.xls"}) {
+    CSpreadSheet book;
+    ASSERT_EQ(book.read(sample(name), {}, CancelFlag()), QString());
+    ASSERT_EQ(book.sheets().size(), 2u);
+    EXPECT_EQ(book.sheets()[1].name, "Other");
+    EXPECT_EQ(rowOf(book.sheets()[1].sheet, 4), QStringList({"", "", "far"}));
+    EXPECT_EQ(book.sheets()[1].sheet.rowCount(), 5);
+  }
+}
+
+TEST(CSpreadSheet, stopsAtTheLimits) {
+  EXPECT_EQ(problemOf(sample("far-column.xlsx")).toStdString(), "The file has more than 1,000 columns.");
+  ImportLimits unpacked;
+  unpacked.unpackedBytes = 2000;
+  EXPECT_THAT(problemOf(sample("openpyxl.xlsx"), unpacked).toStdString(), HasSubstr("once it is unpacked"));
+  EXPECT_THAT(problemOf(sample("libreoffice.ods"), unpacked).toStdString(), HasSubstr("once it is unpacked"));
+  ImportLimits rows;
+  rows.rows = 2;
+  ImportLimits cells;
+  cells.cells = 5;
+  ImportLimits text;
+  text.textLength = 20;
+  for (const char* name : {"openpyxl.xlsx", "libreoffice.ods", "xlwt.xls"}) {
+    EXPECT_THAT(problemOf(sample(name), rows).toStdString(), HasSubstr("more than 2 rows"));
+    EXPECT_THAT(problemOf(sample(name), cells).toStdString(), HasSubstr("more than 5 cells"));
+    EXPECT_THAT(problemOf(sample(name), text).toStdString(), HasSubstr("too much text"));
+  }
+}
+
+TEST(CSpreadSheet, damagedFilesGiveAMessage) {
+  const QTemporaryDir folder;
+  for (const char* name : {"openpyxl.xlsx", "libreoffice.ods", "xlwt.xls"}) {
+    QFile whole(sample(name));
+    ASSERT_TRUE(whole.open(QIODevice::ReadOnly));
+    const QByteArray bytes = whole.readAll();
+    QFile half(folder.filePath(QString::fromLatin1(name)));
+    ASSERT_TRUE(half.open(QIODevice::WriteOnly));
+    half.write(bytes.left(bytes.size() / 2));
+    half.close();
+    EXPECT_THAT(problemOf(half.fileName()).toStdString(), HasSubstr("can't be read")) << name;
+  }
+  EXPECT_FALSE(CSpreadSheet::isWorkbook(QStringLiteral(SAMPLE_FOLDER "README.md")));
+}
+
+TEST(NumberFormat, keepsAllDigitsAndKnowsDates) {
+  EXPECT_EQ(numberText(u"61412345678901234567"), "61412345678901234567");
+  EXPECT_EQ(numberText(u"6.1412345678E10"), "61412345678");
+  EXPECT_EQ(numberText(u"61412345678.0"), "61412345678");
+  EXPECT_EQ(numberText(u"0.1"), "0.1");
+  EXPECT_EQ(numberText(-2.5), "-2.5");
+  EXPECT_EQ(numberText(u"n/a"), "n/a");
+  for (const QStringView date :
+       std::initializer_list<QStringView>{u"dd/mm/yyyy", u"[$-409]h:mm AM/PM", u"mmm\\-yy"})
+    EXPECT_TRUE(isDateFormat(date)) << date.toString().toStdString();
+  for (const QStringView other :
+       std::initializer_list<QStringView>{u"General", u"0.00", u"[Red]#,##0", u"\"day\" 0", u"@"})
+    EXPECT_FALSE(isDateFormat(other)) << other.toString().toStdString();
+  EXPECT_EQ(dateText(43957, false), "2020-05-06");
+  EXPECT_EQ(dateText(42495, true), "2020-05-06");
+  EXPECT_EQ(dateText(43957.5, false), "2020-05-06 12:00:00");
+  EXPECT_EQ(dateText(0.25, false), "06:00:00");
+  EXPECT_EQ(dateText(1e12, false), "1000000000000");
+}
+
+}  // namespace
+}  // namespace parlexo
