@@ -1,5 +1,7 @@
 #include "addressbook/screens/import_contacts_dlg.h"
 
+#include <functional>
+
 #include <QAbstractButton>
 #include <QCheckBox>
 #include <QComboBox>
@@ -7,30 +9,19 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QTableWidget>
-#include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
 #include <gmock/gmock.h>
 
 #include "addressbook/screens/import_question_dlg.h"
 #include "addressbook/screens/import_summary_dlg.h"
-#include "base/call_runner.h"
-#include "base/progress.h"
-#include "base/settings.h"
-#include "tests/addressbook/sample_book.h"
+#include "tests/addressbook/disk_book.h"
 
 namespace parlexo {
 namespace {
 
-class SilentProgress final : public Progress {
- public:
-  void show(const QString& /*text*/ = {}) override {}
-  void setText(const QString& /*text*/) override {}
-  void hide() override {}
-};
-
 /// The import dialog on the screen. Dialogs that it opens are answered by `onDialog` as they appear.
-class ImportContactsDlgTest : public testing::Test {
+class ImportContactsDlgTest : public test::DiskBook {
  protected:
   ImportContactsDlgTest() {
     book_.createGroup("Team");
@@ -64,16 +55,7 @@ class ImportContactsDlgTest : public testing::Test {
     dialog.findChild<QAbstractButton*>(button)->click();
   }
 
-  QTemporaryDir folder_;
-  test::RecordingNotifier notifier_;
-  ItemIndexCache cache_;
-  SleepingLockWaiter waiter_;
-  ItemDatabase database_{cache_, waiter_};
-  AddressBook book_{folder_.path(), database_, notifier_};
-  SilentProgress progress_;
-  Settings settings_{folder_.path()};
-  DirectCallRunner runner_;
-  CImportContactsDlg dialog_{{book_, notifier_, progress_, settings_, runner_}, "Team"};
+  CImportContactsDlg dialog_{services(), "Team"};
   std::function<void(QDialog&)> onDialog;
   QTimer timer_;
 };
@@ -96,7 +78,7 @@ TEST_F(ImportContactsDlgTest, showsTheRowsAsTheyWillBeRead) {
   EXPECT_EQ(preview().columnCount(), 2);
   EXPECT_THAT(problem().toStdString(), testing::HasSubstr("Choose the column"));
   dialog_.startImport();
-  EXPECT_EQ(notifier_.texts, QStringList(problem()));
+  EXPECT_EQ(notifier_.shown, QStringList("16 " + problem()));
 }
 
 TEST_F(ImportContactsDlgTest, tellsWhatIsWrongWithAFileAndImportsNothing) {
@@ -111,7 +93,7 @@ TEST_F(ImportContactsDlgTest, tellsWhatIsWrongWithAFileAndImportsNothing) {
   dialog_.openFile(write(late + "\"never closed"));
   EXPECT_EQ(problem(), QString());
   press("importButton");
-  EXPECT_THAT(notifier_.texts.join(u'/').toStdString(), testing::HasSubstr("Line 52"));
+  EXPECT_THAT(notifier_.shown.join(u'/').toStdString(), testing::HasSubstr("Line 52"));
   EXPECT_TRUE(book_.contacts().empty());
 }
 

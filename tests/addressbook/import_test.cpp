@@ -1,19 +1,15 @@
-#include <functional>
-
 #include <QFile>
-#include <QTemporaryDir>
 #include <gmock/gmock.h>
 
 #include "addressbook/core/contact_import.h"
 #include "addressbook/core/import_number.h"
 #include "base/csv_writer.h"
 #include "contacts/import/delimited_file.h"
-#include "tests/addressbook/sample_book.h"
+#include "tests/addressbook/disk_book.h"
 
 namespace parlexo {
 namespace {
 
-using test::RecordingNotifier;
 using testing::ElementsAre;
 using testing::HasSubstr;
 
@@ -68,7 +64,7 @@ class ScriptedUser final : public ImportUser {
 };
 
 /// An address book on disk, and files to import into it.
-class ContactImportTest : public testing::Test {
+class ContactImportTest : public test::DiskBook {
  protected:
   ContactImportTest() {
     book_.saveContact({"Ann", "+61491570156", "N", "Y", "+61255501234", "ann@example.com", {"old", "kept"}});
@@ -104,12 +100,6 @@ class ContactImportTest : public testing::Test {
     return fields.join(u',');
   }
 
-  QTemporaryDir folder_;
-  RecordingNotifier notifier_;
-  ItemIndexCache cache_;
-  SleepingLockWaiter waiter_;
-  ItemDatabase database_{cache_, waiter_};
-  AddressBook book_{folder_.path(), database_, notifier_};
   ScriptedUser user_;
   Sheet sheet_;
   ImportPlan plan_;
@@ -129,16 +119,9 @@ TEST_F(ContactImportTest, takesRowsIntoBookAndGroup) {
   EXPECT_EQ(describe("Bob Brown (A-7)"), "Bob Brown (A-7),+61412345678,Y,N,,bob@example.com,x,,,,,");
   EXPECT_EQ(describe("Cid"), "Cid,+61491570157,N,Y,,,y,,,,,");
   // What is on the disk is what was imported.
-  AddressBook again(folder_.path(), database_, notifier_);
-  class : public Progress {
-    void show(const QString& /*text*/) override {}
-    void setText(const QString& /*text*/) override {}
-    void hide() override {}
-  } progress;
-  ASSERT_TRUE(again.loadAll(progress));
-  EXPECT_EQ(again.contacts().size(), 3u);
-  EXPECT_TRUE(again.findGroup("Team")->contains("Cid") &&
-              again.findGroup("Team")->contains("Bob Brown (A-7)"));
+  reload();
+  EXPECT_EQ(book_.contacts().size(), 3u);
+  EXPECT_EQ(memberNames("Team"), QStringList({"Bob Brown (A-7)", "Cid"}));
 }
 
 TEST_F(ContactImportTest, refusesRowsWithTheirReason) {
@@ -205,10 +188,11 @@ TEST_F(ContactImportTest, stopsWhereTheUserOrTheDiskStopsIt) {
   EXPECT_TRUE(book_.findContact("C") && !book_.findContact("D"));
 
   user_.cancelAt = 1000;
-  AddressBook nowhere(folder_.filePath("missing/folder"), database_, notifier_);
-  outcome = importContacts(sheet_, plan_, nowhere, user_);
+  loseFolder();
+  user_.answer = {ImportUser::Choice::Overwrite, true};
+  outcome = importContacts(sheet_, plan_, book_, user_);
   EXPECT_EQ(outcome.end, ImportOutcome::End::WriteFailed);
-  EXPECT_EQ(notifier_.texts.size(), 1);
+  EXPECT_EQ(notifier_.shown.size(), 1);
 }
 
 TEST(ImportColumns, areFoundByHeadingsOrContent) {

@@ -21,6 +21,7 @@
 #include "addressbook/screens/contact_details_dlg.h"
 #include "addressbook/screens/folder_tree.h"
 #include "addressbook/screens/group_details_dlg.h"
+#include "addressbook/screens/import_contacts_dlg.h"
 #include "addressbook/screens/row_list_view.h"
 #include "addressbook/screens/search_field.h"
 #include "contacts/address_book.h"
@@ -117,8 +118,7 @@ void CContactsPage::createList() {
 }
 
 void CContactsPage::createSearch() {
-  search_ =
-      new SearchField(QStringLiteral("Search all contacts: name, number or Extra"), *list_, this);
+  search_ = new SearchField(QStringLiteral("Search all contacts: name, number or Extra"), *list_, this);
   search_->setObjectName(QStringLiteral("contactSearch"));
   connect(search_, &QLineEdit::textChanged, this, &CContactsPage::fillFresh);
   auto* find = new QShortcut(QKeySequence(QKeySequence::Find), this);
@@ -279,7 +279,9 @@ void CContactsPage::newGroup() {
 }
 
 void CContactsPage::importContacts() {
-  if (!flow_.acceptsImport(tree_->selected())) return;
+  const ContactFolder folder = tree_->selected();
+  if (!flow_.acceptsImport(folder)) return;
+  if (CImportContactsDlg(services_, folder.name, this).exec() == QDialog::Accepted) refresh();
 }
 
 void CContactsPage::edit() {
