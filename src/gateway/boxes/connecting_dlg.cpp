@@ -1,10 +1,9 @@
 #include "gateway/boxes/connecting_dlg.h"
 
 #include <QCloseEvent>
-#include <QHBoxLayout>
+#include <QGridLayout>
 #include <QLabel>
 #include <QPainter>
-#include <QVBoxLayout>
 
 #include "gateway/boxes/animated_picture.h"
 #include "ui/input_block.h"
@@ -24,22 +23,22 @@ CConnectingDlg::CConnectingDlg(QWidget* parent) : GradientDialog(parent) {
   detail_->setObjectName(QStringLiteral("detail"));
   detail_->setTextFormat(Qt::PlainText);
   detail_->hide();
-  auto* lines = new QVBoxLayout;
-  lines->setSpacing(2);
-  lines->addStretch(1);
-  lines->addWidget(label_);
-  lines->addWidget(detail_);
-  lines->addStretch(1);
-  auto* row = new QHBoxLayout(this);
-  row->setContentsMargins(12, 8, 14, 8);
-  row->setSpacing(12);
-  row->addWidget(createConnectingAnimation(this));
-  row->addLayout(lines, 1);
   cancel_ = new PictureButton(QStringLiteral("Cancel"), this);
   cancel_->setObjectName(QStringLiteral("cancel"));
   cancel_->hide();
   connect(cancel_, &PictureButton::clicked, this, &CConnectingDlg::cancel);
-  row->addWidget(cancel_);
+  // One layout, as a box within a box would learn too late that a text has grown.
+  auto* grid = new QGridLayout(this);
+  grid->setContentsMargins(12, 8, 14, 8);
+  grid->setHorizontalSpacing(12);
+  grid->setVerticalSpacing(2);
+  grid->addWidget(createConnectingAnimation(this), 0, 0, 4, 1);
+  grid->addWidget(label_, 1, 1);
+  grid->addWidget(detail_, 2, 1);
+  grid->addWidget(cancel_, 0, 2, 4, 1, Qt::AlignVCenter);
+  grid->setColumnStretch(1, 1);
+  grid->setRowStretch(0, 1);
+  grid->setRowStretch(3, 1);
   setMinimumSize(dialogUnits(*this, 194, 38));
   InputBlock::exempt(*this);
 }

@@ -98,6 +98,26 @@ TEST(ProgressBox, manyTextsCostFewRepaints) {
   EXPECT_LE(counter.paints, clock.elapsed() / 30 + 1);
 }
 
+TEST(ProgressBox, transferIsFollowedBelowTheTextUntilTheBoxGoes) {
+  ProgressBox progress;
+  const Transfer transfer(2 << 20);
+  progress.follow(transfer);
+  progress.show();
+  const auto detail = [] { return boxes().front()->findChild<QLabel*>(QStringLiteral("detail")); };
+  EXPECT_TRUE(detail()->isHidden());
+  progress.follow(transfer);
+  for (const auto& [done, shown] :
+       {std::pair{0, "0 bytes of 2 MB sent"}, {1'300'000, "1.2 MB of 2 MB sent"}}) {
+    transfer.setDone(done);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return detail()->text() == QLatin1String(shown); }, 1000)) << shown;
+  }
+  EXPECT_EQ(progress.text(), defaultLabel);
+  progress.hide();
+  progress.show();
+  QTest::qWait(150);
+  EXPECT_TRUE(detail()->isHidden()) << "another wait sends another file";
+}
+
 TEST(ProgressBox, boxThatGoesWithItsWindowFreesTheInput) {
   ProgressBox progress;
   {
