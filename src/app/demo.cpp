@@ -40,6 +40,18 @@ constexpr std::array earlierMessages = {
     EarlierMessage{"+447700900285", "WAP", "Delivered to handset", 98},
 };
 
+struct EarlierPayment {
+  double amount;
+  const char* description;
+  int hoursAgo;
+};
+
+constexpr std::array earlierPayments = {
+    EarlierPayment{105.00, "Credit card payment", 720}, EarlierPayment{-0.10, "WAP to 1 number", 98},
+    EarlierPayment{-0.25, "MMS to 1 number", 75},       EarlierPayment{-0.15, "Fax to 1 number", 50},
+    EarlierPayment{-0.05, "SMS to 1 number", 26},       EarlierPayment{-0.10, "SMS to 2 numbers", 3},
+};
+
 struct SampleTemplate {
   const char* name;
   const char* text;
@@ -99,10 +111,18 @@ QString Demo::start() {
   options.accounts = {{user(), password(), 100.0, true, {}}};
   simulator_ = std::make_unique<simulator::Simulator>(options);
   if (!simulator_->start()) return simulator_->errorText();
+  rememberPayments();
   for (const QString& problem : {fillContacts(), fillTemplates(), fillStatusLog()}) {
     if (!problem.isEmpty()) return problem;
   }
   return {};
+}
+
+void Demo::rememberPayments() {
+  const QDateTime now = QDateTime::currentDateTime();
+  for (const auto& [amount, description, hoursAgo] : earlierPayments)
+    simulator_->rememberTransaction(user(), amount, now.addSecs(-3600LL * hoursAgo),
+                                    QLatin1String(description));
 }
 
 QString Demo::fillContacts() const {

@@ -34,6 +34,7 @@ class Demo {
   [[nodiscard]] static QString password();
 
  private:
+  void rememberPayments();
   [[nodiscard]] QString fillContacts() const;
   [[nodiscard]] QString fillTemplates() const;
   [[nodiscard]] QString fillStatusLog();

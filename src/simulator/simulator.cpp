@@ -137,6 +137,18 @@ bool Simulator::setBalance(const QString& user, double balance) {
   });
 }
 
+bool Simulator::rememberTransaction(const QString& user, double amount, const QDateTime& date,
+                                    const QString& description) {
+  return engine_->service().with([&](ServiceState& state) {
+    Account* account = state.gateway.accounts.find(user);
+    if (!account) return false;
+    const std::int64_t balance = account->balanceCents;
+    state.gateway.accounts.post(*account, toCents(amount), date, description);
+    account->balanceCents = balance;
+    return true;
+  });
+}
+
 double Simulator::balance(const QString& user) const {
   return engine_->service().with([&user](ServiceState& state) {
     const Account* account = state.gateway.accounts.find(user);

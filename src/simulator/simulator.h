@@ -3,6 +3,7 @@
 #include <memory>
 #include <vector>
 
+#include <QDateTime>
 #include <QString>
 #include <QStringList>
 
@@ -43,6 +44,10 @@ class Simulator {
   bool setBalance(const QString& user, double balance);
   /// The balance of an account; 0 when there is no such user.
   [[nodiscard]] double balance(const QString& user) const;
+  /// Writes a movement of earlier days into an account's history; the balance stays. False when there is no
+  /// such user.
+  bool rememberTransaction(const QString& user, double amount, const QDateTime& date,
+                           const QString& description);
   [[nodiscard]] EmailPreferences emailPreferences(const QString& user) const;
   [[nodiscard]] bool hasPassword(const QString& user, const QString& password) const;
   /// Lets an account ask for a receipt of earlier days; it answers with the last delivery state.
