@@ -85,8 +85,13 @@ void planStatus(Plan& plan) {
 
 void planAccount(Plan& plan) {
   plan.push_back({QStringLiteral("receive-page"),
-                  QStringLiteral("Sees under which numbers replies arrive; turns to the settings"),
-                  mainWindow, turnTo(QStringLiteral("Settings"))});
+                  QStringLiteral("Sees under which numbers replies arrive; turns to the account history"),
+                  mainWindow, turnTo(QStringLiteral("Account History"))});
+  plan.push_back({QStringLiteral("history"), QStringLiteral("Asks for the history as it is now"), mainWindow,
+                  press(QStringLiteral("&Refresh"))});
+  plan.push_back({QStringLiteral("history-page"),
+                  QStringLiteral("Sees what the message has cost; turns to the settings"), mainWindow,
+                  turnTo(QStringLiteral("Settings"))});
   plan.push_back({QStringLiteral("settings"), QStringLiteral("Lets messages be sent by e-mail"), mainWindow,
                   allOf({[](QWidget* window) {
                            return hands::toggle(window, QStringLiteral("Enable Email Messaging:")) &&

@@ -1,5 +1,6 @@
 #include "app/main_tabs.h"
 
+#include "account/screens/account_history_dlg.h"
 #include "account/screens/receive_messages_dlg.h"
 #include "account/screens/settings_dlg.h"
 #include "addressbook/screens/contacts_page.h"
@@ -46,7 +47,8 @@ std::vector<MainTab> mainTabs(const MessagingServices& services,
       {QStringLiteral("Receive Messages"),
        [accountServices] { return new CReceiveMessagesDlg(accountServices.state); }},
       {QStringLiteral("Contacts"), [addressBookServices] { return new CContactsPage(addressBookServices); }},
-      tabToCome(QStringLiteral("Account History")),
+      {QStringLiteral("Account History"),
+       [accountServices] { return new CAccountHistoryDlg(accountServices); }},
       {statusTab, [services] { return new CStatusDlg(services); }},
       {QStringLiteral("Settings"), [accountServices] { return new CSettingsDlg(accountServices); }}};
 }

@@ -1,0 +1,56 @@
+#include "account/core/account_history.h"
+
+#include <QDateTime>
+
+#include "base/message_texts.h"
+#include "base/notifier.h"
+#include "base/progress.h"
+#include "base/run_state.h"
+#include "gateway/core/gateway.h"
+
+namespace parlexo {
+namespace {
+
+HistoryRecord parseRecord(const QString& record) {
+  constexpr QChar tab(u'\t');
+  return {record.section(tab, 0, 0), record.section(tab, 1, 1), record.section(tab, 2, 2),
+          record.section(tab, 3)};
+}
+
+auto askForHistory(const AccountServices& services) {
+  const ProgressScope box(services.progress);
+  return services.gateway.call<protocol::getAccountHistoryResponse>(
+      [session = toWire(services.state.session)](GatewayClient& client,
+                                                 protocol::getAccountHistoryResponse& response) {
+        return client.getAccountHistory(session, response);
+      });
+}
+
+}  // namespace
+
+std::vector<HistoryRecord> parseHistory(const QString& text) {
+  const QString recordEnd = QStringLiteral("\r\n");
+  std::vector<HistoryRecord> records;
+  qsizetype begin = 0;
+  for (qsizetype end = text.indexOf(recordEnd); end >= 0; end = text.indexOf(recordEnd, begin)) {
+    if (end > begin) records.push_back(parseRecord(text.mid(begin, end - begin)));
+    begin = end + recordEnd.size();
+  }
+  return records;
+}
+
+std::optional<double> historyInstant(const QString& date) {
+  const QDateTime instant = QDateTime::fromString(date, QStringLiteral("dd/MM/yyyy HH:mm:ss"));
+  if (!instant.isValid()) return std::nullopt;
+  return static_cast<double>(instant.toSecsSinceEpoch());
+}
+
+std::optional<std::vector<HistoryRecord>> AccountHistoryFlow::load() const {
+  const auto reply = askForHistory(services_);
+  if (reply.answered() && reply->nErrorCode == 0) return parseHistory(fromWire(reply->sXmlAccountHistory));
+  services_.notifier.error(withNumber(
+      QStringLiteral("Could not successfully obtain history details. Error: %i"), reply->nErrorCode));
+  return std::nullopt;
+}
+
+}  // namespace parlexo

@@ -1,0 +1,72 @@
+#include "account/screens/account_history_dlg.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QScopedValueRollback>
+#include <QVBoxLayout>
+
+#include "ui/export_button.h"
+#include "ui/page_controls.h"
+#include "ui/picture_button.h"
+#include "ui/record_table.h"
+
+namespace parlexo {
+namespace {
+
+RecordTable::Form historyForm() {
+  return {QStringLiteral("historyList"),
+          QStringLiteral("Account History"),
+          {{40, QStringLiteral("0000000")},
+           {120, QStringLiteral("00/00/0000 00:00:00")},
+           {50, QStringLiteral("-00000.00")},
+           {500, QString()}},
+          true};
+}
+
+}  // namespace
+
+CAccountHistoryDlg::CAccountHistoryDlg(const AccountServices& services, QWidget* parent)
+    : GradientPage(parent),
+      services_(services),
+      list_(new RecordTable(model_, historyForm(), services.settings, this)) {
+  setObjectName(QStringLiteral("historyPage"));
+  createLayout();
+  refresh();
+}
+
+void CAccountHistoryDlg::refresh() {
+  if (isLoading_) return;
+  const QScopedValueRollback guard(isLoading_, true);
+  auto records = AccountHistoryFlow(services_).load();
+  if (!records) return;
+  model_.fill(std::move(*records));
+  if (model_.rowCount() > 0) list_->selectRecord(model_.rowCount() - 1);
+}
+
+void CAccountHistoryDlg::createLayout() {
+  auto* layout = new QVBoxLayout(this);
+  layout->setContentsMargins(14, 14, 14, 12);
+  layout->setSpacing(10);
+  layout->addWidget(list_, 1);
+  layout->addLayout(createButtons());
+}
+
+QHBoxLayout* CAccountHistoryDlg::createButtons() {
+  auto* explanation =
+      wrappedLabel(QStringLiteral("Displays the last 500 transactions for your account. (Prices "
+                                  "are in your account's base currency)"),
+                   this);
+  auto* exportButton = new ExportButton(*list_, services_.notifier, this);
+  exportButton->setSuggestedName(QStringLiteral("Account history"));
+  auto* refreshButton = new PictureButton(QStringLiteral("&Refresh"), this);
+  refreshButton->setObjectName(QStringLiteral("refreshButton"));
+  connect(refreshButton, &PictureButton::clicked, this, &CAccountHistoryDlg::refresh);
+  auto* row = new QHBoxLayout;
+  row->setSpacing(10);
+  row->addWidget(explanation, 1);
+  row->addWidget(exportButton);
+  row->addWidget(refreshButton);
+  return row;
+}
+
+}  // namespace parlexo
