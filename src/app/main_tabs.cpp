@@ -4,7 +4,6 @@
 #include "account/screens/receive_messages_dlg.h"
 #include "account/screens/settings_dlg.h"
 #include "addressbook/screens/contacts_page.h"
-#include "app/empty_page.h"
 #include "messaging/screens/fax_dlg.h"
 #include "messaging/screens/mms_dlg.h"
 #include "messaging/screens/send_page.h"
@@ -17,10 +16,6 @@ namespace parlexo {
 namespace {
 
 const QString statusTab = QStringLiteral("Status");
-
-MainTab tabToCome(const QString& text) {
-  return {text, [text] { return createEmptyPage(text); }};
-}
 
 // The visible tab stays: whoever has just sent a message may want to write the next one.
 void showSentMessages(SendPage& page, CStatusDlg& status) {
