@@ -108,7 +108,9 @@ QString Demo::site() const {
 QString Demo::start() {
   if (temporary_ && !temporary_->isValid()) return temporary_->errorString();
   simulator::Options options;
-  options.accounts = {{user(), password(), 100.0, true, {}}};
+  // The second one belongs to the first and has no numbers of its own.
+  options.accounts = {{user(), password(), 100.0, true, {}},
+                      {QStringLiteral("crew@") + user(), password(), 20.0, false, {}}};
   simulator_ = std::make_unique<simulator::Simulator>(options);
   if (!simulator_->start()) return simulator_->errorText();
   rememberPayments();

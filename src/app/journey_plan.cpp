@@ -15,6 +15,7 @@ const QString loginWindow = QStringLiteral("Parlexo(TM) : Login");
 const QString newsWindow = QStringLiteral("Parlexo(TM) : News");
 const QString mainWindow = QStringLiteral("Parlexo(TM) : Messaging Client");
 const QString selectionWindow = QStringLiteral("Parlexo(TM) : Contacts");
+const QString detailsWindow = QStringLiteral("Parlexo(TM) : Contact Details");
 const QString notificationWindow = QStringLiteral("Parlexo(TM) : Notification");
 
 Act press(const QString& button) {
@@ -27,6 +28,10 @@ Act turnTo(const QString& tab) {
 
 Act typeInto(const QString& label, const QString& text) {
   return [label, text](QWidget* window) { return hands::typeInto(window, label, text); };
+}
+
+Act toggle(const QString& box) {
+  return [box](QWidget* window) { return hands::toggle(window, box); };
 }
 
 Act allOf(const std::vector<Act>& acts) {
@@ -79,8 +84,22 @@ void planStatus(Plan& plan) {
   plan.push_back({QStringLiteral("status-updated"), QStringLiteral("Sees how far each one is"), mainWindow,
                   [status](QWidget* window) {
                     std::printf("    %s\n", qUtf8Printable(hands::readList(window, status, 3)));
-                    return hands::showTab(window, QStringLiteral("Receive Messages"));
+                    return hands::showTab(window, QStringLiteral("Contacts"));
                   }});
+}
+
+void planContact(Plan& plan) {
+  plan.push_back({QStringLiteral("address-book"), QStringLiteral("Looks at the contacts; makes a new one"),
+                  mainWindow, press(QStringLiteral("&New Contact..."))});
+  plan.push_back({QStringLiteral("new-contact"), QStringLiteral("Fills in name and number"), detailsWindow,
+                  allOf({typeInto(QStringLiteral("Name:"), QStringLiteral("Alma Lindqvist")),
+                         typeInto(QStringLiteral("Phone:"), QStringLiteral("+61491570157")),
+                         toggle(QStringLiteral("Supports &SMS")),
+                         typeInto(QStringLiteral("Extra 1:"), QStringLiteral("North gate"))})});
+  plan.push_back({QStringLiteral("contact-details"), QStringLiteral("Saves the contact"), detailsWindow,
+                  press(QStringLiteral("&OK"))});
+  plan.push_back({QStringLiteral("contacts-page"), QStringLiteral("Turns to the numbers for replies"),
+                  mainWindow, turnTo(QStringLiteral("Receive Messages"))});
 }
 
 void planAccount(Plan& plan) {
@@ -93,10 +112,8 @@ void planAccount(Plan& plan) {
                   QStringLiteral("Sees what the message has cost; turns to the settings"), mainWindow,
                   turnTo(QStringLiteral("Settings"))});
   plan.push_back({QStringLiteral("settings"), QStringLiteral("Lets messages be sent by e-mail"), mainWindow,
-                  allOf({[](QWidget* window) {
-                           return hands::toggle(window, QStringLiteral("Enable Email Messaging:")) &&
-                                  hands::toggle(window, QStringLiteral("Split long SMS into several SMS"));
-                         },
+                  allOf({toggle(QStringLiteral("Enable Email Messaging:")),
+                         toggle(QStringLiteral("Split long SMS into several SMS")),
                          typeInto(QStringLiteral("Identity Code:"), QStringLiteral("crew-2026"))})});
   plan.push_back({QStringLiteral("settings-page"), QStringLiteral("Saves that"), mainWindow,
                   press(QStringLiteral("&Save Changes"))});
@@ -111,6 +128,7 @@ std::vector<JourneyStep> journeyPlan(const QString& user, const QString& passwor
   planLogin(plan, user, password);
   planMessage(plan);
   planStatus(plan);
+  planContact(plan);
   planAccount(plan);
   plan.push_back(
       {QStringLiteral("end"), QStringLiteral("Leaves"), mainWindow, press(QStringLiteral("&Exit"))});
