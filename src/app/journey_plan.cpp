@@ -2,6 +2,10 @@
 
 #include <cstdio>
 
+#include <QFile>
+#include <QPainter>
+#include <QPdfWriter>
+
 #include "app/journey_hands.h"
 
 namespace parlexo {
@@ -84,8 +88,74 @@ void planStatus(Plan& plan) {
   plan.push_back({QStringLiteral("status-updated"), QStringLiteral("Sees how far each one is"), mainWindow,
                   [status](QWidget* window) {
                     std::printf("    %s\n", qUtf8Printable(hands::readList(window, status, 3)));
-                    return hands::showTab(window, QStringLiteral("Contacts"));
+                    return hands::showTab(window, QStringLiteral("WAP"));
                   }});
+}
+
+bool makePicture(const QString& path) {
+  return QFile::exists(path) || QFile::copy(QStringLiteral(":/icons/parlexo-client-256.png"), path);
+}
+
+bool makeDocument(const QString& path) {
+  QPdfWriter document(path);
+  QPainter painter;
+  if (!painter.begin(&document)) return false;
+  const QRect page(QPoint(), document.pageLayout().paintRectPixels(document.resolution()).size());
+  painter.drawText(page, Qt::AlignTop, QStringLiteral("Roster of week 31: see the notice board."));
+  return painter.end();
+}
+
+struct FileToSend {
+  QString tab;
+  QString picture;
+  QString fileLabel;
+  QString file;
+  bool (*make)(const QString& path);
+  QString noteLabel;  ///< empty where the page has none
+  QString note;
+};
+
+void planFilePage(Plan& plan, const FileToSend& page) {
+  std::vector<Act> acts = {[page](QWidget*) { return page.make(page.file); },
+                           typeInto(page.fileLabel, page.file)};
+  if (!page.noteLabel.isEmpty()) acts.push_back(typeInto(page.noteLabel, page.note));
+  plan.push_back({page.picture + QStringLiteral("-empty"),
+                  QStringLiteral("Chooses a file to send as ") + page.tab, mainWindow, allOf(acts)});
+}
+
+void planFiles(Plan& plan, const QString& folder) {
+  const QString wap = QStringLiteral("WAP");
+  const QString mms = QStringLiteral("MMS");
+  const QString fax = QStringLiteral("Fax");
+  const QString picture = folder + QStringLiteral("/parlexo.png");
+  planFilePage(plan, {wap, QStringLiteral("wap"), QStringLiteral("WAP file:"), picture, makePicture,
+                      QStringLiteral("Sender Note:"), QStringLiteral("Our new sign, for your phone.")});
+  plan.push_back({QStringLiteral("wap-page"), QStringLiteral("Turns to MMS"), mainWindow, turnTo(mms)});
+  planFilePage(plan,
+               {mms, QStringLiteral("mms"), QStringLiteral("Media file:"), picture, makePicture,
+                QStringLiteral("Description:"), QStringLiteral("Look for this sign at the north gate.")});
+  plan.push_back({QStringLiteral("mms-filled"), QStringLiteral("Opens the contacts"), mainWindow,
+                  press(QStringLiteral("&Select Contacts..."))});
+  plan.push_back({QStringLiteral("mms-contacts"), QStringLiteral("Ticks and takes a group"), selectionWindow,
+                  allOf({[](QWidget* window) {
+                           return hands::tick(window, QStringLiteral("Groups:"),
+                                              QStringLiteral("My Personal Contacts"));
+                         },
+                         press(QStringLiteral("&Select"))})});
+  plan.push_back({QStringLiteral("mms-page"), QStringLiteral("Presses Send"), mainWindow,
+                  press(QStringLiteral("S&end >"))});
+  plan.push_back({QStringLiteral("mms-sent"), QStringLiteral("Reads that it was delivered to the server"),
+                  notificationWindow, press(QStringLiteral("&OK"))});
+  plan.push_back({QStringLiteral("mms-after"), QStringLiteral("Turns to the fax"), mainWindow, turnTo(fax)});
+  planFilePage(plan, {fax,
+                      QStringLiteral("fax"),
+                      QStringLiteral("Fax file:"),
+                      folder + QStringLiteral("/roster.pdf"),
+                      makeDocument,
+                      {},
+                      {}});
+  plan.push_back({QStringLiteral("fax-page"), QStringLiteral("Turns to the contacts"), mainWindow,
+                  turnTo(QStringLiteral("Contacts"))});
 }
 
 void planContact(Plan& plan) {
@@ -123,11 +193,12 @@ void planAccount(Plan& plan) {
 
 }  // namespace
 
-std::vector<JourneyStep> journeyPlan(const QString& user, const QString& password) {
+std::vector<JourneyStep> journeyPlan(const QString& user, const QString& password, const QString& folder) {
   Plan plan;
   planLogin(plan, user, password);
   planMessage(plan);
   planStatus(plan);
+  planFiles(plan, folder);
   planContact(plan);
   planAccount(plan);
   plan.push_back(

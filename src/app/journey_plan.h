@@ -18,7 +18,8 @@ struct JourneyStep {
 };
 
 /// The way through the program that shows what it does: in with `user` and `password`, a message sent and
-/// followed, every other page looked at, and out.
-[[nodiscard]] std::vector<JourneyStep> journeyPlan(const QString& user, const QString& password);
+/// followed, every other page looked at, and out. Files to send are made in `folder`.
+[[nodiscard]] std::vector<JourneyStep> journeyPlan(const QString& user, const QString& password,
+                                                   const QString& folder);
 
 }  // namespace parlexo

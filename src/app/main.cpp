@@ -31,7 +31,7 @@ int endAtOnce(const ImmediateEnd& end) {
 
 int runJourney(const ProgramOptions& options) {
   Application client(options);
-  Journey journey(journeyPlan(Demo::user(), Demo::password()), options.journeyDir);
+  Journey journey(journeyPlan(Demo::user(), Demo::password(), options.journeyDir), options.journeyDir);
   journey.start();
   const int exitCode = client.run();
   return exitCode == 0 && !journey.succeeded() ? journeyFailed : exitCode;
