@@ -25,7 +25,11 @@ QSize PicturePreview::room() const {
 }
 
 void PicturePreview::display(QImage picture, const QString& text) {
-  if (picture.isNull()) return setText(text);
+  if (picture.isNull()) {
+    clear();  // an empty text alone would leave the picture
+    setText(text);
+    return;
+  }
   picture.setDevicePixelRatio(devicePixelRatioF());
   setPixmap(QPixmap::fromImage(std::move(picture)));
 }
