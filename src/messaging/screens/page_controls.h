@@ -1,3 +1,0 @@
-#pragma once
-
-#include "ui/page_controls.h"
