@@ -100,12 +100,5 @@ TEST_F(BalanceCheckTest, refreshIsQuietAndSetsTheZeroFlagForGood) {
   EXPECT_EQ(journal.size(), 2) << "the box goes and the failure is told";
 }
 
-TEST_F(BalanceCheckTest, zeroFlagIsNeverClearedAgain) {
-  state.balanceIsZero = true;
-  setFault(FaultKind::Code, u"getAccountBalance"_qs, 0);
-  (void)run();
-  EXPECT_TRUE(state.balanceIsZero);
-}
-
 }  // namespace
 }  // namespace parlexo

@@ -196,12 +196,18 @@ TEST_F(MainTabsTest, windowIsFoundAgainWhereItWasLeft) {
   QRect left;
   QRect found;
   const auto visit = [this](const std::function<void(CMainDlg&)>& act) {
-    QTimer::singleShot(500, &window_, [act] {
-      auto* window = qobject_cast<CMainDlg*>(QApplication::activeModalWidget());
-      ASSERT_TRUE(window);
-      act(*window);
-      window->accept();
+    QTimer user;
+    QObject::connect(&user, &QTimer::timeout, [&act] {
+      QWidget* modal = QApplication::activeModalWidget();
+      auto* window = qobject_cast<CMainDlg*>(modal);
+      if (window && window->isActiveWindow()) {
+        act(*window);
+        window->accept();
+      } else if (modal && !window) {
+        modal->close();  // a message before the window opens
+      }
     });
+    user.start(20);
     windows_.runMainWindow();
   };
   visit([&left](CMainDlg& window) {
