@@ -198,6 +198,7 @@ TEST_F(RealProxySystem, runsScriptsWithTheUsualFunctions) {
              u"PROXY p:1; DIRECT"_qs},
         {"return shExpMatch(url, '*/WSDL*') ? 'PROXY q:2' : 'DIRECT';", u"PROXY q:2"_qs},
         {"return isPlainHostName(host) ? 'PROXY p:1' : 'DIRECT';", u"DIRECT"_qs},
+        {"var end = Date.now() + 300; while (Date.now() < end) ; return 'PROXY slow:3';", u"PROXY slow:3"_qs},
         {"return isResolvable('x.invalid') ? 'PROXY p:1' : 'DIRECT';", u"DIRECT"_qs}}) {
     const QByteArray script = "function FindProxyForURL(url, host) {" + QByteArray(each.body) + "}";
     EXPECT_EQ(scriptAnswer(script), each.answer) << each.body;
