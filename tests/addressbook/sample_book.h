@@ -5,25 +5,14 @@
 #include <QString>
 #include <QStringList>
 
-#include "base/notifier.h"
 #include "contacts/address_book.h"
 #include "contacts/contact_record.h"
 #include "contacts/item_database.h"
 #include "contacts/item_index_cache.h"
 #include "contacts/lock_waiter.h"
+#include "tests/base/recording_notifier.h"
 
 namespace parlexo::test {
-
-/// Remembers what it was asked to show.
-class RecordingNotifier final : public Notifier {
- public:
-  MessageResult show(const QString& text, unsigned, int) override {
-    texts << text;
-    return MessageResult::Ok;
-  }
-
-  QStringList texts;
-};
 
 /// An address book in memory, filled contact by contact and group by group.
 class SampleBook {

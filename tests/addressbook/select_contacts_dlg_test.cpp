@@ -21,7 +21,6 @@ namespace parlexo {
 namespace {
 
 using test::FivePeople;
-using test::RecordingNotifier;
 using test::SampleBook;
 
 /// The contact selection dialog on the screen, and a user's hands.
@@ -314,14 +313,14 @@ TEST_F(SelectByExtraDlg, nothingChosenIsToldAndKeepsTheDialogOpen) {
   EXPECT_EQ(dialog.windowTitle(), "Parlexo(TM) : Contact Details");
   QTest::mouseClick(dialog.findChild<QAbstractButton*>("selectButton"), Qt::LeftButton);
   EXPECT_TRUE(dialog.isVisible());
-  EXPECT_EQ(notifier_.texts,
-            QStringList("You have not selected one or more Extra properties you would like to "
+  EXPECT_EQ(notifier_.takeLines(),
+            QStringList("48 You have not selected one or more Extra properties you would like to "
                         "filter your Contacts on."));
   // A value that was clicked twice is not chosen either.
   clickValue(dialog, "extra1List", "Perth");
   clickValue(dialog, "extra1List", "Perth");
   QTest::mouseClick(dialog.findChild<QAbstractButton*>("selectButton"), Qt::LeftButton);
-  EXPECT_EQ(notifier_.texts.size(), 2);
+  EXPECT_EQ(notifier_.shown.size(), 1);
   EXPECT_TRUE(dialog.contacts().empty());
 }
 

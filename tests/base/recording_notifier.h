@@ -5,6 +5,7 @@
 #include <vector>
 
 #include <QString>
+#include <QStringList>
 
 #include "base/notifier.h"
 
@@ -33,6 +34,14 @@ class RecordingNotifier final : public Notifier {
     for (const Shown& message : shown) texts.push_back(message.text.toStdString());
     shown.clear();
     return texts;
+  }
+
+  /// The same with their styles in front, such as "16 text".
+  [[nodiscard]] QStringList takeLines() {
+    QStringList lines;
+    for (const Shown& message : std::exchange(shown, {}))
+      lines << QString::number(message.style) + u' ' + message.text;
+    return lines;
   }
 
   std::vector<Shown> shown;

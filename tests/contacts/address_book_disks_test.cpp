@@ -55,7 +55,7 @@ class AddressBookOnDisk : public AddressBookFixture {
     return book_.saveContact(contact);
   }
   QByteArray fileOf(const QString& name) const { return readBytes(pathOf(name)); }
-  QStringList takeMessages() { return std::exchange(notifier_.shown, {}); }
+  QStringList takeMessages() { return notifier_.takeLines(); }
   // What a program that starts now finds.
   bool startsAgain(const QString& folder) {
     indexes_.dropAllItemIndexes();

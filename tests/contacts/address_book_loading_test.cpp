@@ -40,7 +40,7 @@ TEST_F(AddressBookLoading, ofEmptyFolderYieldsThePersonalGroup) {
   EXPECT_EQ(readBytes(pathOf(contactsFile)), "");
   EXPECT_THAT(progress_.texts, ElementsAre(QStringLiteral("Loading all Contacts..."),
                                            QStringLiteral("Loading Group \"My Personal Contacts\"...")));
-  EXPECT_THAT(notifier_.shown, IsEmpty());
+  EXPECT_THAT(notifier_.takeLines(), IsEmpty());
 }
 
 TEST_F(AddressBookLoading, skipsDeletedContactsAndTakesTheLaterOfTwo) {
@@ -86,7 +86,7 @@ TEST_F(AddressBookLoading, marksMembersWithoutContactAsDeleted) {
   EXPECT_EQ(readBytes(pathOf(QStringLiteral("Team.grp"))),
             deletedRecord(gone) + ann + deletedRecord(wrongCase));
   EXPECT_EQ(book_.findGroup(QStringLiteral("Team"))->members().size(), 1U);
-  EXPECT_THAT(notifier_.shown, IsEmpty());
+  EXPECT_THAT(notifier_.takeLines(), IsEmpty());
 }
 
 TEST_F(AddressBookLoading, tellsOfEachMemberThatCannotBeCleanedAwayAndGoesOn) {
@@ -105,7 +105,7 @@ TEST_F(AddressBookLoading, tellsOfEachMemberThatCannotBeCleanedAwayAndGoesOn) {
             orphans.first(memberRecordSize) + deletedRecord(packMember(QStringLiteral("Lost"))));
   EXPECT_EQ(readBytes(pathOf(QStringLiteral("Zebras.grp"))),
             deletedRecord(packMember(QStringLiteral("Gone"))));
-  EXPECT_THAT(notifier_.shown,
+  EXPECT_THAT(notifier_.takeLines(),
               ElementsAre(QStringLiteral("16 There was a problem deleting a contact from your database. "
                                          "Error=[deleteItem:1 - Database access share error!]")));
 }
@@ -125,7 +125,7 @@ TEST_F(AddressBookLoading, ofMissingFolderTellsThePersonalGroupFirst) {
   AddressBook book(folder, database_, notifier_);
   EXPECT_FALSE(book.loadAll(progress_));
   ASSERT_EQ(notifier_.shown.size(), 2);
-  EXPECT_EQ(notifier_.shown.first(),
+  EXPECT_EQ(notifier_.takeLines().first(),
             QStringLiteral("0 Can't create the personal contacts database: ") + folder +
                 QStringLiteral("/My Personal Contacts.grp Error=[createDb:1 - Can't create the database!]"));
 }

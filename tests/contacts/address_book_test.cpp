@@ -36,7 +36,7 @@ TEST_F(AddressBookChanges, areWrittenThroughAtOnce) {
   EXPECT_EQ(fileOf(contactsFile), packContact(contact(ann)) + packContact(contact(ben)));
   EXPECT_EQ(fileOf(teamFile_), packMember(ann) + packMember(ben));
   EXPECT_EQ(book_.findGroup(team)->members().size(), 2U);
-  EXPECT_THAT(notifier_.shown, IsEmpty());
+  EXPECT_THAT(notifier_.takeLines(), IsEmpty());
 }
 
 TEST_F(AddressBookChanges, ofKnownContactKeepItsAddressAndGroups) {

@@ -90,7 +90,7 @@ TEST_F(GoldenFiles, areReadAsMeant) {
   for (const QString& name : {zoe, full, QStringLiteral("Rubbish")})
     EXPECT_EQ(book_.findGroup(oddTeam)->members().at(name), book_.findContact(name));
   EXPECT_TRUE(book_.findGroup(QStringLiteral("a%"))->contains(every));
-  EXPECT_THAT(notifier_.shown, IsEmpty());
+  EXPECT_THAT(notifier_.takeLines(), IsEmpty());
 }
 
 TEST_F(GoldenFiles, readingChangesNoByte) {

@@ -34,7 +34,7 @@ TEST_F(SampleFolder, loadsBackWholeAndIsNotOverwritten) {
   EXPECT_EQ(book.groups().size(), 13U);
   EXPECT_EQ(book.findGroup(QStringLiteral("Customers"))->members().size(), 150U);
   EXPECT_EQ(book.findGroup(QStringLiteral("My Personal Contacts"))->members().size(), 8U);
-  EXPECT_TRUE(notifier_.shown.isEmpty());
+  EXPECT_TRUE(notifier_.shown.empty());
 
   EXPECT_TRUE(writeSampleFolder(folder, 5, 0).contains(QStringLiteral("already")));
   EXPECT_EQ(readBytes(folder + QStringLiteral("/All Contacts.all_grp")).size(), 300 * 512);

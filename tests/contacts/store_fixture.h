@@ -11,10 +11,10 @@
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
-#include "base/notifier.h"
 #include "base/progress.h"
 #include "contacts/address_book.h"
 #include "contacts/item_database.h"
+#include "tests/base/recording_notifier.h"
 
 /// Lets a failed comparison show texts as texts.
 inline void PrintTo(const QString& text, std::ostream* out) {
@@ -43,16 +43,6 @@ class FakeWaiter final : public LockWaiter {
 
  private:
   qint64 halfSeconds_ = 0;
-};
-
-class RecordingNotifier final : public Notifier {
- public:
-  MessageResult show(const QString& text, unsigned style, int /*suppressibleNumber*/ = 0) override {
-    shown.append(QString::number(style) + u' ' + text);
-    return MessageResult::Ok;
-  }
-
-  QStringList shown;  ///< style and text
 };
 
 class RecordingProgress final : public Progress {
