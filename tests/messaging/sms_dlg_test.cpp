@@ -19,7 +19,7 @@
 #include "messaging/screens/save_template_dlg.h"
 #include "messaging/screens/schedule_dlg.h"
 #include "messaging/screens/sender_id_dlg.h"
-#include "tests/messaging/gateway_rig.h"
+#include "tests/messaging/page_rig.h"
 #include "ui/hyperlink_label.h"
 #include "ui/picture_button.h"
 
@@ -30,28 +30,17 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::SizeIs;
 
-/// The SMS page on the screen, and a user's hands.
-class SmsPage : public testing::Test, protected GatewayRig {
+class SmsPage : public PageRig<CQuillonSMSDlg> {
  protected:
   SmsPage() {
     book.addContact("Ann", "+61491570156", "Y");
     book.addContact("Lee, Bob", "+60312345678", "Y");
     book.addContact("Local", "0491570156", "Y");
     book.addContact("Mute", "+861012345678", "N");
-    page.show();
-    page.activateWindow();
-    (void)QTest::qWaitForWindowActive(&page);
   }
 
-  template <class Widget>
-  Widget& find(const char* name) {
-    auto* widget = page.findChild<Widget*>(QString::fromLatin1(name));
-    if (!widget) qFatal("no %s", name);
-    return *widget;
-  }
   MessageEdit& editor() { return find<MessageEdit>("messageEdit"); }
   QListView& contactsBox() { return find<QListView>("contactsBox"); }
-  void press(const char* name) { QTest::mouseClick(&find<PictureButton>(name), Qt::LeftButton); }
   void choose(const char* name) { find<QRadioButton>(name).setChecked(true); }
   void paste(const QString& text) {
     QGuiApplication::clipboard()->setText(text);
@@ -61,33 +50,6 @@ class SmsPage : public testing::Test, protected GatewayRig {
     return (find<QLineEdit>("totalSms").text() + u'/' + find<QLineEdit>("charactersRemaining").text())
         .toStdString();
   }
-
-  // Presses a button and does `work` in the dialog that opens.
-  template <class Dialog>
-  void inDialog(const char* button, const std::function<void(Dialog&)>& work) {
-    QTimer::singleShot(0, &page, [&work, button] {
-      auto* dialog = qobject_cast<Dialog*>(QApplication::activeModalWidget());
-      if (!dialog) qFatal("%s opens no such dialog", button);
-      work(*dialog);
-    });
-    press(button);
-  }
-  void inSelection(const std::function<void(CSelectContactsDlg&)>& work) {
-    inDialog("selectContactsButton", work);
-  }
-  // Ticks exactly these contacts and closes with Select.
-  void select(const QStringList& names) {
-    inSelection([&names](CSelectContactsDlg& dialog) {
-      QAbstractItemModel& model = *dialog.findChild<QAbstractItemView*>("contactList")->model();
-      for (int row = 0; row < model.rowCount(); ++row) {
-        const bool wanted = names.contains(model.index(row, 1).data().toString());
-        model.setData(model.index(row, 0), wanted ? Qt::Checked : Qt::Unchecked, Qt::CheckStateRole);
-      }
-      dialog.accept();
-    });
-  }
-
-  CQuillonSMSDlg page{services()};
 };
 
 TEST_F(SmsPage, countersFollowEveryKeyAndCharacterSet) {

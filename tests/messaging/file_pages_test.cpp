@@ -1,0 +1,234 @@
+#include <memory>
+
+#include <QBuffer>
+#include <QCryptographicHash>
+#include <QDir>
+#include <QDropEvent>
+#include <QFile>
+#include <QFileDialog>
+#include <QImage>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMimeData>
+#include <QSignalSpy>
+#include <gmock/gmock.h>
+
+#include "messaging/screens/fax_dlg.h"
+#include "messaging/screens/file_look.h"
+#include "messaging/screens/message_edit.h"
+#include "messaging/screens/mms_dlg.h"
+#include "messaging/screens/picture_preview.h"
+#include "messaging/screens/wap_dlg.h"
+#include "tests/messaging/page_rig.h"
+
+namespace parlexo {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+using testing::SizeIs;
+
+template <class Page>
+class FilePages : public PageRig<Page> {
+ protected:
+  FilePages() {
+    this->state.gateway.maxFileSize = 2000;
+    this->state.gateway.maxFileSizeMobile = 1000;
+    this->book.addContact("Ann", "+61491570156", "Y", "Y", "+61255501234");
+    this->book.addContact("Fax Only", "", "N", "N", "+61255505678");
+    this->page.refresh();
+  }
+
+  QString write(const QString& name, const QByteArray& bytes) {
+    QFile chosenFile(this->folder.filePath(name));
+    if (!chosenFile.open(QIODevice::WriteOnly) || chosenFile.write(bytes) != bytes.size()) qFatal("no disk");
+    return chosenFile.fileName();
+  }
+  QLineEdit& path() { return this->template find<QLineEdit>("filePath"); }
+  QString facts() { return this->template find<QLabel>("fileFacts").text(); }
+  /// What the line below the path says once the file has been looked at.
+  std::string factsOf(const QString& chosenFile) {
+    path().setText(chosenFile);
+    (void)QTest::qWaitFor([this] { return facts() != QLatin1String(" "); });
+    return facts().toStdString();
+  }
+  bool drop(const QList<QUrl>& urls) {
+    QMimeData data;
+    data.setUrls(urls);
+    QDragEnterEvent enter(QPoint(5, 5), Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton, {});
+    enter.ignore();
+    QApplication::sendEvent(&this->page, &enter);
+    if (!enter.isAccepted()) return false;
+    QDropEvent drop(QPointF(5, 5), Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton, {});
+    QApplication::sendEvent(&this->page, &drop);
+    EXPECT_EQ(drop.dropAction(), Qt::CopyAction) << "the file must stay where it is";
+    return true;
+  }
+};
+
+using AllPages = testing::Types<CQuillonFaxDlg, CQuillonMMSDlg, CQuillonWAPDlg>;
+TYPED_TEST_SUITE(FilePages, AllPages);
+
+TYPED_TEST(FilePages, clearThemselvesAfterASendThatSucceededAndOnlyThen) {
+  QSignalSpy sent(&this->page, &SendPage::messageSent);
+  auto* note = this->page.template findChild<MessageEdit*>();
+  const QString chosenFile = this->write("photo.jpg", "bytes");
+  this->select({"Ann"});
+  if (note) note->setText(QStringLiteral("Look"));
+  this->path().setText(chosenFile);
+  this->misbehave(simulator::FaultKind::Code, QStringLiteral("any"), 12);
+  this->press("sendButton");
+  this->simulator.clearFaults();
+  EXPECT_THAT(sent, IsEmpty());
+  EXPECT_EQ(this->page.draft().path, chosenFile);
+  EXPECT_EQ(this->page.draft().note, note ? "Look" : "");
+  EXPECT_NE(this->page.draft().displayList, "");
+  this->press("sendButton");
+  ASSERT_THAT(sent, SizeIs(1));
+  EXPECT_EQ(sent.at(0).at(0).toString(), this->page.typeWord());
+  EXPECT_EQ(this->page.draft().path, "");
+  EXPECT_EQ(this->page.draft().note, "");
+  EXPECT_EQ(this->page.draft().displayList, "");
+  EXPECT_EQ(wordFor(this->simulator.messages().at(0).type), this->page.typeWord());
+}
+
+TYPED_TEST(FilePages, noticeStandsAfterASendWithoutAnAnswer) {
+  this->select({"Ann"});
+  this->path().setText(this->write("photo.jpg", "bytes"));
+  this->misbehave(simulator::FaultKind::Close, QStringLiteral("any"));
+  this->press("sendButton");
+  EXPECT_TRUE(this->template find<QLabel>("unansweredNotice").isVisible());
+}
+
+TYPED_TEST(FilePages, tellAboutTheFileAndWhatHasBecomeOfIt) {
+  const bool isFax = this->page.typeWord() == "Fax";
+  EXPECT_EQ(this->facts(), isFax ? "Choose a file of at most 2 KB, or drop one here."
+                                 : "Choose a file of at most 1,000 bytes, or drop one here.");
+  const QString chosenFile = this->write("photo.jpg", QByteArray(700, 'x'));
+  EXPECT_THAT(this->factsOf(chosenFile), testing::StartsWith("photo.jpg: 700 bytes of at most "));
+  QFile::remove(chosenFile);
+  this->press("sendButton");
+  EXPECT_TRUE(QTest::qWaitFor([this] { return this->facts() == "There is no such file."; }));
+}
+
+TYPED_TEST(FilePages, takeOneDroppedFileAndNothingElse) {
+  const QUrl chosenFile = QUrl::fromLocalFile(this->write(QString::fromUtf8("Gr\u00FC\u00DFe \u4F60"), "x"));
+  EXPECT_FALSE(this->drop({chosenFile, chosenFile}));
+  EXPECT_FALSE(this->drop({QUrl::fromLocalFile(this->folder.path())}));
+  EXPECT_FALSE(this->drop({QUrl(QStringLiteral("https://www.parlexo.example/a.jpg"))}));
+  EXPECT_EQ(this->path().text(), "");
+  EXPECT_TRUE(this->drop({chosenFile}));
+  EXPECT_EQ(this->path().text(), chosenFile.toLocalFile());
+  EXPECT_EQ(this->settings.fileFolder(), this->folder.path());
+}
+
+TYPED_TEST(FilePages, browsingBeginsInTheFolderOfTheLastChoice) {
+  const QString chosen = this->write("README", "a name without a dot");
+  const auto browse = [&](const QString& expectedFolder) {
+    this->template inDialog<QFileDialog>("browseButton", [&](QFileDialog& dialog) {
+      EXPECT_EQ(dialog.directory().absolutePath(), expectedFolder);
+      dialog.setDirectory(this->folder.path());
+      dialog.selectFile(chosen);
+      static_cast<QDialog&>(dialog).done(QDialog::Accepted);
+    });
+  };
+  browse(QDir::homePath());
+  EXPECT_EQ(this->path().text(), chosen);
+  browse(this->folder.path());
+}
+
+class FaxPage : public FilePages<CQuillonFaxDlg> {};
+
+TEST_F(FaxPage, sendsToFaxNumbersAndTellsThePages) {
+  select({"Ann", "Fax Only"});
+  EXPECT_THAT(notifier.takeTexts(), IsEmpty());
+  EXPECT_EQ(page.draft().displayList, "Ann [+61255501234],Fax Only [+61255505678]");
+  EXPECT_EQ(page.draft().numbersList, "+61255501234,+61255505678");
+  EXPECT_THAT(
+      factsOf(write("one.pdf",
+                    "%PDF-1.4\n1 0 obj<</Type/Catalog/Pages 2 0 R>>endobj\n2 0 obj<</Type/Pages/Count "
+                    "1/Kids[3 0 R]>>endobj\n3 0 obj<</Type/Page/Parent 2 0 R/MediaBox[0 0 9 "
+                    "9]>>endobj\ntrailer<</Root 1 0 R>>\n")),
+      testing::EndsWith(" of at most 2 KB, 1 page"));
+}
+
+class WapPage : public FilePages<CQuillonWAPDlg> {};
+
+TEST_F(WapPage, countsItsNoteAndSetsNoSenderId) {
+  auto& note = find<MessageEdit>("noteEdit");
+  const auto& remaining = find<QLineEdit>("charactersRemaining");
+  EXPECT_EQ(remaining.text(), "120");
+  QTest::keyClicks(&note, "Hi");
+  EXPECT_EQ(remaining.text(), "118");
+  QTest::keyClicks(&note, QString(130, QChar(u'x')));
+  EXPECT_EQ(remaining.text(), "0");
+  EXPECT_EQ(page.draft().note.size(), 120);
+  EXPECT_FALSE(page.findChild<PictureButton*>("senderIdButton"));
+  select({"Ann"});
+  path().setText(write("page.wml", "x"));
+  press("sendButton");
+  EXPECT_EQ(remaining.text(), "120");
+}
+
+class MmsPage : public FilePages<CQuillonMMSDlg> {
+ protected:
+  static QByteArray pictureOf(QSize size, const char* format, QImage::Format pixels = QImage::Format_RGB32) {
+    QImage image(size, pixels);
+    image.fill(1);
+    QBuffer buffer;
+    image.save(&buffer, format);
+    return buffer.data();
+  }
+};
+
+TEST_F(MmsPage, descriptionThatIsTooLongCanBeTypedAndIsRefused) {
+  EXPECT_TRUE(page.findChild<PictureButton*>("senderIdButton"));
+  select({"Ann"});
+  path().setText(write("photo.jpg", "x"));
+  auto& note = find<MessageEdit>("noteEdit");
+  note.setPlainText(QString(10'240, QChar(u'x')));
+  QTest::keyClicks(&note, "y");
+  press("sendButton");
+  EXPECT_THAT(notifier.takeTexts(), ElementsAre("Description must be 10Kb or less"));
+  QTest::keyClick(&note, Qt::Key_Backspace);
+  press("sendButton");
+  EXPECT_EQ(simulator.messages().at(0).text.size(), 10'240);
+}
+
+TEST_F(MmsPage, previewShowsAPictureUntilThePathChanges) {
+  auto& preview = find<PicturePreview>("picturePreview");
+  EXPECT_NE(factsOf(write("tall.png", pictureOf({40, 4000}, "png"))), "");
+  ASSERT_FALSE(preview.pixmap().isNull());
+  EXPECT_EQ(preview.pixmap().height(), preview.room().height());
+  path().clear();
+  EXPECT_TRUE(preview.pixmap().isNull());
+  EXPECT_NE(factsOf(write("text.png", "no picture")), "");
+  EXPECT_EQ(preview.text(), "No preview");
+}
+
+TEST_F(MmsPage, smallPicturesAreMadeOfPicturesOnly) {
+  const QByteArray png = pictureOf({300, 200}, "png");
+  const QByteArray svg = "<svg xmlns='http://www.w3.org/2000/svg' width='9' height='9'/>";
+  const struct {
+    const char* what;
+    QByteArray content;
+    QSize size;
+  } samples[] = {
+      {"PNG", png, {100, 66}},
+      {"JPEG", pictureOf({200, 300}, "jpeg"), {53, 80}},
+      {"BMP that fits", pictureOf({30, 20}, "bmp"), {30, 20}},
+      {"sliver", pictureOf({2000, 1}, "png"), {100, 1}},
+      {"PNG cut off in its head", png.left(20), {0, 0}},
+      {"PNG of few bytes and many pixels", pictureOf({8000, 6000}, "png", QImage::Format_Mono), {0, 0}},
+      {"drawing", svg, {0, 0}},
+      {"nothing", "", {0, 0}},
+  };
+  for (const auto& sample : samples) {
+    const QImage picture = smallPicture(write("picture.png", sample.content), {100, 80});
+    EXPECT_EQ(picture.size(), sample.size) << sample.what;
+  }
+  EXPECT_TRUE(smallPicture(folder.path(), {100, 80}).isNull());
+}
+
+}  // namespace
+}  // namespace parlexo
