@@ -50,10 +50,8 @@ QLayout* CLoadTemplateDlg::createButtons() {
   auto* row = new QHBoxLayout;
   row->addStretch(1);
   const auto button = [&](const QString& text, const QString& name, auto action) {
-    auto* created = new PictureButton(text, this);
-    created->setObjectName(name);
+    PictureButton* created = addButton(*row, name, text);
     connect(created, &PictureButton::clicked, this, action);
-    row->addWidget(created);
     return created;
   };
   button(QStringLiteral("&Load"), QStringLiteral("loadButton"), &QDialog::accept)->setDefault(true);

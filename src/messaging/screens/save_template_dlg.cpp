@@ -17,17 +17,13 @@ namespace parlexo {
 namespace {
 
 QLayout* saveTemplateButtons(QDialog& dialog) {
-  auto* save = new PictureButton(QStringLiteral("&Save"), &dialog);
-  save->setObjectName(QStringLiteral("saveButton"));
-  save->setDefault(true);
-  QObject::connect(save, &PictureButton::clicked, &dialog, &QDialog::accept);
-  auto* cancel = new PictureButton(QStringLiteral("&Cancel"), &dialog);
-  cancel->setObjectName(QStringLiteral("cancelButton"));
-  QObject::connect(cancel, &PictureButton::clicked, &dialog, &QDialog::reject);
   auto* row = new QHBoxLayout;
   row->addStretch(1);
-  row->addWidget(save);
-  row->addWidget(cancel);
+  PictureButton* save = addButton(*row, QStringLiteral("saveButton"), QStringLiteral("&Save"));
+  save->setDefault(true);
+  QObject::connect(save, &PictureButton::clicked, &dialog, &QDialog::accept);
+  PictureButton* cancel = addButton(*row, QStringLiteral("cancelButton"), QStringLiteral("&Cancel"));
+  QObject::connect(cancel, &PictureButton::clicked, &dialog, &QDialog::reject);
   return row;
 }
 
