@@ -92,12 +92,14 @@ TEST(SelectionLists, groupTicksAndUnticksItsEligibleMembersOnly) {
   EXPECT_TRUE(lists.isGroupTicked(team));
   EXPECT_FALSE(lists.isGroupTicked(rowOfGroup(lists, "all")));
   EXPECT_EQ(namesOf(lists.tickedContacts()), QStringList({"Ann", "eva"}));
+  EXPECT_EQ(lists.tickedCount(), 2) << "contacts, not groups";
   EXPECT_EQ(changed.first, 0);
   EXPECT_EQ(changed.last, 1);
   // The group's new state counts, also for members that were ticked by themselves or by another group.
   lists.setGroupTicked(rowOfGroup(lists, "all"), true);
   lists.setGroupTicked(team, false);
   EXPECT_TRUE(lists.tickedContacts().isEmpty());
+  EXPECT_EQ(lists.tickedCount(), 0);
 }
 
 TEST(SelectionLists, groupWithoutEligibleMembersChangesNothing) {
