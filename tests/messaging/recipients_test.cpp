@@ -82,6 +82,19 @@ TEST_F(RecipientsTest, removalAfterATemplateTakesOnlyNumbersThatMatch) {
   EXPECT_EQ(lists(), " | +1,+1");
 }
 
+TEST_F(RecipientsTest, repeatsGoFromBothListsAlike) {
+  select({contact("Ann", "+1"), contact("Bob", "+2"), contact("Cy", "+1"), contact("Di", "+1"),
+          contact("Ed", "+2"), contact("Flo", "+3")});
+  EXPECT_EQ(recipients_.repeatedNumberCount(), 2);
+  recipients_.setEntries(QStringLiteral("Zoe [+5]"));
+  recipients_.removeRepeats();
+  EXPECT_EQ(lists(), "Zoe [+5] | +1,+2,+1,+1,+2,+3") << "which entry would go with a number is unknown";
+  recipients_.setEntries(QStringLiteral("a [+6],b [+7],c [+8],d [+9],e [+10],f [+11]"));
+  recipients_.removeRepeats();
+  EXPECT_EQ(lists(), "a [+6],b [+7],f [+11] | +1,+2,+3");
+  EXPECT_EQ(recipients_.repeatedNumberCount(), 0);
+}
+
 TEST_F(RecipientsTest, removalKeepsTenThousandRecipientsInStep) {
   std::vector<ContactRecord> many;
   for (int i = 0; i < 10'000; ++i) {

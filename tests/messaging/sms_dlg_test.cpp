@@ -329,6 +329,7 @@ TEST_F(SmsPage, templateKeepsTextAndBoxAndBringsThemBack) {
   EXPECT_EQ(page.draft().displayList, "Ann [+61491570156],Lee, Bob [+60312345678]");
   EXPECT_EQ(page.draft().numbersList, "+61491570156") << "a template leaves the numbers alone";
   EXPECT_EQ(counters(), "1/331");
+  EXPECT_EQ(find<QLabel>("recipientCount").text(), "2 recipients shown, sending to the 1 selected before");
 }
 
 TEST_F(SmsPage, standardTemplateThatUnicodeCantHoldChoosesStandard) {
@@ -353,6 +354,48 @@ TEST_F(SmsPage, standardTemplateThatUnicodeCantHoldChoosesStandard) {
     EXPECT_EQ(counters(), shown) << text.toStdString();
     EXPECT_THAT(notifier.takeTexts(), SizeIs(1));
   }
+}
+
+TEST_F(SmsPage, linesBelowTheMessageTellPartAndWhatCantBeSent) {
+  const auto& part = find<QLabel>("messagePart");
+  const auto& lacking = find<QLabel>("unsendableCharacters");
+  auto& toUnicode = find<HyperlinkLabel>("switchToUnicode");
+  paste(QString(200, QChar(u'x')));
+  EXPECT_EQ(part.text(), "Cursor in part 2 of 2");
+  editor().moveCursor(QTextCursor::Start);
+  EXPECT_EQ(part.text(), "Cursor in part 1 of 2");
+  EXPECT_FALSE(toUnicode.isVisible());
+  paste(QString::fromUtf8("\u4F60\u597D"));
+  EXPECT_EQ(lacking.text(), QString::fromUtf8("Will be sent as \"?\":  \u4F60  \u597D"));
+  paste(QString(134, QChar(u'y')));
+  EXPECT_FALSE(toUnicode.isVisible()) << "336 characters are one too many";
+  editor().undo();
+  ASSERT_TRUE(toUnicode.isVisible());
+  QTest::mouseClick(&toUnicode, Qt::LeftButton);
+  EXPECT_EQ(page.draft().charset, SmsCharset::Unicode);
+  EXPECT_EQ(lacking.text(), "");
+  EXPECT_EQ(counters(), "4/133");
+  EXPECT_THAT(notifier.takeTexts(), IsEmpty());
+}
+
+TEST_F(SmsPage, countLineOffersToRemoveRepeatsWhileBothListsMatch) {
+  book.addContact("Ann at work", "+61491570156", "Y");
+  const auto& count = find<QLabel>("recipientCount");
+  auto& repeats = find<HyperlinkLabel>("removeRepeats");
+  EXPECT_EQ(count.text(), "No recipients");
+  select({"Ann", "Lee, Bob", "Ann at work"});
+  EXPECT_EQ(count.text(), "3 recipients, 1 number occurs more than once");
+  ASSERT_TRUE(repeats.isVisible());
+  press("clearContactsButton");
+  EXPECT_EQ(count.text(), "No recipients");
+  EXPECT_FALSE(repeats.isVisible());
+  select({"Ann", "Lee, Bob", "Ann at work"});
+  QTest::mouseClick(&repeats, Qt::LeftButton);
+  EXPECT_THAT(notifier.takeTexts(), IsEmpty());
+  EXPECT_EQ(page.draft().displayList, "Ann [+61491570156],Lee, Bob [+60312345678]");
+  EXPECT_EQ(page.draft().numbersList, "+61491570156,+60312345678");
+  EXPECT_EQ(count.text(), "2 recipients");
+  EXPECT_FALSE(repeats.isVisible());
 }
 
 TEST_F(SmsPage, tabKeyFollowsTheReadingOrder) {

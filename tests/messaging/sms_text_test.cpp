@@ -112,5 +112,42 @@ TEST(SmsText, aHugePasteOfDoubleCharactersIsCutToItsLimit) {
   EXPECT_EQ(composeSms(paste, standard).editorText.size(), 380);
 }
 
+TEST(SmsParts, cursorIsInThePartOfTheCharacterBeforeIt) {
+  const struct {
+    QString text;
+    SmsCharset charset;
+    qsizetype cursor;
+    SmsPart part;
+  } samples[] = {{{}, standard, 0, {1, 1}},
+                 {repeated(160), standard, 160, {1, 1}},
+                 {repeated(161), standard, 0, {1, 2}},
+                 {repeated(161), standard, 152, {1, 2}},
+                 {repeated(161), standard, 153, {2, 2}},
+                 {repeated(304), standard, 304, {2, 2}},
+                 {repeated(100, U'~'), standard, 76, {1, 2}},
+                 {repeated(100, U'~'), standard, 77, {2, 2}},
+                 {repeated(335), unicode, 335, {5, 5}},
+                 {repeated(71), unicode, 68, {2, 2}}};
+  for (const auto& [text, charset, cursor, part] : samples)
+    EXPECT_EQ(partAt(text, charset, cursor), part) << text.size() << " at " << cursor;
+}
+
+TEST(UnsendableCharacters, areListedOnceAsTheReaderSeesThem) {
+  const QString family = QString::fromUtf8("\U0001F468\u200D\U0001F469");
+  EXPECT_EQ(unsendableCharacters(QString::fromUtf8("\u4F60a\u20AC\u00E9\u4F60\u200B\u0161 ") + family),
+            QStringList({QString::fromUtf8("\u4F60"), "U+200B", family}));
+  EXPECT_EQ(unsendableCharacters(QString::fromUtf8("e\u0301")), QStringList(QString::fromUtf8("e\u0301")));
+  EXPECT_TRUE(unsendableCharacters(QString::fromUtf8("tab\tline\r\n[\u0081]")).isEmpty());
+}
+
+TEST(UnicodeForm, isReadBackOnlyWhenWhole) {
+  const QString text = QString::fromUtf8("A\u4F60\U0001F600");
+  EXPECT_EQ(decodedUnicodeSms(composeSms(text, unicode).transmitText), text);
+  EXPECT_EQ(decodedUnicodeSms("%%UNICODE%%4f60"), QString::fromUtf8("\u4F60"));
+  for (const char* other : {"", "0048", "%%UNICODE%%", "%%UNICODE%%004", "%%UNICODE%%00480",
+                            "%%UNICODE%%00G8", "%%UNICODE%%0048 0049", "x%%UNICODE%%0048", "%%unicode%%0048"})
+    EXPECT_EQ(decodedUnicodeSms(other), std::nullopt) << other;
+}
+
 }  // namespace
 }  // namespace parlexo

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include <QHash>
+#include <QSet>
 
 namespace parlexo {
 namespace {
@@ -73,6 +74,26 @@ void Recipients::remove(const std::vector<int>& indexes) {
   eraseMarked(entries_, marked);
 }
 
+int Recipients::repeatedNumberCount() const {
+  QSet<QString> seen;
+  QSet<QString> repeated;
+  for (const QString& number : numbers_) (seen.contains(number) ? repeated : seen).insert(number);
+  return static_cast<int>(repeated.size());
+}
+
+void Recipients::removeRepeats() {
+  if (!haveEqualCounts()) return;
+  QSet<QString> seen;
+  std::vector<bool> isRepeat;
+  isRepeat.reserve(entries_.size());
+  for (const QString& number : numbers_) {
+    isRepeat.push_back(seen.contains(number));
+    seen.insert(number);
+  }
+  eraseMarked(numbers_, isRepeat);
+  eraseMarked(entries_, isRepeat);
+}
+
 void Recipients::setEntries(const QString& displayList) {
   entries_.clear();
   qsizetype begin = 0;
@@ -90,6 +111,10 @@ QString Recipients::displayList() const {
   texts.reserve(static_cast<qsizetype>(entries_.size()));
   for (const Recipient& entry : entries_) texts.append(entry.text());
   return texts.join(QChar(u','));
+}
+
+bool Recipients::haveEqualCounts() const {
+  return static_cast<qsizetype>(entries_.size()) == numbers_.size();
 }
 
 bool Recipients::listsAgree() const {

@@ -39,6 +39,12 @@ class Recipients {
   /// each, if there is one.
   void remove(const std::vector<int>& indexes);
 
+  /// How many different numbers would get the message more than once.
+  [[nodiscard]] int repeatedNumberCount() const;
+  /// Removes every number that stands further ahead already, and the entry at the same place. Does nothing
+  /// while there are not as many entries as numbers, since nobody could tell which belong together.
+  void removeRepeats();
+
   /// Empties the Contacts box; the numbers stay until the next selection.
   void clearEntries() { entries_.clear(); }
 
@@ -55,9 +61,12 @@ class Recipients {
   /// The numbers joined by single commas, as the gateway takes them.
   [[nodiscard]] QString numbersList() const { return numbers_.join(QChar(u',')); }
 
- private:
+  /// Whether there are as many entries as numbers.
+  [[nodiscard]] bool haveEqualCounts() const;
+  /// Whether the entries show exactly the numbers that are sent.
   [[nodiscard]] bool listsAgree() const;
 
+ private:
   std::vector<Recipient> entries_;
   QStringList numbers_;
 };

@@ -3,6 +3,9 @@
 #include <algorithm>
 #include <string_view>
 
+#include <QSet>
+#include <QTextBoundaryFinder>
+
 #include "base/code_page.h"
 
 namespace parlexo {
@@ -19,8 +22,25 @@ int units(QStringView text) {
   return static_cast<int>(bytes.size() + escaped);
 }
 
+// What a text counts in the character set's own measure.
+int countOf(QStringView text, SmsCharset charset) {
+  return charset == SmsCharset::Standard ? units(text) : static_cast<int>(text.size());
+}
+
+int roundedUp(int count, int divisor) {
+  return (count + divisor - 1) / divisor;
+}
+
 int partsOf(int count, const SmsLimits& limits) {
-  return count <= limits.oneMessage ? 1 : (count + limits.part - 1) / limits.part;
+  return count <= limits.oneMessage ? 1 : roundedUp(count, limits.part);
+}
+
+// The character itself, or its number where it would leave nothing to see.
+QString readable(const QString& character) {
+  const auto isSeen = [](char32_t point) { return QChar::isPrint(point) && !QChar::isSpace(point); };
+  const auto points = character.toUcs4();
+  if (std::any_of(points.begin(), points.end(), isSeen)) return character;
+  return QStringLiteral("U+") + QString::number(points.front(), 16).toUpper().rightJustified(4, QChar(u'0'));
 }
 
 // The longest beginning of `text` that counts at most `limit` units. Every character counts at least one,
@@ -94,6 +114,29 @@ SmsComposition composeSms(const QString& editorText, SmsCharset charset) {
       return composeUnicode(editorText);
   }
   Q_UNREACHABLE();
+}
+
+SmsPart partAt(const QString& editorText, SmsCharset charset, qsizetype cursor) {
+  const SmsLimits limits = limitsOf(charset);
+  const int all = countOf(editorText, charset);
+  if (all <= limits.oneMessage) return {};
+  const int before = countOf(QStringView(editorText).left(cursor), charset);
+  return {std::max(1, roundedUp(before, limits.part)), roundedUp(all, limits.part)};
+}
+
+QStringList unsendableCharacters(const QString& editorText) {
+  QStringList found;
+  QSet<QString> seen;
+  QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, editorText);
+  qsizetype begin = 0;
+  for (qsizetype end = finder.toNextBoundary(); end >= 0; end = finder.toNextBoundary()) {
+    const QString character = editorText.mid(begin, end - begin);
+    begin = end;
+    if (fitsCodePage(character) || seen.contains(character)) continue;
+    seen.insert(character);
+    found.append(readable(character));
+  }
+  return found;
 }
 
 std::optional<QString> decodedUnicodeSms(const QString& transmitText) {

@@ -15,10 +15,30 @@
 #include "base/notifier.h"
 #include "contacts/address_book.h"
 #include "messaging/core/messaging_texts.h"
+#include "ui/hyperlink_label.h"
 #include "ui/list_style.h"
 #include "ui/picture_button.h"
 
 namespace parlexo {
+namespace {
+
+QString recipientsSummary(const Recipients& recipients, int repeated) {
+  const std::size_t shown = recipients.entries().size();
+  if (shown == 0) return QStringLiteral("No recipients");
+  QString text = shown == 1 ? QStringLiteral("1 recipient") : QStringLiteral("%1 recipients").arg(shown);
+  // Behind a template the box may show others than those who get the message; nobody should miss that.
+  if (!recipients.listsAgree()) {
+    text +=
+        recipients.numbers().isEmpty()
+            ? QStringLiteral(" shown, but none selected to send to")
+            : QStringLiteral(" shown, sending to the %1 selected before").arg(recipients.numbers().size());
+  }
+  if (repeated == 0) return text;
+  return text + (repeated == 1 ? QStringLiteral(", 1 number occurs more than once")
+                               : QStringLiteral(", %1 numbers occur more than once").arg(repeated));
+}
+
+}  // namespace
 
 int RecipientsModel::rowCount(const QModelIndex& parent) const {
   return parent.isValid() ? 0 : static_cast<int>(recipients_.entries().size());
@@ -59,7 +79,27 @@ QWidget* RecipientsPanel::createBox() {
   layout->setContentsMargins({});
   layout->addWidget(label);
   layout->addWidget(box_, 1);
+  layout->addLayout(createCountLine(area));
   return area;
+}
+
+QLayout* RecipientsPanel::createCountLine(QWidget* area) {
+  count_ = new QLabel(area);
+  count_->setObjectName(QStringLiteral("recipientCount"));
+  count_->setMinimumWidth(1);  // too long a text is cut off instead of widening the page
+  repeats_ = new HyperlinkLabel(QStringLiteral("Remove repeats"), {}, area);
+  repeats_->setObjectName(QStringLiteral("removeRepeats"));
+  QSizePolicy policy = repeats_->sizePolicy();
+  policy.setRetainSizeWhenHidden(true);  // the list keeps its height
+  repeats_->setSizePolicy(policy);
+  connect(repeats_, &HyperlinkLabel::clicked, this, &RecipientsPanel::removeRepeats);
+  connect(&model_, &RecipientsModel::modelReset, this, &RecipientsPanel::showCount);
+  showCount();
+  auto* row = new QHBoxLayout;
+  row->addWidget(count_);
+  row->addWidget(repeats_);
+  row->addStretch(1);
+  return row;
 }
 
 QWidget* RecipientsPanel::createButtons() {
@@ -88,6 +128,17 @@ void RecipientsPanel::clearEntries() {
 
 void RecipientsPanel::setEntries(const QString& displayList) {
   model_.update([&displayList](Recipients& recipients) { recipients.setEntries(displayList); });
+}
+
+void RecipientsPanel::showCount() {
+  const int repeated = recipients().repeatedNumberCount();
+  count_->setText(recipientsSummary(recipients(), repeated));
+  repeats_->setVisible(repeated > 0 && recipients().haveEqualCounts());
+}
+
+void RecipientsPanel::removeRepeats() {
+  model_.update([](Recipients& recipients) { recipients.removeRepeats(); });
+  box_->setFocus(Qt::OtherFocusReason);  // the link is gone now
 }
 
 void RecipientsPanel::selectContacts() {

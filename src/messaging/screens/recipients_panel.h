@@ -7,11 +7,14 @@
 #include "addressbook/core/contact_selection.h"
 #include "messaging/core/recipients.h"
 
+class QLabel;
+class QLayout;
 class QListView;
 
 namespace parlexo {
 
 class AddressBook;
+class HyperlinkLabel;
 class Notifier;
 
 /// The entries of a page's recipients, for a list view.
@@ -38,7 +41,7 @@ class RecipientsModel final : public QAbstractListModel {
 };
 
 /// The Contacts box of a send page with its buttons: selecting contacts, removing highlighted entries with
-/// Delete, clearing.
+/// Delete, clearing. A quiet line below tells how many there are and offers to remove repeated numbers.
 class RecipientsPanel final : public QWidget {
   Q_OBJECT
 
@@ -63,7 +66,10 @@ class RecipientsPanel final : public QWidget {
 
  private:
   [[nodiscard]] QWidget* createBox();
+  [[nodiscard]] QLayout* createCountLine(QWidget* area);
   [[nodiscard]] QWidget* createButtons();
+  void showCount();
+  void removeRepeats();
   [[nodiscard]] ContactSelection currentSelection() const;
   void take(const ContactSelection& selection);
 
@@ -73,6 +79,8 @@ class RecipientsPanel final : public QWidget {
   RecipientNumber number_;
   RecipientsModel model_;
   QListView* box_ = nullptr;
+  QLabel* count_ = nullptr;
+  HyperlinkLabel* repeats_ = nullptr;
 };
 
 }  // namespace parlexo

@@ -19,6 +19,7 @@
 #include "messaging/screens/message_edit.h"
 #include "messaging/screens/recipients_panel.h"
 #include "messaging/screens/save_template_dlg.h"
+#include "messaging/screens/unsendable_line.h"
 #include "ui/page_controls.h"
 #include "ui/picture_button.h"
 
@@ -88,11 +89,15 @@ QLayout* CQuillonSMSDlg::messageColumn() {
   editor_ = new MessageEdit(this);
   editor_->setObjectName(QStringLiteral("messageEdit"));
   connect(editor_, &MessageEdit::textChanged, this, &CQuillonSMSDlg::recount);
+  connect(editor_, &MessageEdit::cursorPositionChanged, this, &CQuillonSMSDlg::showPart);
   auto* column = new QVBoxLayout;
   column->setSpacing(controlSpacing);
   column->addWidget(labelFor(editor_, QStringLiteral("&Message")));
   column->addWidget(editor_, 1);
   column->addLayout(counterRow());
+  unsendable_ = new UnsendableLine(this);
+  connect(unsendable_, &UnsendableLine::unicodeRequested, this, &CQuillonSMSDlg::switchToUnicode);
+  column->addWidget(unsendable_);
   return column;
 }
 
@@ -104,6 +109,8 @@ QLayout* CQuillonSMSDlg::counterRow() {
     counter->setAlignment(Qt::AlignRight);
     counter->setFixedWidth(counter->fontMetrics().averageCharWidth() * counterCharacters + 16);
   }
+  part_ = new QLabel(this);
+  part_->setObjectName(QStringLiteral("messagePart"));
   auto* row = new QHBoxLayout;
   row->addWidget(labelFor(totalSms_, QStringLiteral("Total SMS:")));
   row->addWidget(totalSms_);
@@ -111,6 +118,7 @@ QLayout* CQuillonSMSDlg::counterRow() {
   row->addWidget(labelFor(remaining_, QStringLiteral("Characters remaining:")));
   row->addWidget(remaining_);
   row->addStretch(1);
+  row->addWidget(part_);
   return row;
 }
 
@@ -170,6 +178,18 @@ void CQuillonSMSDlg::recount() {
   editor_->truncate(static_cast<int>(composition.editorText.size()));
   totalSms_->setText(QString::number(composition.totalSms));
   remaining_->setText(QString::number(composition.remaining));
+  unsendable_->follow(composition.editorText, charset());
+  showPart();
+}
+
+void CQuillonSMSDlg::showPart() {
+  const SmsPart part = partAt(editor_->text(), charset(), editor_->textCursor().position());
+  part_->setText(QStringLiteral("Cursor in part %1 of %2").arg(part.number).arg(part.total));
+}
+
+void CQuillonSMSDlg::switchToUnicode() {
+  unicodeCharset_->setChecked(true);
+  editor_->setFocus(Qt::OtherFocusReason);  // the link is gone now
 }
 
 SendOutcome CQuillonSMSDlg::sendMessage() {

@@ -6,6 +6,7 @@
 #include "messaging/core/sms_text.h"
 #include "messaging/screens/send_page.h"
 
+class QLabel;
 class QLayout;
 class QLineEdit;
 class QRadioButton;
@@ -13,6 +14,7 @@ class QRadioButton;
 namespace parlexo {
 
 class MessageEdit;
+class UnsendableLine;
 struct Template;
 
 /// The SMS page: a text, its character set and type, recipients, and the way to the gateway.
@@ -39,6 +41,8 @@ class CQuillonSMSDlg final : public SendPage {
 
   void applyCharset();
   void recount();
+  void showPart();
+  void switchToUnicode();
   void saveTemplate();
   void loadTemplate();
   void take(const Template& content);
@@ -52,6 +56,8 @@ class CQuillonSMSDlg final : public SendPage {
   QRadioButton* standardType_ = nullptr;
   QLineEdit* totalSms_ = nullptr;
   QLineEdit* remaining_ = nullptr;
+  QLabel* part_ = nullptr;
+  UnsendableLine* unsendable_ = nullptr;
 };
 
 }  // namespace parlexo
