@@ -51,6 +51,12 @@ TEST_F(LoadTemplateDlg, asksForASelectionFirst) {
               ElementsAre("Please select a Template to load", "Please select a Template to delete"));
 }
 
+TEST_F(LoadTemplateDlg, downKeyLeadsToTheFirstEntry) {
+  QTest::keyClick(&list(), Qt::Key_Down);
+  EXPECT_EQ(list().currentRow(), 0);
+  EXPECT_THAT(list().selectedItems(), testing::SizeIs(1));
+}
+
 TEST_F(LoadTemplateDlg, loadsOnlyAfterYesAndOnlyWhatIsATemplate) {
   notifier.answers = {MessageResult::No, MessageResult::Yes};
   pick("good");
@@ -80,6 +86,7 @@ TEST_F(LoadTemplateDlg, deletesAfterYesAndStaysWithNothingSelected) {
   QTest::keyClick(&list(), Qt::Key_Delete);
   EXPECT_THAT(folder.names(), ElementsAre("broken", "other"));
   EXPECT_EQ(list().count(), 2);
+  EXPECT_TRUE(list().selectedItems().isEmpty());
   press("deleteButton");
   EXPECT_THAT(notifier.takeTexts(),
               ElementsAre("Are you sure you want to delete the Template called: \"good\"?",

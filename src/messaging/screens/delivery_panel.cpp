@@ -3,6 +3,7 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
+#include <QVBoxLayout>
 
 #include "messaging/screens/schedule_dlg.h"
 #include "messaging/screens/sender_id_dlg.h"
@@ -10,6 +11,11 @@
 #include "ui/picture_button.h"
 
 namespace parlexo {
+namespace {
+
+constexpr int fieldMargins = 16;
+
+}  // namespace
 
 DeliveryPanel::DeliveryPanel(QString& senderId, SenderIdUse use, QWidget* parent)
     : QWidget(parent), senderId_(senderId) {
@@ -19,12 +25,18 @@ DeliveryPanel::DeliveryPanel(QString& senderId, SenderIdUse use, QWidget* parent
   dateTime->setObjectName(QStringLiteral("setDateTimeButton"));
   connect(dateTime, &PictureButton::clicked, this, &DeliveryPanel::setDateTime);
 
-  auto* row = new QHBoxLayout(this);
-  row->setContentsMargins({});
-  row->addWidget(labelFor(text_, QStringLiteral("Sc&hedule messages to be sent at:")));
+  // The label stands above, so that a narrow window has room for the whole time.
+  text_->setMinimumWidth(text_->fontMetrics().horizontalAdvance(QStringLiteral("0000/00/00 00:00:00")) +
+                         fieldMargins);
+  auto* row = new QHBoxLayout;
   row->addWidget(text_, 1);
   row->addWidget(dateTime);
   if (use == SenderIdUse::Set) row->addWidget(senderButton());
+  auto* layout = new QVBoxLayout(this);
+  layout->setContentsMargins({});
+  layout->setSpacing(4);
+  layout->addWidget(labelFor(text_, QStringLiteral("Sc&hedule messages to be sent at:")));
+  layout->addLayout(row);
   showSchedule();
 }
 

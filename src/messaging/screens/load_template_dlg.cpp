@@ -1,6 +1,5 @@
 #include "messaging/screens/load_template_dlg.h"
 
-#include <algorithm>
 #include <optional>
 #include <utility>
 
@@ -19,13 +18,30 @@
 #include "ui/picture_button.h"
 
 namespace parlexo {
+namespace {
+
+/// A list in which nothing is current until the user picks something, so that the first Down key leads to the
+/// first entry and not past it.
+class TemplateList final : public QListWidget {
+ public:
+  using QListWidget::QListWidget;
+
+ protected:
+  void focusInEvent(QFocusEvent* event) override {
+    const bool hadCurrent = currentIndex().isValid();
+    QListWidget::focusInEvent(event);
+    if (!hadCurrent) selectionModel()->clearCurrentIndex();
+  }
+};
+
+}  // namespace
 
 CLoadTemplateDlg::CLoadTemplateDlg(const TemplateFolder& folder, Notifier& notifier, QWidget* parent)
     : GradientDialog(parent), folder_(folder), notifier_(notifier) {
   setObjectName(QStringLiteral("loadTemplateDialog"));
   setWindowTitle(QStringLiteral("Parlexo(TM) : Load or Delete Template"));
   const QString caption = QStringLiteral("Select the Template you wish to Load or  Delete:");
-  names_ = new QListWidget(this);
+  names_ = new TemplateList(this);
   names_->setObjectName(QStringLiteral("templateList"));
   names_->setAccessibleName(caption);
   names_->setUniformItemSizes(true);
@@ -87,9 +103,9 @@ void CLoadTemplateDlg::deleteSelected() {
   }
   const int row = names_->currentRow();
   delete names_->takeItem(row);
-  // Nothing is selected now, so that a further Delete can't take the neighbour unasked for; the arrow keys go
-  // on from here.
-  names_->setCurrentRow(std::min(row, names_->count() - 1), QItemSelectionModel::Clear);
+  // Nothing is selected now, so that a further Delete can't take a neighbour unasked for; the Down key leads
+  // to the entry that stands here now.
+  names_->setCurrentRow(row - 1, QItemSelectionModel::Clear);
 }
 
 bool CLoadTemplateDlg::hasSelection() const {

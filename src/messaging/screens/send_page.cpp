@@ -42,8 +42,8 @@ void SendPage::addBottomRow(QVBoxLayout& layout) {
   auto* row = new QHBoxLayout;
   row->addWidget(delivery_, 1);
   row->addSpacing(24);
-  row->addWidget(status);
-  row->addWidget(sendButton);
+  row->addWidget(status, 0, Qt::AlignBottom);
+  row->addWidget(sendButton, 0, Qt::AlignBottom);
   layout.addLayout(row);
 }
 
