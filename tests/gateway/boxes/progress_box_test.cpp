@@ -110,7 +110,7 @@ TEST(ProgressBox, transferIsFollowedBelowTheTextUntilTheBoxGoes) {
        {std::pair{0, "0 bytes of 2 MB sent"}, {1'300'000, "1.2 MB of 2 MB sent"}}) {
     transfer.setDone(done);
     EXPECT_TRUE(
-        QTest::qWaitFor([expected = shown] { return detail()->text() == QLatin1String(expected); }, 1000))
+        QTest::qWaitFor([&, expected = shown] { return detail()->text() == QLatin1String(expected); }, 1000))
         << shown;
   }
   EXPECT_EQ(progress.text(), defaultLabel);
