@@ -3,6 +3,7 @@
 #include "account/screens/account_history_dlg.h"
 #include "account/screens/receive_messages_dlg.h"
 #include "account/screens/settings_dlg.h"
+#include "addressbook/screens/add_contacts_menu.h"
 #include "addressbook/screens/contacts_page.h"
 #include "messaging/screens/fax_dlg.h"
 #include "messaging/screens/mms_dlg.h"
@@ -29,16 +30,32 @@ void openStatusOnRequest(SendPage& page, CStatusDlg& status, CMainDlg& window) {
   });
 }
 
+// What was added is likely meant for the message, so that its recipients are chosen anew.
+SendPage* addingContacts(SendPage* page, const AddressBookServices& services) {
+  QObject::connect(page, &SendPage::contactsToAdd, page, [page, services](QWidget& button) {
+    if (addOrImportContacts(services, button)) page->selectContacts();
+  });
+  return page;
+}
+
+template <class Page>
+MainTab sendTab(const QString& text, const MessagingServices& services,
+                const AddressBookServices& addressBookServices) {
+  return {text, [services, addressBookServices] {
+            return addingContacts(new Page(services), addressBookServices);
+          }};
+}
+
 }  // namespace
 
 std::vector<MainTab> mainTabs(const MessagingServices& services,
                               const AddressBookServices& addressBookServices,
                               const AccountServices& accountServices) {
   return {
-      {QStringLiteral("SMS"), [services] { return new CQuillonSMSDlg(services); }},
-      {QStringLiteral("WAP"), [services] { return new CQuillonWAPDlg(services); }},
-      {QStringLiteral("MMS"), [services] { return new CQuillonMMSDlg(services); }},
-      {QStringLiteral("Fax"), [services] { return new CQuillonFaxDlg(services); }},
+      sendTab<CQuillonSMSDlg>(QStringLiteral("SMS"), services, addressBookServices),
+      sendTab<CQuillonWAPDlg>(QStringLiteral("WAP"), services, addressBookServices),
+      sendTab<CQuillonMMSDlg>(QStringLiteral("MMS"), services, addressBookServices),
+      sendTab<CQuillonFaxDlg>(QStringLiteral("Fax"), services, addressBookServices),
       {QStringLiteral("Receive Messages"),
        [accountServices] { return new CReceiveMessagesDlg(accountServices.state); }},
       {QStringLiteral("Contacts"), [addressBookServices] { return new CContactsPage(addressBookServices); }},

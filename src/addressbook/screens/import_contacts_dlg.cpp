@@ -5,8 +5,10 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QCoreApplication>
+#include <QDir>
 #include <QElapsedTimer>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
@@ -219,9 +221,10 @@ void CImportContactsDlg::createLayout(const QString& group) {
 }
 
 void CImportContactsDlg::browse() {
-  const QString folder = source_.path().isEmpty()
-                             ? QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation)
-                             : source_.path();
+  const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+  const QString folder = !source_.path().isEmpty()      ? source_.path()
+                         : QFileInfo::exists(documents) ? documents
+                                                        : QDir::homePath();
   const QString path = QFileDialog::getOpenFileName(
       this, QStringLiteral("Import Contacts"), folder,
       QStringLiteral("Contacts (*.csv *.txt *.tsv *.xls *.xlsx *.ods);;All files (*)"));

@@ -112,9 +112,10 @@ QWidget* RecipientsPanel::createButtons() {
     created->setObjectName(name);
     connect(created, &PictureButton::clicked, this, action);
     layout->addWidget(created);
+    return created;
   };
-  button(QStringLiteral("&Add / Import Contacts"), QStringLiteral("addContactsButton"),
-         &RecipientsPanel::selectContacts);
+  auto* add = button(QStringLiteral("&Add / Import Contacts"), QStringLiteral("addContactsButton"), [] {});
+  connect(add, &PictureButton::clicked, this, [this, add] { Q_EMIT contactsToAdd(*add); });
   button(QStringLiteral("&Select Contacts..."), QStringLiteral("selectContactsButton"),
          &RecipientsPanel::selectContacts);
   button(QStringLiteral("Clear"), QStringLiteral("clearContactsButton"), &RecipientsPanel::clearEntries);

@@ -64,6 +64,10 @@ class RecipientsPanel final : public QWidget {
   /// Removes the highlighted entries after a question.
   void removeHighlighted();
 
+ Q_SIGNALS:
+  /// The user wants to add contacts to the address book, and asked for it with this button.
+  void contactsToAdd(QWidget& button);
+
  private:
   [[nodiscard]] QWidget* createBox();
   [[nodiscard]] QLayout* createCountLine(QWidget* area);

@@ -21,6 +21,7 @@ void SendPage::layOut(QLayout* message, int stretch) {
   constexpr int recipientsStretch = 2;
   recipients_ =
       new RecipientsPanel(services_.addressBook, services_.notifier, kind_.selectionMode, kind_.number, this);
+  connect(recipients_, &RecipientsPanel::contactsToAdd, this, &SendPage::contactsToAdd);
   notice_ = new UnansweredNotice(this);
   delivery_ = new DeliveryPanel(services_.state.senderId, kind_.senderIdUse, this);
   auto* layout = new QVBoxLayout(this);
@@ -55,6 +56,10 @@ PictureButton* SendPage::button(const QString& text, const QString& name) {
 
 const Schedule& SendPage::schedule() const {
   return delivery_->schedule();
+}
+
+void SendPage::selectContacts() {
+  recipients_->selectContacts();
 }
 
 void SendPage::send() {

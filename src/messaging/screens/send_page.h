@@ -34,11 +34,16 @@ class SendPage : public GradientPage {
  public:
   [[nodiscard]] const QString& typeWord() const { return kind_.typeWord; }
 
+  /// Lets the user choose the recipients from the address book.
+  void selectContacts();
+
  Q_SIGNALS:
   /// A message was accepted for every recipient and the form is cleared.
   void messageSent(const QString& typeWord);
   /// The user wants to see what became of messages of this type.
   void statusRequested(const QString& typeWord);
+  /// The user wants to add contacts to the address book, and asked for it with this button.
+  void contactsToAdd(QWidget& button);
 
  protected:
   /// `services` must refer to objects that outlive the page.
