@@ -69,8 +69,7 @@ void ContactIndex::prepareSearch() {
   if (std::exchange(isSearchReady_, true)) return;
   search_.reserve(contacts_.size());
   for (const ContactRecord* contact : contacts_) {
-    for (const QString* field : {&contact->name, &contact->phone, &contact->fax})
-      search_.addField(*field);
+    for (const QString* field : {&contact->name, &contact->phone, &contact->fax}) search_.addField(*field);
     for (const QString& extra : contact->extra) search_.addField(extra);
     search_.endText();
   }
