@@ -10,7 +10,6 @@ namespace {
 
 using simulator::FaultKind;
 using testing::ElementsAre;
-using testing::IsEmpty;
 
 class EmailPreferencesTest : public testing::Test, protected AccountRig {
  protected:
@@ -57,15 +56,6 @@ TEST_F(EmailPreferencesTest, failedSaveIsToldByWhatFailed) {
   saveFails(EmailSaveOutcome::Failed, other);
   simulator.stop();
   saveFails(EmailSaveOutcome::Failed, other);
-}
-
-TEST_F(EmailPreferencesTest, failedLoadIsSilent) {
-  misbehave(FaultKind::Code, "getEmailMessaging", 7);
-  EXPECT_EQ(flow.load(), std::nullopt);
-  simulator.clearFaults();
-  misbehave(FaultKind::Cut, "getEmailMessaging");
-  EXPECT_EQ(flow.load(), std::nullopt);
-  EXPECT_THAT(journal, IsEmpty());
 }
 
 }  // namespace

@@ -1,11 +1,8 @@
 #include "account/screens/receive_messages_dlg.h"
 
-#include <QLabel>
-#include <QLineEdit>
 #include <gtest/gtest.h>
 
 #include "base/run_state.h"
-#include "ui/hyperlink_label.h"
 
 namespace parlexo {
 namespace {
@@ -15,10 +12,8 @@ using namespace Qt::StringLiterals;
 QStringList visibleTexts(const QWidget& page) {
   QStringList texts;
   for (const auto* child : page.findChildren<QWidget*>()) {
-    if (!child->isVisible()) continue;
-    if (const auto* label = qobject_cast<const QLabel*>(child)) texts << label->text();
-    if (const auto* edit = qobject_cast<const QLineEdit*>(child)) texts << edit->text();
-    if (const auto* link = qobject_cast<const HyperlinkLabel*>(child)) texts << link->text();
+    const QString text = child->property("text").toString();
+    if (child->isVisible() && !text.isEmpty()) texts << text;
   }
   return texts;
 }
