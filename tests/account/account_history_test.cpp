@@ -31,9 +31,15 @@ TEST(HistoryText, becomesARecordForEveryLineThatHasEnded) {
 }
 
 TEST(HistoryDate, isOrderedByTimeWhereItHasTheUsualForm) {
-  EXPECT_LT(historyInstant(u"31/12/2025 23:59:59"_qs), historyInstant(u"01/01/2026 00:00:00"_qs));
-  for (const auto& other : {u"2026-01-01"_qs, u"31/02/2026 10:00:00"_qs, QString()})
-    EXPECT_FALSE(historyInstant(other)) << other.toStdString();
+  const QStringList inOrder = {u"31/12/2025 23:59:59"_qs, u"01/01/2026 00:00:00"_qs,
+                               u"01/01/2026 00:00:01"_qs, u"01/01/2026 00:01:00"_qs,
+                               u"01/01/2026 01:00:00"_qs, u"02/01/2026 00:00:00"_qs,
+                               u"01/02/2026 00:00:00"_qs};
+  for (int i = 1; i < inOrder.size(); ++i)
+    EXPECT_LT(historyDateOrder(inOrder[i - 1]), historyDateOrder(inOrder[i])) << i;
+  EXPECT_TRUE(historyDateOrder(inOrder[0]));
+  for (const auto& other : {u"2026-01-01"_qs, u"1/1/2026 10:00:00"_qs, u"01/01/2026 10:00:0x"_qs, QString()})
+    EXPECT_FALSE(historyDateOrder(other)) << other.toStdString();
 }
 
 class AccountHistory : public testing::Test, protected AccountRig {};

@@ -1,6 +1,8 @@
 #include "account/core/account_history.h"
 
-#include <QDateTime>
+#include <algorithm>
+#include <array>
+#include <utility>
 
 #include "base/message_texts.h"
 #include "base/notifier.h"
@@ -39,10 +41,16 @@ std::vector<HistoryRecord> parseHistory(const QString& text) {
   return records;
 }
 
-std::optional<double> historyInstant(const QString& date) {
-  const QDateTime instant = QDateTime::fromString(date, QStringLiteral("dd/MM/yyyy HH:mm:ss"));
-  if (!instant.isValid()) return std::nullopt;
-  return static_cast<double>(instant.toSecsSinceEpoch());
+std::optional<double> historyDateOrder(QStringView date) {
+  constexpr QStringView form = u"00/00/0000 00:00:00";
+  const auto fits = [](QChar given, QChar wanted) {
+    return wanted == u'0' ? given >= u'0' && given <= u'9' : given == wanted;
+  };
+  if (!std::equal(date.begin(), date.end(), form.begin(), form.end(), fits)) return std::nullopt;
+  QString digits;
+  for (const auto& [place, length] : std::array{std::pair{6, 4}, {3, 2}, {0, 2}, {11, 2}, {14, 2}, {17, 2}})
+    digits += date.mid(place, length);
+  return digits.toDouble();
 }
 
 std::optional<std::vector<HistoryRecord>> AccountHistoryFlow::load() const {

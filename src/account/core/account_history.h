@@ -24,9 +24,8 @@ struct HistoryRecord {
 /// description, and text after the last "\r\n" is not a record.
 [[nodiscard]] std::vector<HistoryRecord> parseHistory(const QString& text);
 
-/// The seconds from 1970 to a date in the form "dd/MM/yyyy HH:mm:ss", to order dates by; none for a text of
-/// another form.
-[[nodiscard]] std::optional<double> historyInstant(const QString& date);
+/// A number that orders dates of the form "dd/MM/yyyy HH:mm:ss" by time; none for a text of another form.
+[[nodiscard]] std::optional<double> historyDateOrder(QStringView date);
 
 /// Fetches the account's last movements from the gateway.
 class AccountHistoryFlow {

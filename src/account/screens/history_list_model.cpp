@@ -43,8 +43,8 @@ QVariant HistoryListModel::data(const QModelIndex& index, int role) const {
   const auto column = static_cast<Column>(index.column());
   if (role == Qt::DisplayRole) return record.*fieldOf(column).value;
   if (role != recordSortRole || column != Column::Date) return {};
-  const auto instant = historyInstant(record.date);
-  return instant ? QVariant(*instant) : QVariant();
+  const auto order = historyDateOrder(record.date);
+  return order ? QVariant(*order) : QVariant();
 }
 
 QVariant HistoryListModel::headerData(int section, Qt::Orientation orientation, int role) const {
