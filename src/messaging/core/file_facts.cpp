@@ -35,7 +35,7 @@ QString FileFacts::text() const {
     case State::NoFile:
       return QStringLiteral("This is a folder or a device, not a file.");
     case State::Unwritable:
-      return name + QStringLiteral(": can't be sent, because it may not be read and written.");
+      return name + QStringLiteral(": can't be sent, as that needs the right to read and to write it");
     case State::Empty:
       return name + QStringLiteral(": empty");
     case State::TooLarge:

@@ -120,6 +120,8 @@ QLayout* FilePage::noteArea() {
   note_ = new MessageEdit(this);
   note_->setObjectName(QStringLiteral("noteEdit"));
   note_->setTextLimit(kind_.noteLimit);
+  // An edit would like to be so high that the recipients have hardly a line left on a small screen.
+  note_->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
   auto* area = new QGridLayout;
   area->setVerticalSpacing(6);
   area->setHorizontalSpacing(14);
@@ -147,6 +149,7 @@ QLayout* FilePage::counterRow() {
   connect(note_, &MessageEdit::textChanged, this, &FilePage::recount);
   recount();
   auto* row = new QHBoxLayout;
+  row->setSpacing(6);
   row->addWidget(labelFor(remaining_, QStringLiteral("Characters remaining:")));
   row->addWidget(remaining_);
   row->addStretch(1);
