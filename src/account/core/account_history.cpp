@@ -1,7 +1,6 @@
 #include "account/core/account_history.h"
 
 #include <algorithm>
-#include <array>
 #include <utility>
 
 #include "base/message_texts.h"
@@ -48,8 +47,8 @@ std::optional<double> historyDateOrder(QStringView date) {
   };
   if (!std::equal(date.begin(), date.end(), form.begin(), form.end(), fits)) return std::nullopt;
   QString digits;
-  for (const auto& [place, length] : std::array{std::pair{6, 4}, {3, 2}, {0, 2}, {11, 2}, {14, 2}, {17, 2}})
-    digits += date.mid(place, length);
+  constexpr std::pair<int, int> fromYearToSecond[] = {{6, 4}, {3, 2}, {0, 2}, {11, 2}, {14, 2}, {17, 2}};
+  for (const auto& [place, length] : fromYearToSecond) digits += date.mid(place, length);
   return digits.toDouble();
 }
 
