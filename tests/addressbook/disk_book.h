@@ -1,7 +1,5 @@
 #pragma once
 
-#include <utility>
-
 #include <QString>
 #include <QStringList>
 #include <QTemporaryDir>
@@ -9,29 +7,15 @@
 
 #include "addressbook/core/addressbook_services.h"
 #include "base/call_runner.h"
-#include "base/notifier.h"
 #include "base/progress.h"
 #include "base/settings.h"
 #include "contacts/address_book.h"
 #include "contacts/item_database.h"
 #include "contacts/item_index_cache.h"
 #include "contacts/lock_waiter.h"
+#include "tests/base/recording_notifier.h"
 
 namespace parlexo::test {
-
-/// Keeps style and text of what it was asked to show, and answers as it was told.
-class AnsweringNotifier final : public Notifier {
- public:
-  MessageResult show(const QString& text, unsigned style, int) override {
-    shown << QString::number(style) + ' ' + text;
-    return answer;
-  }
-
-  QStringList takeShown() { return std::exchange(shown, {}); }
-
-  QStringList shown;
-  MessageResult answer = MessageResult::No;
-};
 
 /// Keeps the texts with which the box was opened.
 class OpeningTexts final : public Progress {
@@ -72,7 +56,7 @@ class DiskBook : public testing::Test {
   }
 
   QTemporaryDir folder_;
-  AnsweringNotifier notifier_;
+  RecordingNotifier notifier_;
   OpeningTexts progress_;
   Settings settings_{folder_.path()};
   DirectCallRunner runner_;

@@ -78,7 +78,7 @@ TEST_F(ImportContactsDlgTest, showsTheRowsAsTheyWillBeRead) {
   EXPECT_EQ(preview().columnCount(), 2);
   EXPECT_THAT(problem().toStdString(), testing::HasSubstr("Choose the column"));
   dialog_.startImport();
-  EXPECT_EQ(notifier_.shown, QStringList("16 " + problem()));
+  EXPECT_EQ(notifier_.takeLines(), QStringList("16 " + problem()));
 }
 
 TEST_F(ImportContactsDlgTest, tellsWhatIsWrongWithAFileAndImportsNothing) {
@@ -93,7 +93,7 @@ TEST_F(ImportContactsDlgTest, tellsWhatIsWrongWithAFileAndImportsNothing) {
   dialog_.openFile(write(late + "\"never closed"));
   EXPECT_EQ(problem(), QString());
   press("importButton");
-  EXPECT_THAT(notifier_.shown.join(u'/').toStdString(), testing::HasSubstr("Line 52"));
+  EXPECT_THAT(notifier_.takeLines().join(u'/').toStdString(), testing::HasSubstr("Line 52"));
   EXPECT_TRUE(book_.contacts().empty());
 }
 

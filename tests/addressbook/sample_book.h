@@ -28,6 +28,7 @@ class SampleBook {
   }
 
   [[nodiscard]] const AddressBook& book() const { return book_; }
+  [[nodiscard]] AddressBook& book() { return book_; }
 
  private:
   RecordingNotifier notifier_;

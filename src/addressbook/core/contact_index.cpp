@@ -7,10 +7,6 @@
 
 namespace parlexo {
 
-ContactIndex::ContactIndex(const AddressBook& book) : book_(book) {
-  read();
-}
-
 void ContactIndex::read() {
   forget();
   contacts_ = sortedContacts(book_, [](const ContactRecord&) { return true; });

@@ -22,8 +22,8 @@ class ContactIndex {
  public:
   using Contacts = ContactSelection::Contacts;
 
-  /// Reads `book`, which must outlive the index.
-  explicit ContactIndex(const AddressBook& book);
+  /// Empty until the first read(). `book` must outlive the index.
+  explicit ContactIndex(const AddressBook& book) : book_(book) {}
 
   /// Takes over what the book holds now.
   void read();

@@ -13,12 +13,12 @@
 #include <QVBoxLayout>
 
 #include "addressbook/screens/contact_text_validator.h"
+#include "addressbook/screens/ok_and_cancel.h"
 #include "base/notifier.h"
 #include "base/product.h"
 #include "ui/hyperlink_label.h"
 #include "ui/look.h"
 #include "ui/page_controls.h"
-#include "ui/picture_button.h"
 
 namespace parlexo {
 
@@ -42,21 +42,6 @@ HyperlinkLabel* formatLink(QWidget* parent) {
                                   QUrl(webPage(QStringLiteral("/phonenumbers.php"))), parent);
   link->setObjectName(QStringLiteral("numberFormatLink"));
   return link;
-}
-
-QLayout* okAndCancel(QDialog& dialog) {
-  auto* ok = new PictureButton(QStringLiteral("&OK"), &dialog);
-  ok->setObjectName(QStringLiteral("okButton"));
-  ok->setDefault(true);
-  QObject::connect(ok, &PictureButton::clicked, &dialog, &QDialog::accept);
-  auto* cancel = new PictureButton(QStringLiteral("&Cancel"), &dialog);
-  cancel->setObjectName(QStringLiteral("cancelButton"));
-  QObject::connect(cancel, &PictureButton::clicked, &dialog, &QDialog::reject);
-  auto* row = new QHBoxLayout;
-  row->addStretch(1);
-  row->addWidget(ok);
-  row->addWidget(cancel);
-  return row;
 }
 
 }  // namespace
@@ -99,7 +84,7 @@ void CContactDetailsDlg::createLayout() {
   layout->addLayout(flagRows());
   layout->addWidget(extraBox());
   layout->addStretch(1);
-  layout->addLayout(okAndCancel(*this));
+  layout->addLayout(okAndCancelRow(*this));
   setMinimumWidth(dialogUnits(*this, 330, 0).width());
 }
 

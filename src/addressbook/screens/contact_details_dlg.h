@@ -14,7 +14,6 @@ class QLineEdit;
 namespace parlexo {
 
 class Notifier;
-class PictureButton;
 
 /// Edits a copy of one contact, a new one or one that exists; the caller saves what comes out.
 class CContactDetailsDlg final : public GradientDialog {

@@ -4,6 +4,7 @@
 #include <functional>
 #include <utility>
 
+#include <QApplication>
 #include <QHBoxLayout>
 #include <QItemSelectionModel>
 #include <QLabel>
@@ -17,6 +18,7 @@
 #include <QTimer>
 #include <QVBoxLayout>
 
+#include "addressbook/core/contact_export.h"
 #include "addressbook/core/sorted_book.h"
 #include "addressbook/screens/contact_details_dlg.h"
 #include "addressbook/screens/folder_tree.h"
@@ -24,9 +26,11 @@
 #include "addressbook/screens/import_contacts_dlg.h"
 #include "addressbook/screens/row_list_view.h"
 #include "addressbook/screens/search_field.h"
+#include "base/notifier.h"
 #include "contacts/address_book.h"
 #include "ui/list_style.h"
 #include "ui/look.h"
+#include "ui/page_controls.h"
 #include "ui/picture_button.h"
 
 namespace parlexo {
@@ -46,10 +50,19 @@ bool hasList(const ContactFolder& folder) {
   return folder.kind != ContactFolder::Kind::Root && folder.kind != ContactFolder::Kind::AllContacts;
 }
 
-void onKey(QWidget* widget, const QKeySequence& key, std::function<void()> action) {
+// A key that is held down, or pressed twice, arrives here until the dialog that it opened has the focus.
+bool isBehindDialog(const QWidget& widget) {
+  const QWidget* modal = QApplication::activeModalWidget();
+  return modal && modal != widget.window();
+}
+
+void onKey(QWidget* widget, const QKeySequence& key, const std::function<void()>& action) {
   auto* shortcut = new QShortcut(key, widget);
   shortcut->setContext(Qt::WidgetShortcut);
-  QObject::connect(shortcut, &QShortcut::activated, widget, std::move(action));
+  shortcut->setAutoRepeat(false);
+  QObject::connect(shortcut, &QShortcut::activated, widget, [widget, action] {
+    if (!isBehindDialog(*widget)) action();
+  });
 }
 
 QString countText(int count, int selected, bool isSearching) {
@@ -68,8 +81,6 @@ CContactsPage::CContactsPage(const AddressBookServices& services, QWidget* paren
   createSearch();
   createMenu();
   createLayout();
-  readBook();
-  tree_->select({ContactFolder::Kind::Group, QLatin1String(personalContactsName)});
 }
 
 void CContactsPage::createTree() {
@@ -77,7 +88,7 @@ void CContactsPage::createTree() {
   connect(tree_, &FolderTree::folderChosen, this, [this] {
     const QSignalBlocker blocker(search_);
     search_->clear();
-    fillFresh();
+    showFresh();
   });
   tree_->setContextMenuPolicy(Qt::CustomContextMenu);
   connect(tree_, &QWidget::customContextMenuRequested, this, [this](const QPoint& where) {
@@ -120,7 +131,7 @@ void CContactsPage::createList() {
 void CContactsPage::createSearch() {
   search_ = new SearchField(QStringLiteral("Search all contacts: name, number or Extra"), *list_, this);
   search_->setObjectName(QStringLiteral("contactSearch"));
-  connect(search_, &QLineEdit::textChanged, this, &CContactsPage::fillFresh);
+  connect(search_, &QLineEdit::textChanged, this, &CContactsPage::showFresh);
   auto* find = new QShortcut(QKeySequence(QKeySequence::Find), this);
   connect(find, &QShortcut::activated, this, [this] {
     search_->setFocus(Qt::ShortcutFocusReason);
@@ -162,6 +173,9 @@ void CContactsPage::createLayout() {
   layout->setSpacing(10);
   layout->addWidget(halves, 1);
   layout->addLayout(buttonRow());
+  setTabOrder(tree_, search_);
+  setTabOrder(search_, list_);
+  setTabOrder(list_, information_);
 }
 
 QLayout* CContactsPage::contactsColumn() {
@@ -179,20 +193,19 @@ QLayout* CContactsPage::contactsColumn() {
 
 QLayout* CContactsPage::buttonRow() {
   auto* row = new QHBoxLayout;
-  const auto add = [this, row](const QString& text, const char* name, void (CContactsPage::*action)()) {
-    auto* button = new PictureButton(text, this);
-    button->setObjectName(QLatin1String(name));
+  const auto add = [this, row](const QString& name, const QString& text, void (CContactsPage::*action)()) {
+    PictureButton* button = addButton(*row, name, text);
     connect(button, &PictureButton::clicked, this, action);
-    row->addWidget(button);
     return button;
   };
-  add(QStringLiteral("&New Contact..."), "newContactButton", &CContactsPage::newContact);
-  add(QStringLiteral("New &Group..."), "newGroupButton", &CContactsPage::newGroup);
-  add(QStringLiteral("&Import..."), "importButton", &CContactsPage::importContacts);
+  add(QStringLiteral("newContactButton"), QStringLiteral("&New Contact..."), &CContactsPage::newContact);
+  add(QStringLiteral("newGroupButton"), QStringLiteral("New &Group..."), &CContactsPage::newGroup);
+  add(QStringLiteral("importButton"), QStringLiteral("&Import..."), &CContactsPage::importContacts);
+  add(QStringLiteral("exportButton"), QStringLiteral("E&xport..."), &CContactsPage::exportContacts);
   row->addStretch(1);
-  add(QStringLiteral("&Edit..."), "editButton", &CContactsPage::edit);
-  add(QStringLiteral("&Delete"), "deleteButton", &CContactsPage::remove);
-  auto* details = add(QStringLiteral("D&etails"), "detailsButton", &CContactsPage::edit);
+  add(QStringLiteral("editButton"), QStringLiteral("&Edit..."), &CContactsPage::edit);
+  add(QStringLiteral("deleteButton"), QStringLiteral("&Delete"), &CContactsPage::remove);
+  auto* details = add(QStringLiteral("detailsButton"), QStringLiteral("D&etails"), &CContactsPage::edit);
   // "&Edit..." does the same under the same key; with two to claim it, the key would only move the focus.
   details->setShortcut({});
   return row;
@@ -212,27 +225,34 @@ void CContactsPage::readBook() {
   QStringList groups;
   for (const GroupFile* group : sortedGroups(services_.book)) groups.append(group->name());
   tree_->setGroups(groups);
-  fill();
+  showPanel();
+  model_.setContacts(contactsToShow());
+  showCount();
   // Once the list is seen and before anybody can type.
   QTimer::singleShot(0, this, [this] { index_.prepareSearch(); });
 }
 
-void CContactsPage::fill() {
+ContactIndex::Contacts CContactsPage::contactsToShow() {
+  if (isSearching()) return index_.find(search_->text());
   const ContactFolder folder = tree_->selected();
-  const bool showsList = isSearching() || hasList(folder);
-  information_->setPlainText(informationOn(folder));
-  model_.setContacts(isSearching()     ? index_.find(search_->text())
-                     : hasList(folder) ? index_.contactsIn(folder)
-                                       : ContactIndex::Contacts());
-  stack_->setCurrentWidget(showsList ? static_cast<QWidget*>(list_) : information_);
-  showCount();
+  return hasList(folder) ? index_.contactsIn(folder) : ContactIndex::Contacts();
 }
 
-void CContactsPage::fillFresh() {
-  fill();
+void CContactsPage::showFresh() {
+  showPanel();
+  ContactIndex::Contacts contacts = contactsToShow();
+  // A view looks at every row that may have changed, which would be felt with every letter of a search.
+  if (contacts != model_.contacts()) model_.setContacts(std::move(contacts));
   list_->clearSelection();
   list_->setCurrentIndex({});
   list_->scrollToTop();
+  showCount();
+}
+
+void CContactsPage::showPanel() {
+  const ContactFolder folder = tree_->selected();
+  information_->setPlainText(informationOn(folder));
+  stack_->setCurrentWidget(isSearching() || hasList(folder) ? static_cast<QWidget*>(list_) : information_);
 }
 
 void CContactsPage::refresh() {
@@ -240,7 +260,10 @@ void CContactsPage::refresh() {
 }
 
 void CContactsPage::showEvent(QShowEvent* event) {
+  const bool isFirst = !shownRevision_;
   if (shownRevision_ != services_.book.revision()) refresh();
+  // New contacts can be added here at once, which the root does not allow.
+  if (isFirst) tree_->select({ContactFolder::Kind::Group, QLatin1String(personalContactsName)});
   GradientPage::showEvent(event);
 }
 
@@ -282,6 +305,16 @@ void CContactsPage::importContacts() {
   const ContactFolder folder = tree_->selected();
   if (!flow_.acceptsImport(folder)) return;
   if (CImportContactsDlg(services_, folder.name, this).exec() == QDialog::Accepted) refresh();
+}
+
+void CContactsPage::exportContacts() {
+  const QString path =
+      askForPath_(this, isSearching() ? QStringLiteral("Contacts found") : exportName(shownFolder()));
+  if (path.isEmpty()) return;
+  const ContactIndex::Contacts contacts =
+      isSearching() ? model_.contacts() : index_.contactsIn(shownFolder());
+  const QString problem = contactsAsCsv(contacts).save(path);
+  if (!problem.isEmpty()) services_.notifier.error(problem);
 }
 
 void CContactsPage::edit() {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <optional>
+#include <utility>
 
 #include <QString>
 #include <QStringList>
@@ -11,6 +12,7 @@
 #include "addressbook/core/contact_index.h"
 #include "addressbook/core/contacts_flow.h"
 #include "addressbook/screens/contact_rows_model.h"
+#include "ui/export_button.h"
 #include "ui/gradient_page.h"
 
 class QLabel;
@@ -34,11 +36,14 @@ class CContactsPage final : public GradientPage {
   /// `services` must refer to objects that outlive the page.
   explicit CContactsPage(const AddressBookServices& services, QWidget* parent = nullptr);
 
+  /// Asks for the path of the file to export to; replaced in tests.
+  void setPathAsker(ExportButton::PathAsker asker) { askForPath_ = std::move(asker); }
+
   /// Reads the selected folder anew; selection and scroll position stay.
   void refresh() override;
 
  protected:
-  /// Reads the address book anew when it has changed since the list was filled.
+  /// Reads the address book, at first and when it has changed since the list was filled.
   void showEvent(QShowEvent* event) override;
 
  private:
@@ -55,6 +60,8 @@ class CContactsPage final : public GradientPage {
   void newContact();
   void newGroup();
   void importContacts();
+  /// Saves what is shown: the found contacts, or those of the folder; all where it has no list.
+  void exportContacts();
   void edit();
   void editContact(int row);
   void editGroup(const QString& group);
@@ -66,8 +73,10 @@ class CContactsPage final : public GradientPage {
   [[nodiscard]] ContactFolder shownFolder() const;
   [[nodiscard]] bool isSearching() const;
   void readBook();
-  void fill();
-  void fillFresh();
+  [[nodiscard]] ContactIndex::Contacts contactsToShow();
+  /// Shows another folder or another search, with nothing selected.
+  void showFresh();
+  void showPanel();
   void showCount();
   void openMenu(QWidget& at, const QPoint& where);
 
@@ -75,7 +84,9 @@ class CContactsPage final : public GradientPage {
   ContactsFlow flow_;
   ContactIndex index_;
   ContactRowsModel model_;
-  quint64 shownRevision_ = 0;
+  std::optional<quint64> shownRevision_;  // none before the page is seen
+
+  ExportButton::PathAsker askForPath_ = askForCsvPath;
 
   FolderTree* tree_ = nullptr;
   SearchField* search_ = nullptr;

@@ -9,6 +9,7 @@
 
 #include "addressbook/screens/contact_details_dlg.h"
 #include "addressbook/screens/contact_text_validator.h"
+#include "addressbook/screens/ok_and_cancel.h"
 #include "addressbook/screens/row_list_view.h"
 #include "addressbook/screens/select_contacts_dlg.h"
 #include "base/notifier.h"
@@ -59,12 +60,6 @@ void CGroupDetailsDlg::createControls() {
   connect(removal, &QShortcut::activated, this, &CGroupDetailsDlg::remove);
 }
 
-PictureButton* CGroupDetailsDlg::createButton(const QString& text, const char* name) {
-  auto* button = new PictureButton(text, this);
-  button->setObjectName(QLatin1String(name));
-  return button;
-}
-
 void CGroupDetailsDlg::createLayout() {
   auto* list = new QVBoxLayout;
   list->setSpacing(4);
@@ -75,16 +70,6 @@ void CGroupDetailsDlg::createLayout() {
   middle->addLayout(list, 1);
   middle->addLayout(buttonColumn());
 
-  auto* ok = createButton(QStringLiteral("&OK"), "okButton");
-  ok->setDefault(true);
-  connect(ok, &PictureButton::clicked, this, &QDialog::accept);
-  auto* cancel = createButton(QStringLiteral("&Cancel"), "cancelButton");
-  connect(cancel, &PictureButton::clicked, this, &QDialog::reject);
-  auto* bottom = new QHBoxLayout;
-  bottom->addStretch(1);
-  bottom->addWidget(ok);
-  bottom->addWidget(cancel);
-
   auto* top = new QHBoxLayout;
   top->addWidget(labelFor(name_, QStringLiteral("&Group Name:")));
   top->addWidget(name_, 1);
@@ -93,24 +78,24 @@ void CGroupDetailsDlg::createLayout() {
   layout->setSpacing(10);
   layout->addLayout(top);
   layout->addLayout(middle, 1);
-  layout->addLayout(bottom);
+  layout->addLayout(okAndCancelRow(*this));
   setTabOrder(name_, list_);
   resize(sizeHint().expandedTo(dialogUnits(*this, 360, 210)));
 }
 
 QLayout* CGroupDetailsDlg::buttonColumn() {
-  auto* selection = createButton(QStringLiteral("&Select..."), "selectButton");
-  connect(selection, &PictureButton::clicked, this, &CGroupDetailsDlg::select);
-  removeButton_ = createButton(QStringLiteral("&Remove"), "removeButton");
-  connect(removeButton_, &PictureButton::clicked, this, &CGroupDetailsDlg::remove);
-  auto* creation = createButton(QStringLiteral("&New Contact..."), "newContactButton");
-  connect(creation, &PictureButton::clicked, this, [this] { editContact({}); });
-  propertiesButton_ = createButton(QStringLiteral("&Properties..."), "propertiesButton");
-  connect(propertiesButton_, &PictureButton::clicked, this, &CGroupDetailsDlg::showProperties);
   auto* column = new QVBoxLayout;
   column->addSpacing(fontMetrics().height() + 4);
-  for (PictureButton* button : {selection, removeButton_, creation, propertiesButton_})
-    column->addWidget(button);
+  const auto add = [this, column](const QString& name, const QString& text, auto action) {
+    PictureButton* button = addButton(*column, name, text);
+    connect(button, &PictureButton::clicked, this, action);
+    return button;
+  };
+  add(QStringLiteral("selectButton"), QStringLiteral("&Select..."), &CGroupDetailsDlg::select);
+  removeButton_ = add(QStringLiteral("removeButton"), QStringLiteral("&Remove"), &CGroupDetailsDlg::remove);
+  add(QStringLiteral("newContactButton"), QStringLiteral("&New Contact..."), [this] { editContact({}); });
+  propertiesButton_ = add(QStringLiteral("propertiesButton"), QStringLiteral("&Properties..."),
+                          &CGroupDetailsDlg::showProperties);
   column->addStretch(1);
   return column;
 }

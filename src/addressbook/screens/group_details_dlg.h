@@ -34,7 +34,6 @@ class CGroupDetailsDlg final : public GradientDialog {
   void createControls();
   void createLayout();
   [[nodiscard]] QLayout* buttonColumn();
-  [[nodiscard]] PictureButton* createButton(const QString& text, const char* name);
   void select();
   void remove();
   void showProperties();

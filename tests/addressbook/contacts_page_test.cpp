@@ -1,0 +1,321 @@
+#include "addressbook/screens/contacts_page.h"
+
+#include <functional>
+#include <memory>
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QCheckBox>
+#include <QFile>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QPlainTextEdit>
+#include <QScopeGuard>
+#include <QTest>
+#include <QTimer>
+#include <gmock/gmock.h>
+
+#include "addressbook/screens/check_list_view.h"
+#include "addressbook/screens/contact_details_dlg.h"
+#include "addressbook/screens/folder_tree.h"
+#include "addressbook/screens/group_details_dlg.h"
+#include "addressbook/screens/row_list_view.h"
+#include "addressbook/screens/select_contacts_dlg.h"
+#include "tests/addressbook/disk_book.h"
+
+namespace parlexo {
+namespace {
+
+using Kind = ContactFolder::Kind;
+
+/// The page on the screen over an address book on disk, and a user's hands.
+class ContactsPage : public test::DiskBook {
+ protected:
+  ContactsPage() {
+    for (const char* name : {"Ann", "anton", "Bob", "4 You"}) addContact(name);
+    book_.saveContact({"Cid", {}, "N", "y", "+61255501234", {}, {"Perth", {}, {}, {}, {}, {}}});
+    book_.createGroup("My Personal Contacts", {"Bob", "Ann"});
+    book_.createGroup("Team", {"Ann", "Cid"});
+    page_ = std::make_unique<CContactsPage>(services());
+    page_->resize(800, 400);
+    page_->show();
+    page_->activateWindow();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(page_.get()));
+  }
+
+  template <class Widget>
+  [[nodiscard]] Widget& the(const char* name) const {
+    return *page_->findChild<Widget*>(QLatin1String(name));
+  }
+  FolderTree& tree() { return the<FolderTree>("folderTree"); }
+  RowListView& list() { return the<RowListView>("contactList"); }
+
+  void choose(Kind kind, const QString& name = {}) { tree().select({kind, name}); }
+  void press(const char* button) { QTest::mouseClick(&the<QAbstractButton>(button), Qt::LeftButton); }
+
+  [[nodiscard]] static QStringList column(const QAbstractItemView& view, int number) {
+    QStringList cells;
+    for (int row = 0; row < view.model()->rowCount(); ++row)
+      cells << view.model()->index(row, number).data().toString();
+    return cells;
+  }
+  QStringList shown() { return list().isVisible() ? column(list(), 0) : QStringList("no list"); }
+
+  /// What the user does in the dialog that opens next.
+  template <class Dialog>
+  void inDialog(std::function<void(Dialog&)> act) {
+    ++planned_;
+    auto* waiting = new QTimer(page_.get());
+    QObject::connect(waiting, &QTimer::timeout, page_.get(), [this, waiting, act = std::move(act)] {
+      auto* dialog = qobject_cast<Dialog*>(QApplication::activeModalWidget());
+      if (!dialog) return;
+      waiting->stop();
+      const auto rejection = qScopeGuard([dialog] {
+        if (dialog->isVisible()) dialog->reject();
+      });
+      ++met_;
+      ASSERT_TRUE(QTest::qWaitFor([dialog] {
+        return QApplication::focusWidget() && QApplication::focusWidget()->window() == dialog;
+      }));
+      act(*dialog);
+    });
+    waiting->start(0);
+  }
+  static void type(QWidget& dialog, const char* edit, const QString& text) {
+    dialog.findChild<QLineEdit*>(QLatin1String(edit))->setText(text);
+  }
+  static void click(QWidget& dialog, const char* button) {
+    QTest::mouseClick(dialog.findChild<QAbstractButton*>(QLatin1String(button)), Qt::LeftButton);
+  }
+
+  /// A key for a list that has the focus.
+  void press(QWidget& widget, Qt::Key key) {
+    page_->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(page_.get()));
+    widget.setFocus(Qt::MouseFocusReason);
+    QTest::keyClick(&widget, key);
+  }
+
+  void TearDown() override { EXPECT_EQ(met_, planned_) << "a dialog has not opened"; }
+
+  std::unique_ptr<CContactsPage> page_;
+
+ private:
+  int planned_ = 0;
+  int met_ = 0;
+};
+
+TEST_F(ContactsPage, foldersShowTheirContactsOrTheirInformation) {
+  EXPECT_EQ(shown(), QStringList({"Ann", "Bob"})) << "the personal contacts come first";
+  const struct {
+    ContactFolder folder;
+    QStringList names;
+  } cases[] = {
+      {{Kind::Group, "Team"}, {"Ann", "Cid"}},
+      {{Kind::Letter, "A"}, {"Ann", "anton"}},
+      {{Kind::Letter, "Z"}, {}},
+      {{Kind::Other, {}}, {"4 You"}},
+      {{Kind::Root, {}}, {"no list"}},
+      {{Kind::AllContacts, {}}, {"no list"}},
+  };
+  for (const auto& [folder, names] : cases) {
+    tree().select(folder);
+    EXPECT_EQ(shown(), names) << qPrintable(folder.name);
+  }
+  EXPECT_EQ(the<QPlainTextEdit>("informationPanel").toPlainText(),
+            "\n\n\n\n\n\n\n\nAll your contacts sorted in Alphabetic order. You cannot create contacts\nunder "
+            "these folders as they are READONLY. Deleting or modifying is permitted");
+  choose(Kind::Group, "Team");
+  EXPECT_EQ(column(list(), 2), QStringList({"yes", "no"}));
+  EXPECT_EQ(column(list(), 3), QStringList({"no", "yes"}));
+  EXPECT_EQ(column(list(), 4), QStringList({"", "+61255501234"}));
+}
+
+TEST_F(ContactsPage, searchFindsInAllContactsAndAFolderEndsIt) {
+  QTest::keyClick(page_.get(), Qt::Key_F, Qt::ControlModifier);
+  auto& search = the<QLineEdit>("contactSearch");
+  ASSERT_TRUE(search.hasFocus());
+  const struct {
+    const char* typed;
+    QStringList names;
+  } cases[] = {{"AN", {"Ann", "anton"}}, {"perth", {"Cid"}}, {"5550", {"Cid"}}, {"zz", {}}};
+  for (const auto& [typed, names] : cases) {
+    search.setText(typed);
+    EXPECT_EQ(shown(), names) << typed;
+  }
+  search.setText("cid");
+  EXPECT_EQ(the<QLabel>("countLine").text(), "1 contact found in the whole address book");
+  QTest::keyClick(&search, Qt::Key_Down);
+  EXPECT_EQ(list().selectedNames(), QStringList("Cid"));
+  notifier_.answers = {MessageResult::Yes};
+  press(list(), Qt::Key_Delete);
+  EXPECT_FALSE(book_.findContact("Cid")) << "what is found belongs to no group";
+  EXPECT_EQ(shown(), QStringList());
+  press("editButton");
+  EXPECT_THAT(notifier_.takeLines().last(), testing::Truly([](const QString& text) {
+                return text.endsWith("Can only get properties on \"Group\" folders.");
+              }));
+  choose(Kind::Group, "Team");
+  EXPECT_EQ(search.text(), "");
+  EXPECT_EQ(shown(), QStringList("Ann"));
+}
+
+TEST_F(ContactsPage, newContactGoesIntoTheSelectedGroupOnly) {
+  choose(Kind::Letter, "B");
+  press("newContactButton");
+  EXPECT_EQ(notifier_.takeLines().size(), 1);
+  choose(Kind::Group, "Team");
+  inDialog<CContactDetailsDlg>([&](CContactDetailsDlg& dialog) {
+    type(dialog, "nameEdit", QString::fromUtf8("  Bernd \u674E "));
+    EXPECT_EQ(dialog.findChild<QLineEdit*>("nameEdit")->text(), "  Bernd ? ");
+    type(dialog, "phoneEdit", "0491");
+    click(dialog, "okButton");
+    EXPECT_TRUE(dialog.isVisible());
+    EXPECT_EQ(dialog.focusWidget()->objectName(), "phoneEdit");
+    type(dialog, "phoneEdit", "+61491570159");
+    dialog.findChild<QCheckBox*>("smsBox")->setChecked(true);
+    click(dialog, "okButton");
+  });
+  press("newContactButton");
+  EXPECT_EQ(notifier_.takeLines().size(), 1);
+  EXPECT_EQ(shown(), QStringList({"Ann", "Bernd ?", "Cid"}));
+  EXPECT_EQ(list().selectedNames(), QStringList("Bernd ?"));
+  reload();
+  EXPECT_EQ(memberNames("Team"), QStringList({"Ann", "Bernd ?", "Cid"}));
+  EXPECT_EQ(book_.findContact("Bernd ?")->supportsSms + book_.findContact("Bernd ?")->supportsMedia, "YN");
+}
+
+TEST_F(ContactsPage, cancelledContactStaysAsItWasAfterAFailedOk) {
+  list().selectNames({"Bob"});
+  inDialog<CContactDetailsDlg>([&](CContactDetailsDlg& dialog) {
+    EXPECT_TRUE(dialog.findChild<QLineEdit*>("nameEdit")->isReadOnly());
+    type(dialog, "phoneEdit", "nonsense");
+    click(dialog, "okButton");
+    click(dialog, "cancelButton");
+  });
+  press(list(), Qt::Key_Return);
+  EXPECT_EQ(book_.findContact("Bob")->phone, "+61491570156");
+  inDialog<CContactDetailsDlg>([&](CContactDetailsDlg& dialog) {
+    type(dialog, "phoneEdit", "+61491570158");
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+  });
+  press(list(), Qt::Key_Return);
+  EXPECT_EQ(column(list(), 1), QStringList({"+61491570156", "+61491570158"}));
+  EXPECT_EQ(list().selectedNames(), QStringList("Bob"));
+}
+
+TEST_F(ContactsPage, groupIsCreatedChangedAndDeleted) {
+  inDialog<CGroupDetailsDlg>([&](CGroupDetailsDlg& dialog) {
+    click(dialog, "okButton");
+    type(dialog, "groupNameEdit", "Choir");
+    inDialog<CSelectContactsDlg>([](CSelectContactsDlg& selection) {
+      auto& contacts = *selection.findChild<CheckListView*>("contactList");
+      contacts.model()->setData(contacts.model()->index(1, 0), Qt::Checked, Qt::CheckStateRole);
+      click(selection, "selectButton");
+    });
+    click(dialog, "selectButton");
+    inDialog<CContactDetailsDlg>([](CContactDetailsDlg& contact) {
+      type(contact, "nameEdit", "Dan");
+      type(contact, "faxEdit", "+1");
+      click(contact, "okButton");
+    });
+    click(dialog, "newContactButton");
+    EXPECT_FALSE(book_.findContact("Dan")) << "nothing is written before OK";
+    EXPECT_EQ(column(*dialog.findChild<RowListView*>("memberList"), 0), QStringList({"Ann", "Dan"}));
+    click(dialog, "okButton");
+  });
+  press("newGroupButton");
+  EXPECT_EQ(notifier_.takeLines(), QStringList("16 Group name cannot be blank"));
+  EXPECT_EQ(tree().selected(), (ContactFolder{Kind::Group, "Choir"}));
+  EXPECT_EQ(shown(), QStringList({"Ann", "Dan"}));
+
+  notifier_.answers = {MessageResult::Yes, MessageResult::Yes};
+  inDialog<CGroupDetailsDlg>([&](CGroupDetailsDlg& dialog) {
+    EXPECT_TRUE(dialog.findChild<QLineEdit*>("groupNameEdit")->isReadOnly());
+    auto& members = *dialog.findChild<RowListView*>("memberList");
+    members.selectNames({"Ann"});
+    click(dialog, "removeButton");
+    members.selectNames({"Dan"});
+    inDialog<CContactDetailsDlg>([](CContactDetailsDlg& contact) {
+      type(contact, "faxEdit", "+2");
+      click(contact, "okButton");
+    });
+    click(dialog, "propertiesButton");
+    EXPECT_EQ(book_.findContact("Dan")->fax, "+1");
+    click(dialog, "okButton");
+  });
+  press("detailsButton");
+  EXPECT_EQ(notifier_.takeLines(),
+            QStringList("36 Are you sure you want to remove this contact from the group?"));
+  EXPECT_EQ(shown(), QStringList("Dan"));
+  EXPECT_EQ(column(list(), 4), QStringList("+2"));
+  list().selectNames({"Dan"});
+  press(tree(), Qt::Key_Delete);
+  EXPECT_FALSE(book_.findGroup("Choir")) << "in the tree the key means the folder";
+  EXPECT_TRUE(book_.findContact("Dan"));
+  EXPECT_EQ(tree().selected(), ContactFolder());
+}
+
+TEST_F(ContactsPage, deletionFollowsTheFolder) {
+  notifier_.answers = {MessageResult::Yes, MessageResult::Yes};
+  choose(Kind::Group, "Team");
+  list().selectAll();
+  press("deleteButton");
+  EXPECT_EQ(shown(), QStringList());
+  EXPECT_TRUE(book_.findContact("Ann"));
+  choose(Kind::Letter, "A");
+  list().selectNames({"Ann"});
+  the<QMenu>("contactsMenu").actions().last()->trigger();
+  EXPECT_EQ(shown(), QStringList("anton"));
+  EXPECT_FALSE(list().selectionModel()->hasSelection()) << "a further Delete hits nobody by accident";
+  reload();
+  EXPECT_EQ(memberNames("My Personal Contacts"), QStringList("Bob"));
+}
+
+TEST_F(ContactsPage, exportsWhatIsShownOrAllContacts) {
+  QString suggested;
+  QString path = folder_.filePath("out.csv");
+  page_->setPathAsker([&](QWidget*, const QString& name) {
+    suggested = name;
+    return path;
+  });
+  const auto exportedRows = [&](const ContactFolder& folder, const QString& search) {
+    tree().select(folder);
+    the<QLineEdit>("contactSearch").setText(search);
+    press("exportButton");
+    QFile file(path);
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+    return file.readAll().count("\r\n") - 1;
+  };
+  EXPECT_EQ(exportedRows({Kind::Group, "Team"}, {}), 2);
+  EXPECT_EQ(suggested, "Team");
+  EXPECT_EQ(exportedRows({Kind::Letter, "B"}, {}), 1);
+  EXPECT_EQ(exportedRows({Kind::Root, {}}, {}), 5);
+  EXPECT_EQ(suggested, "All Contacts");
+  EXPECT_EQ(exportedRows({Kind::Root, {}}, "an"), 2);
+  path = folder_.filePath("none/out.csv");
+  press("exportButton");
+  EXPECT_EQ(notifier_.takeLines().size(), 1);
+}
+
+TEST_F(ContactsPage, refreshAndReturningReadTheBookAnewAndKeepTheSelection) {
+  list().selectNames({"Bob"});
+  addContact("Abe");
+  book_.addMember("My Personal Contacts", "Abe");
+  book_.createGroup("Zoo");
+  page_->refresh();
+  EXPECT_EQ(shown(), QStringList({"Abe", "Ann", "Bob"}));
+  EXPECT_EQ(list().selectedNames(), QStringList("Bob"));
+  EXPECT_EQ(list().currentIndex().row(), 2);
+  page_->hide();
+  addContact("Abel");
+  book_.addMember("My Personal Contacts", "Abel");
+  page_->show();
+  EXPECT_EQ(shown(), QStringList({"Abe", "Abel", "Ann", "Bob"}));
+  choose(Kind::Group, "Zoo");
+  EXPECT_EQ(shown(), QStringList());
+}
+
+}  // namespace
+}  // namespace parlexo
