@@ -63,7 +63,7 @@ void showAndPaint(QWidget& window) {
 /// ticked from the start.
 void openDialog(benchmark::State& state) {
   const ContactSelection initial = state.range(0) ? everybody() : ContactSelection();
-  test::RecordingNotifier notifier;
+  RecordingNotifier notifier;
   town();
   for (auto step : state) {
     CSelectContactsDlg dialog(town().book(), QStringLiteral("SMS"), initial, notifier);
@@ -74,7 +74,7 @@ BENCHMARK(openDialog)->Arg(0)->Arg(1)->Unit(benchmark::kMillisecond);
 
 /// From the tick of the group to the repainted list.
 void tickGroupOf50000(benchmark::State& state) {
-  test::RecordingNotifier notifier;
+  RecordingNotifier notifier;
   CSelectContactsDlg dialog(town().book(), QStringLiteral("SMS"), {}, notifier);
   showAndPaint(dialog);
   QAbstractItemModel& groups = *dialog.findChild<CheckListView*>(QStringLiteral("groupList"))->model();
@@ -89,7 +89,7 @@ BENCHMARK(tickGroupOf50000)->Unit(benchmark::kMillisecond);
 
 /// The space bar with all rows selected, to the repainted list.
 void tickAllSelectedRows(benchmark::State& state) {
-  test::RecordingNotifier notifier;
+  RecordingNotifier notifier;
   CSelectContactsDlg dialog(town().book(), QStringLiteral("SMS"), {}, notifier);
   showAndPaint(dialog);
   auto& view = *dialog.findChild<CheckListView*>(QStringLiteral("contactList"));
@@ -104,7 +104,7 @@ BENCHMARK(tickAllSelectedRows)->Unit(benchmark::kMillisecond);
 
 /// The typed beginning of a name that nobody has: every name is looked at.
 void searchForMissingName(benchmark::State& state) {
-  test::RecordingNotifier notifier;
+  RecordingNotifier notifier;
   CSelectContactsDlg dialog(town().book(), QStringLiteral("SMS"), {}, notifier);
   auto& view = *dialog.findChild<CheckListView*>(QStringLiteral("contactList"));
   for (auto step : state) view.keyboardSearch(QStringLiteral("z"));
@@ -116,7 +116,7 @@ const char* const typings[] = {"ann 0123", "+614000", "eva city 7", "zq"};
 
 /// Every keystroke in the search field, to the laid out and repainted list; the argument picks the typing.
 void searchByKeystrokes(benchmark::State& state) {
-  test::RecordingNotifier notifier;
+  RecordingNotifier notifier;
   CSelectContactsDlg dialog(town().book(), QStringLiteral("SMS"), {}, notifier);
   showAndPaint(dialog);
   auto& view = *dialog.findChild<CheckListView*>(QStringLiteral("contactList"));
@@ -134,7 +134,7 @@ BENCHMARK(searchByKeystrokes)->DenseRange(0, 3)->Unit(benchmark::kMillisecond);
 
 /// From nothing found back to all contacts in the repainted list.
 void clearSearch(benchmark::State& state) {
-  test::RecordingNotifier notifier;
+  RecordingNotifier notifier;
   CSelectContactsDlg dialog(town().book(), QStringLiteral("SMS"), everybody(), notifier);
   showAndPaint(dialog);
   auto& view = *dialog.findChild<CheckListView*>(QStringLiteral("contactList"));

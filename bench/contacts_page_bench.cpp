@@ -1,0 +1,173 @@
+// How long the user of the contacts page waits when the address book has 100,000 contacts.
+
+#include <QAbstractItemView>
+#include <QCoreApplication>
+#include <QLineEdit>
+#include <QPixmap>
+#include <QSortFilterProxyModel>
+#include <QTemporaryDir>
+#include <QTreeView>
+#include <benchmark/benchmark.h>
+
+#include "addressbook/screens/contact_rows_model.h"
+#include "addressbook/screens/contacts_page.h"
+#include "addressbook/screens/folder_tree.h"
+#include "base/call_runner.h"
+#include "base/settings.h"
+#include "tests/addressbook/sample_book.h"
+
+namespace parlexo {
+namespace {
+
+constexpr int contactTotal = 100000;
+
+class SilentProgress final : public Progress {
+ public:
+  void show(const QString&) override {}
+  void setText(const QString&) override {}
+  void hide() override {}
+};
+
+/// 100,000 contacts under all letters, of whom every second belongs to one group.
+class Town : public test::SampleBook {
+ public:
+  Town() {
+    QStringList members;
+    for (int number = 0; number < contactTotal; ++number) {
+      const int shuffled = static_cast<int>(number * 48271LL % contactTotal);
+      const QString name = QStringLiteral("%1erson %2")
+                               .arg(QChar(u'A' + shuffled % 26))
+                               .arg(shuffled, 6, 10, QLatin1Char('0'));
+      addContact(name, QStringLiteral("+61%1").arg(400000000 + number), "Y", "N", {},
+                 {QStringLiteral("City %1").arg(number % 500), "", "", "", "", ""});
+      if (number % 2 == 0) members << name;
+    }
+    addGroup("Half the town", members);
+    addGroup("My Personal Contacts");
+  }
+};
+
+Town& town() {
+  static Town built;
+  return built;
+}
+
+/// The page on the screen, with what it works with.
+struct OpenPage {
+  OpenPage() {
+    page.resize(900, 500);
+    page.show();
+    QCoreApplication::processEvents();
+    benchmark::DoNotOptimize(page.grab());
+  }
+
+  QTemporaryDir folder;
+  RecordingNotifier notifier;
+  SilentProgress progress;
+  Settings settings{folder.path()};
+  DirectCallRunner runner;
+  CContactsPage page{{town().book(), notifier, progress, settings, runner}};
+  FolderTree& tree = *page.findChild<FolderTree*>();
+  QAbstractItemView& list = *page.findChild<QAbstractItemView*>(QStringLiteral("contactList"));
+  QLineEdit& search = *page.findChild<QLineEdit*>(QStringLiteral("contactSearch"));
+};
+
+const ContactFolder personal{ContactFolder::Kind::Group, QStringLiteral("My Personal Contacts")};
+
+/// From the choice of a folder to its repainted list, and back to an empty one.
+void switchFolder(benchmark::State& state, const ContactFolder& folder) {
+  OpenPage open;
+  for (auto step : state) {
+    open.tree.select(folder);
+    benchmark::DoNotOptimize(open.list.viewport()->grab());
+    state.PauseTiming();
+    open.tree.select(personal);
+    state.ResumeTiming();
+  }
+}
+BENCHMARK_CAPTURE(switchFolder, letterA, ContactFolder{ContactFolder::Kind::Letter, QStringLiteral("A")})
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(switchFolder, groupOf50000,
+                  ContactFolder{ContactFolder::Kind::Group, QStringLiteral("Half the town")})
+    ->Unit(benchmark::kMillisecond);
+
+/// What is typed letter by letter: a name, a number, two words, something that nobody has.
+const char* const typings[] = {"person 0123", "+614000", "erson city 7", "zq"};
+
+/// Every keystroke in the search, to the repainted list; the argument picks the typing.
+void searchByKeystrokes(benchmark::State& state) {
+  OpenPage open;
+  const QString typing = QString::fromLatin1(typings[state.range(0)]);
+  qsizetype typed = 0;
+  for (auto step : state) {
+    typed = typed % typing.size() + 1;
+    open.search.setText(typing.first(typed));
+    benchmark::DoNotOptimize(open.list.viewport()->grab());
+  }
+  state.SetLabel(typing.toStdString());
+}
+BENCHMARK(searchByKeystrokes)->DenseRange(0, 3)->Unit(benchmark::kMillisecond);
+
+/// Opening the page with its reading of the whole book, to the painted window.
+void openPage(benchmark::State& state) {
+  town();
+  for (auto step : state) OpenPage open;
+}
+BENCHMARK(openPage)->Unit(benchmark::kMillisecond);
+
+/// F5, which is also what follows after every change: the book is read and sorted anew.
+void refreshPage(benchmark::State& state) {
+  OpenPage open;
+  for (auto step : state) open.page.refresh();
+}
+BENCHMARK(refreshPage)->Unit(benchmark::kMillisecond);
+
+/// Qt's own sorting and filtering between a model of all contacts and the same kind of view.
+struct ProxiedView {
+  ProxiedView() {
+    ContactSelection::Contacts contacts;
+    for (const auto& [name, contact] : town().book().contacts()) contacts.push_back(&contact);
+    model.setContacts(std::move(contacts));
+    filter.setSourceModel(&model);
+    filter.setSortCaseSensitivity(Qt::CaseInsensitive);
+    filter.setFilterCaseSensitivity(Qt::CaseInsensitive);
+    filter.sort(ContactRowsModel::NameColumn);
+    view.setUniformRowHeights(true);
+    view.setModel(&filter);
+    view.resize(600, 400);
+    view.show();
+    QCoreApplication::processEvents();
+  }
+
+  ContactRowsModel model;
+  QSortFilterProxyModel filter;
+  QTreeView view;
+};
+
+void switchFolderWithProxyModel(benchmark::State& state) {
+  ProxiedView proxied;
+  char letter = 'A';
+  for (auto step : state) {
+    letter = letter == 'A' ? 'B' : 'A';
+    proxied.filter.setFilterRegularExpression(QStringLiteral("^%1").arg(QLatin1Char(letter)));
+    benchmark::DoNotOptimize(proxied.view.viewport()->grab());
+  }
+}
+BENCHMARK(switchFolderWithProxyModel)->Unit(benchmark::kMillisecond);
+
+void searchWithProxyModel(benchmark::State& state) {
+  ProxiedView proxied;
+  proxied.filter.setFilterKeyColumn(-1);
+  const QString typing = QString::fromLatin1(typings[state.range(0)]);
+  qsizetype typed = 0;
+  for (auto step : state) {
+    typed = typed % typing.size() + 1;
+    proxied.filter.setFilterFixedString(typing.first(typed));
+    benchmark::DoNotOptimize(proxied.view.viewport()->grab());
+  }
+  state.SetLabel(typing.toStdString());
+}
+BENCHMARK(searchWithProxyModel)->DenseRange(0, 3)->Unit(benchmark::kMillisecond);
+
+}  // namespace
+}  // namespace parlexo
