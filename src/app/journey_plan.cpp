@@ -20,6 +20,8 @@ const QString newsWindow = QStringLiteral("Parlexo(TM) : News");
 const QString mainWindow = QStringLiteral("Parlexo(TM) : Messaging Client");
 const QString selectionWindow = QStringLiteral("Parlexo(TM) : Contacts");
 const QString detailsWindow = QStringLiteral("Parlexo(TM) : Contact Details");
+const QString importWindow = QStringLiteral("Parlexo(TM) : Import Contacts");
+const QString fileWindow = QStringLiteral("Import Contacts");
 const QString notificationWindow = QStringLiteral("Parlexo(TM) : Notification");
 
 Act press(const QString& button) {
@@ -168,8 +170,34 @@ void planContact(Plan& plan) {
                          typeInto(QStringLiteral("Extra 1:"), QStringLiteral("North gate"))})});
   plan.push_back({QStringLiteral("contact-details"), QStringLiteral("Saves the contact"), detailsWindow,
                   press(QStringLiteral("&OK"))});
-  plan.push_back({QStringLiteral("contacts-page"), QStringLiteral("Turns to the numbers for replies"),
-                  mainWindow, turnTo(QStringLiteral("Receive Messages"))});
+  plan.push_back({QStringLiteral("contacts-page"), QStringLiteral("Has more people in a file"), mainWindow,
+                  press(QStringLiteral("&Import..."))});
+}
+
+bool makePeople(const QString& path) {
+  QFile people(path);
+  const QByteArray rows =
+      "Name;Surname;Phone\r\nNadia;Olsen;+61491570158\r\nOmar;Price;0491 570 159\r\n"
+      "Petra;Quist;(0491) 570-006\r\n";
+  return people.open(QIODevice::WriteOnly) && people.write(rows) == rows.size();
+}
+
+void planImport(Plan& plan, const QString& folder) {
+  const QString file = folder + QStringLiteral("/volunteers.csv");
+  plan.push_back(
+      {QStringLiteral("import-empty"), QStringLiteral("Looks for the file"), importWindow,
+       allOf({[file](QWidget*) { return makePeople(file); }, press(QStringLiteral("&Browse..."))})});
+  plan.push_back({QStringLiteral("import-file"), QStringLiteral("Opens it"), fileWindow,
+                  allOf({typeInto(QStringLiteral("File name:"), file), press(QStringLiteral("&Open"))})});
+  plan.push_back({QStringLiteral("import-opened"), QStringLiteral("Says which country the numbers are of"),
+                  importWindow,
+                  typeInto(QStringLiteral("Country code for numbers without one:"), QStringLiteral("+61"))});
+  plan.push_back({QStringLiteral("import"), QStringLiteral("Imports them"), importWindow,
+                  press(QStringLiteral("&Import"))});
+  plan.push_back({QStringLiteral("import-summary"), QStringLiteral("Reads what became of each row"),
+                  importWindow, press(QStringLiteral("&OK"))});
+  plan.push_back({QStringLiteral("imported"), QStringLiteral("Turns to the numbers for replies"), mainWindow,
+                  turnTo(QStringLiteral("Receive Messages"))});
 }
 
 void planAccount(Plan& plan) {
@@ -200,6 +228,7 @@ std::vector<JourneyStep> journeyPlan(const QString& user, const QString& passwor
   planStatus(plan);
   planFiles(plan, folder);
   planContact(plan);
+  planImport(plan, folder);
   planAccount(plan);
   plan.push_back(
       {QStringLiteral("end"), QStringLiteral("Leaves"), mainWindow, press(QStringLiteral("&Exit"))});
