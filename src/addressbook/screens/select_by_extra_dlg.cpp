@@ -8,6 +8,7 @@
 #include "addressbook/screens/search_field.h"
 #include "base/notifier.h"
 #include "ui/look.h"
+#include "ui/page_controls.h"
 #include "ui/picture_button.h"
 
 namespace parlexo {
@@ -68,22 +69,16 @@ void CSelectByExtraDlg::addField(QGridLayout& grid, int field, const QStringList
 }
 
 void CSelectByExtraDlg::addBottomRow(QGridLayout& grid, int row) {
-  auto* select = new PictureButton(QStringLiteral("&Select"), this);
-  select->setObjectName(QStringLiteral("selectButton"));
-  select->setDefault(true);
-  connect(select, &PictureButton::clicked, this, &QDialog::accept);
-  auto* cancel = new PictureButton(QStringLiteral("&Cancel"), this);
-  cancel->setObjectName(QStringLiteral("cancelButton"));
-  connect(cancel, &PictureButton::clicked, this, &QDialog::reject);
-
   count_ = new QLabel(this);
   count_->setObjectName(QStringLiteral("countLine"));
-
   auto* buttons = new QHBoxLayout;
   buttons->setContentsMargins(0, 6, 0, 0);
   buttons->addWidget(count_, 1);
-  buttons->addWidget(select);
-  buttons->addWidget(cancel);
+  auto* select = addButton(*buttons, QStringLiteral("selectButton"), QStringLiteral("&Select"));
+  select->setDefault(true);
+  connect(select, &PictureButton::clicked, this, &QDialog::accept);
+  auto* cancel = addButton(*buttons, QStringLiteral("cancelButton"), QStringLiteral("&Cancel"));
+  connect(cancel, &PictureButton::clicked, this, &QDialog::reject);
   grid.addLayout(buttons, row, 0, 1, boxesPerRow);
 }
 

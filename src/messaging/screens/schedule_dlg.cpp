@@ -89,17 +89,13 @@ QLayout* CScheduleDlg::timeColumn() {
 }
 
 QLayout* CScheduleDlg::buttonRow() {
-  auto* select = new PictureButton(QStringLiteral("&Select Date/Time"), this);
-  select->setObjectName(QStringLiteral("selectButton"));
-  select->setDefault(true);
-  connect(select, &PictureButton::clicked, this, &QDialog::accept);
-  auto* cancel = new PictureButton(QStringLiteral("&Cancel"), this);
-  cancel->setObjectName(QStringLiteral("cancelButton"));
-  connect(cancel, &PictureButton::clicked, this, &QDialog::reject);
   auto* row = new QHBoxLayout;
   row->addStretch(1);
-  row->addWidget(select);
-  row->addWidget(cancel);
+  auto* select = addButton(*row, QStringLiteral("selectButton"), QStringLiteral("&Select Date/Time"));
+  select->setDefault(true);
+  connect(select, &PictureButton::clicked, this, &QDialog::accept);
+  auto* cancel = addButton(*row, QStringLiteral("cancelButton"), QStringLiteral("&Cancel"));
+  connect(cancel, &PictureButton::clicked, this, &QDialog::reject);
   return row;
 }
 

@@ -23,17 +23,13 @@ HyperlinkLabel* accountLink(QWidget* parent) {
 }
 
 QLayout* senderIdButtons(QDialog& dialog) {
-  auto* save = new PictureButton(QStringLiteral("&Save"), &dialog);
-  save->setObjectName(QStringLiteral("saveButton"));
-  save->setDefault(true);
-  QObject::connect(save, &PictureButton::clicked, &dialog, &QDialog::accept);
-  auto* close = new PictureButton(QStringLiteral("&Close"), &dialog);
-  close->setObjectName(QStringLiteral("closeButton"));
-  QObject::connect(close, &PictureButton::clicked, &dialog, &QDialog::reject);
   auto* row = new QHBoxLayout;
   row->addStretch(1);
-  row->addWidget(save);
-  row->addWidget(close);
+  auto* save = addButton(*row, QStringLiteral("saveButton"), QStringLiteral("&Save"));
+  save->setDefault(true);
+  QObject::connect(save, &PictureButton::clicked, &dialog, &QDialog::accept);
+  auto* close = addButton(*row, QStringLiteral("closeButton"), QStringLiteral("&Close"));
+  QObject::connect(close, &PictureButton::clicked, &dialog, &QDialog::reject);
   return row;
 }
 
