@@ -30,10 +30,10 @@ void openStatusOnRequest(SendPage& page, CStatusDlg& status, CMainDlg& window) {
   });
 }
 
-// What was added is likely meant for the message, so that its recipients are chosen anew.
+// What was added is likely meant for the message: it comes ticked where the recipients are chosen anew.
 SendPage* addingContacts(SendPage* page, const AddressBookServices& services) {
   QObject::connect(page, &SendPage::contactsToAdd, page, [page, services](QWidget& button) {
-    if (addOrImportContacts(services, button)) page->selectContacts();
+    if (const auto added = addOrImportContacts(services, button)) page->selectContacts(*added);
   });
   return page;
 }

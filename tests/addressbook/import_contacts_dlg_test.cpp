@@ -122,6 +122,7 @@ TEST_F(ImportContactsDlgTest, importsAndTellsWhatBecameOfIt) {
   EXPECT_EQ(book_.findContact("Ann")->supportsMedia, "N");
   EXPECT_EQ(book_.findGroup("Team")->members().size(), 2u);
   EXPECT_EQ(dialog_.result(), QDialog::Accepted);
+  EXPECT_EQ(dialog_.importedNames(), QStringList({"Ann", "Bob", "Ann"}));
   QFile refused(refusedFile);
   ASSERT_TRUE(refused.open(QIODevice::ReadOnly));
   EXPECT_EQ(refused.readAll(), "\xEF\xBB\xBFName,Phone,Reason\r\nCid,,The row has no number.\r\n");

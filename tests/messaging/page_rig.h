@@ -32,14 +32,19 @@ class PageRig : public testing::Test, protected GatewayRig {
   }
   void press(const char* name) { QTest::mouseClick(&find<PictureButton>(name), Qt::LeftButton); }
 
+  // Does `work` in the dialog that opens next.
+  template <class Dialog>
+  void atNextDialog(const std::function<void(Dialog&)>& work) {
+    QTimer::singleShot(0, &page, [work] {
+      auto* dialog = qobject_cast<Dialog*>(QApplication::activeModalWidget());
+      if (!dialog) qFatal("no such dialog opens");
+      work(*dialog);
+    });
+  }
   // Presses a button and does `work` in the dialog that opens.
   template <class Dialog>
   void inDialog(const char* button, const std::function<void(Dialog&)>& work) {
-    QTimer::singleShot(0, &page, [&work, button] {
-      auto* dialog = qobject_cast<Dialog*>(QApplication::activeModalWidget());
-      if (!dialog) qFatal("%s opens no such dialog", button);
-      work(*dialog);
-    });
+    atNextDialog<Dialog>(work);
     press(button);
   }
   void inSelection(const std::function<void(CSelectContactsDlg&)>& work) {

@@ -137,6 +137,13 @@ TEST_F(SmsPage, selectionFillsTheBoxAndOpensWithItsContactsTicked) {
   EXPECT_EQ(page.draft().numbersList, "+61491570156,+60312345678");
 }
 
+TEST_F(SmsPage, namedContactsComeTickedBesideThoseOfTheBox) {
+  select({"Ann"});
+  atNextDialog<CSelectContactsDlg>([](CSelectContactsDlg& dialog) { dialog.accept(); });
+  page.selectContacts({"Lee, Bob", "Mute", "nobody any more"});
+  EXPECT_EQ(page.draft().displayList, "Ann [+61491570156],Lee, Bob [+60312345678]");
+}
+
 TEST_F(SmsPage, deleteAsksAndRemovesTheHighlightedEntries) {
   select({"Ann", "Lee, Bob"});
   page.activateWindow();

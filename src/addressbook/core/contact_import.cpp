@@ -76,10 +76,12 @@ class Import {
 
   // A disk that fails once would fail, with a message, for each of thousands.
   void store(const ContactRecord& contact, int& counter) {
-    if (book_.saveContact(contact) && join(contact.name))
-      ++counter;
-    else
+    if (!book_.saveContact(contact) || !join(contact.name)) {
       outcome_.end = ImportOutcome::End::WriteFailed;
+      return;
+    }
+    ++counter;
+    outcome_.names.append(contact.name);
   }
 
   bool join(const QString& name) {

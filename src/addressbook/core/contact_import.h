@@ -4,6 +4,7 @@
 
 #include <QByteArray>
 #include <QString>
+#include <QStringList>
 
 #include "addressbook/core/import_row.h"
 #include "contacts/import/sheet.h"
@@ -51,6 +52,7 @@ struct ImportOutcome {
   int imported = 0;
   int updated = 0;
   int skipped = 0;
+  QStringList names;  ///< of the contacts that were imported or updated
   std::vector<Refused> refused;
 };
 

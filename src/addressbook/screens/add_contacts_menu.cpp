@@ -11,26 +11,31 @@ namespace parlexo {
 
 namespace {
 
-bool addContact(const AddressBookServices& services, QWidget* window) {
+std::optional<QStringList> addContact(const AddressBookServices& services, QWidget* window) {
   const auto isTaken = [&](const QString& name) { return services.book.findContact(name) != nullptr; };
   CContactDetailsDlg dialog({}, isTaken, services.notifier, window);
-  if (dialog.exec() != QDialog::Accepted) return false;
+  if (dialog.exec() != QDialog::Accepted) return std::nullopt;
   ContactsFlow(services).addContact(dialog.contact(), QLatin1String(personalContactsName));
-  return true;
+  return QStringList(dialog.contact().name);
+}
+
+std::optional<QStringList> importContacts(const AddressBookServices& services, QWidget* window) {
+  CImportContactsDlg dialog(services, QLatin1String(personalContactsName), window);
+  if (dialog.exec() != QDialog::Accepted) return std::nullopt;
+  return dialog.importedNames();
 }
 
 }  // namespace
 
-bool addOrImportContacts(const AddressBookServices& services, QWidget& button) {
+std::optional<QStringList> addOrImportContacts(const AddressBookServices& services, QWidget& button) {
   QMenu menu(&button);
   menu.setObjectName(QStringLiteral("addContactsMenu"));
   const QAction* add = menu.addAction(QStringLiteral("&New Contact..."));
   const QAction* import = menu.addAction(QStringLiteral("&Import..."));
   const QAction* chosen = menu.exec(button.mapToGlobal(button.rect().bottomLeft()));
   if (chosen == add) return addContact(services, button.window());
-  if (chosen != import) return false;
-  return CImportContactsDlg(services, QLatin1String(personalContactsName), button.window()).exec() ==
-         QDialog::Accepted;
+  if (chosen == import) return importContacts(services, button.window());
+  return std::nullopt;
 }
 
 }  // namespace parlexo

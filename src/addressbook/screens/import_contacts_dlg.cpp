@@ -320,6 +320,7 @@ void CImportContactsDlg::startImport() {
   Running user(*this);
   const ImportOutcome outcome = importContacts(source_.preview(), chosen, services_.book, user);
   setImporting(false);
+  importedNames_ = outcome.names;
   CImportSummaryDlg(source_.preview(), chosen, outcome, services_.notifier, this).exec();
   accept();
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QStringList>
+
 #include "addressbook/core/addressbook_services.h"
 #include "addressbook/core/import_row.h"
 #include "addressbook/core/import_source.h"
@@ -32,6 +34,8 @@ class CImportContactsDlg : public GradientDialog {
   void openFile(const QString& path);
   /// Imports by what is chosen, and tells what became of it.
   void startImport();
+  /// The contacts that came into the address book or were updated there.
+  [[nodiscard]] const QStringList& importedNames() const { return importedNames_; }
 
   /// Ends an import that is running, at its next row; else closes the dialog.
   void reject() override;
@@ -78,6 +82,7 @@ class CImportContactsDlg : public GradientDialog {
   QLabel* progressText_;
   QProgressBar* progressBar_;
   PictureButton* import_;
+  QStringList importedNames_;
   bool isImporting_ = false;
   bool isCancelled_ = false;
 };

@@ -117,7 +117,7 @@ QWidget* RecipientsPanel::createButtons() {
   auto* add = button(QStringLiteral("&Add / Import Contacts"), QStringLiteral("addContactsButton"), [] {});
   connect(add, &PictureButton::clicked, this, [this, add] { Q_EMIT contactsToAdd(*add); });
   button(QStringLiteral("&Select Contacts..."), QStringLiteral("selectContactsButton"),
-         &RecipientsPanel::selectContacts);
+         [this] { selectContacts(); });
   button(QStringLiteral("Clear"), QStringLiteral("clearContactsButton"), &RecipientsPanel::clearEntries);
   layout->addStretch(1);
   return area;
@@ -142,8 +142,8 @@ void RecipientsPanel::removeRepeats() {
   box_->setFocus(Qt::OtherFocusReason);  // the link is gone now
 }
 
-void RecipientsPanel::selectContacts() {
-  CSelectContactsDlg dialog(book_, mode_, currentSelection(), notifier_, this);
+void RecipientsPanel::selectContacts(const QStringList& alsoTicked) {
+  CSelectContactsDlg dialog(book_, mode_, contactsOfBoxAnd(alsoTicked), notifier_, this);
   if (dialog.exec() == QDialog::Accepted) take(dialog.selection());
 }
 
@@ -161,10 +161,11 @@ void RecipientsPanel::removeHighlighted() {
   box_->selectionModel()->setCurrentIndex(model_.index(place), QItemSelectionModel::NoUpdate);
 }
 
-ContactSelection RecipientsPanel::currentSelection() const {
+ContactSelection RecipientsPanel::contactsOfBoxAnd(QStringList names) const {
+  for (const Recipient& entry : recipients().entries()) names.append(entry.name);
   ContactSelection::Contacts contacts;
-  for (const Recipient& entry : recipients().entries())
-    if (const ContactRecord* contact = book_.findContact(entry.name)) contacts.push_back(contact);
+  for (const QString& name : names)
+    if (const ContactRecord* contact = book_.findContact(name)) contacts.push_back(contact);
   return ContactSelection(std::move(contacts));
 }
 

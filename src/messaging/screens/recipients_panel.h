@@ -2,6 +2,7 @@
 
 #include <QAbstractListModel>
 #include <QString>
+#include <QStringList>
 #include <QWidget>
 
 #include "addressbook/core/contact_selection.h"
@@ -59,8 +60,8 @@ class RecipientsPanel final : public QWidget {
   /// Fills the box from a display list, as a template holds it; the numbers stay, as Recipients says.
   void setEntries(const QString& displayList);
 
-  /// Lets the user pick contacts, those in the box ticked at first, and takes them over.
-  void selectContacts();
+  /// Lets the user pick contacts and takes them over. Those in the box are ticked at first, and those named.
+  void selectContacts(const QStringList& alsoTicked = {});
   /// Removes the highlighted entries after a question.
   void removeHighlighted();
 
@@ -74,7 +75,7 @@ class RecipientsPanel final : public QWidget {
   [[nodiscard]] QWidget* createButtons();
   void showCount();
   void removeRepeats();
-  [[nodiscard]] ContactSelection currentSelection() const;
+  [[nodiscard]] ContactSelection contactsOfBoxAnd(QStringList names) const;
   void take(const ContactSelection& selection);
 
   const AddressBook& book_;

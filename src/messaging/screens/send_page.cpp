@@ -58,8 +58,8 @@ const Schedule& SendPage::schedule() const {
   return delivery_->schedule();
 }
 
-void SendPage::selectContacts() {
-  recipients_->selectContacts();
+void SendPage::selectContacts(const QStringList& alsoTicked) {
+  recipients_->selectContacts(alsoTicked);
 }
 
 void SendPage::send() {

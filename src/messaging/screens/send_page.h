@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 
 #include "messaging/core/messaging_services.h"
 #include "messaging/core/recipients.h"
@@ -34,8 +35,8 @@ class SendPage : public GradientPage {
  public:
   [[nodiscard]] const QString& typeWord() const { return kind_.typeWord; }
 
-  /// Lets the user choose the recipients from the address book.
-  void selectContacts();
+  /// Lets the user choose the recipients from the address book; see RecipientsPanel::selectContacts().
+  void selectContacts(const QStringList& alsoTicked = {});
 
  Q_SIGNALS:
   /// A message was accepted for every recipient and the form is cleared.
