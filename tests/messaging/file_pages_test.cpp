@@ -137,6 +137,20 @@ TYPED_TEST(FilePages, browsingBeginsInTheFolderOfTheLastChoice) {
   browse(this->folder.path());
 }
 
+TYPED_TEST(FilePages, noteAndRecipientsHaveRoomAtEverySize) {
+  const auto* note = this->page.template findChild<MessageEdit*>();
+  const auto* remaining = this->page.template findChild<QLineEdit*>("charactersRemaining");
+  const auto& box = this->template find<QAbstractItemView>("contactsBox");
+  for (const QSize& size : {this->page.minimumSizeHint(), QSize(1000, 460)}) {
+    this->page.resize(size);
+    QCoreApplication::processEvents();
+    EXPECT_GE(box.viewport()->height(), 3 * box.fontMetrics().lineSpacing());
+    if (!note) continue;
+    EXPECT_GE(note->viewport()->height(), 3 * note->fontMetrics().lineSpacing());
+    EXPECT_FALSE(remaining && remaining->geometry().intersects(note->geometry()));
+  }
+}
+
 class FaxPage : public FilePages<CQuillonFaxDlg> {};
 
 TEST_F(FaxPage, sendsToFaxNumbersAndTellsThePages) {

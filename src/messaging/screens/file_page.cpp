@@ -23,6 +23,8 @@ namespace {
 // has entered too much is told and can shorten it.
 constexpr int longestTypedDescription = 32'767;
 constexpr int counterDigits = 5;
+constexpr int fewestNoteLines = 3;  // on the smallest screen
+constexpr int noteMargins = 12;     // above and below the lines together
 
 QString mediaMode() {
   return QStringLiteral("Media");
@@ -94,7 +96,7 @@ FilePage::FilePage(const MessagingServices& services, FileKind kind, QWidget* pa
   setObjectName(kind_.objectName);
   setAcceptDrops(true);
   file_ = new FilePanel(kind_.fileLabel, services.settings, this);
-  layOut(messageArea(), note_ ? 1 : 0);
+  layOut(messageArea(), kind_.noteLabel.isEmpty() ? 0 : 1);
 }
 
 FileDraft FilePage::draft() const {
@@ -120,7 +122,7 @@ QLayout* FilePage::noteArea() {
   note_ = new MessageEdit(this);
   note_->setObjectName(QStringLiteral("noteEdit"));
   note_->setTextLimit(kind_.noteLimit);
-  // An edit would like to be so high that the recipients have hardly a line left on a small screen.
+  // The edit's own wish for height would leave the recipients hardly a line on a small screen.
   note_->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
   auto* area = new QGridLayout;
   area->setVerticalSpacing(6);
@@ -131,6 +133,7 @@ QLayout* FilePage::noteArea() {
   if (kind_.previewsPicture) addPreview(*area);
   area->setColumnStretch(0, 1);
   area->setRowStretch(1, 1);
+  area->setRowMinimumHeight(1, fewestNoteLines * note_->fontMetrics().lineSpacing() + noteMargins);
   return area;
 }
 
