@@ -92,6 +92,14 @@ TYPED_TEST(FilePages, clearThemselvesAfterASendThatSucceededAndOnlyThen) {
   EXPECT_EQ(wordFor(this->simulator.messages().at(0).type), this->page.typeWord());
 }
 
+TYPED_TEST(FilePages, aRefusalLeadsToItsField) {
+  this->press("sendButton");
+  EXPECT_TRUE(this->path().hasFocus());
+  this->path().setText(this->write("photo.jpg", "bytes"));
+  this->press("sendButton");
+  EXPECT_TRUE(this->template find<PictureButton>("selectContactsButton").hasFocus());
+}
+
 TYPED_TEST(FilePages, noticeStandsAfterASendWithoutAnAnswer) {
   this->select({"Ann"});
   this->path().setText(this->write("photo.jpg", "bytes"));

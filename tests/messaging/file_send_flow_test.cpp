@@ -134,20 +134,23 @@ TEST_P(FileSending, whatIsMissingStopsBeforeAnyCallInThePagesOrder) {
   FileDraft draft;
   draft.note = QString(10'241, QChar(u'x'));
   state.balanceIsZero = true;
-  const auto expectRefusal = [&](const std::string& message, unsigned style = message_style::stop) {
-    EXPECT_EQ(send(draft), SendOutcome::NotSent);
+  const auto expectRefusal = [&](const std::string& message, SendOutcome outcome,
+                                 unsigned style = message_style::stop) {
+    EXPECT_EQ(send(draft), outcome);
     EXPECT_EQ(notifier.shown.back().style, style);
     EXPECT_THAT(notifier.takeTexts(), ElementsAre(testing::StartsWith(message)));
   };
-  expectRefusal(GetParam().noFile);
+  expectRefusal(GetParam().noFile, SendOutcome::FileAtFault);
   draft.path = large;
-  expectRefusal("The contacts list is blank. Select contacts to send message to.");
+  expectRefusal("The contacts list is blank. Select contacts to send message to.",
+                SendOutcome::RecipientsAtFault);
   draft.displayList = QStringLiteral("Ann [+1]");
-  if (GetParam().kind == FileKind::Mms) expectRefusal("Description must be 10Kb or less");
+  if (GetParam().kind == FileKind::Mms)
+    expectRefusal("Description must be 10Kb or less", SendOutcome::MessageAtFault);
   draft.note.chop(1);
-  expectRefusal("Your account balance is zero.\r\n", message_style::information);
+  expectRefusal("Your account balance is zero.\r\n", SendOutcome::NotSent, message_style::information);
   state.balanceIsZero = false;
-  expectRefusal(GetParam().tooLarge);
+  expectRefusal(GetParam().tooLarge, SendOutcome::FileAtFault);
   EXPECT_THAT(operations(), IsEmpty());
 }
 
@@ -156,7 +159,7 @@ TEST_P(FileSending, limitOfTheLocatorIsTheLargestLength) {
   EXPECT_EQ(simulator.messages().at(0).fileSize, GetParam().limit);
   notifier.shown.clear();
   state.gateway = {state.gateway.latestClientVersion, {}, 0, 0, 0, state.gateway.endpoint};
-  EXPECT_EQ(send(draftOf(write(QStringLiteral("byte"), "x"))), SendOutcome::NotSent);
+  EXPECT_EQ(send(draftOf(write(QStringLiteral("byte"), "x"))), SendOutcome::FileAtFault);
   EXPECT_THAT(notifier.takeTexts(), ElementsAre(GetParam().tooLarge));
   EXPECT_EQ(send(draftOf(write(QStringLiteral("empty"), ""))), SendOutcome::NotSent);
   EXPECT_EQ(operations().back(), GetParam().operation) << "an empty file is the gateway's to judge";
@@ -169,7 +172,7 @@ TEST_P(FileSending, whatIsNoWritableFileCannotBeOpened) {
   // The system lets nobody, root included, write to a program that runs.
   const QString unwritable = QCoreApplication::applicationFilePath();
   for (const QString& path : {missing, link, folder.path(), QStringLiteral("/dev/zero"), unwritable}) {
-    EXPECT_EQ(send(draftOf(path)), SendOutcome::NotSent);
+    EXPECT_EQ(send(draftOf(path)), SendOutcome::FileAtFault);
     EXPECT_EQ(notifier.shown.back().style, message_style::stop);
     EXPECT_THAT(notifier.takeTexts(), ElementsAre(cannotOpen(path)));
   }
@@ -181,7 +184,7 @@ TEST_P(FileSending, fileThatChangesWhileItWaitsIsNotSentUnlessItIsOnlyRemoved) {
   const FileDraft draft = goodDraft();
   for (const int size : {999, 1001}) {
     runner.onRun = [&] { QFile::resize(draft.path, size); };
-    EXPECT_EQ(send(draft), SendOutcome::NotSent) << size;
+    EXPECT_EQ(send(draft), SendOutcome::FileAtFault) << size;
     EXPECT_THAT(notifier.takeTexts(), ElementsAre(cannotOpen(draft.path))) << size;
     QFile::resize(draft.path, 1000);
   }
@@ -197,7 +200,7 @@ TEST_P(FileSending, lackOfMemoryIsToldAfterTheCallsBefore) {
     const MemoryRefusal refusal(limitOfMobile);
     return send(draft);
   }();
-  EXPECT_EQ(outcome, SendOutcome::NotSent);
+  EXPECT_EQ(outcome, SendOutcome::FileAtFault);
   EXPECT_EQ(notifier.shown.back().style, message_style::stop);
   EXPECT_THAT(notifier.takeTexts(), ElementsAre(GetParam().noMemory));
   EXPECT_EQ(operations(), QStringList("scheduleMessageDisable"));

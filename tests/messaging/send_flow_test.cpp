@@ -96,24 +96,36 @@ TEST_F(SmsSending, whatIsMissingStopsBeforeAnyCall) {
     bool balanceIsZero;
     const char* message;
     unsigned style;
+    SendOutcome outcome;
   } const samples[] = {
-      {{}, {}, true, "No SMS message has been provided. Enter a SMS message.", message_style::stop},
-      {"x", {}, true, "The contacts list is blank. Select contacts to send message to.", message_style::stop},
-      {"x", "Ann [+1]", true, "Your account balance is zero.\r\nPlease go to ", message_style::information},
+      {{},
+       {},
+       true,
+       "No SMS message has been provided. Enter a SMS message.",
+       message_style::stop,
+       SendOutcome::MessageAtFault},
+      {"x",
+       {},
+       true,
+       "The contacts list is blank. Select contacts to send message to.",
+       message_style::stop,
+       SendOutcome::RecipientsAtFault},
+      {"x", "Ann [+1]", true, "Your account balance is zero.\r\nPlease go to ", message_style::information,
+       SendOutcome::NotSent},
   };
   for (const auto& sample : samples) {
     SmsDraft draft = draft_;
     draft.text = sample.text;
     draft.displayList = sample.displayList;
     state.balanceIsZero = sample.balanceIsZero;
-    EXPECT_EQ(send(draft), SendOutcome::NotSent);
+    EXPECT_EQ(send(draft), sample.outcome);
     EXPECT_EQ(notifier.shown.back().style, sample.style);
     EXPECT_THAT(notifier.takeTexts(), ElementsAre(testing::StartsWith(sample.message)));
   }
   SmsDraft tooLong = draft_;
   tooLong.charset = SmsCharset::Unicode;
   tooLong.text = QString(336, QChar(u'x'));
-  EXPECT_EQ(send(tooLong), SendOutcome::NotSent);
+  EXPECT_EQ(send(tooLong), SendOutcome::MessageAtFault);
   EXPECT_THAT(notifier.takeTexts(),
               ElementsAre("Unicode text is too long for message, we can not send this!"));
   EXPECT_THAT(operations(), IsEmpty());

@@ -197,6 +197,14 @@ TEST_F(SmsPage, successfulSendClearsTheFormButKeepsTheChoices) {
   EXPECT_EQ(counters(), "1/335");
 }
 
+TEST_F(SmsPage, refusedSendLeadsToWhatIsMissing) {
+  press("sendButton");
+  EXPECT_TRUE(editor().hasFocus());
+  QTest::keyClicks(&editor(), "Hi");
+  press("sendButton");
+  EXPECT_TRUE(find<PictureButton>("selectContactsButton").hasFocus());
+}
+
 TEST_F(SmsPage, failedSendKeepsTheForm) {
   QSignalSpy sent(&page, &CQuillonSMSDlg::messageSent);
   select({"Ann"});

@@ -12,10 +12,11 @@ FileSendFlow::FileSendFlow(const MessagingServices& services, FileKind kind)
 
 SendOutcome FileSendFlow::send(const FileDraft& draft) const {
   MessageFile file(draft.path);
-  if (!checkDraft(draft) || !checkLength(file, draft.path) || !flow_.announce(draft.schedule))
-    return SendOutcome::NotSent;
+  if (const auto refusal = refusalOf(draft)) return *refusal;
+  if (!checkLength(file, draft.path)) return SendOutcome::FileAtFault;
+  if (!flow_.announce(draft.schedule)) return SendOutcome::NotSent;
   const FileBytes bytes = read(file, draft.path);
-  if (!bytes) return SendOutcome::NotSent;
+  if (!bytes) return SendOutcome::FileAtFault;
   return flow_.deliver(draft.numbersList, [&](const QString& session) {
     const Transfer transfer(file.length());
     services_.progress.follow(transfer);
@@ -24,17 +25,18 @@ SendOutcome FileSendFlow::send(const FileDraft& draft) const {
   });
 }
 
-bool FileSendFlow::checkDraft(const FileDraft& draft) const {
+std::optional<SendOutcome> FileSendFlow::refusalOf(const FileDraft& draft) const {
   if (draft.path.isEmpty()) {
     services_.notifier.error(kind_.noFile);
-    return false;
+    return SendOutcome::FileAtFault;
   }
-  if (!flow_.checkRecipients(draft.displayList)) return false;
+  if (!flow_.checkRecipients(draft.displayList)) return SendOutcome::RecipientsAtFault;
   if (kind_.limitsNote && draft.note.size() > longestMmsDescription) {
     services_.notifier.error(text(TextId::MmsDescriptionTooLong));
-    return false;
+    return SendOutcome::MessageAtFault;
   }
-  return flow_.checkBalance();
+  if (!flow_.checkBalance()) return SendOutcome::NotSent;
+  return std::nullopt;
 }
 
 bool FileSendFlow::checkLength(MessageFile& file, const QString& path) const {

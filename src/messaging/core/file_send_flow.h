@@ -1,5 +1,7 @@
 #pragma once
 
+#include <optional>
+
 #include <QString>
 
 #include "messaging/core/file_message_kind.h"
@@ -29,7 +31,8 @@ class FileSendFlow {
   [[nodiscard]] SendOutcome send(const FileDraft& draft) const;
 
  private:
-  [[nodiscard]] bool checkDraft(const FileDraft& draft) const;
+  /// Why `draft` is not sent, of which the user is told; nothing when it may be.
+  [[nodiscard]] std::optional<SendOutcome> refusalOf(const FileDraft& draft) const;
   [[nodiscard]] bool checkLength(MessageFile& file, const QString& path) const;
   [[nodiscard]] FileBytes read(MessageFile& file, const QString& path) const;
   void reportCannotOpen(const QString& path) const;

@@ -12,10 +12,13 @@ namespace parlexo {
 
 /// What the page does with its form after a send.
 enum class SendOutcome {
-  NotSent,       ///< refused or failed, the user knows why: the form stays
-  Unanswered,    ///< sent, but no answer came: perhaps accepted, which the page says; the form stays
-  PartlyFailed,  ///< accepted, but not for every number: the form stays
-  Delivered,     ///< accepted for every number: the form is cleared
+  MessageAtFault,     ///< not sent for its text or note, the user knows why: the form stays
+  FileAtFault,        ///< the same for its file
+  RecipientsAtFault,  ///< the same for its recipients
+  NotSent,            ///< refused or failed for other reasons, which the user knows: the form stays
+  Unanswered,         ///< sent, but no answer came: perhaps accepted, which the page says; the form stays
+  PartlyFailed,       ///< accepted, but not for every number: the form stays
+  Delivered,          ///< accepted for every number: the form is cleared
 };
 
 /// In what the kinds of message differ on their way out.

@@ -29,9 +29,9 @@ SmsSendFlow::SmsSendFlow(const MessagingServices& services)
 
 SendOutcome SmsSendFlow::send(const SmsDraft& draft) const {
   const SmsComposition composition = composeSms(draft.text, draft.charset);
-  if (!checkText(composition) || !flow_.checkRecipients(draft.displayList) || !flow_.checkBalance() ||
-      !flow_.announce(draft.schedule))
-    return SendOutcome::NotSent;
+  if (!checkText(composition)) return SendOutcome::MessageAtFault;
+  if (!flow_.checkRecipients(draft.displayList)) return SendOutcome::RecipientsAtFault;
+  if (!flow_.checkBalance() || !flow_.announce(draft.schedule)) return SendOutcome::NotSent;
   return flow_.deliver(draft.numbersList, [&](const QString& session) {
     return sendSms(services_.gateway, session, composition.transmitText, draft);
   });

@@ -165,6 +165,11 @@ SendOutcome FilePage::sendMessage() {
   return outcome;
 }
 
+QWidget* FilePage::controlAtFault(SendOutcome outcome) const {
+  if (outcome == SendOutcome::FileAtFault) return file_->pathEdit();
+  return outcome == SendOutcome::MessageAtFault ? note_ : SendPage::controlAtFault(outcome);
+}
+
 void FilePage::clearMessage() {
   file_->clear();
   if (note_) note_->clear();

@@ -30,6 +30,7 @@ class FilePage : public SendPage {
   FilePage(const MessagingServices& services, FileKind kind, QWidget* parent);
 
   [[nodiscard]] SendOutcome sendMessage() override;
+  [[nodiscard]] QWidget* controlAtFault(SendOutcome outcome) const override;
   void clearMessage() override;
   void showEvent(QShowEvent* event) override;
   void dragEnterEvent(QDragEnterEvent* event) override;

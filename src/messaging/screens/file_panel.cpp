@@ -55,6 +55,10 @@ FilePanel::FilePanel(const QString& label, Settings& settings, QWidget* parent)
   display({});
 }
 
+QWidget* FilePanel::pathEdit() const {
+  return path_;
+}
+
 QString FilePanel::path() const {
   return path_->text();
 }

@@ -23,6 +23,7 @@ class FilePanel final : public QWidget {
   /// and must outlive the panel.
   FilePanel(const QString& label, Settings& settings, QWidget* parent = nullptr);
 
+  [[nodiscard]] QWidget* pathEdit() const;
   [[nodiscard]] QString path() const;
   void clear();
 

@@ -116,8 +116,8 @@ QWidget* RecipientsPanel::createButtons() {
   };
   auto* add = button(QStringLiteral("&Add / Import Contacts"), QStringLiteral("addContactsButton"), [] {});
   connect(add, &PictureButton::clicked, this, [this, add] { Q_EMIT contactsToAdd(*add); });
-  button(QStringLiteral("&Select Contacts..."), QStringLiteral("selectContactsButton"),
-         [this] { selectContacts(); });
+  select_ = button(QStringLiteral("&Select Contacts..."), QStringLiteral("selectContactsButton"),
+                   [this] { selectContacts(); });
   button(QStringLiteral("Clear"), QStringLiteral("clearContactsButton"), &RecipientsPanel::clearEntries);
   layout->addStretch(1);
   return area;

@@ -60,6 +60,8 @@ class RecipientsPanel final : public QWidget {
   /// Fills the box from a display list, as a template holds it; the numbers stay, as Recipients says.
   void setEntries(const QString& displayList);
 
+  /// The button that does selectContacts(): where missing recipients come from.
+  [[nodiscard]] QWidget* selectButton() const { return select_; }
   /// Lets the user pick contacts and takes them over. Those in the box are ticked at first, and those named.
   void selectContacts(const QStringList& alsoTicked = {});
   /// Removes the highlighted entries after a question.
@@ -86,6 +88,7 @@ class RecipientsPanel final : public QWidget {
   QListView* box_ = nullptr;
   QLabel* count_ = nullptr;
   HyperlinkLabel* repeats_ = nullptr;
+  QWidget* select_ = nullptr;
 };
 
 }  // namespace parlexo

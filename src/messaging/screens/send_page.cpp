@@ -67,7 +67,15 @@ void SendPage::send() {
   const QScopedValueRollback guard(isSending_, true);
   const SendOutcome outcome = sendMessage();
   notice_->follow(outcome);
-  if (outcome != SendOutcome::Delivered) return;
+  if (QWidget* control = controlAtFault(outcome)) control->setFocus(Qt::OtherFocusReason);
+  if (outcome == SendOutcome::Delivered) beginAnew();
+}
+
+QWidget* SendPage::controlAtFault(SendOutcome outcome) const {
+  return outcome == SendOutcome::RecipientsAtFault ? recipients_->selectButton() : nullptr;
+}
+
+void SendPage::beginAnew() {
   clearMessage();
   recipients_->clearEntries();
   delivery_->sendNow();

@@ -64,12 +64,15 @@ class SendPage : public GradientPage {
 
   /// Sends what the page holds and tells the user what became of it.
   [[nodiscard]] virtual SendOutcome sendMessage() = 0;
+  /// Where the user mends what kept the message from being sent; null when that is nowhere on the page.
+  [[nodiscard]] virtual QWidget* controlAtFault(SendOutcome outcome) const;
   /// Empties the message's own controls.
   virtual void clearMessage() = 0;
 
  private:
   void addBottomRow(QVBoxLayout& layout);
   void send();
+  void beginAnew();
 
   MessagingServices services_;
   SendPageKind kind_;

@@ -196,6 +196,10 @@ SendOutcome CQuillonSMSDlg::sendMessage() {
   return flow_.send(draft());
 }
 
+QWidget* CQuillonSMSDlg::controlAtFault(SendOutcome outcome) const {
+  return outcome == SendOutcome::MessageAtFault ? editor_ : SendPage::controlAtFault(outcome);
+}
+
 void CQuillonSMSDlg::clearMessage() {
   editor_->clear();
   recount();
@@ -206,6 +210,7 @@ void CQuillonSMSDlg::saveTemplate() {
   const QString message = composeSms(current.text, current.charset).transmitText;
   if (message.isEmpty()) {
     services().notifier.error(messaging_texts::noSmsText());
+    editor_->setFocus(Qt::OtherFocusReason);
     return;
   }
   CSaveTemplateDlg(services().templates, {current.displayList, message}, services().notifier, this).exec();

@@ -30,6 +30,7 @@ class CQuillonSMSDlg final : public SendPage {
 
  protected:
   [[nodiscard]] SendOutcome sendMessage() override;
+  [[nodiscard]] QWidget* controlAtFault(SendOutcome outcome) const override;
   void clearMessage() override;
 
  private:

@@ -23,6 +23,9 @@ void UnansweredNotice::follow(SendOutcome outcome) {
     case SendOutcome::Delivered:
       hide();
       return;
+    case SendOutcome::MessageAtFault:
+    case SendOutcome::FileAtFault:
+    case SendOutcome::RecipientsAtFault:
     case SendOutcome::NotSent:
       return;
   }
