@@ -1,6 +1,7 @@
 #include "app/main_dlg.h"
 
 #include <algorithm>
+#include <utility>
 
 #include <QGridLayout>
 #include <QHBoxLayout>
@@ -8,7 +9,9 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QScreen>
+#include <QScrollArea>
 #include <QShortcut>
+#include <QStyle>
 #include <QTabWidget>
 #include <QVBoxLayout>
 
@@ -33,6 +36,16 @@ QLineEdit* addField(QGridLayout& grid, int row, const QString& name, const QStri
   return field;
 }
 
+// On a screen that has less room than a page needs, what lies beyond the edge can still be reached.
+QScrollArea* scrollable(QWidget* page) {
+  auto* area = new QScrollArea;
+  area->setFrameShape(QFrame::NoFrame);
+  area->setFocusPolicy(Qt::NoFocus);
+  area->setWidgetResizable(true);
+  area->setWidget(page);
+  return area;
+}
+
 bool claims(const QWidget& page, const QKeySequence& shortcut) {
   const auto buttons = page.findChildren<QAbstractButton*>();
   return std::any_of(buttons.begin(), buttons.end(),
@@ -53,7 +66,8 @@ CMainDlg::CMainDlg(const std::vector<MainTab>& tabs, QWidget* parent) : Gradient
   shareExitMnemonic();
   tabs_->setFocus();
   // On a screen smaller than that, Send and Exit must not lie beyond its edge.
-  resize(dialogUnits(*this, 558, 330).boundedTo(screen()->availableSize()));
+  const QMargins titleBar(0, style()->pixelMetric(QStyle::PM_TitleBarHeight), 0, 0);
+  resize(dialogUnits(*this, 558, 330).boundedTo(screen()->availableSize().shrunkBy(titleBar)));
 }
 
 void CMainDlg::setUserName(const QString& name) {
@@ -69,10 +83,10 @@ void CMainDlg::openTab(const QString& text) {
     if (tabs_->tabText(i) == text) tabs_->setCurrentIndex(i);
 }
 
-void CMainDlg::showEvent(QShowEvent* event) {
-  GradientDialog::showEvent(event);
-  if (hasOpened_) return;
-  hasOpened_ = true;
+void CMainDlg::paintEvent(QPaintEvent* event) {
+  GradientDialog::paintEvent(event);
+  // Earlier than this the window does not know its place on the screen, and a dialog would not stand over it.
+  if (std::exchange(hasOpened_, true)) return;
   QMetaObject::invokeMethod(this, &CMainDlg::opened, Qt::QueuedConnection);
 }
 
@@ -96,7 +110,7 @@ void CMainDlg::addHeader(QVBoxLayout& column) {
 void CMainDlg::addTabs(QVBoxLayout& column, const std::vector<MainTab>& tabs) {
   tabs_ = new QTabWidget;
   tabs_->setObjectName(QStringLiteral("tabs"));
-  for (const auto& tab : tabs) tabs_->addTab(tab.create(), tab.text);
+  for (const auto& tab : tabs) tabs_->addTab(scrollable(tab.create()), tab.text);
   connect(tabs_, &QTabWidget::currentChanged, this, &CMainDlg::shareExitMnemonic);
   column.addWidget(tabs_, 1);
 }
@@ -139,7 +153,8 @@ void CMainDlg::turnTabs(int steps) {
 
 void CMainDlg::refresh() {
   Q_EMIT refreshRequested();
-  if (auto* page = qobject_cast<GradientPage*>(tabs_->currentWidget())) page->refresh();
+  const QWidget* front = tabs_->currentWidget();
+  if (auto* page = front ? front->findChild<GradientPage*>() : nullptr) page->refresh();
 }
 
 // Where the visible page has a button of the same mnemonic ("S&end >"), the key is the page's.

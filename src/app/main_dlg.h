@@ -43,7 +43,7 @@ class CMainDlg : public GradientDialog {
   void refreshRequested();
 
  protected:
-  void showEvent(QShowEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
 
  private:

@@ -91,6 +91,27 @@ TEST_F(MainDlgTest, f5RefreshesTheBalanceAndThePageInFront) {
   EXPECT_EQ(behind->refreshes, 0);
 }
 
+TEST_F(MainDlgTest, aPageLargerThanTheWindowCanStillBeReached) {
+  const auto makePage = [] {
+    auto* page = pageWithButton(u"Near"_qs);
+    page->setMinimumSize(3000, 3000);
+    auto* far = new PictureButton(u"Far"_qs, page);
+    far->setObjectName(u"far"_qs);
+    far->move(2900, 2900);
+    return page;
+  };
+  CMainDlg window({{u"A"_qs, makePage}});
+  window.open();
+  window.resize(600, 400);
+  EXPECT_EQ(window.size(), QSize(600, 400));
+  const auto* far = window.findChild<PictureButton*>(u"far"_qs);
+  EXPECT_TRUE(far->visibleRegion().isEmpty());
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+  for (int i = 0; i < 2; ++i) QTest::keyClick(window.focusWidget(), Qt::Key_Tab);
+  EXPECT_TRUE(far->hasFocus());
+  EXPECT_FALSE(far->visibleRegion().isEmpty());
+}
+
 TEST_F(MainDlgTest, onlyExitCtrlQAndTheCloseBoxEndIt) {
   QTest::keyClick(&window_, Qt::Key_Escape);
   QTest::keyClick(&window_, Qt::Key_Return);
