@@ -7,6 +7,7 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QMouseEvent>
+#include <QPlainTextEdit>
 #include <QTabWidget>
 
 namespace parlexo::hands {
@@ -104,6 +105,15 @@ bool tick(QWidget* window, const QString& list, const QString& name) {
     return true;
   }
   return false;
+}
+
+bool reads(QWidget* window, const QString& words) {
+  QStringList texts;
+  for (const auto* label : window->findChildren<QLabel*>())
+    if (label->isVisible()) texts << label->text();
+  for (const auto* field : window->findChildren<QPlainTextEdit*>())
+    if (field->isVisible()) texts << field->toPlainText();
+  return texts.join(u'\n').contains(words);
 }
 
 bool selectAll(QWidget* window, const QString& list) {

@@ -24,6 +24,8 @@ namespace hands {
 [[nodiscard]] bool showTab(QWidget* window, const QString& text);
 /// Ticks the check box of the row whose second column reads `name`, in the list called `list`.
 [[nodiscard]] bool tick(QWidget* window, const QString& list, const QString& name);
+/// Whether a label or a text field reads something with `words` in it.
+[[nodiscard]] bool reads(QWidget* window, const QString& words);
 /// Selects every row of the list called `list`; false also when it is empty.
 [[nodiscard]] bool selectAll(QWidget* window, const QString& list);
 /// What stands in the control that the label belongs to, and in a list's cells, as text.

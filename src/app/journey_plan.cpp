@@ -40,6 +40,10 @@ Act toggle(const QString& box) {
   return [box](QWidget* window) { return hands::toggle(window, box); };
 }
 
+Act reads(const QString& words) {
+  return [words](QWidget* window) { return hands::reads(window, words); };
+}
+
 Act allOf(const std::vector<Act>& acts) {
   return [acts](QWidget* window) {
     bool succeeded = true;
@@ -76,7 +80,8 @@ void planMessage(Plan& plan) {
                   press(QStringLiteral("S&end >"))});
   plan.push_back({QStringLiteral("sent"),
                   QStringLiteral("Reads that the message was delivered to the server"), notificationWindow,
-                  press(QStringLiteral("&OK"))});
+                  allOf({reads(QStringLiteral("SMS message successfully delivered to the server.")),
+                         press(QStringLiteral("&OK"))})});
 }
 
 void planStatus(Plan& plan) {
@@ -147,7 +152,9 @@ void planFiles(Plan& plan, const QString& folder) {
   plan.push_back({QStringLiteral("mms-page"), QStringLiteral("Presses Send"), mainWindow,
                   press(QStringLiteral("S&end >"))});
   plan.push_back({QStringLiteral("mms-sent"), QStringLiteral("Reads that it was delivered to the server"),
-                  notificationWindow, press(QStringLiteral("&OK"))});
+                  notificationWindow,
+                  allOf({reads(QStringLiteral("Media message successfully delivered to the server.")),
+                         press(QStringLiteral("&OK"))})});
   plan.push_back({QStringLiteral("mms-after"), QStringLiteral("Turns to the fax"), mainWindow, turnTo(fax)});
   planFilePage(plan, {fax,
                       QStringLiteral("fax"),
@@ -195,15 +202,16 @@ void planImport(Plan& plan, const QString& folder) {
   plan.push_back({QStringLiteral("import"), QStringLiteral("Imports them"), importWindow,
                   press(QStringLiteral("&Import"))});
   plan.push_back({QStringLiteral("import-summary"), QStringLiteral("Reads what became of each row"),
-                  importWindow, press(QStringLiteral("&OK"))});
+                  importWindow, allOf({reads(QStringLiteral("Imported: 3")), press(QStringLiteral("&OK"))})});
   plan.push_back({QStringLiteral("imported"), QStringLiteral("Turns to the numbers for replies"), mainWindow,
                   turnTo(QStringLiteral("Receive Messages"))});
 }
 
 void planAccount(Plan& plan) {
-  plan.push_back({QStringLiteral("receive-page"),
-                  QStringLiteral("Sees under which numbers replies arrive; turns to the account history"),
-                  mainWindow, turnTo(QStringLiteral("Account History"))});
+  plan.push_back(
+      {QStringLiteral("receive-page"),
+       QStringLiteral("Sees under which numbers replies arrive; turns to the account history"), mainWindow,
+       allOf({reads(QStringLiteral("Australian Number:")), turnTo(QStringLiteral("Account History"))})});
   plan.push_back({QStringLiteral("history"), QStringLiteral("Asks for the history as it is now"), mainWindow,
                   press(QStringLiteral("&Refresh"))});
   plan.push_back({QStringLiteral("history-page"),
@@ -215,8 +223,9 @@ void planAccount(Plan& plan) {
                          typeInto(QStringLiteral("Identity Code:"), QStringLiteral("crew-2026"))})});
   plan.push_back({QStringLiteral("settings-page"), QStringLiteral("Saves that"), mainWindow,
                   press(QStringLiteral("&Save Changes"))});
-  plan.push_back({QStringLiteral("settings-saved"), QStringLiteral("Reads that it was saved"),
-                  notificationWindow, press(QStringLiteral("&OK"))});
+  plan.push_back(
+      {QStringLiteral("settings-saved"), QStringLiteral("Reads that it was saved"), notificationWindow,
+       allOf({reads(QStringLiteral("Saved email messaging preferences")), press(QStringLiteral("&OK"))})});
 }
 
 }  // namespace
