@@ -119,6 +119,13 @@ TYPED_TEST(FilePages, tellAboutTheFileAndWhatHasBecomeOfIt) {
   EXPECT_TRUE(QTest::qWaitFor([this] { return this->facts() == "There is no such file."; }));
 }
 
+TYPED_TEST(FilePages, stayNarrowWhateverTheFileIsCalled) {
+  const int width = this->page.minimumSizeHint().width();
+  const std::string told = this->factsOf(this->write(QString(200, QChar(u'W')) + ".jpg", "x"));
+  EXPECT_THAT(told, testing::AllOf(testing::StartsWith("WWW"), testing::HasSubstr("W.jpg: 1 byte of")));
+  EXPECT_EQ(this->page.minimumSizeHint().width(), width);
+}
+
 TYPED_TEST(FilePages, takeOneDroppedFileAndNothingElse) {
   const QUrl chosenFile = QUrl::fromLocalFile(this->write(QString::fromUtf8("Gr\u00FC\u00DFe \u4F60"), "x"));
   EXPECT_FALSE(this->drop({chosenFile, chosenFile}));

@@ -5,6 +5,7 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QFontMetrics>
 #include <QFuture>
 #include <QGridLayout>
 #include <QLabel>
@@ -24,6 +25,15 @@ namespace {
 
 // While somebody types a path, not every letter sets the disk going.
 constexpr int lookDelay = 250;  // ms
+
+// A longer name of a single word would push the window over the edge of the screen.
+constexpr int longestName = 48;  // average characters
+
+QString factsText(FileFacts facts, const QFontMetrics& metrics) {
+  const int width = longestName * metrics.averageCharWidth();
+  facts.name = metrics.elidedText(facts.name, Qt::ElideMiddle, width);
+  return facts.text();
+}
 
 }  // namespace
 
@@ -95,6 +105,7 @@ QString FilePanel::startFolder() const {
 }
 
 void FilePanel::pathChanged() {
+  ++newestLook_;
   display({});
   untilLook_.start(lookDelay);
 }
@@ -103,8 +114,8 @@ void FilePanel::look() {
   const QString path = this->path();
   if (path.isEmpty()) return display({});
   const auto promise = std::make_shared<QPromise<FileLook>>();
-  promise->future().then(this, [this, path](const FileLook& look) {
-    if (path == this->path()) display(look);
+  promise->future().then(this, [this, number = ++newestLook_](const FileLook& look) {
+    if (number == newestLook_) display(look);
   });
   QThreadPool::globalInstance()->start([promise, path, wishes = wishes_] {
     promise->start();
@@ -118,7 +129,8 @@ void FilePanel::display(const FileLook& look) {
     facts_->setText(
         QStringLiteral("Choose a file of at most %1, or drop one here.").arg(dataSizeText(wishes_.limit)));
   else  // a blank keeps the line's place, so that nothing jumps
-    facts_->setText(look.facts.name.isEmpty() ? QStringLiteral(" ") : look.facts.text());
+    facts_->setText(look.facts.name.isEmpty() ? QStringLiteral(" ")
+                                              : factsText(look.facts, facts_->fontMetrics()));
   Q_EMIT looked(look);
 }
 

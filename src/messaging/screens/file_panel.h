@@ -51,6 +51,7 @@ class FilePanel final : public QWidget {
   Settings& settings_;
   FileLookWishes wishes_;
   QTimer untilLook_;
+  int newestLook_ = 0;  ///< number of the look that is still of interest
   QLineEdit* path_ = nullptr;
   QLabel* facts_ = nullptr;
 };
