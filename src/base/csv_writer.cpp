@@ -10,10 +10,18 @@ namespace {
 
 constexpr char byteOrderMark[] = "\xEF\xBB\xBF";
 
+// An amount, which must stay a number or nothing adds it up. Digits and points alone calculate nothing.
+bool isNegativeNumber(QStringView cell) {
+  const QStringView digits = cell.mid(1);
+  return cell.front() == u'-' && !digits.isEmpty() && std::all_of(digits.begin(), digits.end(), [](QChar c) {
+           return (c >= u'0' && c <= u'9') || c == u'.';
+         });
+}
+
 // Spreadsheets look behind a leading tab or line break too.
 bool looksLikeFormula(QStringView cell) {
   static constexpr QStringView signs = u"=+-@\t\r\n";
-  return !cell.isEmpty() && signs.contains(cell.front());
+  return !cell.isEmpty() && signs.contains(cell.front()) && !isNegativeNumber(cell);
 }
 
 // Blanks at the ends would be within their rights unquoted, but many readers trim them.

@@ -5,7 +5,7 @@
 
 namespace parlexo {
 
-/// What becomes of a cell that a spreadsheet would take for a formula.
+/// What becomes of a cell that a spreadsheet would take for a formula; a negative number is none.
 enum class CsvCells {
   AsTheyAre,  ///< nothing: the file is to be read back unchanged
   Harmless,   ///< it gets an apostrophe in front, so that it stays a text: the file is for people

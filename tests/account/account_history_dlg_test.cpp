@@ -63,6 +63,17 @@ TEST_F(HistoryPage, refreshShowsWhatIsNewAndAFailureKeepsTheRows) {
   EXPECT_THAT(column(2), ElementsAre("-5.00", "1.00"));
 }
 
+TEST_F(HistoryPage, showsNothingOfTheUserWhoWasLoggedInBefore) {
+  remember(1, {2026, 1, 1});
+  open();
+  page_->hide();
+  misbehave(FaultKind::Code, "getAccountHistory", 3);
+  state.userName = u"other"_qs;
+  page_->show();
+  EXPECT_TRUE(QTest::qWaitFor([this] { return column(0).empty(); }));
+  EXPECT_EQ(operations().size(), 2);
+}
+
 TEST_F(HistoryPage, headingsSortNumbersByValueAndDatesByTime) {
   remember(20, {2025, 12, 31});
   remember(-3, {2026, 1, 1});

@@ -90,6 +90,11 @@ TEST_F(SettingsPage, refreshLoadsWhatStartUpMissedButKeepsWhatIsTyped) {
   edit("identityCode").setText(u"typed"_qs);
   page_->refresh();
   EXPECT_EQ(edit("identityCode").text(), u"typed"_qs);
+  page_->hide();
+  state.userName = u"other"_qs;
+  page_->show();
+  EXPECT_TRUE(QTest::qWaitFor([this] { return edit("identityCode").text() == u"held"_qs; }))
+      << "what another user has typed does not stay";
 }
 
 TEST_F(SettingsPage, passwordsStayAfterAFailureAndGoOnceTheyHaveServed) {

@@ -1,10 +1,13 @@
 #include "account/screens/account_history_dlg.h"
 
+#include <utility>
+
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QScopedValueRollback>
 #include <QVBoxLayout>
 
+#include "base/run_state.h"
 #include "ui/export_button.h"
 #include "ui/page_controls.h"
 #include "ui/picture_button.h"
@@ -37,10 +40,18 @@ CAccountHistoryDlg::CAccountHistoryDlg(const AccountServices& services, QWidget*
 void CAccountHistoryDlg::refresh() {
   if (isLoading_) return;
   const QScopedValueRollback guard(isLoading_, true);
+  const QString& user = services_.state.userName;
+  if (std::exchange(shownUser_, user) != user) model_.fill({});
   auto records = AccountHistoryFlow(services_).load();
   if (!records) return;
   model_.fill(std::move(*records));
   if (model_.rowCount() > 0) list_->selectRecord(model_.rowCount() - 1);
+}
+
+void CAccountHistoryDlg::showEvent(QShowEvent* event) {
+  GradientPage::showEvent(event);
+  if (shownUser_ != services_.state.userName)
+    QMetaObject::invokeMethod(this, &CAccountHistoryDlg::refresh, Qt::QueuedConnection);
 }
 
 void CAccountHistoryDlg::createLayout() {

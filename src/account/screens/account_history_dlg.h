@@ -21,6 +21,10 @@ class CAccountHistoryDlg final : public GradientPage {
   /// Fetches the history anew. After a failure the rows stay as they were.
   void refresh() override;
 
+ protected:
+  /// Another user may have logged in since the history was fetched.
+  void showEvent(QShowEvent* event) override;
+
  private:
   void createLayout();
   [[nodiscard]] QHBoxLayout* createButtons();
@@ -29,6 +33,7 @@ class CAccountHistoryDlg final : public GradientPage {
   HistoryListModel model_;
   RecordTable* list_;
   bool isLoading_ = false;
+  QString shownUser_;  ///< whose history it is
 };
 
 }  // namespace parlexo

@@ -1,6 +1,6 @@
 #include "account/screens/email_preferences_panel.h"
 
-#include <algorithm>
+#include <utility>
 
 #include <QCheckBox>
 #include <QGridLayout>
@@ -8,6 +8,7 @@
 #include <QLineEdit>
 
 #include "base/code_page.h"
+#include "base/run_state.h"
 #include "ui/page_controls.h"
 #include "ui/picture_button.h"
 
@@ -24,7 +25,7 @@ QString asSent(const QLineEdit& edit) {
 }  // namespace
 
 EmailPreferencesPanel::EmailPreferencesPanel(const AccountServices& services, QWidget* parent)
-    : QGroupBox(QStringLiteral("Email Messaging:"), parent), flow_(services) {
+    : QGroupBox(QStringLiteral("Email Messaging:"), parent), state_(services.state), flow_(services) {
   setObjectName(QStringLiteral("emailPanel"));
   auto* grid = new QGridLayout(this);
   grid->setColumnMinimumWidth(filterColumn - 1, 24);
@@ -81,7 +82,14 @@ void EmailPreferencesPanel::createFilter(QGridLayout& grid) {
   grid.addWidget(button, 4, filterColumn, 1, 2, Qt::AlignRight);
 }
 
+void EmailPreferencesPanel::showEvent(QShowEvent* event) {
+  QGroupBox::showEvent(event);
+  if (shownUser_ != state_.userName)
+    QMetaObject::invokeMethod(this, &EmailPreferencesPanel::load, Qt::QueuedConnection);
+}
+
 void EmailPreferencesPanel::load() {
+  if (std::exchange(shownUser_, state_.userName) != state_.userName) show(held_ = {});
   const auto preferences = flow_.load();
   if (!preferences) return;
   held_ = *preferences;

@@ -23,6 +23,10 @@ class EmailPreferencesPanel final : public QGroupBox {
   /// Fetches anew what the gateway holds, unless the user has changed something and not saved it yet.
   void reloadUnlessChanged();
 
+ protected:
+  /// Another user may have logged in since the preferences were fetched.
+  void showEvent(QShowEvent* event) override;
+
  private:
   QCheckBox* addCheckBox(QGridLayout& grid, int row, int column, const char* name, const QString& label);
   QLineEdit* addEdit(QGridLayout& grid, int row, int column, const char* name, const QString& label);
@@ -35,8 +39,10 @@ class EmailPreferencesPanel final : public QGroupBox {
   void enableWhatCounts();
   void focusWhatMayMiss();
 
+  const RunState& state_;
   EmailPreferencesFlow flow_;
   EmailPreferences held_;  ///< what the gateway is known to hold
+  QString shownUser_;      ///< for whom
 
   QCheckBox* enabled_ = nullptr;
   QLineEdit* code_ = nullptr;

@@ -3,6 +3,7 @@
 #include <QFormLayout>
 #include <QLineEdit>
 
+#include "ui/look.h"
 #include "ui/page_controls.h"
 #include "ui/picture_button.h"
 
@@ -32,6 +33,7 @@ QLineEdit* PasswordPanel::addEdit(QFormLayout& form, const char* name, const QSt
   auto* edit = new QLineEdit(this);
   edit->setObjectName(QLatin1String(name));
   edit->setEchoMode(QLineEdit::Password);
+  edit->setMinimumWidth(dialogUnits(*edit, 50, 0).width());
   connect(edit, &QLineEdit::returnPressed, this, &PasswordPanel::change);
   form.addRow(labelFor(edit, label), edit);
   return edit;

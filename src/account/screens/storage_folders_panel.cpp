@@ -4,6 +4,7 @@
 
 #include <QDir>
 #include <QFileDialog>
+#include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
@@ -41,7 +42,16 @@ void showPath(QLineEdit& field, const QString& path) {
 }  // namespace
 
 QString chooseFolder(QWidget* parent, const QString& prompt, const QString& start) {
-  return QDir::toNativeSeparators(QFileDialog::getExistingDirectory(parent, prompt, start));
+  QFileDialog dialog(parent, prompt, start);
+  dialog.setFileMode(QFileDialog::Directory);
+  dialog.setOption(QFileDialog::ShowDirsOnly);
+  // Too long for most title bars, but only where the dialog is Qt's own is there another place.
+  if (auto* grid = qobject_cast<QGridLayout*>(dialog.layout())) {
+    dialog.setWindowTitle(QStringLiteral("Browse for Folder"));
+    grid->addWidget(wrappedLabel(prompt, &dialog), grid->rowCount(), 0, 1, grid->columnCount());
+  }
+  return dialog.exec() == QDialog::Accepted ? QDir::toNativeSeparators(dialog.selectedFiles().value(0))
+                                            : QString();
 }
 
 StorageFoldersPanel::StorageFoldersPanel(const AccountServices& services, FolderChooser chooser,
