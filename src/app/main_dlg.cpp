@@ -36,13 +36,31 @@ QLineEdit* addField(QGridLayout& grid, int row, const QString& name, const QStri
   return field;
 }
 
+/// A page inside a scroll area, which would scroll a page with wrapped texts as soon as it has less than the
+/// height that it would like; to ask for the least height, this has no layout.
+class PageHolder final : public QWidget {
+ public:
+  explicit PageHolder(QWidget* page) : page_(page) { page->setParent(this); }
+
+  [[nodiscard]] QSize sizeHint() const override { return page_->sizeHint(); }
+  [[nodiscard]] QSize minimumSizeHint() const override {
+    return page_->minimumSizeHint().expandedTo(page_->minimumSize());
+  }
+
+ protected:
+  void resizeEvent(QResizeEvent*) override { page_->resize(size()); }
+
+ private:
+  QWidget* page_;
+};
+
 // On a screen that has less room than a page needs, what lies beyond the edge can still be reached.
 QScrollArea* scrollable(QWidget* page) {
   auto* area = new QScrollArea;
   area->setFrameShape(QFrame::NoFrame);
   area->setFocusPolicy(Qt::NoFocus);
   area->setWidgetResizable(true);
-  area->setWidget(page);
+  area->setWidget(new PageHolder(page));
   return area;
 }
 

@@ -6,6 +6,7 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListView>
 #include <QMenu>
 #include <QScreen>
 #include <QSignalSpy>
@@ -13,6 +14,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
+#include <QVBoxLayout>
 #include <gtest/gtest.h>
 
 #include "app/about_dlg.h"
@@ -110,6 +112,23 @@ TEST_F(MainDlgTest, aPageLargerThanTheWindowCanStillBeReached) {
   for (int i = 0; i < 2; ++i) QTest::keyClick(window.focusWidget(), Qt::Key_Tab);
   EXPECT_TRUE(far->hasFocus());
   EXPECT_FALSE(far->visibleRegion().isEmpty());
+}
+
+TEST_F(MainDlgTest, aPageThatCanShrinkDoesNotScroll) {
+  auto* page = new QWidget;
+  auto* column = new QVBoxLayout(page);
+  auto* words = new QLabel(QString(u"words "_qs).repeated(20), page);
+  words->setWordWrap(true);
+  auto* list = new QListView(page);
+  column->addWidget(words);
+  column->addWidget(list);
+  CMainDlg window({{u"A"_qs, [page] { return page; }}});
+  window.open();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+  window.resize(600, window.height() - page->height() + page->minimumSizeHint().height() + 30);
+  QCoreApplication::processEvents();
+  EXPECT_LT(list->height(), list->sizeHint().height());
+  EXPECT_EQ(page->visibleRegion().boundingRect(), page->rect());
 }
 
 TEST_F(MainDlgTest, onlyExitCtrlQAndTheCloseBoxEndIt) {
