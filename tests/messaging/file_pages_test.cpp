@@ -52,15 +52,15 @@ class FilePages : public PageRig<Page> {
     (void)QTest::qWaitFor([this] { return facts() != QLatin1String(" "); });
     return facts().toStdString();
   }
-  bool drop(const QList<QUrl>& urls) {
+  bool drop(const QList<QUrl>& urls, QWidget& over) {
     QMimeData data;
     data.setUrls(urls);
     QDragEnterEvent enter(QPoint(5, 5), Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton, {});
     enter.ignore();
-    QApplication::sendEvent(&this->page, &enter);
+    QApplication::sendEvent(&over, &enter);
     if (!enter.isAccepted()) return false;
     QDropEvent drop(QPointF(5, 5), Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton, {});
-    QApplication::sendEvent(&this->page, &drop);
+    QApplication::sendEvent(&over, &drop);
     EXPECT_EQ(drop.dropAction(), Qt::CopyAction) << "the file must stay where it is";
     return true;
   }
@@ -126,15 +126,21 @@ TYPED_TEST(FilePages, stayNarrowWhateverTheFileIsCalled) {
   EXPECT_EQ(this->page.minimumSizeHint().width(), width);
 }
 
-TYPED_TEST(FilePages, takeOneDroppedFileAndNothingElse) {
+TYPED_TEST(FilePages, takeOneDroppedFileEverywhereAndNothingElse) {
   const QUrl chosenFile = QUrl::fromLocalFile(this->write(QString::fromUtf8("Gr\u00FC\u00DFe \u4F60"), "x"));
-  EXPECT_FALSE(this->drop({chosenFile, chosenFile}));
-  EXPECT_FALSE(this->drop({QUrl::fromLocalFile(this->folder.path())}));
-  EXPECT_FALSE(this->drop({QUrl(QStringLiteral("https://www.parlexo.example/a.jpg"))}));
-  EXPECT_EQ(this->path().text(), "");
-  EXPECT_TRUE(this->drop({chosenFile}));
-  EXPECT_EQ(this->path().text(), chosenFile.toLocalFile());
-  EXPECT_EQ(this->settings.fileFolder(), this->folder.path());
+  const auto* note = this->page.template findChild<MessageEdit*>();
+  QWidget* const places[] = {&this->page, &this->path(), note ? note->viewport() : &this->page,
+                             this->template find<QAbstractItemView>("contactsBox").viewport()};
+  EXPECT_FALSE(this->drop({QUrl(QStringLiteral("https://www.parlexo.example/a.jpg"))}, this->page));
+  for (QWidget* place : places) {
+    EXPECT_FALSE(this->drop({chosenFile, chosenFile}, *place));
+    EXPECT_FALSE(this->drop({QUrl::fromLocalFile(this->folder.path())}, *place));
+    EXPECT_EQ(this->path().text(), "");
+    EXPECT_TRUE(this->drop({chosenFile}, *place));
+    EXPECT_EQ(this->path().text(), chosenFile.toLocalFile());
+    EXPECT_EQ(this->settings.fileFolder(), this->folder.path());
+    this->path().clear();
+  }
 }
 
 TYPED_TEST(FilePages, browsingBeginsInTheFolderOfTheLastChoice) {
