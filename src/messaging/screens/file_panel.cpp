@@ -125,13 +125,16 @@ void FilePanel::look() {
 }
 
 void FilePanel::display(const FileLook& look) {
-  if (path().isEmpty())
-    facts_->setText(
-        QStringLiteral("Choose a file of at most %1, or drop one here.").arg(dataSizeText(wishes_.limit)));
-  else  // a blank keeps the line's place, so that nothing jumps
-    facts_->setText(look.facts.name.isEmpty() ? QStringLiteral(" ")
-                                              : factsText(look.facts, facts_->fontMetrics()));
+  facts_->setText(lineFor(look));
+  path_->setAccessibleDescription(facts_->text());
   Q_EMIT looked(look);
+}
+
+QString FilePanel::lineFor(const FileLook& look) const {
+  if (path().isEmpty())
+    return QStringLiteral("Choose a file of at most %1, or drop one here.").arg(dataSizeText(wishes_.limit));
+  // A blank keeps the line's place, so that nothing jumps.
+  return look.facts.name.isEmpty() ? QStringLiteral(" ") : factsText(look.facts, facts_->fontMetrics());
 }
 
 }  // namespace parlexo

@@ -46,6 +46,7 @@ class FilePanel final : public QWidget {
  private:
   void pathChanged();
   void display(const FileLook& look);
+  [[nodiscard]] QString lineFor(const FileLook& look) const;
   [[nodiscard]] QString startFolder() const;
 
   Settings& settings_;
