@@ -4,21 +4,20 @@
 #include <limits>
 #include <memory>
 
-#include <QXmlStreamReader>
-
 #include "contacts/import/number_format.h"
+#include "contacts/import/workbook_xml.h"
 
 namespace parlexo {
 
 namespace {
 
-QStringView odsAttribute(const QXmlStreamReader& xml, QStringView name) {
+QStringView odsAttribute(const WorkbookXml& xml, QStringView name) {
   for (const QXmlStreamAttribute& candidate : xml.attributes())
     if (candidate.name() == name) return candidate.value();
   return {};
 }
 
-int repeatsOf(const QXmlStreamReader& xml, QStringView name) {
+int repeatsOf(const WorkbookXml& xml, QStringView name) {
   return std::max(1, odsAttribute(xml, name).toInt());
 }
 
@@ -29,10 +28,10 @@ void advance(int& position, int count) {
 }
 
 /// The text of the paragraph or of a stretch of it at which `xml` stands.
-QString paragraphText(QXmlStreamReader& xml) {
+QString paragraphText(WorkbookXml& xml) {
   constexpr int longestBlank = 1000;
   QString text;
-  while (!xml.atEnd() && xml.readNext() != QXmlStreamReader::EndElement) {
+  while (!xml.atEnd() && xml.readNext() != WorkbookXml::EndElement) {
     if (xml.isCharacters()) text += xml.text();
     if (!xml.isStartElement()) continue;
     if (xml.name() == u"s") text += QString(std::min(repeatsOf(xml, u"c"), longestBlank), u' ');
@@ -46,7 +45,7 @@ QString paragraphText(QXmlStreamReader& xml) {
 }
 
 /// What is written in the cell at which `xml` stands; notes are no part of it.
-QString shownText(QXmlStreamReader& xml) {
+QString shownText(WorkbookXml& xml) {
   QString text;
   while (xml.readNextStartElement()) {
     if (xml.name() != u"p") {
@@ -60,7 +59,7 @@ QString shownText(QXmlStreamReader& xml) {
 }
 
 /// The value of the cell where it has one that is not a text; null else.
-QString valueText(const QXmlStreamReader& xml) {
+QString valueText(const WorkbookXml& xml) {
   const QStringView type = odsAttribute(xml, u"value-type");
   if (type == u"float" || type == u"percentage" || type == u"currency")
     return numberText(odsAttribute(xml, u"value"));
@@ -74,14 +73,14 @@ QString valueText(const QXmlStreamReader& xml) {
 bool OdsReader::read() {
   const std::unique_ptr<QIODevice> part = archive_.openPart(QStringLiteral("content.xml"));
   if (!part) return false;
-  QXmlStreamReader xml(part.get());
+  WorkbookXml xml(part.get());
   while (!xml.atEnd() && builder_.isOpen())
-    if (xml.readNext() == QXmlStreamReader::StartElement && xml.name() == u"table") readTable(xml);
+    if (xml.readNext() == WorkbookXml::StartElement && xml.name() == u"table") readTable(xml);
   return !xml.hasError();
 }
 
 // Rows may stand in groups and header groups.
-void OdsReader::readTable(QXmlStreamReader& xml) {
+void OdsReader::readTable(WorkbookXml& xml) {
   sheet_ = builder_.addSheet(odsAttribute(xml, u"name").toString());
   row_ = 0;
   while (!xml.atEnd() && builder_.isOpen()) {
@@ -91,7 +90,7 @@ void OdsReader::readTable(QXmlStreamReader& xml) {
   }
 }
 
-void OdsReader::readRow(QXmlStreamReader& xml) {
+void OdsReader::readRow(WorkbookXml& xml) {
   const int repeats = repeatsOf(xml, u"number-rows-repeated");
   column_ = 0;
   while (builder_.isOpen() && xml.readNextStartElement()) {
@@ -103,7 +102,7 @@ void OdsReader::readRow(QXmlStreamReader& xml) {
   advance(row_, repeats);
 }
 
-void OdsReader::readCell(QXmlStreamReader& xml, int repeats) {
+void OdsReader::readCell(WorkbookXml& xml, int repeats) {
   const int columns = repeatsOf(xml, u"number-columns-repeated");
   QString text = valueText(xml);
   const QString shown = shownText(xml);

@@ -5,9 +5,9 @@
 #include "contacts/import/workbook_builder.h"
 #include "contacts/import/zip_archive.h"
 
-class QXmlStreamReader;
-
 namespace parlexo {
+
+class WorkbookXml;
 
 /// Reads the cells of an .ods workbook.
 class OdsReader {
@@ -18,10 +18,10 @@ class OdsReader {
   [[nodiscard]] bool read();
 
  private:
-  void readTable(QXmlStreamReader& xml);
-  void readRow(QXmlStreamReader& xml);
+  void readTable(WorkbookXml& xml);
+  void readRow(WorkbookXml& xml);
   /// `repeats` rows from row_ on.
-  void readCell(QXmlStreamReader& xml, int repeats);
+  void readCell(WorkbookXml& xml, int repeats);
 
   ZipArchive& archive_;
   WorkbookBuilder& builder_;

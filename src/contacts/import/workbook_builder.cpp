@@ -11,6 +11,10 @@ QString textLimitProblem() {
   return QStringLiteral("The file has too much text.");
 }
 
+QString cellLimitProblem(const ImportLimits& limits) {
+  return QStringLiteral("The file has more than %L1 cells.").arg(limits.cells);
+}
+
 }  // namespace
 
 std::size_t WorkbookBuilder::addSheet(const QString& name) {
@@ -24,7 +28,10 @@ std::size_t WorkbookBuilder::addSheet(const QString& name) {
 std::size_t WorkbookBuilder::addText(const QString& text) {
   if (!isOpen()) return texts_.size();
   textLength_ += text.size();
-  if (textLength_ > limits_.textLength || text.size() > limits_.cellLength) problem_ = textLimitProblem();
+  if (textLength_ > limits_.textLength || text.size() > limits_.cellLength)
+    problem_ = textLimitProblem();
+  else if (static_cast<qsizetype>(texts_.size()) >= limits_.cells)
+    problem_ = cellLimitProblem(limits_);
   texts_.push_back(text);
   return texts_.size() - 1;
 }
@@ -35,9 +42,13 @@ bool WorkbookBuilder::takes(int row, int column) {
     problem_ = QStringLiteral("The file has more than %L1 columns.").arg(limits_.columns);
   else if (row >= limits_.rows)
     problem_ = QStringLiteral("The file has more than %L1 rows.").arg(limits_.rows);
-  else if (++cellCount_ > limits_.cells)
-    problem_ = QStringLiteral("The file has more than %L1 cells.").arg(limits_.cells);
+  else
+    countCell();
   return problem_.isEmpty();
+}
+
+void WorkbookBuilder::countCell() {
+  if (++cellCount_ > limits_.cells) problem_ = cellLimitProblem(limits_);
 }
 
 void WorkbookBuilder::setText(std::size_t sheet, int row, int column, std::size_t textNumber) {
@@ -58,22 +69,23 @@ NamedSheets WorkbookBuilder::build() {
     // Few texts may be in many cells.
     if (length > limits_.textLength) problem_ = textLimitProblem();
     if (!isOpen()) return {};
-    built.push_back({raw.name, tableOf(raw.cells, texts_)});
+    built.push_back({raw.name, tableOf(raw.cells)});
   }
-  return built;
+  return isOpen() ? std::move(built) : NamedSheets();
 }
 
-Sheet WorkbookBuilder::tableOf(std::vector<Cell>& cells, const std::vector<QString>& texts) {
+Sheet WorkbookBuilder::tableOf(std::vector<Cell>& cells) {
   const auto place = [](const Cell& cell) { return std::pair(cell.row, cell.column); };
   std::stable_sort(cells.begin(), cells.end(),
                    [&](const Cell& left, const Cell& right) { return place(left) < place(right); });
   Sheet sheet;
-  for (std::size_t i = 0; i < cells.size(); ++i) {
+  for (std::size_t i = 0; i < cells.size() && isOpen(); ++i) {
     // Of a cell that was told twice, the later one.
     if (i + 1 < cells.size() && place(cells[i]) == place(cells[i + 1])) continue;
     while (sheet.rowCount() < cells[i].row) sheet.endRow();
-    while (sheet.openRowCells() < cells[i].column) sheet.endCell();
-    sheet.append(texts[cells[i].text]);
+    // A gap takes room like a cell: a single one at the end of each row makes the whole table.
+    for (; sheet.openRowCells() < cells[i].column; sheet.endCell()) countCell();
+    sheet.append(texts_[cells[i].text]);
     sheet.endCell();
   }
   if (!cells.empty()) sheet.endRow();

@@ -29,7 +29,7 @@ class WorkbookBuilder {
   [[nodiscard]] bool isOpen() const { return problem_.isEmpty() && !cancel_.isRaised(); }
   [[nodiscard]] const QString& problem() const { return problem_; }
 
-  /// The sheets that have a cell.
+  /// The sheets that have a cell; none when they turn out too large.
   [[nodiscard]] NamedSheets build();
 
  private:
@@ -44,7 +44,8 @@ class WorkbookBuilder {
   };
 
   [[nodiscard]] bool takes(int row, int column);
-  static Sheet tableOf(std::vector<Cell>& cells, const std::vector<QString>& texts);
+  void countCell();
+  [[nodiscard]] Sheet tableOf(std::vector<Cell>& cells);
 
   const ImportLimits& limits_;
   const CancelFlag& cancel_;

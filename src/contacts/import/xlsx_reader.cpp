@@ -4,9 +4,9 @@
 #include <memory>
 
 #include <QDir>
-#include <QXmlStreamReader>
 
 #include "contacts/import/number_format.h"
+#include "contacts/import/workbook_xml.h"
 
 namespace parlexo {
 
@@ -14,6 +14,8 @@ namespace {
 
 // Beyond any limit, whatever is made of it.
 constexpr int farAway = 100'000'000;
+// Of relations and of sheets; a workbook has a few dozen.
+constexpr std::size_t mostEntries = 10'000;
 
 QString folderOf(const QString& part) {
   return part.left(part.lastIndexOf(u'/') + 1);
@@ -33,11 +35,11 @@ std::pair<int, int> placeOf(QStringView reference) {
 
 /// The text of the element at which `xml` stands, its runs joined, without the readings of characters that
 /// East Asian texts carry along.
-QString joinedText(QXmlStreamReader& xml) {
+QString joinedText(WorkbookXml& xml) {
   QString text;
   while (xml.readNextStartElement()) {
     if (xml.name() == u"t")
-      text += xml.readElementText(QXmlStreamReader::IncludeChildElements);
+      text += xml.readElementText();
     else if (xml.name() == u"r")
       text += joinedText(xml);
     else
@@ -47,7 +49,7 @@ QString joinedText(QXmlStreamReader& xml) {
 }
 
 // Some producers prefix the attribute, others don't.
-QString attribute(const QXmlStreamReader& xml, QStringView name) {
+QString attribute(const WorkbookXml& xml, QStringView name) {
   for (const QXmlStreamAttribute& candidate : xml.attributes())
     if (candidate.name() == name) return candidate.value().toString();
   return {};
@@ -86,8 +88,8 @@ std::vector<XlsxReader::Relation> XlsxReader::readRelations(const QString& ofPar
       folder + QStringLiteral("_rels/") + ofPart.sliced(folder.size()) + QStringLiteral(".rels"));
   std::vector<Relation> relations;
   if (!part) return relations;
-  QXmlStreamReader xml(part.get());
-  while (!xml.atEnd()) {
+  WorkbookXml xml(part.get());
+  while (!xml.atEnd() && relations.size() < mostEntries) {
     if (!xml.readNextStartElement() || xml.name() != u"Relationship") continue;
     const QString target = attribute(xml, u"Target");
     const QString type = attribute(xml, u"Type");
@@ -100,9 +102,9 @@ std::vector<XlsxReader::Relation> XlsxReader::readRelations(const QString& ofPar
 bool XlsxReader::readWorkbook(const QString& partName) {
   const std::unique_ptr<QIODevice> part = archive_.openPart(partName);
   if (!part) return false;
-  QXmlStreamReader xml(part.get());
-  while (!xml.atEnd()) {
-    if (xml.readNext() != QXmlStreamReader::StartElement) continue;
+  WorkbookXml xml(part.get());
+  while (!xml.atEnd() && sheets_.size() < mostEntries) {
+    if (xml.readNext() != WorkbookXml::StartElement) continue;
     if (xml.name() == u"sheet") sheets_.emplace_back(attribute(xml, u"name"), attribute(xml, u"id"));
     if (xml.name() == u"workbookPr") {
       const QString value = attribute(xml, u"date1904");
@@ -115,9 +117,9 @@ bool XlsxReader::readWorkbook(const QString& partName) {
 bool XlsxReader::readTexts(const QString& partName) {
   const std::unique_ptr<QIODevice> part = archive_.openPart(partName);
   if (!part) return false;
-  QXmlStreamReader xml(part.get());
+  WorkbookXml xml(part.get());
   while (!xml.atEnd() && builder_.isOpen()) {
-    if (xml.readNext() != QXmlStreamReader::StartElement || xml.name() != u"si") continue;
+    if (xml.readNext() != WorkbookXml::StartElement || xml.name() != u"si") continue;
     const std::size_t number = builder_.addText(joinedText(xml));
     if (textCount_++ == 0) firstText_ = number;
   }
@@ -127,13 +129,13 @@ bool XlsxReader::readTexts(const QString& partName) {
 bool XlsxReader::readStyles(const QString& partName) {
   const std::unique_ptr<QIODevice> part = archive_.openPart(partName);
   if (!part) return false;
-  QXmlStreamReader xml(part.get());
+  WorkbookXml xml(part.get());
   std::set<int> dateFormats;
   bool inCells = false;
   while (!xml.atEnd()) {
     const auto token = xml.readNext();
-    if (xml.name() == u"cellXfs") inCells = token == QXmlStreamReader::StartElement;
-    if (token != QXmlStreamReader::StartElement) continue;
+    if (xml.name() == u"cellXfs") inCells = token == WorkbookXml::StartElement;
+    if (token != WorkbookXml::StartElement) continue;
     const int format = attribute(xml, u"numFmtId").toInt();
     if (xml.name() == u"numFmt" && isDateFormat(attribute(xml, u"formatCode"))) dateFormats.insert(format);
     if (xml.name() == u"xf" && inCells)
@@ -146,11 +148,11 @@ bool XlsxReader::readSheet(const QString& name, const QString& partName) {
   const std::unique_ptr<QIODevice> part = archive_.openPart(partName);
   if (!part) return false;
   const std::size_t sheet = builder_.addSheet(name);
-  QXmlStreamReader xml(part.get());
+  WorkbookXml xml(part.get());
   // References may be left out: then row follows row and cell follows cell.
   Place place{-1, -1};
   while (!xml.atEnd() && builder_.isOpen()) {
-    if (xml.readNext() != QXmlStreamReader::StartElement) continue;
+    if (xml.readNext() != WorkbookXml::StartElement) continue;
     if (xml.name() == u"row") {
       const int row = placeOf(attribute(xml, u"r")).first;
       place = {row >= 0 ? row : place.row + 1, -1};
@@ -163,13 +165,13 @@ bool XlsxReader::readSheet(const QString& name, const QString& partName) {
   return !xml.hasError();
 }
 
-void XlsxReader::readCell(QXmlStreamReader& xml, std::size_t sheet, Place place) {
+void XlsxReader::readCell(WorkbookXml& xml, std::size_t sheet, Place place) {
   const QString type = attribute(xml, u"t");
   const std::size_t style = attribute(xml, u"s").toUInt();
   QString value;
   while (xml.readNextStartElement()) {
     if (xml.name() == u"v")
-      value = xml.readElementText(QXmlStreamReader::IncludeChildElements);
+      value = xml.readElementText();
     else if (xml.name() == u"is")
       value = joinedText(xml);
     else

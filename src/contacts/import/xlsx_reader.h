@@ -9,9 +9,9 @@
 #include "contacts/import/workbook_builder.h"
 #include "contacts/import/zip_archive.h"
 
-class QXmlStreamReader;
-
 namespace parlexo {
+
+class WorkbookXml;
 
 /// Reads the cells of an .xlsx workbook: which parts its sheets are, the texts that they share, which
 /// formats are dates, then sheet by sheet.
@@ -38,7 +38,7 @@ class XlsxReader {
   [[nodiscard]] bool readTexts(const QString& part);
   [[nodiscard]] bool readStyles(const QString& part);
   [[nodiscard]] bool readSheet(const QString& name, const QString& part);
-  void readCell(QXmlStreamReader& xml, std::size_t sheet, Place place);
+  void readCell(WorkbookXml& xml, std::size_t sheet, Place place);
   void setNumber(std::size_t sheet, Place place, const QString& written, std::size_t style);
 
   ZipArchive& archive_;

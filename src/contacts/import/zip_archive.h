@@ -12,8 +12,9 @@ struct zip_file;
 
 namespace parlexo {
 
-/// A zip archive that is read part by part and never unpacked as a whole. What comes out of it is counted,
-/// so that a small file can't turn into an endless one.
+/// A zip archive of XML that is read part by part and never unpacked as a whole. What comes out of it is
+/// counted, so that a small file can't turn into an endless one, and a part ends early that has a tag or a
+/// text of a length that no workbook has.
 class ZipArchive {
  public:
   /// `longest` is the most that all parts together may give, in bytes.

@@ -6,6 +6,8 @@
 
 #include "contacts/import/number_format.h"
 #include "contacts/import/spread_sheet.h"
+#include "contacts/import/workbook_builder.h"
+#include "contacts/import/workbook_xml.h"
 
 namespace parlexo {
 namespace {
@@ -96,6 +98,38 @@ TEST(CSpreadSheet, damagedFilesGiveAMessage) {
     EXPECT_THAT(problemOf(half.fileName()).toStdString(), HasSubstr("can't be read")) << name;
   }
   EXPECT_FALSE(CSpreadSheet::isWorkbook(QStringLiteral(SAMPLE_FOLDER "README.md")));
+}
+
+TEST(WorkbookXml, givesUpOnWhatIsMadeToFillTheMemory) {
+  const auto nested = [](int depth) {
+    return "<t>" + QByteArray("<a>").repeated(depth) + "x" + QByteArray("</a>").repeated(depth) + "</t>";
+  };
+  const struct {
+    QByteArray document;
+    bool isRead;
+  } cases[] = {
+      {nested(100), true},
+      {nested(1'000'000), false},
+      {"<!DOCTYPE t [<!ENTITY e \"<a><a>\">]><t>x</t>", false},
+  };
+  for (const auto& [document, isRead] : cases) {
+    WorkbookXml text(document);
+    EXPECT_EQ(text.readNextStartElement() ? text.readElementText() : QString(), isRead ? "x" : "");
+    WorkbookXml skipped(document);
+    if (skipped.readNextStartElement()) skipped.skipCurrentElement();
+    EXPECT_EQ(!text.hasError() && !skipped.hasError(), isRead) << document.left(20).toStdString();
+  }
+}
+
+TEST(WorkbookBuilder, gapsInFrontOfCellsCountLikeCells) {
+  ImportLimits limits;
+  limits.cells = 10;
+  const CancelFlag cancel;
+  WorkbookBuilder builder(limits, cancel);
+  const std::size_t sheet = builder.addSheet("far");
+  for (int row = 0; row < 3; ++row) builder.setCell(sheet, row, 4, "x");
+  EXPECT_TRUE(builder.build().empty());
+  EXPECT_THAT(builder.problem().toStdString(), HasSubstr("more than 10 cells"));
 }
 
 TEST(NumberFormat, keepsAllDigitsAndKnowsDates) {
