@@ -44,8 +44,8 @@ bool AddressBook::saveContact(const ContactRecord& contact, bool writeToFile) {
   if (database_.writeItem(error, nameWidth, contactsPath(), contactRecordSize, packContact(contact),
                           timeoutSeconds))
     return true;
-  notifier_.error(QStringLiteral("There was a problem trying to save your contact to the database. Error=") +
-                  error);
+  showFailure(QStringLiteral("There was a problem trying to save your contact to the database. Error="),
+              error);
   return false;
 }
 
@@ -81,8 +81,8 @@ bool AddressBook::createGroup(const QString& name, const QStringList& memberName
     QString error;
     written = database_.createDb(error, groupPath(name));
     if (!written)
-      notifier_.error(
-          QStringLiteral("There was a problem trying to create your group in the database Error=") + error);
+      showFailure(QStringLiteral("There was a problem trying to create your group in the database Error="),
+                  error);
   }
   for (const QString& memberName : memberNames)
     if (findContact(memberName)) written = addMember(name, memberName, writeToFile) && written;
@@ -95,7 +95,7 @@ bool AddressBook::deleteGroup(const QString& name) {
   ++revision_;
   groups_.erase(name);
   if (database_.removeDb(path)) return true;
-  notifier_.error(QStringLiteral("There was a problem trying to delete your group from the database"));
+  showFailure(QStringLiteral("There was a problem trying to delete your group from the database"));
   return false;
 }
 
@@ -110,8 +110,7 @@ bool AddressBook::addMember(const QString& groupName, const QString& contactName
   if (database_.writeItem(error, nameWidth, groupPath(groupName), memberRecordSize, packMember(contact->name),
                           timeoutSeconds))
     return true;
-  notifier_.error(QStringLiteral("There was a problem saving your contact to the database group. Error=") +
-                  error);
+  showFailure(QStringLiteral("There was a problem saving your contact to the database group. Error="), error);
   return false;
 }
 
@@ -131,9 +130,14 @@ bool AddressBook::deleteName(const QString& path, const QByteArray& name, int re
   QString error;
   bool deleted = false;
   if (database_.deleteItem(error, nameWidth, path, name, recordSize, deleted, timeoutSeconds)) return true;
-  notifier_.error(QStringLiteral("There was a problem deleting a contact from your database. Error=") +
-                  error);
+  showFailure(QStringLiteral("There was a problem deleting a contact from your database. Error="), error);
   return false;
+}
+
+void AddressBook::showFailure(const QString& sentence, const QString& error) {
+  if (shownOnce_ && shownOnce_->contains(sentence)) return;
+  if (shownOnce_) shownOnce_->append(sentence);
+  notifier_.error(sentence + error);
 }
 
 QStringList AddressBook::groupsWith(const QString& contactName) const {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <map>
+#include <optional>
 #include <unordered_map>
 
 #include <QByteArray>
@@ -35,6 +36,20 @@ class AddressBook {
   /// `folder` holds the files, with or without a separator at its end; it is used by the operations that
   /// read or write files only.
   AddressBook(const QString& folder, ItemDatabase& database, Notifier& notifier);
+
+  /// While it lives, no failure is told twice: for actions of many writes, which may all fail alike. Two are
+  /// the same when they differ only in what the store says behind "Error=".
+  class MessagesOnce {
+   public:
+    explicit MessagesOnce(AddressBook& book) : book_(book) { book_.shownOnce_.emplace(); }
+    ~MessagesOnce() { book_.shownOnce_.reset(); }
+    MessagesOnce(const MessagesOnce&) = delete;
+    MessagesOnce& operator=(const MessagesOnce&) = delete;
+
+   private:
+    AddressBook& book_;
+  };
+
   AddressBook(const AddressBook&) = delete;
   AddressBook& operator=(const AddressBook&) = delete;
 
@@ -85,6 +100,7 @@ class AddressBook {
   bool loadGroup(const QString& fileName, Progress& progress);
   void addLoadedMember(GroupFile& group, const QByteArray& name, QByteArrayList& orphans) const;
   void deleteOrphans(const QString& path, const QByteArrayList& orphans);
+  void showFailure(const QString& sentence, const QString& error = {});
   bool deleteMember(GroupFile& group, const QString& contactName);
   bool deleteName(const QString& path, const QByteArray& name, int recordSize);
   [[nodiscard]] QStringList groupsWith(const QString& contactName) const;
@@ -95,6 +111,7 @@ class AddressBook {
   Contacts contacts_;
   Groups groups_;
   quint64 revision_ = 0;
+  std::optional<QStringList> shownOnce_;
 };
 
 }  // namespace parlexo

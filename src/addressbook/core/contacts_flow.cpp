@@ -54,9 +54,9 @@ bool ContactsFlow::hasProperties(const ContactFolder& folder) const {
 }
 
 void ContactsFlow::addContact(const ContactRecord& contact, const QString& group) const {
-  const bool isWritten = services_.book.saveContact(contact);
+  services_.book.saveContact(contact);
   const ProgressScope progress(services_.progress, membershipText());
-  services_.book.addMember(group, contact.name, isWritten);
+  services_.book.addMember(group, contact.name);
 }
 
 void ContactsFlow::changeContact(const ContactRecord& contact) const {
@@ -64,11 +64,12 @@ void ContactsFlow::changeContact(const ContactRecord& contact) const {
 }
 
 void ContactsFlow::saveGroup(const GroupChanges& changes) const {
+  const AddressBook::MessagesOnce once(services_.book);
   if (changes.isNew) {
     const ProgressScope progress(services_.progress, QStringLiteral("Creating the Group..."));
-    bool isWritten = saveContacts(changes);
-    isWritten = services_.book.createGroup(changes.group, {}, isWritten) && isWritten;
-    changeMembers(changes, isWritten);
+    saveContacts(changes);
+    services_.book.createGroup(changes.group);
+    changeMembers(changes);
     return;
   }
   if (changes.added.isEmpty() && changes.removed.isEmpty()) {
@@ -76,27 +77,27 @@ void ContactsFlow::saveGroup(const GroupChanges& changes) const {
     return;
   }
   const ProgressScope progress(services_.progress, membershipText());
-  changeMembers(changes, saveContacts(changes));
+  saveContacts(changes);
+  changeMembers(changes);
 }
 
-bool ContactsFlow::saveContacts(const GroupChanges& changes) const {
-  bool isWritten = true;
-  for (const ContactRecord& contact : changes.contacts)
-    isWritten = services_.book.saveContact(contact, isWritten) && isWritten;
-  return isWritten;
+void ContactsFlow::saveContacts(const GroupChanges& changes) const {
+  for (const ContactRecord& contact : changes.contacts) services_.book.saveContact(contact);
 }
 
-void ContactsFlow::changeMembers(const GroupChanges& changes, bool isWritten) const {
-  const auto keepAlive = [this] { services_.progress.setText(services_.progress.text()); };
+void ContactsFlow::changeMembers(const GroupChanges& changes) const {
   for (const QString& name : changes.added) {
     keepAlive();
-    isWritten = services_.book.addMember(changes.group, name, isWritten) && isWritten;
+    services_.book.addMember(changes.group, name);
   }
   for (const QString& name : changes.removed) {
-    if (!isWritten) return;
     keepAlive();
-    isWritten = services_.book.removeMember(changes.group, name);
+    services_.book.removeMember(changes.group, name);
   }
+}
+
+void ContactsFlow::keepAlive() const {
+  services_.progress.setText(services_.progress.text());
 }
 
 bool ContactsFlow::confirmDeletion(const ContactFolder& folder, int count) const {
@@ -104,15 +105,16 @@ bool ContactsFlow::confirmDeletion(const ContactFolder& folder, int count) const
 }
 
 void ContactsFlow::deleteContacts(const ContactFolder& folder, const QStringList& names) const {
+  const AddressBook::MessagesOnce once(services_.book);
   if (folder.isGroup()) {
     const ProgressScope progress(services_.progress, membershipText());
-    changeMembers({folder.name, false, {}, {}, names}, true);
+    changeMembers({folder.name, false, {}, {}, names});
     return;
   }
   const ProgressScope progress(services_.progress, QStringLiteral("Deleting the contacts..."));
   for (const QString& name : names) {
-    services_.progress.setText(services_.progress.text());
-    if (!services_.book.deleteContact(name)) return;
+    keepAlive();
+    services_.book.deleteContact(name);
   }
 }
 

@@ -11,8 +11,8 @@
 namespace parlexo {
 
 /// What can be done with contacts and groups, in which folder, after which question and under which text of
-/// the progress box. After the first write that fails, and the book's message about it, an action leaves
-/// alone what it has not come to yet.
+/// the progress box. Every write is tried, whatever became of those before; the book in memory follows the
+/// user even where its files could not, and tells a failure once per action.
 class ContactsFlow {
  public:
   explicit ContactsFlow(const AddressBookServices& services) : services_(services) {}
@@ -39,8 +39,10 @@ class ContactsFlow {
   void deleteGroup(const QString& group) const;
 
  private:
-  bool saveContacts(const GroupChanges& changes) const;
-  void changeMembers(const GroupChanges& changes, bool isWritten) const;
+  void saveContacts(const GroupChanges& changes) const;
+  void changeMembers(const GroupChanges& changes) const;
+  /// Lets the progress box live on between two writes.
+  void keepAlive() const;
 
   AddressBookServices services_;
 };
