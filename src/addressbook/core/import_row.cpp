@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <array>
 
+#include <QRegularExpression>
+
 #include "addressbook/core/contact_form.h"
 #include "addressbook/core/import_number.h"
 #include "base/code_page.h"
@@ -60,15 +62,24 @@ QString flagOf(const QString& text) {
 QString nameRefusal(const QString& name) {
   if (name.isEmpty()) return QStringLiteral("The row has no name.");
   // Names in a script that the code page lacks would all look alike.
-  if (std::none_of(name.begin(), name.end(), [](QChar c) { return c.isLetterOrNumber(); }))
+  if (name.contains(u'?') &&
+      std::none_of(name.begin(), name.end(), [](QChar c) { return c.isLetterOrNumber(); }))
     return QStringLiteral("The name has no letter or digit that the address book can keep.");
   if (toCodePage(name).size() > nameWidth)
     return QStringLiteral("The name is longer than %1 characters.").arg(nameWidth);
   return {};
 }
 
+/// Whether digits were lost when a spreadsheet program saved the number as text: "6.1E+10".
+bool isRounded(const QString& number) {
+  static const QRegularExpression pattern(QStringLiteral(R"(^\+?[\d,]+E\+\d+$)"));
+  return pattern.match(number).hasMatch();
+}
+
 /// What can be said of a number beyond that it is wrong; empty when there is nothing.
 QString numberRefusal(const QString& number) {
+  if (isRounded(number))
+    return QStringLiteral("A spreadsheet program has rounded the number. Import its workbook instead.");
   if (number.size() > longestNumber)
     return QStringLiteral("The number %1 is longer than %2 characters.").arg(number).arg(longestNumber);
   const bool lacksCode =

@@ -58,6 +58,8 @@ struct ImportSource::Opening {
       format = detectFormat(path, limits, cancel);
       text = readDelimited(path, format, limits, cancel, rowsToShow);
       problem = text.problem;
+      // It has bytes, but no more than a byte order mark.
+      if (problem.isEmpty() && text.sheet.rowCount() == 0) problem = QStringLiteral("The file is empty.");
     }
     if (cancel.isRaised()) problem = QStringLiteral("The reading was cancelled.");
   }
