@@ -138,7 +138,7 @@ TEST_F(RecordTableTest, selectionCopyAndExportFollowWhatIsShown) {
   table_->copySelected();
   EXPECT_EQ(QGuiApplication::clipboard()->text(), u"bb\t-2.5\tZ\na\tb  c d\t=1"_qs);
   EXPECT_EQ(table_->toCsv().bytes(),
-            "\xEF\xBB\xBFNote,Key,Value\r\nbb,'-2.5,Z\r\nccc,10,x\r\nd,A,y\r\n"
+            "\xEF\xBB\xBFNote,Key,Value\r\nbb,-2.5,Z\r\nccc,10,x\r\nd,A,y\r\n"
             "a,\"b\r\nc\td\",'=1\r\n,nan,y\r\n");
   table_->clearSelection();
   table_->copySelected();
