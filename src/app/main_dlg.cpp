@@ -36,15 +36,19 @@ QLineEdit* addField(QGridLayout& grid, int row, const QString& name, const QStri
   return field;
 }
 
-/// A page inside a scroll area, which would scroll a page with wrapped texts as soon as it has less than the
-/// height that it would like; to ask for the least height, this has no layout.
+/// A page inside a scroll area. Without this between them the area would scroll a page with wrapped texts as
+/// soon as it has less than the height that it would like; this asks for the least that it can do with.
 class PageHolder final : public QWidget {
  public:
   explicit PageHolder(QWidget* page) : page_(page) { page->setParent(this); }
 
   [[nodiscard]] QSize sizeHint() const override { return page_->sizeHint(); }
   [[nodiscard]] QSize minimumSizeHint() const override {
-    return page_->minimumSizeHint().expandedTo(page_->minimumSize());
+    const QSize least = page_->minimumSizeHint().expandedTo(page_->minimumSize());
+    const QLayout* layout = page_->layout();
+    if (!layout || !layout->hasHeightForWidth()) return least;
+    const int width = std::max(least.width(), parentWidget()->width());
+    return {least.width(), std::max(least.height(), layout->minimumHeightForWidth(width))};
   }
 
  protected:

@@ -1,9 +1,13 @@
 #include "ui/gradient_page.h"
 
+#include <algorithm>
+
 #include <QKeyEvent>
+#include <QLayout>
 #include <QLinearGradient>
 #include <QPaintEvent>
 #include <QPainter>
+#include <QScreen>
 
 #include "ui/look.h"
 #include "ui/picture_button.h"
@@ -25,6 +29,13 @@ bool isEnter(const QKeyEvent& event) {
   return plain || (!(event.modifiers() & ~Qt::KeypadModifier) && event.key() == Qt::Key_Enter);
 }
 
+QSize fittingSize(const QWidget& dialog) {
+  QSize size = dialog.sizeHint().expandedTo(dialog.minimumSize());
+  if (dialog.layout()->hasHeightForWidth())
+    size.setHeight(std::max(dialog.minimumHeight(), dialog.layout()->totalHeightForWidth(size.width())));
+  return size.boundedTo(dialog.screen()->availableSize());
+}
+
 PictureButton* defaultButton(const QWidget& dialog) {
   for (auto* button : dialog.findChildren<PictureButton*>()) {
     if (button->isDefault() && button->isEnabled() && button->isVisibleTo(&dialog)) return button;
@@ -43,6 +54,12 @@ void GradientPage::paintEvent(QPaintEvent* event) {
 GradientDialog::GradientDialog(QWidget* parent) : QDialog(parent) {
   setWindowFlag(Qt::WindowContextHelpButtonHint, false);
   setWindowIcon(programIcon());
+}
+
+void GradientDialog::setVisible(bool visible) {
+  // Left to itself a window takes two thirds of the screen at most, and cuts texts off for that.
+  if (visible && !testAttribute(Qt::WA_Resized) && layout()) resize(fittingSize(*this));
+  QDialog::setVisible(visible);
 }
 
 void GradientDialog::paintEvent(QPaintEvent* event) {

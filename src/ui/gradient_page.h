@@ -20,12 +20,15 @@ class GradientPage : public QWidget {
 };
 
 /// A dialog on the light-blue gradient, with the program's icon. Enter presses the PictureButton that has
-/// the focus, else the one that is the default; Escape rejects.
+/// the focus, else the one that is the default; Escape rejects. It opens as high as its texts need, if the
+/// screen is.
 class GradientDialog : public QDialog {
   Q_OBJECT
 
  public:
   explicit GradientDialog(QWidget* parent = nullptr);
+
+  void setVisible(bool visible) override;
 
  protected:
   void paintEvent(QPaintEvent* event) override;

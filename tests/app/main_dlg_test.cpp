@@ -129,6 +129,10 @@ TEST_F(MainDlgTest, aPageThatCanShrinkDoesNotScroll) {
   QCoreApplication::processEvents();
   EXPECT_LT(list->height(), list->sizeHint().height());
   EXPECT_EQ(page->visibleRegion().boundingRect(), page->rect());
+  window.resize(300, 200);
+  QCoreApplication::processEvents();
+  EXPECT_LT(page->visibleRegion().boundingRect().height(), page->height());
+  EXPECT_GE(words->height(), words->heightForWidth(words->width())) << "nothing is cut off";
 }
 
 TEST_F(MainDlgTest, onlyExitCtrlQAndTheCloseBoxEndIt) {

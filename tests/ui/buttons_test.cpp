@@ -3,7 +3,9 @@
 #include <QAccessible>
 #include <QAccessibleActionInterface>
 #include <QKeyEvent>
+#include <QLabel>
 #include <QLineEdit>
+#include <QScreen>
 #include <QSignalSpy>
 #include <QTest>
 #include <QVBoxLayout>
@@ -15,6 +17,8 @@
 
 namespace parlexo {
 namespace {
+
+using namespace Qt::StringLiterals;
 
 /// A dialog as pages build them: an edit, an ordinary button, the default button and one that is off.
 struct SampleDialog {
@@ -101,6 +105,19 @@ TEST(GradientDialog, escapeRejectsAndThereIsNoHelpButton) {
   QTest::keyClick(sample.edit, Qt::Key_Escape);
   EXPECT_FALSE(sample.dialog.isVisible());
   EXPECT_EQ(sample.dialog.result(), QDialog::Rejected);
+}
+
+TEST(GradientDialog, opensAsHighAsItsTextsNeed) {
+  GradientDialog dialog;
+  dialog.setMinimumWidth(300);
+  auto* words = new QLabel(QString(u"words "_qs).repeated(9), &dialog);
+  words->setWordWrap(true);
+  auto* column = new QVBoxLayout(&dialog);
+  column->addWidget(words);
+  column->addSpacing(dialog.screen()->availableSize().height() * 3 / 4);
+  dialog.open();
+  QCoreApplication::processEvents();
+  EXPECT_GE(words->height(), words->heightForWidth(words->width()));
 }
 
 TEST(ButtonAccessibility, assistiveToolsReadNameAndRoleAndCanPress) {
