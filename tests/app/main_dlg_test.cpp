@@ -17,6 +17,7 @@
 #include <QVBoxLayout>
 #include <gtest/gtest.h>
 
+#include "account/screens/news_dlg.h"
 #include "app/about_dlg.h"
 #include "app/disk_stores.h"
 #include "app/main_tabs.h"
@@ -25,6 +26,7 @@
 #include "app/program_windows.h"
 #include "gateway/boxes/progress_box.h"
 #include "messaging/screens/sms_dlg.h"
+#include "simulator/simulator.h"
 #include "ui/hyperlink_label.h"
 #include "ui/picture_button.h"
 
@@ -235,6 +237,27 @@ TEST_F(MainTabsTest, pagesTellEachOtherWhatWasSent) {
   Q_EMIT sms->statusRequested(u"SMS"_qs);
   EXPECT_EQ(type->currentText(), u"SMS"_qs);
   EXPECT_EQ(tabs->tabText(tabs->currentIndex()), u"Status"_qs);
+}
+
+TEST_F(MainTabsTest, pagesAreFilledInTheirOrderThenComeBalanceAndNews) {
+  simulator::Simulator simulator;
+  ASSERT_TRUE(simulator.start());
+  state_.gateway.endpoint = simulator.site() + u"/ccx/onlineCommunication"_qs;
+  bool hasRead = false;
+  QTimer user;
+  QObject::connect(&user, &QTimer::timeout, &user, [&hasRead] {
+    QWidget* modal = QApplication::activeModalWidget();
+    if (auto* news = qobject_cast<CNewsDlg*>(modal)) {
+      hasRead = true;
+      news->accept();
+    } else if (auto* window = qobject_cast<CMainDlg*>(modal); window && hasRead) {
+      window->accept();
+    }
+  });
+  user.start(10);
+  windows_.runMainWindow();
+  EXPECT_EQ(simulator.calledOperations(),
+            QStringList({"getAccountHistory", "getEmailMessaging", "getAccountBalance", "getNews"}));
 }
 
 TEST_F(MainTabsTest, contactAddedOnASendPageIsOfferedThereAtOnce) {

@@ -139,6 +139,7 @@ void EmailPreferencesPanel::enableWhatCounts() {
         static_cast<QWidget*>(endKeyword_), static_cast<QWidget*>(filter_)})
     control->setEnabled(isOn);
   for (QLineEdit* address : addresses_) address->setEnabled(isOn && filter_->isChecked());
+  for (auto* label : findChildren<QLabel*>()) label->setEnabled(label->buddy()->isEnabled());
 }
 
 void EmailPreferencesPanel::focusWhatMayMiss() {
