@@ -78,8 +78,7 @@ bool isRounded(const QString& number) {
 
 /// What can be said of a number beyond that it is wrong; empty when there is nothing.
 QString numberRefusal(const QString& number) {
-  if (isRounded(number))
-    return QStringLiteral("A spreadsheet program has rounded the number. Import its workbook instead.");
+  if (isRounded(number)) return QStringLiteral("A spreadsheet program has rounded the number.");
   if (number.size() > longestNumber)
     return QStringLiteral("The number %1 is longer than %2 characters.").arg(number).arg(longestNumber);
   const bool lacksCode =

@@ -22,7 +22,7 @@ constexpr int resultColumn = 0;
 constexpr int firstFileColumn = 1;
 constexpr int narrowest = 120;
 constexpr int widest = 260;
-constexpr int resultWidth = 260;
+constexpr int resultWidth = 370;  // the commonest reasons are read without the tooltip
 constexpr qsizetype longestShown = 200;
 
 QTableWidgetItem* cellItem(const QString& text) {

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 
-#include <QFileDialog>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QListWidget>
@@ -11,6 +10,7 @@
 #include "base/csv_writer.h"
 #include "base/message_texts.h"
 #include "base/notifier.h"
+#include "ui/export_button.h"
 #include "ui/list_style.h"
 #include "ui/look.h"
 #include "ui/picture_button.h"
@@ -27,6 +27,7 @@ CImportSummaryDlg::CImportSummaryDlg(const Sheet& sheet, const ImportPlan& plan,
   layout->setSpacing(10);
   auto* summary = new QLabel(summaryText(outcome), this);
   summary->setObjectName(QStringLiteral("summary"));
+  summary->setMinimumWidth(dialogUnits(*this, 170, 0).width());  // the title is read whole
   layout->addWidget(summary);
   if (!outcome.refused.empty()) addRefusedRows(*layout);
   addButtons(*layout);
@@ -70,9 +71,7 @@ void CImportSummaryDlg::addButtons(QVBoxLayout& layout) {
 }
 
 void CImportSummaryDlg::saveRefused() {
-  const QString path =
-      QFileDialog::getSaveFileName(this, QStringLiteral("Save refused rows"),
-                                   QStringLiteral("refused rows.csv"), QStringLiteral("CSV files (*.csv)"));
+  const QString path = askForCsvPath(this, QStringLiteral("refused rows"));
   if (!path.isEmpty()) saveRefusedTo(path);
 }
 
