@@ -40,6 +40,12 @@ Act toggle(const QString& box) {
   return [box](QWidget* window) { return hands::toggle(window, box); };
 }
 
+Act tickOwnContacts() {
+  return [](QWidget* window) {
+    return hands::tick(window, QStringLiteral("Groups:"), QStringLiteral("My Personal Contacts"));
+  };
+}
+
 Act reads(const QString& words) {
   return [words](QWidget* window) { return hands::reads(window, words); };
 }
@@ -66,9 +72,7 @@ void planMessage(Plan& plan) {
   plan.push_back({QStringLiteral("main-window"), QStringLiteral("Sees the balance; opens the contacts"),
                   mainWindow, press(QStringLiteral("&Select Contacts..."))});
   plan.push_back(
-      {QStringLiteral("contacts"), QStringLiteral("Ticks a group"), selectionWindow, [](QWidget* window) {
-         return hands::tick(window, QStringLiteral("Groups:"), QStringLiteral("My Personal Contacts"));
-       }});
+      {QStringLiteral("contacts"), QStringLiteral("Ticks a group"), selectionWindow, tickOwnContacts()});
   plan.push_back({QStringLiteral("contacts-ticked"), QStringLiteral("Takes the ticked contacts"),
                   selectionWindow, press(QStringLiteral("&Select"))});
   plan.push_back(
@@ -128,6 +132,10 @@ void planFilePage(Plan& plan, const FileToSend& page) {
   if (!page.noteLabel.isEmpty()) acts.push_back(typeInto(page.noteLabel, page.note));
   plan.push_back({page.picture + QStringLiteral("-empty"),
                   QStringLiteral("Chooses a file to send as ") + page.tab, mainWindow, allOf(acts)});
+  plan.push_back({page.picture + QStringLiteral("-filled"), QStringLiteral("Opens the contacts"), mainWindow,
+                  press(QStringLiteral("&Select Contacts..."))});
+  plan.push_back({page.picture + QStringLiteral("-contacts"), QStringLiteral("Ticks and takes a group"),
+                  selectionWindow, allOf({tickOwnContacts(), press(QStringLiteral("&Select"))})});
 }
 
 void planFiles(Plan& plan, const QString& folder) {
@@ -141,14 +149,6 @@ void planFiles(Plan& plan, const QString& folder) {
   planFilePage(plan,
                {mms, QStringLiteral("mms"), QStringLiteral("Media file:"), picture, makePicture,
                 QStringLiteral("Description:"), QStringLiteral("Look for this sign at the north gate.")});
-  plan.push_back({QStringLiteral("mms-filled"), QStringLiteral("Opens the contacts"), mainWindow,
-                  press(QStringLiteral("&Select Contacts..."))});
-  plan.push_back({QStringLiteral("mms-contacts"), QStringLiteral("Ticks and takes a group"), selectionWindow,
-                  allOf({[](QWidget* window) {
-                           return hands::tick(window, QStringLiteral("Groups:"),
-                                              QStringLiteral("My Personal Contacts"));
-                         },
-                         press(QStringLiteral("&Select"))})});
   plan.push_back({QStringLiteral("mms-page"), QStringLiteral("Presses Send"), mainWindow,
                   press(QStringLiteral("S&end >"))});
   plan.push_back({QStringLiteral("mms-sent"), QStringLiteral("Reads that it was delivered to the server"),
