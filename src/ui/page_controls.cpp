@@ -4,6 +4,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPalette>
+#include <QSizePolicy>
 #include <QString>
 
 #include "base/secret.h"
@@ -32,6 +33,16 @@ QLabel* wrappedLabel(const QString& text, QWidget* parent) {
   auto* label = new QLabel(text, parent);
   label->setWordWrap(true);
   return label;
+}
+
+QLayout* lineWithLink(QLabel& text, QWidget& link) {
+  text.setMinimumSize(1, link.sizeHint().height());
+  link.setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+  auto* row = new QHBoxLayout;
+  row->addWidget(&text);
+  row->addWidget(&link);
+  row->addStretch(1);
+  return row;
 }
 
 PictureButton* addButton(QBoxLayout& row, const QString& objectName, const QString& text) {

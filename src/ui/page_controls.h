@@ -2,6 +2,7 @@
 
 class QBoxLayout;
 class QLabel;
+class QLayout;
 class QLineEdit;
 class QString;
 class QWidget;
@@ -20,6 +21,10 @@ class PictureButton;
 
 /// A text that takes as many lines as it needs.
 [[nodiscard]] QLabel* wrappedLabel(const QString& text, QWidget* parent);
+
+/// A line of a text and a link behind it that comes and goes: nothing else moves then. Where there is no room
+/// for both, the text is cut off.
+[[nodiscard]] QLayout* lineWithLink(QLabel& text, QWidget& link);
 
 /// A new button at the end of `row`.
 PictureButton* addButton(QBoxLayout& row, const QString& objectName, const QString& text);

@@ -17,6 +17,7 @@
 #include "messaging/core/messaging_texts.h"
 #include "ui/hyperlink_label.h"
 #include "ui/list_style.h"
+#include "ui/page_controls.h"
 #include "ui/picture_button.h"
 
 namespace parlexo {
@@ -86,20 +87,12 @@ QWidget* RecipientsPanel::createBox() {
 QLayout* RecipientsPanel::createCountLine(QWidget* area) {
   count_ = new QLabel(area);
   count_->setObjectName(QStringLiteral("recipientCount"));
-  count_->setMinimumWidth(1);  // too long a text is cut off instead of widening the page
   repeats_ = new HyperlinkLabel(QStringLiteral("Remove repeats"), {}, area);
   repeats_->setObjectName(QStringLiteral("removeRepeats"));
-  QSizePolicy policy = repeats_->sizePolicy();
-  policy.setRetainSizeWhenHidden(true);  // the list keeps its height
-  repeats_->setSizePolicy(policy);
   connect(repeats_, &HyperlinkLabel::clicked, this, &RecipientsPanel::removeRepeats);
   connect(&model_, &RecipientsModel::modelReset, this, &RecipientsPanel::showCount);
   showCount();
-  auto* row = new QHBoxLayout;
-  row->addWidget(count_);
-  row->addWidget(repeats_);
-  row->addStretch(1);
-  return row;
+  return lineWithLink(*count_, *repeats_);
 }
 
 QWidget* RecipientsPanel::createButtons() {
@@ -133,7 +126,9 @@ void RecipientsPanel::setEntries(const QString& displayList) {
 
 void RecipientsPanel::showCount() {
   const int repeated = recipients().repeatedNumberCount();
-  count_->setText(recipientsSummary(recipients(), repeated));
+  const QString summary = recipientsSummary(recipients(), repeated);
+  count_->setText(summary);
+  count_->setToolTip(summary);  // a narrow window has no room for all of it
   repeats_->setVisible(repeated > 0 && recipients().haveEqualCounts());
 }
 

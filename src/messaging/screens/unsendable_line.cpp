@@ -1,10 +1,10 @@
 #include "messaging/screens/unsendable_line.h"
 
-#include <QHBoxLayout>
 #include <QLabel>
-#include <QSizePolicy>
+#include <QLayout>
 
 #include "ui/hyperlink_label.h"
+#include "ui/page_controls.h"
 
 namespace parlexo {
 namespace {
@@ -27,18 +27,12 @@ UnsendableLine::UnsendableLine(QWidget* parent) : QWidget(parent) {
   characters_ = new QLabel(this);
   characters_->setObjectName(QStringLiteral("unsendableCharacters"));
   characters_->setTextFormat(Qt::PlainText);
-  characters_->setMinimumWidth(1);  // too long a text is cut off instead of widening the page
   switch_ = new HyperlinkLabel(QStringLiteral("Switch to Unicode"), {}, this);
   switch_->setObjectName(QStringLiteral("switchToUnicode"));
-  QSizePolicy policy = switch_->sizePolicy();
-  policy.setRetainSizeWhenHidden(true);  // the message must not jump while one types
-  switch_->setSizePolicy(policy);
   connect(switch_, &HyperlinkLabel::clicked, this, &UnsendableLine::unicodeRequested);
-  auto* row = new QHBoxLayout(this);
-  row->setContentsMargins({});
-  row->addWidget(characters_);
-  row->addWidget(switch_);
-  row->addStretch(1);
+  QLayout* line = lineWithLink(*characters_, *switch_);
+  line->setContentsMargins({});
+  setLayout(line);
 }
 
 void UnsendableLine::follow(const QString& editorText, SmsCharset charset) {
