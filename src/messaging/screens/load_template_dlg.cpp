@@ -20,6 +20,10 @@
 namespace parlexo {
 namespace {
 
+QString listCaption() {
+  return QStringLiteral("Select the Template you wish to Load or  Delete:");
+}
+
 /// A list in which nothing is current until the user picks something, so that the first Down key leads to the
 /// first entry and not past it.
 class TemplateList final : public QListWidget {
@@ -40,26 +44,32 @@ CLoadTemplateDlg::CLoadTemplateDlg(const TemplateFolder& folder, Notifier& notif
     : GradientDialog(parent), folder_(folder), notifier_(notifier) {
   setObjectName(QStringLiteral("loadTemplateDialog"));
   setWindowTitle(QStringLiteral("Parlexo(TM) : Load or Delete Template"));
-  const QString caption = QStringLiteral("Select the Template you wish to Load or  Delete:");
+  createList();
+  createLayout();
+  resize(dialogUnits(*this, 210, 150).expandedTo(sizeHint()));
+  names_->setFocus(Qt::OtherFocusReason);
+}
+
+void CLoadTemplateDlg::createList() {
   names_ = new TemplateList(this);
   names_->setObjectName(QStringLiteral("templateList"));
-  names_->setAccessibleName(caption);
+  names_->setAccessibleName(listCaption());
   names_->setUniformItemSizes(true);
   styleList(*names_);
-  names_->addItems(folder.names());
+  names_->addItems(folder_.names());
   connect(names_, &QListWidget::itemDoubleClicked, this, &CLoadTemplateDlg::accept);
   auto* removal = new QShortcut(QKeySequence(QKeySequence::Delete), names_);
   removal->setContext(Qt::WidgetShortcut);
   connect(removal, &QShortcut::activated, this, &CLoadTemplateDlg::deleteSelected);
+}
 
+void CLoadTemplateDlg::createLayout() {
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(16, 14, 16, 14);
-  layout->addWidget(labelFor(names_, caption));
+  layout->addWidget(labelFor(names_, listCaption()));
   layout->addWidget(names_, 1);
   layout->addSpacing(4);
   layout->addLayout(createButtons());
-  resize(dialogUnits(*this, 210, 150).expandedTo(sizeHint()));
-  names_->setFocus(Qt::OtherFocusReason);
 }
 
 QLayout* CLoadTemplateDlg::createButtons() {

@@ -28,6 +28,8 @@ class CLoadTemplateDlg final : public GradientDialog {
   void accept() override;
 
  private:
+  void createList();
+  void createLayout();
   [[nodiscard]] QLayout* createButtons();
   [[nodiscard]] bool hasSelection() const;
   [[nodiscard]] QString selectedName() const;

@@ -38,6 +38,14 @@ QLayout* senderIdButtons(QDialog& dialog) {
 CSenderIdDlg::CSenderIdDlg(const QString& current, QWidget* parent) : GradientDialog(parent) {
   setObjectName(QStringLiteral("senderIdDialog"));
   setWindowTitle(QStringLiteral("Parlexo(TM) : Sender Id"));
+  createLayout(current);
+  setMinimumSize(dialogUnits(*this, 220, 110));
+  edit_->selectAll();
+  edit_->setFocus(Qt::OtherFocusReason);
+}
+
+// In reading order, which makes it the order of the Tab key too.
+void CSenderIdDlg::createLayout(const QString& current) {
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(16, 14, 16, 14);
   layout->setSpacing(8);
@@ -58,9 +66,6 @@ CSenderIdDlg::CSenderIdDlg(const QString& current, QWidget* parent) : GradientDi
   layout->addStretch(1);
   layout->addSpacing(4);
   layout->addLayout(senderIdButtons(*this));
-  setMinimumSize(dialogUnits(*this, 220, 110));
-  edit_->selectAll();
-  edit_->setFocus(Qt::OtherFocusReason);
 }
 
 QString CSenderIdDlg::senderId() const {

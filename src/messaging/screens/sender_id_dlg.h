@@ -21,6 +21,8 @@ class CSenderIdDlg final : public GradientDialog {
   [[nodiscard]] QString senderId() const;
 
  private:
+  void createLayout(const QString& current);
+
   QLineEdit* edit_ = nullptr;
 };
 
