@@ -230,7 +230,8 @@ void CQuillonSMSDlg::take(const Template& content) {
     unicodeCharset_->setChecked(true);
   else if (text.size() > editor_->textLimit())
     standardCharset_->setChecked(true);
-  editor_->setText(text);
+  // A file may hold any amount; one character over the limit is enough to be cut or reported.
+  editor_->setText(text.left(standardSmsLimits.text + 1));
   recipients().setEntries(content.displayList);
 }
 
