@@ -95,21 +95,5 @@ TEST_F(RecipientsTest, repeatsGoFromBothListsAlike) {
   EXPECT_EQ(recipients_.repeatedNumberCount(), 0);
 }
 
-TEST_F(RecipientsTest, removalKeepsTenThousandRecipientsInStep) {
-  std::vector<ContactRecord> many;
-  for (int i = 0; i < 10'000; ++i) {
-    many.emplace_back();
-    many.back().name = QStringLiteral("Name %1").arg(i);
-    many.back().phone = QStringLiteral("+%1").arg(100'000 + i);
-  }
-  select(many);
-  std::vector<int> odd;
-  for (int i = 1; i < 10'000; i += 2) odd.push_back(i);
-  recipients_.remove(odd);
-  EXPECT_TRUE(recipients_.numbersList().startsWith("+100000,+100002,"));
-  EXPECT_TRUE(recipients_.displayList().endsWith("Name 9998 [+109998]"));
-  EXPECT_EQ(recipients_.numbers().size(), 5'000);
-}
-
 }  // namespace
 }  // namespace parlexo

@@ -1,0 +1,41 @@
+#pragma once
+
+#include <string>
+
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QLineEdit>
+#include <QListView>
+#include <QRadioButton>
+#include <QString>
+
+#include "messaging/screens/message_edit.h"
+#include "messaging/screens/sms_dlg.h"
+#include "tests/messaging/page_rig.h"
+
+namespace parlexo {
+
+/// The SMS page on the screen, contacts to choose from, and a user's hands.
+class SmsPage : public PageRig<CQuillonSMSDlg> {
+ protected:
+  SmsPage() {
+    book.addContact("Ann", "+61491570156", "Y");
+    book.addContact("Lee, Bob", "+60312345678", "Y");
+    book.addContact("Local", "0491570156", "Y");
+    book.addContact("Mute", "+861012345678", "N");
+  }
+
+  MessageEdit& editor() { return find<MessageEdit>("messageEdit"); }
+  QListView& contactsBox() { return find<QListView>("contactsBox"); }
+  void choose(const char* name) { find<QRadioButton>(name).setChecked(true); }
+  void paste(const QString& text) {
+    QGuiApplication::clipboard()->setText(text);
+    editor().paste();
+  }
+  std::string counters() {
+    return (find<QLineEdit>("totalSms").text() + u'/' + find<QLineEdit>("charactersRemaining").text())
+        .toStdString();
+  }
+};
+
+}  // namespace parlexo
