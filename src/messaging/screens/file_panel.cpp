@@ -62,6 +62,7 @@ FilePanel::FilePanel(const QString& label, Settings& settings, QWidget* parent)
   grid->setColumnStretch(1, 1);
   untilLook_.setSingleShot(true);
   connect(&untilLook_, &QTimer::timeout, this, &FilePanel::look);
+  connect(&newestLook_, &QFutureWatcherBase::finished, this, &FilePanel::takeLook);
   display({});
 }
 
@@ -105,7 +106,7 @@ QString FilePanel::startFolder() const {
 }
 
 void FilePanel::pathChanged() {
-  ++newestLook_;
+  newestLook_.setFuture({});
   display({});
   untilLook_.start(lookDelay);
 }
@@ -114,14 +115,17 @@ void FilePanel::look() {
   const QString path = this->path();
   if (path.isEmpty()) return display({});
   const auto promise = std::make_shared<QPromise<FileLook>>();
-  promise->future().then(this, [this, number = ++newestLook_](const FileLook& look) {
-    if (number == newestLook_) display(look);
-  });
+  newestLook_.setFuture(promise->future());
   QThreadPool::globalInstance()->start([promise, path, wishes = wishes_] {
     promise->start();
     promise->addResult(lookAtFile(path, wishes));
     promise->finish();
   });
+}
+
+void FilePanel::takeLook() {
+  // A future that was let go of ends too, but it has seen nothing.
+  if (newestLook_.future().resultCount() > 0) display(newestLook_.result());
 }
 
 void FilePanel::display(const FileLook& look) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QFutureWatcher>
 #include <QString>
 #include <QTimer>
 #include <QWidget>
@@ -45,6 +46,7 @@ class FilePanel final : public QWidget {
 
  private:
   void pathChanged();
+  void takeLook();
   void display(const FileLook& look);
   [[nodiscard]] QString lineFor(const FileLook& look) const;
   [[nodiscard]] QString startFolder() const;
@@ -52,7 +54,7 @@ class FilePanel final : public QWidget {
   Settings& settings_;
   FileLookWishes wishes_;
   QTimer untilLook_;
-  int newestLook_ = 0;  ///< number of the look that is still of interest
+  QFutureWatcher<FileLook> newestLook_;  ///< lets go of a look that is no longer of interest
   QLineEdit* path_ = nullptr;
   QLabel* facts_ = nullptr;
 };
