@@ -61,7 +61,8 @@ bool typeInto(QWidget* window, const QString& label, const QString& text) {
   QWidget* control = labelled(window, label);
   if (!control || !control->isEnabled()) return false;
   control->setFocus();
-  for (const QChar character : text) pressKey(control, 0, character);
+  // In one piece, as an input method does: a list of completions that opens half-way would take the rest.
+  pressKey(control, 0, text);
   return true;
 }
 
