@@ -89,7 +89,10 @@ void EmailPreferencesPanel::showEvent(QShowEvent* event) {
 }
 
 void EmailPreferencesPanel::load() {
-  if (std::exchange(shownUser_, state_.userName) != state_.userName) show(held_ = {});
+  if (std::exchange(shownUser_, state_.userName) != state_.userName) {
+    held_ = {};
+    show(held_);
+  }
   const auto preferences = flow_.load();
   if (!preferences) return;
   held_ = *preferences;
