@@ -2,6 +2,7 @@
 
 #include <zip.h>
 
+#include <QByteArrayView>
 #include <QFile>
 
 namespace parlexo {
