@@ -6,6 +6,7 @@
 
 #include <QByteArray>
 #include <QByteArrayList>
+#include <QHashFunctions>  // std::hash of QString
 #include <QString>
 #include <QStringList>
 #include <QtGlobal>

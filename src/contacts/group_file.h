@@ -3,6 +3,7 @@
 #include <unordered_map>
 #include <utility>
 
+#include <QHashFunctions>  // std::hash of QString
 #include <QString>
 
 #include "contacts/contact_record.h"

@@ -15,7 +15,7 @@ QString membershipText() {
 }
 
 QString deletionQuestion(const ContactFolder& folder, int count) {
-  const QString question =
+  QString question =
       folder.isGroup()
           ? QStringLiteral("Are you sure you want to remove this contact from the selected Group?")
           : QStringLiteral(

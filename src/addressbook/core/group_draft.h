@@ -3,6 +3,7 @@
 #include <unordered_map>
 #include <vector>
 
+#include <QHashFunctions>  // std::hash of QString
 #include <QString>
 #include <QStringList>
 

@@ -26,7 +26,7 @@ QStringList rowOf(const Sheet& sheet, int row) {
 
 QString problemOf(const QString& path, const ImportLimits& limits = {}) {
   CSpreadSheet book;
-  const QString problem = book.read(path, limits, CancelFlag());
+  QString problem = book.read(path, limits, CancelFlag());
   EXPECT_EQ(problem.isEmpty(), !book.sheets().empty()) << path.toStdString();
   return problem;
 }
