@@ -99,8 +99,7 @@ std::chrono::milliseconds ProgressBox::sinceFirstExchange() {
 void ProgressBox::remove() {
   transferTimer_.stop();
   QPointer<QWidget> parent = box_ ? box_->parentWidget() : nullptr;
-  // A box that was short-lived may get the focus from the window manager while it goes, and lose it for both.
-  const bool wasActive = box_ && (box_->isActiveWindow() || (parent && parent->isActiveWindow()));
+  const bool wasActive = box_ && box_->isActiveWindow();
   delete box_.data();
   if (parent && wasActive) parent->activateWindow();
 }
