@@ -1,5 +1,6 @@
 #include "addressbook/core/text_search.h"
 
+#include <QStringList>
 #include <gmock/gmock.h>
 
 namespace parlexo {
