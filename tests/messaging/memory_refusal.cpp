@@ -17,10 +17,23 @@ bool isRefused(std::size_t size) {
 }  // namespace
 
 // NOLINTBEGIN(cppcoreguidelines-no-malloc,cppcoreguidelines-owning-memory): this is where memory comes from.
+// All forms that are in use stand here: what one of them gives, another takes back.
+void* operator new(std::size_t size, const std::nothrow_t& /*tag*/) noexcept {
+  return isRefused(size) ? nullptr : std::malloc(size > 0 ? size : 1);
+}
+
 void* operator new(std::size_t size) {
-  void* memory = isRefused(size) ? nullptr : std::malloc(size > 0 ? size : 1);
+  void* memory = operator new(size, std::nothrow);
   if (!memory) throw std::bad_alloc();
   return memory;
+}
+
+void* operator new[](std::size_t size) {
+  return operator new(size);
+}
+
+void* operator new[](std::size_t size, const std::nothrow_t& tag) noexcept {
+  return operator new(size, tag);
 }
 
 void operator delete(void* memory) noexcept {
@@ -28,6 +41,14 @@ void operator delete(void* memory) noexcept {
 }
 
 void operator delete(void* memory, std::size_t /*size*/) noexcept {
+  std::free(memory);
+}
+
+void operator delete[](void* memory) noexcept {
+  std::free(memory);
+}
+
+void operator delete[](void* memory, std::size_t /*size*/) noexcept {
   std::free(memory);
 }
 // NOLINTEND(cppcoreguidelines-no-malloc,cppcoreguidelines-owning-memory)
