@@ -1,5 +1,6 @@
 #include "gateway/core/bounded_download.h"
 
+#include <algorithm>
 #include <memory>
 
 #include <QEventLoop>
@@ -49,8 +50,14 @@ class DownloadWait {
     take();
     result_.status = reply_.attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
     result_.error = reply_.error();
-    result_.isWhole = result_.error == QNetworkReply::NoError && !givenUp_;
+    result_.isWhole = result_.error == QNetworkReply::NoError && !givenUp_ && hasAnnouncedLength();
     return std::move(result_);
+  }
+
+  // Now and then Qt takes a connection that was closed early for the end of the document.
+  [[nodiscard]] bool hasAnnouncedLength() const {
+    const qint64 announced = reply_.header(QNetworkRequest::ContentLengthHeader).toLongLong();
+    return result_.document.size() >= std::min(announced, limits_.bytes);
   }
 
   QNetworkReply& reply_;
