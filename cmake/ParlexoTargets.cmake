@@ -7,6 +7,12 @@ set(CMAKE_CXX_EXTENSIONS OFF)
 set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
 set(CMAKE_AUTOMOC ON)
 set(CMAKE_AUTORCC ON)
+# What differs per platform lies in files named after it: code_page_posix.cpp and code_page_windows.cpp.
+if(WIN32)
+  set(PARLEXO_PLATFORM windows)
+else()
+  set(PARLEXO_PLATFORM posix)
+endif()
 set(CMAKE_RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/bin")
 
 find_package(Qt6 6.4 REQUIRED COMPONENTS Core Network)
@@ -18,7 +24,9 @@ add_library(parlexo_options INTERFACE)
 target_include_directories(parlexo_options INTERFACE "${CMAKE_SOURCE_DIR}/src")
 target_compile_definitions(parlexo_options INTERFACE
   QT_NO_CAST_FROM_BYTEARRAY QT_NO_URL_CAST_FROM_STRING QT_NO_FOREACH QT_NO_KEYWORDS
-  QT_DISABLE_DEPRECATED_BEFORE=0x060400)
+  QT_DISABLE_DEPRECATED_BEFORE=0x060400
+  # Its header would make "min" and "max" macros.
+  $<$<PLATFORM_ID:Windows>:NOMINMAX>)
 target_compile_options(parlexo_options INTERFACE
   -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Wcast-align -Wunused
   -Wconversion -Wno-sign-conversion -Wformat=2 -Wimplicit-fallthrough -Werror)
@@ -42,6 +50,11 @@ function(parlexo_program name)
   cmake_parse_arguments(arg "" "" "SOURCES;LINKS" ${ARGN})
   add_executable(${name} ${arg_SOURCES})
   target_link_libraries(${name} PRIVATE ${arg_LINKS} parlexo_options)
+  # A static Qt brings its plugins into the program itself.
+  get_target_property(qt_kind Qt6::Core TYPE)
+  if(qt_kind STREQUAL STATIC_LIBRARY)
+    qt_finalize_target(${name})
+  endif()
 endfunction()
 
 # parlexo_test(NAME [WINDOWS] SOURCES file... LINKS target...): a GoogleTest program, without a main of its

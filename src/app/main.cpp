@@ -18,12 +18,6 @@ using namespace parlexo;
 constexpr int demoFailed = 1;
 constexpr int journeyFailed = 1;
 
-QStringList argumentsOf(int argc, char** argv) {
-  QStringList arguments;
-  for (int i = 1; i < argc; ++i) arguments << QString::fromLocal8Bit(argv[i]);
-  return arguments;
-}
-
 int endAtOnce(const ImmediateEnd& end) {
   std::fputs(qUtf8Printable(end.output), end.exitCode == 0 ? stdout : stderr);
   return end.exitCode;
@@ -52,7 +46,7 @@ int runDemo(ProgramOptions options) {
 // The command line is read before there is an application object, so that --help works without a display.
 int main(int argc, char** argv) {
   prepareProcess();
-  const auto parsed = parseCommandLine(argumentsOf(argc, argv));
+  const auto parsed = parseCommandLine(programArguments(argc, argv));
   if (const auto* end = std::get_if<ImmediateEnd>(&parsed)) return endAtOnce(*end);
   QApplication application(argc, argv);
   // Between login and main window no window is open, and that must not end the event loops to come.

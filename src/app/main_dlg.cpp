@@ -17,6 +17,8 @@
 
 #include "app/about_dlg.h"
 #include "app/banner.h"
+#include "app/system_menu.h"
+#include "base/message_texts.h"
 #include "base/product.h"
 #include "ui/hyperlink_label.h"
 #include "ui/look.h"
@@ -109,6 +111,7 @@ void CMainDlg::paintEvent(QPaintEvent* event) {
   GradientDialog::paintEvent(event);
   // Earlier than this the window does not know its place on the screen, and a dialog would not stand over it.
   if (std::exchange(hasOpened_, true)) return;
+  addToSystemMenu(*this, text(TextId::AboutMenuEntry), [this] { showAbout(); });
   QMetaObject::invokeMethod(this, &CMainDlg::opened, Qt::QueuedConnection);
 }
 

@@ -8,4 +8,10 @@ void prepareProcess() {
   std::signal(SIGPIPE, SIG_IGN);
 }
 
+QStringList programArguments(int argc, char** argv) {
+  QStringList arguments;
+  for (int i = 1; i < argc; ++i) arguments << QString::fromLocal8Bit(argv[i]);
+  return arguments;
+}
+
 }  // namespace parlexo

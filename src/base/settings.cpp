@@ -2,7 +2,6 @@
 
 #include <algorithm>
 
-#include <QCoreApplication>
 #include <QDir>
 #include <QStandardPaths>
 
@@ -17,11 +16,11 @@ constexpr char organisation[] = "Parlexo";
 constexpr char application[] = "Parlexo Client";
 constexpr int widestColumn = 4000;  // pixels; a hand-edited value must not push a list's columns out of reach
 
-QString defaultProgramFolder() {
+ProgramFolder defaultProgramFolder() {
 #ifdef PARLEXO_USER_DATA_FOLDER
-  return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + u'/' + application;
+  return {QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + u'/' + application};
 #else
-  return QCoreApplication::applicationDirPath();
+  return findProgramFolder();
 #endif
 }
 
@@ -47,12 +46,12 @@ QString suppressionKey(int messageNumber) {
 Settings::Settings()
     : store_(std::make_unique<QSettings>(QSettings::NativeFormat, QSettings::UserScope, organisation,
                                          application)),
-      programFolder_(QDir::toNativeSeparators(defaultProgramFolder())) {}
+      programFolder_(defaultProgramFolder()) {}
 
 Settings::Settings(const QString& dataFolder)
     : store_(std::make_unique<QSettings>(inFolder(dataFolder, QStringLiteral("Parlexo Client.conf")),
                                          QSettings::IniFormat)),
-      programFolder_(QDir::toNativeSeparators(QDir(dataFolder).absolutePath())) {}
+      programFolder_{QDir::toNativeSeparators(QDir(dataFolder).absolutePath())} {}
 
 QString Settings::mobilePhoneNumber() {
   return cached(mobilePhoneNumber_, QStringLiteral("Mobile/PhoneNumber"), QString());
@@ -64,7 +63,7 @@ void Settings::setMobilePhoneNumber(const QString& number) {
 
 QString Settings::contactsFolder() {
   return cached(contactsFolder_, QStringLiteral("Path/Contacts"),
-                inFolder(programFolder_, QStringLiteral("contacts")));
+                inFolder(programFolder_.path, QStringLiteral("contacts")));
 }
 
 void Settings::setContactsFolder(const QString& folder) {
@@ -73,7 +72,7 @@ void Settings::setContactsFolder(const QString& folder) {
 
 QString Settings::templatesFolder() {
   return cached(templatesFolder_, QStringLiteral("Path/Templates"),
-                inFolder(programFolder_, QStringLiteral("templates")));
+                inFolder(programFolder_.path, QStringLiteral("templates")));
 }
 
 void Settings::setTemplatesFolder(const QString& folder) {
@@ -81,7 +80,7 @@ void Settings::setTemplatesFolder(const QString& folder) {
 }
 
 QString Settings::statusFile() const {
-  return inFolder(programFolder_, QStringLiteral("Status.xml"));
+  return inFolder(programFolder_.path, QStringLiteral("Status.xml"));
 }
 
 QString Settings::rememberedUser() const {
@@ -102,7 +101,8 @@ bool Settings::isMessageSuppressed(int messageNumber) const {
 }
 
 void Settings::suppressMessage(int messageNumber) {
-  store_->setValue(suppressionKey(messageNumber), 1);
+  // A text like all settings: the registry keeps numbers and texts apart.
+  store_->setValue(suppressionKey(messageNumber), QStringLiteral("1"));
 }
 
 QString Settings::fileFolder() const {

@@ -7,6 +7,8 @@
 #include <QSettings>
 #include <QString>
 
+#include "base/program_folder.h"
+
 namespace parlexo {
 
 /// The per-user settings of the program and the folders that follow from them. On Windows the values lie
@@ -22,7 +24,10 @@ class Settings {
   explicit Settings(const QString& dataFolder);
 
   /// The folder beside which contacts, templates and Status.xml lie; without a separator at its end.
-  [[nodiscard]] const QString& programFolder() const { return programFolder_; }
+  /// Empty when the system would not tell where the program lies.
+  [[nodiscard]] const QString& programFolder() const { return programFolder_.path; }
+  /// The system's number for why it would not, else 0.
+  [[nodiscard]] unsigned long programFolderError() const { return programFolder_.error; }
 
   /// The user's own mobile number; empty when never set.
   [[nodiscard]] QString mobilePhoneNumber();
@@ -69,7 +74,7 @@ class Settings {
   void write(QString& cache, const QString& key, const QString& value);
 
   std::unique_ptr<QSettings> store_;
-  QString programFolder_;
+  ProgramFolder programFolder_;
   QString mobilePhoneNumber_;
   QString contactsFolder_;
   QString templatesFolder_;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <optional>
 
 #include <QByteArray>
@@ -54,13 +55,10 @@ class SharedFile {
   [[nodiscard]] bool remove();
 
  private:
-  // Nothing when the file that was opened is not the one at the path any more.
-  std::optional<OpenResult> openOnce();
-  OpenResult lock() const;
+  static constexpr std::intptr_t noHandle = -1;
 
-  QByteArray path_;
-  Mode mode_ = Mode::Read;
-  int handle_ = -1;
+  std::intptr_t handle_ = noHandle;  ///< as the system gave it
+  QByteArray path_;                  ///< where a file is removed by its name
 };
 
 }  // namespace parlexo

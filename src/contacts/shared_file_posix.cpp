@@ -13,7 +13,7 @@ namespace parlexo {
 
 namespace {
 
-constexpr int noHandle = -1;
+constexpr int noDescriptor = -1;
 // How often a file that was replaced between opening and locking is opened again at once; after that it
 // counts as in use.
 constexpr int replacementTries = 20;
@@ -57,7 +57,7 @@ SharedFile::OpenResult failure(int error) {
 int openOrCreate(const char* path, SharedFile::Mode mode) {
   const int flags = openFlags(mode);
   const int handle = uninterrupted([=] { return ::open(path, flags); });
-  if (handle != noHandle || errno != ENOENT || mode == SharedFile::Mode::Remove) return handle;
+  if (handle != noDescriptor || errno != ENOENT || mode == SharedFile::Mode::Remove) return handle;
   return uninterrupted([=] { return ::open(path, flags | O_CREAT, newFilePermissions); });
 }
 
@@ -65,6 +65,29 @@ int openOrCreate(const char* path, SharedFile::Mode mode) {
 bool isAt(const char* path, const struct stat& opened) {
   struct stat atPath {};
   return ::stat(path, &atPath) == 0 && opened.st_dev == atPath.st_dev && opened.st_ino == atPath.st_ino;
+}
+
+SharedFile::OpenResult lock(int handle, SharedFile::Mode mode) {
+  if (mode == SharedFile::Mode::Create) return SharedFile::OpenResult::Opened;
+  const int kind = mode == SharedFile::Mode::Read ? LOCK_SH : LOCK_EX;
+  const int result = uninterrupted([=] { return ::flock(handle, kind | LOCK_NB); });
+  if (result == 0) return SharedFile::OpenResult::Opened;
+  // Where the lock is a server's, a refusal may come back in these words.
+  return errno == EACCES ? SharedFile::OpenResult::SharingViolation : failure(errno);
+}
+
+// Nothing when the file that was opened is not the one at the path any more.
+std::optional<SharedFile::OpenResult> lockFile(int handle, const char* path, SharedFile::Mode mode) {
+  const SharedFile::OpenResult locked = lock(handle, mode);
+  if (locked != SharedFile::OpenResult::Opened) return locked;
+  struct stat opened {};
+  if (::fstat(handle, &opened) != 0 || !S_ISREG(opened.st_mode)) return SharedFile::OpenResult::Failed;
+  if (mode != SharedFile::Mode::Create && !isAt(path, opened)) return std::nullopt;
+  return SharedFile::OpenResult::Opened;
+}
+
+int descriptor(std::intptr_t handle) {
+  return static_cast<int>(handle);
 }
 
 }  // namespace
@@ -76,64 +99,39 @@ SharedFile::~SharedFile() {
 SharedFile::OpenResult SharedFile::open(const QString& path, Mode mode) {
   close();
   path_ = QFile::encodeName(path);
-  mode_ = mode;
   // The system would end the path there and open another file.
   if (path_.contains('\0')) return OpenResult::Failed;
   for (int tries = 0; tries < replacementTries; ++tries) {
-    const std::optional<OpenResult> result = openOnce();
+    const int opened = openOrCreate(path_.constData(), mode);
+    if (opened == noDescriptor) return failure(errno);
+    handle_ = opened;
+    const std::optional<OpenResult> result = lockFile(opened, path_.constData(), mode);
+    if (result != OpenResult::Opened) close();
     if (result) return *result;
   }
-  close();
   return OpenResult::SharingViolation;
 }
 
 void SharedFile::close() {
-  if (handle_ != noHandle) ::close(handle_);
+  if (handle_ != noHandle) ::close(descriptor(handle_));
   handle_ = noHandle;
-}
-
-std::optional<SharedFile::OpenResult> SharedFile::openOnce() {
-  close();
-  handle_ = openOrCreate(path_.constData(), mode_);
-  if (handle_ == noHandle) return failure(errno);
-  const OpenResult locked = lock();
-  if (locked != OpenResult::Opened) {
-    close();
-    return locked;
-  }
-  struct stat opened {};
-  if (::fstat(handle_, &opened) != 0 || !S_ISREG(opened.st_mode)) {
-    close();
-    return OpenResult::Failed;
-  }
-  if (mode_ != Mode::Create && !isAt(path_.constData(), opened)) return std::nullopt;
-  return OpenResult::Opened;
-}
-
-SharedFile::OpenResult SharedFile::lock() const {
-  if (mode_ == Mode::Create) return OpenResult::Opened;
-  const int kind = mode_ == Mode::Read ? LOCK_SH : LOCK_EX;
-  const int result = uninterrupted([&] { return ::flock(handle_, kind | LOCK_NB); });
-  if (result == 0) return OpenResult::Opened;
-  // Where the lock is a server's, a refusal may come back in these words.
-  return errno == EACCES ? OpenResult::SharingViolation : failure(errno);
 }
 
 std::optional<qint64> SharedFile::size() const {
   struct stat status {};
-  if (::fstat(handle_, &status) != 0) return std::nullopt;
+  if (::fstat(descriptor(handle_), &status) != 0) return std::nullopt;
   return status.st_size;
 }
 
 bool SharedFile::seek(qint64 position) {
-  return ::lseek(handle_, position, SEEK_SET) == position;
+  return ::lseek(descriptor(handle_), position, SEEK_SET) == position;
 }
 
 std::optional<qint64> SharedFile::read(char* buffer, qint64 length) {
   qint64 done = 0;
   while (done < length) {
     const auto count = uninterrupted(
-        [&] { return ::read(handle_, buffer + done, static_cast<std::size_t>(length - done)); });
+        [&] { return ::read(descriptor(handle_), buffer + done, static_cast<std::size_t>(length - done)); });
     if (count < 0) return std::nullopt;
     if (count == 0) break;
     done += count;
@@ -145,11 +143,11 @@ bool SharedFile::write(QByteArrayView bytes) {
   const std::optional<qint64> before = size();
   if (!before) return false;
   while (!bytes.isEmpty()) {
-    const auto count =
-        uninterrupted([&] { return ::write(handle_, bytes.data(), static_cast<std::size_t>(bytes.size())); });
+    const auto count = uninterrupted(
+        [&] { return ::write(descriptor(handle_), bytes.data(), static_cast<std::size_t>(bytes.size())); });
     if (count <= 0) {
       // Nothing better can be done when cutting back fails too: the caller reports the failed write.
-      if (size() > before && ::ftruncate(handle_, *before) != 0) return false;
+      if (size() > before && ::ftruncate(descriptor(handle_), *before) != 0) return false;
       return false;
     }
     bytes = bytes.sliced(count);

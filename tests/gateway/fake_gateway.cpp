@@ -1,25 +1,24 @@
 #include "tests/gateway/fake_gateway.h"
 
-#include <arpa/inet.h>
-#include <netinet/in.h>
-#include <poll.h>
-#include <sys/socket.h>
-#include <unistd.h>
-
 #include <array>
 #include <chrono>
 #include <cstdlib>
 #include <utility>
 
+#include "gateway/protocol/socket_calls.h"
+
 namespace parlexo::testing {
 
 namespace {
 
+using protocol::Direction;
+
+constexpr std::chrono::milliseconds waitingSlice{20};
+
 /// Waits in slices so that the server can be stopped at any moment.
-bool waitToRead(int socket, const std::atomic<bool>& isStopping) {
+bool waitToRead(SOAP_SOCKET socket, const std::atomic<bool>& isStopping) {
   while (!isStopping) {
-    pollfd watched{socket, POLLIN, 0};
-    if (poll(&watched, 1, 20) > 0) return true;
+    if (protocol::waitForSocket(socket, Direction::Receiving, waitingSlice) > 0) return true;
   }
   return false;
 }
@@ -34,8 +33,12 @@ bool isWhole(const std::string& request) {
   return end != std::string::npos && request.size() >= end + 4 + bodyLength(request.substr(0, end));
 }
 
-int listenOnLoopback(int& port) {
-  const int listener = socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0);
+SOAP_SOCKET listenOnLoopback(int& port) {
+  protocol::prepareSockets();
+  addrinfo kind{};
+  kind.ai_family = AF_INET;
+  kind.ai_socktype = SOCK_STREAM;
+  const SOAP_SOCKET listener = protocol::openSocket(kind);
   sockaddr_in address{};
   address.sin_family = AF_INET;
   address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
@@ -56,13 +59,11 @@ FakeGateway::FakeGateway(std::string answer, Manner manner) : answer_(std::move(
 
 FakeGateway::~FakeGateway() {
   stop();
-  close(listener_);
+  soap_closesocket(listener_);
 }
 
 void FakeGateway::stop() {
   isStopping_ = true;
-  // Wakes the thread that waits for a connection.
-  shutdown(listener_, SHUT_RD);
   if (thread_.joinable()) thread_.join();
 }
 
@@ -78,18 +79,18 @@ std::string FakeGateway::lastRequest() {
 
 void FakeGateway::serve() {
   while (waitToRead(listener_, isStopping_)) {
-    const int connection = accept(listener_, nullptr, nullptr);
-    if (connection < 0) return;
+    const SOAP_SOCKET connection = accept(listener_, nullptr, nullptr);
+    if (!soap_valid_socket(connection)) return;
     answer(connection);
-    close(connection);
+    soap_closesocket(connection);
   }
 }
 
-void FakeGateway::answer(int connection) {
+void FakeGateway::answer(SOAP_SOCKET connection) {
   request_.clear();
   std::array<char, 65536> buffer{};
   while (!isWhole(request_) && waitToRead(connection, isStopping_)) {
-    const ssize_t count = recv(connection, buffer.data(), buffer.size(), 0);
+    const std::ptrdiff_t count = protocol::receiveSome(connection, buffer.data(), buffer.size());
     if (count <= 0) return;
     request_.append(buffer.data(), static_cast<std::size_t>(count));
   }
@@ -109,9 +110,9 @@ void FakeGateway::answer(int connection) {
   }
 }
 
-bool FakeGateway::sendAll(int connection, std::string_view bytes) {
+bool FakeGateway::sendAll(SOAP_SOCKET connection, std::string_view bytes) {
   while (!bytes.empty()) {
-    const ssize_t count = send(connection, bytes.data(), bytes.size(), MSG_NOSIGNAL);
+    const std::ptrdiff_t count = protocol::sendSome(connection, bytes.data(), bytes.size());
     if (count <= 0) return false;
     bytesSent_ += static_cast<std::size_t>(count);
     bytes.remove_prefix(static_cast<std::size_t>(count));
@@ -119,7 +120,7 @@ bool FakeGateway::sendAll(int connection, std::string_view bytes) {
   return true;
 }
 
-void FakeGateway::sendInDrops(int connection, std::string_view bytes) {
+void FakeGateway::sendInDrops(SOAP_SOCKET connection, std::string_view bytes) {
   for (std::size_t at = 0; at < bytes.size() && !isStopping_; ++at) {
     if (!sendAll(connection, bytes.substr(at, 1))) return;
     std::this_thread::sleep_for(std::chrono::milliseconds(20));
@@ -148,7 +149,7 @@ std::string bodyOf(const std::string& message) {
 
 int closedPort() {
   int port = 0;
-  close(listenOnLoopback(port));
+  soap_closesocket(listenOnLoopback(port));
   return port;
 }
 

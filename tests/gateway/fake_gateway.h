@@ -6,6 +6,8 @@
 #include <string_view>
 #include <thread>
 
+#include <stdsoap2.h>
+
 namespace parlexo::testing {
 
 /// A server on a loopback port that takes one connection after the other, reads one whole request from each
@@ -35,15 +37,15 @@ class FakeGateway {
 
  private:
   void serve();
-  void answer(int connection);
-  [[nodiscard]] bool sendAll(int connection, std::string_view bytes);
-  void sendInDrops(int connection, std::string_view bytes);
+  void answer(SOAP_SOCKET connection);
+  [[nodiscard]] bool sendAll(SOAP_SOCKET connection, std::string_view bytes);
+  void sendInDrops(SOAP_SOCKET connection, std::string_view bytes);
   void stop();
 
   std::mutex mutex_;
   std::string answer_;  ///< guarded by the mutex
   Manner manner_;
-  int listener_ = -1;
+  SOAP_SOCKET listener_ = SOAP_INVALID_SOCKET;
   int port_ = 0;
   std::atomic<bool> isStopping_ = false;
   std::atomic<int> requestCount_ = 0;

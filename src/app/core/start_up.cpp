@@ -22,6 +22,8 @@ int StartUp::run() {
 }
 
 bool StartUp::loadStores() {
+  if (const auto error = static_cast<int>(parts_.settings.programFolderError()))
+    parts_.notifier.error(withNumber(TextId::ModulePathFailed, error));
   makeFolderPath(parts_.settings.contactsFolder());
   makeFolderPath(parts_.settings.templatesFolder());
   parts_.progress.show(QStringLiteral("Loading Contacts from Database..."));

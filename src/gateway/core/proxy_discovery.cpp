@@ -2,10 +2,11 @@
 
 #include <utility>
 
+#include <QFile>
 #include <QHostAddress>
 #include <QNetworkProxy>
 #include <QNetworkRequest>
-#include <QTemporaryFile>
+#include <QTemporaryDir>
 
 namespace parlexo {
 
@@ -33,8 +34,11 @@ QString askScript(const ProxySystem& system, const QUrl& address, const CancelFl
   const QUrl place = system.scriptAddress(cancel);
   if (!place.isValid()) return {};
   const QByteArray script = downloadScript(place, cancel);
-  QTemporaryFile file;
-  if (script.isEmpty() || !file.open() || file.write(script) != script.size() || !file.flush()) return {};
+  const QTemporaryDir folder;
+  QFile file(folder.filePath(QStringLiteral("proxy.pac")));
+  if (script.isEmpty() || !file.open(QIODevice::WriteOnly) || file.write(script) != script.size()) return {};
+  // Who runs it may want to have the file alone.
+  file.close();
   const QString answer = system.scriptAnswer(file.fileName(), address, cancel);
   const QLatin1String prefix("PROXY ");
   return answer.startsWith(prefix) ? answer.sliced(prefix.size()) : QString();

@@ -18,8 +18,13 @@ QString templateSuffix() {
   return QStringLiteral(".tpl");
 }
 
+// On Windows a name with a colon would lead into a hidden part of another file.
+QStringView refusedCharacters() {
+  return QDir::separator() == u'\\' ? u"\\/:*?\"<>|" : u"\\/";
+}
+
 bool isTemplateName(const QString& name) {
-  const auto isRefused = [](QChar c) { return c == u'/' || c == u'\\' || c == u'\0'; };
+  const auto isRefused = [](QChar c) { return c == u'\0' || refusedCharacters().contains(c); };
   return !name.isEmpty() && std::none_of(name.begin(), name.end(), isRefused);
 }
 

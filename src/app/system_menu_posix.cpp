@@ -1,0 +1,8 @@
+#include "app/system_menu.h"
+
+namespace parlexo {
+
+// Here the menu behind a window's icon belongs to the window manager.
+void addToSystemMenu(QWidget& /*window*/, const QString& /*text*/, std::function<void()> /*action*/) {}
+
+}  // namespace parlexo

@@ -1,0 +1,114 @@
+#include <windows.h>
+
+#include <QDir>
+
+#include "contacts/shared_file.h"
+
+namespace parlexo {
+
+namespace {
+
+struct OpenMode {
+  DWORD access;
+  DWORD share;
+  DWORD disposition = OPEN_ALWAYS;
+};
+
+OpenMode openMode(SharedFile::Mode mode) {
+  constexpr DWORD readAndWrite = GENERIC_READ | GENERIC_WRITE;
+  switch (mode) {
+    case SharedFile::Mode::Read:
+      return {GENERIC_READ, FILE_SHARE_READ};
+    case SharedFile::Mode::Write:
+      return {readAndWrite, 0};
+    case SharedFile::Mode::Erase:
+      return {readAndWrite, FILE_SHARE_READ};
+    case SharedFile::Mode::Create:
+      return {GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE};
+    case SharedFile::Mode::Remove:
+      return {GENERIC_READ | DELETE, 0, OPEN_EXISTING};
+  }
+  return {GENERIC_READ, FILE_SHARE_READ};
+}
+
+HANDLE handleOf(std::intptr_t number) {
+  return reinterpret_cast<HANDLE>(number);
+}
+
+// What was appended of a record that did not fit must not shift those that come later.
+void cutBack(HANDLE handle, qint64 length) {
+  LARGE_INTEGER end;
+  end.QuadPart = length;
+  if (SetFilePointerEx(handle, end, nullptr, FILE_BEGIN)) SetEndOfFile(handle);
+}
+
+}  // namespace
+
+SharedFile::~SharedFile() {
+  close();
+}
+
+SharedFile::OpenResult SharedFile::open(const QString& path, Mode mode) {
+  close();
+  // The system would end the path there and open another file.
+  if (path.contains(QChar::Null)) return OpenResult::Failed;
+  const auto native = QDir::toNativeSeparators(path).toStdWString();
+  const OpenMode how = openMode(mode);
+  const HANDLE handle = CreateFileW(native.c_str(), how.access, how.share, nullptr, how.disposition,
+                                    FILE_ATTRIBUTE_NORMAL | FILE_FLAG_WRITE_THROUGH, nullptr);
+  if (handle == INVALID_HANDLE_VALUE)
+    return GetLastError() == ERROR_SHARING_VIOLATION ? OpenResult::SharingViolation : OpenResult::Failed;
+  handle_ = reinterpret_cast<std::intptr_t>(handle);
+  // Names such as "con" and "nul" open devices in whatever folder they are looked for.
+  if (GetFileType(handle) == FILE_TYPE_DISK) return OpenResult::Opened;
+  close();
+  return OpenResult::Failed;
+}
+
+void SharedFile::close() {
+  if (handle_ != noHandle) CloseHandle(handleOf(handle_));
+  handle_ = noHandle;
+}
+
+std::optional<qint64> SharedFile::size() const {
+  LARGE_INTEGER length;
+  if (!GetFileSizeEx(handleOf(handle_), &length)) return std::nullopt;
+  return length.QuadPart;
+}
+
+bool SharedFile::seek(qint64 position) {
+  LARGE_INTEGER wanted;
+  wanted.QuadPart = position;
+  return SetFilePointerEx(handleOf(handle_), wanted, nullptr, FILE_BEGIN) != 0;
+}
+
+std::optional<qint64> SharedFile::read(char* buffer, qint64 length) {
+  qint64 done = 0;
+  while (done < length) {
+    DWORD count = 0;
+    if (!ReadFile(handleOf(handle_), buffer + done, static_cast<DWORD>(length - done), &count, nullptr))
+      return std::nullopt;
+    if (count == 0) break;
+    done += count;
+  }
+  return done;
+}
+
+bool SharedFile::write(QByteArrayView bytes) {
+  const std::optional<qint64> before = size();
+  if (!before) return false;
+  DWORD count = 0;
+  const auto wanted = static_cast<DWORD>(bytes.size());
+  const bool done = WriteFile(handleOf(handle_), bytes.data(), wanted, &count, nullptr) && count == wanted;
+  if (!done && size() > before) cutBack(handleOf(handle_), *before);
+  return done;
+}
+
+// The file goes with its last handle, which is this one: nobody else was let in.
+bool SharedFile::remove() {
+  FILE_DISPOSITION_INFO disposition{TRUE};
+  return SetFileInformationByHandle(handleOf(handle_), FileDispositionInfo, &disposition,
+                                    sizeof disposition) != 0;
+}
+
+}  // namespace parlexo

@@ -1,0 +1,75 @@
+#include "gateway/protocol/socket_calls.h"
+
+namespace parlexo::protocol {
+
+namespace {
+
+/// What may wait unsent in the system; with more a cancelled file would go on, and its progress would be
+/// ahead of what has gone out.
+constexpr int unsentBytes = 64 * 1024;
+
+class Winsock {
+ public:
+  Winsock() {
+    WSADATA data;
+    WSAStartup(MAKEWORD(2, 2), &data);
+  }
+};
+
+int setOption(SOAP_SOCKET socket, int level, int option, int value) {
+  return setsockopt(socket, level, option, reinterpret_cast<const char*>(&value), sizeof value);
+}
+
+}  // namespace
+
+void prepareSockets() {
+  static const Winsock winsock;
+}
+
+SOAP_SOCKET openSocket(const addrinfo& address) {
+  const SOAP_SOCKET socket = ::socket(address.ai_family, address.ai_socktype, 0);
+  u_long nonBlocking = 1;
+  if (soap_valid_socket(socket)) ioctlsocket(socket, FIONBIO, &nonBlocking);
+  return socket;
+}
+
+bool startConnecting(SOAP_SOCKET socket, const addrinfo& address) {
+  return connect(socket, address.ai_addr, static_cast<int>(address.ai_addrlen)) == 0 || wouldWait();
+}
+
+bool hasConnected(SOAP_SOCKET socket) {
+  int error = 0;
+  int size = sizeof error;
+  return getsockopt(socket, SOL_SOCKET, SO_ERROR, reinterpret_cast<char*>(&error), &size) == 0 && error == 0;
+}
+
+void tuneForRequests(SOAP_SOCKET socket) {
+  setOption(socket, IPPROTO_TCP, TCP_NODELAY, 1);
+  setOption(socket, SOL_SOCKET, SO_SNDBUF, unsentBytes);
+}
+
+// WSAPoll keeps silent about a refused connection on systems before Windows 10 of 2020; select() tells it.
+int waitForSocket(SOAP_SOCKET socket, Direction direction, std::chrono::milliseconds patience) {
+  fd_set ready;
+  FD_ZERO(&ready);
+  FD_SET(socket, &ready);
+  fd_set failed = ready;
+  const auto microseconds = std::chrono::duration_cast<std::chrono::microseconds>(patience).count();
+  timeval wait{0, static_cast<long>(microseconds)};
+  const bool isSending = direction == Direction::Sending;
+  return select(0, isSending ? nullptr : &ready, isSending ? &ready : nullptr, &failed, &wait);
+}
+
+std::ptrdiff_t sendSome(SOAP_SOCKET socket, const char* bytes, std::size_t count) {
+  return ::send(socket, bytes, static_cast<int>(count), 0);
+}
+
+std::ptrdiff_t receiveSome(SOAP_SOCKET socket, char* buffer, std::size_t size) {
+  return ::recv(socket, buffer, static_cast<int>(size), 0);
+}
+
+bool wouldWait() {
+  return WSAGetLastError() == WSAEWOULDBLOCK;
+}
+
+}  // namespace parlexo::protocol
