@@ -19,7 +19,7 @@ class SettingsTest : public testing::Test {
   // The settings file as a later start finds it.
   QString storedFile() const {
     QFile file(path(u"Parlexo Client.conf"_qs));
-    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+    return file.open(QIODevice::ReadOnly | QIODevice::Text) ? QString::fromUtf8(file.readAll()) : QString();
   }
 
   void store(const QByteArray& content) const {

@@ -126,8 +126,9 @@ TEST_F(AddressBookLoading, ofMissingFolderTellsThePersonalGroupFirst) {
   EXPECT_FALSE(book.loadAll(progress_));
   ASSERT_EQ(notifier_.shown.size(), 2);
   EXPECT_EQ(notifier_.takeLines().first(),
-            QStringLiteral("0 Can't create the personal contacts database: ") + folder +
-                QStringLiteral("/My Personal Contacts.grp Error=[createDb:1 - Can't create the database!]"));
+            QStringLiteral("0 Can't create the personal contacts database: ") +
+                QDir::toNativeSeparators(folder + QStringLiteral("/My Personal Contacts.grp")) +
+                QStringLiteral(" Error=[createDb:1 - Can't create the database!]"));
 }
 
 }  // namespace

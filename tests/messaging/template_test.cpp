@@ -61,14 +61,14 @@ TEST_F(TemplateStore, savesExactlyThesePlainBytesAndReplacesSilently) {
 }
 
 TEST_F(TemplateStore, listsTemplateFilesAndRemovesThem) {
-  ASSERT_TRUE(folder.save("b.tpl", {}) && folder.save("Ask: 10?", {}) && folder.save("c", {}));
+  ASSERT_TRUE(folder.save("b.tpl", {}) && folder.save("Ask - 10%", {}) && folder.save("c", {}));
   ASSERT_TRUE(QDir(directory.path()).mkdir("folder.tpl"));
   ASSERT_TRUE(QFile(directory.filePath("notes.txt")).open(QIODevice::WriteOnly));
-  EXPECT_THAT(folder.names(), ElementsAre("Ask: 10?", "b.tpl", "c"));
+  EXPECT_THAT(folder.names(), ElementsAre("Ask - 10%", "b.tpl", "c"));
   EXPECT_TRUE(folder.remove("c"));
   EXPECT_TRUE(folder.remove("c")) << "gone is gone, whoever removed it";
   EXPECT_FALSE(folder.remove("folder"));
-  EXPECT_THAT(folder.names(), ElementsAre("Ask: 10?", "b.tpl"));
+  EXPECT_THAT(folder.names(), ElementsAre("Ask - 10%", "b.tpl"));
 }
 
 TEST_F(TemplateStore, refusesNamesThatNoFileCanHave) {

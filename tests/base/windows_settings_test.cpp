@@ -1,0 +1,98 @@
+// Settings held against the registry itself, in a hive of the test's own.
+
+#include <windows.h>
+
+#include <array>
+
+#include <QDir>
+#include <QTemporaryDir>
+#include <gtest/gtest.h>
+
+#include "base/settings.h"
+
+namespace parlexo {
+namespace {
+
+/// While it lives, HKEY_CURRENT_USER is an empty key that goes with it.
+class OwnHive {
+ public:
+  OwnHive() {
+    RegCreateKeyExW(HKEY_CURRENT_USER, name, 0, nullptr, REG_OPTION_NON_VOLATILE, KEY_ALL_ACCESS, nullptr,
+                    &key_, nullptr);
+    EXPECT_EQ(RegOverridePredefKey(HKEY_CURRENT_USER, key_), ERROR_SUCCESS);
+  }
+  ~OwnHive() {
+    RegOverridePredefKey(HKEY_CURRENT_USER, nullptr);
+    RegCloseKey(key_);
+    RegDeleteTreeW(HKEY_CURRENT_USER, name);
+  }
+  OwnHive(const OwnHive&) = delete;
+  OwnHive& operator=(const OwnHive&) = delete;
+
+ private:
+  static constexpr wchar_t name[] = L"Software\\Parlexo settings test";
+  HKEY key_ = nullptr;
+};
+
+std::wstring keyOf(const wchar_t* section) {
+  return std::wstring(L"Software\\Parlexo\\Parlexo Client\\") + section;
+}
+
+/// The text as it lies in the registry; "(none)" when there is no value or it is not a text.
+std::wstring stored(const wchar_t* section, const wchar_t* value) {
+  std::array<wchar_t, 1000> text{};
+  DWORD bytes = sizeof text;
+  const LSTATUS status = RegGetValueW(HKEY_CURRENT_USER, keyOf(section).c_str(), value, RRF_RT_REG_SZ,
+                                      nullptr, text.data(), &bytes);
+  return status == ERROR_SUCCESS ? text.data() : L"(none)";
+}
+
+void store(const wchar_t* section, const wchar_t* value, const std::wstring& text) {
+  EXPECT_EQ(RegSetKeyValueW(HKEY_CURRENT_USER, keyOf(section).c_str(), value, REG_SZ, text.c_str(),
+                            static_cast<DWORD>((text.size() + 1) * sizeof(wchar_t))),
+            ERROR_SUCCESS);
+}
+
+TEST(RegistrySettings, areTextsUnderTheProgramsKey) {
+  const OwnHive hive;
+  {
+    Settings settings;
+    settings.setMobilePhoneNumber(QStringLiteral("+61491570156"));
+    settings.setContactsFolder(QString::fromUtf8("\\\\server\\share\\\u4f60\u597d, all"));
+    settings.setTemplatesFolder(QStringLiteral("C:\\Templates"));
+    settings.setRememberedUser(QString::fromUtf8("zo\u00eb"));
+    settings.suppressMessage(146);
+  }
+  EXPECT_EQ(stored(L"Mobile", L"PhoneNumber"), L"+61491570156");
+  EXPECT_EQ(stored(L"Path", L"Contacts"), L"\\\\server\\share\\\u4f60\u597d, all");
+  EXPECT_EQ(stored(L"Path", L"Templates"), L"C:\\Templates");
+  EXPECT_EQ(stored(L"Login", L"User"), L"zo\u00eb");
+  EXPECT_EQ(stored(L"Settings", L"MessageDontShowAgain146"), L"1");
+}
+
+TEST(RegistrySettings, readWhatAnAdministratorPutThere) {
+  const OwnHive hive;
+  EXPECT_TRUE(Settings().contactsFolder().endsWith(QStringLiteral("\\contacts")));
+  EXPECT_EQ(stored(L"Path", L"Contacts"), L"(none)") << "the default is not written";
+  store(L"Path", L"Contacts", L"P:\\Team");
+  store(L"Settings", L"MessageDontShowAgain147", L"1");
+  Settings settings;
+  EXPECT_EQ(settings.contactsFolder(), QStringLiteral("P:\\Team"));
+  EXPECT_TRUE(settings.isMessageSuppressed(147));
+  EXPECT_FALSE(settings.isMessageSuppressed(146));
+}
+
+TEST(FolderPath, isMadeWhateverItsSeparators) {
+  const QTemporaryDir folder;
+  const QString native = QDir::toNativeSeparators(folder.path());
+  ASSERT_TRUE(QDir::setCurrent(native)) << "a path without a drive means that of the current folder";
+  makeFolderPath(native + QStringLiteral("\\a\\b/c\\"));
+  makeFolderPath(QLatin1Char(' ') + native.mid(2) + QStringLiteral("\\d"));
+  makeFolderPath(QStringLiteral("Q:\\no such drive"));
+  EXPECT_TRUE(QDir(folder.filePath(QStringLiteral("a/b/c"))).exists());
+  EXPECT_TRUE(QDir(folder.filePath(QStringLiteral("d"))).exists());
+  QDir::setCurrent(QDir::rootPath());
+}
+
+}  // namespace
+}  // namespace parlexo

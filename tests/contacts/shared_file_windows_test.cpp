@@ -1,0 +1,115 @@
+#include <QCoreApplication>
+#include <QDir>
+#include <QProcess>
+
+#include "contacts/shared_file.h"
+#include "tests/contacts/store_fixture.h"
+
+namespace parlexo {
+namespace {
+
+using Mode = SharedFile::Mode;
+using OpenResult = SharedFile::OpenResult;
+
+/// Another process that has a file open until it is told to leave.
+class Holder {
+ public:
+  Holder(const QString& path, Mode mode) {
+    process_.start(QCoreApplication::applicationDirPath() + QStringLiteral("/shared-file-holder"),
+                   {path, QString::number(static_cast<int>(mode))});
+    EXPECT_TRUE(process_.waitForReadyRead());
+    EXPECT_EQ(process_.readLine().trimmed(), "held");
+  }
+  ~Holder() { leave(); }
+  Holder(const Holder&) = delete;
+  Holder& operator=(const Holder&) = delete;
+
+  void leave() {
+    if (process_.state() == QProcess::NotRunning) return;
+    process_.closeWriteChannel();
+    EXPECT_TRUE(process_.waitForFinished());
+  }
+
+ private:
+  QProcess process_;
+};
+
+class SharingBetweenProcesses : public StoreFixture {
+ protected:
+  SharingBetweenProcesses() { writeBytes(path_, record_); }
+
+  QByteArray record_ = QByteArray("\1Anna1111111", recordSize);
+  QString path_ = pathOf(QStringLiteral("items.db"));
+};
+
+TEST_F(SharingBetweenProcesses, modesShutOthersOut) {
+  constexpr auto opened = OpenResult::Opened;
+  constexpr auto refused = OpenResult::SharingViolation;
+  const struct {
+    Mode holder;
+    OpenResult results[5];  // for Read, Write, Erase, Create and Remove
+  } cases[] = {
+      {Mode::Read, {opened, refused, refused, opened, refused}},
+      {Mode::Write, {refused, refused, refused, refused, refused}},
+      {Mode::Erase, {refused, refused, refused, opened, refused}},
+      {Mode::Create, {opened, refused, opened, opened, refused}},
+  };
+  for (const auto& each : cases) {
+    Holder holder(path_, each.holder);
+    for (const Mode comer : {Mode::Read, Mode::Write, Mode::Erase, Mode::Create, Mode::Remove}) {
+      SharedFile file;
+      EXPECT_EQ(file.open(path_, comer), each.results[static_cast<int>(comer)])
+          << static_cast<int>(each.holder) << " then " << static_cast<int>(comer);
+    }
+    holder.leave();
+    SharedFile file;
+    EXPECT_EQ(file.open(path_, Mode::Write), opened);
+  }
+}
+
+TEST_F(SharingBetweenProcesses, writerWaitsForAReaderElsewhereAndGivesUpAfterTheTimeout) {
+  Holder reader(path_, Mode::Read);
+  EXPECT_FALSE(database_.writeItem(error_, keyWidth, path_, recordSize, record_, timeout));
+  EXPECT_EQ(error_, QStringLiteral("[writeItem:2 - Database access share error!]"));
+  waiter_.onPause = [&reader] { reader.leave(); };
+  error_.clear();
+  EXPECT_TRUE(database_.writeItem(error_, keyWidth, path_, recordSize, record_, timeout));
+  EXPECT_EQ(error_, QString());
+  EXPECT_EQ(readBytes(path_), record_);
+}
+
+TEST_F(SharingBetweenProcesses, removedFileIsGoneAndAMissingOneStaysMissing) {
+  {
+    SharedFile file;
+    ASSERT_EQ(file.open(path_, Mode::Remove), OpenResult::Opened);
+    EXPECT_TRUE(file.remove());
+  }
+  EXPECT_FALSE(QFile::exists(path_));
+  SharedFile file;
+  EXPECT_EQ(file.open(path_, Mode::Remove), OpenResult::Failed);
+  EXPECT_FALSE(QFile::exists(path_));
+}
+
+TEST_F(SharingBetweenProcesses, everyWayToWriteAPathLeadsToTheSameFile) {
+  const QString folder = folder_.filePath(QString::fromUtf8("Gr\u00fc\u00dfe \u4f60\u597d"));
+  ASSERT_TRUE(QDir().mkdir(folder));
+  const QString file = folder + QStringLiteral("/f.db");
+  const QString native = QDir::toNativeSeparators(file);
+  writeBytes(file, "12345");
+  ASSERT_TRUE(native.contains(QStringLiteral(":\\"))) << "a path with its drive";
+  ASSERT_TRUE(QDir::setCurrent(folder_.path())) << "a path without a drive means that of the current folder";
+  for (const QString& path : {file, native, QStringLiteral("\\\\?\\") + native, native.mid(2)}) {
+    SharedFile shared;
+    EXPECT_EQ(shared.open(path, Mode::Read), OpenResult::Opened) << path.toStdString();
+    EXPECT_EQ(shared.size(), 5) << path.toStdString();
+  }
+  for (const QString& path : {folder, pathOf(QStringLiteral("nul")), file + QChar(u'\0') + u'x',
+                              pathOf(QStringLiteral("a*b")), pathOf(QStringLiteral("none/x"))}) {
+    SharedFile shared;
+    EXPECT_EQ(shared.open(path, Mode::Write), OpenResult::Failed) << path.toStdString();
+  }
+  QDir::setCurrent(QDir::rootPath());
+}
+
+}  // namespace
+}  // namespace parlexo
