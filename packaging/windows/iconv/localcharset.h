@@ -1,0 +1,1 @@
+/* libfreexl includes this and uses nothing of it. */
