@@ -24,6 +24,8 @@ int endAtOnce(const ImmediateEnd& end) {
 }
 
 int runJourney(const ProgramOptions& options) {
+  // The journey finds its way by Qt's own controls, which the system's file dialogs lack.
+  QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
   Application client(options);
   Journey journey(journeyPlan(Demo::user(), Demo::password(), options.journeyDir), options.journeyDir);
   journey.start();
