@@ -31,21 +31,21 @@ UninstPage uninstConfirm
 UninstPage instfiles
 
 ; A program that runs can't be replaced; say so instead of leaving half of it.
-!macro closeFirst
-  again_${__LINE__}:
+!macro closeFirst SECTION
+  again_${SECTION}:
   ClearErrors
-  IfFileExists "$INSTDIR\${NAME}.exe" 0 closed_${__LINE__}
+  IfFileExists "$INSTDIR\${NAME}.exe" 0 closed_${SECTION}
   FileOpen $0 "$INSTDIR\${NAME}.exe" a
-  IfErrors 0 release_${__LINE__}
-  MessageBox MB_RETRYCANCEL|MB_ICONEXCLAMATION "${NAME} is running. Please close it first." IDRETRY again_${__LINE__}
+  IfErrors 0 release_${SECTION}
+  MessageBox MB_RETRYCANCEL|MB_ICONEXCLAMATION "${NAME} is running. Please close it first." IDRETRY again_${SECTION}
   Abort
-  release_${__LINE__}:
+  release_${SECTION}:
   FileClose $0
-  closed_${__LINE__}:
+  closed_${SECTION}:
 !macroend
 
 Section
-  !insertmacro closeFirst
+  !insertmacro closeFirst install
   SetOutPath "$INSTDIR"
   File "${ROOT}/dist/Parlexo Client.exe"
   File "${ROOT}/dist/parlexo-gateway.exe"
@@ -68,7 +68,7 @@ SectionEnd
 
 ; Contacts, templates, Status.xml and the settings are the user's and stay.
 Section "Uninstall"
-  !insertmacro closeFirst
+  !insertmacro closeFirst uninstall
   Delete "$INSTDIR\${NAME}.exe"
   Delete "$INSTDIR\parlexo-gateway.exe"
   Delete "$INSTDIR\LICENSE.txt"
