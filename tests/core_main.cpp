@@ -3,8 +3,18 @@
 #include <QCoreApplication>
 #include <gmock/gmock.h>
 
-int main(int argc, char** argv) {
+#include "base/process_end.h"
+
+namespace {
+
+int runTests(int argc, char** argv) {
   const QCoreApplication application(argc, argv);
   testing::InitGoogleMock(&argc, argv);
   return RUN_ALL_TESTS();
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  return parlexo::endProcess(runTests(argc, argv));
 }

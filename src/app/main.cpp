@@ -9,6 +9,7 @@
 #include "app/journey.h"
 #include "app/journey_plan.h"
 #include "app/process.h"
+#include "base/process_end.h"
 #include "ui/look.h"
 
 namespace {
@@ -43,10 +44,8 @@ int runDemo(ProgramOptions options) {
   return options.journeyDir.isEmpty() ? Application(options).run() : runJourney(options);
 }
 
-}  // namespace
-
 // The command line is read before there is an application object, so that --help works without a display.
-int main(int argc, char** argv) {
+int runProgram(int argc, char** argv) {
   prepareProcess();
   const auto parsed = parseCommandLine(programArguments(argc, argv));
   if (const auto* end = std::get_if<ImmediateEnd>(&parsed)) return endAtOnce(*end);
@@ -56,4 +55,10 @@ int main(int argc, char** argv) {
   applyLook(application);
   const auto& options = std::get<ProgramOptions>(parsed);
   return options.demo ? runDemo(options) : Application(options).run();
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  return parlexo::endProcess(runProgram(argc, argv));
 }

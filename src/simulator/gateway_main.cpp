@@ -3,6 +3,7 @@
 #include <QByteArray>
 #include <QCoreApplication>
 
+#include "base/process_end.h"
 #include "base/product.h"
 #include "simulator/command_line.h"
 #include "simulator/simulator.h"
@@ -36,9 +37,7 @@ int serve(const CommandLine& line) {
   return 0;
 }
 
-}  // namespace
-
-int main(int argc, char** argv) {
+int runProgram(int argc, char** argv) {
   parlexo::simulator::holdStopSignals();
   const QCoreApplication application(argc, argv);
   CommandLine line = parlexo::simulator::readCommandLine(QCoreApplication::arguments().mid(1));
@@ -56,4 +55,10 @@ int main(int argc, char** argv) {
   }
   line.options.log = [](const QString& text) { print(stdout, text); };
   return serve(line);
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  return parlexo::endProcess(runProgram(argc, argv));
 }

@@ -1,0 +1,9 @@
+#include "base/process_end.h"
+
+namespace parlexo {
+
+int endProcess(int exitCode) {
+  return exitCode;
+}
+
+}  // namespace parlexo
