@@ -3,6 +3,6 @@
 namespace parlexo {
 
 // Here the menu behind a window's icon belongs to the window manager.
-void addToSystemMenu(QWidget& /*window*/, const QString& /*text*/, std::function<void()> /*action*/) {}
+void addToSystemMenu(QWidget& /*window*/, const QString& /*text*/, const std::function<void()>& /*action*/) {}
 
 }  // namespace parlexo

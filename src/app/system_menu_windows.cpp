@@ -1,7 +1,5 @@
 #include <windows.h>
 
-#include <utility>
-
 #include <QAbstractNativeEventFilter>
 #include <QCoreApplication>
 #include <QWidget>
@@ -19,8 +17,8 @@ constexpr WPARAM commandMask = 0xFFF0;
 /// Hears the system menu's commands for one window, which owns it.
 class SystemCommandFilter final : public QObject, public QAbstractNativeEventFilter {
  public:
-  SystemCommandFilter(QWidget& window, std::function<void()> action)
-      : QObject(&window), window_(reinterpret_cast<HWND>(window.winId())), action_(std::move(action)) {
+  SystemCommandFilter(QWidget& window, const std::function<void()>& action)
+      : QObject(&window), window_(reinterpret_cast<HWND>(window.winId())), action_(action) {
     QCoreApplication::instance()->installNativeEventFilter(this);
   }
 
@@ -42,12 +40,12 @@ class SystemCommandFilter final : public QObject, public QAbstractNativeEventFil
 
 }  // namespace
 
-void addToSystemMenu(QWidget& window, const QString& text, std::function<void()> action) {
+void addToSystemMenu(QWidget& window, const QString& text, const std::function<void()>& action) {
   if (text.isEmpty()) return;
   const HMENU menu = GetSystemMenu(reinterpret_cast<HWND>(window.winId()), FALSE);
   AppendMenuW(menu, MF_SEPARATOR, 0, nullptr);
   AppendMenuW(menu, MF_STRING, commandNumber, reinterpret_cast<const wchar_t*>(text.utf16()));
-  new SystemCommandFilter(window, std::move(action));
+  new SystemCommandFilter(window, action);
 }
 
 }  // namespace parlexo
