@@ -104,7 +104,10 @@ void planStatus(Plan& plan) {
 }
 
 bool makePicture(const QString& path) {
-  return QFile::exists(path) || QFile::copy(QStringLiteral(":/icons/parlexo-client-256.png"), path);
+  if (QFile::exists(path)) return true;
+  // A copy of what the program carries in itself is read-only at first, and such a file can't be sent.
+  return QFile::copy(QStringLiteral(":/icons/parlexo-client-256.png"), path) &&
+         QFile::setPermissions(path, QFileDevice::ReadOwner | QFileDevice::WriteOwner);
 }
 
 bool makeDocument(const QString& path) {
