@@ -1,7 +1,9 @@
 #include <windows.h>
+// clang-format off
+#include <commctrl.h>
+// clang-format on
 
-#include <QAbstractNativeEventFilter>
-#include <QCoreApplication>
+#include <QObject>
 #include <QWidget>
 
 #include "app/system_menu.h"
@@ -14,38 +16,39 @@ namespace {
 constexpr UINT commandNumber = 0x10;
 constexpr WPARAM commandMask = 0xFFF0;
 
-/// Hears the system menu's commands for one window, which owns it.
-class SystemCommandFilter final : public QObject, public QAbstractNativeEventFilter {
+/// The entry's action; belongs to the window.
+class SystemCommand final : public QObject {
  public:
-  SystemCommandFilter(QWidget& window, const std::function<void()>& action)
-      : QObject(&window), window_(reinterpret_cast<HWND>(window.winId())), action_(action) {
-    QCoreApplication::instance()->installNativeEventFilter(this);
-  }
+  SystemCommand(QWidget& window, const std::function<void()>& action) : QObject(&window), action_(action) {}
 
-  bool nativeEventFilter(const QByteArray& /*type*/, void* event, qintptr* /*result*/) override {
-    const auto* message = static_cast<const MSG*>(event);
-    const bool isOurs = message->message == WM_SYSCOMMAND && message->hwnd == window_ &&
-                        (message->wParam & commandMask) == commandNumber;
-    // A dialog opened in here would run inside the delivery of this message.
-    if (isOurs)
-      QMetaObject::invokeMethod(
-          this, [this] { action_(); }, Qt::QueuedConnection);
-    return isOurs;
+  // A dialog opened at once would run inside the delivery of the system's message.
+  void runSoon() {
+    QMetaObject::invokeMethod(
+        this, [this] { action_(); }, Qt::QueuedConnection);
   }
 
  private:
-  HWND window_;
   std::function<void()> action_;
 };
+
+LRESULT CALLBACK hearCommand(HWND window, UINT message, WPARAM command, LPARAM position, UINT_PTR /*id*/,
+                             DWORD_PTR data) {
+  if (message != WM_SYSCOMMAND || (command & commandMask) != commandNumber)
+    return DefSubclassProc(window, message, command, position);
+  reinterpret_cast<SystemCommand*>(data)->runSoon();
+  return 0;
+}
 
 }  // namespace
 
 void addToSystemMenu(QWidget& window, const QString& text, const std::function<void()>& action) {
   if (text.isEmpty()) return;
-  const HMENU menu = GetSystemMenu(reinterpret_cast<HWND>(window.winId()), FALSE);
+  const auto handle = reinterpret_cast<HWND>(window.winId());
+  const HMENU menu = GetSystemMenu(handle, FALSE);
   AppendMenuW(menu, MF_SEPARATOR, 0, nullptr);
   AppendMenuW(menu, MF_STRING, commandNumber, reinterpret_cast<const wchar_t*>(text.utf16()));
-  new SystemCommandFilter(window, action);
+  auto* command = new SystemCommand(window, action);
+  SetWindowSubclass(handle, hearCommand, commandNumber, reinterpret_cast<DWORD_PTR>(command));
 }
 
 }  // namespace parlexo
