@@ -5,15 +5,16 @@
 #include <vector>
 
 #include <QClipboard>
-#include <QFile>
 #include <QGuiApplication>
 #include <QHeaderView>
 #include <QTemporaryDir>
 #include <QTest>
 #include <gmock/gmock.h>
 
-#include "base/notifier.h"
 #include "base/settings.h"
+#include "tests/base/file_bytes.h"
+#include "tests/base/recording_notifier.h"
+#include "tests/ui/column_cells.h"
 #include "ui/export_button.h"
 #include "ui/sorted_rows.h"
 
@@ -22,16 +23,6 @@ namespace {
 
 using namespace Qt::StringLiterals;
 using testing::ElementsAre;
-
-class ErrorNotifier final : public Notifier {
- public:
-  MessageResult show(const QString& text, unsigned /*style*/, int /*suppressibleNumber*/) override {
-    errors << text;
-    return MessageResult::Ok;
-  }
-
-  QStringList errors;
-};
 
 /// A list that can be reset as a whole.
 class Sheet final : public QAbstractTableModel {
@@ -76,20 +67,15 @@ class RecordTableTest : public testing::Test {
     table_ = std::make_unique<RecordTable>(sheet_, form_, settings_);
     table_->resize(600, 200);
     table_->show();
-    (void)QTest::qWaitForWindowExposed(table_.get());
+    table_->activateWindow();
+    (void)QTest::qWaitForWindowActive(table_.get());
   }
   void clickHeading(int column) {
     QHeaderView& header = *table_->header();
     QTest::mouseClick(header.viewport(), Qt::LeftButton, {},
                       {header.sectionViewportPosition(column) + 10, header.height() / 2});
   }
-  [[nodiscard]] std::vector<std::string> keys() const {
-    std::vector<std::string> keys;
-    for (int row = 0; row < table_->model()->rowCount(); ++row)
-      keys.push_back(table_->model()->index(row, 0).data().toString().toStdString());
-    return keys;
-  }
-
+  [[nodiscard]] QStringList keys() const { return columnCells(*table_->model(), 0); }
   QTemporaryDir folder_;
   Settings settings_{folder_.path()};
   Sheet sheet_{
@@ -135,7 +121,7 @@ TEST_F(RecordTableTest, selectionCopyAndExportFollowWhatIsShown) {
                                    QItemSelectionModel::Select | QItemSelectionModel::Rows);
   EXPECT_THAT(table_->selectedRecords(), ElementsAre(3, 1));
   sheet_.change(1, "b\r\nc\td");
-  table_->copySelected();
+  QTest::keySequence(table_.get(), QKeySequence::Copy);
   EXPECT_EQ(QGuiApplication::clipboard()->text(), u"bb\t-2.5\tZ\na\tb  c d\t=1"_qs);
   EXPECT_EQ(table_->toCsv().bytes(),
             "\xEF\xBB\xBFNote,Key,Value\r\nbb,-2.5,Z\r\nccc,10,x\r\nd,A,y\r\n"
@@ -175,7 +161,7 @@ TEST_F(RecordTableTest, widthsOfTheUserLastAndAllOthersFollowTheFont) {
 
 TEST_F(RecordTableTest, exportWritesWhereTheUserSaysAndTellsWhyItCannot) {
   open();
-  ErrorNotifier notifier;
+  RecordingNotifier notifier;
   ExportButton button(*table_, notifier);
   button.setSuggestedName(u"My list"_qs);
   QString path;
@@ -188,14 +174,12 @@ TEST_F(RecordTableTest, exportWritesWhereTheUserSaysAndTellsWhyItCannot) {
   EXPECT_EQ(suggested, u"My list"_qs);
   path = folder_.filePath(u"list.csv"_qs);
   button.click();
-  QFile file(path);
-  ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-  EXPECT_EQ(file.readAll(), table_->toCsv().bytes());
-  EXPECT_TRUE(notifier.errors.isEmpty());
+  EXPECT_EQ(readBytes(path), table_->toCsv().bytes());
+  EXPECT_TRUE(notifier.shown.empty());
   path = folder_.filePath(u"nowhere/list.csv"_qs);
   button.click();
-  ASSERT_EQ(notifier.errors.size(), 1);
-  EXPECT_TRUE(notifier.errors[0].contains(path));
+  ASSERT_EQ(notifier.shown.size(), 1U);
+  EXPECT_TRUE(notifier.shown[0].text.contains(path));
   sheet_.fill({});
   EXPECT_FALSE(button.isEnabled());
 }
