@@ -109,20 +109,6 @@ TEST_F(AddressBookOnDisk, writesThatFailInPlaceLeaveContactAndMember) {
   EXPECT_FALSE(book_.findContact(known));
 }
 
-TEST_F(AddressBookOnDisk, orphansThatCannotBeDeletedAreToldAndLoadingGoesOn) {
-  const QByteArray orphans = packMember(QStringLiteral("Gone")) + packMember(QStringLiteral("Lost"));
-  writeBytes(pathOf(QStringLiteral("Aces.grp")), orphans);
-  {
-    const FileSizeLimit limit(0);
-    EXPECT_TRUE(startsAgain(folder_.path()));
-  }
-  const QString message = deleting + QStringLiteral("[deleteItem:8 - Can't write item to database!]");
-  EXPECT_THAT(takeMessages(), ElementsAre(message, message));
-  EXPECT_EQ(fileOf(QStringLiteral("Aces.grp")), orphans);
-  EXPECT_TRUE(next_->findGroup(QStringLiteral("Aces"))->members().empty());
-  EXPECT_TRUE(next_->findGroup(circle)->contains(known));
-}
-
 TEST_F(AddressBookOnDisk, folderThatGoesAwayGivesEachMessageAndMayComeBack) {
   const QString away = folder_.path() + QStringLiteral(" away");
   ASSERT_TRUE(QDir().rename(folder_.path(), away));
@@ -228,20 +214,18 @@ TEST_F(AddressBookOnDisk, groupsOfAnyNameThatFilesCanHaveComeBack) {
   const struct {
     QString group;
     QString file;
-    QString readBack;
+    QString readBack = group;
   } cases[] = {
-      {QStringLiteral("."), QStringLiteral("-9.grp"), QStringLiteral(".")},
-      {QStringLiteral(".."), QStringLiteral("-9-9.grp"), QStringLiteral("..")},
-      {QStringLiteral("../x"), QStringLiteral("-9-9-4x.grp"), QStringLiteral("../x")},
-      {QStringLiteral("%\\:/*?\"'.<>"), QStringLiteral("-1-2-3-4-5-6-7-8-9-A-B.grp"),
-       QStringLiteral("%\\:/*?\"'.<>")},
-      {QStringLiteral("--"), QStringLiteral("----.grp"), QStringLiteral("--")},
-      {QStringLiteral(" two  blanks "), QStringLiteral(" two  blanks .grp"), QStringLiteral(" two  blanks ")},
-      {QStringLiteral("Zo\u00EB \u4E2D"), QStringLiteral("Zo\u00EB \u4E2D.grp"),
-       QStringLiteral("Zo\u00EB \u4E2D")},
-      {QStringLiteral(".grp"), QStringLiteral("-9grp.grp"), QStringLiteral(".grp")},
-      {QString(), QStringLiteral(".grp"), QString()},
-      {QString(251, u'g'), QString(251, u'g') + QStringLiteral(".grp"), QString(251, u'g')},
+      {QStringLiteral("."), QStringLiteral("-9.grp")},
+      {QStringLiteral(".."), QStringLiteral("-9-9.grp")},
+      {QStringLiteral("../x"), QStringLiteral("-9-9-4x.grp")},
+      {QStringLiteral("%\\:/*?\"'.<>"), QStringLiteral("-1-2-3-4-5-6-7-8-9-A-B.grp")},
+      {QStringLiteral("--"), QStringLiteral("----.grp")},
+      {QStringLiteral(" two  blanks "), QStringLiteral(" two  blanks .grp")},
+      {QStringLiteral("Zo\u00EB \u4E2D"), QStringLiteral("Zo\u00EB \u4E2D.grp")},
+      {QStringLiteral(".grp"), QStringLiteral("-9grp.grp")},
+      {QString(), QStringLiteral(".grp")},
+      {QString(251, u'g'), QString(251, u'g') + QStringLiteral(".grp")},
       {QStringLiteral("a-1"), QStringLiteral("a--1.grp"), QStringLiteral("a%")},
   };
   for (const auto& each : cases) {

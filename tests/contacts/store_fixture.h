@@ -5,7 +5,6 @@
 #include <utility>
 
 #include <QByteArray>
-#include <QFile>
 #include <QString>
 #include <QStringList>
 #include <QTemporaryDir>
@@ -14,6 +13,7 @@
 #include "base/progress.h"
 #include "contacts/address_book.h"
 #include "contacts/item_database.h"
+#include "tests/base/file_bytes.h"
 #include "tests/base/recording_notifier.h"
 
 /// Lets a failed comparison show texts as texts.
@@ -53,20 +53,6 @@ class RecordingProgress final : public Progress {
 
   QStringList texts;
 };
-
-inline void writeBytes(const QString& path, const QByteArray& bytes) {
-  QFile file(path);
-  ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-  ASSERT_EQ(file.write(bytes), bytes.size());
-}
-
-/// The bytes of a file; a null array, other than an empty one, when there is no such file.
-inline QByteArray readBytes(const QString& path) {
-  QFile file(path);
-  if (!file.open(QIODevice::ReadOnly)) return {};
-  const QByteArray bytes = file.readAll();
-  return bytes.isNull() ? QByteArray("") : bytes;
-}
 
 /// A record of 12 bytes is what the tests of the database itself store: state, key of 4, data of 7.
 inline constexpr int recordSize = 12;
