@@ -157,35 +157,21 @@ std::ptrdiff_t slotOf(Method method) {
   return (offset - 1) / static_cast<std::ptrdiff_t>(sizeof(void*)) - destructorSlots;
 }
 
+template <class... Methods>
+std::vector<std::ptrdiff_t> slotsOf(Methods... methods) {
+  return {slotOf(methods)...};
+}
+
 TEST(GatewayClient, methodsStandInTheServicesOrder) {
-  const std::vector<std::ptrdiff_t> slots{slotOf(&GatewayClient::sessionStart),
-                                          slotOf(&GatewayClient::sessionEnd),
-                                          slotOf(&GatewayClient::sendSms),
-                                          slotOf(&GatewayClient::getVersion),
-                                          slotOf(&GatewayClient::sendMms),
-                                          slotOf(&GatewayClient::sendFax),
-                                          slotOf(&GatewayClient::sendVoice_Text),
-                                          slotOf(&GatewayClient::sendVoice_File),
-                                          slotOf(&GatewayClient::getAccountBalance),
-                                          slotOf(&GatewayClient::getStatus),
-                                          slotOf(&GatewayClient::sendWap),
-                                          slotOf(&GatewayClient::scheduleMessageEnable),
-                                          slotOf(&GatewayClient::scheduleMessageDisable),
-                                          slotOf(&GatewayClient::getNews),
-                                          slotOf(&GatewayClient::getAccountHistory),
-                                          slotOf(&GatewayClient::setAccountPassword),
-                                          slotOf(&GatewayClient::partnerAddUser),
-                                          slotOf(&GatewayClient::partnerAddEvent),
-                                          slotOf(&GatewayClient::partnerGetCostByCountry),
-                                          slotOf(&GatewayClient::partnerGetCostByPhoneNumber),
-                                          slotOf(&GatewayClient::partnerEditUser),
-                                          slotOf(&GatewayClient::partnerEditEmailMessaging),
-                                          slotOf(&GatewayClient::partnerGetEmailMessaging),
-                                          slotOf(&GatewayClient::getEmailMessaging),
-                                          slotOf(&GatewayClient::editEmailMessaging),
-                                          slotOf(&GatewayClient::partnerStartSessionForSubUser),
-                                          slotOf(&GatewayClient::partnerEndSessionForSubUser),
-                                          slotOf(&GatewayClient::setSmsSenderId)};
+  using C = GatewayClient;
+  const auto slots =
+      slotsOf(&C::sessionStart, &C::sessionEnd, &C::sendSms, &C::getVersion, &C::sendMms, &C::sendFax,
+              &C::sendVoice_Text, &C::sendVoice_File, &C::getAccountBalance, &C::getStatus, &C::sendWap,
+              &C::scheduleMessageEnable, &C::scheduleMessageDisable, &C::getNews, &C::getAccountHistory,
+              &C::setAccountPassword, &C::partnerAddUser, &C::partnerAddEvent, &C::partnerGetCostByCountry,
+              &C::partnerGetCostByPhoneNumber, &C::partnerEditUser, &C::partnerEditEmailMessaging,
+              &C::partnerGetEmailMessaging, &C::getEmailMessaging, &C::editEmailMessaging,
+              &C::partnerStartSessionForSubUser, &C::partnerEndSessionForSubUser, &C::setSmsSenderId);
   for (std::size_t i = 0; i < slots.size(); ++i) EXPECT_EQ(slots[i], static_cast<std::ptrdiff_t>(i));
 }
 

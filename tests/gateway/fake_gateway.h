@@ -60,6 +60,17 @@ class FakeGateway {
 /// An envelope with the usual namespaces around what stands in its body.
 [[nodiscard]] std::string envelope(const std::string& body, const std::string& header = {});
 
+/// What our own runtime writes before and behind the content of a body.
+inline const std::string envelopeStart =
+    "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
+    "<SOAP-ENV:Envelope xmlns:SOAP-ENV=\"http://schemas.xmlsoap.org/soap/envelope/\""
+    " xmlns:SOAP-ENC=\"http://schemas.xmlsoap.org/soap/encoding/\""
+    " xmlns:xsi=\"http://www.w3.org/2001/XMLSchema-instance\""
+    " xmlns:xsd=\"http://www.w3.org/2001/XMLSchema\""
+    " xmlns:ns3=\"http://www.parlexo.example/onlineCommunication/binding\">"
+    "<SOAP-ENV:Body SOAP-ENV:encodingStyle=\"http://schemas.xmlsoap.org/soap/encoding/\">";
+inline const std::string envelopeEnd = "</SOAP-ENV:Body></SOAP-ENV:Envelope>\r\n";
+
 /// The body of an HTTP message.
 [[nodiscard]] std::string bodyOf(const std::string& message);
 

@@ -49,12 +49,6 @@ TEST(GatewayClient, withoutContextSendsNothingAndReturns16) {
   EXPECT_EQ(gateway.requestCount(), 0);
 }
 
-TEST(GatewayClient, endpointIsTheOneOfItsAccess) {
-  const GatewayAccess access = accessTo("http://gateway.invalid:1/x");
-  const GatewayClient client(access);
-  EXPECT_EQ(client.endpoint, access.endpoint.c_str());
-}
-
 TEST(GatewayClient, installsOnlyTheProxyFieldsThatAreWhole) {
   struct Case {
     const char* user;

@@ -3,12 +3,12 @@
 #include <chrono>
 #include <string>
 
-#include <QFile>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
 #include "gateway/core/proxy_discovery.h"
 #include "gateway/core/proxy_system.h"
+#include "tests/base/file_bytes.h"
 #include "tests/gateway/fake_gateway.h"
 
 namespace parlexo {
@@ -31,14 +31,9 @@ class RealProxySystem : public ::testing::Test {
     for (const char* name : {"http_proxy", "HTTP_PROXY", "no_proxy", "NO_PROXY"}) qunsetenv(name);
   }
 
-  [[nodiscard]] QString scriptAnswer(const QByteArray& script) {
-    QFile file(folder.filePath(u"wpad.dat"_qs));
-    EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(script);
-    file.close();
-    return system->scriptAnswer(file.fileName(), somewhere, CancelFlag());
+  [[nodiscard]] QString scriptAnswer(const QByteArray& script, const CancelFlag& cancel = {}) {
+    return system->scriptAnswer(writeBytes(folder.filePath(u"wpad.dat"_qs), script), somewhere, cancel);
   }
-
   QTemporaryDir folder;
   std::shared_ptr<const ProxySystem> system = makeProxySystem(4s);
 };
@@ -112,14 +107,10 @@ TEST_F(RealProxySystem, scriptsThatNeverEndAreEnded) {
 }
 
 TEST_F(RealProxySystem, cancelEndsAScriptAtOnce) {
-  QFile file(folder.filePath(u"loop.pac"_qs));
-  ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-  file.write("for (;;) ;");
-  file.close();
   const CancelFlag cancel;
   cancel.raise();
   const auto start = std::chrono::steady_clock::now();
-  EXPECT_EQ(system->scriptAnswer(file.fileName(), somewhere, cancel), QString());
+  EXPECT_EQ(scriptAnswer("for (;;) ;", cancel), QString());
   EXPECT_LT(std::chrono::steady_clock::now() - start, 1s);
 }
 

@@ -88,12 +88,31 @@ TEST_F(ProxiedRun, rightLoginCarriesEveryCallButTheLast) {
 }
 
 TEST_F(ProxiedRun, wrongLoginFailsAfterOneQuestion) {
-  login.entered = mary(u"wrong"_qs);
-  EXPECT_FALSE(search());
-  EXPECT_EQ(journal, asked);
-  EXPECT_EQ(proxy.requests().size(), 2);
-  EXPECT_EQ(proxy.refusals(), 2);
-  EXPECT_TRUE(state.gateway.endpoint.isEmpty());
+  const struct {
+    const char* what;
+    ProxySettings entered;
+    qsizetype requests;
+  } cases[] = {
+      {"wrong password", mary(u"wrong"_qs), 2},
+      {"no host", {.password = u"s3cret-word"_qs, .user = u"mary"_qs, .host = {}, .port = proxy.port()}, 1},
+      {"another proxy",
+       {.password = u"s3cret-word"_qs,
+        .user = u"mary"_qs,
+        .host = u"127.0.0.1"_qs,
+        .port = testing::closedPort()},
+       1},
+  };
+  for (const auto& [what, entered, requests] : cases) {
+    SCOPED_TRACE(what);
+    journal.clear();
+    const auto before = proxy.requests().size();
+    login.entered = entered;
+    state = {};
+    EXPECT_FALSE(search());
+    EXPECT_EQ(journal, asked);
+    EXPECT_EQ(proxy.requests().size() - before, requests);
+  }
+  EXPECT_EQ(proxy.refusals(), proxy.requests().size());
   EXPECT_THAT(simulator.calledOperations(), ElementsAre());
 }
 
@@ -102,23 +121,6 @@ TEST_F(ProxiedRun, cancelFailsAndKeepsNothing) {
   EXPECT_EQ(journal, asked.first(2));
   EXPECT_EQ(proxy.requests().size(), 1);
   EXPECT_TRUE(state.proxy.host.isEmpty());
-}
-
-TEST_F(ProxiedRun, loginWithoutAHostGoesNowhere) {
-  login.entered = mary();
-  login.entered->host.clear();
-  EXPECT_FALSE(search());
-  EXPECT_EQ(journal, asked);
-  EXPECT_EQ(proxy.requests().size(), 1);
-  EXPECT_THAT(simulator.calledOperations(), ElementsAre());
-}
-
-TEST_F(ProxiedRun, loginToAnotherProxyIsNotTakenToTheFirst) {
-  login.entered = mary();
-  login.entered->port = testing::closedPort();
-  EXPECT_FALSE(search());
-  EXPECT_EQ(journal, asked);
-  EXPECT_EQ(proxy.requests().size(), 1);
 }
 
 TEST_F(ProxiedRun, systemWithoutAProxyIsNotAskedForALogin) {
@@ -141,33 +143,6 @@ TEST_F(ProxiedRun, proxyThatIsGoneFailsTheSearchAndEveryCall) {
       });
   EXPECT_FALSE(reply.answered());
   EXPECT_THAT(simulator.calledOperations(), ElementsAre(u"locator"_qs));
-}
-
-TEST_F(ProxiedRun, callsTakeNameAndPasswordTogetherOrNotAtAll) {
-  login.entered = mary();
-  ASSERT_TRUE(search());
-  struct Case {
-    const char* name;
-    QString user;
-    QString password;
-    bool isAnswered;
-  };
-  for (const Case& each : {Case{"both", u"mary"_qs, u"s3cret-word"_qs, true},
-                           {"name alone", u"mary"_qs, {}, false},
-                           {"password alone", {}, u"s3cret-word"_qs, false},
-                           {"none", {}, {}, false}}) {
-    state.proxy.user = each.user;
-    state.proxy.password = each.password;
-    const auto before = proxy.requests().size();
-    const auto refusedBefore = proxy.refusals();
-    const auto reply = gateway.call<protocol::getVersionResponse>(
-        [](GatewayClient& client, protocol::getVersionResponse& response) {
-          return client.getVersion(response);
-        });
-    EXPECT_EQ(reply.answered(), each.isAnswered) << each.name;
-    EXPECT_EQ(proxy.requests().mid(before), QStringList({soapRequest()})) << each.name;
-    EXPECT_EQ(proxy.refusals() - refusedBefore, each.isAnswered ? 0 : 1) << each.name;
-  }
 }
 
 }  // namespace

@@ -40,19 +40,17 @@ std::string statusElement(const std::string& fields) {
   return "<m:getStatusResponse>" + fields + "</m:getStatusResponse>";
 }
 
-struct AnswerCase {
-  const char* what;
-  std::string body;
-  std::string header;
-  std::int32_t code;
-  const char* status;
-};
-
-std::vector<AnswerCase> readableAnswers() {
+TEST(Response, isReadInEveryFormThatServersGiveIt) {
   const std::string code = "<nErrorCode xsi:type=\"xsd:int\">7</nErrorCode>";
   const std::string status = "<sStatus xsi:type=\"xsd:string\">Sent</sStatus>";
   const std::string entry = "<t:x xmlns:t=\"urn:t\" S:mustUnderstand=\"1\"><deep>1</deep></t:x>";
-  return {
+  const struct {
+    const char* what;
+    std::string body;
+    std::string header;
+    std::int32_t code;
+    const char* status;
+  } answers[] = {
       {"as agreed", statusElement(code + status), "", 7, "Sent"},
       {"other order", statusElement(status + code), "", 7, "Sent"},
       {"no types, blanks around the number",
@@ -85,10 +83,7 @@ std::vector<AnswerCase> readableAnswers() {
       {"UTF-8 becomes one byte a character", statusElement(code + "<sStatus>\xC3\xA9&#x80;</sStatus>"), "", 7,
        "\xE9\x80"},
   };
-}
-
-TEST(Response, isReadInEveryFormThatServersGiveIt) {
-  for (const AnswerCase& each : readableAnswers()) {
+  for (const auto& each : answers) {
     const Query query(httpReply(envelope(each.body, each.header)));
     EXPECT_EQ(query.result, 0) << each.what;
     EXPECT_EQ(query.response.nErrorCode, each.code) << each.what;
@@ -227,26 +222,22 @@ TEST(Response, hostileSizesAndDepthsFail) {
       "entity expansion");
 }
 
-struct FaultCase {
-  const char* fault;
-  int result;
-};
-
 TEST(Response, faultsOfBothFormsGiveTheRuntimesCode) {
   const std::string soap12 = "http://www.w3.org/2003/05/soap-envelope";
-  for (const FaultCase& each : std::vector<FaultCase>{
-           {"<S:Fault><faultcode>S:Server</faultcode><faultstring>no</faultstring></S:Fault>", 2},
-           {"<S:Fault><faultcode>S:Client</faultcode></S:Fault>", 1},
-           {"<S:Fault><detail><q:a xmlns:q=\"urn:q\">b<c/></q:a></detail><faultactor>urn:a</faultactor>"
-            "<faultstring>no</faultstring><odd>x</odd><faultcode>S:Server</faultcode></S:Fault>",
-            2},
-           {"<S:Fault><faultcode>Strange</faultcode></S:Fault>", 12},
-           {"<S:Fault><faultcode href=\"#nowhere\"/></S:Fault>", 2},
-           {"<S:Fault/>", 2},
-       }) {
+  const std::pair<const char*, int> faults[] = {
+      {"<S:Fault><faultcode>S:Server</faultcode><faultstring>no</faultstring></S:Fault>", 2},
+      {"<S:Fault><faultcode>S:Client</faultcode></S:Fault>", 1},
+      {"<S:Fault><detail><q:a xmlns:q=\"urn:q\">b<c/></q:a></detail><faultactor>urn:a</faultactor>"
+       "<faultstring>no</faultstring><odd>x</odd><faultcode>S:Server</faultcode></S:Fault>",
+       2},
+      {"<S:Fault><faultcode>Strange</faultcode></S:Fault>", 12},
+      {"<S:Fault><faultcode href=\"#nowhere\"/></S:Fault>", 2},
+      {"<S:Fault/>", 2},
+  };
+  for (const auto& [fault, result] : faults) {
     for (const char* status : {"200 OK", "500 Internal Server Error"}) {
-      const Query query(httpReply(envelope(each.fault), status));
-      EXPECT_EQ(query.result, each.result) << each.fault;
+      const Query query(httpReply(envelope(fault), status));
+      EXPECT_EQ(query.result, result) << fault;
       EXPECT_EQ(query.status(), "(null)");
     }
   }
@@ -261,30 +252,18 @@ TEST(Response, faultsOfBothFormsGiveTheRuntimesCode) {
 }
 
 TEST(Response, isWrittenByTheServerSideInTheServicesOrder) {
-  const std::string start =
-      "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
-      "<SOAP-ENV:Envelope xmlns:SOAP-ENV=\"http://schemas.xmlsoap.org/soap/envelope/\""
-      " xmlns:SOAP-ENC=\"http://schemas.xmlsoap.org/soap/encoding/\""
-      " xmlns:xsi=\"http://www.w3.org/2001/XMLSchema-instance\""
-      " xmlns:xsd=\"http://www.w3.org/2001/XMLSchema\""
-      " xmlns:ns3=\"http://www.parlexo.example/onlineCommunication/binding\">"
-      "<SOAP-ENV:Body SOAP-ENV:encodingStyle=\"http://schemas.xmlsoap.org/soap/encoding/\">";
-  const std::string end = "</SOAP-ENV:Body></SOAP-ENV:Envelope>\r\n";
+  const auto whole = [](const char* content) {
+    return testing::envelopeStart + content + testing::envelopeEnd;
+  };
   EXPECT_EQ(protocol::responseEnvelope(protocol::getStatusResponse{.nErrorCode = -3, .sStatus = "a\x01<"}),
-            start +
-                "<ns3:getStatusResponse><nErrorCode xsi:type=\"xsd:int\">-3</nErrorCode>"
-                "<sStatus xsi:type=\"xsd:string\">a?&lt;</sStatus></ns3:getStatusResponse>" +
-                end);
-  EXPECT_EQ(protocol::responseEnvelope(protocol::sendSmsResponse{}),
-            start +
-                "<ns3:sendSmsResponse>"
-                "<nErrorCode xsi:type=\"xsd:int\">0</nErrorCode></ns3:sendSmsResponse>" +
-                end);
+            whole("<ns3:getStatusResponse><nErrorCode xsi:type=\"xsd:int\">-3</nErrorCode>"
+                  "<sStatus xsi:type=\"xsd:string\">a?&lt;</sStatus></ns3:getStatusResponse>"));
+  EXPECT_EQ(
+      protocol::responseEnvelope(protocol::sendSmsResponse{}),
+      whole("<ns3:sendSmsResponse><nErrorCode xsi:type=\"xsd:int\">0</nErrorCode></ns3:sendSmsResponse>"));
   EXPECT_EQ(protocol::faultEnvelope("SOAP-ENV:Server", "a & b"),
-            start +
-                "<SOAP-ENV:Fault><faultcode xsi:type=\"xsd:QName\">SOAP-ENV:Server</faultcode>"
-                "<faultstring xsi:type=\"xsd:string\">a &amp; b</faultstring></SOAP-ENV:Fault>" +
-                end);
+            whole("<SOAP-ENV:Fault><faultcode xsi:type=\"xsd:QName\">SOAP-ENV:Server</faultcode>"
+                  "<faultstring xsi:type=\"xsd:string\">a &amp; b</faultstring></SOAP-ENV:Fault>"));
 }
 
 TEST(RequestReader, refusesWhatIsNoWholeRequest) {

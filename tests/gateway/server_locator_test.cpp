@@ -31,11 +31,13 @@ using ::testing::UnorderedElementsAre;
 using testing::versionLine;
 using testing::xmlHead;
 
+using Outcome = ServerLocator::Outcome;
+
 LocatorLimits quickLimits() {
   return {.transfer = 1s, .retryDelay = 50ms, .documentBytes = 64 * 1024, .whole = 1500ms};
 }
 
-ServerLocator::Outcome locate(const std::string& site, RunState& state) {
+Outcome locate(const std::string& site, RunState& state) {
   return ServerLocator(QUrl(QString::fromStdString(site)), quickLimits()).locate(state);
 }
 
@@ -51,7 +53,7 @@ TEST(ServerLocator, sendsItsTwoHeadersAndNothingOfTheUser) {
   RunState state;
   state.proxy.user = QStringLiteral("proxy user without a proxy");
   state.proxy.password = QStringLiteral("secret");
-  EXPECT_EQ(locate(site.base(), state), ServerLocator::Outcome::Located);
+  EXPECT_EQ(locate(site.base(), state), Outcome::Located);
   EXPECT_EQ(state.gateway.host, "10.0.0.7");
   const QString host = QStringLiteral("Host: 127.0.0.1:%1").arg(site.port());
   EXPECT_THAT(headOf(site.lastRequest()),
@@ -66,22 +68,19 @@ TEST(ServerLocator, otherAnswersLocateNothingAndKeepNothing) {
   const std::string cut = httpReply(locatorText).substr(0, httpReply(locatorText).size() - 5);
   struct Case {
     std::string reply;
-    ServerLocator::Outcome outcome;
+    Outcome outcome;
   };
   for (const Case& each : std::vector<Case>{
-           {httpReply(locatorText, "404 Not Found"), ServerLocator::Outcome::NotLocated},
-           {httpReply(locatorText, "500 Internal Server Error"), ServerLocator::Outcome::NotLocated},
-           {httpReply(locatorText, "201 Created"), ServerLocator::Outcome::NotLocated},
-           {"HTTP/1.1 302 Found\r\nLocation: /WSDLServerLocator.xml\r\nContent-Length: 0\r\n\r\n",
-            ServerLocator::Outcome::NotLocated},
-           {httpReply(locatorText, "407 Proxy Authentication Required"),
-            ServerLocator::Outcome::ProxyRefusal},
-           {httpReply(lines({xmlHead, serverLine})), ServerLocator::Outcome::NotLocated},
+           {httpReply(locatorText, "404 Not Found"), Outcome::NotLocated},
+           {httpReply(locatorText, "500 Internal Server Error"), Outcome::NotLocated},
+           {httpReply(locatorText, "201 Created"), Outcome::NotLocated},
+           {httpReply(locatorText, "407 Proxy Authentication Required"), Outcome::ProxyRefusal},
+           {httpReply(lines({xmlHead, serverLine})), Outcome::NotLocated},
            {httpReply(lines({xmlHead, serverLine, std::string(70'000, ' '), versionLine})),
-            ServerLocator::Outcome::NotLocated},
-           {cut, ServerLocator::Outcome::NotLocated},
-           {"nonsense", ServerLocator::Outcome::NotLocated},
-           {"", ServerLocator::Outcome::NotLocated},
+            Outcome::NotLocated},
+           {cut, Outcome::NotLocated},
+           {"nonsense", Outcome::NotLocated},
+           {"", Outcome::NotLocated},
        }) {
     FakeGateway site(each.reply);
     RunState state;
@@ -99,7 +98,7 @@ TEST(ServerLocator, redirectIsNotFollowed) {
     FakeGateway site("HTTP/1.1 " + status + "\r\nLocation: " + elsewhere.base() +
                      "/WSDLServerLocator.xml\r\nContent-Length: 0\r\n\r\n");
     RunState state;
-    EXPECT_EQ(locate(site.base(), state), ServerLocator::Outcome::NotLocated) << status;
+    EXPECT_EQ(locate(site.base(), state), Outcome::NotLocated) << status;
   }
   EXPECT_EQ(elsewhere.requestCount(), 0);
 }
@@ -109,16 +108,15 @@ TEST(ServerLocator, hugeAndEndlessDocumentsAreReadToTheLimitOnly) {
   struct Case {
     std::string reply;
     FakeGateway::Manner manner;
-    ServerLocator::Outcome outcome;
+    Outcome outcome;
   };
   for (const Case& each : std::vector<Case>{
            {httpReply(locatorText + std::string(100 << 20, '\n')), FakeGateway::Manner::Answers,
-            ServerLocator::Outcome::Located},
-           {httpReply(std::string(100 << 20, 'x')), FakeGateway::Manner::Answers,
-            ServerLocator::Outcome::NotLocated},
-           {endlessHead + locatorText, FakeGateway::Manner::Endless, ServerLocator::Outcome::Located},
-           {endlessHead, FakeGateway::Manner::Endless, ServerLocator::Outcome::NotLocated},
-           {"HTTP/1.1 200 OK\r\nX: ", FakeGateway::Manner::Endless, ServerLocator::Outcome::NotLocated},
+            Outcome::Located},
+           {httpReply(std::string(100 << 20, 'x')), FakeGateway::Manner::Answers, Outcome::NotLocated},
+           {endlessHead + locatorText, FakeGateway::Manner::Endless, Outcome::Located},
+           {endlessHead, FakeGateway::Manner::Endless, Outcome::NotLocated},
+           {"HTTP/1.1 200 OK\r\nX: ", FakeGateway::Manner::Endless, Outcome::NotLocated},
        }) {
     FakeGateway site(each.reply, each.manner);
     RunState state;
@@ -129,19 +127,14 @@ TEST(ServerLocator, hugeAndEndlessDocumentsAreReadToTheLimitOnly) {
 }
 
 TEST(ServerLocator, siteThatIsSilentOrDripsEndsTheDownload) {
-  struct Case {
-    const char* name;
-    FakeGateway::Manner manner;
-  };
-  for (const Case& each :
-       {Case{"silent", FakeGateway::Manner::Silent}, {"drips", FakeGateway::Manner::Drops}}) {
-    FakeGateway site(httpReply(locatorText), each.manner);
+  for (const auto manner : {FakeGateway::Manner::Silent, FakeGateway::Manner::Drops}) {
+    FakeGateway site(httpReply(locatorText), manner);
     RunState state;
     const auto start = std::chrono::steady_clock::now();
-    EXPECT_EQ(locate(site.base(), state), ServerLocator::Outcome::NotLocated) << each.name;
-    EXPECT_LT(std::chrono::steady_clock::now() - start, 3500ms) << each.name;
-    EXPECT_EQ(site.requestCount(), 1) << each.name;
-    EXPECT_TRUE(state.gateway.host.isEmpty()) << each.name;
+    EXPECT_EQ(locate(site.base(), state), Outcome::NotLocated);
+    EXPECT_LT(std::chrono::steady_clock::now() - start, 3500ms);
+    EXPECT_EQ(site.requestCount(), 1);
+    EXPECT_TRUE(state.gateway.host.isEmpty());
   }
 }
 
@@ -155,7 +148,7 @@ TEST(ServerLocator, cancelEndsTheDownloadAtOnce) {
   RunState state;
   const auto start = std::chrono::steady_clock::now();
   EXPECT_EQ(ServerLocator(QUrl(QString::fromStdString(site.base()))).locate(state, {}, cancel),
-            ServerLocator::Outcome::NotLocated);
+            Outcome::NotLocated);
   EXPECT_LT(std::chrono::steady_clock::now() - start, 1500ms);
   EXPECT_EQ(site.requestCount(), 1) << "no second attempt";
   user.join();
@@ -179,14 +172,13 @@ TEST(ServerLocator, connectsOnceMoreAfterTheDelay) {
   const QUrl address(QStringLiteral("http://127.0.0.1:%1").arg(port));
   LocatorLimits limits = quickLimits();
   limits.retryDelay = 400ms;
-  EXPECT_EQ(ServerLocator(address, limits).locate(state), ServerLocator::Outcome::Located);
+  EXPECT_EQ(ServerLocator(address, limits).locate(state), Outcome::Located);
 }
 
 TEST(ServerLocator, givesUpAfterTheSecondRefusedConnection) {
   RunState state;
   const auto start = std::chrono::steady_clock::now();
-  EXPECT_EQ(locate("http://127.0.0.1:" + std::to_string(testing::closedPort()), state),
-            ServerLocator::Outcome::NotLocated);
+  EXPECT_EQ(locate("http://127.0.0.1:" + std::to_string(testing::closedPort()), state), Outcome::NotLocated);
   const auto spent = std::chrono::steady_clock::now() - start;
   EXPECT_GE(spent, 50ms);
   EXPECT_LT(spent, 1s);
@@ -196,7 +188,7 @@ TEST(ServerLocator, goesThroughThePreconfiguredProxyWithoutALogin) {
   FakeGateway proxy(httpReply(locatorText));
   RunState state;
   const ServerLocator locator(QUrl(u"http://www.parlexo.invalid"_qs), quickLimits());
-  EXPECT_EQ(locator.locate(state, {u"127.0.0.1"_qs, proxy.port()}), ServerLocator::Outcome::Located);
+  EXPECT_EQ(locator.locate(state, {u"127.0.0.1"_qs, proxy.port()}), Outcome::Located);
   const std::string request = proxy.lastRequest();
   EXPECT_EQ(request.find("GET http://www.parlexo.invalid/WSDLServerLocator.xml HTTP/1.1\r\n"), 0u);
   EXPECT_EQ(request.find("roxy-Authorization"), std::string::npos);
@@ -207,7 +199,7 @@ TEST(ServerLocator, logsInToTheProxyOfTheRunAtOnce) {
   RunState state;
   state.proxy = {.password = u"secret"_qs, .user = u"me"_qs, .host = u"127.0.0.1"_qs, .port = proxy.port()};
   const ServerLocator locator(QUrl(u"http://www.parlexo.invalid"_qs), quickLimits());
-  EXPECT_EQ(locator.locate(state, {u"127.0.0.1"_qs, testing::closedPort()}), ServerLocator::Outcome::Located);
+  EXPECT_EQ(locator.locate(state, {u"127.0.0.1"_qs, testing::closedPort()}), Outcome::Located);
   EXPECT_EQ(proxy.requestCount(), 1);
   const std::string request = proxy.lastRequest();
   EXPECT_EQ(request.find("GET http://www.parlexo.invalid/WSDLServerLocator.xml HTTP/1.1\r\n"), 0u);
@@ -219,7 +211,7 @@ TEST(ServerLocator, proxyPortOutOfRangeIsNotBentIntoAnother) {
   for (const int port : {0, -1, 65536 + proxy.port()}) {
     RunState state;
     state.proxy = {.password = {}, .user = {}, .host = u"127.0.0.1"_qs, .port = port};
-    EXPECT_EQ(locate(proxy.base(), state), ServerLocator::Outcome::NotLocated) << port;
+    EXPECT_EQ(locate(proxy.base(), state), Outcome::NotLocated) << port;
   }
   EXPECT_EQ(proxy.requestCount(), 0);
 }

@@ -23,35 +23,14 @@ inline QByteArray tinyGif(const std::vector<GifFrame>& frames) {
   // Compressed pixels by colour: "clear, colour, end" and "clear, colour, colour, end" in codes of 3 bits.
   const char* onePixel[] = {"4401", "4c01", "5401", "5c01"};
   const char* twoPixels[] = {"040a", "4c0a", "940a", "dc0a"};
-  QByteArray hex =
-      "474946383961"
-      "0200"
-      "0100"
-      "f1"
-      "00"
-      "00"
-      "000000"
-      "ff0000"
-      "00ff00"
-      "0000ff";
+  // Signature, size, flags, then the colour table.
+  QByteArray hex = QByteArray("47494638396102000100f10000") + "000000ff000000ff000000ff";
   for (const GifFrame& frame : frames) {
     const auto byte = [](int value) { return QByteArray::number(value, 16).rightJustified(2, '0'); };
     const int color = int(frame.color);
-    hex += "21f904" + byte(frame.disposal << 2) + byte(frame.storedHundredths) +
-           "00"
-           "00"
-           "00";
-    hex += "2c" + byte(frame.left) +
-           "00"
-           "0000" +
-           byte(frame.wide) +
-           "00"
-           "0100"
-           "00";
-    hex += QByteArray(
-               "02"
-               "02") +
-           (frame.wide == 1 ? onePixel[color] : twoPixels[color]) + "00";
+    hex += "21f904" + byte(frame.disposal << 2) + byte(frame.storedHundredths) + "000000";
+    hex += "2c" + byte(frame.left) + "000000" + byte(frame.wide) + "00010000";
+    hex += "0202" + QByteArray(frame.wide == 1 ? onePixel[color] : twoPixels[color]) + "00";
   }
   return QByteArray::fromHex(hex + "3b");
 }

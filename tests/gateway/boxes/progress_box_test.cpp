@@ -54,16 +54,6 @@ TEST(ProgressBox, fitsItsTextAndCannotBeClosedByTheUser) {
   EXPECT_TRUE(box->isVisible());
 }
 
-TEST(ProgressBox, dialogUnderItCanBeEndedByItsCode) {
-  GradientDialog dialog;
-  dialog.setModal(true);
-  dialog.show();
-  ProgressBox progress;
-  progress.show();
-  dialog.accept();
-  EXPECT_FALSE(dialog.isVisible());
-}
-
 TEST(ProgressBox, clicksDuringBlockingWorkAreDroppedNotKept) {
   SamplePage page;
   ProgressBox progress;
