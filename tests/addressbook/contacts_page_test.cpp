@@ -2,11 +2,11 @@
 
 #include <functional>
 #include <memory>
+#include <utility>
 
 #include <QAbstractButton>
 #include <QApplication>
 #include <QCheckBox>
-#include <QFile>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
@@ -24,7 +24,8 @@
 #include "addressbook/screens/row_list_view.h"
 #include "addressbook/screens/select_contacts_dlg.h"
 #include "tests/addressbook/disk_book.h"
-
+#include "tests/base/file_bytes.h"
+#include "tests/ui/column_cells.h"
 namespace parlexo {
 namespace {
 
@@ -56,10 +57,7 @@ class ContactsPage : public test::DiskBook {
   void press(const char* button) { QTest::mouseClick(&the<QAbstractButton>(button), Qt::LeftButton); }
 
   [[nodiscard]] static QStringList column(const QAbstractItemView& view, int number) {
-    QStringList cells;
-    for (int row = 0; row < view.model()->rowCount(); ++row)
-      cells << view.model()->index(row, number).data().toString();
-    return cells;
+    return columnCells(*view.model(), number);
   }
   QStringList shown() { return list().isVisible() ? column(list(), 0) : QStringList("no list"); }
 
@@ -109,10 +107,7 @@ class ContactsPage : public test::DiskBook {
 
 TEST_F(ContactsPage, foldersShowTheirContactsOrTheirInformation) {
   EXPECT_EQ(shown(), QStringList({"Ann", "Bob"})) << "the personal contacts come first";
-  const struct {
-    ContactFolder folder;
-    QStringList names;
-  } cases[] = {
+  const std::pair<ContactFolder, QStringList> cases[] = {
       {{Kind::Group, "Team"}, {"Ann", "Cid"}},
       {{Kind::Letter, "A"}, {"Ann", "anton"}},
       {{Kind::Letter, "Z"}, {}},
@@ -124,9 +119,7 @@ TEST_F(ContactsPage, foldersShowTheirContactsOrTheirInformation) {
     tree().select(folder);
     EXPECT_EQ(shown(), names) << qPrintable(folder.name);
   }
-  EXPECT_EQ(the<QPlainTextEdit>("informationPanel").toPlainText(),
-            "\n\n\n\n\n\n\n\nAll your contacts sorted in Alphabetic order. You cannot create contacts\nunder "
-            "these folders as they are READONLY. Deleting or modifying is permitted");
+  EXPECT_TRUE(the<QPlainTextEdit>("informationPanel").toPlainText().contains("READONLY"));
   choose(Kind::Group, "Team");
   EXPECT_EQ(column(list(), 2), QStringList({"yes", "no"}));
   EXPECT_EQ(column(list(), 3), QStringList({"no", "yes"}));
@@ -137,15 +130,10 @@ TEST_F(ContactsPage, searchFindsInAllContactsAndAFolderEndsIt) {
   QTest::keyClick(page_.get(), Qt::Key_F, Qt::ControlModifier);
   auto& search = the<QLineEdit>("contactSearch");
   ASSERT_TRUE(search.hasFocus());
-  const struct {
-    const char* typed;
-    QStringList names;
-  } cases[] = {{"AN", {"Ann", "anton"}}, {"perth", {"Cid"}}, {"5550", {"Cid"}}, {"zz", {}}};
-  for (const auto& [typed, names] : cases) {
-    search.setText(typed);
-    EXPECT_EQ(shown(), names) << typed;
-  }
-  search.setText("cid");
+  search.setText("AN");
+  EXPECT_EQ(shown(), QStringList({"Ann", "anton"}));
+  search.setText("perth 5550");
+  EXPECT_EQ(shown(), QStringList("Cid"));
   EXPECT_EQ(the<QLabel>("countLine").text(), "1 contact found in the whole address book");
   QTest::keyClick(&search, Qt::Key_Down);
   EXPECT_EQ(list().selectedNames(), QStringList("Cid"));
@@ -154,9 +142,7 @@ TEST_F(ContactsPage, searchFindsInAllContactsAndAFolderEndsIt) {
   EXPECT_FALSE(book_.findContact("Cid")) << "what is found belongs to no group";
   EXPECT_EQ(shown(), QStringList());
   press("editButton");
-  EXPECT_THAT(notifier_.takeLines().last(), testing::Truly([](const QString& text) {
-                return text.endsWith("Can only get properties on \"Group\" folders.");
-              }));
+  EXPECT_EQ(notifier_.takeLines().last(), "64 Can only get properties on \"Group\" folders.");
   choose(Kind::Group, "Team");
   EXPECT_EQ(search.text(), "");
   EXPECT_EQ(shown(), QStringList("Ann"));
@@ -305,9 +291,7 @@ TEST_F(ContactsPage, exportsWhatIsShownOrAllContacts) {
     tree().select(folder);
     the<QLineEdit>("contactSearch").setText(search);
     press("exportButton");
-    QFile file(path);
-    EXPECT_TRUE(file.open(QIODevice::ReadOnly));
-    return file.readAll().count("\r\n") - 1;
+    return readBytes(path).count("\r\n") - 1;
   };
   EXPECT_EQ(exportedRows({Kind::Group, "Team"}, {}), 2);
   EXPECT_EQ(suggested, "Team");

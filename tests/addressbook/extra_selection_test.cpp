@@ -75,10 +75,5 @@ TEST(ExtraSelection, fieldsMustAllMatchAndValuesOfAFieldAreAlternatives) {
   for (const auto& [what, choice, names] : cases) EXPECT_EQ(matching(sample, choice), names) << what;
 }
 
-TEST(ExtraSelection, aChoiceNeedsAtLeastOneValue) {
-  EXPECT_FALSE(hasChoice({}));
-  EXPECT_TRUE(hasChoice({{{}, {}, {}, {}, {}, {"x"}}}));
-}
-
 }  // namespace
 }  // namespace parlexo

@@ -5,7 +5,6 @@
 #include <QAbstractButton>
 #include <QCheckBox>
 #include <QComboBox>
-#include <QFile>
 #include <QLabel>
 #include <QLineEdit>
 #include <QTableWidget>
@@ -16,7 +15,7 @@
 #include "addressbook/screens/import_question_dlg.h"
 #include "addressbook/screens/import_summary_dlg.h"
 #include "tests/addressbook/disk_book.h"
-
+#include "tests/base/file_bytes.h"
 namespace parlexo {
 namespace {
 
@@ -33,12 +32,7 @@ class ImportContactsDlgTest : public test::DiskBook {
     dialog_.open();
   }
 
-  QString write(const QByteArray& text) {
-    QFile file(folder_.filePath("people.csv"));
-    EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(text);
-    return file.fileName();
-  }
+  QString write(const QByteArray& text) { return writeBytes(folder_.filePath("people.csv"), text); }
   QTableWidget& preview() { return *dialog_.findChild<QTableWidget*>("preview"); }
   QString cell(int row, int column) {
     const auto* item = preview().item(row, column);
@@ -123,9 +117,7 @@ TEST_F(ImportContactsDlgTest, importsAndTellsWhatBecameOfIt) {
   EXPECT_EQ(book_.findGroup("Team")->members().size(), 2u);
   EXPECT_EQ(dialog_.result(), QDialog::Accepted);
   EXPECT_EQ(dialog_.importedNames(), QStringList({"Ann", "Bob", "Ann"}));
-  QFile refused(refusedFile);
-  ASSERT_TRUE(refused.open(QIODevice::ReadOnly));
-  EXPECT_EQ(refused.readAll(), "\xEF\xBB\xBFName,Phone,Reason\r\nCid,,The row has no number.\r\n");
+  EXPECT_EQ(readBytes(refusedFile), "\xEF\xBB\xBFName,Phone,Reason\r\nCid,,The row has no number.\r\n");
 }
 
 TEST_F(ImportContactsDlgTest, cancelEndsTheImportAtItsNextRow) {

@@ -1,4 +1,3 @@
-#include <QFile>
 #include <gmock/gmock.h>
 
 #include "addressbook/core/contact_import.h"
@@ -6,7 +5,7 @@
 #include "base/csv_writer.h"
 #include "contacts/import/delimited_file.h"
 #include "tests/addressbook/disk_book.h"
-
+#include "tests/base/file_bytes.h"
 namespace parlexo {
 namespace {
 
@@ -73,11 +72,8 @@ class ContactImportTest : public test::DiskBook {
   }
 
   Sheet sheetOf(const QByteArray& text) {
-    QFile file(folder_.filePath("import.csv"));
-    EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(text);
-    file.close();
-    SheetReading reading = readDelimited(file.fileName(), detectFormat(file.fileName(), {}, {}), {}, {});
+    const QString file = writeBytes(folder_.filePath("import.csv"), text);
+    SheetReading reading = readDelimited(file, detectFormat(file, {}, {}), {}, {});
     EXPECT_TRUE(reading.problem.isEmpty());
     return std::move(reading.sheet);
   }

@@ -112,21 +112,6 @@ TEST(SelectionLists, groupWithoutEligibleMembersChangesNothing) {
   EXPECT_EQ(namesOf(lists.tickedContacts()), QStringList("Ann"));
 }
 
-TEST(SelectionLists, initialSelectionIsTickedAsFarAsItIsEligible) {
-  const FivePeople sample;
-  const SelectionLists lists(sample.book(), "SMS", pick(sample, {"bob", "eva", "Ann"}));
-  EXPECT_EQ(namesOf(lists.tickedContacts()), QStringList({"Ann", "bob"}));
-}
-
-TEST(SelectionLists, clearUnticksGroupsAndContacts) {
-  const FivePeople sample;
-  SelectionLists lists(sample.book(), "All", pick(sample, {"Dan"}));
-  lists.setGroupTicked(0, true);
-  lists.clear();
-  EXPECT_TRUE(lists.tickedContacts().isEmpty());
-  EXPECT_FALSE(lists.isGroupTicked(0));
-}
-
 TEST(ContactSelection, keepsTheListsOrderAndEachNameOnce) {
   FivePeople sample;
   sample.addContact("BOB");
