@@ -19,6 +19,7 @@
 #include "messaging/screens/mms_dlg.h"
 #include "messaging/screens/picture_preview.h"
 #include "messaging/screens/wap_dlg.h"
+#include "tests/base/file_bytes.h"
 #include "tests/messaging/page_rig.h"
 
 namespace parlexo {
@@ -40,9 +41,7 @@ class FilePages : public PageRig<Page> {
   }
 
   QString write(const QString& name, const QByteArray& bytes) {
-    QFile chosenFile(this->folder.filePath(name));
-    if (!chosenFile.open(QIODevice::WriteOnly) || chosenFile.write(bytes) != bytes.size()) qFatal("no disk");
-    return chosenFile.fileName();
+    return writeBytes(this->folder.filePath(name), bytes);
   }
   QLineEdit& path() { return this->template find<QLineEdit>("filePath"); }
   QString facts() { return this->template find<QLabel>("fileFacts").text(); }
@@ -98,14 +97,6 @@ TYPED_TEST(FilePages, aRefusalLeadsToItsField) {
   this->path().setText(this->write("photo.jpg", "bytes"));
   this->press("sendButton");
   EXPECT_TRUE(this->template find<PictureButton>("selectContactsButton").hasFocus());
-}
-
-TYPED_TEST(FilePages, noticeStandsAfterASendWithoutAnAnswer) {
-  this->select({"Ann"});
-  this->path().setText(this->write("photo.jpg", "bytes"));
-  this->misbehave(simulator::FaultKind::Close, QStringLiteral("any"));
-  this->press("sendButton");
-  EXPECT_TRUE(this->template find<QLabel>("unansweredNotice").isVisible());
 }
 
 TYPED_TEST(FilePages, tellAboutTheFileAndWhatHasBecomeOfIt) {

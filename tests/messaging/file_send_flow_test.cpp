@@ -10,6 +10,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "tests/base/file_bytes.h"
 #include "tests/messaging/gateway_rig.h"
 #include "tests/messaging/memory_refusal.h"
 
@@ -79,9 +80,7 @@ class FileSending : public testing::TestWithParam<Page>, protected GatewayRig {
     return bytes;
   }
   QString write(const QString& name, const QByteArray& bytes) {
-    QFile written(folder.filePath(name));
-    if (!written.open(QIODevice::WriteOnly) || written.write(bytes) != bytes.size()) qFatal("no disk");
-    return written.fileName();
+    return writeBytes(folder.filePath(name), bytes);
   }
   FileDraft draftOf(const QString& path, const QString& numbers = QStringLiteral("+61491570156")) {
     return {path, {}, QStringLiteral("somebody"), numbers, {}};

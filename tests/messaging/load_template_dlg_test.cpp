@@ -3,12 +3,12 @@
 #include <optional>
 
 #include <QDir>
-#include <QFile>
 #include <QListWidget>
 #include <QTemporaryDir>
 #include <QTest>
 #include <gmock/gmock.h>
 
+#include "tests/base/file_bytes.h"
 #include "tests/base/recording_notifier.h"
 #include "ui/picture_button.h"
 
@@ -22,10 +22,7 @@ class LoadTemplateDlg : public testing::Test {
  protected:
   LoadTemplateDlg() {
     if (!folder.save("good", {"Ann [+1]", "Hi"}) || !folder.save("other", {"", "Ho"})) qFatal("no templates");
-    QFile broken(directory.filePath("broken.tpl"));
-    if (!broken.open(QIODevice::WriteOnly)) qFatal("no broken template");
-    broken.write("Hi");
-    broken.close();
+    writeBytes(directory.filePath("broken.tpl"), "Hi");
     dialog.emplace(folder, notifier);
     dialog->show();
     dialog->activateWindow();
@@ -49,12 +46,6 @@ TEST_F(LoadTemplateDlg, asksForASelectionFirst) {
               testing::Each(testing::Field(&RecordingNotifier::Shown::style, message_style::exclamation)));
   EXPECT_THAT(notifier.takeTexts(),
               ElementsAre("Please select a Template to load", "Please select a Template to delete"));
-}
-
-TEST_F(LoadTemplateDlg, downKeyLeadsToTheFirstEntry) {
-  QTest::keyClick(&list(), Qt::Key_Down);
-  EXPECT_EQ(list().currentRow(), 0);
-  EXPECT_THAT(list().selectedItems(), testing::SizeIs(1));
 }
 
 TEST_F(LoadTemplateDlg, loadsOnlyAfterYesAndOnlyWhatIsATemplate) {

@@ -43,12 +43,6 @@ TEST_F(RecipientsTest, selectionReplacesBothListsAndRejectsNumbersWithoutPlus) {
   EXPECT_EQ(lists(), " | ");
 }
 
-TEST_F(RecipientsTest, faxPagesTakeTheFaxNumber) {
-  EXPECT_EQ(select({contact("Ann", "+1", "+9"), contact("Bob", "+2", "")}, RecipientNumber::Fax),
-            QStringList({"Bob"}));
-  EXPECT_EQ(lists(), "Ann [+9] | +9");
-}
-
 TEST_F(RecipientsTest, removalKeepsBothListsInStep) {
   select(three_);
   recipients_.remove({2, 1, 1, -1, 7});

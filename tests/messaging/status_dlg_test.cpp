@@ -1,7 +1,6 @@
 #include "messaging/screens/status_dlg.h"
 
 #include <QApplication>
-#include <QClipboard>
 #include <QComboBox>
 #include <QHeaderView>
 #include <QLabel>
@@ -11,6 +10,7 @@
 #include <gmock/gmock.h>
 
 #include "tests/messaging/gateway_rig.h"
+#include "tests/ui/column_cells.h"
 #include "ui/picture_button.h"
 
 namespace parlexo {
@@ -32,12 +32,7 @@ class StatusPage : public testing::Test, protected GatewayRig {
     list_ = page_->findChild<QTreeView*>("statusList");
     combo_ = page_->findChild<QComboBox*>("messageType");
   }
-  [[nodiscard]] std::vector<std::string> column(int which) const {
-    std::vector<std::string> cells;
-    for (int row = 0; row < list_->model()->rowCount(); ++row)
-      cells.push_back(list_->model()->index(row, which).data().toString().toStdString());
-    return cells;
-  }
+  [[nodiscard]] QStringList column(int which) const { return columnCells(*list_->model(), which); }
   void getStatus() { QTest::mouseClick(page_->findChild<PictureButton*>("getStatusButton"), Qt::LeftButton); }
 
   std::unique_ptr<CStatusDlg> page_;
@@ -149,21 +144,6 @@ TEST_F(StatusPage, countLineSaysWhatIsShownAndWhatTheFileWillLose) {
   page_->selectType("Voice");
   EXPECT_EQ(count(),
             "0 messages of this type, 1001 in all. Only 1000 of them are kept when the program ends.");
-}
-
-TEST_F(StatusPage, copyTakesTheSelectedRowsAsTheColumnsStand) {
-  logMessage("R1", "01/01/2026 10:00:01");
-  logMessage("R2", "01/01/2026 10:00:02");
-  open();
-  list_->header()->moveSection(1, 0);
-  list_->selectAll();
-  page_->activateWindow();
-  (void)QTest::qWaitForWindowActive(page_.get());
-  list_->setFocus();
-  QTest::keySequence(list_, QKeySequence::Copy);
-  EXPECT_EQ(QGuiApplication::clipboard()->text().toStdString(),
-            "R1\t01/01/2026 10:00:01\t+61491570156\tDelivered to Gateway\n"
-            "R2\t01/01/2026 10:00:02\t+61491570156\tDelivered to Gateway");
 }
 
 }  // namespace

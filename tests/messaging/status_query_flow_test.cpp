@@ -53,12 +53,6 @@ TEST_F(StatusQuery, answersAreStoredShownAndSaved) {
   EXPECT_EQ(readBack.entries(), log.entries());
 }
 
-TEST_F(StatusQuery, withoutRowsAsksNothing) {
-  query({});
-  EXPECT_THAT(journal, IsEmpty());
-  EXPECT_THAT(queries(), IsEmpty());
-}
-
 TEST_F(StatusQuery, expiredSessionAsksForLoginOnceAndStops) {
   simulator.expireSessions();
   query(receipts_);
