@@ -5,6 +5,7 @@
 #include <gmock/gmock.h>
 
 #include "tests/account/account_rig.h"
+#include "tests/ui/column_cells.h"
 #include "ui/picture_button.h"
 #include "ui/record_table.h"
 
@@ -26,13 +27,7 @@ class HistoryPage : public testing::Test, protected AccountRig {
     page_->resize(700, 300);
     page_->show();
   }
-  [[nodiscard]] std::vector<std::string> column(int which) const {
-    std::vector<std::string> cells;
-    for (int row = 0; row < list_->model()->rowCount(); ++row)
-      cells.push_back(list_->model()->index(row, which).data().toString().toStdString());
-    return cells;
-  }
-
+  [[nodiscard]] QStringList column(int which) const { return columnCells(*list_->model(), which); }
   std::unique_ptr<CAccountHistoryDlg> page_;
   RecordTable* list_ = nullptr;
 };
@@ -70,7 +65,7 @@ TEST_F(HistoryPage, showsNothingOfTheUserWhoWasLoggedInBefore) {
   misbehave(FaultKind::Code, "getAccountHistory", 3);
   state.userName = u"other"_qs;
   page_->show();
-  EXPECT_TRUE(QTest::qWaitFor([this] { return column(0).empty(); }));
+  EXPECT_TRUE(QTest::qWaitFor([this] { return column(0).isEmpty(); }));
   EXPECT_EQ(operations().size(), 2);
 }
 

@@ -1,14 +1,11 @@
 #include "app/core/login_flow.h"
 
-#include <ostream>
-
 #include <QDirIterator>
-#include <QFile>
 #include <gmock/gmock.h>
 
 #include "app/core/shut_down.h"
 #include "tests/app/run_fakes.h"
-
+#include "tests/base/file_bytes.h"
 namespace parlexo {
 namespace {
 
@@ -53,9 +50,7 @@ TEST_F(LoginFlowTest, passwordIsWrittenNowhere) {
   int files = 0;
   QDirIterator all(folder.path(), QDir::Files, QDirIterator::Subdirectories);
   while (all.hasNext()) {
-    QFile file(all.next());
-    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-    EXPECT_FALSE(file.readAll().contains("demo1234")) << file.fileName().toStdString();
+    EXPECT_FALSE(readBytes(all.next()).contains("demo1234")) << all.filePath().toStdString();
     ++files;
   }
   EXPECT_GT(files, 0) << "the user name is remembered";
@@ -75,43 +70,28 @@ TEST_F(LoginFlowTest, emptyFieldsAreLeftToTheGateway) {
               ElementsAre(u"message 0x10 0 Invalid Username or Password. Passwords are case sensitive"_qs));
 }
 
-struct Refusal {
-  const char* name;
-  FaultKind kind;
-  int number;
-  QString message;
-};
-
-void PrintTo(const Refusal& refusal, std::ostream* out) {
-  *out << refusal.name;
+TEST_F(LoginFlowTest, refusalIsShownAndStoresNothing) {
+  const struct {
+    FaultKind kind;
+    int number;
+    QString message;
+  } refusals[] = {
+      {FaultKind::Code, 4, u"message 0x10 0 Invalid Username or Password. Passwords are case sensitive"_qs},
+      {FaultKind::Code, 12, u"message 0x10 0 An error occured while logging on. Error code: 12"_qs},
+      {FaultKind::Code, -1, u"message 0x10 0 An error occured while logging on. Error code: -1"_qs},
+      {FaultKind::Cut, 0, unreachableMessage},
+      {FaultKind::HttpError, 0, unreachableMessage},
+      {FaultKind::SoapFault, 0, unreachableMessage},
+  };
+  for (const auto& [kind, number, message] : refusals) {
+    simulator.clearFaults();
+    journal.clear();
+    setFault(kind, u"sessionStart"_qs, number, u"reason"_qs);
+    EXPECT_EQ(attempt(u"demo"_qs, u"demo1234"_qs), LoginOutcome::Refused);
+    EXPECT_THAT(journal, ElementsAre(message));
+    expectNothingStored();
+  }
 }
-
-class LoginRefusal : public LoginFlowTest, public testing::WithParamInterface<Refusal> {};
-
-TEST_P(LoginRefusal, isShownAndStoresNothing) {
-  setFault(GetParam().kind, u"sessionStart"_qs, GetParam().number, u"reason"_qs);
-  EXPECT_EQ(attempt(u"demo"_qs, u"demo1234"_qs), LoginOutcome::Refused);
-  EXPECT_THAT(journal, ElementsAre(u"message 0x10 0 "_qs + GetParam().message));
-  expectNothingStored();
-}
-
-const QString unreachable =
-    u"Could not connect to the Parlexo gateway server.\r\n\r\nPlease make sure you have internet "
-    u"connectivity, "
-    u"your firewall allows gateway connection or try again later."_qs;
-
-INSTANTIATE_TEST_SUITE_P(
-    Faults, LoginRefusal,
-    testing::Values(
-        Refusal{"wrong password", FaultKind::Code, 4,
-                u"Invalid Username or Password. Passwords are case sensitive"_qs},
-        Refusal{"code 12", FaultKind::Code, 12, u"An error occured while logging on. Error code: 12"_qs},
-        Refusal{"code 7", FaultKind::Code, 7, u"An error occured while logging on. Error code: 7"_qs},
-        Refusal{"negative code", FaultKind::Code, -1,
-                u"An error occured while logging on. Error code: -1"_qs},
-        Refusal{"cut", FaultKind::Cut, 0, unreachable}, Refusal{"closed", FaultKind::Close, 0, unreachable},
-        Refusal{"HTTP error", FaultKind::HttpError, 0, unreachable},
-        Refusal{"fault", FaultKind::SoapFault, 0, unreachable}));
 
 }  // namespace
 }  // namespace parlexo

@@ -56,7 +56,7 @@ class MainDlgTest : public testing::Test {
                     {u"Status"_qs, [] { return pageWithButton(u"Get &Status"_qs); }}}};
 };
 
-TEST_F(MainDlgTest, ctrlTabTurnsTheTabsFromAnywhere) {
+TEST_F(MainDlgTest, ctrlTabAndCtrlDigitsTurnTheTabsFromAnywhere) {
   const auto* tabs = window_.findChild<QTabWidget*>();
   auto* exit = window_.findChild<QWidget*>(u"exit"_qs);
   exit->setFocus();
@@ -66,12 +66,6 @@ TEST_F(MainDlgTest, ctrlTabTurnsTheTabsFromAnywhere) {
   }
   QTest::keyClick(exit, Qt::Key_Backtab, Qt::ControlModifier | Qt::ShiftModifier);
   EXPECT_EQ(tabs->currentIndex(), 1) << "back from the first is the last";
-}
-
-TEST_F(MainDlgTest, ctrlAndADigitOpensThatTab) {
-  const auto* tabs = window_.findChild<QTabWidget*>();
-  auto* exit = window_.findChild<QWidget*>(u"exit"_qs);
-  exit->setFocus();
   for (const auto& [key, tab] : {std::pair{Qt::Key_2, 1}, {Qt::Key_9, 1}, {Qt::Key_1, 0}}) {
     QTest::keyClick(exit, key, Qt::ControlModifier);
     EXPECT_EQ(tabs->currentIndex(), tab);

@@ -1,5 +1,5 @@
 #include <functional>
-#include <ostream>
+#include <vector>
 
 #include <QAbstractButton>
 #include <QCheckBox>
@@ -12,7 +12,6 @@
 #include <QTimer>
 #include <gtest/gtest.h>
 
-#include "app/core/notification_results.h"
 #include "app/notification_dlg.h"
 #include "app/notification_notifier.h"
 #include "gateway/boxes/progress_box.h"
@@ -51,78 +50,61 @@ class NotificationTest : public testing::Test {
   bool shown_ = false;
 };
 
-struct Buttons {
-  const char* what;
-  unsigned style;
-  std::vector<MessageResult> offered;
-  QStringList texts;
-  MessageResult onEscape;
-  MessageResult whenSuppressed;
-};
-
-void PrintTo(const Buttons& buttons, std::ostream* out) {
-  *out << buttons.what;
-}
-
-class NotificationButtons : public NotificationTest, public testing::WithParamInterface<Buttons> {};
-
-TEST_P(NotificationButtons, eachEndsTheDialogWithItsResult) {
-  for (const auto result : GetParam().offered) {
-    EXPECT_EQ(show(GetParam().style, 0, [result](auto& dialog) { press(dialog, result); }), result);
-    EXPECT_TRUE(shown_);
-  }
-}
-
-TEST_P(NotificationButtons, standInOrderAndNoOthers) {
-  QStringList texts;
-  show(GetParam().style, 0, [&texts](auto& dialog) {
-    for (const auto* button : dialog.template findChildren<QAbstractButton*>())
-      if (button->isVisible()) texts << button->text();
-    dialog.close();
-  });
-  EXPECT_EQ(texts, GetParam().texts);
-}
-
-TEST_P(NotificationButtons, escapeAndCloseBoxGiveTheMildestAnswer) {
-  EXPECT_EQ(show(GetParam().style, 0, [](auto& dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); }),
-            GetParam().onEscape);
-  EXPECT_EQ(show(GetParam().style, 0, [](auto& dialog) { dialog.close(); }), GetParam().onEscape);
-}
-
-TEST_P(NotificationButtons, suppressedMessageIsAnsweredUnseen) {
-  settings_.suppressMessage(146);
-  EXPECT_EQ(show(GetParam().style, 146, [](auto& dialog) { dialog.close(); }), GetParam().whenSuppressed);
-  QCoreApplication::processEvents();
-  EXPECT_FALSE(shown_);
-}
-
 constexpr auto Ok = MessageResult::Ok;
 constexpr auto Cancel = MessageResult::Cancel;
 constexpr auto Yes = MessageResult::Yes;
 constexpr auto No = MessageResult::No;
 
-INSTANTIATE_TEST_SUITE_P(
-    Styles, NotificationButtons,
-    testing::Values(Buttons{"OK", message_style::ok | message_style::stop, {Ok}, {u"&OK"_qs}, Ok, Ok},
-                    Buttons{"Yes and No",
-                            message_style::yesNo | message_style::question,
-                            {Yes, No},
-                            {u"&Yes"_qs, u"&No"_qs},
-                            No,
-                            Ok},
-                    Buttons{"Yes, No and Cancel",
-                            message_style::yesNoCancel | message_style::exclamation,
-                            {Yes, No, Cancel},
-                            {u"&Yes"_qs, u"&No"_qs, u"&Cancel"_qs},
-                            Cancel,
-                            No},
-                    Buttons{"OK and Cancel", message_style::okCancel, {}, {}, Ok, No},
-                    Buttons{"Abort, Retry and Ignore",
-                            message_style::abortRetryIgnore | message_style::information,
-                            {},
-                            {},
-                            Ok,
-                            No}));
+TEST_F(NotificationTest, styleDecidesOnButtonsAndAnswers) {
+  const struct {
+    const char* what;
+    unsigned style;
+    std::vector<MessageResult> offered;
+    QStringList texts;
+    MessageResult onEscape;
+    MessageResult whenSuppressed;
+  } styles[] = {
+      {"OK", message_style::ok | message_style::stop, {Ok}, {u"&OK"_qs}, Ok, Ok},
+      {"Yes and No",
+       message_style::yesNo | message_style::question,
+       {Yes, No},
+       {u"&Yes"_qs, u"&No"_qs},
+       No,
+       Ok},
+      {"Yes, No and Cancel",
+       message_style::yesNoCancel | message_style::exclamation,
+       {Yes, No, Cancel},
+       {u"&Yes"_qs, u"&No"_qs, u"&Cancel"_qs},
+       Cancel,
+       No},
+      {"OK and Cancel", message_style::okCancel, {}, {}, Ok, No},
+      {"Abort, Retry and Ignore",
+       message_style::abortRetryIgnore | message_style::information,
+       {},
+       {},
+       Ok,
+       No},
+  };
+  settings_.suppressMessage(146);
+  for (const auto& each : styles) {
+    SCOPED_TRACE(each.what);
+    for (const auto result : each.offered)
+      EXPECT_EQ(show(each.style, 0, [result](auto& dialog) { press(dialog, result); }), result);
+    QStringList texts;
+    const auto readAndEscape = [&texts](auto& dialog) {
+      for (const auto* button : dialog.template findChildren<QAbstractButton*>())
+        if (button->isVisible()) texts << button->text();
+      QTest::keyClick(&dialog, Qt::Key_Escape);
+    };
+    EXPECT_EQ(show(each.style, 0, readAndEscape), each.onEscape);
+    EXPECT_EQ(texts, each.texts);
+    EXPECT_EQ(show(each.style, 0, [](auto& dialog) { dialog.close(); }), each.onEscape);
+    EXPECT_TRUE(shown_);
+    EXPECT_EQ(show(each.style, 146, [](auto& dialog) { dialog.close(); }), each.whenSuppressed);
+    QCoreApplication::processEvents();
+    EXPECT_FALSE(shown_) << "answered unseen";
+  }
+}
 
 TEST_F(NotificationTest, tickedBoxIsRememberedForThatMessageAlone) {
   const auto tickAndClose = [](auto& dialog) {

@@ -21,6 +21,10 @@ namespace parlexo {
 /// What a user would see and what the disk would get, one line each, in order.
 using Journal = QStringList;
 
+inline const QString unreachableMessage = QStringLiteral(
+    "message 0x10 0 Could not connect to the Parlexo gateway server.\r\n\r\nPlease make sure you have "
+    "internet "
+    "connectivity, your firewall allows gateway connection or try again later.");
 class JournalNotifier final : public Notifier {
  public:
   explicit JournalNotifier(Journal& journal) : journal_(journal) {}

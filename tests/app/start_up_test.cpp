@@ -1,7 +1,5 @@
 #include "app/core/start_up.h"
 
-#include <ostream>
-
 #include <QDir>
 #include <gmock/gmock.h>
 
@@ -16,9 +14,6 @@ using namespace Qt::StringLiterals;
 using simulator::FaultKind;
 using testing::ElementsAre;
 
-const QString gatewayMessage =
-    u"message 0x10 0 Could not connect to the Parlexo gateway server.\r\n\r\nPlease make sure you have "
-    u"internet connectivity, your firewall allows gateway connection or try again later."_qs;
 const QString locatorMessage =
     u"message 0x10 0 Could not connect to the Parlexo internet to determine the location of the gateway "
     u"server.\r\n\r\nPlease make sure you have internet connectivity, your firewall allows gateway "
@@ -63,30 +58,8 @@ TEST_F(StartUpTest, cancelledLoginEndsInSilence) {
   EXPECT_EQ(journal, loading + Journal({u"progress hidden"_qs, u"login"_qs}));
 }
 
-struct Obstacle {
-  const char* name;
-  FaultKind kind;
-  QString operation;
-  int number;
-  QString text;
-  Journal after;  // what follows the loading
-};
-
-void PrintTo(const Obstacle& obstacle, std::ostream* out) {
-  *out << obstacle.name;
-}
-
-class StartUpObstacle : public StartUpTest, public testing::WithParamInterface<Obstacle> {};
-
-TEST_P(StartUpObstacle, isToldToTheUser) {
-  const auto& obstacle = GetParam();
-  setFault(obstacle.kind, obstacle.operation, obstacle.number, obstacle.text);
-  EXPECT_EQ(run(), 0);
-  EXPECT_EQ(journal, loading + obstacle.after);
-}
-
 const Journal noLocation = {locatorMessage};
-const Journal noGateway = {u"progress hidden"_qs, gatewayMessage};
+const Journal noGateway = {u"progress hidden"_qs, unreachableMessage};
 const Journal wrongProtocol = {u"progress hidden"_qs, u"upgrade \"\""_qs};
 
 Journal otherClient(const QString& version) {
@@ -94,27 +67,41 @@ Journal otherClient(const QString& version) {
           u"main window"_qs};
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Faults, StartUpObstacle,
-    testing::Values(
-        Obstacle{"malformed locator", FaultKind::BadLocator, u"locator"_qs, 0, {}, noLocation},
-        Obstacle{"HTTP error of the locator", FaultKind::HttpError, u"locator"_qs, 0, {}, noLocation},
-        Obstacle{"cut locator", FaultKind::Cut, u"locator"_qs, 0, {}, noLocation},
-        Obstacle{"version query closed", FaultKind::Close, u"getVersion"_qs, 0, {}, noGateway},
-        Obstacle{"cut version", FaultKind::Cut, u"getVersion"_qs, 0, {}, noGateway},
-        Obstacle{"HTTP error of the version query", FaultKind::HttpError, u"getVersion"_qs, 0, {}, noGateway},
-        Obstacle{"version that is not XML", FaultKind::NotXml, u"getVersion"_qs, 0, {}, noGateway},
-        Obstacle{"fault of the version query", FaultKind::SoapFault, u"getVersion"_qs, 0, u"no"_qs,
-                 noGateway},
-        Obstacle{"older protocol", FaultKind::Version, u"getVersion"_qs, 102, {}, wrongProtocol},
-        Obstacle{"newer protocol", FaultKind::Version, u"getVersion"_qs, 104, {}, wrongProtocol},
-        Obstacle{"older client", FaultKind::ClientVersion, u"locator"_qs, 0, u"2.23"_qs,
-                 otherClient(u"2.23"_qs)},
-        Obstacle{"slightly newer client", FaultKind::ClientVersion, u"locator"_qs, 0, u"2.25"_qs,
-                 otherClient(u"2.25"_qs)},
-        Obstacle{"locator without a version", FaultKind::ClientVersion, u"locator"_qs, 0, {}, noLocation},
-        Obstacle{"newer client", FaultKind::ClientVersion, u"locator"_qs, 0, u"2.240"_qs,
-                 otherClient(u"2.240"_qs)}));
+TEST_F(StartUpTest, obstacleIsToldToTheUser) {
+  const auto locator = u"locator"_qs;
+  const auto version = u"getVersion"_qs;
+  const struct {
+    FaultKind kind;
+    QString operation;
+    int number;
+    QString text;
+    Journal after;  // what follows the loading
+  } obstacles[] = {
+      {FaultKind::BadLocator, locator, 0, {}, noLocation},
+      {FaultKind::HttpError, locator, 0, {}, noLocation},
+      {FaultKind::Cut, locator, 0, {}, noLocation},
+      {FaultKind::ClientVersion, locator, 0, {}, noLocation},
+      {FaultKind::Close, version, 0, {}, noGateway},
+      {FaultKind::Cut, version, 0, {}, noGateway},
+      {FaultKind::HttpError, version, 0, {}, noGateway},
+      {FaultKind::NotXml, version, 0, {}, noGateway},
+      {FaultKind::SoapFault, version, 0, u"no"_qs, noGateway},
+      {FaultKind::Version, version, 102, {}, wrongProtocol},
+      {FaultKind::Version, version, 104, {}, wrongProtocol},
+      {FaultKind::ClientVersion, locator, 0, u"2.23"_qs, otherClient(u"2.23"_qs)},
+      {FaultKind::ClientVersion, locator, 0, u"2.25"_qs, otherClient(u"2.25"_qs)},
+      {FaultKind::ClientVersion, locator, 0, u"2.240"_qs, otherClient(u"2.240"_qs)},
+  };
+  for (const auto& [kind, operation, number, text, after] : obstacles) {
+    SCOPED_TRACE(static_cast<int>(kind));
+    simulator.clearFaults();
+    journal.clear();
+    state = {};
+    setFault(kind, operation, number, text);
+    EXPECT_EQ(run(), 0);
+    EXPECT_EQ(journal, loading + after);
+  }
+}
 
 TEST_F(StartUpTest, siteThatRefusesConnectionsIsToldToTheUser) {
   simulator.stop();

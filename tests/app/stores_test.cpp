@@ -2,7 +2,6 @@
 #include <functional>
 
 #include <QElapsedTimer>
-#include <QFile>
 #include <QTemporaryDir>
 #include <QTimer>
 #include <gtest/gtest.h>
@@ -11,6 +10,7 @@
 #include "app/pumping_lock_waiter.h"
 #include "gateway/boxes/progress_box.h"
 #include "tests/app/run_fakes.h"
+#include "tests/base/file_bytes.h"
 #include "tests/contacts/other_process.h"
 
 namespace parlexo {
@@ -22,11 +22,6 @@ class DiskStoresTest : public testing::Test {
  protected:
   void SetUp() override { makeFolderPath(settings_.contactsFolder()); }
 
-  QByteArray statusFile() const {
-    QFile file(settings_.statusFile());
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(none)");
-  }
-
   QTemporaryDir folder_;
   Settings settings_{folder_.path()};
   Journal journal_;
@@ -37,18 +32,14 @@ class DiskStoresTest : public testing::Test {
 TEST_F(DiskStoresTest, runThatEndsBeforeTheStatusLogWasReadLeavesTheFileAlone) {
   const QByteArray earlier =
       "<Status>\n<Message Date=\"1\" Type=\"SMS\" Phone=\"+1\" Status=\"x\">r</Message>\n</Status>";
-  {
-    QFile file(settings_.statusFile());
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(earlier);
-  }
+  writeBytes(settings_.statusFile(), earlier);
   DiskStores stores(settings_, notifier_, progress_);
   stores.saveStatusLog();
-  EXPECT_EQ(statusFile(), earlier);
+  EXPECT_EQ(readBytes(settings_.statusFile()), earlier);
   stores.loadStatusLog();
   stores.statusLog().setStatus(u"r"_qs, u"y"_qs);
   stores.saveStatusLog();
-  EXPECT_TRUE(statusFile().contains("Status=\"y\""));
+  EXPECT_TRUE(readBytes(settings_.statusFile()).contains("Status=\"y\""));
 }
 
 TEST_F(DiskStoresTest, firstStartMissesTheStatusFileOnceAndHasThePersonalGroup) {
@@ -86,34 +77,23 @@ class WaitingForOthers : public testing::Test {
   PumpingLockWaiter waiter_{box_, std::chrono::milliseconds(5)};
   ItemIndexCache cache_;
   ItemDatabase database_{cache_, waiter_};
-  const QString waitingText_ = u"Waiting for another user to finish with the contacts..."_qs;
 };
 
-TEST_F(WaitingForOthers, boxSaysSoWhileEventsRunAndGoesWithTheOtherProcess) {
-  OtherProcess other(path_, LOCK_EX);
-  QString label;
-  laterDo([&] {
-    label = box_.text();
-    other.leave();
-  });
-  EXPECT_TRUE(write());
-  EXPECT_EQ(label, waitingText_);
-  EXPECT_FALSE(box_.isShowing());
+TEST_F(WaitingForOthers, boxSaysSoWhileEventsRunAndIsThenAsBefore) {
+  for (const QString& before : {QString(), u"Loading Group \"x\"..."_qs}) {
+    if (!before.isEmpty()) box_.show(before);
+    OtherProcess other(path_, LOCK_EX);
+    QString label;
+    laterDo([&] {
+      label = box_.text();
+      other.leave();
+    });
+    EXPECT_TRUE(write());
+    EXPECT_EQ(label, u"Waiting for another user to finish with the contacts..."_qs);
+    EXPECT_EQ(box_.text(), before);
+    EXPECT_EQ(box_.isShowing(), !before.isEmpty());
+  }
 }
-
-TEST_F(WaitingForOthers, boxThatWasThereGetsItsLabelBack) {
-  box_.show(u"Loading Group \"x\"..."_qs);
-  OtherProcess other(path_, LOCK_SH);
-  QString label;
-  laterDo([&] {
-    label = box_.text();
-    other.leave();
-  });
-  EXPECT_TRUE(write());
-  EXPECT_EQ(label, waitingText_);
-  EXPECT_EQ(box_.text(), u"Loading Group \"x\"..."_qs);
-}
-
 TEST_F(WaitingForOthers, fileThatIsFreeBringsNoBox) {
   bool ran = false;
   laterDo([&] { ran = true; });
