@@ -35,6 +35,12 @@ QString factsText(FileFacts facts, const QFontMetrics& metrics) {
   return facts.text();
 }
 
+// What a file manager copies may come as an address, "file:///home/ann/a%20b.pdf", and with a line's end.
+QString pathOf(const QString& entered) {
+  const QUrl url(entered.trimmed());
+  return url.isLocalFile() ? QDir::toNativeSeparators(url.toLocalFile()) : entered;
+}
+
 }  // namespace
 
 FilePanel::FilePanel(const QString& label, Settings& settings, QWidget* parent)
@@ -71,7 +77,7 @@ QWidget* FilePanel::pathEdit() const {
 }
 
 QString FilePanel::path() const {
-  return path_->text();
+  return pathOf(path_->text());
 }
 
 void FilePanel::clear() {

@@ -25,6 +25,7 @@ class FilePanel final : public QWidget {
   FilePanel(const QString& label, Settings& settings, QWidget* parent = nullptr);
 
   [[nodiscard]] QWidget* pathEdit() const;
+  /// The path that was typed or chosen; of an address of a file on this computer, the path that it means.
   [[nodiscard]] QString path() const;
   void clear();
 
