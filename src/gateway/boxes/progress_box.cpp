@@ -14,11 +14,32 @@ namespace {
 
 constexpr qint64 repaintPause = 30;  // milliseconds
 constexpr std::chrono::milliseconds transferPause{100};
+constexpr std::chrono::milliseconds untilSettled{100};  // time enough for a window manager
 
 // Window managers put a frameless box without an owner into a corner.
 void centreOnScreen(QWidget& box) {
   box.adjustSize();
   box.move(box.screen()->availableGeometry().center() - box.rect().center());
+}
+
+bool programIsActive() {
+  return QGuiApplication::applicationState() == Qt::ApplicationActive;
+}
+
+// Between a window that has just closed and the one below it none may be active for a moment.
+QWidget* windowBelow() {
+  QWidget* active = QApplication::activeWindow();
+  return active ? active : QApplication::activeModalWidget();
+}
+
+// A window manager that is told of a box's end before it has dealt with its beginning may leave the focus
+// where it was without a word, and Qt takes no window for the active one: shortcuts would be dead. So ask
+// once more.
+void giveFocusTo(QWidget& window) {
+  window.activateWindow();
+  QTimer::singleShot(untilSettled, &window, [&window] {
+    if (!QApplication::activeWindow()) window.activateWindow();
+  });
 }
 
 void handleWaitingEvents() {
@@ -34,7 +55,8 @@ ProgressBox::~ProgressBox() {
 void ProgressBox::show(const QString& text) {
   if (!box_) {
     block_ = std::make_unique<InputBlock>();
-    box_ = new CConnectingDlg(QApplication::activeWindow());
+    takesFocus_ = programIsActive();
+    box_ = new CConnectingDlg(windowBelow());
     // The box may go before hide() is called: with the window it stands over.
     QObject::connect(box_, &QObject::destroyed, box_, [this] { block_.reset(); });
     if (!text.isEmpty()) box_->setText(text);
@@ -98,10 +120,13 @@ std::chrono::milliseconds ProgressBox::sinceFirstExchange() {
 
 void ProgressBox::remove() {
   transferTimer_.stop();
-  QPointer<QWidget> parent = box_ ? box_->parentWidget() : nullptr;
-  const bool wasActive = box_ && box_->isActiveWindow();
+  if (!box_) return;
+  const QPointer<QWidget> below = box_->parentWidget();
+  // A box that had the focus and lost it has lost it to another program, which keeps it.
+  const bool isWaitedFor = takesFocus_ && !box_->hasBeenActive();
+  const bool hasFocus = box_->isActiveWindow() || isWaitedFor;
   delete box_.data();
-  if (parent && wasActive) parent->activateWindow();
+  if (below && hasFocus) giveFocusTo(*below);
 }
 
 }  // namespace parlexo

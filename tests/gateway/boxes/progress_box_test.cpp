@@ -54,6 +54,20 @@ TEST(ProgressBox, fitsItsTextAndCannotBeClosedByTheUser) {
   EXPECT_TRUE(box->isVisible());
 }
 
+TEST(ProgressBox, standsOverTheModalWindowWhileNoneIsActive) {
+  GradientDialog dialog;
+  dialog.setModal(true);
+  dialog.show();
+  dialog.activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
+  QApplication::setActiveWindow(nullptr);
+  ProgressBox progress;
+  progress.show();
+  EXPECT_EQ(boxes().front()->parentWidget(), &dialog);
+  progress.hide();
+  EXPECT_TRUE(QTest::qWaitForWindowActive(&dialog));
+}
+
 TEST(ProgressBox, clicksDuringBlockingWorkAreDroppedNotKept) {
   SamplePage page;
   ProgressBox progress;
