@@ -16,7 +16,6 @@
 #include <QTimer>
 #include <gmock/gmock.h>
 
-#include "addressbook/screens/add_contacts_menu.h"
 #include "addressbook/screens/check_list_view.h"
 #include "addressbook/screens/contact_details_dlg.h"
 #include "addressbook/screens/folder_tree.h"
@@ -26,6 +25,7 @@
 #include "tests/addressbook/disk_book.h"
 #include "tests/base/file_bytes.h"
 #include "tests/ui/column_cells.h"
+
 namespace parlexo {
 namespace {
 
@@ -190,26 +190,6 @@ TEST_F(ContactsPage, cancelledContactStaysAsItWasAfterAFailedOk) {
   press(list(), Qt::Key_Return);
   EXPECT_EQ(column(list(), 1), QStringList({"+61491570156", "+61491570158"}));
   EXPECT_EQ(list().selectedNames(), QStringList("Bob"));
-}
-
-TEST_F(ContactsPage, contactAddedForAMessageIsNamedAndJoinsThePersonalOnes) {
-  auto& button = the<QAbstractButton>("newContactButton");
-  const auto inMenu = [this](Qt::Key key) {
-    QTimer::singleShot(0, page_.get(), [key] { QTest::keyClick(QApplication::activePopupWidget(), key); });
-  };
-  inMenu(Qt::Key_N);
-  inDialog<CContactDetailsDlg>([](CContactDetailsDlg& dialog) {
-    type(dialog, "nameEdit", "Zoe");
-    type(dialog, "phoneEdit", "+61491570159");
-    click(dialog, "okButton");
-  });
-  EXPECT_EQ(addOrImportContacts(services(), button), QStringList("Zoe"));
-  EXPECT_EQ(memberNames("My Personal Contacts"), QStringList({"Ann", "Bob", "Zoe"}));
-  inMenu(Qt::Key_N);
-  inDialog<CContactDetailsDlg>([](CContactDetailsDlg& dialog) { dialog.reject(); });
-  EXPECT_EQ(addOrImportContacts(services(), button), std::nullopt);
-  inMenu(Qt::Key_Escape);
-  EXPECT_EQ(addOrImportContacts(services(), button), std::nullopt);
 }
 
 TEST_F(ContactsPage, groupIsCreatedChangedAndDeleted) {

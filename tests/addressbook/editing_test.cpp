@@ -265,7 +265,7 @@ TEST_F(ContactsFlowTest, deletionInAGroupLeavesTheContactAndElsewhereTakesItFrom
                          "and all groups?\n\n(2 contacts are selected.)"}));
   flow_.deleteContacts(team_, {"Bob"});
   EXPECT_TRUE(book_.findContact("Bob"));
-  EXPECT_EQ(progress_.texts, QStringList("Adding/removing contacts in Group..."));
+  EXPECT_EQ(progress_.opened, QStringList("Adding/removing contacts in Group..."));
   flow_.deleteContacts({Kind::Letter, "A"}, {"Ann"});
   for (const bool fromDisk : {false, true}) {
     if (fromDisk) reload();
@@ -281,8 +281,8 @@ TEST_F(ContactsFlowTest, writesNewContactsGroupsAndDifferences) {
   flow_.saveGroup({"New", true, {typedContact("Dan", "+2")}, {"Ann", "Dan"}, {}});
   flow_.saveGroup({"Team", false, {typedContact("Ann", "+3")}, {"Dan"}, {"Bob"}});
   flow_.deleteGroup("My Personal Contacts");
-  EXPECT_EQ(progress_.texts, QStringList({"Adding/removing contacts in Group...", "Creating the Group...",
-                                          "Adding/removing contacts in Group...", "Deleting the Group..."}));
+  EXPECT_EQ(progress_.opened, QStringList({"Adding/removing contacts in Group...", "Creating the Group...",
+                                           "Adding/removing contacts in Group...", "Deleting the Group..."}));
   for (const bool fromDisk : {false, true}) {
     if (fromDisk) reload();
     EXPECT_EQ(memberNames("Team"), QStringList({"Ann", "Cid", "Dan"}));

@@ -16,6 +16,7 @@
 #include "addressbook/screens/import_summary_dlg.h"
 #include "tests/addressbook/disk_book.h"
 #include "tests/base/file_bytes.h"
+
 namespace parlexo {
 namespace {
 

@@ -6,6 +6,7 @@
 #include "contacts/import/delimited_file.h"
 #include "tests/addressbook/disk_book.h"
 #include "tests/base/file_bytes.h"
+
 namespace parlexo {
 namespace {
 

@@ -6,7 +6,9 @@
 #include <gmock/gmock.h>
 
 #include "addressbook/core/contact_selection.h"
+#include "addressbook/core/extra_selection.h"
 #include "addressbook/core/selection_lists.h"
+#include "addressbook/core/text_search.h"
 #include "contacts/group_file.h"
 #include "tests/addressbook/sample_book.h"
 
@@ -120,6 +122,101 @@ TEST(ContactSelection, keepsTheListsOrderAndEachNameOnce) {
   EXPECT_TRUE(selection.contains("bob"));
   EXPECT_FALSE(selection.contains("Bob"));
   EXPECT_FALSE(selection.contains("Zed"));
+}
+
+class Staff : public SampleBook {
+ public:
+  Staff() {
+    add("Ann", {"Sydney", "Sales", "", "VIP", "", ""});
+    add("Bob", {"Perth", "", "", "VIP", "", "x"});
+    add("Cid", {"Sydney", "Support", "", "", "", ""});
+    add("Dan", {"Hobart", "Sales", "", "vip", "", ""});
+  }
+
+ private:
+  void add(const QString& name, const Extra& extra) { addContact(name, {}, "N", "N", {}, extra); }
+};
+
+QStringList matching(const SampleBook& sample, const ExtraChoice& choice) {
+  QStringList names;
+  for (const ContactRecord* contact : contactsMatching(sample.book(), choice)) names << contact->name;
+  names.sort();
+  return names;
+}
+
+TEST(ExtraSelection, listsEveryNonEmptyValueOnceAndSorted) {
+  const ExtraValues values = distinctExtraValues(Staff().book());
+  EXPECT_EQ(values[0], QStringList({"Hobart", "Perth", "Sydney"}));
+  EXPECT_EQ(values[1], QStringList({"Sales", "Support"}));
+  EXPECT_TRUE(values[2].isEmpty());
+  EXPECT_EQ(values[3].size(), 1) << "one spelling stands for the others";
+  EXPECT_EQ(values[5], QStringList("x"));
+}
+
+TEST(ExtraSelection, fieldsMustAllMatchAndValuesOfAFieldAreAlternatives) {
+  const struct {
+    const char* what;
+    ExtraChoice choice;
+    QStringList names;
+  } cases[] = {
+      {"one value", {{{"Sydney"}, {}, {}, {}, {}, {}}}, {"Ann", "Cid"}},
+      {"two values of a field", {{{"Sydney", "Perth"}, {}, {}, {}, {}, {}}}, {"Ann", "Bob", "Cid"}},
+      {"two fields", {{{"Sydney"}, {"Sales"}, {}, {}, {}, {}}}, {"Ann"}},
+      {"two fields that never meet", {{{"Perth"}, {"Sales"}, {}, {}, {}, {}}}, {}},
+      {"one late field alone", {{{}, {}, {}, {"VIP"}, {}, {}}}, {"Ann", "Bob"}},
+      {"case counts", {{{}, {}, {}, {"vip"}, {}, {}}}, {"Dan"}},
+      {"an empty value never matches", {{{}, {""}, {}, {}, {}, {}}}, {}},
+  };
+  const Staff sample;
+  for (const auto& [what, choice, names] : cases) EXPECT_EQ(matching(sample, choice), names) << what;
+}
+
+using Found = std::vector<int>;
+
+/// Texts of several fields each; the second is empty.
+TextSearch sampleSearch() {
+  TextSearch search;
+  search.reserve(4);
+  for (const QStringList& fields :
+       {QStringList{"Ann Lee", "+6149", "City 1"}, QStringList{}, QStringList{"lee-ann", "", "Stra\u00dfe"},
+        QStringList{QString::fromUtf8("\u00c9va"), "+61 49", QString::fromUtf8("\U0001F600 x")}}) {
+    for (const QString& field : fields) search.addField(field);
+    search.endText();
+  }
+  return search;
+}
+
+TEST(TextSearch, findsTextsThatHoldEveryWord) {
+  const struct {
+    QString typed;
+    Found found;
+  } cases[] = {
+      {"", {0, 1, 2, 3}},
+      {" \t ", {0, 1, 2, 3}},
+      {"ANN", {0, 2}},
+      {"lee ann", {0, 2}},
+      {"  ann   lee ", {0, 2}},
+      {"ann lee city", {0}},
+      {"+6149", {0}},
+      {"49c", {}},  // no match crosses into the next field
+      {"lee+61", {}},
+      {"city1", {}},
+      {QString::fromUtf8("\u00e9V"), {3}},
+      {QString::fromUtf8("STRA\u00dfE"), {2}},
+      {QString::fromUtf8("\U0001F600"), {3}},
+      {QString(1, QChar(0xD83D)), {}},  // half of that character
+      {"zzz", {}},
+  };
+  const TextSearch search = sampleSearch();
+  for (const auto& [typed, found] : cases) EXPECT_EQ(search.find(typed), found) << typed.toStdString();
+}
+
+TEST(TextSearch, looksOnlyAmongTheGivenTexts) {
+  const TextSearch search = sampleSearch();
+  EXPECT_EQ(search.find("a", {1, 2}), Found({2}));
+  EXPECT_EQ(search.find("", {1, 3}), Found({1, 3}));
+  EXPECT_EQ(search.find("a", {}), Found());
+  EXPECT_EQ(TextSearch().find("a"), Found());
 }
 
 }  // namespace

@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include "tests/base/file_bytes.h"
+
 namespace parlexo {
 namespace {
 
@@ -43,7 +44,7 @@ TEST(CsvWriter, formulasBecomeTextsWhereTheFileIsForPeople) {
   } cases[] = {
       {u"=1+1"_qs, "'=1+1", "=1+1"},
       {u"+61491570156"_qs, "'+61491570156", "+61491570156"},
-      {u"-1"_qs, "-1", "-1"},
+      {u"-0.05"_qs, "-0.05", "-0.05"},
       {u"-1+2"_qs, "'-1+2", "-1+2"},
       {u"-1\n"_qs, "\"'-1\n\"", "\"-1\n\""},
       {u"@SUM(A1)"_qs, "'@SUM(A1)", "@SUM(A1)"},

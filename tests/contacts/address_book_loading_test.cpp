@@ -16,10 +16,7 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 
 QByteArray contactBytes(const QString& name, const QString& phone = {}) {
-  ContactRecord record;
-  record.name = name;
-  record.phone = phone;
-  return packContact(record);
+  return packContact({name, phone, {}, {}, {}, {}, {}});
 }
 
 class AddressBookLoading : public AddressBookFixture {
@@ -34,66 +31,61 @@ class AddressBookLoading : public AddressBookFixture {
 
 TEST_F(AddressBookLoading, ofEmptyFolderYieldsThePersonalGroup) {
   EXPECT_TRUE(book_.loadAll(progress_));
-  EXPECT_THAT(groupNames(), ElementsAre(QStringLiteral("My Personal Contacts")));
+  EXPECT_THAT(groupNames(), ElementsAre("My Personal Contacts"));
   EXPECT_TRUE(book_.contacts().empty());
-  EXPECT_EQ(readBytes(pathOf(QStringLiteral("My Personal Contacts.grp"))), "");
+  EXPECT_EQ(readBytes(pathOf("My Personal Contacts.grp")), "");
   EXPECT_EQ(readBytes(pathOf(contactsFile)), "");
-  EXPECT_THAT(progress_.texts, ElementsAre(QStringLiteral("Loading all Contacts..."),
-                                           QStringLiteral("Loading Group \"My Personal Contacts\"...")));
+  EXPECT_THAT(progress_.texts,
+              ElementsAre("Loading all Contacts...", "Loading Group \"My Personal Contacts\"..."));
   EXPECT_THAT(notifier_.takeLines(), IsEmpty());
 }
 
 TEST_F(AddressBookLoading, skipsDeletedContactsAndTakesTheLaterOfTwo) {
-  put(contactsFile, contactBytes(QStringLiteral("Ann"), QStringLiteral("+1")) +
-                        deletedRecord(contactBytes(QStringLiteral("Ben"))) +
-                        contactBytes(QStringLiteral("Ann"), QStringLiteral("+2")));
+  put(contactsFile,
+      contactBytes("Ann", "+1") + deletedRecord(contactBytes("Ben")) + contactBytes("Ann", "+2"));
   EXPECT_TRUE(book_.loadAll(progress_));
   EXPECT_EQ(book_.contacts().size(), 1U);
-  EXPECT_EQ(book_.findContact(QStringLiteral("Ann"))->phone, QStringLiteral("+2"));
+  EXPECT_EQ(book_.findContact("Ann")->phone, "+2");
 }
 
 TEST_F(AddressBookLoading, tellsTheCountAfterEveryTwentieth) {
   ASSERT_EQ(writeSampleFolder(folder_.path(), 41, 0), QString());
   EXPECT_TRUE(book_.loadAll(progress_));
-  EXPECT_THAT(progress_.texts, ElementsAre(QStringLiteral("Loading all Contacts..."),
-                                           QStringLiteral("Loading all Contacts (20 Loaded)..."),
-                                           QStringLiteral("Loading all Contacts (40 Loaded)..."),
-                                           QStringLiteral("Loading Group \"My Personal Contacts\"...")));
+  EXPECT_THAT(progress_.texts, ElementsAre("Loading all Contacts...", "Loading all Contacts (20 Loaded)...",
+                                           "Loading all Contacts (40 Loaded)...",
+                                           "Loading Group \"My Personal Contacts\"..."));
 }
 
 TEST_F(AddressBookLoading, findsGroupFilesAloneAndDecodesTheirNames) {
-  put(contactsFile, contactBytes(QStringLiteral("Ann")));
-  put(QStringLiteral("a-9b.grp"), packMember(QStringLiteral("Ann")));
-  put(QStringLiteral("a--1.grp"), {});
-  put(QStringLiteral("notes.txt"), packMember(QStringLiteral("Ann")));
-  put(QStringLiteral("old.grp.bak"), packMember(QStringLiteral("Ann")));
-  ASSERT_TRUE(QDir(folder_.path()).mkdir(QStringLiteral("folder.grp")));
+  put(contactsFile, contactBytes("Ann"));
+  put("a-9b.grp", packMember("Ann"));
+  put("a--1.grp", {});
+  put("notes.txt", packMember("Ann"));
+  put("old.grp.bak", packMember("Ann"));
+  ASSERT_TRUE(QDir(folder_.path()).mkdir("folder.grp"));
   EXPECT_TRUE(book_.loadAll(progress_));
-  EXPECT_THAT(groupNames(), ElementsAre(QStringLiteral("My Personal Contacts"), QStringLiteral("a%"),
-                                        QStringLiteral("a.b")));
-  EXPECT_EQ(book_.findGroup(QStringLiteral("a.b"))->members().at(QStringLiteral("Ann")),
-            book_.findContact(QStringLiteral("Ann")));
-  EXPECT_THAT(progress_.texts, Contains(QStringLiteral("Loading Group \"a.b\"...")));
+  EXPECT_THAT(groupNames(), ElementsAre("My Personal Contacts", "a%", "a.b"));
+  EXPECT_EQ(book_.findGroup("a.b")->members().at("Ann"), book_.findContact("Ann"));
+  EXPECT_THAT(progress_.texts, Contains("Loading Group \"a.b\"..."));
 }
 
 TEST_F(AddressBookLoading, marksMembersWithoutContactAsDeleted) {
-  const QByteArray gone = packMember(QStringLiteral("Gone \u20AC"));
-  const QByteArray ann = packMember(QStringLiteral("Ann"));
-  const QByteArray wrongCase = packMember(QStringLiteral("ann"));
-  put(contactsFile, contactBytes(QStringLiteral("Ann")));
-  put(QStringLiteral("Team.grp"), gone + ann + wrongCase);
+  const QByteArray gone = packMember("Gone \u20AC");
+  const QByteArray ann = packMember("Ann");
+  const QByteArray wrongCase = packMember("ann");
+  put(contactsFile, contactBytes("Ann"));
+  put("Team.grp", gone + ann + wrongCase);
   EXPECT_TRUE(book_.loadAll(progress_));
-  EXPECT_EQ(readBytes(pathOf(QStringLiteral("Team.grp"))),
-            deletedRecord(gone) + ann + deletedRecord(wrongCase));
-  EXPECT_EQ(book_.findGroup(QStringLiteral("Team"))->members().size(), 1U);
+  EXPECT_EQ(readBytes(pathOf("Team.grp")), deletedRecord(gone) + ann + deletedRecord(wrongCase));
+  EXPECT_EQ(book_.findGroup("Team")->members().size(), 1U);
   EXPECT_THAT(notifier_.takeLines(), IsEmpty());
 }
 
 TEST_F(AddressBookLoading, tellsOfEachMemberThatCannotBeCleanedAwayAndGoesOn) {
-  const QByteArray orphans = packMember(QStringLiteral("Gone")) + packMember(QStringLiteral("Lost"));
-  const QString team = QStringLiteral("Team.grp");
+  const QByteArray orphans = packMember("Gone") + packMember("Lost");
+  const QString team = "Team.grp";
   put(team, orphans);
-  put(QStringLiteral("Zebras.grp"), packMember(QStringLiteral("Gone")));
+  put("Zebras.grp", packMember("Gone"));
   std::optional<SharedFile> otherReader(std::in_place);
   ASSERT_EQ(otherReader->open(pathOf(team), SharedFile::Mode::Read), SharedFile::OpenResult::Opened);
   // The other reader leaves while the second member waits.
@@ -101,34 +93,31 @@ TEST_F(AddressBookLoading, tellsOfEachMemberThatCannotBeCleanedAwayAndGoesOn) {
     if (notifier_.shown.size() == 1) otherReader.reset();
   };
   EXPECT_TRUE(book_.loadAll(progress_));
-  EXPECT_EQ(readBytes(pathOf(team)),
-            orphans.first(memberRecordSize) + deletedRecord(packMember(QStringLiteral("Lost"))));
-  EXPECT_EQ(readBytes(pathOf(QStringLiteral("Zebras.grp"))),
-            deletedRecord(packMember(QStringLiteral("Gone"))));
+  EXPECT_EQ(readBytes(pathOf(team)), orphans.first(memberRecordSize) + deletedRecord(packMember("Lost")));
+  EXPECT_EQ(readBytes(pathOf("Zebras.grp")), deletedRecord(packMember("Gone")));
   EXPECT_THAT(notifier_.takeLines(),
               ElementsAre(QStringLiteral("16 There was a problem deleting a contact from your database. "
                                          "Error=[deleteItem:1 - Database access share error!]")));
 }
 
 TEST_F(AddressBookLoading, cutNamesMeetAgainAtTheNextStart) {
-  ContactRecord longNamed;
-  longNamed.name = QString(90, u'n');
-  EXPECT_TRUE(book_.saveContact(longNamed) && book_.createGroup(QStringLiteral("G"), {longNamed.name}));
+  const QString longName(90, u'n');
+  EXPECT_TRUE(book_.saveContact({longName, {}, {}, {}, {}, {}, {}}) && book_.createGroup("G", {longName}));
   AddressBook next(folder_.path(), database_, notifier_);
   EXPECT_TRUE(next.loadAll(progress_));
   EXPECT_TRUE(next.findContact(QString(80, u'n')));
-  EXPECT_TRUE(next.findGroup(QStringLiteral("G"))->contains(QString(80, u'n')));
+  EXPECT_TRUE(next.findGroup("G")->contains(QString(80, u'n')));
 }
 
 TEST_F(AddressBookLoading, ofMissingFolderTellsThePersonalGroupFirst) {
-  const QString folder = folder_.filePath(QStringLiteral("missing"));
+  const QString folder = folder_.filePath("missing");
   AddressBook book(folder, database_, notifier_);
   EXPECT_FALSE(book.loadAll(progress_));
   ASSERT_EQ(notifier_.shown.size(), 2);
   EXPECT_EQ(notifier_.takeLines().first(),
-            QStringLiteral("0 Can't create the personal contacts database: ") +
-                QDir::toNativeSeparators(folder + QStringLiteral("/My Personal Contacts.grp")) +
-                QStringLiteral(" Error=[createDb:1 - Can't create the database!]"));
+            "0 Can't create the personal contacts database: " +
+                QDir::toNativeSeparators(folder + "/My Personal Contacts.grp") +
+                " Error=[createDb:1 - Can't create the database!]");
 }
 
 }  // namespace

@@ -11,25 +11,22 @@ namespace {
 using testing::IsEmpty;
 
 ContactRecord contact(const QString& name, const QString& phone = {}) {
-  ContactRecord record;
-  record.name = name;
-  record.phone = phone;
-  return record;
+  return {name, phone, {}, {}, {}, {}, {}};
 }
 
-const QString ann = QStringLiteral("Ann");
-const QString ben = QStringLiteral("Ben");
-const QString team = QStringLiteral("Team 1/2");
+const QString ann = "Ann";
+const QString ben = "Ben";
+const QString team = "Team 1/2";
 
 class AddressBookChanges : public AddressBookFixture {
  protected:
   void SetUp() override {
     EXPECT_TRUE(book_.saveContact(contact(ann)) && book_.saveContact(contact(ben)));
-    EXPECT_TRUE(book_.createGroup(team, {ann, ben, QStringLiteral("Nobody")}));
+    EXPECT_TRUE(book_.createGroup(team, {ann, ben, "Nobody"}));
   }
   QByteArray fileOf(const QString& name) const { return readBytes(pathOf(name)); }
 
-  const QString teamFile_ = QStringLiteral("Team 1-42.grp");
+  const QString teamFile_ = "Team 1-42.grp";
 };
 
 TEST_F(AddressBookChanges, areWrittenThroughAtOnce) {
@@ -41,21 +38,20 @@ TEST_F(AddressBookChanges, areWrittenThroughAtOnce) {
 
 TEST_F(AddressBookChanges, ofKnownContactKeepItsAddressAndGroups) {
   const ContactRecord* before = book_.findContact(ann);
-  EXPECT_TRUE(book_.saveContact(contact(ann, QStringLiteral("+1"))));
+  EXPECT_TRUE(book_.saveContact(contact(ann, "+1")));
   EXPECT_EQ(book_.findContact(ann), before);
-  EXPECT_EQ(book_.findGroup(team)->members().at(ann)->phone, QStringLiteral("+1"));
-  EXPECT_EQ(fileOf(contactsFile),
-            packContact(contact(ann, QStringLiteral("+1"))) + packContact(contact(ben)));
+  EXPECT_EQ(book_.findGroup(team)->members().at(ann)->phone, "+1");
+  EXPECT_EQ(fileOf(contactsFile), packContact(contact(ann, "+1")) + packContact(contact(ben)));
 }
 
 TEST_F(AddressBookChanges, deletedContactLeavesEveryGroup) {
-  EXPECT_TRUE(book_.createGroup(QStringLiteral("Other"), {ben}));
+  EXPECT_TRUE(book_.createGroup("Other", {ben}));
   EXPECT_TRUE(book_.deleteContact(book_.findGroup(team)->members().find(ann)->first));
   EXPECT_FALSE(book_.findContact(ann));
   EXPECT_FALSE(book_.findGroup(team)->contains(ann));
   EXPECT_EQ(fileOf(contactsFile), deletedRecord(packContact(contact(ann))) + packContact(contact(ben)));
   EXPECT_EQ(fileOf(teamFile_), deletedRecord(packMember(ann)) + packMember(ben));
-  EXPECT_EQ(fileOf(QStringLiteral("Other.grp")), packMember(ben));
+  EXPECT_EQ(fileOf("Other.grp"), packMember(ben));
 }
 
 TEST_F(AddressBookChanges, contactWithNameLongerThanItsFieldCanBeDeleted) {
@@ -65,7 +61,7 @@ TEST_F(AddressBookChanges, contactWithNameLongerThanItsFieldCanBeDeleted) {
 }
 
 TEST_F(AddressBookChanges, renamedContactStaysInItsGroups) {
-  const QString anne = QStringLiteral("Anne");
+  const QString anne = "Anne";
   EXPECT_TRUE(book_.renameContact(ann, contact(anne)));
   EXPECT_FALSE(book_.findContact(ann));
   EXPECT_EQ(book_.findGroup(team)->members().at(anne), book_.findContact(anne));
@@ -80,8 +76,8 @@ TEST_F(AddressBookChanges, memberCanGoAndComeBackToItsSlot) {
   EXPECT_EQ(fileOf(teamFile_), deletedRecord(packMember(ann)) + packMember(ben));
   EXPECT_TRUE(book_.addMember(team, ann));
   EXPECT_EQ(fileOf(teamFile_), packMember(ann) + packMember(ben));
-  EXPECT_FALSE(book_.addMember(team, QStringLiteral("Nobody")));
-  EXPECT_FALSE(book_.removeMember(QStringLiteral("No group"), ann));
+  EXPECT_FALSE(book_.addMember(team, "Nobody"));
+  EXPECT_FALSE(book_.removeMember("No group", ann));
 }
 
 TEST_F(AddressBookChanges, groupMadeAnewAfterItsDeletionStartsEmpty) {
@@ -93,14 +89,13 @@ TEST_F(AddressBookChanges, groupMadeAnewAfterItsDeletionStartsEmpty) {
 }
 
 TEST_F(AddressBookChanges, inMemoryAloneLeaveTheFiles) {
-  const QString cleo = QStringLiteral("Cleo");
+  const QString cleo = "Cleo";
   EXPECT_TRUE(book_.saveContact(contact(cleo), false) && book_.addMember(team, cleo, false));
-  EXPECT_TRUE(book_.createGroup(QStringLiteral("Ghosts"), {cleo}, false));
-  EXPECT_TRUE(book_.findGroup(team)->contains(cleo) &&
-              book_.findGroup(QStringLiteral("Ghosts"))->contains(cleo));
+  EXPECT_TRUE(book_.createGroup("Ghosts", {cleo}, false));
+  EXPECT_TRUE(book_.findGroup(team)->contains(cleo) && book_.findGroup("Ghosts")->contains(cleo));
   EXPECT_EQ(fileOf(contactsFile).size(), 2 * contactRecordSize);
   EXPECT_EQ(fileOf(teamFile_).size(), 2 * memberRecordSize);
-  EXPECT_TRUE(fileOf(QStringLiteral("Ghosts.grp")).isNull());
+  EXPECT_TRUE(fileOf("Ghosts.grp").isNull());
 }
 
 }  // namespace

@@ -28,11 +28,8 @@ TEST(ContactFileFormat, contactRecordHasItsFieldsInPlace) {
 }
 
 TEST(ContactFileFormat, longValuesFillTheirFieldsAndNothingElse) {
-  ContactRecord contact;
-  contact.name = QString(81, u'n');
-  contact.email = QString(61, u'e');
-  contact.phone = QString(21, u'1');
-  contact.fax = QString(21, u'2');
+  ContactRecord contact = {QString(81, u'n'), QString(21, u'1'), {}, {},
+                           QString(21, u'2'), QString(61, u'e'), {}};
   for (QString& extra : contact.extra) extra = QString(41, u'x');
   const QByteArray expected = "\x01" + QByteArray(80, 'n') + QByteArray(60, 'e') + QByteArray(20, '1') +
                               QByteArray(20, '2') + QByteArray(2, '\0') + QByteArray(240, 'x') +
@@ -41,13 +38,6 @@ TEST(ContactFileFormat, longValuesFillTheirFieldsAndNothingElse) {
   EXPECT_EQ(unpackContact(expected).name, QString(80, u'n'));
   EXPECT_EQ(unpackContact(expected).extra[5], QString(40, u'x'));
   EXPECT_EQ(packName(contact.name), QByteArray(80, 'n'));
-}
-
-TEST(GroupFileName, everyReplacementInBothDirections) {
-  const QString plain = QStringLiteral(R"(-%\:/*?"'.<>|ö)");
-  const QString encoded = QStringLiteral("---1-2-3-4-5-6-7-8-9-A-B|ö.grp");
-  EXPECT_EQ(encodeGroupFileName(plain, QStringLiteral(".grp")), encoded);
-  EXPECT_EQ(encodeGroupFileName(QStringLiteral("a.b"), QStringLiteral(".grp")), QStringLiteral("a-9b.grp"));
 }
 
 TEST(GroupFileName, decodingUndoesDoubledHyphensFirst) {

@@ -12,21 +12,16 @@ namespace {
 
 using testing::IsEmpty;
 
-const QString zoe = QStringLiteral("Zo\u00EB");
-const QString zoeInSmall = QStringLiteral("zo\u00EB");
-const QString every = QStringLiteral("Every field \u20AC");
+const QString zoe = "Zo\u00EB";
+const QString zoeInSmall = "zo\u00EB";
+const QString every = "Every field \u20AC";
 const QString full = QString(80, u'N');
-const QString oddTeam = QStringLiteral("Team: A/2 -..");
-const QString oddTeamFile = QStringLiteral("Team-3 A-42 ---9-9.grp");
+const QString oddTeam = "Team: A/2 -..";
+const QString oddTeamFile = "Team-3 A-42 ---9-9.grp";
 
 ContactRecord fullContact() {
-  ContactRecord contact = {full,
-                           u'+' + QString(19, u'1'),
-                           QStringLiteral("N"),
-                           QStringLiteral("Y"),
-                           u'+' + QString(19, u'2'),
-                           QString(60, u'e'),
-                           {}};
+  ContactRecord contact = {
+      full, u'+' + QString(19, u'1'), "N", "Y", u'+' + QString(19, u'2'), QString(60, u'e'), {}};
   for (std::size_t i = 0; i < contact.extra.size(); ++i)
     contact.extra[i] = QString(40, QChar(u'a' + static_cast<int>(i)));
   return contact;
@@ -34,24 +29,17 @@ ContactRecord fullContact() {
 
 ContactRecord everyContact() {
   return {every,
-          QStringLiteral("+61491570156"),
-          QStringLiteral("Y"),
-          QStringLiteral("Y"),
-          QStringLiteral("+61290000000"),
-          QStringLiteral("every@example.org"),
-          {QStringLiteral("one"), QStringLiteral("two"), QStringLiteral("three"), QStringLiteral("four"),
-           QStringLiteral("five"), QStringLiteral("six")}};
+          "+61491570156",
+          "Y",
+          "Y",
+          "+61290000000",
+          "every@example.org",
+          {"one", "two", "three", "four", "five", "six"}};
 }
 
 ContactRecord zoeContact() {
-  ContactRecord contact = {zoe,
-                           QStringLiteral("+447700900025"),
-                           QStringLiteral("Y"),
-                           QStringLiteral("N"),
-                           {},
-                           QStringLiteral("zoe@example.org"),
-                           {}};
-  contact.extra[0] = QStringLiteral("Oslo");
+  ContactRecord contact = {zoe, "+447700900025", "Y", "N", {}, "zoe@example.org", {}};
+  contact.extra[0] = "Oslo";
   return contact;
 }
 
@@ -79,17 +67,17 @@ TEST_F(GoldenFiles, areReadAsMeant) {
   EXPECT_TRUE(*book_.findContact(zoe) == zoeContact());
   EXPECT_TRUE(*book_.findContact(every) == everyContact());
   EXPECT_TRUE(*book_.findContact(full) == fullContact());
-  EXPECT_EQ(book_.findContact(QStringLiteral("Odd state"))->phone, QStringLiteral("+447700900001"));
-  EXPECT_EQ(book_.findContact(QStringLiteral("Rubbish"))->phone, QStringLiteral("+447700900002"));
-  EXPECT_EQ(book_.findContact(zoeInSmall)->fax, QStringLiteral("+447700900003"));
-  EXPECT_EQ(book_.findContact(QStringLiteral("Twice"))->phone, QStringLiteral("+447700900005"));
-  EXPECT_FALSE(book_.findContact(QStringLiteral("Gone")));
+  EXPECT_EQ(book_.findContact("Odd state")->phone, "+447700900001");
+  EXPECT_EQ(book_.findContact("Rubbish")->phone, "+447700900002");
+  EXPECT_EQ(book_.findContact(zoeInSmall)->fax, "+447700900003");
+  EXPECT_EQ(book_.findContact("Twice")->phone, "+447700900005");
+  EXPECT_FALSE(book_.findContact("Gone"));
 
   EXPECT_EQ(book_.groups().size(), 3U);
   EXPECT_EQ(book_.findGroup(oddTeam)->members().size(), 3U);
   for (const QString& name : {zoe, full, QStringLiteral("Rubbish")})
     EXPECT_EQ(book_.findGroup(oddTeam)->members().at(name), book_.findContact(name));
-  EXPECT_TRUE(book_.findGroup(QStringLiteral("a%"))->contains(every));
+  EXPECT_TRUE(book_.findGroup("a%")->contains(every));
   EXPECT_THAT(notifier_.takeLines(), IsEmpty());
 }
 
@@ -99,23 +87,22 @@ TEST_F(GoldenFiles, readingChangesNoByte) {
 }
 
 TEST_F(GoldenFiles, sameContactsAndMembersAreWrittenInTheSameBytes) {
-  AddressBook copy(pathOf(QStringLiteral("copy")), database_, notifier_);
-  ASSERT_TRUE(QDir(folder_.path()).mkdir(QStringLiteral("copy")));
+  AddressBook copy(pathOf("copy"), database_, notifier_);
+  ASSERT_TRUE(QDir(folder_.path()).mkdir("copy"));
   EXPECT_TRUE(copy.saveContact(zoeContact()) && copy.saveContact(everyContact()) &&
               copy.saveContact(fullContact()));
   EXPECT_TRUE(copy.createGroup(oddTeam, {zoe, full}));
   const auto contacts = [this](int number) { return goldenRecord(contactsFile, number, 512); };
   const auto members = [this](int number) { return goldenRecord(oddTeamFile, number, 256); };
-  EXPECT_EQ(readBytes(pathOf(QStringLiteral("copy/") + contactsFile)),
-            contacts(0) + contacts(2) + contacts(3));
-  EXPECT_EQ(readBytes(pathOf(QStringLiteral("copy/") + oddTeamFile)), members(0) + members(2));
+  EXPECT_EQ(readBytes(pathOf("copy/" + contactsFile)), contacts(0) + contacts(2) + contacts(3));
+  EXPECT_EQ(readBytes(pathOf("copy/" + oddTeamFile)), members(0) + members(2));
 }
 
 TEST_F(GoldenFiles, changesTouchTheirBytesAlone) {
   QByteArray contacts = readBytes(golden_ + contactsFile);
   QByteArray members = readBytes(golden_ + oddTeamFile);
-  ContactRecord odd = *book_.findContact(QStringLiteral("Odd state"));
-  odd.extra[5] = QStringLiteral("last");
+  ContactRecord odd = *book_.findContact("Odd state");
+  odd.extra[5] = "last";
   EXPECT_TRUE(book_.saveContact(odd));
   contacts.replace(4 * 512 + 383, 4, "last");
   // The group's file lost this member once; the slot is still there.

@@ -1,34 +1,15 @@
-// What happens when other users hold the file. The other user is a second description of the file in this
-// process: locks belong to descriptions, so it counts as somebody else.
+// What happens when other users hold the file.
 
-#include <fcntl.h>
 #include <sys/file.h>
-#include <unistd.h>
 
 #include <functional>
 
 #include "contacts/item_database.h"
+#include "tests/contacts/other_process.h"
 #include "tests/contacts/store_fixture.h"
 
 namespace parlexo {
 namespace {
-
-class OtherUser {
- public:
-  OtherUser(const QString& path, int lock) : handle_(::open(qPrintable(path), O_RDWR | O_CREAT, 0600)) {
-    EXPECT_EQ(::flock(handle_, lock | LOCK_NB), 0);
-  }
-  ~OtherUser() { leave(); }
-  OtherUser(const OtherUser&) = delete;
-  OtherUser& operator=(const OtherUser&) = delete;
-  void leave() {
-    if (handle_ >= 0) ::close(handle_);
-    handle_ = -1;
-  }
-
- private:
-  int handle_;
-};
 
 class WaitingFixture : public StoreFixture {
  protected:
@@ -63,7 +44,7 @@ TEST_F(WaitingFixture, operationsGiveUpOnceMoreThanTheTimeoutHasPassed) {
       {[this] { return erase(); }, LOCK_EX, "[deleteItem:1 - Database access share error!]"},
   };
   for (const auto& each : cases) {
-    const OtherUser other(path_, each.lock);
+    const OtherProcess other(path_, each.lock);
     const qint64 before = waiter_.pauses();
     error_.clear();
     EXPECT_FALSE(each.operation());
@@ -74,11 +55,11 @@ TEST_F(WaitingFixture, operationsGiveUpOnceMoreThanTheTimeoutHasPassed) {
   EXPECT_EQ(readBytes(path_), record_);
 }
 
-TEST_F(WaitingFixture, operationsSucceedWhenTheOtherUserLeavesInTime) {
+TEST_F(WaitingFixture, operationsSucceedWhenTheOtherProcessLeavesInTime) {
   const std::function<bool()> operations[] = {[this] { return read(); }, [this] { return write(); },
                                               [this] { return erase(); }};
   for (const auto& operation : operations) {
-    OtherUser other(path_, LOCK_EX);
+    OtherProcess other(path_, LOCK_EX);
     int left = 5;
     waiter_.onPause = [&] {
       if (--left == 0) other.leave();
@@ -96,10 +77,10 @@ TEST_F(WaitingFixture, operationsSucceedWhenTheOtherUserLeavesInTime) {
 
 TEST_F(WaitingFixture, readersComeInTogetherAndCreationNeverWaits) {
   {
-    const OtherUser reader(path_, LOCK_SH);
+    const OtherProcess reader(path_, LOCK_SH);
     EXPECT_TRUE(read());
   }
-  const OtherUser writer(path_, LOCK_EX);
+  const OtherProcess writer(path_, LOCK_EX);
   EXPECT_TRUE(database_.createDb(error_, path_));
   EXPECT_FALSE(database_.removeDb(path_));
   EXPECT_EQ(readBytes(path_), record_);
@@ -108,14 +89,14 @@ TEST_F(WaitingFixture, readersComeInTogetherAndCreationNeverWaits) {
 
 TEST_F(WaitingFixture, indexIsReadWithItsOwnLongerPatience) {
   database_.dropAllItemIndexes();
-  const OtherUser writer(path_, LOCK_EX);
+  const OtherProcess writer(path_, LOCK_EX);
   EXPECT_FALSE(write());
   EXPECT_EQ(error_, QStringLiteral("[readAllItems:1 - Database access share error!]"));
   EXPECT_EQ(waiter_.pauses(), 62);
 }
 
 TEST_F(WaitingFixture, fileDeletedWhileWaitingIsMadeAnewAndTakesTheWrite) {
-  OtherUser other(path_, LOCK_EX);
+  OtherProcess other(path_, LOCK_EX);
   waiter_.onPause = [&] {
     QFile::remove(path_);
     other.leave();

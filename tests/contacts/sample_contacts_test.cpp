@@ -1,29 +1,11 @@
 #include "contacts/sample_contacts.h"
 
-#include <QSet>
-
-#include "base/code_page.h"
 #include "tests/contacts/store_fixture.h"
 
 namespace parlexo {
 namespace {
 
 class SampleFolder : public AddressBookFixture {};
-
-TEST(SampleContacts, allDifferAndFitTheirFields) {
-  constexpr int count = 5000;
-  QSet<QString> names;
-  QSet<QString> phones;
-  for (const ContactRecord& contact : sampleContacts(count)) {
-    names.insert(contact.name);
-    EXPECT_TRUE(contact.phone.isEmpty() || !phones.contains(contact.phone)) << qPrintable(contact.phone);
-    phones.insert(contact.phone);
-    EXPECT_TRUE(fitsCodePage(contact.name) && contact.name.size() <= 80);
-    EXPECT_TRUE(contact.phone.size() <= 20 && contact.fax.size() <= 20 && contact.email.size() <= 60);
-    EXPECT_FALSE(contact.phone.isEmpty() && contact.fax.isEmpty());
-  }
-  EXPECT_EQ(names.size(), count);
-}
 
 TEST_F(SampleFolder, loadsBackWholeAndIsNotOverwritten) {
   const QString folder = pathOf(QStringLiteral("new/contacts"));

@@ -47,10 +47,11 @@ class FakeWaiter final : public LockWaiter {
 
 class RecordingProgress final : public Progress {
  public:
-  void show(const QString& /*text*/ = {}) override {}
+  void show(const QString& text = {}) override { opened.append(text); }
   void setText(const QString& text) override { texts.append(text); }
   void hide() override {}
 
+  QStringList opened;  ///< the texts with which the box was opened
   QStringList texts;
 };
 

@@ -35,8 +35,12 @@ TEST(CSpreadSheet, readsTheWorkbooksOfRealProgramsAlike) {
   const QStringList ann = {"Ann",         "Example",    "1001",
                            "61491570156", "2020-05-06", QString::fromUtf8("Zürich")};
   const QStringList bob = {"Bob", "Brown", "A-7", "0412 345 678", "2021-12-31", "a \"b\", c"};
-  for (const char* name :
-       {"openpyxl.xlsx", "xlwt.xls", "libreoffice.xlsx", "libreoffice.ods", "libreoffice.xls"}) {
+  const std::pair<const char*, bool> samples[] = {{"openpyxl.xlsx", false},
+                                                  {"xlwt.xls", false},
+                                                  {"libreoffice.xlsx", true},
+                                                  {"libreoffice.ods", true},
+                                                  {"libreoffice.xls", false}};
+  for (const auto& [name, hasFormulas] : samples) {
     ASSERT_TRUE(CSpreadSheet::isWorkbook(sample(name)));
     CSpreadSheet book;
     ASSERT_EQ(book.read(sample(name), {}, CancelFlag()), QString()) << name;
@@ -44,14 +48,9 @@ TEST(CSpreadSheet, readsTheWorkbooksOfRealProgramsAlike) {
     ASSERT_EQ(people.rowCount(), 3) << name;
     EXPECT_EQ(rowOf(people, 1).mid(0, 6), ann) << name;
     EXPECT_EQ(rowOf(people, 2).mid(0, 6), bob) << name;
-  }
-}
-
-TEST(CSpreadSheet, takesTheResultsOfFormulas) {
-  for (const char* name : {"libreoffice.xlsx", "libreoffice.ods"}) {
-    CSpreadSheet book;
-    ASSERT_EQ(book.read(sample(name), {}, CancelFlag()), QString());
-    EXPECT_EQ(rowOf(book.sheets().front().sheet, 1).value(6), "Ann Example") << name;
+    if (hasFormulas) {
+      EXPECT_EQ(rowOf(people, 1).value(6), "Ann Example") << name;
+    }
   }
 }
 
