@@ -1,12 +1,8 @@
 #include "gateway/protocol/contract.h"
 
-#include <cstring>
 #include <string>
-#include <vector>
 
 #include <gtest/gtest.h>
-
-#include "gateway/core/gateway_client.h"
 
 namespace parlexo {
 namespace {
@@ -145,34 +141,6 @@ TEST(Contract, everyFieldHasAMemberOfItsOwn) {
       EXPECT_LT(fields[i - 1].value, fields[i].value) << operation.name << " " << fields[i].name;
     }
   });
-}
-
-/// Where a virtual method stands in the class's table, counted from the first method behind the destructor.
-template <class Method>
-std::ptrdiff_t slotOf(Method method) {
-  constexpr std::ptrdiff_t destructorSlots = 2;
-  std::ptrdiff_t offset = 0;
-  static_assert(sizeof method == 2 * sizeof offset);
-  std::memcpy(&offset, &method, sizeof offset);
-  return (offset - 1) / static_cast<std::ptrdiff_t>(sizeof(void*)) - destructorSlots;
-}
-
-template <class... Methods>
-std::vector<std::ptrdiff_t> slotsOf(Methods... methods) {
-  return {slotOf(methods)...};
-}
-
-TEST(GatewayClient, methodsStandInTheServicesOrder) {
-  using C = GatewayClient;
-  const auto slots =
-      slotsOf(&C::sessionStart, &C::sessionEnd, &C::sendSms, &C::getVersion, &C::sendMms, &C::sendFax,
-              &C::sendVoice_Text, &C::sendVoice_File, &C::getAccountBalance, &C::getStatus, &C::sendWap,
-              &C::scheduleMessageEnable, &C::scheduleMessageDisable, &C::getNews, &C::getAccountHistory,
-              &C::setAccountPassword, &C::partnerAddUser, &C::partnerAddEvent, &C::partnerGetCostByCountry,
-              &C::partnerGetCostByPhoneNumber, &C::partnerEditUser, &C::partnerEditEmailMessaging,
-              &C::partnerGetEmailMessaging, &C::getEmailMessaging, &C::editEmailMessaging,
-              &C::partnerStartSessionForSubUser, &C::partnerEndSessionForSubUser, &C::setSmsSenderId);
-  for (std::size_t i = 0; i < slots.size(); ++i) EXPECT_EQ(slots[i], static_cast<std::ptrdiff_t>(i));
 }
 
 }  // namespace

@@ -123,14 +123,6 @@ TEST_F(ProxiedRun, cancelFailsAndKeepsNothing) {
   EXPECT_TRUE(state.proxy.host.isEmpty());
 }
 
-TEST_F(ProxiedRun, systemWithoutAProxyIsNotAskedForALogin) {
-  system->configured.clear();
-  EXPECT_TRUE(search());
-  EXPECT_THAT(journal, ElementsAre());
-  EXPECT_THAT(proxy.requests(), ElementsAre());
-  EXPECT_TRUE(state.proxy.host.isEmpty());
-}
-
 TEST_F(ProxiedRun, proxyThatIsGoneFailsTheSearchAndEveryCall) {
   login.entered = mary();
   ASSERT_TRUE(search());

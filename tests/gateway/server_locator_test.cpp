@@ -2,7 +2,6 @@
 
 #include <chrono>
 #include <string>
-#include <thread>
 #include <vector>
 
 #include <QHostAddress>
@@ -13,8 +12,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "gateway/core/locator_document.h"
 #include "tests/gateway/fake_gateway.h"
-#include "tests/gateway/locator_text.h"
 
 namespace parlexo {
 namespace {
@@ -22,14 +21,91 @@ namespace {
 using namespace std::chrono_literals;
 using testing::FakeGateway;
 using namespace Qt::StringLiterals;
-using ::testing::HasSubstr;
 using testing::httpReply;
-using testing::lines;
-using testing::locatorText;
-using testing::serverLine;
 using ::testing::UnorderedElementsAre;
-using testing::versionLine;
-using testing::xmlHead;
+
+const std::string xmlHead = "<?xml version=\"1.0\"?>";
+const std::string serverLine =
+    R"(<server ip="10.0.0.7" port="8080" maxfilesize="2097152" maxfilesizemobile="51200">)";
+const std::string versionLine = R"(<version product="client" version="2.24"/>)";
+
+std::string lines(const std::vector<std::string>& each, const char* end = "\n") {
+  std::string text;
+  for (const std::string& line : each) text.append(line).append(end);
+  return text;
+}
+
+/// A locator document as the service's web site holds it.
+const std::string locatorText = lines({xmlHead, serverLine, versionLine, "</server>"});
+
+TEST(LocatorDocument, tellsTheFiveValuesAndTheEndpoint) {
+  for (const std::string& each : std::vector<std::string>{
+           locatorText,
+           lines({xmlHead, " \t" + serverLine + " ", "<!-- more -->", "", "  " + versionLine}, "\r\n"),
+           lines({"", serverLine, "<version product=\"server\" version=\"9\">", versionLine}),
+           lines({"anything", serverLine, versionLine, "<version product=\"client\" version=\"9\"/>"}),
+           locatorText.substr(0, locatorText.find("/>")),
+       }) {
+    const auto location = parseLocatorDocument(QByteArray::fromStdString(each));
+    ASSERT_TRUE(location) << each;
+    EXPECT_EQ(location->host, "10.0.0.7");
+    EXPECT_EQ(location->port, 8080);
+    EXPECT_EQ(location->maxFileSize, 2097152);
+    EXPECT_EQ(location->maxFileSizeMobile, 51200);
+    EXPECT_EQ(location->latestClientVersion, "2.24");
+    EXPECT_EQ(location->endpoint, "http://10.0.0.7:8080/ccx/onlineCommunication");
+  }
+}
+
+TEST(LocatorDocument, readsNumbersAsFarAsTheyGo) {
+  struct Case {
+    const char* port;
+    int read;
+  };
+  for (const Case& each :
+       {Case{"abc", 0}, {" 81x", 81}, {"-1", -1}, {"+9", 9}, {"0x10", 0}, {"99999999999", 2147483647}}) {
+    const std::string server =
+        std::string("<server ip=\"h\" port=\"") + each.port + "\" maxfilesize=\"1\" maxfilesizemobile=\"2\">";
+    const auto location =
+        parseLocatorDocument(QByteArray::fromStdString(lines({xmlHead, server, versionLine})));
+    ASSERT_TRUE(location) << each.port;
+    EXPECT_EQ(location->port, each.read) << each.port;
+    EXPECT_EQ(location->endpoint, QStringLiteral("http://h:%1/ccx/onlineCommunication").arg(each.read));
+  }
+}
+
+TEST(LocatorDocument, ofAnotherFormTellsNothing) {
+  struct Case {
+    const char* what;
+    std::vector<std::string> document;
+  };
+  for (const Case& each : std::vector<Case>{
+           {"nothing", {}},
+           {"one line", {xmlHead}},
+           {"server on line 3", {xmlHead, "", serverLine, versionLine}},
+           {"version first", {xmlHead, versionLine, serverLine}},
+           {"no version", {xmlHead, serverLine}},
+           {"version on the server's line", {xmlHead, serverLine + versionLine}},
+           {"text before the version", {xmlHead, serverLine, "x" + versionLine}},
+           {"attribute between",
+            {xmlHead, serverLine, R"(<version product="client" build="1" version="2">)"}},
+           {"empty version", {xmlHead, serverLine, R"(<version product="client" version="">)"}},
+           {"cut version", {xmlHead, serverLine, R"(<version product="client" version="2.2)"}},
+           {"the first one counts", {xmlHead, serverLine, R"(<version product="client" >)", versionLine}},
+           {"extra attribute",
+            {xmlHead, R"(<server ip="h" port="1" name="x" maxfilesize="1" maxfilesizemobile="2">)",
+             versionLine}},
+           {"other order",
+            {xmlHead, R"(<server port="1" ip="h" maxfilesize="1" maxfilesizemobile="2">)", versionLine}},
+           {"empty host",
+            {xmlHead, R"(<server ip="" port="1" maxfilesize="1" maxfilesizemobile="2">)", versionLine}},
+           {"other quotes",
+            {xmlHead, "<server ip='h' port='1' maxfilesize='1' maxfilesizemobile='2'>", versionLine}},
+           {"three attributes", {xmlHead, R"(<server ip="h" port="1" maxfilesize="1">)", versionLine}},
+       }) {
+    EXPECT_FALSE(parseLocatorDocument(QByteArray::fromStdString(lines(each.document)))) << each.what;
+  }
+}
 
 using Outcome = ServerLocator::Outcome;
 
@@ -138,22 +214,6 @@ TEST(ServerLocator, siteThatIsSilentOrDripsEndsTheDownload) {
   }
 }
 
-TEST(ServerLocator, cancelEndsTheDownloadAtOnce) {
-  FakeGateway site(httpReply(locatorText), FakeGateway::Manner::Silent);
-  const CancelFlag cancel;
-  std::thread user([cancel] {
-    std::this_thread::sleep_for(200ms);
-    cancel.raise();
-  });
-  RunState state;
-  const auto start = std::chrono::steady_clock::now();
-  EXPECT_EQ(ServerLocator(QUrl(QString::fromStdString(site.base()))).locate(state, {}, cancel),
-            Outcome::NotLocated);
-  EXPECT_LT(std::chrono::steady_clock::now() - start, 1500ms);
-  EXPECT_EQ(site.requestCount(), 1) << "no second attempt";
-  user.join();
-}
-
 TEST(ServerLocator, connectsOnceMoreAfterTheDelay) {
   const int port = testing::closedPort();
   // The port is closed when the download begins.
@@ -182,28 +242,6 @@ TEST(ServerLocator, givesUpAfterTheSecondRefusedConnection) {
   const auto spent = std::chrono::steady_clock::now() - start;
   EXPECT_GE(spent, 50ms);
   EXPECT_LT(spent, 1s);
-}
-
-TEST(ServerLocator, goesThroughThePreconfiguredProxyWithoutALogin) {
-  FakeGateway proxy(httpReply(locatorText));
-  RunState state;
-  const ServerLocator locator(QUrl(u"http://www.parlexo.invalid"_qs), quickLimits());
-  EXPECT_EQ(locator.locate(state, {u"127.0.0.1"_qs, proxy.port()}), Outcome::Located);
-  const std::string request = proxy.lastRequest();
-  EXPECT_EQ(request.find("GET http://www.parlexo.invalid/WSDLServerLocator.xml HTTP/1.1\r\n"), 0u);
-  EXPECT_EQ(request.find("roxy-Authorization"), std::string::npos);
-}
-
-TEST(ServerLocator, logsInToTheProxyOfTheRunAtOnce) {
-  FakeGateway proxy(httpReply(locatorText));
-  RunState state;
-  state.proxy = {.password = u"secret"_qs, .user = u"me"_qs, .host = u"127.0.0.1"_qs, .port = proxy.port()};
-  const ServerLocator locator(QUrl(u"http://www.parlexo.invalid"_qs), quickLimits());
-  EXPECT_EQ(locator.locate(state, {u"127.0.0.1"_qs, testing::closedPort()}), Outcome::Located);
-  EXPECT_EQ(proxy.requestCount(), 1);
-  const std::string request = proxy.lastRequest();
-  EXPECT_EQ(request.find("GET http://www.parlexo.invalid/WSDLServerLocator.xml HTTP/1.1\r\n"), 0u);
-  EXPECT_THAT(request, HasSubstr("\r\nProxy-Authorization: Basic bWU6c2VjcmV0\r\n"));
 }
 
 TEST(ServerLocator, proxyPortOutOfRangeIsNotBentIntoAnother) {

@@ -112,6 +112,7 @@ TEST_F(ThreadCallRunnerTest, onlyTheWorkersEndEndsTheWait) {
   }));
   EXPECT_TRUE(done);
 }
+
 /// A user who waits for the Cancel button of the box and then uses it.
 class CancelOffer : public ::testing::Test {
  protected:
