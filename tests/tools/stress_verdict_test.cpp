@@ -1,6 +1,7 @@
 // The stress program is only worth something if it finds a store that breaks its promises.
 
 #include <fstream>
+#include <functional>
 
 #include <QTemporaryDir>
 #include <gmock/gmock.h>
@@ -86,24 +87,17 @@ TEST_F(StressVerdict, overlappingOperationsMayEndInEitherOrder) {
 }
 
 TEST_F(StressVerdict, damagedFileIsFound) {
-  stored("Ann", "second");
-  stored("Ann", "second");
-  EXPECT_THAT(problems(twoWrites), ElementsAre(HasSubstr("is there twice")));
-
-  file_.clear();
-  stored("Ann", "second");
-  file_[300] ^= 1;
-  EXPECT_THAT(problems(twoWrites), ElementsAre(HasSubstr("torn or mixed up")));
-
-  file_.clear();
-  stored("Ann", "second");
-  file_ += "x";
-  EXPECT_THAT(problems(twoWrites), ElementsAre(HasSubstr("ends within a record")));
-
-  file_.clear();
-  stored("Ann", "second");
-  stored("Bob", "from nowhere");
-  EXPECT_THAT(problems(twoWrites), ElementsAre(HasSubstr("Bob: nobody wrote this")));
+  const auto problemsWith = [this](const std::function<void()>& damage) {
+    file_.clear();
+    stored("Ann", "second");
+    damage();
+    return problems(twoWrites);
+  };
+  EXPECT_THAT(problemsWith([this] { stored("Ann", "second"); }), ElementsAre(HasSubstr("is there twice")));
+  EXPECT_THAT(problemsWith([this] { file_[300] ^= 1; }), ElementsAre(HasSubstr("torn or mixed up")));
+  EXPECT_THAT(problemsWith([this] { file_ += "x"; }), ElementsAre(HasSubstr("ends within a record")));
+  EXPECT_THAT(problemsWith([this] { stored("Bob", "from nowhere"); }),
+              ElementsAre(HasSubstr("Bob: nobody wrote this")));
 }
 
 TEST_F(StressVerdict, memberMustStayUnlessSomethingMayHaveTakenItAway) {

@@ -5,14 +5,8 @@
 
 #include <QApplication>
 #include <QScrollBar>
-#include <QStandardItemModel>
-#include <QTableView>
 #include <QTest>
-#include <QVBoxLayout>
 #include <gtest/gtest.h>
-
-#include "ui/list_style.h"
-#include "ui/picture_button.h"
 
 namespace parlexo {
 namespace {
@@ -54,27 +48,6 @@ TEST(Look, dialogUnitsGrowWithTheFont) {
   EXPECT_NEAR(two.width(), 2 * one.width(), 0.05 * two.width());
   EXPECT_NEAR(two.height(), 2 * one.height(), 0.05 * two.height());
   EXPECT_GT(one.width(), one.height()) << "a letter is wider than half its height";
-}
-
-TEST(ListStyle, tabLeavesATableAndRowsAreSelectedWhole) {
-  QWidget window;
-  auto* table = new QTableView;
-  auto* button = new PictureButton(QStringLiteral("next"));
-  auto* column = new QVBoxLayout(&window);
-  column->addWidget(table);
-  column->addWidget(button);
-  QStandardItemModel model(3, 2);
-  table->setModel(&model);
-  styleList(*table);
-  window.show();
-  window.activateWindow();
-  ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
-  table->setFocus();
-  table->setCurrentIndex(model.index(1, 0));
-  EXPECT_EQ(table->selectionModel()->selectedIndexes().size(), 2);
-  QTest::keyClick(table, Qt::Key_Tab);
-  EXPECT_TRUE(button->hasFocus());
-  EXPECT_EQ(table->palette().color(QPalette::Base), QColor(240, 249, 255));
 }
 
 /// A shown scroll bar that stands alone, 200 pixels long.
