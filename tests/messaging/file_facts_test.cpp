@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "tests/base/file_bytes.h"
+
 namespace parlexo {
 namespace {
 

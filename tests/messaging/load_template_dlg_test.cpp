@@ -46,6 +46,9 @@ TEST_F(LoadTemplateDlg, asksForASelectionFirst) {
               testing::Each(testing::Field(&RecordingNotifier::Shown::style, message_style::exclamation)));
   EXPECT_THAT(notifier.takeTexts(),
               ElementsAre("Please select a Template to load", "Please select a Template to delete"));
+  list().setFocus();
+  QTest::keyClick(&list(), Qt::Key_Down);
+  EXPECT_EQ(list().currentRow(), 0) << "the first Down leads to the first entry";
 }
 
 TEST_F(LoadTemplateDlg, loadsOnlyAfterYesAndOnlyWhatIsATemplate) {

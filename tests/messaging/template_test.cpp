@@ -8,6 +8,7 @@
 #include <gmock/gmock.h>
 
 #include "tests/base/file_bytes.h"
+
 namespace parlexo {
 namespace {
 
