@@ -127,15 +127,9 @@ TEST_F(SettingsPage, chosenFolderIsKeptForTheNextStartAndWarnedOf) {
   EXPECT_EQ(edit("contactsFolder").text(), chosen_);
   EXPECT_EQ(Settings(folder.path()).contactsFolder(), chosen_);
   EXPECT_EQ(Settings(folder.path()).templatesFolder(), chosen_);
-  EXPECT_EQ(asked_.mid(0, 2),
-            QStringList({u"Select the folder where your Templates will be stored. Store this on a network if "
-                         "you wish to share with other users."_qs,
-                         before}));
+  EXPECT_EQ(asked_.value(1), before) << "the search begins there";
   EXPECT_EQ(notifier.shown.at(1).style, message_style::exclamation);
-  EXPECT_EQ(
-      notifier.shown.at(1).text,
-      u"You have changed your storage directory for your Contacts. You must exit application and restart "
-      "application before using"_qs);
+  EXPECT_TRUE(notifier.shown.at(1).text.contains(u"Contacts. You must exit application"_qs));
 }
 
 }  // namespace

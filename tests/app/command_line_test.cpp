@@ -6,8 +6,6 @@
 namespace parlexo {
 namespace {
 
-using namespace Qt::StringLiterals;
-
 TEST(CommandLine, setsTheOptions) {
   const struct {
     QStringList arguments;
@@ -17,16 +15,12 @@ TEST(CommandLine, setsTheOptions) {
     QString journeyDir;
   } cases[] = {
       {{}, false, {}, {}, {}},
-      {{u"--demo"_qs}, true, {}, {}, {}},
-      {{u"--journey"_qs, u"/tmp/pictures"_qs}, true, {}, {}, u"/tmp/pictures"_qs},
-      {{u"--site"_qs, u"http://127.0.0.1:8081"_qs}, false, u"http://127.0.0.1:8081"_qs, {}, {}},
-      {{u"--site=http://[::1]:8081/"_qs, u"--data-dir=/tmp/a=b"_qs},
-       false,
-       u"http://[::1]:8081"_qs,
-       u"/tmp/a=b"_qs,
-       {}},
-      {{u"--data-dir"_qs, u"x"_qs}, false, {}, QDir::currentPath() + u"/x"_qs, {}},
-      {{u"-platform"_qs, u"offscreen"_qs, u"-style=fusion"_qs, u"--demo"_qs}, true, {}, {}, {}},
+      {{"--demo"}, true, {}, {}, {}},
+      {{"--journey", "/tmp/pictures"}, true, {}, {}, "/tmp/pictures"},
+      {{"--site", "http://127.0.0.1:8081"}, false, "http://127.0.0.1:8081", {}, {}},
+      {{"--site=http://[::1]:8081/", "--data-dir=/tmp/a=b"}, false, "http://[::1]:8081", "/tmp/a=b", {}},
+      {{"--data-dir", "x"}, false, {}, QDir::currentPath() + "/x", {}},
+      {{"-platform", "offscreen", "-style=fusion", "--demo"}, true, {}, {}, {}},
   };
   for (const auto& each : cases) {
     SCOPED_TRACE(each.arguments.join(u' ').toStdString());
@@ -46,19 +40,19 @@ TEST(CommandLine, endsWithACodeAndAText) {
     int exitCode;
     QString mentions;
   } cases[] = {
-      {{u"--help"_qs}, 0, u"--data-dir DIR"_qs},
-      {{u"-h"_qs}, 0, u"--data-dir DIR"_qs},
-      {{u"--version"_qs}, 0, u"Parlexo Client 2.24\n"_qs},
-      {{u"--demos"_qs}, 2, u"unknown option \"--demos\""_qs},
-      {{u"-demo"_qs}, 2, u"unknown option \"-demo\""_qs},
-      {{u"demo"_qs}, 2, u"unknown option \"demo\""_qs},
-      {{QString()}, 2, u"unknown"_qs},
-      {{u"--site"_qs}, 2, u"option \"--site\" needs a value"_qs},
-      {{u"--site"_qs, u"--demo"_qs}, 2, u"option \"--site\" needs a value"_qs},
-      {{u"--data-dir="_qs}, 2, u"option \"--data-dir\" needs a value"_qs},
-      {{u"--site"_qs, u"127.0.0.1:80"_qs}, 2, u"is not a site"_qs},
-      {{u"--site=https://a.example"_qs}, 2, u"is not a site"_qs},
-      {{u"--site=http://a.example/x"_qs}, 2, u"is not a site"_qs},
+      {{"--help"}, 0, "--data-dir DIR"},
+      {{"-h"}, 0, "--data-dir DIR"},
+      {{"--version"}, 0, "Parlexo Client 2.24\n"},
+      {{"--demos"}, 2, "unknown option \"--demos\""},
+      {{"-demo"}, 2, "unknown option \"-demo\""},
+      {{"demo"}, 2, "unknown option \"demo\""},
+      {{QString()}, 2, "unknown"},
+      {{"--site"}, 2, "option \"--site\" needs a value"},
+      {{"--site", "--demo"}, 2, "option \"--site\" needs a value"},
+      {{"--data-dir="}, 2, "option \"--data-dir\" needs a value"},
+      {{"--site", "127.0.0.1:80"}, 2, "is not a site"},
+      {{"--site=https://a.example"}, 2, "is not a site"},
+      {{"--site=http://a.example/x"}, 2, "is not a site"},
   };
   for (const auto& each : cases) {
     SCOPED_TRACE(each.arguments.join(u' ').toStdString());

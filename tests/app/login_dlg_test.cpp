@@ -9,7 +9,6 @@
 #include "app/disk_stores.h"
 #include "app/program_windows.h"
 #include "tests/app/run_fakes.h"
-#include "ui/hyperlink_label.h"
 
 namespace parlexo {
 namespace {
@@ -65,14 +64,6 @@ TEST_F(LoginDlgTest, firstStartBeginsWithTheUserNameAndCanBeCancelled) {
   EXPECT_FALSE(dialog.isVisible());
   EXPECT_EQ(dialog.result(), QDialog::Rejected);
   EXPECT_THAT(simulator.calledOperations(), testing::ElementsAre(u"locator"_qs));
-}
-
-TEST_F(LoginDlgTest, linksLeadToTheServicesPagesOverHttps) {
-  const CLoginDlg dialog(flow, {});
-  QStringList pages;
-  for (const auto* link : dialog.findChildren<HyperlinkLabel*>()) pages << link->page().toString();
-  EXPECT_EQ(pages, QStringList({u"https://www.parlexo.example/signup.php"_qs,
-                                u"https://www.parlexo.example/forgotpassword.php"_qs}));
 }
 
 class SessionRenewalTest : public LoginDlgTest {

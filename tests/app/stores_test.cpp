@@ -94,6 +94,7 @@ TEST_F(WaitingForOthers, boxSaysSoWhileEventsRunAndIsThenAsBefore) {
     EXPECT_EQ(box_.isShowing(), !before.isEmpty());
   }
 }
+
 TEST_F(WaitingForOthers, fileThatIsFreeBringsNoBox) {
   bool ran = false;
   laterDo([&] { ran = true; });
@@ -113,15 +114,6 @@ TEST_F(WaitingForOthers, patienceEndsAfterItsSecondsOfHalfSecondSteps) {
   EXPECT_GE(time.elapsed(), 300);
   EXPECT_LT(time.elapsed(), 10'000);
   EXPECT_FALSE(box_.isShowing());
-}
-
-TEST_F(WaitingForOthers, pauseIsHalfSecondUnlessTold) {
-  PumpingLockWaiter waiter(box_);
-  QElapsedTimer time;
-  time.start();
-  waiter.pause();
-  EXPECT_GE(time.elapsed(), 490);
-  waiter.waitIsOver();
 }
 
 }  // namespace

@@ -1,9 +1,12 @@
-#include "account/screens/account_history_dlg.h"
-
 #include <QHeaderView>
 #include <QTest>
+#include <QTextBrowser>
 #include <gmock/gmock.h>
 
+#include "account/screens/account_history_dlg.h"
+#include "account/screens/news_dlg.h"
+#include "account/screens/receive_messages_dlg.h"
+#include "base/run_state.h"
 #include "tests/account/account_rig.h"
 #include "tests/ui/column_cells.h"
 #include "ui/picture_button.h"
@@ -78,6 +81,59 @@ TEST_F(HistoryPage, headingsSortNumbersByValueAndDatesByTime) {
   EXPECT_THAT(column(2), ElementsAre("-3.00", "20.00", "100.00"));
   list_->header()->setSortIndicator(1, Qt::AscendingOrder);
   EXPECT_THAT(column(0), ElementsAre("3", "1", "2"));
+}
+
+TEST(NewsDlg, showsMarkupAsTextAndOpensWebAddressesByKeyboard) {
+  const QString news = u"<img src='file:///etc/hostname'> see https://a.example/x and javascript:alert(1)"_qs;
+  CNewsDlg dialog(news);
+  QList<QUrl> opened;
+  dialog.setOpener([&opened](const QUrl& page) {
+    opened << page;
+    return true;
+  });
+  dialog.open();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
+  auto* text = dialog.findChild<QTextBrowser*>(u"news"_qs);
+  EXPECT_EQ(text->toPlainText(), news);
+  text->setFocus();
+  QTest::keyClick(text, Qt::Key_Tab);
+  QTest::keyClick(text, Qt::Key_Return);
+  EXPECT_EQ(opened, QList<QUrl>({QUrl(u"https://a.example/x"_qs)}));
+  EXPECT_TRUE(dialog.isVisible()) << "Enter followed the link";
+  EXPECT_EQ(text->toPlainText(), news) << "the page is not loaded into the dialog";
+  Q_EMIT text->anchorClicked(QUrl(u"file:///etc/passwd"_qs));
+  EXPECT_EQ(opened.size(), 1);
+  QTest::keyClick(dialog.findChild<QWidget*>(u"ok"_qs), Qt::Key_Return);
+  EXPECT_FALSE(dialog.isVisible());
+}
+
+QStringList visibleTexts(const QWidget& page) {
+  QStringList texts;
+  for (const auto* child : page.findChildren<QWidget*>()) {
+    const QString text = child->property("text").toString();
+    if (child->isVisible() && !text.isEmpty()) texts << text;
+  }
+  return texts;
+}
+
+TEST(ReceiveMessagesPage, showsTheNumbersOfWhoeverIsLoggedIn) {
+  RunState state;
+  state.userName = u"demo"_qs;
+  CReceiveMessagesDlg page(state);
+  page.show();
+  const QStringList texts = visibleTexts(page);
+  EXPECT_EQ(texts.count(u"demo"_qs), 3);
+  EXPECT_EQ(texts.count(u"@"_qs), 3);
+  for (const auto& each : receivingNumbers) EXPECT_TRUE(texts.contains(QLatin1String(each.number)));
+
+  // Another user logs in after the session has expired.
+  page.hide();
+  state.userName = u"crew@demo"_qs;
+  page.show();
+  EXPECT_EQ(
+      visibleTexts(page),
+      QStringList({u"If your parent account has been assigned a dedicated number then it is possible for "
+                   "you to receive replies to your SMS.\r\nEmail Parlexo for further information."_qs}));
 }
 
 }  // namespace

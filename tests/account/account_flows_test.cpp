@@ -1,0 +1,232 @@
+#include <gmock/gmock.h>
+
+#include "account/core/account_history.h"
+#include "account/core/email_preferences.h"
+#include "account/core/news.h"
+#include "account/core/password_change.h"
+#include "tests/account/account_rig.h"
+
+namespace parlexo {
+namespace {
+
+using namespace Qt::StringLiterals;
+using simulator::FaultKind;
+using testing::ElementsAre;
+
+TEST(HistoryText, becomesARecordForEveryLineThatHasEnded) {
+  const struct {
+    const char* text;
+    std::vector<HistoryRecord> records;
+  } cases[] = {
+      {"", {}},
+      {"1\td\t5\tno end", {}},
+      {"1\td\t5\tends\r\n2\td\t5\tdoes not", {{"1", "d", "5", "ends"}}},
+      {"\r\n1\td\t5\ta\r\n\r\n2\td\t5\tb\r\n", {{"1", "d", "5", "a"}, {"2", "d", "5", "b"}}},
+      {"1\r\n2\td\r\n3\t\t7\r\n", {{"1", "", "", ""}, {"2", "d", "", ""}, {"3", "", "7", ""}}},
+      {"\t\t\t\r\n", {{"", "", "", ""}}},
+      {"1\td\t5\ta\tb\r\n", {{"1", "d", "5", "a\tb"}}},
+      {"1\td\t5\ta\rb\nc\r\r\n", {{"1", "d", "5", "a\rb\nc\r"}}},
+      {" 1 \td\t+05.0\t a \r\n", {{" 1 ", "d", "+05.0", " a "}}},
+  };
+  for (const auto& [text, records] : cases) EXPECT_EQ(parseHistory(text), records) << text;
+}
+
+TEST(HistoryDate, isOrderedByTimeWhereItHasTheUsualForm) {
+  const QStringList inOrder = {u"31/12/2025 23:59:59"_qs, u"01/01/2026 00:00:00"_qs,
+                               u"01/01/2026 00:00:01"_qs, u"01/01/2026 00:01:00"_qs,
+                               u"01/01/2026 01:00:00"_qs, u"02/01/2026 00:00:00"_qs,
+                               u"01/02/2026 00:00:00"_qs};
+  for (int i = 1; i < inOrder.size(); ++i)
+    EXPECT_LT(historyDateOrder(inOrder[i - 1]), historyDateOrder(inOrder[i])) << i;
+  EXPECT_TRUE(historyDateOrder(inOrder[0]));
+  for (const auto& other : {u"2026-01-01"_qs, u"1/1/2026 10:00:00"_qs, u"01/01/2026 10:00:0x"_qs, QString()})
+    EXPECT_FALSE(historyDateOrder(other)) << other.toStdString();
+}
+
+class AccountHistory : public testing::Test, protected AccountRig {};
+
+TEST_F(AccountHistory, arrivesFieldByFieldOverTheWire) {
+  const QDateTime date({2026, 1, 2}, {3, 4, 5}, Qt::UTC);
+  simulator.rememberTransaction("demo", -0.05, date, u"SMS <to> Zoë & 1 €"_qs);
+  simulator.rememberTransaction("demo", 100, date.addDays(1), QString());
+  const auto records = AccountHistoryFlow(services()).load();
+  ASSERT_TRUE(records);
+  EXPECT_THAT(*records,
+              ElementsAre(HistoryRecord{"1", "02/01/2026 03:04:05", "-0.05", u"SMS <to> Zoë & 1 €"_qs},
+                          HistoryRecord{"2", "03/01/2026 03:04:05", "100.00", ""}));
+  EXPECT_THAT(journal, ElementsAre("(box)", "(no box)"));
+}
+
+TEST_F(AccountHistory, everyFailureIsToldByTheSameMessageAlone) {
+  const auto failsWith = [this](const char* text) {
+    journal.clear();
+    EXPECT_FALSE(AccountHistoryFlow(services()).load());
+    EXPECT_THAT(journal, ElementsAre("(box)", "(no box)", text));
+    EXPECT_EQ(notifier.shown.back().style, message_style::stop);
+  };
+  misbehave(FaultKind::Code, "getAccountHistory", 12);
+  failsWith("Could not successfully obtain history details. Error: 12");
+  simulator.clearFaults();
+  for (const auto kind : {FaultKind::SoapFault, FaultKind::Cut, FaultKind::HttpError}) {
+    misbehave(kind, "getAccountHistory");
+    failsWith("Could not successfully obtain history details. Error: 0");
+    simulator.clearFaults();
+  }
+  simulator.expireSessions();
+  failsWith("Could not successfully obtain history details. Error: 7");
+  simulator.stop();
+  failsWith("Could not successfully obtain history details. Error: 0");
+}
+
+class EmailPreferencesTest : public testing::Test, protected AccountRig {
+ protected:
+  EmailPreferencesFlow flow{services()};
+};
+
+TEST_F(EmailPreferencesTest, everySettingArrivesInItsOwnPlaceAndComesBack) {
+  // Each flag alone: the two that change places between loading and saving would go unnoticed together.
+  for (int flag = 0; flag < 4; ++flag) {
+    EmailPreferences wanted{.isEnabled = true,
+                            .identityCode = QStringLiteral("Zoë & <1>"),
+                            .splitsLongSms = flag == 0,
+                            .stopsAtDoubleLine = flag == 1,
+                            .stopsAtEndKeyword = flag == 2,
+                            .isFiltered = flag == 3,
+                            .addresses = {"a@b.example", "\"odd one\"@c.example", "d@e.example"}};
+    EXPECT_EQ(flow.save(wanted), EmailSaveOutcome::Saved);
+    EXPECT_EQ(flow.load(), wanted) << flag;
+    const simulator::EmailPreferences held = simulator.emailPreferences("demo");
+    EXPECT_EQ(held.splitLong, flag == 0);
+    EXPECT_EQ(held.endAtDoubleLine, flag == 1);
+    EXPECT_EQ(held.endAtKeyword, flag == 2);
+    EXPECT_EQ(held.filter, flag == 3);
+    EXPECT_EQ(held.address3, "d@e.example");
+  }
+  EXPECT_THAT(notifier.takeTexts(), testing::Each("Saved email messaging preferences"));
+}
+
+TEST_F(EmailPreferencesTest, failedSaveIsToldByWhatFailed) {
+  const auto saveFails = [this](EmailSaveOutcome outcome, const char* text) {
+    journal.clear();
+    EXPECT_EQ(flow.save({.isEnabled = true}), outcome);
+    EXPECT_THAT(journal, ElementsAre("(box)", "(no box)", text));
+    EXPECT_EQ(notifier.shown.back().style, message_style::stop);
+  };
+  constexpr char other[] = "An error occured while trying to save your email messaging preferences";
+  saveFails(EmailSaveOutcome::Incomplete,
+            "Bad email messaging settings provided. You must provide an email code (and email addresses to "
+            "filter if email filtering is enabled)");
+  misbehave(FaultKind::Code, "editEmailMessaging", 12);
+  saveFails(EmailSaveOutcome::Failed, other);
+  simulator.clearFaults();
+  misbehave(FaultKind::SoapFault, "editEmailMessaging");
+  saveFails(EmailSaveOutcome::Failed, other);
+  simulator.stop();
+  saveFails(EmailSaveOutcome::Failed, other);
+}
+
+class News : public testing::Test, protected AccountRig {};
+
+TEST_F(News, comeWithoutASessionAndAsTheyWereWritten) {
+  const QString odd = QStringLiteral("<b>50 % off</b> & more\r\n\r\n€ ]]> caf\u00e9 \"quoted\"");
+  simulator.setNews(odd);
+  state.session.clear();
+  EXPECT_EQ(fetchNews(gateway), odd);
+  misbehave(FaultKind::Code, "getNews", 1);
+  EXPECT_EQ(fetchNews(gateway), std::nullopt);
+  simulator.stop();
+  EXPECT_EQ(fetchNews(gateway), std::nullopt);
+}
+
+// "Words [address] words": what became a link stands in brackets.
+std::string marked(const char* news) {
+  QString text;
+  for (const NewsPart& part : newsParts(QString::fromUtf8(news)))
+    text += part.page.isEmpty() ? part.text : QStringLiteral("[%1]").arg(part.text);
+  return text.toStdString();
+}
+
+TEST(NewsParts, onlyPlainWebAddressesBecomeLinks) {
+  const std::pair<const char*, const char*> cases[] = {
+      {"", ""},
+      {"no link", "no link"},
+      {"See http://a.example/x?y=1#z, or HTTPS://b.example.",
+       "See [http://a.example/x?y=1#z], or [HTTPS://b.example]."},
+      {"(https://a.example/b_(c)) (https://a.example)", "([https://a.example/b_(c))] ([https://a.example])"},
+      {"<a href=\"https://a.example/\">bank</a>", "<a href=\"[https://a.example/]\">bank</a>"},
+      {"https://bank.example@evil.example/", "https://bank.example@evil.example/"},
+      {"file:///etc/passwd javascript:alert(1) ftp://a.example mailto:a@b.example",
+       "file:///etc/passwd javascript:alert(1) ftp://a.example mailto:a@b.example"},
+      {"xhttp://a.example http:// http://[ https://%zz", "xhttp://a.example http:// http://[ https://%zz"},
+      {"one\r\ntwo\rthree\nfour\x01\x7f\tfive", "one\ntwo\nthree\nfour\tfive"},
+  };
+  for (const auto& [news, expected] : cases) EXPECT_EQ(marked(news), expected);
+}
+
+constexpr char oldLength[] = "No old password has been provided that is between 6 and 10 characters.";
+constexpr char newLength[] = "No new password has been provided that is between 6 and 10 characters.";
+constexpr char letters[] = "Password must contain some characters and some numbers.";
+constexpr char retypedLength[] =
+    "No new retype password has been provided that is between 6 and 10 characters.";
+constexpr char mismatch[] =
+    "The new password and retyped password does not match. Please enter the passwords match.";
+
+class PasswordChange : public testing::Test, protected AccountRig {
+ protected:
+  std::optional<PasswordField> change(const PasswordDraft& draft) {
+    return PasswordChangeFlow(services()).change(draft);
+  }
+};
+
+TEST_F(PasswordChange, brokenRulesAreToldInTheirOrderBeforeAnyCall) {
+  const struct {
+    PasswordDraft draft;
+    const char* text;
+    PasswordField field;
+  } cases[] = {
+      {{"abcd1", "short", "x"}, oldLength, PasswordField::Old},
+      {{"abcdefghij1", "abc123", "abc123"}, oldLength, PasswordField::Old},
+      {{"abcdef", "abcd1", "abcdef"}, newLength, PasswordField::New},
+      {{"abcdef", "abcdef", "abcdef"}, letters, PasswordField::New},
+      {{"abcdef", "123456", "123456"}, letters, PasswordField::New},
+      {{"abcdef", "abc123", "abcdefghijk"}, letters, PasswordField::Retyped},
+      {{"abcdef", "äöüß12", "äöüß12"}, letters, PasswordField::New},
+      {{"abcdef", "abcdef", "abc12"}, retypedLength, PasswordField::Retyped},
+      {{"abcdef", "abcdef", "abcdefghij1"}, retypedLength, PasswordField::Retyped},
+      {{"abcdef", "abc123", "Abc123"}, mismatch, PasswordField::Retyped},
+  };
+  for (const auto& [draft, text, field] : cases) {
+    EXPECT_EQ(change(draft), field);
+    EXPECT_EQ(notifier.shown.at(0).style, message_style::stop);
+    EXPECT_THAT(notifier.takeTexts(), ElementsAre(text)) << qPrintable(draft.retyped);
+  }
+  EXPECT_TRUE(operations().isEmpty());
+  for (const char* good : {"abcde1", "abcdefghi1"})
+    EXPECT_FALSE(problemWith({"abcdef", good, good}).has_value()) << good;
+}
+
+TEST_F(PasswordChange, goodOneReachesTheGateway) {
+  EXPECT_EQ(change({"demo1234", "newer567", "newer567"}), std::nullopt);
+  EXPECT_TRUE(simulator.hasPassword("demo", "newer567"));
+  EXPECT_THAT(journal, ElementsAre("(box)", "(no box)", "Your password has successfully been updated!"));
+  EXPECT_EQ(notifier.shown.at(0).style, message_style::information);
+}
+
+TEST_F(PasswordChange, everyFailureNamesItsCodeAndKeepsTheOldOne) {
+  const auto failsWith = [this](const char* oldPassword, const char* text) {
+    journal.clear();
+    EXPECT_EQ(change({oldPassword, "newer567", "newer567"}), PasswordField::Old);
+    EXPECT_THAT(journal, ElementsAre("(box)", "(no box)", text));
+    EXPECT_EQ(notifier.shown.back().style, message_style::stop);
+    EXPECT_TRUE(simulator.hasPassword("demo", "demo1234"));
+  };
+  failsWith("wrong123", "Could not successfully set the new password. Error: 4");
+  misbehave(FaultKind::HttpError, "setAccountPassword");
+  failsWith("demo1234", "Could not successfully set the new password. Error: 0");
+  simulator.clearFaults();
+  simulator.expireSessions();
+  failsWith("demo1234", "Could not successfully set the new password. Error: 7");
+}
+
+}  // namespace
+}  // namespace parlexo

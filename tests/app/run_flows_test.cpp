@@ -1,0 +1,293 @@
+#include <tuple>
+
+#include <QDir>
+#include <QDirIterator>
+#include <gmock/gmock.h>
+
+#include "app/core/balance_check.h"
+#include "app/core/login_flow.h"
+#include "app/core/shut_down.h"
+#include "app/core/start_up.h"
+#include "base/message_texts.h"
+#include "tests/app/run_fakes.h"
+#include "tests/base/file_bytes.h"
+
+namespace parlexo {
+namespace {
+
+using namespace Qt::StringLiterals;
+using simulator::FaultKind;
+using testing::ElementsAre;
+
+class BalanceCheckTest : public RunTest {
+ protected:
+  void SetUp() override {
+    RunTest::SetUp();
+    ASSERT_TRUE(locate());
+    state.session = u"token"_qs;
+  }
+
+  QString run() { return BalanceCheck(state, gateway, notifier, progress).run(); }
+};
+
+TEST_F(BalanceCheckTest, amountIsShownAndJudged) {
+  const Journal nothing;
+  const Journal low = {u"progress hidden"_qs, u"message 0x40 146 "_qs + text(TextId::BalanceLow)};
+  const Journal zero = {u"progress hidden"_qs, u"message 0x40 147 "_qs + text(TextId::BalanceZero)};
+  const struct {
+    double balance;
+    QString shown;
+    Journal told;
+    bool isZero;
+  } amounts[] = {{100.0, u"100.00"_qs, nothing, false},
+                 {2.0, u"2.00"_qs, nothing, false},
+                 {1.999, u"2.00"_qs, low, false},
+                 {0.01, u"0.01"_qs, low, false},
+                 {0.0, u"0.00"_qs, zero, true},
+                 {-3.5, u"-3.50"_qs, zero, true},
+                 {1e15, u"1000000000000000.00"_qs, nothing, false}};
+  for (const auto& [balance, shown, told, isZero] : amounts) {
+    state.balanceIsZero = false;
+    journal.clear();
+    EXPECT_EQ(BalanceCheck(state, gateway, notifier, progress).take(balance), shown);
+    EXPECT_EQ(journal, told) << balance;
+    EXPECT_EQ(state.balanceIsZero, isZero) << balance;
+  }
+}
+
+TEST_F(BalanceCheckTest, refusalIsPassedOverInSilenceAndALostGatewayIsReported) {
+  setFault(FaultKind::Code, u"getAccountBalance"_qs, 7);
+  EXPECT_EQ(run(), QString());
+  EXPECT_EQ(journal, Journal());
+  simulator.clearFaults();
+  setFault(FaultKind::Cut, u"getAccountBalance"_qs);
+  EXPECT_EQ(run(), QString());
+  EXPECT_EQ(journal, Journal({u"progress hidden"_qs, unreachableMessage}));
+  EXPECT_FALSE(state.balanceIsZero);
+}
+
+TEST_F(BalanceCheckTest, checkWarnsAndRefreshIsQuietAndSetsTheZeroFlagForGood) {
+  ASSERT_EQ(LoginFlow(state, settings, gateway, notifier).attempt(u"demo"_qs, u"demo1234"_qs),
+            LoginOutcome::Accepted);
+  ASSERT_TRUE(simulator.setBalance(u"demo"_qs, 1.25));
+  EXPECT_EQ(run(), u"1.25"_qs);
+  EXPECT_EQ(journal.size(), 2) << "it is low";
+  journal.clear();
+  BalanceCheck check(state, gateway, notifier, progress);
+  const std::tuple<double, QString, bool> steps[] = {
+      {1.5, u"1.50"_qs, false}, {0.0, u"0.00"_qs, true}, {50.0, u"50.00"_qs, true}};
+  for (const auto& [balance, shown, isZero] : steps) {
+    ASSERT_TRUE(simulator.setBalance(u"demo"_qs, balance));
+    EXPECT_EQ(check.refresh(), shown);
+    EXPECT_EQ(state.balanceIsZero, isZero);
+  }
+  EXPECT_EQ(journal, Journal());
+  EXPECT_EQ(simulator.calls().back().session, state.session);
+  simulator.stop();
+  EXPECT_EQ(check.refresh(), QString());
+  EXPECT_EQ(journal.size(), 2) << "the box goes and the failure is told";
+}
+
+class LoginFlowTest : public RunTest {
+ protected:
+  void SetUp() override {
+    RunTest::SetUp();
+    ASSERT_TRUE(locate());
+    settings.setRememberedUser(u"earlier"_qs);
+    state.session = u"old token"_qs;
+    state.userName = u"old user"_qs;
+  }
+
+  LoginOutcome attempt(const QString& user, const QString& password) {
+    return LoginFlow(state, settings, gateway, notifier).attempt(user, password);
+  }
+
+  void expectNothingStored() {
+    EXPECT_EQ(state.session, u"old token"_qs);
+    EXPECT_EQ(state.userName, u"old user"_qs);
+    EXPECT_EQ(settings.rememberedUser(), u"earlier"_qs);
+  }
+};
+
+TEST_F(LoginFlowTest, acceptedLoginReplacesSessionAndIsRemembered) {
+  EXPECT_EQ(attempt(u"demo"_qs, u"demo1234"_qs), LoginOutcome::Accepted);
+  EXPECT_FALSE(state.session.isEmpty());
+  EXPECT_NE(state.session, u"old token"_qs);
+  EXPECT_EQ(state.userName, u"demo"_qs);
+  EXPECT_EQ(settings.rememberedUser(), u"demo"_qs);
+  EXPECT_EQ(journal, Journal());
+}
+
+TEST_F(LoginFlowTest, passwordIsWrittenNowhere) {
+  ASSERT_EQ(attempt(u"demo"_qs, u"demo1234"_qs), LoginOutcome::Accepted);
+  shutDown(state, stores, progress, runner);
+  { const Settings given = std::move(settings); }
+  int files = 0;
+  QDirIterator all(folder.path(), QDir::Files, QDirIterator::Subdirectories);
+  while (all.hasNext()) {
+    EXPECT_FALSE(readBytes(all.next()).contains("demo1234")) << all.filePath().toStdString();
+    ++files;
+  }
+  EXPECT_GT(files, 0) << "the user name is remembered";
+}
+
+TEST_F(LoginFlowTest, acceptanceWithoutTokenClosesTheDialogAndStoresNothing) {
+  setFault(FaultKind::Code, u"sessionStart"_qs, 0);
+  EXPECT_EQ(attempt(u"demo"_qs, u"demo1234"_qs), LoginOutcome::Accepted);
+  expectNothingStored();
+  EXPECT_EQ(journal, Journal());
+}
+
+TEST_F(LoginFlowTest, emptyFieldsAreLeftToTheGateway) {
+  EXPECT_EQ(attempt({}, {}), LoginOutcome::Refused);
+  EXPECT_THAT(simulator.calledOperations(), ElementsAre(u"locator"_qs, u"sessionStart"_qs));
+  EXPECT_THAT(journal,
+              ElementsAre(u"message 0x10 0 Invalid Username or Password. Passwords are case sensitive"_qs));
+}
+
+TEST_F(LoginFlowTest, refusalIsShownAndStoresNothing) {
+  const struct {
+    FaultKind kind;
+    int number;
+    QString message;
+  } refusals[] = {
+      {FaultKind::Code, 4, u"message 0x10 0 Invalid Username or Password. Passwords are case sensitive"_qs},
+      {FaultKind::Code, 12, u"message 0x10 0 An error occured while logging on. Error code: 12"_qs},
+      {FaultKind::Code, -1, u"message 0x10 0 An error occured while logging on. Error code: -1"_qs},
+      {FaultKind::Cut, 0, unreachableMessage},
+      {FaultKind::HttpError, 0, unreachableMessage},
+      {FaultKind::SoapFault, 0, unreachableMessage},
+  };
+  for (const auto& [kind, number, message] : refusals) {
+    simulator.clearFaults();
+    journal.clear();
+    setFault(kind, u"sessionStart"_qs, number, u"reason"_qs);
+    EXPECT_EQ(attempt(u"demo"_qs, u"demo1234"_qs), LoginOutcome::Refused);
+    EXPECT_THAT(journal, ElementsAre(message));
+    expectNothingStored();
+  }
+}
+
+const QString locatorMessage =
+    u"message 0x10 0 Could not connect to the Parlexo internet to determine the location of the gateway "
+    u"server.\r\n\r\nPlease make sure you have internet connectivity, your firewall allows gateway "
+    u"connection or try again later."_qs;
+
+// What every run journals before its first call to the gateway.
+const Journal loading = {u"progress Loading Contacts from Database..."_qs, u"contacts loaded"_qs,
+                         u"status log loaded"_qs, u"progress text "_qs};
+
+class StartUpTest : public RunTest {
+ protected:
+  int run() {
+    return StartUp(
+               {state, settings, stores, gateway, notifier, progress, windows, [this] { return locate(); }})
+        .run();
+  }
+};
+
+TEST_F(StartUpTest, everyStepComesInItsOrder) {
+  windows.login = [this] {
+    return LoginFlow(state, settings, gateway, notifier).attempt(u"demo"_qs, u"demo1234"_qs) ==
+           LoginOutcome::Accepted;
+  };
+  EXPECT_EQ(run(), 0);
+  EXPECT_EQ(journal,
+            loading + Journal({u"progress hidden"_qs, u"login"_qs, u"progress "_qs, u"main window"_qs}));
+  EXPECT_THAT(simulator.calledOperations(), ElementsAre(u"locator"_qs, u"getVersion"_qs, u"sessionStart"_qs));
+  EXPECT_TRUE(QDir(folder.filePath(u"contacts"_qs)).exists());
+  EXPECT_TRUE(QDir(folder.filePath(u"templates"_qs)).exists());
+}
+
+TEST_F(StartUpTest, unreadableContactsEndTheProgramBeforeTheStatusLog) {
+  stores.contactsReadable = false;
+  EXPECT_EQ(run(), -1);
+  EXPECT_EQ(journal, loading.first(2));
+  EXPECT_THAT(simulator.calledOperations(), ElementsAre());
+}
+
+TEST_F(StartUpTest, cancelledLoginEndsInSilence) {
+  windows.login = [] { return false; };
+  EXPECT_EQ(run(), 0);
+  EXPECT_EQ(journal, loading + Journal({u"progress hidden"_qs, u"login"_qs}));
+}
+
+const Journal noLocation = {locatorMessage};
+const Journal noGateway = {u"progress hidden"_qs, unreachableMessage};
+const Journal wrongProtocol = {u"progress hidden"_qs, u"upgrade \"\""_qs};
+
+Journal otherClient(const QString& version) {
+  return {u"progress hidden"_qs, u"upgrade \"%1\""_qs.arg(version), u"login"_qs, u"progress "_qs,
+          u"main window"_qs};
+}
+
+TEST_F(StartUpTest, obstacleIsToldToTheUser) {
+  const auto locator = u"locator"_qs;
+  const auto version = u"getVersion"_qs;
+  const struct {
+    FaultKind kind;
+    QString operation;
+    int number;
+    QString text;
+    Journal after;  // what follows the loading
+  } obstacles[] = {
+      {FaultKind::BadLocator, locator, 0, {}, noLocation},
+      {FaultKind::HttpError, locator, 0, {}, noLocation},
+      {FaultKind::Cut, locator, 0, {}, noLocation},
+      {FaultKind::ClientVersion, locator, 0, {}, noLocation},
+      {FaultKind::Close, version, 0, {}, noGateway},
+      {FaultKind::Cut, version, 0, {}, noGateway},
+      {FaultKind::HttpError, version, 0, {}, noGateway},
+      {FaultKind::NotXml, version, 0, {}, noGateway},
+      {FaultKind::SoapFault, version, 0, u"no"_qs, noGateway},
+      {FaultKind::Version, version, 102, {}, wrongProtocol},
+      {FaultKind::Version, version, 104, {}, wrongProtocol},
+      {FaultKind::ClientVersion, locator, 0, u"2.23"_qs, otherClient(u"2.23"_qs)},
+      {FaultKind::ClientVersion, locator, 0, u"2.25"_qs, otherClient(u"2.25"_qs)},
+      {FaultKind::ClientVersion, locator, 0, u"2.240"_qs, otherClient(u"2.240"_qs)},
+  };
+  for (const auto& [kind, operation, number, text, after] : obstacles) {
+    SCOPED_TRACE(static_cast<int>(kind));
+    simulator.clearFaults();
+    journal.clear();
+    state = {};
+    setFault(kind, operation, number, text);
+    EXPECT_EQ(run(), 0);
+    EXPECT_EQ(journal, loading + after);
+  }
+}
+
+class ShutDownTest : public RunTest {
+ protected:
+  const Journal ending = {u"progress hidden"_qs, u"contacts released"_qs, u"status log saved"_qs};
+};
+
+TEST_F(ShutDownTest, runWithoutSessionMakesNoCall) {
+  ASSERT_TRUE(locate());
+  shutDown(state, stores, progress, runner);
+  EXPECT_EQ(journal, ending);
+  EXPECT_THAT(simulator.calledOperations(), ElementsAre(u"locator"_qs));
+}
+
+TEST_F(ShutDownTest, sessionIsClosedPastTheProxyThatOtherCallsUse) {
+  ASSERT_TRUE(locate());
+  ASSERT_EQ(LoginFlow(state, settings, gateway, notifier).attempt(u"demo"_qs, u"demo1234"_qs),
+            LoginOutcome::Accepted);
+  state.proxy.host = u"127.0.0.1"_qs;
+  state.proxy.port = 1;
+  shutDown(state, stores, progress, runner);
+  EXPECT_EQ(simulator.openSessions(), 0);
+  EXPECT_EQ(simulator.calls().back().session, state.session);
+  EXPECT_EQ(journal, ending);
+}
+
+TEST_F(ShutDownTest, gatewayThatIsGoneIsNotMentioned) {
+  ASSERT_TRUE(locate());
+  state.session = u"token"_qs;
+  simulator.stop();
+  shutDown(state, stores, progress, runner);
+  EXPECT_EQ(journal, ending);
+}
+
+}  // namespace
+}  // namespace parlexo
