@@ -8,17 +8,17 @@
 #include <netdb.h>
 #include <pacparser.h>
 #include <proxy.h>
-#include <sys/resource.h>
-#include <unistd.h>
 
 #include <cstdarg>
+#include <cstddef>
 #include <cstdio>
 #include <cstdlib>
-#include <fstream>
 #include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
+
+#include "base/helper_process.h"
 
 namespace {
 
@@ -27,8 +27,8 @@ constexpr int noAnswer = 1;
 constexpr int notUnderstood = 2;
 
 constexpr std::size_t longestAnswer = 4096;
-constexpr rlim_t scriptSeconds = 2;
-constexpr rlim_t scriptMemory = 256u << 20;
+constexpr unsigned scriptSeconds = 2;
+constexpr std::size_t scriptMemory = 256u << 20;  // bytes
 
 void print(std::string_view answer) {
   answer = answer.substr(0, longestAnswer);
@@ -78,31 +78,13 @@ int tellScriptAddress() {
   return answered;
 }
 
-void limit(__rlimit_resource_t resource, rlim_t value) {
-  const rlimit both{value, value};
-  setrlimit(resource, &both);
-}
-
-rlim_t memoryInUse() {
-  std::size_t pages = 0;
-  std::ifstream("/proc/self/statm") >> pages;
-  return pages * static_cast<std::size_t>(sysconf(_SC_PAGESIZE));
-}
-
-/// The script comes from the network: it may use the processor, memory and little else.
-void confine() {
-  limit(RLIMIT_CPU, scriptSeconds);
-  limit(RLIMIT_AS, memoryInUse() + scriptMemory);
-  limit(RLIMIT_CORE, 0);
-  limit(RLIMIT_FSIZE, 0);
-}
-
 int dropMessage(const char* /*format*/, std::va_list /*values*/) {
   return 0;
 }
 
 int tellScriptAnswer(const char* file, const char* address, const char* host) {
-  confine();
+  // The script comes from the network: it may use the processor, memory and little else.
+  parlexo::confineHelper(scriptMemory, scriptSeconds);
   pacparser_set_error_printer(dropMessage);
   if (!pacparser_init() || !pacparser_parse_pac_file(file)) return noAnswer;
   const char* answer = pacparser_find_proxy(address, host);

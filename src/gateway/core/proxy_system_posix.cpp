@@ -1,9 +1,8 @@
-#include <QCoreApplication>
 #include <QDeadlineTimer>
-#include <QFileInfo>
 #include <QProcess>
 #include <QStringList>
 
+#include "base/helper_program.h"
 #include "gateway/core/proxy_system.h"
 
 namespace parlexo {
@@ -12,17 +11,6 @@ namespace {
 
 constexpr int pollMilliseconds = 50;
 constexpr int defaultHttpPort = 80;
-
-/// The helper program that asks libproxy, looks up names and runs scripts: beside the program or, in a
-/// package, where programs lie that no user calls. Empty when it isn't there.
-QString finderProgram() {
-  const QString folder = QCoreApplication::applicationDirPath();
-  for (const char* place : {"/parlexo-proxy-finder", "/../libexec/parlexo/parlexo-proxy-finder"}) {
-    const QFileInfo file(folder + QLatin1String(place));
-    if (file.isExecutable()) return file.absoluteFilePath();
-  }
-  return {};
-}
 
 /// Waits for the end of `process`; kills it when the time is over or `cancel` is raised.
 bool endsWell(QProcess& process, std::chrono::milliseconds patience, const CancelFlag& cancel) {
@@ -72,7 +60,7 @@ class PosixProxySystem final : public ProxySystem {
   /// Runs the helper, which bounds its own output, and returns the lines it wrote. A process of its own can
   /// be killed whatever the network or a script does in it.
   [[nodiscard]] QStringList ask(const QStringList& question, const CancelFlag& cancel) const {
-    const QString program = finderProgram();
+    const QString program = helperProgram(QStringLiteral("parlexo-proxy-finder"));
     if (program.isEmpty()) return {};
     QProcess finder;
     finder.setStandardInputFile(QProcess::nullDevice());
