@@ -1,0 +1,57 @@
+#include "messaging/core/page_count.h"
+
+#include <chrono>
+
+#include <QFile>
+#include <QFileInfo>
+#include <QProcess>
+
+#include "base/helper_program.h"
+
+namespace parlexo {
+namespace {
+
+constexpr qint64 largestDocument = 64 << 20;  // bytes
+constexpr qint64 pdfMarkRange = 1024;         // where readers look for the mark of a PDF
+constexpr std::chrono::milliseconds patience = std::chrono::seconds(10);
+
+/// What the page counter calls the kind of document that begins with `start`; empty for what it doesn't know.
+QString documentKind(const QByteArray& start) {
+  for (const char* mark : {"II*", "II+", "MM"}) {
+    if (start.startsWith(mark)) return QStringLiteral("tiff");
+  }
+  return start.contains("%PDF-") ? QStringLiteral("pdf") : QString();
+}
+
+QString documentKindAt(const QString& path) {
+  QFile file(path);
+  const bool isDocument = QFileInfo(path).isFile() && file.open(QIODevice::ReadOnly);
+  return isDocument && file.size() <= largestDocument ? documentKind(file.read(pdfMarkRange)) : QString();
+}
+
+std::optional<int> answerOf(QProcess& counter) {
+  if (!counter.waitForFinished(static_cast<int>(patience.count()))) {
+    counter.kill();
+    counter.waitForFinished();
+    return std::nullopt;
+  }
+  bool isNumber = false;
+  const int pages = counter.readAllStandardOutput().trimmed().toInt(&isNumber);
+  const bool succeeded = counter.exitStatus() == QProcess::NormalExit && counter.exitCode() == 0;
+  return succeeded && isNumber ? std::optional(pages) : std::nullopt;
+}
+
+}  // namespace
+
+std::optional<int> pageCount(const QString& path) {
+  const QString kind = documentKindAt(path);
+  const QString program = helperProgram(QStringLiteral("parlexo-page-counter"));
+  if (kind.isEmpty() || program.isEmpty()) return std::nullopt;
+  QProcess counter;
+  counter.setStandardInputFile(path);
+  counter.setStandardErrorFile(QProcess::nullDevice());
+  counter.start(program, {kind}, QIODevice::ReadOnly);
+  return answerOf(counter);
+}
+
+}  // namespace parlexo
