@@ -16,6 +16,7 @@
 #include <QTimer>
 #include <gmock/gmock.h>
 
+#include "addressbook/screens/add_contacts_menu.h"
 #include "addressbook/screens/check_list_view.h"
 #include "addressbook/screens/contact_details_dlg.h"
 #include "addressbook/screens/folder_tree.h"
@@ -190,6 +191,12 @@ TEST_F(ContactsPage, cancelledContactStaysAsItWasAfterAFailedOk) {
   press(list(), Qt::Key_Return);
   EXPECT_EQ(column(list(), 1), QStringList({"+61491570156", "+61491570158"}));
   EXPECT_EQ(list().selectedNames(), QStringList("Bob"));
+}
+
+TEST_F(ContactsPage, cancelledContactForAMessageIsNoEmptyAddition) {
+  QTimer::singleShot(0, page_.get(), [] { QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_N); });
+  inDialog<CContactDetailsDlg>([](CContactDetailsDlg& dialog) { dialog.reject(); });
+  EXPECT_EQ(addOrImportContacts(services(), the<QAbstractButton>("newContactButton")), std::nullopt);
 }
 
 TEST_F(ContactsPage, groupIsCreatedChangedAndDeleted) {

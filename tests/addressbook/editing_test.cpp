@@ -24,12 +24,6 @@ using test::FivePeople;
 using test::SampleBook;
 using Kind = ContactFolder::Kind;
 
-QStringList namesIn(const ContactSelection::Contacts& contacts) {
-  QStringList names;
-  for (const ContactRecord* contact : contacts) names << contact->name;
-  return names;
-}
-
 ContactRecord typedContact(const QString& name, const QString& phone, const QString& fax = {},
                            const QString& email = {}) {
   return {name, phone, "Y", "N", fax, email, {}};
@@ -113,13 +107,13 @@ TEST(ContactIndex, everyContactIsInOneReadOnlyFolder) {
   sample.addGroup("Few", {"Zed", "ann", "Bob"});
   ContactIndex index(sample.book());
   index.read();
-  EXPECT_EQ(namesIn(index.contactsIn({Kind::Letter, "A"})), QStringList("ann"));
-  EXPECT_EQ(namesIn(index.contactsIn({Kind::Letter, "B"})), QStringList({"bea", "Bob"}));
-  EXPECT_EQ(namesIn(index.contactsIn({Kind::Letter, "C"})), QStringList());
-  EXPECT_EQ(namesIn(index.contactsIn({Kind::Other, {}})),
+  EXPECT_EQ(test::namesOf(index.contactsIn({Kind::Letter, "A"})), QStringList("ann"));
+  EXPECT_EQ(test::namesOf(index.contactsIn({Kind::Letter, "B"})), QStringList({"bea", "Bob"}));
+  EXPECT_EQ(test::namesOf(index.contactsIn({Kind::Letter, "C"})), QStringList());
+  EXPECT_EQ(test::namesOf(index.contactsIn({Kind::Other, {}})),
             QStringList({" Ann", "+Plus", "4 You", QString::fromUtf8("Álva"), QString::fromUtf8("øre")}));
-  EXPECT_EQ(namesIn(index.contactsIn({Kind::Group, "Few"})), QStringList({"ann", "Bob", "Zed"}));
-  EXPECT_EQ(namesIn(index.contactsIn({Kind::Group, "None"})), QStringList());
+  EXPECT_EQ(test::namesOf(index.contactsIn({Kind::Group, "Few"})), QStringList({"ann", "Bob", "Zed"}));
+  EXPECT_EQ(test::namesOf(index.contactsIn({Kind::Group, "None"})), QStringList());
   EXPECT_EQ(index.contactsIn({Kind::AllContacts, {}}).size(), 9U);
 }
 
@@ -129,13 +123,13 @@ TEST(ContactIndex, findsByNameNumbersAndExtraAndForgetsOnDemand) {
   sample.addContact("Bob", "+61491570157");
   ContactIndex index(sample.book());
   index.read();
-  EXPECT_EQ(namesIn(index.find("57015")), QStringList({"Ann", "Bob"}));
-  EXPECT_EQ(namesIn(index.find("5550 VIP")), QStringList("Ann"));
-  EXPECT_EQ(namesIn(index.find("perth bob")), QStringList());
+  EXPECT_EQ(test::namesOf(index.find("57015")), QStringList({"Ann", "Bob"}));
+  EXPECT_EQ(test::namesOf(index.find("5550 VIP")), QStringList("Ann"));
+  EXPECT_EQ(test::namesOf(index.find("perth bob")), QStringList());
   sample.addContact("Cid", "+61491570158");
-  EXPECT_EQ(namesIn(index.find("cid")), QStringList());
+  EXPECT_EQ(test::namesOf(index.find("cid")), QStringList());
   index.read();
-  EXPECT_EQ(namesIn(index.find("cid")), QStringList("Cid"));
+  EXPECT_EQ(test::namesOf(index.find("cid")), QStringList("Cid"));
   index.forget();
   EXPECT_TRUE(index.find("").empty());
 }
@@ -166,7 +160,7 @@ TEST(GroupDraft, changesAreTheDifferenceAndTheBookStaysAsItIs) {
   FivePeople sample;
   const quint64 revision = sample.book().revision();
   GroupDraft draft(sample.book(), "Team");
-  EXPECT_EQ(namesIn(draft.members()), QStringList({"Ann", "Cid", "eva"}));
+  EXPECT_EQ(test::namesOf(draft.members()), QStringList({"Ann", "Cid", "eva"}));
   draft.remove({"Cid"});
   draft.setSelection(ContactSelection({sample.book().findContact("eva"), sample.book().findContact("bob")}));
   draft.put(typedContact("New", "+1"));
@@ -175,7 +169,7 @@ TEST(GroupDraft, changesAreTheDifferenceAndTheBookStaysAsItIs) {
   EXPECT_TRUE(draft.isContactNameTaken("New"));
   draft.remove({"Passing"});
   draft.setSelection(draft.selection());
-  EXPECT_EQ(namesIn(draft.members()), QStringList({"bob", "eva", "New"}));
+  EXPECT_EQ(test::namesOf(draft.members()), QStringList({"bob", "eva", "New"}));
   EXPECT_EQ(draft.members()[1]->phone, "+3") << "the changed values are shown";
   const GroupChanges changes = draft.changes();
   EXPECT_FALSE(changes.isNew);

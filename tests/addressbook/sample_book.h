@@ -38,6 +38,14 @@ class SampleBook {
   AddressBook book_{QString(), database_, notifier_};
 };
 
+/// The names in a list or selection of contacts.
+template <class Contacts>
+QStringList namesOf(const Contacts& contacts) {
+  QStringList names;
+  for (const ContactRecord* contact : contacts) names << contact->name;
+  return names;
+}
+
 /// Ann: SMS, media and phone; bob: SMS in lower case, no phone; Cid: fax only; Dan: nothing; eva: media in
 /// lower case and phone. "Team" has Ann, Cid and eva; "all" has everybody.
 class FivePeople : public SampleBook {

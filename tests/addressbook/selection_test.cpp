@@ -16,13 +16,8 @@ namespace parlexo {
 namespace {
 
 using test::FivePeople;
+using test::namesOf;
 using test::SampleBook;
-
-QStringList namesOf(const ContactSelection& selection) {
-  QStringList names;
-  for (const ContactRecord* contact : selection) names << contact->name;
-  return names;
-}
 
 QStringList listedNames(const SelectionLists& lists) {
   QStringList names;
@@ -138,8 +133,7 @@ class Staff : public SampleBook {
 };
 
 QStringList matching(const SampleBook& sample, const ExtraChoice& choice) {
-  QStringList names;
-  for (const ContactRecord* contact : contactsMatching(sample.book(), choice)) names << contact->name;
+  QStringList names = namesOf(contactsMatching(sample.book(), choice));
   names.sort();
   return names;
 }
