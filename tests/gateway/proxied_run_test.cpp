@@ -1,5 +1,10 @@
 #include <optional>
 
+#include <QDeadlineTimer>
+#include <QProcess>
+#include <QRegularExpression>
+#include <QTcpSocket>
+#include <QTemporaryDir>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -7,18 +12,69 @@
 #include "app/core/shut_down.h"
 #include "gateway/core/gateway_search.h"
 #include "tests/app/run_fakes.h"
+#include "tests/base/file_bytes.h"
 #include "tests/gateway/fake_gateway.h"
 #include "tests/gateway/fake_proxy_system.h"
-#include "tests/gateway/tiny_proxy.h"
 
 namespace parlexo {
 namespace {
 
 using namespace Qt::StringLiterals;
-using ::testing::Each;
 using ::testing::ElementsAre;
-using ::testing::StartsWith;
-using testing::TinyProxy;
+
+bool listensOn(int port) {
+  QTcpSocket socket;
+  socket.connectToHost(QStringLiteral("127.0.0.1"), static_cast<quint16>(port));
+  return socket.waitForConnected(200);
+}
+
+/// A real proxy, tinyproxy, on a loopback port of its own, that wants the login "mary" with "s3cret-word".
+class TinyProxy {
+ public:
+  TinyProxy() {
+    const QString settings = QStringLiteral(
+        "Port %1\nListen 127.0.0.1\nAllow 127.0.0.1\nTimeout 20\nMaxClients 20\n"
+        "BasicAuth mary s3cret-word\nLogLevel Info\nLogFile \"%2\"\n");
+    const QString config = writeBytes(folder_.filePath(u"tinyproxy.conf"_qs),
+                                      settings.arg(port_).arg(folder_.filePath(u"log"_qs)).toUtf8());
+    process_.start(u"tinyproxy"_qs, {u"-d"_qs, u"-c"_qs, config});
+    if (!process_.waitForStarted()) return;
+    const QDeadlineTimer deadline(10'000);
+    while (!listensOn(port_) && !process_.waitForFinished(20) && !deadline.hasExpired()) {
+    }
+  }
+  ~TinyProxy() { stop(); }
+  TinyProxy(const TinyProxy&) = delete;
+  TinyProxy& operator=(const TinyProxy&) = delete;
+
+  [[nodiscard]] bool isRunning() const { return process_.state() == QProcess::Running; }
+  [[nodiscard]] int port() const { return port_; }
+  void stop() {
+    process_.kill();
+    process_.waitForFinished();
+  }
+
+  /// The request lines that its log shows, in order, such as "GET http://127.0.0.1:80/x HTTP/1.1"; refused
+  /// ones too.
+  [[nodiscard]] QStringList requests() const {
+    static const QRegularExpression line(QStringLiteral("Request \\(file descriptor \\d+\\): (.*)"));
+    QStringList requests;
+    for (const auto& match : line.globalMatch(log())) requests << match.captured(1);
+    return requests;
+  }
+  /// How many of the requests it kept to itself for want of the right login.
+  [[nodiscard]] qsizetype refusals() const {
+    // A refusal leaves no line of its own; what was let through is connected to its server.
+    return requests().size() - log().count(QStringLiteral("opensock: opening connection to"));
+  }
+
+ private:
+  [[nodiscard]] QString log() const { return QString::fromUtf8(readBytes(folder_.filePath(u"log"_qs))); }
+
+  QTemporaryDir folder_;
+  QProcess process_;
+  int port_ = testing::closedPort();
+};
 
 /// Answers the proxy dialog for the user.
 class JournalProxyLogin final : public ProxyLogin {

@@ -155,21 +155,5 @@ TEST(Request, textTravelsAsOneCharacterAByte) {
   EXPECT_EQ(read.sSession, expected);
 }
 
-TEST(Request, largeFileArrivesAtTheServerAsItWas) {
-  std::string content;
-  for (std::size_t i = 0; i < 1'000'001; ++i) content.push_back(static_cast<char>(i * 31 % 256));
-  const protocol::BinaryData file{reinterpret_cast<const unsigned char*>(content.data()),
-                                  static_cast<std::int32_t>(content.size())};
-  const std::string sent =
-      sentBy(calling<protocol::sendFaxResponse>(&GatewayClient::sendFax, "T", "f", file, "+1"));
-  protocol::RequestReader reader(bodyOf(sent));
-  protocol::sendFax read;
-  EXPECT_EQ(reader.operation(), "sendFax");
-  ASSERT_TRUE(reader.read(read));
-  const std::string received(reinterpret_cast<const char*>(read.oData.data),
-                             static_cast<std::size_t>(read.oData.length));
-  EXPECT_TRUE(received == content) << received.size();
-}
-
 }  // namespace
 }  // namespace parlexo

@@ -2,6 +2,7 @@
 
 #include <chrono>
 #include <string>
+#include <thread>
 #include <vector>
 
 #include <QHostAddress>
@@ -212,6 +213,22 @@ TEST(ServerLocator, siteThatIsSilentOrDripsEndsTheDownload) {
     EXPECT_EQ(site.requestCount(), 1);
     EXPECT_TRUE(state.gateway.host.isEmpty());
   }
+}
+
+TEST(ServerLocator, cancelEndsTheDownloadAtOnce) {
+  FakeGateway site(httpReply(locatorText), FakeGateway::Manner::Silent);
+  const CancelFlag cancel;
+  std::thread user([cancel] {
+    std::this_thread::sleep_for(200ms);
+    cancel.raise();
+  });
+  RunState state;
+  const auto start = std::chrono::steady_clock::now();
+  EXPECT_EQ(ServerLocator(QUrl(QString::fromStdString(site.base()))).locate(state, {}, cancel),
+            Outcome::NotLocated);
+  EXPECT_LT(std::chrono::steady_clock::now() - start, 1500ms);
+  EXPECT_EQ(site.requestCount(), 1) << "no second attempt";
+  user.join();
 }
 
 TEST(ServerLocator, connectsOnceMoreAfterTheDelay) {

@@ -12,26 +12,21 @@ namespace {
 
 const QString defaultLabel = QStringLiteral("Connecting to the Parlexo gateway.");
 
-QString label() {
-  return boxes().size() == 1 ? boxes().front()->findChild<QLabel*>()->text()
-                             : QStringLiteral("no single box");
-}
-
 TEST(ProgressBox, labelComesFromTheFirstShowOrFromSetText) {
   ProgressBox progress;
   progress.setText(QStringLiteral("nothing shows"));
   EXPECT_TRUE(boxes().isEmpty());
   progress.show();
-  EXPECT_EQ(label(), defaultLabel);
+  EXPECT_EQ(progress.text(), defaultLabel);
   progress.hide();
   progress.show(QStringLiteral("Loading Contacts from Database..."));
-  EXPECT_EQ(label(), QStringLiteral("Loading Contacts from Database..."));
+  EXPECT_EQ(progress.text(), QStringLiteral("Loading Contacts from Database..."));
   progress.show(QStringLiteral("other"));
-  EXPECT_EQ(label(), QStringLiteral("Loading Contacts from Database..."));
+  EXPECT_EQ(progress.text(), QStringLiteral("Loading Contacts from Database..."));
   progress.setText(QStringLiteral("Loading all Contacts (20 Loaded)..."));
-  EXPECT_EQ(label(), QStringLiteral("Loading all Contacts (20 Loaded)..."));
+  EXPECT_EQ(progress.text(), QStringLiteral("Loading all Contacts (20 Loaded)..."));
   progress.setText({});
-  EXPECT_EQ(label(), defaultLabel);
+  EXPECT_EQ(progress.text(), defaultLabel);
   progress.hide();
   progress.hide();
   EXPECT_TRUE(boxes().isEmpty());
@@ -66,6 +61,16 @@ TEST(ProgressBox, standsOverTheModalWindowWhileNoneIsActive) {
   EXPECT_EQ(boxes().front()->parentWidget(), &dialog);
   progress.hide();
   EXPECT_TRUE(QTest::qWaitForWindowActive(&dialog));
+}
+
+TEST(ProgressBox, dialogUnderItCanBeEndedByItsCode) {
+  GradientDialog dialog;
+  dialog.setModal(true);
+  dialog.show();
+  ProgressBox progress;
+  progress.show();
+  dialog.accept();
+  EXPECT_FALSE(dialog.isVisible());
 }
 
 TEST(ProgressBox, clicksDuringBlockingWorkAreDroppedNotKept) {
