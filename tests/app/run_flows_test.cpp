@@ -232,12 +232,9 @@ TEST_F(StartUpTest, obstacleIsToldToTheUser) {
     Journal after;  // what follows the loading
   } obstacles[] = {
       {FaultKind::BadLocator, locator, 0, {}, noLocation},
-      {FaultKind::HttpError, locator, 0, {}, noLocation},
       {FaultKind::Cut, locator, 0, {}, noLocation},
       {FaultKind::ClientVersion, locator, 0, {}, noLocation},
       {FaultKind::Close, version, 0, {}, noGateway},
-      {FaultKind::Cut, version, 0, {}, noGateway},
-      {FaultKind::HttpError, version, 0, {}, noGateway},
       {FaultKind::NotXml, version, 0, {}, noGateway},
       {FaultKind::SoapFault, version, 0, u"no"_qs, noGateway},
       {FaultKind::Version, version, 102, {}, wrongProtocol},

@@ -60,13 +60,7 @@ TEST_F(DiskStoresTest, firstStartMissesTheStatusFileOnceAndHasThePersonalGroup) 
 
 class WaitingForOthers : public testing::Test {
  protected:
-  bool write() {
-    QString error;
-    const QByteArray record("\1Anna1111111", 12);
-    const bool written = database_.writeItem(error, 4, path_, int(record.size()), record, 60);
-    EXPECT_EQ(error, QString());
-    return written;
-  }
+  bool write() { return database_.writeItem(error_, 4, path_, 12, QByteArray("\1Anna1111111", 12), 60); }
   // Called from within the wait: the loop that runs then is the one that keeps the program alive.
   void laterDo(const std::function<void()>& action) { QTimer::singleShot(20, &context_, action); }
 
@@ -77,6 +71,7 @@ class WaitingForOthers : public testing::Test {
   PumpingLockWaiter waiter_{box_, std::chrono::milliseconds(5)};
   ItemIndexCache cache_;
   ItemDatabase database_{cache_, waiter_};
+  QString error_;
 };
 
 TEST_F(WaitingForOthers, boxSaysSoWhileEventsRunAndIsThenAsBefore) {
@@ -105,12 +100,10 @@ TEST_F(WaitingForOthers, fileThatIsFreeBringsNoBox) {
 TEST_F(WaitingForOthers, patienceEndsAfterItsSecondsOfHalfSecondSteps) {
   const OtherProcess other(path_, LOCK_EX);
   // The clock runs a hundred times faster: the 30 seconds of reading an index take 0.31 s.
-  QString error;
-  const QByteArray record("\1Anna1111111", 12);
   QElapsedTimer time;
   time.start();
-  EXPECT_FALSE(database_.writeItem(error, 4, path_, 12, record, 60));
-  EXPECT_EQ(error, u"[readAllItems:1 - Database access share error!]"_qs);
+  EXPECT_FALSE(write());
+  EXPECT_EQ(error_, u"[readAllItems:1 - Database access share error!]"_qs);
   EXPECT_GE(time.elapsed(), 300);
   EXPECT_LT(time.elapsed(), 10'000);
   EXPECT_FALSE(box_.isShowing());

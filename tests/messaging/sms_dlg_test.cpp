@@ -53,6 +53,15 @@ TEST_F(SmsPage, pastingStopsAtTheLimitAndKeepsWhatStandsBehindTheCursor) {
   EXPECT_THAT(notifier.takeTexts(), IsEmpty());
 }
 
+TEST_F(SmsPage, charactersThatCountTwiceAreCutFromTheEnd) {
+  paste(QString(700, QChar(u'x')) + "END");
+  editor().moveCursor(QTextCursor::Start);
+  paste(QString(40, QChar(u'~')));
+  EXPECT_EQ(counters(), "5/0");
+  EXPECT_EQ(editor().text(), QString(40, QChar(u'~')) + QString(680, QChar(u'x')));
+  EXPECT_EQ(editor().textCursor().position(), 40);
+}
+
 TEST_F(SmsPage, aPastedZeroCharacterDoesNotEndTheText) {
   paste(QStringLiteral("one") + QChar(u'\0') + QStringLiteral("\r\ntwo"));
   EXPECT_EQ(page.draft().text, "one\ntwo");

@@ -78,7 +78,9 @@ TEST_F(StatusPage, getStatusAsksForTheSelectedRowsInListOrder) {
   EXPECT_EQ(list_->selectionModel()->selectedRows().size(), 2);
   EXPECT_EQ(operations().count(QStringLiteral("getStatus")), 2);
   list_->clearSelection();
+  journal.clear();
   getStatus();
+  EXPECT_THAT(journal, IsEmpty()) << "nothing selected, no box either";
   EXPECT_EQ(operations().count(QStringLiteral("getStatus")), 2);
   EXPECT_THAT(notifier.takeTexts(), IsEmpty());
 }
