@@ -30,13 +30,13 @@ Application::Application(const ProgramOptions& options)
       runner_(progress_),
       gateway_(state_, runner_),
       stores_(*settings_, notifier_, progress_),
-      windows_({state_, *settings_, stores_, gateway_, notifier_, progress_, runner_}) {
+      screens_({state_, *settings_, stores_, gateway_, notifier_, progress_, runner_}) {
   setServiceHost(settings_->serviceHost());
   if (site_.isEmpty()) site_ = QStringLiteral("http://") + settings_->serviceHost();
 }
 
 int Application::run() {
-  StartUp startUp({state_, *settings_, stores_, gateway_, notifier_, progress_, windows_,
+  StartUp startUp({state_, *settings_, stores_, gateway_, notifier_, progress_, screens_,
                    [this] { return locateGateway(); }});
   const int exitCode = startUp.run();
   shutDown(state_, stores_, progress_, runner_);

@@ -7,7 +7,7 @@
 #include "app/core/command_line.h"
 #include "app/disk_stores.h"
 #include "app/notification_notifier.h"
-#include "app/program_windows.h"
+#include "app/program_screens.h"
 #include "base/run_state.h"
 #include "base/settings.h"
 #include "gateway/boxes/progress_box.h"
@@ -35,7 +35,7 @@ class Application {
   ThreadCallRunner runner_;
   Gateway gateway_;
   DiskStores stores_;
-  ProgramWindows windows_;
+  ProgramScreens screens_;
 };
 
 }  // namespace parlexo

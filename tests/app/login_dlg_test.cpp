@@ -7,7 +7,7 @@
 #include <gmock/gmock.h>
 
 #include "app/disk_stores.h"
-#include "app/program_windows.h"
+#include "app/program_screens.h"
 #include "tests/app/run_fakes.h"
 
 namespace parlexo {
@@ -77,7 +77,7 @@ class SessionRenewalTest : public LoginDlgTest {
   }
 
   DiskStores disk_{settings, notifier, progress};
-  ProgramWindows renewal_{{state, settings, disk_, gateway, notifier, progress, runner}};
+  ProgramScreens renewal_{{state, settings, disk_, gateway, notifier, progress, runner}};
   QObject context_;
 };
 

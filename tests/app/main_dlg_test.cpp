@@ -23,7 +23,7 @@
 #include "app/main_tabs.h"
 #include "app/notification_dlg.h"
 #include "app/notification_notifier.h"
-#include "app/program_windows.h"
+#include "app/program_screens.h"
 #include "gateway/boxes/progress_box.h"
 #include "messaging/screens/sms_dlg.h"
 #include "simulator/simulator.h"
@@ -211,7 +211,7 @@ class MainTabsTest : public testing::Test {
   NotificationNotifier notifier_{settings_};
   ProgressBox progress_;
   DiskStores stores_{settings_, notifier_, progress_};
-  ProgramWindows windows_{{state_, settings_, stores_, gateway_, notifier_, progress_, runner_}};
+  ProgramScreens windows_{{state_, settings_, stores_, gateway_, notifier_, progress_, runner_}};
   CMainDlg window_{mainTabs({state_, gateway_, notifier_, progress_, windows_, stores_.addressBook(),
                              stores_.statusLog(), stores_.statusFile(), stores_.templates(), settings_},
                             {stores_.addressBook(), notifier_, progress_, settings_, runner_},

@@ -28,9 +28,9 @@ struct WindowServices {
 };
 
 /// Opens the program's own windows with their real parts behind them.
-class ProgramWindows final : public StartUpWindows, public SessionRenewal {
+class ProgramScreens final : public StartUpWindows, public SessionRenewal {
  public:
-  explicit ProgramWindows(const WindowServices& services) : services_(services) {}
+  explicit ProgramScreens(const WindowServices& services) : services_(services) {}
 
   void showUpgrade(const QString& version) override;
   [[nodiscard]] bool logIn() override;

@@ -1,4 +1,4 @@
-#include "app/program_windows.h"
+#include "app/program_screens.h"
 
 #include <QApplication>
 #include <QScopedValueRollback>
@@ -15,21 +15,21 @@
 
 namespace parlexo {
 
-void ProgramWindows::showUpgrade(const QString& version) {
+void ProgramScreens::showUpgrade(const QString& version) {
   CUpgradeDlg(version, QApplication::activeWindow()).exec();
 }
 
-bool ProgramWindows::logIn() {
+bool ProgramScreens::logIn() {
   LoginFlow flow(services_.state, services_.settings, services_.gateway, services_.notifier);
   CLoginDlg dialog(flow, services_.settings.rememberedUser(), mainWindow_);
   return dialog.exec() == QDialog::Accepted;
 }
 
-void ProgramWindows::logInAgain() {
+void ProgramScreens::logInAgain() {
   if (logIn() && mainWindow_) mainWindow_->setUserName(services_.state.userName);
 }
 
-void ProgramWindows::runMainWindow() {
+void ProgramScreens::runMainWindow() {
   AddressBook& book = services_.stores.addressBook();
   CMainDlg window(mainTabs(
       {services_.state, services_.gateway, services_.notifier, services_.progress, *this, book,
@@ -51,7 +51,7 @@ void ProgramWindows::runMainWindow() {
   services_.settings.setWindowGeometry(window.saveGeometry());
 }
 
-void ProgramWindows::showNews(CMainDlg& window) const {
+void ProgramScreens::showNews(CMainDlg& window) const {
   if (const auto news = fetchNews(services_.gateway)) CNewsDlg(*news, &window).exec();
 }
 
