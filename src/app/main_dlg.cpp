@@ -111,7 +111,7 @@ void CMainDlg::paintEvent(QPaintEvent* event) {
   GradientDialog::paintEvent(event);
   // Earlier than this the window does not know its place on the screen, and a dialog would not stand over it.
   if (std::exchange(hasOpened_, true)) return;
-  addToSystemMenu(*this, text(TextId::AboutMenuEntry), [this] { showAbout(); });
+  addToSystemMenu(*this, text(TextId::AboutMenuEntry));
   QMetaObject::invokeMethod(this, &CMainDlg::opened, Qt::QueuedConnection);
 }
 
@@ -119,6 +119,14 @@ void CMainDlg::keyPressEvent(QKeyEvent* event) {
   // A message half written must not go with a slip of the finger: only Exit and the close box end the
   // program.
   if (event->key() != Qt::Key_Escape) GradientDialog::keyPressEvent(event);
+}
+
+// Only here are both heard: a choice by mouse, and one by Alt+Space, which Qt does not send to the window.
+bool CMainDlg::nativeEvent(const QByteArray& type, void* message, qintptr* result) {
+  if (!choosesSystemMenuEntry(message)) return GradientDialog::nativeEvent(type, message, result);
+  // A dialog opened at once would run inside the delivery of the system's message.
+  QMetaObject::invokeMethod(this, &CMainDlg::showAbout, Qt::QueuedConnection);
+  return true;
 }
 
 void CMainDlg::addHeader(QVBoxLayout& column) {

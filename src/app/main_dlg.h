@@ -45,6 +45,7 @@ class CMainDlg : public GradientDialog {
  protected:
   void paintEvent(QPaintEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
+  bool nativeEvent(const QByteArray& type, void* message, qintptr* result) override;
 
  private:
   void addHeader(QVBoxLayout& column);

@@ -3,6 +3,10 @@
 namespace parlexo {
 
 // Here the menu behind a window's icon belongs to the window manager.
-void addToSystemMenu(QWidget& /*window*/, const QString& /*text*/, const std::function<void()>& /*action*/) {}
+void addToSystemMenu(QWidget& /*window*/, const QString& /*text*/) {}
+
+bool choosesSystemMenuEntry(const void* /*message*/) {
+  return false;
+}
 
 }  // namespace parlexo
