@@ -2,8 +2,6 @@
 
 #include <freexl.h>
 
-#include <QFile>
-
 #include "contacts/import/number_format.h"
 #include "contacts/import/workbook_builder.h"
 #include "contacts/import/workbook_readers.h"
@@ -14,9 +12,7 @@ namespace {
 
 class Workbook {
  public:
-  explicit Workbook(const QString& path) {
-    result_ = freexl_open(QFile::encodeName(path).constData(), &handle_);
-  }
+  explicit Workbook(const QString& path) { result_ = freexl_open(path.toUtf8().constData(), &handle_); }
   ~Workbook() {
     if (handle_) freexl_close(handle_);
   }

@@ -3,7 +3,6 @@
 #include <zip.h>
 
 #include <QByteArrayView>
-#include <QFile>
 
 namespace parlexo {
 
@@ -47,9 +46,7 @@ class ZipArchive::Part final : public QIODevice {
 };
 
 ZipArchive::ZipArchive(const QString& path, qint64 longest, const CancelFlag& cancel)
-    : archive_(zip_open(QFile::encodeName(path).constData(), ZIP_RDONLY, nullptr)),
-      left_(longest),
-      cancel_(cancel) {}
+    : archive_(zip_open(path.toUtf8().constData(), ZIP_RDONLY, nullptr)), left_(longest), cancel_(cancel) {}
 
 ZipArchive::~ZipArchive() {
   if (archive_) zip_discard(archive_);

@@ -54,6 +54,15 @@ TEST(CSpreadSheet, readsTheWorkbooksOfRealProgramsAlike) {
   }
 }
 
+TEST(CSpreadSheet, readsFilesOfAnyName) {
+  const QTemporaryDir folder;
+  for (const char* name : {"openpyxl.xlsx", "libreoffice.ods", "xlwt.xls"}) {
+    const QString path = folder.filePath(QString::fromUtf8("G\u00e4ste \u540d\u7c3f ") + QLatin1String(name));
+    ASSERT_TRUE(QFile::copy(sample(name), path));
+    EXPECT_EQ(problemOf(path).toStdString(), "") << name;
+  }
+}
+
 TEST(CSpreadSheet, leavesOutSheetsWithoutCellsAndKeepsTheirPlaces) {
   for (const char* name : {"openpyxl.xlsx", "xlwt.xls"}) {
     CSpreadSheet book;
