@@ -46,7 +46,10 @@ QString suppressionKey(int messageNumber) {
 Settings::Settings()
     : store_(std::make_unique<QSettings>(QSettings::NativeFormat, QSettings::UserScope, organisation,
                                          application)),
-      programFolder_(defaultProgramFolder()) {}
+      programFolder_(defaultProgramFolder()) {
+  // The user's own values only, not those that other places hold for all programs or all users.
+  store_->setFallbacksEnabled(false);
+}
 
 Settings::Settings(const QString& dataFolder)
     : store_(std::make_unique<QSettings>(inFolder(dataFolder, QStringLiteral("Parlexo Client.conf")),

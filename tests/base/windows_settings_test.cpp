@@ -76,6 +76,7 @@ TEST(RegistrySettings, readWhatAnAdministratorPutThere) {
   EXPECT_EQ(stored(L"Path", L"Contacts"), L"(none)") << "the default is not written";
   store(L"Path", L"Contacts", L"P:\\Team");
   store(L"Settings", L"MessageDontShowAgain147", L"1");
+  store(L"..\\OrganizationDefaults\\Settings", L"MessageDontShowAgain146", L"1");
   Settings settings;
   EXPECT_EQ(settings.contactsFolder(), QStringLiteral("P:\\Team"));
   EXPECT_TRUE(settings.isMessageSuppressed(147));
