@@ -17,21 +17,31 @@ namespace {
 const QUrl address(QStringLiteral("http://gateway.test/WSDLServerLocator.xml"));
 constexpr wchar_t internetSettings[] = L"Software\\Microsoft\\Windows\\CurrentVersion\\Internet Settings";
 
+QString textOfUser(const wchar_t* name) {
+  std::array<wchar_t, 1000> text{};
+  DWORD size = sizeof text;
+  RegGetValueW(HKEY_CURRENT_USER, internetSettings, name, RRF_RT_REG_SZ, nullptr, text.data(), &size);
+  return QString::fromWCharArray(text.data());
+}
+
 /// The proxy in the user's settings; empty when none is switched on.
 QString proxyOfUser() {
   DWORD isOn = 0;
   DWORD size = sizeof isOn;
   RegGetValueW(HKEY_CURRENT_USER, internetSettings, L"ProxyEnable", RRF_RT_REG_DWORD, nullptr, &isOn, &size);
-  std::array<wchar_t, 1000> server{};
-  size = sizeof server;
-  RegGetValueW(HKEY_CURRENT_USER, internetSettings, L"ProxyServer", RRF_RT_REG_SZ, nullptr, server.data(),
-               &size);
-  return isOn ? QString::fromWCharArray(server.data()) : QString();
+  return isOn ? textOfUser(L"ProxyServer") : QString();
 }
 
 TEST(WindowsProxySystem, tellsTheProxyOfTheUsersSettings) {
   const CancelFlag cancel;
   EXPECT_EQ(makeProxySystem()->configuredProxy(address, cancel), proxyOfUser());
+  for (const char* host : {"news.inside.test", "intranet"}) {
+    const bool isExcepted = textOfUser(L"ProxyOverride") == QStringLiteral("*.inside.test;<local>");
+    EXPECT_EQ(
+        makeProxySystem()->configuredProxy(QUrl(QStringLiteral("http://") + QLatin1String(host)), cancel),
+        isExcepted ? QString() : proxyOfUser())
+        << host;
+  }
 }
 
 TEST(WindowsProxySystem, letsTheSystemReadAConfigurationScript) {

@@ -4,12 +4,16 @@
 #include <wininet.h>
 // clang-format on
 
+#include <algorithm>
 #include <array>
 #include <memory>
 #include <type_traits>
 
 #include <QByteArray>
 #include <QFile>
+#include <QNetworkProxy>
+#include <QRegularExpression>
+#include <QStringList>
 
 #include "gateway/core/proxy_system.h"
 
@@ -33,7 +37,9 @@ Function function(const Library& library, const char* name) {
 /// The system's engine for proxy configuration scripts, with one script in it.
 class ScriptEngine {
  public:
-  explicit ScriptEngine(const QByteArray& file) : library_(LoadLibraryW(L"jsproxy.dll")) {
+  explicit ScriptEngine(const QByteArray& file)
+      // Never one of that name that lies beside the program.
+      : library_(LoadLibraryExW(L"jsproxy.dll", nullptr, LOAD_LIBRARY_SEARCH_SYSTEM32)) {
     if (!library_) return;
     end_ = function<pfnInternetDeInitializeAutoProxyDll>(library_, "InternetDeInitializeAutoProxyDll");
     ask_ = function<pfnInternetGetProxyInfo>(library_, "InternetGetProxyInfo");
@@ -70,17 +76,47 @@ class ScriptEngine {
   bool isReady_ = false;
 };
 
+struct ProxySetting {
+  QString proxies;     ///< empty when the user's settings name none
+  QString exceptions;  ///< the hosts that are reached without them
+};
+
+ProxySetting proxySetting() {
+  alignas(INTERNET_PROXY_INFO) std::array<char, settingSize> buffer{};
+  DWORD size = settingSize;
+  if (!InternetQueryOptionA(nullptr, INTERNET_OPTION_PROXY, buffer.data(), &size)) return {};
+  const auto* setting = reinterpret_cast<const INTERNET_PROXY_INFO*>(buffer.data());
+  // The header gives the texts the character type of the build; this call fills in bytes.
+  return {QString::fromLocal8Bit(reinterpret_cast<const char*>(setting->lpszProxy)),
+          QString::fromLocal8Bit(reinterpret_cast<const char*>(setting->lpszProxyBypass))};
+}
+
+/// Whether `host` is one of `exceptions`: patterns such as "*.inside.example", and "<local>" for all names
+/// without a dot.
+bool isExcepted(const QString& host, const QString& exceptions) {
+  static const QRegularExpression separators(QStringLiteral("[;\\s]+"));
+  const QStringList patterns = exceptions.split(separators, Qt::SkipEmptyParts);
+  return std::any_of(patterns.begin(), patterns.end(), [&host](const QString& pattern) {
+    if (pattern == QLatin1String("<local>")) return !host.contains(u'.');
+    return QRegularExpression::fromWildcard(pattern, Qt::CaseInsensitive).match(host).hasMatch();
+  });
+}
+
+/// What a script that the user's settings point to names for `address`.
+QString scriptedProxy(const QUrl& address) {
+  const auto proxies = QNetworkProxyFactory::systemProxyForQuery(QNetworkProxyQuery(address));
+  const QNetworkProxy first = proxies.value(0);
+  if (first.type() != QNetworkProxy::HttpProxy) return {};
+  return QStringLiteral("%1:%2").arg(first.hostName()).arg(first.port());
+}
+
 /// Asks WinINet. Its calls can't be interrupted: a cancelled one is left to end by itself.
 class WindowsProxySystem final : public ProxySystem {
  public:
-  [[nodiscard]] QString configuredProxy(const QUrl& /*address*/,
-                                        const CancelFlag& /*cancel*/) const override {
-    alignas(INTERNET_PROXY_INFO) std::array<char, settingSize> buffer{};
-    DWORD size = settingSize;
-    if (!InternetQueryOptionA(nullptr, INTERNET_OPTION_PROXY, buffer.data(), &size)) return {};
-    const auto* setting = reinterpret_cast<const INTERNET_PROXY_INFO*>(buffer.data());
-    // The header gives the text the character type of the build; this call fills in bytes.
-    return QString::fromLocal8Bit(reinterpret_cast<const char*>(setting->lpszProxy));
+  [[nodiscard]] QString configuredProxy(const QUrl& address, const CancelFlag& cancel) const override {
+    const auto [proxies, exceptions] = proxySetting();
+    if (cancel.isRaised() || isExcepted(address.host(), exceptions)) return {};
+    return proxies.isEmpty() ? scriptedProxy(address) : proxies;
   }
 
   [[nodiscard]] QUrl scriptAddress(const CancelFlag& cancel) const override {
