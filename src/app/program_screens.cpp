@@ -47,7 +47,16 @@ void ProgramScreens::runMainWindow() {
                    [&] { window.setBalance(check.refresh()); });
   QObject::connect(&window, &CMainDlg::opened, &window, [&] { showNews(window); });
   window.restoreGeometry(services_.settings.windowGeometry());
+  // Whoever logs off from the computer gets no chance to leave this window first.
+  QObject::connect(qGuiApp, &QGuiApplication::commitDataRequest, &window, [&] {
+    services_.stores.saveStatusLog();
+    keepGeometry(window);
+  });
   window.exec();
+  keepGeometry(window);
+}
+
+void ProgramScreens::keepGeometry(const CMainDlg& window) const {
   services_.settings.setWindowGeometry(window.saveGeometry());
 }
 

@@ -38,6 +38,7 @@ class ProgramScreens final : public StartUpWindows, public SessionRenewal {
   void logInAgain() override;
 
  private:
+  void keepGeometry(const CMainDlg& window) const;
   /// Nobody is told of news that can't be had.
   void showNews(CMainDlg& window) const;
 
