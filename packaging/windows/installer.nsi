@@ -7,6 +7,9 @@ RequestExecutionLevel user
 SetCompressor /SOLID lzma
 ManifestDPIAware true
 
+!include MUI2.nsh
+!include LogicLib.nsh
+
 !define NAME "Parlexo Client"
 !define UNINSTALL_KEY "Software\Microsoft\Windows\CurrentVersion\Uninstall\${NAME}"
 
@@ -14,8 +17,7 @@ Name "${NAME} ${VERSION}"
 OutFile "${ROOT}/dist/parlexo-client-${VERSION}-setup.exe"
 InstallDir "$LOCALAPPDATA\Programs\${NAME}"
 InstallDirRegKey HKCU "${UNINSTALL_KEY}" "InstallLocation"
-Icon "${ROOT}/build/windows/parlexo-client.ico"
-UninstallIcon "${ROOT}/build/windows/parlexo-client.ico"
+BrandingText "${NAME}"
 VIProductVersion "${VERSION}.0.0"
 VIAddVersionKey "ProductName" "${NAME}"
 VIAddVersionKey "ProductVersion" "${VERSION}"
@@ -23,33 +25,48 @@ VIAddVersionKey "FileVersion" "${VERSION}"
 VIAddVersionKey "FileDescription" "${NAME} setup"
 VIAddVersionKey "LegalCopyright" "Copyright (C) 2026 the Parlexo developers. GPL-3.0-or-later."
 
-LicenseData "${ROOT}/LICENSE"
-Page license
-Page directory
-Page instfiles
-UninstPage uninstConfirm
-UninstPage instfiles
+!define MUI_ICON "${ROOT}/build/windows/parlexo-client.ico"
+!define MUI_UNICON "${ROOT}/build/windows/parlexo-client.ico"
+!define MUI_WELCOMEFINISHPAGE_BITMAP "${ROOT}/build/windows/installer.bmp"
+!define MUI_LICENSEPAGE_BUTTON "&Next >"
+!define MUI_LICENSEPAGE_TEXT_TOP "${NAME} is free software."
+!define MUI_LICENSEPAGE_TEXT_BOTTOM "Nobody has to accept this licence to use the program. \
+It says what you may do beyond that."
+!define MUI_FINISHPAGE_RUN "$INSTDIR\${NAME}.exe"
+!insertmacro MUI_PAGE_LICENSE "${ROOT}/LICENSE"
+!insertmacro MUI_PAGE_DIRECTORY
+!insertmacro MUI_PAGE_INSTFILES
+!insertmacro MUI_PAGE_FINISH
+!define MUI_UNCONFIRMPAGE_TEXT_TOP "${NAME} will be removed. Contacts, templates and Status.xml in its folder, \
+and your settings, stay."
+!insertmacro MUI_UNPAGE_CONFIRM
+!insertmacro MUI_UNPAGE_INSTFILES
+!insertmacro MUI_LANGUAGE "English"
 
-; A program that runs can't be replaced; say so instead of leaving half of it.
-!macro closeFirst SECTION
-  again_${SECTION}:
-  ClearErrors
-  IfFileExists "$INSTDIR\${NAME}.exe" 0 closed_${SECTION}
-  FileOpen $0 "$INSTDIR\${NAME}.exe" a
-  IfErrors 0 release_${SECTION}
-  MessageBox MB_RETRYCANCEL|MB_ICONEXCLAMATION "${NAME} is running. Please close it first." IDRETRY again_${SECTION}
-  Abort
-  release_${SECTION}:
-  FileClose $0
-  closed_${SECTION}:
+; A program that runs can't be replaced or removed; say so instead of leaving half of the work done.
+!macro closeFirst FILE
+  ${DoWhile} ${FileExists} "$INSTDIR\${FILE}"
+    ClearErrors
+    FileOpen $0 "$INSTDIR\${FILE}" a
+    ${IfNot} ${Errors}
+      FileClose $0
+      ${ExitDo}
+    ${EndIf}
+    ${If} ${Cmd} `MessageBox MB_RETRYCANCEL|MB_ICONEXCLAMATION '"${FILE}" is running. Please close it first.' /SD IDCANCEL IDCANCEL`
+      Abort
+    ${EndIf}
+  ${Loop}
 !macroend
 
 Section
-  !insertmacro closeFirst install
+  !insertmacro closeFirst "${NAME}.exe"
+  !insertmacro closeFirst "parlexo-gateway.exe"
+  !insertmacro closeFirst "parlexo-page-counter.exe"
   SetOutPath "$INSTDIR"
   File "${ROOT}/dist/Parlexo Client.exe"
   File "${ROOT}/dist/parlexo-gateway.exe"
   File "${ROOT}/dist/parlexo-page-counter.exe"
+  File "${ROOT}/dist/Libraries.txt"
   File /oname=LICENSE.txt "${ROOT}/LICENSE"
   CreateDirectory "$SMPROGRAMS\${NAME}"
   CreateShortcut "$SMPROGRAMS\${NAME}\${NAME}.lnk" "$INSTDIR\${NAME}.exe"
@@ -63,16 +80,21 @@ Section
   WriteRegStr HKCU "${UNINSTALL_KEY}" "InstallLocation" "$INSTDIR"
   WriteRegStr HKCU "${UNINSTALL_KEY}" "UninstallString" '"$INSTDIR\uninstall.exe"'
   WriteRegStr HKCU "${UNINSTALL_KEY}" "QuietUninstallString" '"$INSTDIR\uninstall.exe" /S'
+  SectionGetSize 0 $0
+  WriteRegDWORD HKCU "${UNINSTALL_KEY}" "EstimatedSize" $0
   WriteRegDWORD HKCU "${UNINSTALL_KEY}" "NoModify" 1
   WriteRegDWORD HKCU "${UNINSTALL_KEY}" "NoRepair" 1
 SectionEnd
 
 ; Contacts, templates, Status.xml and the settings are the user's and stay.
 Section "Uninstall"
-  !insertmacro closeFirst uninstall
+  !insertmacro closeFirst "${NAME}.exe"
+  !insertmacro closeFirst "parlexo-gateway.exe"
+  !insertmacro closeFirst "parlexo-page-counter.exe"
   Delete "$INSTDIR\${NAME}.exe"
   Delete "$INSTDIR\parlexo-gateway.exe"
   Delete "$INSTDIR\parlexo-page-counter.exe"
+  Delete "$INSTDIR\Libraries.txt"
   Delete "$INSTDIR\LICENSE.txt"
   Delete "$INSTDIR\uninstall.exe"
   RMDir "$INSTDIR"
