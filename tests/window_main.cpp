@@ -3,13 +3,22 @@
 #include <QApplication>
 #include <gmock/gmock.h>
 
+#include "base/process_end.h"
 #include "ui/look.h"
 
-int main(int argc, char** argv) {
+namespace {
+
+int runTests(int argc, char** argv) {
   if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
   QApplication application(argc, argv);
   QApplication::setQuitOnLastWindowClosed(false);
   parlexo::applyLook(application);
   testing::InitGoogleMock(&argc, argv);
   return RUN_ALL_TESTS();
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  return parlexo::endProcess(runTests(argc, argv));
 }

@@ -132,7 +132,8 @@ TEST_F(ImportContactsDlgTest, cancelEndsTheImportAtItsNextRow) {
   };
   QTimer::singleShot(0, &dialog_, [&] {
     EXPECT_THAT(dialog_.findChild<QLabel*>("progressText")->text().toStdString(),
-                testing::MatchesRegex("Importing contacts \\([0-9]+ / 20000\\). Please wait..."));
+                testing::AllOf(testing::StartsWith("Importing contacts ("),
+                               testing::EndsWith(" / 20000). Please wait...")));
     press("cancelButton");
   });
   dialog_.startImport();
