@@ -44,6 +44,15 @@ TEST_F(GatewayFaults, faultLastsForOneCallOrUntilItIsCleared) {
   EXPECT_EQ(valueOf(sendSms(), "nErrorCode"), "0");
 }
 
+TEST_F(GatewayFaults, cutAnswerEndsHalfWay) {
+  set("sendSms:cut:next");
+  const QByteArray reply = sendSms();
+  const qsizetype body = reply.size() - reply.indexOf("\r\n\r\n") - 4;
+  const qsizetype announced = reply.mid(reply.indexOf("Content-Length: ") + 16).split('\r').front().toInt();
+  EXPECT_EQ(body, announced / 2);
+  EXPECT_EQ(accepted(), 1U);
+}
+
 TEST_F(GatewayFaults, lateAnswerHoldsUpNobodyElse) {
   set("sendSms:late=1500:next");
   QTcpSocket slow;
