@@ -52,19 +52,38 @@ SharedFile::OpenResult failure(int error) {
   return isHeldByOthers(error) ? SharedFile::OpenResult::SharingViolation : SharedFile::OpenResult::Failed;
 }
 
-// Asking for creation of a file that exists is refused in some shared folders even to those who may write
-// it, so creation is asked for only when there is none.
-int openOrCreate(const char* path, SharedFile::Mode mode) {
-  const int flags = openFlags(mode);
-  const int handle = uninterrupted([=] { return ::open(path, flags); });
-  if (handle != noDescriptor || errno != ENOENT || mode == SharedFile::Mode::Remove) return handle;
-  return uninterrupted([=] { return ::open(path, flags | O_CREAT, newFilePermissions); });
+// An SMB server keeps a removed file until the last user has closed it, and lets nobody open the file or make
+// it anew meanwhile: it looks missing in a folder that is there. So does the target of a link that leads
+// nowhere.
+bool isBeingRemoved(const QByteArray& path) {
+  struct stat status {};
+  const QByteArray folder = path.left(path.lastIndexOf('/') + 1) + '.';
+  if (::stat(folder.constData(), &status) != 0) return false;
+  return ::lstat(path.constData(), &status) != 0 || !S_ISLNK(status.st_mode);
 }
 
-// Whoever waited for the lock may hold a file that was meanwhile deleted; a write into it would be lost.
+// Asking for creation of a file that exists is refused in some shared folders even to those who may write
+// it, so creation is asked for only when there is none.
+int openOrCreate(const QByteArray& path, SharedFile::Mode mode) {
+  const int flags = openFlags(mode);
+  const int handle = uninterrupted([&] { return ::open(path.constData(), flags); });
+  if (handle != noDescriptor || errno != ENOENT || mode == SharedFile::Mode::Remove) return handle;
+  const int created =
+      uninterrupted([&] { return ::open(path.constData(), flags | O_CREAT, newFilePermissions); });
+  if (created == noDescriptor && errno == ENOENT) errno = isBeingRemoved(path) ? EBUSY : ENOENT;
+  return created;
+}
+
+// Whoever waited for the lock may hold a file that was meanwhile deleted; a write into it would be lost. To
+// look at the path is not enough: an SMB mount answers that from memory, but asks the server to open a file,
+// unless it has it open with the very same flags. So these are flags that nothing else here uses.
 bool isAt(const char* path, const struct stat& opened) {
+  const int handle = uninterrupted([=] { return ::open(path, O_RDONLY | O_SYNC | commonFlags); });
+  if (handle == noDescriptor) return false;
   struct stat atPath {};
-  return ::stat(path, &atPath) == 0 && opened.st_dev == atPath.st_dev && opened.st_ino == atPath.st_ino;
+  const bool found = ::fstat(handle, &atPath) == 0;
+  ::close(handle);
+  return found && opened.st_dev == atPath.st_dev && opened.st_ino == atPath.st_ino;
 }
 
 SharedFile::OpenResult lock(int handle, SharedFile::Mode mode) {
@@ -102,7 +121,7 @@ SharedFile::OpenResult SharedFile::open(const QString& path, Mode mode) {
   // The system would end the path there and open another file.
   if (path_.contains('\0')) return OpenResult::Failed;
   for (int tries = 0; tries < replacementTries; ++tries) {
-    const int opened = openOrCreate(path_.constData(), mode);
+    const int opened = openOrCreate(path_, mode);
     if (opened == noDescriptor) return failure(errno);
     handle_ = opened;
     const std::optional<OpenResult> result = lockFile(opened, path_.constData(), mode);

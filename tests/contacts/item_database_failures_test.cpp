@@ -103,7 +103,7 @@ TEST_F(ItemDatabaseFailures, ofReadingHaveTheirMessages) {
   const Case cases[] = {
       {"[readAllItems:2 - Database open error!]", reading(), failing(Call::Open, 0, EACCES)},
       {"[readAllItems:2 - Database open error!]", reading(), failing(Call::Lock, 0, ENOLCK)},
-      {"[readAllItems:3 - Determine database size error!]", reading(), failing(Call::Status, 1, EIO)},
+      {"[readAllItems:3 - Determine database size error!]", reading(), failing(Call::Status, 2, EIO)},
       {"[readAllItems:4 - Out of memory!]", reading(), failing(std::size_t{4 * oddRecordSize})},
       {"[readAllItems:5 - Read from database error!]", reading(), failing(Call::Read, 0, EIO)},
       {"[readAllItems:6 - Unknown error!]", reading(), failing(Call::Read, 0, FailingCall::throwing)},
@@ -118,7 +118,7 @@ TEST_F(ItemDatabaseFailures, ofWritingHaveTheirMessages) {
       {"[readAllItems:5 - Read from database error!]", writing("Anna"), failing(Call::Read, 0, EIO),
        Index::Missing},
       {"[writeItem:3 - Database open error!]", writing("Anna"), failing(Call::Open, 0, EROFS)},
-      {"[writeItem:4 - Determine database size error!]", writing("Anna"), failing(Call::Status, 1, EIO)},
+      {"[writeItem:4 - Determine database size error!]", writing("Anna"), failing(Call::Status, 2, EIO)},
       {"[writeItem:6 - Can't set index position!]", writing("Anna"), failing(Call::Seek, 0, EIO)},
       {"[writeItem:6 - Can't set index position!]", writing("Dora"), failing(Call::Seek, 0, EIO)},
       {"[writeItem:7 - Out of memory!]", writing("Anna"), failing(head)},
@@ -138,7 +138,7 @@ TEST_F(ItemDatabaseFailures, ofWritingHaveTheirMessages) {
 TEST_F(ItemDatabaseFailures, ofDeletingHaveTheirMessages) {
   const Case cases[] = {
       {"[deleteItem:2 - Database access share error!]", deleting("Cleo"), failing(Call::Open, 0, EACCES)},
-      {"[deleteItem:3 - Determine database size error!]", deleting("Cleo"), failing(Call::Status, 1, EIO)},
+      {"[deleteItem:3 - Determine database size error!]", deleting("Cleo"), failing(Call::Status, 2, EIO)},
       {"[deleteItem:4 - Can't set index position!]", deleting("Cleo"), failing(Call::Seek, 0, EIO)},
       {"[deleteItem:5 - Out of memory!]", deleting("Cleo"), failing(std::size_t{oddRecordSize})},
       {"[deleteItem:6 - Read item error!]", deleting("Cleo"), failing(Call::Read, 0, EIO)},
@@ -158,16 +158,23 @@ TEST_F(ItemDatabaseFailures, ofCreatingHaveTheirMessages) {
 TEST_F(ItemDatabaseFailures, fileHeldByServerIsWaitedForAndInterruptedCallsAreRepeated) {
   const struct {
     Call call;
+    int passing;
     int error;
     int pauses;
+    bool isMissing = false;
   } cases[] = {
-      {Call::Open, EBUSY, 1}, {Call::Open, ETXTBSY, 1}, {Call::Lock, EWOULDBLOCK, 1}, {Call::Lock, EACCES, 1},
-      {Call::Open, EINTR, 0}, {Call::Lock, EINTR, 0},   {Call::Read, EINTR, 0},       {Call::Write, EINTR, 0},
+      {Call::Open, 0, EBUSY, 1},        {Call::Open, 0, ETXTBSY, 1},
+      {Call::Open, 1, ENOENT, 1, true},  // a removed file that somebody has open can't be made anew
+      {Call::Open, 1, ENOENT, 0},        // the file was removed between opening and locking
+      {Call::Lock, 0, EWOULDBLOCK, 1},  {Call::Lock, 0, EACCES, 1},
+      {Call::Open, 0, EINTR, 0},        {Call::Lock, 0, EINTR, 0},
+      {Call::Read, 0, EINTR, 0},        {Call::Write, 0, EINTR, 0},
   };
   for (const auto& each : cases) {
     prepare(Index::Right);
+    if (each.isMissing) QFile::remove(path_);
     const qint64 before = waiter_.pauses();
-    const FailingCall fault(each.call, 0, each.error);
+    const FailingCall fault(each.call, each.passing, each.error);
     EXPECT_TRUE(writing("Anna")()) << each.error << qPrintable(error_);
     EXPECT_EQ(fault.failures(), 1);
     EXPECT_EQ(waiter_.pauses() - before, each.pauses) << each.error;

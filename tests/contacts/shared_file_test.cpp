@@ -53,6 +53,8 @@ TEST_F(SharedFileFixture, onlyRemovalLeavesMissingFileMissing) {
   EXPECT_EQ(file.open(path_, Mode::Remove), OpenResult::Failed);
   EXPECT_FALSE(QFileInfo::exists(path_));
   EXPECT_EQ(file.open(pathOf(QStringLiteral("none/shared")), Mode::Write), OpenResult::Failed);
+  QFile::link(QStringLiteral("none/shared"), pathOf(QStringLiteral("link")));
+  EXPECT_EQ(file.open(pathOf(QStringLiteral("link")), Mode::Write), OpenResult::Failed);
   EXPECT_EQ(file.open(path_, Mode::Read), OpenResult::Opened);
   EXPECT_EQ(file.size(), 0);
 }
