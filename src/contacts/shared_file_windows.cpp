@@ -35,6 +35,15 @@ HANDLE handleOf(std::intptr_t number) {
   return reinterpret_cast<HANDLE>(number);
 }
 
+// Programs that reach the folder over SMB from elsewhere can't shut anybody out by a share mode; while they
+// read, they hold a lock on the whole file instead. An eraser must not come in then, nor let them in.
+bool isLockedElsewhere(HANDLE handle) {
+  OVERLAPPED fromTheStart{};
+  constexpr DWORD how = LOCKFILE_EXCLUSIVE_LOCK | LOCKFILE_FAIL_IMMEDIATELY;
+  if (LockFileEx(handle, how, 0, MAXDWORD, MAXLONG, &fromTheStart)) return false;
+  return GetLastError() == ERROR_LOCK_VIOLATION;
+}
+
 // What was appended of a record that did not fit must not shift those that come later.
 void cutBack(HANDLE handle, qint64 length) {
   LARGE_INTEGER end;
@@ -60,9 +69,11 @@ SharedFile::OpenResult SharedFile::open(const QString& path, Mode mode) {
     return GetLastError() == ERROR_SHARING_VIOLATION ? OpenResult::SharingViolation : OpenResult::Failed;
   handle_ = reinterpret_cast<std::intptr_t>(handle);
   // Names such as "con" and "nul" open devices in whatever folder they are looked for.
-  if (GetFileType(handle) == FILE_TYPE_DISK) return OpenResult::Opened;
+  const bool isFile = GetFileType(handle) == FILE_TYPE_DISK;
+  const bool isInUse = isFile && mode == Mode::Erase && isLockedElsewhere(handle);
+  if (isFile && !isInUse) return OpenResult::Opened;
   close();
-  return OpenResult::Failed;
+  return isInUse ? OpenResult::SharingViolation : OpenResult::Failed;
 }
 
 void SharedFile::close() {

@@ -1,3 +1,5 @@
+#include <windows.h>
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QProcess>
@@ -65,6 +67,28 @@ TEST_F(SharingBetweenProcesses, modesShutOthersOut) {
     SharedFile file;
     EXPECT_EQ(file.open(path_, Mode::Write), opened);
   }
+}
+
+// So does a reader of the program for other systems look that has the folder mounted over SMB.
+TEST_F(SharingBetweenProcesses, eraserAndAReaderThatSharesEverythingButHoldsALockShutEachOtherOut) {
+  constexpr DWORD everything = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+  const HANDLE reader = CreateFileW(QDir::toNativeSeparators(path_).toStdWString().c_str(), GENERIC_READ,
+                                    everything, nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
+  ASSERT_NE(reader, INVALID_HANDLE_VALUE);
+  const auto locks = [reader] {
+    OVERLAPPED fromTheStart{};
+    return LockFileEx(reader, LOCKFILE_FAIL_IMMEDIATELY, 0, MAXDWORD, MAXLONG, &fromTheStart) != 0;
+  };
+  SharedFile eraser;
+  ASSERT_TRUE(locks());
+  EXPECT_EQ(eraser.open(path_, Mode::Erase), OpenResult::SharingViolation);
+  EXPECT_TRUE(UnlockFile(reader, 0, 0, MAXDWORD, MAXLONG));
+  EXPECT_EQ(eraser.open(path_, Mode::Erase), OpenResult::Opened);
+  EXPECT_FALSE(locks());
+  EXPECT_TRUE(eraser.write(QByteArrayView("0", 1)));
+  eraser.close();
+  EXPECT_TRUE(locks());
+  CloseHandle(reader);
 }
 
 TEST_F(SharingBetweenProcesses, writerWaitsForAReaderElsewhereAndGivesUpAfterTheTimeout) {
