@@ -14,6 +14,7 @@
 #include <QCommandLineParser>
 #include <QCoreApplication>
 #include <QDir>
+#include <QStringList>
 #include <QTemporaryDir>
 
 #include "tools/contact_store_stress/journal.h"
@@ -28,8 +29,10 @@ using namespace parlexo::stress;
 struct RunOptions {
   int processes = 4;
   int seconds = 5;
+  int killWithin = 100;  // milliseconds
   std::uint64_t seed = 1;
-  QString folder;
+  QStringList folders;  // ways to one contacts folder, which the processes take in turn
+  QString journals;
   bool groups = false;
 };
 
@@ -38,30 +41,34 @@ class Arena {
  public:
   explicit Arena(const RunOptions& options)
       : options_(options),
-        folder_(options.folder.toStdString()),
         random_(options.seed),
         until_(nowNanoseconds() + options.seconds * std::int64_t{1'000'000'000}) {}
 
   void run() {
     for (int i = 0; i < options_.processes; ++i) startWorker();
     while (nowNanoseconds() < until_) {
-      const timespec moment = {0, static_cast<long>(random_() % 100'000'000)};
-      ::nanosleep(&moment, nullptr);
+      const auto longest = options_.killWithin * std::uint64_t{1'000'000};
+      pause(std::min(static_cast<std::int64_t>(random_() % longest), until_ - nowNanoseconds()));
       killSomebody();
       startWorker();
     }
     for (const auto& [process, number] : workers_) ::waitpid(process, nullptr, 0);
   }
 
-  [[nodiscard]] const std::string& folder() const { return folder_; }
   [[nodiscard]] const std::vector<std::string>& journals() const { return journals_; }
   [[nodiscard]] int killed() const { return killed_; }
 
  private:
+  static void pause(std::int64_t nanoseconds) {
+    const timespec moment = {nanoseconds / 1'000'000'000, nanoseconds % 1'000'000'000};
+    ::nanosleep(&moment, nullptr);
+  }
+
   void startWorker() {
     const int number = static_cast<int>(journals_.size());
-    journals_.push_back(folder_ + "/journal-" + std::to_string(number));
-    const WorkerTask task = {folder_, journals_.back(), number, random_(), until_};
+    journals_.push_back(options_.journals.toStdString() + "/journal-" + std::to_string(number));
+    const QString& folder = options_.folders[number % options_.folders.size()];
+    const WorkerTask task = {folder.toStdString(), journals_.back(), number, random_(), until_};
     const pid_t process = ::fork();
     if (process == 0) {
       options_.groups ? workOnGroups(task) : workOnContacts(task);
@@ -81,7 +88,6 @@ class Arena {
   }
 
   const RunOptions& options_;
-  std::string folder_;
   std::mt19937_64 random_;
   std::int64_t until_;
   std::map<pid_t, int> workers_;
@@ -89,32 +95,49 @@ class Arena {
   int killed_ = 0;
 };
 
-RunOptions parseOptions(const QCoreApplication& application) {
-  QCommandLineParser parser;
+void describeOptions(QCommandLineParser& parser) {
   parser.setApplicationDescription(QStringLiteral(
       "Lets processes work in one contacts folder, kills some, and checks that nothing promised was lost."));
   parser.addHelpOption();
-  parser.addOptions({{QStringLiteral("processes"), QStringLiteral("How many work at the same time."),
-                      QStringLiteral("N"), QStringLiteral("4")},
-                     {QStringLiteral("seconds"), QStringLiteral("How long they work."), QStringLiteral("S"),
-                      QStringLiteral("5")},
-                     {QStringLiteral("seed"), QStringLiteral("Seed of what they choose and when they die."),
-                      QStringLiteral("K"), QStringLiteral("1")},
-                     {QStringLiteral("folder"),
-                      QStringLiteral("Where to work, and leave the files; a temporary folder without it."),
-                      QStringLiteral("DIR")},
-                     {QStringLiteral("groups"),
-                      QStringLiteral("Delete group files and make them anew under the others' hands.")}});
+  parser.addOptions(
+      {{QStringLiteral("processes"), QStringLiteral("How many work at the same time."), QStringLiteral("N"),
+        QStringLiteral("4")},
+       {QStringLiteral("seconds"), QStringLiteral("How long they work."), QStringLiteral("S"),
+        QStringLiteral("5")},
+       {QStringLiteral("kill-within"),
+        QStringLiteral("The longest time until the next of them is killed, in milliseconds."),
+        QStringLiteral("MS"), QStringLiteral("100")},
+       {QStringLiteral("seed"), QStringLiteral("Seed of what they choose and when they die."),
+        QStringLiteral("K"), QStringLiteral("1")},
+       {QStringLiteral("folder"),
+        QStringLiteral("Where to work, and leave the files; a temporary folder without it. Given "
+                       "several times: ways to one folder, such as mounts of one share."),
+        QStringLiteral("DIR")},
+       {QStringLiteral("journals"),
+        QStringLiteral("Where the processes keep their journals; the first folder without it."),
+        QStringLiteral("DIR")},
+       {QStringLiteral("groups"),
+        QStringLiteral("Delete group files and make them anew under the others' hands.")}});
+}
+
+RunOptions parseOptions(const QCoreApplication& application) {
+  QCommandLineParser parser;
+  describeOptions(parser);
   parser.process(application);
   bool processesOk = false;
   bool secondsOk = false;
+  bool killWithinOk = false;
   bool seedOk = false;
   RunOptions options = {parser.value(QStringLiteral("processes")).toInt(&processesOk),
                         parser.value(QStringLiteral("seconds")).toInt(&secondsOk),
+                        parser.value(QStringLiteral("kill-within")).toInt(&killWithinOk),
                         parser.value(QStringLiteral("seed")).toULongLong(&seedOk),
-                        parser.value(QStringLiteral("folder")), parser.isSet(QStringLiteral("groups"))};
-  if (!processesOk || !secondsOk || !seedOk || options.processes < 1 || options.seconds < 1) {
-    std::fputs("Processes, seconds and seed are whole numbers, the first two at least 1.\n", stderr);
+                        parser.values(QStringLiteral("folder")),
+                        parser.value(QStringLiteral("journals")),
+                        parser.isSet(QStringLiteral("groups"))};
+  if (!processesOk || !secondsOk || !killWithinOk || !seedOk || options.processes < 1 ||
+      options.seconds < 1 || options.killWithin < 1) {
+    std::fputs("The numbers are whole ones, and all but the seed at least 1.\n", stderr);
     std::exit(2);
   }
   return options;
@@ -128,8 +151,7 @@ bool report(const char* what, const Verdict& verdict) {
   return verdict.problems.empty() && verdict.acknowledged > 0;
 }
 
-bool isStoreSound(const Arena& arena, bool groups) {
-  const std::string& folder = arena.folder();
+bool isStoreSound(const Arena& arena, const std::string& folder, bool groups) {
   std::printf("%zu processes, %d killed\n", arena.journals().size(), arena.killed());
   if (groups) return report("groups", judgeGroups(groupPaths(folder), arena.journals()));
   std::vector<std::string> memberJournals;
@@ -144,12 +166,14 @@ int main(int argc, char** argv) {
   const QCoreApplication application(argc, argv);
   RunOptions options = parseOptions(application);
   const QTemporaryDir temporary;
-  if (options.folder.isEmpty()) options.folder = temporary.path();
-  if (!QDir().mkpath(options.folder) || !QDir(options.folder).isEmpty()) {
-    std::fprintf(stderr, "%s can't be made or is not empty.\n", qUtf8Printable(options.folder));
+  if (options.folders.isEmpty()) options.folders = QStringList(temporary.path());
+  if (options.journals.isEmpty()) options.journals = options.folders.first();
+  for (const QString& folder : options.folders + QStringList(options.journals)) {
+    if (QDir().mkpath(folder) && QDir(folder).isEmpty()) continue;
+    std::fprintf(stderr, "%s can't be made or is not empty.\n", qUtf8Printable(folder));
     return 2;
   }
   Arena arena(options);
   arena.run();
-  return isStoreSound(arena, options.groups) ? 0 : 1;
+  return isStoreSound(arena, options.folders.first().toStdString(), options.groups) ? 0 : 1;
 }

@@ -7,6 +7,7 @@
 #include <optional>
 
 #include "contacts/item_database.h"
+#include "tools/contact_store_stress/worker.h"
 
 namespace parlexo::stress {
 
@@ -117,7 +118,7 @@ Verdict judgeGroups(const std::vector<std::string>& databases, const std::vector
   Verdict verdict;
   const History history = readHistory(journals, verdict);
   for (const std::string& database : databases) {
-    const std::string prefix = database + '|';
+    const std::string prefix = groupPrefix(database);
     const Contents contents = readContents(Kind::Members, database, verdict);
     const auto removed = history.find(prefix);
     const auto removals = removed == history.end() ? std::vector<Operation>() : removed->second;

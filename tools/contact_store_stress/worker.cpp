@@ -150,7 +150,7 @@ void workOnGroups(const WorkerTask& task) {
   JournalWriter journal(task.journal);
   std::vector<JournaledStore> groups;
   for (const std::string& path : groupPaths(task.folder))
-    groups.emplace_back(Kind::Members, path, journal, process.database, path + '|');
+    groups.emplace_back(Kind::Members, path, journal, process.database, groupPrefix(path));
   while (process.hasTime()) {
     JournaledStore& group = groups[process.pick(groups.size())];
     const std::string key = "member " + std::to_string(process.pick(groupKeys));
@@ -166,6 +166,10 @@ void workOnGroups(const WorkerTask& task) {
     else
       group.write(key, {});
   }
+}
+
+std::string groupPrefix(const std::string& path) {
+  return path.substr(path.rfind('/') + 1) + '|';
 }
 
 std::string memberJournal(const std::string& journal) {
