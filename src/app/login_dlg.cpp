@@ -13,6 +13,7 @@
 #include "ui/look.h"
 #include "ui/page_controls.h"
 #include "ui/picture_button.h"
+#include "ui/unsendable_hint.h"
 
 namespace parlexo {
 
@@ -59,6 +60,9 @@ void CLoginDlg::addFields(QVBoxLayout& column, const QString& rememberedUser) {
   addRow(0, QStringLiteral("User Name:"), user_);
   addRow(1, QStringLiteral("Password:"), password_);
   column.addLayout(grid);
+  auto* hint = new UnsendableHint(this);
+  hint->watch({user_, password_});
+  column.addWidget(hint);
   (rememberedUser.isEmpty() ? user_ : password_)->setFocus();
 }
 

@@ -11,7 +11,7 @@ namespace {
 TEST(FileFacts, tellNameSizeLimitAndWhatIsWrong) {
   const QTemporaryDir folder;
   const auto write = [&folder](const char* name, qsizetype size) {
-    return writeBytes(folder.filePath(QString::fromLatin1(name)), QByteArray(size, 'x'));
+    return writeBytes(folder.filePath(QString::fromUtf8(name)), QByteArray(size, 'x'));
   };
   constexpr qint64 limit = 51'200;
   const struct {
@@ -23,12 +23,15 @@ TEST(FileFacts, tellNameSizeLimitAndWhatIsWrong) {
       {write("c.jpg", 35'021), "c.jpg: 34.2 KB of at most 50 KB"},
       {write("d.jpg", 51'200), "d.jpg: 50 KB of at most 50 KB"},
       {write("e.jpg", 51'201), "e.jpg: 51,201 bytes, but at most 51,200 bytes can be sent"},
+      {write("Gr\xC3\xBC\xC3\x9F \xE4\xBD\xA0.jpg", 1),
+       "Gr\xC3\xBC\xC3\x9F \xE4\xBD\xA0.jpg: 1 byte of at most 50 KB, will be sent as \"Gr\xC3\xBC\xC3\x9F "
+       "?.jpg\""},
       {write("empty", 0), "empty: empty"},
       {folder.path(), "This is a folder or a device, not a file."},
       {folder.filePath("missing"), "There is no such file."},
   };
   for (const auto& sample : samples)
-    EXPECT_EQ(fileFacts(sample.path, limit).text(), QString::fromLatin1(sample.text));
+    EXPECT_EQ(fileFacts(sample.path, limit).text(), QString::fromUtf8(sample.text));
   FileFacts fax = fileFacts(write("f.pdf", 254), limit);
   fax.pages = 1;
   EXPECT_EQ(fax.text(), "f.pdf: 254 bytes of at most 50 KB, 1 page");

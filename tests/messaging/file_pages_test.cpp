@@ -195,6 +195,10 @@ TEST_F(WapPage, countsItsNoteAndSetsNoSenderId) {
   EXPECT_EQ(remaining.text(), "120");
   QTest::keyClicks(&note, "Hi");
   EXPECT_EQ(remaining.text(), "118");
+  const auto& lacking = find<QLabel>("unsendableCharacters");
+  EXPECT_EQ(lacking.text(), "");
+  note.setText(QString::fromUtf8("\u4F60"));
+  EXPECT_EQ(lacking.text(), QString::fromUtf8("Will be sent as \"?\":  \u4F60"));
   QTest::keyClicks(&note, QString(130, QChar(u'x')));
   EXPECT_EQ(remaining.text(), "0");
   EXPECT_EQ(page.draft().note.size(), 120);

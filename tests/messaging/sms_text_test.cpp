@@ -108,14 +108,6 @@ TEST(SmsParts, cursorIsInThePartOfTheCharacterBeforeIt) {
     EXPECT_EQ(partAt(text, charset, cursor), part) << text.size() << " at " << cursor;
 }
 
-TEST(UnsendableCharacters, areListedOnceAsTheReaderSeesThem) {
-  const QString family = QString::fromUtf8("\U0001F468\u200D\U0001F469");
-  EXPECT_EQ(unsendableCharacters(QString::fromUtf8("\u4F60a\u20AC\u00E9\u4F60\u200B\u0161 ") + family),
-            QStringList({QString::fromUtf8("\u4F60"), "U+200B", family}));
-  EXPECT_EQ(unsendableCharacters(QString::fromUtf8("e\u0301")), QStringList(QString::fromUtf8("e\u0301")));
-  EXPECT_TRUE(unsendableCharacters(QString::fromUtf8("tab\tline\r\n[\u0081]")).isEmpty());
-}
-
 TEST(UnicodeForm, isReadBackOnlyWhenWhole) {
   const QString text = QString::fromUtf8("A\u4F60\U0001F600");
   EXPECT_EQ(decodedUnicodeSms(composeSms(text, unicode).transmitText), text);

@@ -11,6 +11,7 @@
 #include "base/run_state.h"
 #include "ui/page_controls.h"
 #include "ui/picture_button.h"
+#include "ui/unsendable_hint.h"
 
 namespace parlexo {
 namespace {
@@ -19,7 +20,7 @@ constexpr int filterColumn = 3;  // of the grid; the columns before it are for t
 
 // What the gateway will make of a text, which knows no other characters than those of the code page.
 QString asSent(const QLineEdit& edit) {
-  return fromCodePage(toCodePage(edit.text()));
+  return throughCodePage(edit.text());
 }
 
 }  // namespace
@@ -33,6 +34,9 @@ EmailPreferencesPanel::EmailPreferencesPanel(const AccountServices& services, QW
   grid->setColumnStretch(filterColumn + 1, 1);
   createSwitches(*grid);
   createFilter(*grid);
+  auto* hint = new UnsendableHint(this);
+  hint->watch({code_, addresses_[0], addresses_[1], addresses_[2]});
+  grid->addWidget(hint, grid->rowCount(), 0, 1, -1);
   show(held_);
   load();
 }
@@ -142,7 +146,8 @@ void EmailPreferencesPanel::enableWhatCounts() {
         static_cast<QWidget*>(endKeyword_), static_cast<QWidget*>(filter_)})
     control->setEnabled(isOn);
   for (QLineEdit* address : addresses_) address->setEnabled(isOn && filter_->isChecked());
-  for (auto* label : findChildren<QLabel*>()) label->setEnabled(label->buddy()->isEnabled());
+  for (auto* label : findChildren<QLabel*>())
+    if (label->buddy()) label->setEnabled(label->buddy()->isEnabled());
 }
 
 void EmailPreferencesPanel::focusWhatMayMiss() {

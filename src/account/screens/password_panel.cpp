@@ -6,6 +6,7 @@
 #include "ui/look.h"
 #include "ui/page_controls.h"
 #include "ui/picture_button.h"
+#include "ui/unsendable_hint.h"
 
 namespace parlexo {
 
@@ -21,6 +22,9 @@ PasswordPanel::PasswordPanel(const AccountServices& services, QWidget* parent)
   connect(button, &PictureButton::clicked, this, &PasswordPanel::change);
   auto* column = new QVBoxLayout(this);
   column->addLayout(form);
+  auto* hint = new UnsendableHint(this);
+  hint->watch({old_, new_, retyped_});
+  column->addWidget(hint);
   column->addStretch(1);
   column->addWidget(button, 0, Qt::AlignRight);
 }

@@ -10,6 +10,7 @@
 #include "ui/look.h"
 #include "ui/page_controls.h"
 #include "ui/picture_button.h"
+#include "ui/unsendable_hint.h"
 
 namespace parlexo {
 
@@ -58,6 +59,9 @@ void CProxyLoginDlg::addFields(QVBoxLayout& column, const ProxyAddress& proxy) {
   host_ = addRow(*grid, "proxyHost", QStringLiteral("Proxy Host / Address:"));
   port_ = addRow(*grid, "proxyPort", QStringLiteral("Proxy Port:"));
   column.addLayout(grid);
+  auto* hint = new UnsendableHint(this);
+  hint->watch({user_, password_});
+  column.addWidget(hint);
   if (!proxy.isEmpty()) {
     host_->setText(proxy.host);
     port_->setText(QString::number(proxy.port));

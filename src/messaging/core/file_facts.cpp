@@ -2,6 +2,7 @@
 
 #include <QFileInfo>
 
+#include "base/code_page.h"
 #include "base/data_size.h"
 
 namespace parlexo {
@@ -14,6 +15,12 @@ FileFacts::State stateOf(const QFileInfo& file, qint64 limit) {
   if (!file.isReadable() || !file.isWritable()) return State::Unwritable;
   if (file.size() > limit) return State::TooLarge;
   return file.size() == 0 ? State::Empty : State::Sendable;
+}
+
+// The name travels with the file.
+QString sentNameText(const QString& name) {
+  if (fitsCodePage(name)) return {};
+  return QStringLiteral(", will be sent as \"%1\"").arg(throughCodePage(name));
 }
 
 QString pagesText(const std::optional<int>& pages) {
@@ -42,8 +49,10 @@ QString FileFacts::text() const {
       return name + QStringLiteral(": %1%2, but at most %3 can be sent")
                         .arg(exactSizeText(size), pagesText(pages), exactSizeText(limit));
     case State::Sendable:
-      return name + QStringLiteral(": %1 of at most %2%3")
-                        .arg(dataSizeText(size), dataSizeText(limit), pagesText(pages));
+      return name +
+             QStringLiteral(": %1 of at most %2%3")
+                 .arg(dataSizeText(size), dataSizeText(limit), pagesText(pages)) +
+             sentNameText(name);
   }
   Q_UNREACHABLE();
 }

@@ -3,9 +3,6 @@
 #include <algorithm>
 #include <string_view>
 
-#include <QSet>
-#include <QTextBoundaryFinder>
-
 #include "base/code_page.h"
 
 namespace parlexo {
@@ -33,14 +30,6 @@ int roundedUp(int count, int divisor) {
 
 int partsOf(int count, const SmsLimits& limits) {
   return count <= limits.oneMessage ? 1 : roundedUp(count, limits.part);
-}
-
-// The character itself, or its number where it would leave nothing to see.
-QString readable(const QString& character) {
-  const auto isSeen = [](char32_t point) { return QChar::isPrint(point) && !QChar::isSpace(point); };
-  const auto points = character.toUcs4();
-  if (std::any_of(points.begin(), points.end(), isSeen)) return character;
-  return QStringLiteral("U+") + QString::number(points.front(), 16).toUpper().rightJustified(4, QChar(u'0'));
 }
 
 // The longest beginning of `text` that counts at most `limit` units. Every character counts at least one,
@@ -122,21 +111,6 @@ SmsPart partAt(const QString& editorText, SmsCharset charset, qsizetype cursor) 
   if (all <= limits.oneMessage) return {};
   const int before = countOf(QStringView(editorText).left(cursor), charset);
   return {std::max(1, roundedUp(before, limits.part)), roundedUp(all, limits.part)};
-}
-
-QStringList unsendableCharacters(const QString& editorText) {
-  QStringList found;
-  QSet<QString> seen;
-  QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, editorText);
-  qsizetype begin = 0;
-  for (qsizetype end = finder.toNextBoundary(); end >= 0; end = finder.toNextBoundary()) {
-    const QString character = editorText.mid(begin, end - begin);
-    begin = end;
-    if (fitsCodePage(character) || seen.contains(character)) continue;
-    seen.insert(character);
-    found.append(readable(character));
-  }
-  return found;
 }
 
 std::optional<QString> decodedUnicodeSms(const QString& transmitText) {

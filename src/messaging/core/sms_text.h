@@ -3,7 +3,6 @@
 #include <optional>
 
 #include <QString>
-#include <QStringList>
 
 namespace parlexo {
 
@@ -58,10 +57,6 @@ struct SmsPart {
 /// The part that holds the character before `cursor`, an index into `editorText`; so the end of the text lies
 /// in the last part, however full that is.
 [[nodiscard]] SmsPart partAt(const QString& editorText, SmsCharset charset, qsizetype cursor);
-
-/// The characters of `editorText`, as a reader sees them, that the standard character set lacks: each once,
-/// in the order in which they come. One that draws nothing is given by its number, as in "U+200B".
-[[nodiscard]] QStringList unsendableCharacters(const QString& editorText);
 
 /// The text that a Unicode text in the form that travels stands for. Nothing unless the prefix is followed by
 /// one or more whole groups of four hexadecimal digits and nothing else.

@@ -15,6 +15,7 @@
 #include "messaging/screens/picture_preview.h"
 #include "messaging/screens/recipients_panel.h"
 #include "ui/page_controls.h"
+#include "ui/unsendable_hint.h"
 
 namespace parlexo {
 namespace {
@@ -127,7 +128,7 @@ QLayout* FilePage::noteArea() {
   auto* area = new QGridLayout;
   area->setVerticalSpacing(6);
   area->setHorizontalSpacing(14);
-  area->addWidget(labelFor(note_, kind_.noteLabel), 0, 0);
+  area->addLayout(noteHeading(), 0, 0);
   area->addWidget(note_, 1, 0);
   if (kind_.countsNote) area->addLayout(counterRow(), 2, 0);
   if (kind_.previewsPicture) addPreview(*area);
@@ -135,6 +136,16 @@ QLayout* FilePage::noteArea() {
   area->setRowStretch(1, 1);
   area->setRowMinimumHeight(1, fewestNoteLines * note_->fontMetrics().lineSpacing() + noteMargins);
   return area;
+}
+
+QLayout* FilePage::noteHeading() {
+  auto* hint = new UnsendableHint(this);
+  connect(note_, &MessageEdit::textChanged, hint, [this, hint] { hint->follow(note_->text()); });
+  auto* row = new QHBoxLayout;
+  row->setSpacing(14);
+  row->addWidget(labelFor(note_, kind_.noteLabel));
+  row->addWidget(hint, 1);
+  return row;
 }
 
 void FilePage::addPreview(QGridLayout& area) {

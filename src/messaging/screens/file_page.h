@@ -42,6 +42,7 @@ class FilePage : public SendPage {
 
   [[nodiscard]] QLayout* messageArea();
   [[nodiscard]] QLayout* noteArea();
+  [[nodiscard]] QLayout* noteHeading();
   void addPreview(QGridLayout& area);
   [[nodiscard]] QLayout* counterRow();
   void recount();

@@ -11,6 +11,7 @@
 #include "ui/look.h"
 #include "ui/page_controls.h"
 #include "ui/picture_button.h"
+#include "ui/unsendable_hint.h"
 
 namespace parlexo {
 namespace {
@@ -63,8 +64,10 @@ void CSenderIdDlg::createLayout(const QString& current) {
   edit_->setObjectName(QStringLiteral("senderIdEdit"));
   layout->addWidget(labelFor(edit_, QStringLiteral("&Any Mobile Sender ID:")));
   layout->addWidget(edit_);
+  auto* hint = new UnsendableHint(this);
+  hint->watch({edit_});
+  layout->addWidget(hint);
   layout->addStretch(1);
-  layout->addSpacing(4);
   layout->addLayout(senderIdButtons(*this));
 }
 

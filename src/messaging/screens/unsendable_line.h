@@ -4,11 +4,10 @@
 
 #include "messaging/core/sms_text.h"
 
-class QLabel;
-
 namespace parlexo {
 
 class HyperlinkLabel;
+class UnsendableHint;
 
 /// The quiet line below a message that tells which of its characters the standard character set lacks, and
 /// offers the way out. Empty, but in its place, when there are none.
@@ -26,7 +25,7 @@ class UnsendableLine final : public QWidget {
   void unicodeRequested();
 
  private:
-  QLabel* characters_ = nullptr;
+  UnsendableHint* hint_ = nullptr;
   HyperlinkLabel* switch_ = nullptr;
 };
 

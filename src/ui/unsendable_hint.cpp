@@ -1,0 +1,58 @@
+#include "ui/unsendable_hint.h"
+
+#include <algorithm>
+
+#include <QLineEdit>
+
+#include "base/unsendable_characters.h"
+
+namespace parlexo {
+namespace {
+
+// As many as a narrow page has room for; the rest is an ellipsis.
+constexpr int mostCharactersShown = 8;
+
+QString hintOf(QStringList characters) {
+  if (characters.isEmpty()) return {};
+  const bool isCut = characters.size() > mostCharactersShown;
+  characters = characters.mid(0, mostCharactersShown);
+  if (isCut) characters.append(QString(QChar(u'\u2026')));
+  return QStringLiteral("Will be sent as \"?\":  ") + characters.join(QStringLiteral("  "));
+}
+
+bool isPassword(const QLineEdit* field) {
+  return field->echoMode() != QLineEdit::Normal;
+}
+
+}  // namespace
+
+UnsendableHint::UnsendableHint(QWidget* parent) : QLabel(parent) {
+  setObjectName(QStringLiteral("unsendableCharacters"));
+  setTextFormat(Qt::PlainText);
+  // A long list is cut off; it must not widen the window.
+  setMinimumSize(1, fontMetrics().lineSpacing());
+}
+
+void UnsendableHint::follow(const QString& text) {
+  setText(hintOf(unsendableCharacters(text)));
+}
+
+void UnsendableHint::watch(const QList<QLineEdit*>& fields) {
+  for (QLineEdit* field : fields)
+    connect(field, &QLineEdit::textChanged, this, [this, fields] { tellOf(fields); });
+  tellOf(fields);
+}
+
+void UnsendableHint::tellOf(const QList<QLineEdit*>& fields) {
+  QString readable;
+  for (const QLineEdit* field : fields)
+    if (!isPassword(field)) readable += field->text();
+  QStringList characters = unsendableCharacters(readable);
+  if (std::any_of(fields.begin(), fields.end(), [](const QLineEdit* field) {
+        return isPassword(field) && !unsendableCharacters(field->text()).isEmpty();
+      }))
+    characters.prepend(QStringLiteral("characters of the password"));
+  setText(hintOf(characters));
+}
+
+}  // namespace parlexo
