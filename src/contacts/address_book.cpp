@@ -49,14 +49,14 @@ bool AddressBook::saveContact(const ContactRecord& contact, bool writeToFile) {
   return false;
 }
 
-bool AddressBook::deleteContact(const QString& name) {
+bool AddressBook::deleteContact(const QString& name, bool writeToFile) {
   const auto found = contacts_.find(name);
   if (found == contacts_.end()) return true;
   // `name` may be a key of a group's members, which goes before the contact does.
   const QString& ownName = found->first;
-  bool written = deleteName(contactsPath(), packName(ownName), contactRecordSize);
+  bool written = !writeToFile || deleteName(contactsPath(), packName(ownName), contactRecordSize);
   for (auto& [groupName, group] : groups_)
-    if (group.contains(ownName)) written = deleteMember(group, ownName) && written;
+    if (group.contains(ownName)) written = deleteMember(group, ownName, writeToFile) && written;
   ++revision_;
   contacts_.erase(found);
   return written;
@@ -114,13 +114,14 @@ bool AddressBook::addMember(const QString& groupName, const QString& contactName
   return false;
 }
 
-bool AddressBook::removeMember(const QString& groupName, const QString& contactName) {
+bool AddressBook::removeMember(const QString& groupName, const QString& contactName, bool writeToFile) {
   const auto group = groups_.find(groupName);
-  return group != groups_.end() && deleteMember(group->second, contactName);
+  return group != groups_.end() && deleteMember(group->second, contactName, writeToFile);
 }
 
-bool AddressBook::deleteMember(GroupFile& group, const QString& contactName) {
-  const bool written = deleteName(groupPath(group.name()), packName(contactName), memberRecordSize);
+bool AddressBook::deleteMember(GroupFile& group, const QString& contactName, bool writeToFile) {
+  const bool written =
+      !writeToFile || deleteName(groupPath(group.name()), packName(contactName), memberRecordSize);
   ++revision_;
   group.members_.erase(contactName);
   return written;

@@ -73,7 +73,7 @@ class AddressBook {
   bool saveContact(const ContactRecord& contact, bool writeToFile = true);
   /// Removes a contact from the database, from every group that has it, and from memory. True for a name
   /// that there is not; false when writing failed.
-  bool deleteContact(const QString& name);
+  bool deleteContact(const QString& name, bool writeToFile = true);
   /// Puts `contact` in the place of the contact `oldName`, in every group that has it too. The key of a
   /// stored record never changes, so the old one is deleted and a new one written.
   bool renameContact(const QString& oldName, const ContactRecord& contact);
@@ -87,7 +87,7 @@ class AddressBook {
   bool addMember(const QString& groupName, const QString& contactName, bool writeToFile = true);
   /// Takes a contact out of a group. True when it was no member; false when there is no such group, or
   /// when writing failed.
-  bool removeMember(const QString& groupName, const QString& contactName);
+  bool removeMember(const QString& groupName, const QString& contactName, bool writeToFile = true);
 
  private:
   /// Seconds that every operation waits for a file that somebody else has locked.
@@ -102,7 +102,7 @@ class AddressBook {
   void addLoadedMember(GroupFile& group, const QByteArray& name, QByteArrayList& orphans) const;
   void deleteOrphans(const QString& path, const QByteArrayList& orphans);
   void showFailure(const QString& sentence, const QString& error = {});
-  bool deleteMember(GroupFile& group, const QString& contactName);
+  bool deleteMember(GroupFile& group, const QString& contactName, bool writeToFile);
   bool deleteName(const QString& path, const QByteArray& name, int recordSize);
   [[nodiscard]] QStringList groupsWith(const QString& contactName) const;
 

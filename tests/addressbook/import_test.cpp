@@ -1,3 +1,5 @@
+#include <QDir>
+#include <QFile>
 #include <gmock/gmock.h>
 
 #include "addressbook/core/contact_import.h"
@@ -186,12 +188,41 @@ TEST_F(ContactImportTest, stopsWhereTheUserOrTheDiskStopsIt) {
   EXPECT_EQ(outcome.imported, 2);
   EXPECT_TRUE(book_.findContact("C") && !book_.findContact("D"));
 
+  EXPECT_THAT(summaryText(outcome).toStdString(),
+              HasSubstr("Imported: 2\nUpdated: 0\nSkipped: 0\nRefused: 0\n"
+                        "Not dealt with: 1"));
+
   user_.cancelAt = 1000;
+  const Sheet sheets[] = {sheetOf("Name,Phone\nB,+6150\nC,+6150\n"), sheetOf("Name,Phone\nD,+6150\n")};
   loseFolder();
   user_.answer = {ImportUser::Choice::Overwrite, true};
-  outcome = importContacts(sheet_, plan_, book_, user_);
-  EXPECT_EQ(outcome.end, ImportOutcome::End::WriteFailed);
-  EXPECT_EQ(notifier_.shown.size(), 1);
+  for (const Sheet& failing : sheets) {
+    outcome = importContacts(failing, plan_, book_, user_);
+    EXPECT_EQ(outcome.end, ImportOutcome::End::WriteFailed);
+    EXPECT_EQ(outcome.updated + outcome.imported, 0);
+    EXPECT_THAT(summaryText(outcome).toStdString(), HasSubstr("stopped at row 2,"));
+  }
+  EXPECT_EQ(book_.findContact("B")->phone, "+6149") << "memory must not hold what no file does";
+  EXPECT_FALSE(book_.findContact("D"));
+}
+
+TEST_F(ContactImportTest, repeatsWhatAGroupsFileDidNotTake) {
+  const QByteArray rows = "Name,Phone\nB,+6149\nC,+6149\n";
+  const QString file = folder_.filePath("Team.grp");
+  ASSERT_TRUE(QFile::rename(file, file + ".away") && QDir().mkdir(file));
+  ImportOutcome outcome = import(rows, "Team");
+  EXPECT_EQ(outcome.end, ImportOutcome::End::JoinFailed);
+  EXPECT_EQ(outcome.names, QStringList("B"));
+  EXPECT_EQ(outcome.left, 1);
+  EXPECT_EQ(memberNames("Team"), QStringList());
+
+  ASSERT_TRUE(QDir().rmdir(file) && QFile::rename(file + ".away", file));
+  user_.answer = {ImportUser::Choice::Overwrite, true};
+  outcome = import(rows, "Team");
+  EXPECT_EQ(outcome.end, ImportOutcome::End::Complete);
+  reload();
+  EXPECT_EQ(memberNames("Team"), QStringList({"B", "C"}));
+  EXPECT_EQ(book_.contacts().size(), 3U);
 }
 
 TEST(ImportColumns, areFoundByHeadingsOrContent) {

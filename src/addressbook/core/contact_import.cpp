@@ -31,18 +31,26 @@ class Import {
 
   ImportOutcome run() {
     const int total = contactRows(sheet_, plan_);
-    int done = 0;
-    for (int row = firstRow(plan_); row < sheet_.rowCount(); ++row) {
+    for (int row = firstRow(plan_); row < sheet_.rowCount() && !hasEnded(); ++row) {
       if (sheet_.isBlank(row)) continue;
-      if (!user_.goOn(done, total)) outcome_.end = ImportOutcome::End::Cancelled;
-      if (outcome_.end == ImportOutcome::End::Complete) take(row);
-      if (outcome_.end != ImportOutcome::End::Complete) break;
-      ++done;
+      outcome_.lastRow = row;
+      if (user_.goOn(done(), total))
+        take(row);
+      else
+        outcome_.end = ImportOutcome::End::Cancelled;
     }
+    outcome_.left = total - done();
     return outcome_;
   }
 
  private:
+  [[nodiscard]] bool hasEnded() const { return outcome_.end != ImportOutcome::End::Complete; }
+
+  [[nodiscard]] int done() const {
+    return outcome_.imported + outcome_.updated + outcome_.skipped +
+           static_cast<int>(outcome_.refused.size());
+  }
+
   void take(int row) {
     const ImportRow read = readImportRow(sheet_, row, plan_);
     if (!read.refusal.isEmpty())
@@ -76,18 +84,34 @@ class Import {
 
   // A disk that fails once would fail, with a message, for each of thousands.
   void store(const ContactRecord& contact, int& counter) {
-    if (!book_.saveContact(contact) || !join(contact.name)) {
+    if (!save(contact)) {
       outcome_.end = ImportOutcome::End::WriteFailed;
       return;
     }
     ++counter;
     outcome_.names.append(contact.name);
+    if (!join(contact.name)) outcome_.end = ImportOutcome::End::JoinFailed;
+  }
+
+  // What is not in the file must not stand in memory: whoever skips what exists in a second import would lose
+  // it.
+  bool save(const ContactRecord& contact) {
+    const ContactRecord* existing = book_.findContact(contact.name);
+    const std::optional<ContactRecord> before = existing ? std::optional(*existing) : std::nullopt;
+    if (book_.saveContact(contact)) return true;
+    if (before)
+      book_.saveContact(*before, false);
+    else
+      book_.deleteContact(contact.name, false);
+    return false;
   }
 
   bool join(const QString& name) {
     if (!joins_) return true;
     const GroupFile* group = book_.findGroup(plan_.group);
-    return !group || group->contains(name) || book_.addMember(plan_.group, name);
+    if (!group || group->contains(name) || book_.addMember(plan_.group, name)) return true;
+    book_.removeMember(plan_.group, name, false);
+    return false;
   }
 
   const Sheet& sheet_;
@@ -99,14 +123,37 @@ class Import {
   ImportOutcome outcome_;
 };
 
-QString beginningOf(ImportOutcome::End end) {
-  switch (end) {
+QString beginningOf(const ImportOutcome& outcome) {
+  const int row = outcome.lastRow + 1;
+  switch (outcome.end) {
     case ImportOutcome::End::Complete:
       return QStringLiteral("The import is complete.");
     case ImportOutcome::End::Cancelled:
       return QStringLiteral("The import was cancelled. What was imported before stays.");
     case ImportOutcome::End::WriteFailed:
-      return QStringLiteral("The import was stopped, as a contact could not be saved.");
+      return QStringLiteral("The import was stopped at row %L1, as its contact could not be saved.").arg(row);
+    case ImportOutcome::End::JoinFailed:
+      return QStringLiteral(
+                 "The import was stopped at row %L1, as its contact could not be put into the group.")
+          .arg(row);
+  }
+  Q_UNREACHABLE();
+}
+
+QString endingOf(const ImportOutcome& outcome) {
+  const QString left = QStringLiteral("\nNot dealt with: %L1").arg(outcome.left);
+  const QString again = QStringLiteral(
+      "\n\nOnce the contacts folder can be written again, import the file anew. No contact is doubled by "
+      "that");
+  switch (outcome.end) {
+    case ImportOutcome::End::Complete:
+      return {};
+    case ImportOutcome::End::Cancelled:
+      return left;
+    case ImportOutcome::End::WriteFailed:
+      return left + again + u'.';
+    case ImportOutcome::End::JoinFailed:
+      return left + again + QStringLiteral(", and one that is overwritten joins the group.");
   }
   Q_UNREACHABLE();
 }
@@ -139,11 +186,12 @@ QString importProgressText(int done, int total) {
 
 QString summaryText(const ImportOutcome& outcome) {
   return QStringLiteral("%1\n\nImported: %L2\nUpdated: %L3\nSkipped: %L4\nRefused: %L5")
-      .arg(beginningOf(outcome.end))
-      .arg(outcome.imported)
-      .arg(outcome.updated)
-      .arg(outcome.skipped)
-      .arg(outcome.refused.size());
+             .arg(beginningOf(outcome))
+             .arg(outcome.imported)
+             .arg(outcome.updated)
+             .arg(outcome.skipped)
+             .arg(outcome.refused.size()) +
+         endingOf(outcome);
 }
 
 void writeRefusedRows(const Sheet& sheet, const ImportPlan& plan, const ImportOutcome& outcome,

@@ -41,7 +41,8 @@ struct ImportOutcome {
   enum class End {
     Complete,
     Cancelled,
-    WriteFailed,  ///< the address book has shown why
+    WriteFailed,  ///< a contact is not saved; the address book has shown why
+    JoinFailed,   ///< a contact is saved, but is not in the plan's group; the address book has shown why
   };
   struct Refused {
     int row;  ///< of the sheet
@@ -49,6 +50,8 @@ struct ImportOutcome {
   };
 
   End end = End::Complete;
+  int lastRow = 0;  ///< of the sheet: where an import ended that is not complete
+  int left = 0;     ///< rows that it has not dealt with
   int imported = 0;
   int updated = 0;
   int skipped = 0;
@@ -60,7 +63,8 @@ struct ImportOutcome {
 [[nodiscard]] QString planProblem(const ImportPlan& plan);
 
 /// Takes the rows of `sheet` into `book` one after the other, each durably, and into the plan's group.
-/// Blank rows count for nothing. What was imported stays, whatever ends the import.
+/// Blank rows count for nothing. What was imported stays, whatever ends the import; what could not be written
+/// is not in memory either, so that the same import can be repeated.
 [[nodiscard]] ImportOutcome importContacts(const Sheet& sheet, const ImportPlan& plan, AddressBook& book,
                                            ImportUser& user);
 
