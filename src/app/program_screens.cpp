@@ -5,7 +5,6 @@
 
 #include "account/core/news.h"
 #include "account/screens/news_dlg.h"
-#include "app/core/balance_check.h"
 #include "app/core/login_flow.h"
 #include "app/disk_stores.h"
 #include "app/login_dlg.h"
@@ -26,25 +25,21 @@ bool ProgramScreens::logIn() {
 }
 
 void ProgramScreens::logInAgain() {
-  if (logIn() && mainWindow_) mainWindow_->setUserName(services_.state.userName);
+  const QString before = services_.state.userName;
+  if (!logIn() || !mainWindow_ || services_.state.userName == before) return;
+  mainWindow_->setUserName(services_.state.userName);
+  mainWindow_->setBalance(balance_.refresh());
 }
 
 void ProgramScreens::runMainWindow() {
-  AddressBook& book = services_.stores.addressBook();
-  CMainDlg window(mainTabs(
-      {services_.state, services_.gateway, services_.notifier, services_.progress, *this, book,
-       services_.stores.statusLog(), services_.stores.statusFile(), services_.stores.templates(),
-       services_.settings},
-      {book, services_.notifier, services_.progress, services_.settings, services_.runner},
-      {services_.state, services_.settings, services_.gateway, services_.notifier, services_.progress}));
+  CMainDlg window(tabs());
   connectPages(window);
   const QScopedValueRollback<CMainDlg*> open(mainWindow_, &window);
   window.setUserName(services_.state.userName);
-  BalanceCheck check(services_.state, services_.gateway, services_.notifier, services_.progress);
-  window.setBalance(check.run());
+  window.setBalance(balance_.run());
   services_.progress.hide();
   QObject::connect(&window, &CMainDlg::refreshRequested, &window,
-                   [&] { window.setBalance(check.refresh()); });
+                   [&] { window.setBalance(balance_.refresh()); });
   QObject::connect(&window, &CMainDlg::opened, &window, [&] { showNews(window); });
   window.restoreGeometry(services_.settings.windowGeometry());
   // Whoever logs off from the computer gets no chance to leave this window first.
@@ -58,6 +53,16 @@ void ProgramScreens::runMainWindow() {
 
 void ProgramScreens::keepGeometry(const CMainDlg& window) const {
   services_.settings.setWindowGeometry(window.saveGeometry());
+}
+
+std::vector<MainTab> ProgramScreens::tabs() {
+  AddressBook& book = services_.stores.addressBook();
+  return mainTabs(
+      {services_.state, services_.gateway, services_.notifier, services_.progress, *this, book,
+       services_.stores.statusLog(), services_.stores.statusFile(), services_.stores.templates(),
+       services_.settings},
+      {book, services_.notifier, services_.progress, services_.settings, services_.runner},
+      {services_.state, services_.settings, services_.gateway, services_.notifier, services_.progress});
 }
 
 void ProgramScreens::showNews(CMainDlg& window) const {

@@ -1,7 +1,10 @@
 #pragma once
 
+#include <vector>
+
 #include <QString>
 
+#include "app/core/balance_check.h"
 #include "app/core/start_up.h"
 #include "base/call_runner.h"
 #include "base/notifier.h"
@@ -15,6 +18,7 @@ namespace parlexo {
 
 class CMainDlg;
 class DiskStores;
+struct MainTab;
 
 /// What the windows of a run share; everything must outlive them.
 struct WindowServices {
@@ -30,7 +34,9 @@ struct WindowServices {
 /// Opens the program's own windows with their real parts behind them.
 class ProgramScreens final : public StartUpWindows, public SessionRenewal {
  public:
-  explicit ProgramScreens(const WindowServices& services) : services_(services) {}
+  explicit ProgramScreens(const WindowServices& services)
+      : services_(services),
+        balance_(services.state, services.gateway, services.notifier, services.progress) {}
 
   void showUpgrade(const QString& version) override;
   [[nodiscard]] bool logIn() override;
@@ -38,11 +44,13 @@ class ProgramScreens final : public StartUpWindows, public SessionRenewal {
   void logInAgain() override;
 
  private:
-  void keepGeometry(const CMainDlg& window) const;
+  [[nodiscard]] std::vector<MainTab> tabs();
   /// Nobody is told of news that can't be had.
   void showNews(CMainDlg& window) const;
+  void keepGeometry(const CMainDlg& window) const;
 
   WindowServices services_;
+  BalanceCheck balance_;
   CMainDlg* mainWindow_ = nullptr;  ///< while it is open
 };
 

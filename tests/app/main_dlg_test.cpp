@@ -20,6 +20,7 @@
 #include "account/screens/news_dlg.h"
 #include "app/about_dlg.h"
 #include "app/disk_stores.h"
+#include "app/login_dlg.h"
 #include "app/main_tabs.h"
 #include "app/notification_dlg.h"
 #include "app/notification_notifier.h"
@@ -252,6 +253,37 @@ TEST_F(MainTabsTest, pagesAreFilledInTheirOrderThenComeBalanceAndNews) {
   windows_.runMainWindow();
   EXPECT_EQ(simulator.calledOperations(),
             QStringList({"getAccountHistory", "getEmailMessaging", "getAccountBalance", "getNews"}));
+}
+
+TEST_F(MainTabsTest, balanceIsFetchedAnewForAnotherUserOnly) {
+  simulator::Options options;
+  options.accounts.push_back({u"ann"_qs, u"secret"_qs, 7.5, true, {}});
+  simulator::Simulator simulator(options);
+  ASSERT_TRUE(simulator.start());
+  state_.gateway.endpoint = simulator.site() + u"/ccx/onlineCommunication"_qs;
+  QStringList balances;
+  QStringList users{u"demo"_qs, u"demo1234"_qs, u"demo"_qs, u"demo1234"_qs, u"ann"_qs, u"secret"_qs};
+  QTimer user;
+  QObject::connect(&user, &QTimer::timeout, &user, [&] {
+    QWidget* modal = QApplication::activeModalWidget();
+    if (auto* news = qobject_cast<CNewsDlg*>(modal)) {
+      news->accept();
+    } else if (auto* login = qobject_cast<CLoginDlg*>(modal)) {
+      login->findChild<QLineEdit*>(u"userName"_qs)->setText(users.takeFirst());
+      login->findChild<QLineEdit*>(u"password"_qs)->setText(users.takeFirst());
+      login->findChild<QAbstractButton*>(u"logIn"_qs)->click();
+    } else if (auto* window = qobject_cast<CMainDlg*>(modal)) {
+      balances << window->findChild<QLineEdit*>(u"balance"_qs)->text();
+      if (users.isEmpty()) return window->accept();
+      // Not from here: a timer does not go off while it is being heard.
+      QTimer::singleShot(0, window, [this] { windows_.logInAgain(); });
+    }
+  });
+  user.start(10);
+  ASSERT_TRUE(windows_.logIn());
+  windows_.runMainWindow();
+  EXPECT_EQ(balances, QStringList({u"100.00"_qs, u"100.00"_qs, u"7.50"_qs}));
+  EXPECT_EQ(simulator.calledOperations().count(u"getAccountBalance"_qs), 2);
 }
 
 TEST_F(MainTabsTest, contactAddedOnASendPageIsOfferedThereAtOnce) {
