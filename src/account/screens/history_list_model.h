@@ -2,30 +2,25 @@
 
 #include <vector>
 
-#include <QAbstractTableModel>
-
 #include "account/core/account_history.h"
+#include "ui/record_list_model.h"
 
 namespace parlexo {
 
 /// The rows of the account history in the gateway's order.
-class HistoryListModel final : public QAbstractTableModel {
+class HistoryListModel final : public RecordListModel {
   Q_OBJECT
 
  public:
-  enum class Column { Id, Date, Amount, Description };
-  static constexpr int columns = 4;
-
-  using QAbstractTableModel::QAbstractTableModel;
-
-  [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
-  [[nodiscard]] int columnCount(const QModelIndex& parent = {}) const override;
-  [[nodiscard]] QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
-  [[nodiscard]] QVariant headerData(int section, Qt::Orientation orientation,
-                                    int role = Qt::DisplayRole) const override;
+  explicit HistoryListModel(QObject* parent = nullptr);
 
   /// Replaces all rows.
   void fill(std::vector<HistoryRecord> records);
+
+ protected:
+  [[nodiscard]] int recordCount() const override { return static_cast<int>(records_.size()); }
+  [[nodiscard]] QString textAt(int row, int column) const override;
+  [[nodiscard]] QVariant sortNumberAt(int row, int column) const override;
 
  private:
   std::vector<HistoryRecord> records_;

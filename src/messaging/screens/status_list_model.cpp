@@ -1,66 +1,38 @@
 #include "messaging/screens/status_list_model.h"
 
+#include <array>
+#include <cstddef>
 #include <utility>
 
 #include "messaging/core/status_order.h"
-#include "ui/sorted_rows.h"
 
 namespace parlexo {
 namespace {
 
-using Column = StatusListModel::Column;
+// In the order of the columns.
+constexpr std::array<QString StatusEntry::*, 4> statusFields = {&StatusEntry::date, &StatusEntry::receipt,
+                                                                &StatusEntry::phone, &StatusEntry::status};
+constexpr int dateColumn = 0;
+constexpr int statusColumn = 3;
 
-QString titleOf(Column column) {
-  switch (column) {
-    case Column::Date:
-      return QStringLiteral("Date");
-    case Column::Receipt:
-      return QStringLiteral("Receipt");
-    case Column::Phone:
-      return QStringLiteral("Phone");
-    case Column::Status:
-      return QStringLiteral("Status");
-  }
-  Q_UNREACHABLE();
-}
-
-const QString& fieldOf(const StatusEntry& entry, Column column) {
-  switch (column) {
-    case Column::Date:
-      return entry.date;
-    case Column::Receipt:
-      return entry.receipt;
-    case Column::Phone:
-      return entry.phone;
-    case Column::Status:
-      return entry.status;
-  }
-  Q_UNREACHABLE();
+const QString& statusCell(const StatusEntry& entry, int column) {
+  return entry.*statusFields.at(static_cast<std::size_t>(column));
 }
 
 }  // namespace
 
-int StatusListModel::rowCount(const QModelIndex& parent) const {
-  return parent.isValid() ? 0 : static_cast<int>(rows_.size());
+StatusListModel::StatusListModel(QObject* parent)
+    : RecordListModel({QStringLiteral("Date"), QStringLiteral("Receipt"), QStringLiteral("Phone"),
+                       QStringLiteral("Status")},
+                      parent) {}
+
+QString StatusListModel::textAt(int row, int column) const {
+  return statusCell(entryAt(row), column);
 }
 
-int StatusListModel::columnCount(const QModelIndex& parent) const {
-  return parent.isValid() ? 0 : columns;
-}
-
-QVariant StatusListModel::data(const QModelIndex& index, int role) const {
-  if (!index.isValid()) return {};
-  const StatusEntry& entry = entryAt(index.row());
-  const auto column = static_cast<Column>(index.column());
-  if (role == Qt::DisplayRole) return fieldOf(entry, column);
-  if (role == recordSortRole && column == Column::Date) return static_cast<double>(statusInstant(entry.date));
-  return {};
-}
-
-QVariant StatusListModel::headerData(int section, Qt::Orientation orientation, int role) const {
-  if (orientation != Qt::Horizontal || role != Qt::DisplayRole)
-    return QAbstractTableModel::headerData(section, orientation, role);
-  return titleOf(static_cast<Column>(section));
+QVariant StatusListModel::sortNumberAt(int row, int column) const {
+  if (column != dateColumn) return {};
+  return static_cast<double>(statusInstant(entryAt(row).date));
 }
 
 void StatusListModel::fill(const StatusLog& log, const QString& typeWord) {
@@ -81,7 +53,7 @@ void StatusListModel::setStatus(const QString& receipt, const QString& status) {
   const auto found = rowOfReceipt_.constFind(receipt);
   if (found == rowOfReceipt_.constEnd()) return;
   rows_[static_cast<std::size_t>(*found)].status = status;
-  const QModelIndex cell = index(*found, static_cast<int>(Column::Status));
+  const QModelIndex cell = index(*found, statusColumn);
   Q_EMIT dataChanged(cell, cell);
 }
 

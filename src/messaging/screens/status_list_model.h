@@ -2,28 +2,19 @@
 
 #include <vector>
 
-#include <QAbstractTableModel>
 #include <QHash>
 
 #include "messaging/core/status_log.h"
+#include "ui/record_list_model.h"
 
 namespace parlexo {
 
 /// The rows of the status page: the entries of one message type in their order.
-class StatusListModel final : public QAbstractTableModel {
+class StatusListModel final : public RecordListModel {
   Q_OBJECT
 
  public:
-  enum class Column { Date, Receipt, Phone, Status };
-  static constexpr int columns = 4;
-
-  using QAbstractTableModel::QAbstractTableModel;
-
-  [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
-  [[nodiscard]] int columnCount(const QModelIndex& parent = {}) const override;
-  [[nodiscard]] QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
-  [[nodiscard]] QVariant headerData(int section, Qt::Orientation orientation,
-                                    int role = Qt::DisplayRole) const override;
+  explicit StatusListModel(QObject* parent = nullptr);
 
   /// Replaces all rows by the entries of `log` whose type is exactly `typeWord`.
   void fill(const StatusLog& log, const QString& typeWord);
@@ -32,6 +23,11 @@ class StatusListModel final : public QAbstractTableModel {
   void setStatus(const QString& receipt, const QString& status);
 
   [[nodiscard]] const StatusEntry& entryAt(int row) const { return rows_[static_cast<std::size_t>(row)]; }
+
+ protected:
+  [[nodiscard]] int recordCount() const override { return static_cast<int>(rows_.size()); }
+  [[nodiscard]] QString textAt(int row, int column) const override;
+  [[nodiscard]] QVariant sortNumberAt(int row, int column) const override;
 
  private:
   std::vector<StatusEntry> rows_;

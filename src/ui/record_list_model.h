@@ -1,0 +1,32 @@
+#pragma once
+
+#include <QAbstractTableModel>
+#include <QStringList>
+
+namespace parlexo {
+
+/// What a RecordTable shows: headings, a text for every cell, and a number for cells whose text would sort
+/// wrongly. The rows are up to the derived class.
+class RecordListModel : public QAbstractTableModel {
+  Q_OBJECT
+
+ public:
+  explicit RecordListModel(QStringList headings, QObject* parent = nullptr);
+
+  [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
+  [[nodiscard]] int columnCount(const QModelIndex& parent = {}) const override;
+  [[nodiscard]] QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
+  [[nodiscard]] QVariant headerData(int section, Qt::Orientation orientation,
+                                    int role = Qt::DisplayRole) const override;
+
+ protected:
+  [[nodiscard]] virtual int recordCount() const = 0;
+  [[nodiscard]] virtual QString textAt(int row, int column) const = 0;
+  /// Invalid for a cell that is sorted by its text.
+  [[nodiscard]] virtual QVariant sortNumberAt(int row, int column) const = 0;
+
+ private:
+  QStringList headings_;
+};
+
+}  // namespace parlexo
