@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <deque>
 #include <string>
 
@@ -8,8 +9,10 @@
 #include <QStringList>
 
 #include "gateway/protocol/records.h"
+#include "simulator/accepted_message.h"
 #include "simulator/gateway_state.h"
 #include "simulator/result_code.h"
+#include "simulator/simulator_options.h"
 
 namespace parlexo::simulator {
 
@@ -99,6 +102,9 @@ class Operations {
 
 /// Reads "YYYY/MM/DD hh:mm:ss" as a moment of GMT; invalid when it is anything else.
 [[nodiscard]] QDateTime readSchedule(const QString& text);
+
+/// What a message of this type costs to one number, an SMS for each of its parts, in hundredths.
+[[nodiscard]] std::int64_t priceOf(const Tariff& tariff, MessageType type);
 
 /// A sender ID is a phone number ("+" and 5 to 15 digits, the plus optional) or up to 11 letters, digits and
 /// blanks.

@@ -21,22 +21,6 @@ bool isUserName(const QString& text) {
                      [](QChar character) { return character.isPrint() && !character.isSpace(); });
 }
 
-std::optional<std::int64_t> priceOf(const Tariff& tariff, MessageType type) {
-  switch (type) {
-    case MessageType::Sms:
-      return tariff.smsPart;
-    case MessageType::Mms:
-      return tariff.mms;
-    case MessageType::Fax:
-      return tariff.fax;
-    case MessageType::Wap:
-      return tariff.wap;
-    case MessageType::Voice:
-      return tariff.voice;
-  }
-  return std::nullopt;
-}
-
 std::optional<MessageType> serviceNamed(const QString& word) {
   constexpr std::array types = {MessageType::Sms, MessageType::Mms, MessageType::Fax, MessageType::Wap,
                                 MessageType::Voice};
@@ -50,9 +34,8 @@ std::optional<MessageType> serviceNamed(const QString& word) {
 template <class Response>
 bool fillCosts(const Tariff& tariff, const std::string& serviceType, Response& response) {
   const std::optional<MessageType> service = serviceNamed(textOf(serviceType));
-  const std::optional<std::int64_t> cents = service ? priceOf(tariff, *service) : std::nullopt;
-  if (!cents) return false;
-  const double amount = toAmount(*cents);
+  if (!service) return false;
+  const double amount = toAmount(priceOf(tariff, *service));
   const bool byTime = service == MessageType::Voice;
   response.dCostWholesaleFlat = byTime ? 0 : amount;
   response.dCostWholesalePerHalfMin = byTime ? amount : 0;

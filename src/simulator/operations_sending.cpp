@@ -83,22 +83,6 @@ int fileLimit(const Options& options, MessageType type) {
   return toMobile ? options.maxMobileFileSize : options.maxFileSize;
 }
 
-std::int64_t pricePerNumber(const Tariff& tariff, const AcceptedMessage& message) {
-  switch (message.type) {
-    case MessageType::Sms:
-      return tariff.smsPart * message.parts;
-    case MessageType::Mms:
-      return tariff.mms;
-    case MessageType::Fax:
-      return tariff.fax;
-    case MessageType::Wap:
-      return tariff.wap;
-    case MessageType::Voice:
-      return tariff.voice;
-  }
-  return 0;
-}
-
 }  // namespace
 
 QDateTime readSchedule(const QString& text) {
@@ -121,10 +105,26 @@ bool isUndeliverable(const QString& number) {
   return number.endsWith(QLatin1String("99")) || !form.match(number).hasMatch();
 }
 
+std::int64_t priceOf(const Tariff& tariff, MessageType type) {
+  switch (type) {
+    case MessageType::Sms:
+      return tariff.smsPart;
+    case MessageType::Mms:
+      return tariff.mms;
+    case MessageType::Fax:
+      return tariff.fax;
+    case MessageType::Wap:
+      return tariff.wap;
+    case MessageType::Voice:
+      return tariff.voice;
+  }
+  return 0;
+}
+
 std::int64_t Operations::costOf(const AcceptedMessage& message) const {
   const auto delivered =
       message.numbers.size() - std::count_if(message.numbers.begin(), message.numbers.end(), isUndeliverable);
-  return pricePerNumber(state_.options.tariff, message) * delivered;
+  return priceOf(state_.options.tariff, message.type) * message.parts * delivered;
 }
 
 ResultCode Operations::check(const AcceptedMessage& message) const {
