@@ -1,11 +1,11 @@
 #include "ui/page_controls.h"
 
 #include <QBoxLayout>
+#include <QDialog>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPalette>
 #include <QSizePolicy>
-#include <QString>
 
 #include "base/secret.h"
 #include "ui/look.h"
@@ -50,6 +50,17 @@ PictureButton* addButton(QBoxLayout& row, const QString& objectName, const QStri
   button->setObjectName(objectName);
   row.addWidget(button);
   return button;
+}
+
+QLayout* dialogButtonRow(QDialog& dialog, const DialogButton& accepting, const DialogButton& rejecting) {
+  auto* row = new QHBoxLayout;
+  row->addStretch(1);
+  PictureButton* accept = addButton(*row, accepting.objectName, accepting.text);
+  accept->setDefault(true);
+  QObject::connect(accept, &PictureButton::clicked, &dialog, &QDialog::accept);
+  PictureButton* reject = addButton(*row, rejecting.objectName, rejecting.text);
+  QObject::connect(reject, &PictureButton::clicked, &dialog, &QDialog::reject);
+  return row;
 }
 
 void wipeField(QLineEdit& field) {

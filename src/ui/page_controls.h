@@ -1,10 +1,12 @@
 #pragma once
 
+#include <QString>
+
 class QBoxLayout;
+class QDialog;
 class QLabel;
 class QLayout;
 class QLineEdit;
-class QString;
 class QWidget;
 
 namespace parlexo {
@@ -28,6 +30,17 @@ class PictureButton;
 
 /// A new button at the end of `row`.
 PictureButton* addButton(QBoxLayout& row, const QString& objectName, const QString& text);
+
+/// A button of a dialog's last row.
+struct DialogButton {
+  QString objectName;
+  QString text;
+};
+
+/// The last row of a dialog: the button that accepts it, its default, and the one that rejects it. The
+/// caller's layout takes the row.
+[[nodiscard]] QLayout* dialogButtonRow(QDialog& dialog, const DialogButton& accepting,
+                                       const DialogButton& rejecting);
 
 /// Empties a field that held a password, also of what its undo would bring back, and overwrites the text in
 /// memory.

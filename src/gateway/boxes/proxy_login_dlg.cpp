@@ -9,7 +9,6 @@
 #include "gateway/core/leading_number.h"
 #include "ui/look.h"
 #include "ui/page_controls.h"
-#include "ui/picture_button.h"
 #include "ui/unsendable_hint.h"
 
 namespace parlexo {
@@ -43,7 +42,8 @@ CProxyLoginDlg::CProxyLoginDlg(const ProxyDiscovery& discovery, QWidget* parent)
   explanation->setObjectName(QStringLiteral("explanation"));
   column->addWidget(explanation);
   column->addStretch();
-  addButtons(*column);
+  column->addLayout(dialogButtonRow(*this, {QStringLiteral("ok"), QStringLiteral("OK")},
+                                    {QStringLiteral("cancel"), QStringLiteral("Cancel")}));
   setMinimumSize(dialogUnits(*this, 220, 139));
 }
 
@@ -67,17 +67,6 @@ void CProxyLoginDlg::addFields(QVBoxLayout& column, const ProxyAddress& proxy) {
     port_->setText(QString::number(proxy.port));
   }
   user_->setFocus();
-}
-
-void CProxyLoginDlg::addButtons(QVBoxLayout& column) {
-  auto* row = new QHBoxLayout;
-  row->addStretch();
-  auto* ok = addButton(*row, QStringLiteral("ok"), QStringLiteral("OK"));
-  ok->setDefault(true);
-  connect(ok, &PictureButton::clicked, this, &QDialog::accept);
-  auto* cancel = addButton(*row, QStringLiteral("cancel"), QStringLiteral("Cancel"));
-  connect(cancel, &PictureButton::clicked, this, &QDialog::reject);
-  column.addLayout(row);
 }
 
 ProxySettings CProxyLoginDlg::settings() const {

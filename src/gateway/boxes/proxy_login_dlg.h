@@ -26,7 +26,6 @@ class CProxyLoginDlg final : public GradientDialog {
 
  private:
   void addFields(QVBoxLayout& column, const ProxyAddress& proxy);
-  void addButtons(QVBoxLayout& column);
 
   QLineEdit* user_ = nullptr;
   QLineEdit* password_ = nullptr;

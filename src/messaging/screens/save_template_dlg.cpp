@@ -2,7 +2,6 @@
 
 #include <utility>
 
-#include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QVBoxLayout>
@@ -11,23 +10,8 @@
 #include "messaging/core/messaging_texts.h"
 #include "ui/look.h"
 #include "ui/page_controls.h"
-#include "ui/picture_button.h"
 
 namespace parlexo {
-namespace {
-
-QLayout* saveTemplateButtons(QDialog& dialog) {
-  auto* row = new QHBoxLayout;
-  row->addStretch(1);
-  PictureButton* save = addButton(*row, QStringLiteral("saveButton"), QStringLiteral("&Save"));
-  save->setDefault(true);
-  QObject::connect(save, &PictureButton::clicked, &dialog, &QDialog::accept);
-  PictureButton* cancel = addButton(*row, QStringLiteral("cancelButton"), QStringLiteral("&Cancel"));
-  QObject::connect(cancel, &PictureButton::clicked, &dialog, &QDialog::reject);
-  return row;
-}
-
-}  // namespace
 
 CSaveTemplateDlg::CSaveTemplateDlg(const TemplateFolder& folder, Template content, Notifier& notifier,
                                    QWidget* parent)
@@ -42,7 +26,8 @@ CSaveTemplateDlg::CSaveTemplateDlg(const TemplateFolder& folder, Template conten
   layout->addWidget(name_);
   layout->addStretch(1);
   layout->addSpacing(8);
-  layout->addLayout(saveTemplateButtons(*this));
+  layout->addLayout(dialogButtonRow(*this, {QStringLiteral("saveButton"), QStringLiteral("&Save")},
+                                    {QStringLiteral("cancelButton"), QStringLiteral("&Cancel")}));
   setMinimumSize(dialogUnits(*this, 190, 60));
   name_->setFocus(Qt::OtherFocusReason);
 }

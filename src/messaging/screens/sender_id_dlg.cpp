@@ -1,6 +1,5 @@
 #include "messaging/screens/sender_id_dlg.h"
 
-#include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QUrl>
@@ -10,7 +9,6 @@
 #include "ui/hyperlink_label.h"
 #include "ui/look.h"
 #include "ui/page_controls.h"
-#include "ui/picture_button.h"
 #include "ui/unsendable_hint.h"
 
 namespace parlexo {
@@ -21,17 +19,6 @@ HyperlinkLabel* accountLink(QWidget* parent) {
                                   QUrl(webPage(QStringLiteral("/login.php"))), parent);
   link->setObjectName(QStringLiteral("accountLink"));
   return link;
-}
-
-QLayout* senderIdButtons(QDialog& dialog) {
-  auto* row = new QHBoxLayout;
-  row->addStretch(1);
-  auto* save = addButton(*row, QStringLiteral("saveButton"), QStringLiteral("&Save"));
-  save->setDefault(true);
-  QObject::connect(save, &PictureButton::clicked, &dialog, &QDialog::accept);
-  auto* close = addButton(*row, QStringLiteral("closeButton"), QStringLiteral("&Close"));
-  QObject::connect(close, &PictureButton::clicked, &dialog, &QDialog::reject);
-  return row;
 }
 
 }  // namespace
@@ -68,7 +55,8 @@ void CSenderIdDlg::createLayout(const QString& current) {
   hint->watch({edit_});
   layout->addWidget(hint);
   layout->addStretch(1);
-  layout->addLayout(senderIdButtons(*this));
+  layout->addLayout(dialogButtonRow(*this, {QStringLiteral("saveButton"), QStringLiteral("&Save")},
+                                    {QStringLiteral("closeButton"), QStringLiteral("&Close")}));
 }
 
 QString CSenderIdDlg::senderId() const {
