@@ -8,7 +8,6 @@
 #include <QLocale>
 #include <QTemporaryDir>
 
-#include "base/code_page.h"
 #include "base/notifier.h"
 #include "base/settings.h"
 #include "contacts/sample_contacts.h"
