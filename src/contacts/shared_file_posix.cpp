@@ -4,7 +4,6 @@
 #include <unistd.h>
 
 #include <cerrno>
-#include <ctime>
 
 #include <QFile>
 
@@ -18,8 +17,6 @@ constexpr int noDescriptor = -1;
 // How often a file that was replaced between opening and locking is opened again at once; after that it
 // counts as in use.
 constexpr int replacementTries = 20;
-// How often a refused read or write is tried again, 20 ms apart.
-constexpr int refusedTries = 50;
 constexpr mode_t newFilePermissions = 0666;
 
 // Repeats a system call that a signal interrupted.
@@ -27,20 +24,6 @@ template <typename Call>
 auto uninterrupted(Call call) {
   auto result = call();
   while (result == -1 && errno == EINTR) result = call();
-  return result;
-}
-
-// For a little while repeats a read or write also when it is refused, although the file is open for it: for
-// moments an SMB server holds our own lock against us, where it takes the request for that of another handle
-// which this machine has on the file.
-template <typename Call>
-auto persistent(Call call) {
-  constexpr timespec pause = {0, 20'000'000};
-  auto result = uninterrupted(call);
-  for (int tries = 0; result == -1 && errno == EACCES && tries < refusedTries; ++tries) {
-    ::nanosleep(&pause, nullptr);
-    result = uninterrupted(call);
-  }
   return result;
 }
 
@@ -166,7 +149,7 @@ bool SharedFile::seek(qint64 position) {
 std::optional<qint64> SharedFile::read(char* buffer, qint64 length) {
   qint64 done = 0;
   while (done < length) {
-    const auto count = persistent(
+    const auto count = uninterrupted(
         [&] { return ::read(descriptor(handle_), buffer + done, static_cast<std::size_t>(length - done)); });
     if (count < 0) return std::nullopt;
     if (count == 0) break;
@@ -179,7 +162,7 @@ bool SharedFile::write(QByteArrayView bytes) {
   const std::optional<qint64> before = size();
   if (!before) return false;
   while (!bytes.isEmpty()) {
-    const auto count = persistent(
+    const auto count = uninterrupted(
         [&] { return ::write(descriptor(handle_), bytes.data(), static_cast<std::size_t>(bytes.size())); });
     if (count <= 0) {
       // Nothing better can be done when cutting back fails too: the caller reports the failed write.

@@ -169,8 +169,6 @@ TEST_F(ItemDatabaseFailures, fileHeldByServerIsWaitedForAndInterruptedCallsAreRe
       {Call::Lock, 0, EWOULDBLOCK, 1},  {Call::Lock, 0, EACCES, 1},
       {Call::Open, 0, EINTR, 0},        {Call::Lock, 0, EINTR, 0},
       {Call::Read, 0, EINTR, 0},        {Call::Write, 0, EINTR, 0},
-      {Call::Read, 0, EACCES, 0},  // an SMB server takes it for another handle's
-      {Call::Write, 0, EACCES, 0},
   };
   for (const auto& each : cases) {
     prepare(Index::Right);
