@@ -141,7 +141,7 @@ QString beginningOf(const ImportOutcome& outcome) {
 }
 
 QString endingOf(const ImportOutcome& outcome) {
-  const QString left = QStringLiteral("\nNot dealt with: %L1").arg(outcome.left);
+  QString left = QStringLiteral("\nNot dealt with: %L1").arg(outcome.left);
   const QString again = QStringLiteral(
       "\n\nOnce the contacts folder can be written again, import the file anew. No contact is doubled by "
       "that");
