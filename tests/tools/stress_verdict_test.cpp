@@ -37,7 +37,7 @@ class StressVerdict : public testing::Test {
   // An "@" in the journal stands for the group's file.
   std::vector<std::string> groupProblems(std::string journal) {
     for (std::size_t at = 0; (at = journal.find('@', at)) != std::string::npos;)
-      journal.replace(at, 1, pathOf("group") + '|');
+      journal.replace(at, 1, "group|");
     write("journal", journal);
     write("group", file_);
     return judgeGroups({pathOf("group")}, {pathOf("journal")}).problems;

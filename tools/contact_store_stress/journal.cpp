@@ -82,6 +82,10 @@ Journal readJournal(const std::string& path) {
   return journal;
 }
 
+std::string groupPrefix(const std::string& path) {
+  return path.substr(path.rfind('/') + 1) + '|';
+}
+
 std::int64_t nowNanoseconds() {
   return std::chrono::duration_cast<std::chrono::nanoseconds>(
              std::chrono::steady_clock::now().time_since_epoch())

@@ -7,7 +7,6 @@
 #include <optional>
 
 #include "contacts/item_database.h"
-#include "tools/contact_store_stress/worker.h"
 
 namespace parlexo::stress {
 

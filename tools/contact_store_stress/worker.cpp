@@ -168,10 +168,6 @@ void workOnGroups(const WorkerTask& task) {
   }
 }
 
-std::string groupPrefix(const std::string& path) {
-  return path.substr(path.rfind('/') + 1) + '|';
-}
-
 std::string memberJournal(const std::string& journal) {
   return journal + "-members";
 }

@@ -26,9 +26,6 @@ void workOnGroups(const WorkerTask& task);
 [[nodiscard]] std::string contactsPath(const std::string& folder);
 /// The file of the group that workOnContacts() fills.
 [[nodiscard]] std::string membersPath(const std::string& folder);
-/// What the journal of workOnGroups() puts before the keys of a group's file: its name without the folder, to
-/// which several ways may lead.
-[[nodiscard]] std::string groupPrefix(const std::string& path);
 /// The files that workOnGroups() makes and deletes.
 [[nodiscard]] std::vector<std::string> groupPaths(const std::string& folder);
 
