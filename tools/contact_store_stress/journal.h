@@ -52,8 +52,8 @@ struct Journal {
 /// Reads a journal; a last line that the process did not finish is passed over.
 [[nodiscard]] Journal readJournal(const std::string& path);
 
-/// What stands before the keys of a group's file where one journal tells of several: the file's name without the
-/// folder, to which several ways may lead.
+/// What stands before the keys of a group's file where one journal tells of several: the file's name without
+/// the folder, to which several ways may lead.
 [[nodiscard]] std::string groupPrefix(const std::string& path);
 
 [[nodiscard]] std::int64_t nowNanoseconds();
