@@ -212,7 +212,7 @@ TEST_F(ItemDatabaseFixture, unusableRecordsAndPathsGiveTheOperationsMessage) {
   // The index of the failed reading stays, empty, so that the writing itself is tried next.
   EXPECT_FALSE(write(anna) || write(anna));
   EXPECT_TRUE(erase("Anna", deleted));
-  (*cache_.create(path_))["Anna"] = 0;
+  cache_.create(path_)->recordNumbers["Anna"] = 0;
   EXPECT_FALSE(erase("Anna", deleted));
   EXPECT_EQ(error_,
             "kept [createDb:1 - Can't create the database!][readAllItems:2 - Database open error!]"
