@@ -75,11 +75,11 @@ bool AddressBook::renameContact(const QString& oldName, const ContactRecord& con
 
 bool AddressBook::createGroup(const QString& name, const QStringList& memberNames, bool writeToFile) {
   ++revision_;
-  groups_.try_emplace(name, name);
+  const GroupFile& group = groups_.try_emplace(name, name, newGroupFileName(name)).first->second;
   bool written = true;
   if (writeToFile) {
     QString error;
-    written = database_.createDb(error, groupPath(name));
+    written = database_.createDb(error, folder_ + group.fileNames_.first());
     if (!written)
       showFailure(QStringLiteral("There was a problem trying to create your group in the database Error="),
                   error);
@@ -90,11 +90,14 @@ bool AddressBook::createGroup(const QString& name, const QStringList& memberName
 }
 
 bool AddressBook::deleteGroup(const QString& name) {
-  // `name` may be the group's own.
-  const QString path = groupPath(name);
+  const auto group = groups_.find(name);
+  const QStringList fileNames =
+      group == groups_.end() ? QStringList(newGroupFileName(name)) : group->second.fileNames_;
   ++revision_;
-  groups_.erase(name);
-  if (database_.removeDb(path)) return true;
+  if (group != groups_.end()) groups_.erase(group);
+  bool removed = true;
+  for (const QString& fileName : fileNames) removed = database_.removeDb(folder_ + fileName) && removed;
+  if (removed) return true;
   showFailure(QStringLiteral("There was a problem trying to delete your group from the database"));
   return false;
 }
@@ -105,10 +108,13 @@ bool AddressBook::addMember(const QString& groupName, const QString& contactName
   if (group == groups_.end() || !contact) return false;
   ++revision_;
   group->second.members_[contact->name] = contact;
-  if (!writeToFile) return true;
+  return !writeToFile || writeMember(group->second, contact->name);
+}
+
+bool AddressBook::writeMember(const GroupFile& group, const QString& contactName) {
   QString error;
-  if (database_.writeItem(error, nameWidth, groupPath(groupName), memberRecordSize, packMember(contact->name),
-                          timeoutSeconds))
+  if (database_.writeItem(error, nameWidth, folder_ + group.fileNames_.first(), memberRecordSize,
+                          packMember(contactName), timeoutSeconds))
     return true;
   showFailure(QStringLiteral("There was a problem saving your contact to the database group. Error="), error);
   return false;
@@ -120,8 +126,11 @@ bool AddressBook::removeMember(const QString& groupName, const QString& contactN
 }
 
 bool AddressBook::deleteMember(GroupFile& group, const QString& contactName, bool writeToFile) {
-  const bool written =
-      !writeToFile || deleteName(groupPath(group.name()), packName(contactName), memberRecordSize);
+  bool written = true;
+  for (const QString& fileName : group.fileNames_) {
+    if (!writeToFile) break;
+    written = deleteName(folder_ + fileName, packName(contactName), memberRecordSize) && written;
+  }
   ++revision_;
   group.members_.erase(contactName);
   return written;
@@ -152,8 +161,8 @@ QString AddressBook::contactsPath() const {
   return folder_ + encodeGroupFileName(QLatin1String(allContactsName), QLatin1String(contactsExtension));
 }
 
-QString AddressBook::groupPath(const QString& groupName) const {
-  return folder_ + encodeGroupFileName(groupName, QLatin1String(groupExtension));
+QString AddressBook::newGroupFileName(const QString& groupName) {
+  return encodeGroupFileName(groupName, QLatin1String(groupExtension));
 }
 
 }  // namespace parlexo

@@ -81,7 +81,8 @@ class AddressBook {
   /// Creates a group with those of `memberNames` that are contacts; a group that exists gets them in
   /// addition. Each write is tried, whatever became of those before; false when one failed.
   bool createGroup(const QString& name, const QStringList& memberNames = {}, bool writeToFile = true);
-  /// Removes the group and its file. False when the file could not be removed.
+  /// Removes the group and its file. False, after a message, when the file could not be removed or does not
+  /// exist.
   bool deleteGroup(const QString& name);
   /// Adds a contact to a group. False when there is no such group or contact, or when writing failed.
   bool addMember(const QString& groupName, const QString& contactName, bool writeToFile = true);
@@ -94,13 +95,14 @@ class AddressBook {
   static constexpr int timeoutSeconds = 60;
 
   [[nodiscard]] QString contactsPath() const;
-  [[nodiscard]] QString groupPath(const QString& groupName) const;
+  [[nodiscard]] static QString newGroupFileName(const QString& groupName);
   void createPersonalGroup();
   bool loadContacts(Progress& progress);
   bool loadGroups(Progress& progress);
   bool loadGroup(const QString& fileName, Progress& progress);
   void addLoadedMember(GroupFile& group, const QByteArray& name, QByteArrayList& orphans) const;
   void deleteOrphans(const QString& path, const QByteArrayList& orphans);
+  bool writeMember(const GroupFile& group, const QString& contactName);
   void showFailure(const QString& sentence, const QString& error = {});
   bool deleteMember(GroupFile& group, const QString& contactName, bool writeToFile);
   bool deleteName(const QString& path, const QByteArray& name, int recordSize);

@@ -47,7 +47,7 @@ bool AddressBook::loadAll(Progress& progress) {
 }
 
 void AddressBook::createPersonalGroup() {
-  const QString path = groupPath(QLatin1String(personalContactsName));
+  const QString path = folder_ + newGroupFileName(QLatin1String(personalContactsName));
   QString error;
   if (database_.createDb(error, path)) return;
   notifier_.show(QStringLiteral("Can't create the personal contacts database: ") + path +
@@ -82,7 +82,9 @@ bool AddressBook::loadGroups(Progress& progress) {
 
 bool AddressBook::loadGroup(const QString& fileName, Progress& progress) {
   const QString name = decodeGroupFileName(fileName, QLatin1String(groupExtension));
-  GroupFile& group = groups_.try_emplace(name, name).first->second;
+  const auto [entry, isFirstFile] = groups_.try_emplace(name, name, fileName);
+  GroupFile& group = entry->second;
+  if (!isFirstFile) group.fileNames_.append(fileName);
   progress.setText(QStringLiteral("Loading Group \"%1\"...").arg(name));
   QByteArrayList orphans;
   const auto add = [&](QByteArrayView record) {

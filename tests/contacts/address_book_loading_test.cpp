@@ -81,6 +81,21 @@ TEST_F(AddressBookLoading, marksMembersWithoutContactAsDeleted) {
   EXPECT_THAT(notifier_.takeLines(), IsEmpty());
 }
 
+TEST_F(AddressBookLoading, groupIsChangedAndDeletedInTheFilesItCameFrom) {
+  put(contactsFile, contactBytes("Ann") + contactBytes("Ben"));
+  put("Team--A.grp", packMember("Ann"));
+  put("Team-A.grp", packMember("Ann"));
+  const QString team = "Team<";
+  EXPECT_TRUE(book_.loadAll(progress_));
+  EXPECT_TRUE(book_.removeMember(team, "Ann") && book_.addMember(team, "Ben"));
+  EXPECT_EQ(readBytes(pathOf("Team--A.grp")), deletedRecord(packMember("Ann")) + packMember("Ben"));
+  EXPECT_EQ(readBytes(pathOf("Team-A.grp")), deletedRecord(packMember("Ann")));
+  EXPECT_TRUE(book_.deleteGroup(team));
+  AddressBook next(folder_.path(), database_, notifier_);
+  EXPECT_TRUE(next.loadAll(progress_));
+  EXPECT_EQ(next.groups().size(), 1U) << "only the personal one";
+}
+
 TEST_F(AddressBookLoading, tellsOfEachMemberThatCannotBeCleanedAwayAndGoesOn) {
   const QByteArray orphans = packMember("Gone") + packMember("Lost");
   const QString team = "Team.grp";
@@ -107,17 +122,6 @@ TEST_F(AddressBookLoading, cutNamesMeetAgainAtTheNextStart) {
   EXPECT_TRUE(next.loadAll(progress_));
   EXPECT_TRUE(next.findContact(QString(80, u'n')));
   EXPECT_TRUE(next.findGroup("G")->contains(QString(80, u'n')));
-}
-
-TEST_F(AddressBookLoading, ofMissingFolderTellsThePersonalGroupFirst) {
-  const QString folder = folder_.filePath("missing");
-  AddressBook book(folder, database_, notifier_);
-  EXPECT_FALSE(book.loadAll(progress_));
-  ASSERT_EQ(notifier_.shown.size(), 2);
-  EXPECT_EQ(notifier_.takeLines().first(),
-            "0 Can't create the personal contacts database: " +
-                QDir::toNativeSeparators(folder + "/My Personal Contacts.grp") +
-                " Error=[createDb:1 - Can't create the database!]");
 }
 
 }  // namespace
