@@ -24,6 +24,7 @@ void AddressBook::clear() {
   ++revision_;
   groups_.clear();
   contacts_.clear();
+  unsaved_.clear();
 }
 
 const ContactRecord* AddressBook::findContact(const QString& name) const {
@@ -38,15 +39,24 @@ const GroupFile* AddressBook::findGroup(const QString& name) const {
 
 bool AddressBook::saveContact(const ContactRecord& contact, bool writeToFile) {
   ++revision_;
-  contacts_[contact.name] = contact;
+  const QString name = contact.name;
+  const bool isNew = contacts_.insert_or_assign(name, contact).second;
   if (!writeToFile) return true;
   QString error;
   if (database_.writeItem(error, nameWidth, contactsPath(), contactRecordSize, packContact(contact),
                           timeoutSeconds))
-    return true;
+    return unsaved_.remove(name) == 0 || writePendingMembers(name);
+  if (isNew || unsaved_.contains(name)) unsaved_[name] = error;
   showFailure(QStringLiteral("There was a problem trying to save your contact to the database. Error="),
               error);
   return false;
+}
+
+bool AddressBook::writePendingMembers(const QString& contactName) {
+  bool written = true;
+  for (const auto& [groupName, group] : groups_)
+    if (group.contains(contactName)) written = writeMember(group, contactName) && written;
+  return written;
 }
 
 bool AddressBook::deleteContact(const QString& name, bool writeToFile) {
@@ -58,6 +68,7 @@ bool AddressBook::deleteContact(const QString& name, bool writeToFile) {
   for (auto& [groupName, group] : groups_)
     if (group.contains(ownName)) written = deleteMember(group, ownName, writeToFile) && written;
   ++revision_;
+  unsaved_.remove(ownName);
   contacts_.erase(found);
   return written;
 }
@@ -112,9 +123,9 @@ bool AddressBook::addMember(const QString& groupName, const QString& contactName
 }
 
 bool AddressBook::writeMember(const GroupFile& group, const QString& contactName) {
-  QString error;
-  if (database_.writeItem(error, nameWidth, folder_ + group.fileNames_.first(), memberRecordSize,
-                          packMember(contactName), timeoutSeconds))
+  QString error = unsaved_.value(contactName);
+  if (error.isEmpty() && database_.writeItem(error, nameWidth, folder_ + group.fileNames_.first(),
+                                             memberRecordSize, packMember(contactName), timeoutSeconds))
     return true;
   showFailure(QStringLiteral("There was a problem saving your contact to the database group. Error="), error);
   return false;

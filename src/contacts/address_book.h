@@ -6,6 +6,7 @@
 
 #include <QByteArray>
 #include <QByteArrayList>
+#include <QHash>
 #include <QHashFunctions>  // std::hash of QString
 #include <QString>
 #include <QStringList>
@@ -69,7 +70,9 @@ class AddressBook {
   [[nodiscard]] const ContactRecord* findContact(const QString& name) const;
   [[nodiscard]] const GroupFile* findGroup(const QString& name) const;
 
-  /// Adds the contact, or takes its values over into the one of that name. False when writing failed.
+  /// Adds the contact, or takes its values over into the one of that name. False when writing failed. A new
+  /// contact that could not be written gets no member records either, as every program would delete them at
+  /// its next start; the first successful save writes those as well.
   bool saveContact(const ContactRecord& contact, bool writeToFile = true);
   /// Removes a contact from the database, from every group that has it, and from memory. True for a name
   /// that there is not; false when writing failed.
@@ -84,7 +87,8 @@ class AddressBook {
   /// Removes the group and its file. False, after a message, when the file could not be removed or does not
   /// exist.
   bool deleteGroup(const QString& name);
-  /// Adds a contact to a group. False when there is no such group or contact, or when writing failed.
+  /// Adds a contact to a group. False when there is no such group or contact, and, after a message, when
+  /// writing failed or the contact itself could not be written yet.
   bool addMember(const QString& groupName, const QString& contactName, bool writeToFile = true);
   /// Takes a contact out of a group. True when it was no member; false when there is no such group, or
   /// when writing failed.
@@ -103,6 +107,7 @@ class AddressBook {
   void addLoadedMember(GroupFile& group, const QByteArray& name, QByteArrayList& orphans) const;
   void deleteOrphans(const QString& path, const QByteArrayList& orphans);
   bool writeMember(const GroupFile& group, const QString& contactName);
+  bool writePendingMembers(const QString& contactName);
   void showFailure(const QString& sentence, const QString& error = {});
   bool deleteMember(GroupFile& group, const QString& contactName, bool writeToFile);
   bool deleteName(const QString& path, const QByteArray& name, int recordSize);
@@ -113,6 +118,7 @@ class AddressBook {
   Notifier& notifier_;
   Contacts contacts_;
   Groups groups_;
+  QHash<QString, QString> unsaved_;  // new contacts that could not be written, with the store's message
   quint64 revision_ = 0;
   std::optional<QStringList> shownOnce_;
 };
