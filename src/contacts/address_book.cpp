@@ -75,13 +75,13 @@ bool AddressBook::deleteContact(const QString& name, bool writeToFile) {
 
 bool AddressBook::renameContact(const QString& oldName, const ContactRecord& contact) {
   if (oldName == contact.name) return saveContact(contact);
-  // Both may lie in the record that is about to go.
+  // Both may be in the record that is deleted here.
   const ContactRecord renamed = contact;
-  const QStringList groupNames = groupsWith(oldName);
-  bool written = deleteContact(oldName);
-  written = saveContact(renamed) && written;
-  for (const QString& groupName : groupNames) written = addMember(groupName, renamed.name) && written;
-  return written;
+  const QString name = oldName;
+  const bool isSaved = saveContact(renamed);
+  bool written = isSaved;
+  for (const QString& groupName : groupsWith(name)) written = addMember(groupName, renamed.name) && written;
+  return deleteContact(name, isSaved) && written;
 }
 
 bool AddressBook::createGroup(const QString& name, const QStringList& memberNames, bool writeToFile) {

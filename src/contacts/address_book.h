@@ -78,7 +78,8 @@ class AddressBook {
   /// that there is not; false when writing failed.
   bool deleteContact(const QString& name, bool writeToFile = true);
   /// Puts `contact` in the place of the contact `oldName`, in every group that has it too. The key of a
-  /// stored record never changes, so the old one is deleted and a new one written.
+  /// stored record never changes, so a new one is written and the old one deleted. The old one stays in the
+  /// files when the new one can't be written. False when writing failed.
   bool renameContact(const QString& oldName, const ContactRecord& contact);
 
   /// Creates a group with those of `memberNames` that are contacts; a group that exists gets them in
