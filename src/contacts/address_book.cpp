@@ -151,8 +151,12 @@ bool AddressBook::deleteName(const QString& path, const QByteArray& name, int re
   QString error;
   bool deleted = false;
   if (database_.deleteItem(error, nameWidth, path, name, recordSize, deleted, timeoutSeconds)) return true;
-  showFailure(QStringLiteral("There was a problem deleting a contact from your database. Error="), error);
+  showDeletionFailure(error);
   return false;
+}
+
+void AddressBook::showDeletionFailure(const QString& error) {
+  showFailure(QStringLiteral("There was a problem deleting a contact from your database. Error="), error);
 }
 
 void AddressBook::showFailure(const QString& sentence, const QString& error) {

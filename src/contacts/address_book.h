@@ -5,9 +5,9 @@
 #include <unordered_map>
 
 #include <QByteArray>
-#include <QByteArrayList>
 #include <QHash>
 #include <QHashFunctions>  // std::hash of QString
+#include <QSet>
 #include <QString>
 #include <QStringList>
 #include <QtGlobal>
@@ -55,9 +55,10 @@ class AddressBook {
   AddressBook(const AddressBook&) = delete;
   AddressBook& operator=(const AddressBook&) = delete;
 
-  /// Reads all contacts and groups, once, at the start of the program; tells in `progress` how far it has
-  /// come. Members that are no contacts (any more) are deleted from their group's file. False when a file
-  /// could not be read, after a message: the program then ends.
+  /// Reads all contacts and groups, once, at the start of the program, and reports to `progress` how far it
+  /// has come. Members without a contact are deleted from their group's file, unless the contact has been
+  /// stored since the contacts were read: it is then loaded as well. False when a file could not be read,
+  /// after a message: the program then ends.
   [[nodiscard]] bool loadAll(Progress& progress);
   /// Forgets contacts and groups; the files stay.
   void clear();
@@ -105,11 +106,13 @@ class AddressBook {
   bool loadContacts(Progress& progress);
   bool loadGroups(Progress& progress);
   bool loadGroup(const QString& fileName, Progress& progress);
-  void addLoadedMember(GroupFile& group, const QByteArray& name, QByteArrayList& orphans) const;
-  void deleteOrphans(const QString& path, const QByteArrayList& orphans);
+  [[nodiscard]] bool addLoadedMember(GroupFile& group, const QByteArray& key) const;
+  void deleteOrphans(GroupFile& group, const QString& path, const QSet<QByteArray>& orphans);
+  bool loadNewContacts(QString& error, const QSet<QByteArray>& keys);
   bool writeMember(const GroupFile& group, const QString& contactName);
   bool writePendingMembers(const QString& contactName);
   void showFailure(const QString& sentence, const QString& error = {});
+  void showDeletionFailure(const QString& error);
   bool deleteMember(GroupFile& group, const QString& contactName, bool writeToFile);
   bool deleteName(const QString& path, const QByteArray& name, int recordSize);
   [[nodiscard]] QStringList groupsWith(const QString& contactName) const;

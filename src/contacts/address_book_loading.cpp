@@ -1,6 +1,7 @@
 // Reading the whole address book at the start of the program.
 
 #include <algorithm>
+#include <optional>
 #include <utility>
 
 #include <QDir>
@@ -86,9 +87,10 @@ bool AddressBook::loadGroup(const QString& fileName, Progress& progress) {
   GroupFile& group = entry->second;
   if (!isFirstFile) group.fileNames_.append(fileName);
   progress.setText(QStringLiteral("Loading Group \"%1\"...").arg(name));
-  QByteArrayList orphans;
+  QSet<QByteArray> orphans;
   const auto add = [&](QByteArrayView record) {
-    addLoadedMember(group, unpackMember(record), orphans);
+    const QByteArray key = unpackMember(record);
+    if (!addLoadedMember(group, key)) orphans.insert(key);
     return true;
   };
   QString error;
@@ -97,20 +99,41 @@ bool AddressBook::loadGroup(const QString& fileName, Progress& progress) {
     notifier_.error(connectingProblem(error));
     return false;
   }
-  deleteOrphans(path, orphans);
+  if (!orphans.isEmpty()) deleteOrphans(group, path, orphans);
   return true;
 }
 
-void AddressBook::addLoadedMember(GroupFile& group, const QByteArray& name, QByteArrayList& orphans) const {
-  if (const ContactRecord* contact = findContact(fromCodePage(name)))
-    group.members_[contact->name] = contact;
-  else
-    orphans.append(name);
+bool AddressBook::addLoadedMember(GroupFile& group, const QByteArray& key) const {
+  const ContactRecord* contact = findContact(fromCodePage(key));
+  if (contact) group.members_[contact->name] = contact;
+  return contact != nullptr;
 }
 
-// One that can't be deleted does not hinder the others; the next start tries it again.
-void AddressBook::deleteOrphans(const QString& path, const QByteArrayList& orphans) {
-  for (const QByteArray& orphan : orphans) deleteName(path, orphan, memberRecordSize);
+// A colleague may have stored a contact and its membership after the contacts were read here. Programs write
+// the contact first, so once the group's file is locked, a contact that is not in the database has no
+// acknowledged membership that it could lose.
+void AddressBook::deleteOrphans(GroupFile& group, const QString& path, const QSet<QByteArray>& orphans) {
+  const auto stillMissing = [&](QString& error) -> std::optional<QSet<QByteArray>> {
+    if (!loadNewContacts(error, orphans)) return std::nullopt;
+    QSet<QByteArray> missing;
+    for (const QByteArray& key : orphans)
+      if (!addLoadedMember(group, key)) missing.insert(key);
+    return missing;
+  };
+  QString error;
+  if (!database_.deleteItems(error, nameWidth, path, memberRecordSize, stillMissing, timeoutSeconds))
+    showDeletionFailure(error);
+}
+
+// Takes those of the contacts with these keys in that are in the database by now.
+bool AddressBook::loadNewContacts(QString& error, const QSet<QByteArray>& keys) {
+  QSet<QString> names;
+  for (const QByteArray& key : keys) names.insert(fromCodePage(key));
+  const auto add = [&](QByteArrayView record) {
+    if (names.contains(fromCodePage(unpackMember(record)))) saveContact(unpackContact(record), false);
+    return true;
+  };
+  return database_.readAllItems(error, contactRecordSize, contactsPath(), add, timeoutSeconds);
 }
 
 }  // namespace parlexo

@@ -286,6 +286,34 @@ bool ItemDatabase::eraseItem(QString& error, const QString& path, QByteArrayView
   return false;
 }
 
+bool ItemDatabase::deleteItems(QString& error, int keyWidth, const QString& path, int recordSize,
+                               const KeyFinder& findKeys, int timeout) {
+  return runOperation(error, "deleteItem", 9, [&] {
+    SharedFile file;
+    requireOpened(openWithWait(file, path, SharedFile::Mode::Erase, timeout), {1, shareError},
+                  {2, shareError});
+    const auto keys = findKeys(error);
+    if (!keys) throw Reported();
+    if (!keys->isEmpty()) markDeleted(file, *keys, {recordSize, keyWidth});
+  });
+}
+
+// Throws the failures of deleteItem().
+void ItemDatabase::markDeleted(SharedFile& file, const QSet<QByteArray>& keys, const RecordForm& form) {
+  const qint64 size = sizeOf(file, {3, sizeError});
+  if (size == 0) return;
+  BlockReader reader(file, size, form.size, {{5, outOfMemory}, {6, "Read item error!"}});
+  std::vector<qint64> positions;
+  for (qint64 position = 0; const auto record = reader.next(); position += form.size) {
+    const bool isInUse = record->bytes.front() != recordDeleted;
+    if (isInUse && keys.contains(form.keyOf(record->bytes).toByteArray())) positions.push_back(position);
+  }
+  for (const qint64 position : positions) {
+    require(file.seek(position), {7, positionError});
+    require(file.write(QByteArrayView(&recordDeleted, stateWidth)), {8, "Can't write item to database!"});
+  }
+}
+
 bool ItemDatabase::createDb(QString& error, const QString& path) {
   return runOperation(error, "createDb", 2, [&] {
     SharedFile file;

@@ -1,8 +1,11 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 
+#include <QByteArray>
 #include <QByteArrayView>
+#include <QSet>
 #include <QString>
 
 #include "contacts/block_reader.h"
@@ -47,6 +50,16 @@ class ItemDatabase {
   bool deleteItem(QString& error, int keyWidth, const QString& path, QByteArrayView key, int recordSize,
                   bool& deleted, int timeout);
 
+  /// Returns the keys to delete, or nothing after appending a message to `error`.
+  using KeyFinder = std::function<std::optional<QSet<QByteArray>>(QString& error)>;
+
+  /// Marks every record in use with one of the keys that `findKeys` returns as deleted. The file is locked
+  /// against reading and writing from before that call until the last mark is written, so whatever
+  /// `findKeys` reads in other files is newer than any record found here. It must not use this file. Fails
+  /// like deleteItem(), with its messages, and when `findKeys` fails.
+  bool deleteItems(QString& error, int keyWidth, const QString& path, int recordSize,
+                   const KeyFinder& findKeys, int timeout);
+
   /// Makes sure that the file exists. A file that others hold exists.
   bool createDb(QString& error, const QString& path);
 
@@ -71,6 +84,7 @@ class ItemDatabase {
   bool tryWrite(QString& error, const QString& path, QByteArrayView record, const RecordForm& form,
                 int timeout);
   void updateIndex(const QString& path, QByteArrayView key, const Lookup& lookup, qint64 appendedNumber);
+  static void markDeleted(SharedFile& file, const QSet<QByteArray>& keys, const RecordForm& form);
   bool eraseItem(QString& error, const QString& path, QByteArrayView key, const RecordForm& form,
                  int timeout);
 

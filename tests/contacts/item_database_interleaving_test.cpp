@@ -1,6 +1,9 @@
 // Files that another program has changed, damaged or locked. Two databases with an index each are two
 // programs.
 
+#include <optional>
+
+#include <QSet>
 #include <gtest/gtest.h>
 
 #include "tests/contacts/store_fixture.h"
@@ -66,6 +69,26 @@ TEST_F(TwoPrograms, knownKeyCompletesItsTornRecord) {
   writeBytes(path_, anna_ + bert_.first(6));
   EXPECT_TRUE(write(database_, bert_) && write(database_, cleo_));
   EXPECT_EQ(readBytes(path_), anna_ + bert_ + cleo_);
+}
+
+TEST_F(TwoPrograms, deletionOfSeveralKeysLocksTheFileFromBeforeTheyAreChosen) {
+  writeBytes(path_, anna_ + bert_ + anna_ + cleo_.first(9));
+  const auto choose = [&](QString& error) -> std::optional<QSet<QByteArray>> {
+    SharedFile writer;
+    EXPECT_EQ(writer.open(path_, SharedFile::Mode::Write), SharedFile::OpenResult::SharingViolation);
+    if (!error.isEmpty()) return std::nullopt;
+    return QSet<QByteArray>{"Anna", "Cleo", "None"};
+  };
+  const auto deleteChosen = [&] {
+    return database_.deleteItems(error_, keyWidth, path_, recordSize, choose, timeout);
+  };
+  EXPECT_TRUE(deleteChosen());
+  const QByteArray anna = item("Anna", 'a', ItemDatabase::recordDeleted);
+  const QByteArray expected = anna + bert_ + anna + item("Cleo", 'c', ItemDatabase::recordDeleted).first(9);
+  EXPECT_EQ(readBytes(path_), expected);
+  error_ = "kept";
+  EXPECT_FALSE(deleteChosen());
+  EXPECT_EQ(error_, "kept");
 }
 
 }  // namespace
