@@ -156,6 +156,31 @@ TEST(GroupDraft, refusesNamesThatAreBlankOrTaken) {
   EXPECT_EQ(created.changes().group, "Teams");
 }
 
+TEST(GroupDraft, suggestsNamesThatReadBackAsTyped) {
+  const SampleBook sample;
+  const struct {
+    const char* typed;
+    const char* afterRestart;
+    const char* suggestion;
+  } cases[] = {
+      {" Under-12s ", "Under%2s", "Under 12s"},
+      {"Team-A", "Team<", "Team A"},
+      {"x--9-B", "x-.>", "x 9 B"},
+      {"-1", "%", "1"},
+  };
+  const GroupDraft draft(sample.book(), {});
+  for (const auto& [typed, afterRestart, suggestion] : cases) {
+    const auto unstable = draft.unstableName(typed);
+    ASSERT_TRUE(unstable) << typed;
+    EXPECT_EQ(unstable->afterRestart, afterRestart);
+    EXPECT_EQ(unstable->suggestion, suggestion);
+    EXPECT_FALSE(draft.unstableName(unstable->suggestion));
+  }
+  for (const char* stable : {"Team-C", "A-0", "12-", "a.b/c:d", "%-<", "--", " - x"})
+    EXPECT_FALSE(draft.unstableName(stable)) << stable;
+  EXPECT_FALSE(GroupDraft(sample.book(), "Team-A").unstableName("Team-A")) << "an existing group";
+}
+
 TEST(GroupDraft, changesAreTheDifferenceAndTheBookStaysAsItIs) {
   FivePeople sample;
   const quint64 revision = sample.book().revision();

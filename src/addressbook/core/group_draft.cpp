@@ -8,12 +8,13 @@
 
 #include "addressbook/core/name_order.h"
 #include "contacts/address_book.h"
+#include "contacts/group_file_name.h"
 
 namespace parlexo {
 
-GroupDraft::GroupDraft(const AddressBook& book, const QString& name)
-    : book_(book), isNew_(name.isEmpty()), name_(name) {
-  const GroupFile* group = book.findGroup(name);
+GroupDraft::GroupDraft(const AddressBook& book, const std::optional<QString>& name)
+    : book_(book), isNew_(!name), name_(name.value_or(QString())) {
+  const GroupFile* group = isNew_ ? nullptr : book.findGroup(name_);
   if (!group) return;
   Contacts members;
   for (const auto& [memberName, contact] : group->members()) members.push_back(contact);
@@ -79,6 +80,13 @@ bool GroupDraft::isNameInUse(const QString& name) const {
   return isSame(QLatin1String(allContactsName)) ||
          std::any_of(book_.groups().begin(), book_.groups().end(),
                      [&isSame](const auto& group) { return isSame(group.first); });
+}
+
+std::optional<UnstableGroupName> GroupDraft::unstableName(const QString& typed) const {
+  const QString name = typed.trimmed();
+  const QString afterRestart = groupNameAfterRestart(name);
+  if (!isNew_ || afterRestart == name) return std::nullopt;
+  return UnstableGroupName{afterRestart, groupNameThatStays(name)};
 }
 
 GroupChanges GroupDraft::changes() const {

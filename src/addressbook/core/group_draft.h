@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <unordered_map>
 #include <vector>
 
@@ -23,14 +24,20 @@ struct GroupChanges {
   QStringList removed;                  ///< members that leave
 };
 
+/// A name for a new group that would be another one after the next start of the program.
+struct UnstableGroupName {
+  QString afterRestart;
+  QString suggestion;  ///< a similar name that stays
+};
+
 /// A group while it is being edited: members come and go, contacts are created and changed, and nothing of
 /// it is in the address book before changes() are written. The book must outlive the draft and stay as it is.
 class GroupDraft {
  public:
   using Contacts = ContactSelection::Contacts;
 
-  /// An empty `name` begins a new group, any other must be that of a group of `book`.
-  GroupDraft(const AddressBook& book, const QString& name);
+  /// Without a `name` a new group, otherwise the group of `book` with this name, which may be empty.
+  GroupDraft(const AddressBook& book, const std::optional<QString>& name);
 
   [[nodiscard]] bool isNew() const { return isNew_; }
   [[nodiscard]] const QString& name() const { return name_; }
@@ -51,6 +58,10 @@ class GroupDraft {
   /// Gives the group the name that was typed, blanks at both ends trimmed. Returns what is wrong with it, or
   /// an empty text. The name of a group that exists is not looked at: it stays.
   [[nodiscard]] QString takeName(const QString& typed);
+
+  /// Whether a new group can't keep the name that was typed, blanks at both ends trimmed. The name of an
+  /// existing group is never unstable.
+  [[nodiscard]] std::optional<UnstableGroupName> unstableName(const QString& typed) const;
 
   [[nodiscard]] GroupChanges changes() const;
 

@@ -293,7 +293,7 @@ void CContactsPage::newContact() {
 }
 
 void CContactsPage::newGroup() {
-  CGroupDetailsDlg dialog(services_, {}, this);
+  CGroupDetailsDlg dialog(services_, std::nullopt, this);
   if (dialog.exec() != QDialog::Accepted) return;
   const GroupChanges changes = dialog.changes();
   flow_.saveGroup(changes);

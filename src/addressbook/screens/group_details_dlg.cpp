@@ -1,5 +1,6 @@
 #include "addressbook/screens/group_details_dlg.h"
 
+#include <QGridLayout>
 #include <QHBoxLayout>
 #include <QItemSelectionModel>
 #include <QLabel>
@@ -7,6 +8,7 @@
 #include <QShortcut>
 #include <QVBoxLayout>
 
+#include "addressbook/core/name_order.h"
 #include "addressbook/screens/contact_details_dlg.h"
 #include "addressbook/screens/contact_text_validator.h"
 #include "addressbook/screens/ok_and_cancel.h"
@@ -14,6 +16,7 @@
 #include "addressbook/screens/select_contacts_dlg.h"
 #include "base/notifier.h"
 #include "contacts/address_book.h"
+#include "ui/hyperlink_label.h"
 #include "ui/list_style.h"
 #include "ui/look.h"
 #include "ui/page_controls.h"
@@ -21,7 +24,20 @@
 
 namespace parlexo {
 
-CGroupDetailsDlg::CGroupDetailsDlg(const AddressBookServices& services, const QString& group, QWidget* parent)
+namespace {
+
+// A name of any length in a text of one line.
+QString quoted(const QString& name) {
+  constexpr int shownCharacters = 30;
+  const QString shown =
+      name.size() > shownCharacters ? name.left(shownCharacters) + QStringLiteral("...") : name;
+  return u'"' + shown + u'"';
+}
+
+}  // namespace
+
+CGroupDetailsDlg::CGroupDetailsDlg(const AddressBookServices& services, const std::optional<QString>& group,
+                                   QWidget* parent)
     : GradientDialog(parent), services_(services), draft_(services.book, group) {
   setObjectName(QStringLiteral("groupDetailsDialog"));
   setWindowTitle(QStringLiteral("Parlexo(TM) : Group Details"));
@@ -41,9 +57,10 @@ void CGroupDetailsDlg::createControls() {
     name_ = new QLineEdit(this);
     name_->setObjectName(QStringLiteral("groupNameEdit"));
     name_->setValidator(new ContactTextValidator(name_));
+    connect(name_, &QLineEdit::textChanged, this, &CGroupDetailsDlg::checkName);
   } else {
     name_ = readOnlyField(QStringLiteral("groupNameEdit"), this);
-    name_->setText(draft_.name());
+    name_->setText(shownName(draft_.name()));
   }
   list_ = new RowListView(
       model_, [this](int row) { return model_.contact(row).name; }, QStringLiteral("Group Members:"), this);
@@ -70,17 +87,53 @@ void CGroupDetailsDlg::createLayout() {
   middle->addLayout(list, 1);
   middle->addLayout(buttonColumn());
 
-  auto* top = new QHBoxLayout;
-  top->addWidget(labelFor(name_, QStringLiteral("&Group Name:")));
-  top->addWidget(name_, 1);
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(16, 14, 16, 14);
   layout->setSpacing(10);
-  layout->addLayout(top);
+  layout->addLayout(nameRows());
   layout->addLayout(middle, 1);
   layout->addLayout(okAndCancelRow(*this));
-  setTabOrder(name_, list_);
+  ok_ = findChild<PictureButton*>(QStringLiteral("okButton"));
+  setTabOrder(name_, useSuggestion_);
+  setTabOrder(useSuggestion_, list_);
   resize(sizeHint().expandedTo(dialogUnits(*this, 360, 210)));
+}
+
+QLayout* CGroupDetailsDlg::nameRows() {
+  nameWarning_ = new QLabel(this);
+  nameWarning_->setObjectName(QStringLiteral("groupNameWarning"));
+  nameWarning_->setTextFormat(Qt::PlainText);
+  QPalette palette = nameWarning_->palette();
+  palette.setColor(QPalette::WindowText, look::problemText);
+  nameWarning_->setPalette(palette);
+  useSuggestion_ = new HyperlinkLabel({}, {}, this);
+  useSuggestion_->setObjectName(QStringLiteral("useSuggestedNameLink"));
+  useSuggestion_->hide();
+  connect(useSuggestion_, &HyperlinkLabel::clicked, this, [this] {
+    name_->setFocus(Qt::OtherFocusReason);
+    if (const auto unstable = draft_.unstableName(name_->text())) name_->setText(unstable->suggestion);
+  });
+  auto* rows = new QGridLayout;
+  rows->setVerticalSpacing(2);
+  rows->addWidget(labelFor(name_, QStringLiteral("&Group Name:")), 0, 0);
+  rows->addWidget(name_, 0, 1);
+  if (draft_.isNew()) rows->addLayout(lineWithLink(*nameWarning_, *useSuggestion_), 1, 1);
+  return rows;
+}
+
+void CGroupDetailsDlg::checkName() {
+  const auto unstable = draft_.unstableName(name_->text());
+  QString warning;
+  if (unstable) {
+    warning = QStringLiteral("After a restart this name would read %1.").arg(quoted(unstable->afterRestart));
+    const QString use = QStringLiteral("Use ") + quoted(unstable->suggestion);
+    useSuggestion_->setText(QString(use).replace(u'&', QStringLiteral("&&")));
+    useSuggestion_->updateGeometry();
+  }
+  nameWarning_->setText(warning);
+  name_->setAccessibleDescription(warning);
+  useSuggestion_->setVisible(unstable.has_value());
+  ok_->setEnabled(!unstable);
 }
 
 QLayout* CGroupDetailsDlg::buttonColumn() {
@@ -147,6 +200,7 @@ void CGroupDetailsDlg::enableButtons() {
 }
 
 void CGroupDetailsDlg::accept() {
+  if (!ok_->isEnabled()) return;
   const QString problem = draft_.takeName(name_->text());
   if (problem.isEmpty()) {
     GradientDialog::accept();
