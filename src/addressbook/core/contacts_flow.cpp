@@ -59,8 +59,9 @@ void ContactsFlow::addContact(const ContactRecord& contact, const QString& group
   services_.book.addMember(group, contact.name);
 }
 
-void ContactsFlow::changeContact(const ContactRecord& contact) const {
-  services_.book.saveContact(contact);
+void ContactsFlow::changeContact(const QString& oldName, const ContactRecord& contact) const {
+  const AddressBook::MessagesOnce once(services_.book);
+  services_.book.renameContact(oldName, contact);
 }
 
 void ContactsFlow::saveGroup(const GroupChanges& changes) const {

@@ -327,10 +327,18 @@ void CContactsPage::edit() {
 }
 
 void CContactsPage::editContact(int row) {
+  const QString oldName = model_.contact(row).name;
   const auto contact = editedByUser(model_.contact(row));
   if (!contact) return;
-  flow_.changeContact(*contact);
-  refresh();
+  if (contact->name == oldName) {
+    flow_.changeContact(oldName, *contact);
+    refresh();
+    return;
+  }
+  forgetContacts();
+  flow_.changeContact(oldName, *contact);
+  readBook();
+  list_->selectNames({contact->name});
 }
 
 void CContactsPage::editGroup(const QString& group) {
@@ -354,15 +362,18 @@ void CContactsPage::removeContacts(const QStringList& names) {
   if (!flow_.confirmDeletion(folder, static_cast<int>(names.size()))) return;
   const int scrolled = list_->verticalScrollBar()->value();
   const int place = list_->selectedRows().front();
-  // The list may be painted while the store waits for a file, and must not look for what is gone.
-  model_.setContacts({});
-  index_.forget();
+  forgetContacts();
   flow_.deleteContacts(folder, names);
   readBook();
   list_->verticalScrollBar()->setValue(scrolled);
   // The keyboard goes on where it was; nothing is selected, so that a further Delete can't hit by accident.
   const int row = std::min(place, model_.rowCount() - 1);
   list_->selectionModel()->setCurrentIndex(model_.index(row, 0), QItemSelectionModel::NoUpdate);
+}
+
+void CContactsPage::forgetContacts() {
+  model_.setContacts({});
+  index_.forget();
 }
 
 void CContactsPage::removeGroup(const ContactFolder& folder) {
