@@ -60,12 +60,6 @@ TEST(SelectionLists, modeDecidesWhoIsListed) {
   }
 }
 
-TEST(SelectionLists, faxNumbersAreShownHoweverTheModeIsSpelled) {
-  EXPECT_TRUE(showsFaxNumbers(u"Fax"));
-  EXPECT_TRUE(showsFaxNumbers(u"fAX"));
-  EXPECT_FALSE(showsFaxNumbers(u"Phone"));
-}
-
 TEST(SelectionLists, bothListsAreSortedWithoutRegardToCase) {
   SampleBook sample;
   for (const char* name :

@@ -29,13 +29,6 @@ class AddressBookChanges : public AddressBookFixture {
   const QString teamFile_ = "Team 1-42.grp";
 };
 
-TEST_F(AddressBookChanges, areWrittenThroughAtOnce) {
-  EXPECT_EQ(fileOf(contactsFile), packContact(contact(ann)) + packContact(contact(ben)));
-  EXPECT_EQ(fileOf(teamFile_), packMember(ann) + packMember(ben));
-  EXPECT_EQ(book_.findGroup(team)->members().size(), 2U);
-  EXPECT_THAT(notifier_.takeLines(), IsEmpty());
-}
-
 TEST_F(AddressBookChanges, ofKnownContactKeepItsAddressAndGroups) {
   const ContactRecord* before = book_.findContact(ann);
   EXPECT_TRUE(book_.saveContact(contact(ann, "+1")));
@@ -86,16 +79,6 @@ TEST_F(AddressBookChanges, groupMadeAnewAfterItsDeletionStartsEmpty) {
   EXPECT_TRUE(fileOf(teamFile_).isNull());
   EXPECT_TRUE(book_.createGroup(team, {ben}));
   EXPECT_EQ(fileOf(teamFile_), packMember(ben));
-}
-
-TEST_F(AddressBookChanges, inMemoryAloneLeaveTheFiles) {
-  const QString cleo = "Cleo";
-  EXPECT_TRUE(book_.saveContact(contact(cleo), false) && book_.addMember(team, cleo, false));
-  EXPECT_TRUE(book_.createGroup("Ghosts", {cleo}, false));
-  EXPECT_TRUE(book_.findGroup(team)->contains(cleo) && book_.findGroup("Ghosts")->contains(cleo));
-  EXPECT_EQ(fileOf(contactsFile).size(), 2 * contactRecordSize);
-  EXPECT_EQ(fileOf(teamFile_).size(), 2 * memberRecordSize);
-  EXPECT_TRUE(fileOf("Ghosts.grp").isNull());
 }
 
 }  // namespace
