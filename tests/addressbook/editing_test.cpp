@@ -3,6 +3,7 @@
 #include <optional>
 
 #include <QDir>
+#include <QRegularExpression>
 #include <QTemporaryDir>
 #include <gmock/gmock.h>
 
@@ -175,6 +176,7 @@ TEST(GroupDraft, suggestsNamesThatReadBackAsTyped) {
     EXPECT_EQ(unstable->afterRestart, afterRestart);
     EXPECT_EQ(unstable->suggestion, suggestion);
     EXPECT_FALSE(draft.unstableName(unstable->suggestion));
+    EXPECT_EQ(unstable->place, unstable->afterRestart.indexOf(QRegularExpression("[%<.>]")));
   }
   for (const char* stable : {"Team-C", "A-0", "12-", "a.b/c:d", "%-<", "--", " - x"})
     EXPECT_FALSE(draft.unstableName(stable)) << stable;

@@ -86,7 +86,8 @@ std::optional<UnstableGroupName> GroupDraft::unstableName(const QString& typed) 
   const QString name = typed.trimmed();
   const QString afterRestart = groupNameAfterRestart(name);
   if (!isNew_ || afterRestart == name) return std::nullopt;
-  return UnstableGroupName{afterRestart, groupNameThatStays(name)};
+  const auto different = std::mismatch(name.begin(), name.end(), afterRestart.begin(), afterRestart.end());
+  return UnstableGroupName{afterRestart, groupNameThatStays(name), different.first - name.begin()};
 }
 
 GroupChanges GroupDraft::changes() const {

@@ -27,7 +27,8 @@ struct GroupChanges {
 /// A name for a new group that would be another one after the next start of the program.
 struct UnstableGroupName {
   QString afterRestart;
-  QString suggestion;  ///< a similar name that stays
+  QString suggestion;   ///< a similar name that stays
+  qsizetype place = 0;  ///< of the first character that would be another one
 };
 
 /// A group while it is being edited: members come and go, contacts are created and changed, and nothing of

@@ -1,5 +1,7 @@
 #include "addressbook/screens/group_details_dlg.h"
 
+#include <algorithm>
+
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QItemSelectionModel>
@@ -26,11 +28,15 @@ namespace parlexo {
 
 namespace {
 
-// A name of any length in a text of one line.
-QString quoted(const QString& name) {
-  constexpr int shownCharacters = 30;
-  const QString shown =
-      name.size() > shownCharacters ? name.left(shownCharacters) + QStringLiteral("...") : name;
+// The name, or of a long one the part around its character number `place`.
+QString quoted(const QString& name, qsizetype place) {
+  constexpr qsizetype longest = 40;
+  const QString dots = QStringLiteral("...");
+  const qsizetype start =
+      std::clamp<qsizetype>(place - longest / 2, 0, std::max<qsizetype>(0, name.size() - longest));
+  QString shown = name.mid(start, longest);
+  if (start > 0) shown.prepend(dots);
+  if (start + longest < name.size()) shown.append(dots);
   return u'"' + shown + u'"';
 }
 
@@ -100,7 +106,7 @@ void CGroupDetailsDlg::createLayout() {
 }
 
 QLayout* CGroupDetailsDlg::nameRows() {
-  nameWarning_ = new QLabel(this);
+  nameWarning_ = wrappedLabel({}, this);
   nameWarning_->setObjectName(QStringLiteral("groupNameWarning"));
   nameWarning_->setTextFormat(Qt::PlainText);
   QPalette palette = nameWarning_->palette();
@@ -108,7 +114,6 @@ QLayout* CGroupDetailsDlg::nameRows() {
   nameWarning_->setPalette(palette);
   useSuggestion_ = new HyperlinkLabel({}, {}, this);
   useSuggestion_->setObjectName(QStringLiteral("useSuggestedNameLink"));
-  useSuggestion_->hide();
   connect(useSuggestion_, &HyperlinkLabel::clicked, this, [this] {
     name_->setFocus(Qt::OtherFocusReason);
     if (const auto unstable = draft_.unstableName(name_->text())) name_->setText(unstable->suggestion);
@@ -117,23 +122,27 @@ QLayout* CGroupDetailsDlg::nameRows() {
   rows->setVerticalSpacing(2);
   rows->addWidget(labelFor(name_, QStringLiteral("&Group Name:")), 0, 0);
   rows->addWidget(name_, 0, 1);
-  if (draft_.isNew()) rows->addLayout(lineWithLink(*nameWarning_, *useSuggestion_), 1, 1);
+  rows->addWidget(nameWarning_, 1, 1);
+  rows->addWidget(useSuggestion_, 2, 1);
+  nameWarning_->hide();
+  useSuggestion_->hide();
   return rows;
 }
 
 void CGroupDetailsDlg::checkName() {
   const auto unstable = draft_.unstableName(name_->text());
-  QString warning;
-  if (unstable) {
-    warning = QStringLiteral("After a restart this name would read %1.").arg(quoted(unstable->afterRestart));
-    const QString use = QStringLiteral("Use ") + quoted(unstable->suggestion);
-    useSuggestion_->setText(QString(use).replace(u'&', QStringLiteral("&&")));
-    useSuggestion_->updateGeometry();
-  }
+  ok_->setEnabled(!unstable);
+  nameWarning_->setVisible(unstable.has_value());
+  useSuggestion_->setVisible(unstable.has_value());
+  name_->setAccessibleDescription({});
+  if (!unstable) return;
+  const QString warning = QStringLiteral("After a restart this name would read %1.")
+                              .arg(quoted(unstable->afterRestart, unstable->place));
   nameWarning_->setText(warning);
   name_->setAccessibleDescription(warning);
-  useSuggestion_->setVisible(unstable.has_value());
-  ok_->setEnabled(!unstable);
+  const QString use = QStringLiteral("Use ") + quoted(unstable->suggestion, unstable->place);
+  useSuggestion_->setText(QString(use).replace(u'&', QStringLiteral("&&")));
+  useSuggestion_->updateGeometry();
 }
 
 QLayout* CGroupDetailsDlg::buttonColumn() {
