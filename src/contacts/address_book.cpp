@@ -75,13 +75,11 @@ bool AddressBook::deleteContact(const QString& name, bool writeToFile) {
 
 bool AddressBook::renameContact(const QString& oldName, const ContactRecord& contact) {
   if (oldName == contact.name) return saveContact(contact);
-  // Both may be in the record that is deleted here.
-  const ContactRecord renamed = contact;
-  const QString name = oldName;
-  const bool isSaved = saveContact(renamed);
+  const bool isSaved = saveContact(contact);
   bool written = isSaved;
-  for (const QString& groupName : groupsWith(name)) written = addMember(groupName, renamed.name) && written;
-  return deleteContact(name, isSaved) && written;
+  for (const QString& groupName : groupsWith(oldName))
+    written = addMember(groupName, contact.name) && written;
+  return deleteContact(oldName, isSaved) && written;
 }
 
 bool AddressBook::createGroup(const QString& name, const QStringList& memberNames, bool writeToFile) {

@@ -54,7 +54,7 @@ class ItemDatabase {
   using KeyFinder = std::function<std::optional<QSet<QByteArray>>(QString& error)>;
 
   /// Marks every record in use with one of the keys that `findKeys` returns as deleted. The file is locked
-  /// against reading and writing from before that call until the last mark is written, so whatever
+  /// against reading and writing from before that call until the last mark is written, so what
   /// `findKeys` reads in other files is newer than any record found here. It must not use this file. Fails
   /// like deleteItem(), with its messages, and when `findKeys` fails.
   bool deleteItems(QString& error, int keyWidth, const QString& path, int recordSize,

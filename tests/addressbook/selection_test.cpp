@@ -93,16 +93,6 @@ TEST(SelectionLists, groupTicksAndUnticksItsEligibleMembersOnly) {
   EXPECT_EQ(lists.tickedCount(), 0);
 }
 
-TEST(SelectionLists, groupWithoutEligibleMembersChangesNothing) {
-  FivePeople sample;
-  sample.addGroup("Silent", {"Dan"});
-  sample.addGroup("Nobody");
-  SelectionLists lists(sample.book(), "SMS", pick(sample, {"Ann"}));
-  EXPECT_TRUE(lists.setGroupTicked(rowOfGroup(lists, "Silent"), true).isEmpty());
-  EXPECT_TRUE(lists.setGroupTicked(rowOfGroup(lists, "Nobody"), true).isEmpty());
-  EXPECT_EQ(namesOf(lists.tickedContacts()), QStringList("Ann"));
-}
-
 TEST(ContactSelection, keepsTheListsOrderAndEachNameOnce) {
   FivePeople sample;
   sample.addContact("BOB");
@@ -197,14 +187,6 @@ TEST(TextSearch, findsTextsThatHoldEveryWord) {
   };
   const TextSearch search = sampleSearch();
   for (const auto& [typed, found] : cases) EXPECT_EQ(search.find(typed), found) << typed.toStdString();
-}
-
-TEST(TextSearch, looksOnlyAmongTheGivenTexts) {
-  const TextSearch search = sampleSearch();
-  EXPECT_EQ(search.find("a", {1, 2}), Found({2}));
-  EXPECT_EQ(search.find("", {1, 3}), Found({1, 3}));
-  EXPECT_EQ(search.find("a", {}), Found());
-  EXPECT_EQ(TextSearch().find("a"), Found());
 }
 
 }  // namespace

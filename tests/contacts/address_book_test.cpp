@@ -47,12 +47,6 @@ TEST_F(AddressBookChanges, deletedContactLeavesEveryGroup) {
   EXPECT_EQ(fileOf("Other.grp"), packMember(ben));
 }
 
-TEST_F(AddressBookChanges, contactWithNameLongerThanItsFieldCanBeDeleted) {
-  const QString name(100, u'x');
-  EXPECT_TRUE(book_.saveContact(contact(name)) && book_.deleteContact(name));
-  EXPECT_EQ(fileOf(contactsFile).last(512), deletedRecord(packContact(contact(name))));
-}
-
 TEST_F(AddressBookChanges, renamedContactStaysInItsGroups) {
   const QString anne = "Anne";
   EXPECT_TRUE(book_.renameContact(ann, contact(anne)));

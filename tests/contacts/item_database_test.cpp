@@ -172,13 +172,6 @@ TEST_F(ItemDatabaseFixture, fileThatWasMadeAnewTakesKnownKeysWithoutGapsOrDouble
   EXPECT_EQ(readBytes(path_), bob + cleo + anna);
 }
 
-TEST_F(ItemDatabaseFixture, knownKeyIsStillStoredAlignedBehindShortRecord) {
-  EXPECT_TRUE(write(anna));
-  writeBytes(path_, bob + record("1C"));
-  EXPECT_TRUE(write(anna));
-  EXPECT_EQ(readBytes(path_), bob + record("1C..........") + anna);
-}
-
 TEST_F(ItemDatabaseFixture, fileThatKeepsChangingIsGivenUpAfterElevenAttempts) {
   for (const int changes : {10, 11}) {
     path_ = pathOf(QString::number(changes));

@@ -136,7 +136,7 @@ void deleteContact(JournaledStore& contacts, JournaledStore& members, const std:
   members.erase(key);
 }
 
-// A starting program has nothing to tell its user.
+// A starting program shows no message.
 class ComplainingNotifier final : public Notifier {
  public:
   explicit ComplainingNotifier(JournalWriter& journal) : journal_(journal) {}
