@@ -127,10 +127,8 @@ void AddressBook::deleteOrphans(GroupFile& group, const QString& path, const QSe
 
 // Takes those of the contacts with these keys in that are in the database by now.
 bool AddressBook::loadNewContacts(QString& error, const QSet<QByteArray>& keys) {
-  QSet<QString> names;
-  for (const QByteArray& key : keys) names.insert(fromCodePage(key));
   const auto add = [&](QByteArrayView record) {
-    if (names.contains(fromCodePage(unpackMember(record)))) saveContact(unpackContact(record), false);
+    if (keys.contains(unpackMember(record))) saveContact(unpackContact(record), false);
     return true;
   };
   return database_.readAllItems(error, contactRecordSize, contactsPath(), add, timeoutSeconds);
