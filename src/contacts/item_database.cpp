@@ -298,19 +298,29 @@ bool ItemDatabase::deleteItems(QString& error, int keyWidth, const QString& path
   });
 }
 
-// Throws the failures of deleteItem().
+// Throws the failures of deleteItem(). Adjacent records are marked with one write: every write waits for the
+// storage, while the file is locked.
 void ItemDatabase::markDeleted(SharedFile& file, const QSet<QByteArray>& keys, const RecordForm& form) {
+  struct Run {
+    qint64 position;
+    QByteArray bytes;
+  };
   const qint64 size = sizeOf(file, {3, sizeError});
   if (size == 0) return;
   BlockReader reader(file, size, form.size, {{5, outOfMemory}, {6, "Read item error!"}});
-  std::vector<qint64> positions;
+  std::vector<Run> runs;
   for (qint64 position = 0; const auto record = reader.next(); position += form.size) {
     const bool isInUse = record->bytes.front() != recordDeleted;
-    if (isInUse && keys.contains(form.keyOf(record->bytes).toByteArray())) positions.push_back(position);
+    if (!isInUse || !keys.contains(form.keyOf(record->bytes).toByteArray())) continue;
+    if (runs.empty() || runs.back().position + runs.back().bytes.size() != position)
+      runs.push_back({position, {}});
+    runs.back().bytes.append(recordDeleted).append(record->bytes.sliced(stateWidth));
   }
-  for (const qint64 position : positions) {
-    require(file.seek(position), {7, positionError});
-    require(file.write(QByteArrayView(&recordDeleted, stateWidth)), {8, "Can't write item to database!"});
+  for (Run& run : runs) {
+    // The file may end within the last record, which must not become longer.
+    run.bytes.chop(form.size - stateWidth);
+    require(file.seek(run.position), {7, positionError});
+    require(file.write(run.bytes), {8, "Can't write item to database!"});
   }
 }
 
