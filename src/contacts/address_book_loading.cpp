@@ -22,6 +22,9 @@ constexpr int contactsPerProgress = 20;
 // Room is made at once for as many contacts as the file has, but not for more than this: a broken file may
 // claim any length.
 constexpr qint64 contactsToExpect = 1'000'000;
+// For the contacts while a group's file is locked: less than the time after which other programs that wait
+// for that file give up.
+constexpr int recheckTimeoutSeconds = 30;
 
 QString connectingProblem(const QString& error) {
   return QStringLiteral(
@@ -125,13 +128,13 @@ void AddressBook::deleteOrphans(GroupFile& group, const QString& path, const QSe
     showDeletionFailure(error);
 }
 
-// Takes those of the contacts with these keys in that are in the database by now.
+// Loads those of the contacts with these keys that are in the database by now.
 bool AddressBook::loadNewContacts(QString& error, const QSet<QByteArray>& keys) {
   const auto add = [&](QByteArrayView record) {
     if (keys.contains(unpackMember(record))) saveContact(unpackContact(record), false);
     return true;
   };
-  return database_.readAllItems(error, contactRecordSize, contactsPath(), add, timeoutSeconds);
+  return database_.readAllItems(error, contactRecordSize, contactsPath(), add, recheckTimeoutSeconds);
 }
 
 }  // namespace parlexo
