@@ -79,7 +79,9 @@ bool AddressBook::renameContact(const QString& oldName, const ContactRecord& con
   bool written = isSaved;
   for (const QString& groupName : groupsWith(oldName))
     written = addMember(groupName, contact.name) && written;
-  return deleteContact(oldName, isSaved) && written;
+  // Names that differ only behind the key's width share the records just written.
+  const bool hasOwnRecords = packName(oldName) != packName(contact.name);
+  return deleteContact(oldName, isSaved && hasOwnRecords) && written;
 }
 
 bool AddressBook::createGroup(const QString& name, const QStringList& memberNames, bool writeToFile) {

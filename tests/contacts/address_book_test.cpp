@@ -56,6 +56,11 @@ TEST_F(AddressBookChanges, renamedContactStaysInItsGroups) {
   EXPECT_EQ(fileOf(contactsFile), deletedRecord(packContact(contact(ann))) + packContact(contact(ben)) +
                                       packContact(contact(anne)));
   EXPECT_EQ(fileOf(teamFile_), deletedRecord(packMember(ann)) + packMember(ben) + packMember(anne));
+  const QString cut(nameWidth, u'x');
+  EXPECT_TRUE(book_.saveContact(contact(cut + "1")) && book_.addMember(team, cut + "1"));
+  EXPECT_TRUE(book_.renameContact(cut + "1", contact(cut + "2")));
+  EXPECT_TRUE(fileOf(contactsFile).endsWith(packContact(contact(cut)))) << "the same record";
+  EXPECT_TRUE(fileOf(teamFile_).endsWith(packMember(cut)));
 }
 
 TEST_F(AddressBookChanges, memberCanGoAndComeBackToItsSlot) {
