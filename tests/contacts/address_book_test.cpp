@@ -72,13 +72,5 @@ TEST_F(AddressBookChanges, memberCanGoAndComeBackToItsSlot) {
   EXPECT_FALSE(book_.removeMember("No group", ann));
 }
 
-TEST_F(AddressBookChanges, groupMadeAnewAfterItsDeletionStartsEmpty) {
-  EXPECT_TRUE(book_.deleteGroup(book_.findGroup(team)->name()));
-  EXPECT_FALSE(book_.findGroup(team));
-  EXPECT_TRUE(fileOf(teamFile_).isNull());
-  EXPECT_TRUE(book_.createGroup(team, {ben}));
-  EXPECT_EQ(fileOf(teamFile_), packMember(ben));
-}
-
 }  // namespace
 }  // namespace parlexo

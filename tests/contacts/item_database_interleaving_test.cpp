@@ -39,6 +39,7 @@ TEST_F(TwoPrograms, deletionOfKeyThatOthersAppendedFindsNothing) {
   EXPECT_EQ(readBytes(path_), anna_ + bert_);
   // The next new key makes it read the file again.
   EXPECT_TRUE(write(database_, cleo_));
+  EXPECT_EQ(readBytes(path_), anna_ + bert_ + cleo_);
   EXPECT_TRUE(erase(database_, "Bert"));
 }
 

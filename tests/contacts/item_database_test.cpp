@@ -155,16 +155,6 @@ TEST_F(ItemDatabaseFixture, recordsBeyondOneReadingBlockKeepTheirOrder) {
   EXPECT_EQ(next, count + 1);
 }
 
-TEST_F(ItemDatabaseFixture, newKeyFollowsTheRecordsThatOthersAppended) {
-  EXPECT_TRUE(write(anna));
-  writeBytes(path_, anna + bob);
-  EXPECT_TRUE(write(cleo));
-  EXPECT_EQ(readBytes(path_), anna + bob + cleo);
-  // The rebuilt index knows where bob is.
-  EXPECT_TRUE(write(record("1Bob.4444444")));
-  EXPECT_EQ(readBytes(path_), anna + record("1Bob.4444444") + cleo);
-}
-
 TEST_F(ItemDatabaseFixture, fileThatWasMadeAnewTakesKnownKeysWithoutGapsOrDoubles) {
   EXPECT_TRUE(write(anna) && write(bob) && write(cleo));
   writeBytes(path_, bob);
