@@ -274,6 +274,23 @@ TEST_F(ContactsPage, contactsAndGroupsWithoutNameAreSeenRenamedAndDeleted) {
   press("editButton");
   EXPECT_EQ(shown(), QStringList({"Ann", "Zed"}));
   addContact({});
+  book_.addMember({}, {});
+  page_->refresh();
+  list().clearSelection();
+  inDialog<CGroupDetailsDlg>([this](CGroupDetailsDlg& dialog) {
+    auto& members = *dialog.findChild<RowListView*>("memberList");
+    members.selectNames(QStringList(QString()));
+    inDialog<CContactDetailsDlg>([](CContactDetailsDlg& contact) {
+      type(contact, "nameEdit", "Abe");
+      click(contact, "okButton");
+    });
+    click(dialog, "propertiesButton");
+    click(dialog, "okButton");
+  });
+  press("editButton");
+  EXPECT_EQ(shown(), QStringList({"Abe", "Ann", "Zed"}));
+  EXPECT_FALSE(book_.findContact({}));
+  addContact({});
   page_->refresh();
   choose(Kind::Other);
   the<QLineEdit>("contactSearch").setText("(no");
@@ -286,7 +303,7 @@ TEST_F(ContactsPage, contactsAndGroupsWithoutNameAreSeenRenamedAndDeleted) {
   press("deleteButton");
   reload();
   EXPECT_FALSE(book_.findContact({}) || book_.findGroup({}));
-  EXPECT_TRUE(book_.findContact("Zed"));
+  EXPECT_TRUE(book_.findContact("Abe") && book_.findContact("Zed"));
 }
 
 TEST_F(ContactsPage, deletionFollowsTheFolder) {

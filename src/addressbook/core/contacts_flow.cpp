@@ -83,7 +83,8 @@ void ContactsFlow::saveGroup(const GroupChanges& changes) const {
 }
 
 void ContactsFlow::saveContacts(const GroupChanges& changes) const {
-  for (const ContactRecord& contact : changes.contacts) services_.book.saveContact(contact);
+  for (const ContactRecord& contact : changes.contacts)
+    services_.book.renameContact(contact.name == changes.newName ? QString() : contact.name, contact);
 }
 
 void ContactsFlow::changeMembers(const GroupChanges& changes) const {

@@ -55,6 +55,7 @@ void GroupDraft::remove(const QStringList& names) {
   std::erase_if(members_, [&leaving](const ContactRecord* member) { return leaving.contains(member->name); });
   for (const QString& name : names)
     if (!book_.findContact(name)) pending_.erase(name);
+  if (leaving.contains(newName_)) newName_.clear();
 }
 
 void GroupDraft::put(const ContactRecord& contact) {
@@ -64,6 +65,12 @@ void GroupDraft::put(const ContactRecord& contact) {
       members, [&kept](const ContactRecord* member) { return member == &kept || member->name == kept.name; });
   members.push_back(&kept);
   setMembers(std::move(members));
+}
+
+void GroupDraft::putNameless(const ContactRecord& contact) {
+  std::erase_if(members_, [](const ContactRecord* member) { return member->name.isEmpty(); });
+  newName_ = contact.name;
+  put(contact);
 }
 
 QString GroupDraft::takeName(const QString& typed) {
@@ -91,7 +98,7 @@ std::optional<UnstableGroupName> GroupDraft::unstableName(const QString& typed) 
 }
 
 GroupChanges GroupDraft::changes() const {
-  GroupChanges changes{name_, isNew_, {}, {}, {}};
+  GroupChanges changes{name_, isNew_, {}, {}, {}, newName_};
   for (const auto& [name, contact] : pending_) changes.contacts.push_back(contact);
   sortByName(changes.contacts, [](const ContactRecord& contact) { return contact.name; });
   const GroupFile* before = isNew_ ? nullptr : book_.findGroup(name_);

@@ -22,6 +22,8 @@ struct GroupChanges {
   std::vector<ContactRecord> contacts;  ///< new or changed ones, to be saved first
   QStringList added;                    ///< contacts that become members
   QStringList removed;                  ///< members that leave
+  /// The name given to the contact that had none, which is among `contacts`; empty when none was given.
+  QString newName = {};
 };
 
 /// A name for a new group that would be another one after the next start of the program.
@@ -55,6 +57,8 @@ class GroupDraft {
   void remove(const QStringList& names);
   /// Takes a new contact in, or the changed values of a member.
   void put(const ContactRecord& contact);
+  /// Takes the changed values of the member without a name, a name among them.
+  void putNameless(const ContactRecord& contact);
 
   /// Gives the group the name that was typed, blanks at both ends trimmed. Returns what is wrong with it, or
   /// an empty text. The name of a group that exists is not looked at: it stays.
@@ -75,6 +79,7 @@ class GroupDraft {
   bool isNew_;
   QString name_;
   std::unordered_map<QString, ContactRecord> pending_;  // new and changed contacts
+  QString newName_;                                     // of the contact without a name
   Contacts members_;
 };
 

@@ -296,8 +296,7 @@ void CContactsPage::newGroup() {
   CGroupDetailsDlg dialog(services_, std::nullopt, this);
   if (dialog.exec() != QDialog::Accepted) return;
   const GroupChanges changes = dialog.changes();
-  flow_.saveGroup(changes);
-  refresh();
+  saveGroup(changes);
   tree_->select({ContactFolder::Kind::Group, changes.group});
 }
 
@@ -335,17 +334,26 @@ void CContactsPage::editContact(int row) {
     refresh();
     return;
   }
-  forgetContacts();
-  flow_.changeContact(oldName, *contact);
-  readBook();
+  list_->keepPlace([&] {
+    forgetContacts();
+    flow_.changeContact(oldName, *contact);
+    readBook();
+  });
   list_->selectNames({contact->name});
 }
 
 void CContactsPage::editGroup(const QString& group) {
   CGroupDetailsDlg dialog(services_, group, this);
   if (dialog.exec() != QDialog::Accepted) return;
-  flow_.saveGroup(dialog.changes());
-  refresh();
+  saveGroup(dialog.changes());
+}
+
+void CContactsPage::saveGroup(const GroupChanges& changes) {
+  list_->keepPlace([&] {
+    if (!changes.newName.isEmpty()) forgetContacts();
+    flow_.saveGroup(changes);
+    readBook();
+  });
 }
 
 void CContactsPage::remove() {

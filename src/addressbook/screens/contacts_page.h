@@ -65,6 +65,7 @@ class CContactsPage final : public GradientPage {
   void edit();
   void editContact(int row);
   void editGroup(const QString& group);
+  void saveGroup(const GroupChanges& changes);
   void remove();
   void removeContacts(const QStringList& names);
   void removeGroup(const ContactFolder& folder);

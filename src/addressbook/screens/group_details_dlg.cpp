@@ -155,7 +155,8 @@ QLayout* CGroupDetailsDlg::buttonColumn() {
   };
   add(QStringLiteral("selectButton"), QStringLiteral("&Select..."), &CGroupDetailsDlg::select);
   removeButton_ = add(QStringLiteral("removeButton"), QStringLiteral("&Remove"), &CGroupDetailsDlg::remove);
-  add(QStringLiteral("newContactButton"), QStringLiteral("&New Contact..."), [this] { editContact({}); });
+  add(QStringLiteral("newContactButton"), QStringLiteral("&New Contact..."),
+      [this] { editContact(nullptr); });
   propertiesButton_ = add(QStringLiteral("propertiesButton"), QStringLiteral("&Properties..."),
                           &CGroupDetailsDlg::showProperties);
   column->addStretch(1);
@@ -184,14 +185,17 @@ void CGroupDetailsDlg::remove() {
 
 void CGroupDetailsDlg::showProperties() {
   const int row = list_->chosenRow();
-  if (row >= 0) editContact(model_.contact(row));
+  if (row >= 0) editContact(&model_.contact(row));
 }
 
-void CGroupDetailsDlg::editContact(const ContactRecord& contact) {
+void CGroupDetailsDlg::editContact(const ContactRecord* member) {
   const auto isTaken = [this](const QString& name) { return draft_.isContactNameTaken(name); };
-  CContactDetailsDlg dialog(contact, isTaken, services_.notifier, this);
+  CContactDetailsDlg dialog(member ? *member : ContactRecord(), isTaken, services_.notifier, this);
   if (dialog.exec() != QDialog::Accepted) return;
-  draft_.put(dialog.contact());
+  if (member && member->name.isEmpty())
+    draft_.putNameless(dialog.contact());
+  else
+    draft_.put(dialog.contact());
   showMembers({dialog.contact().name});
 }
 

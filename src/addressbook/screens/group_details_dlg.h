@@ -43,8 +43,8 @@ class CGroupDetailsDlg final : public GradientDialog {
   void select();
   void remove();
   void showProperties();
-  /// Without a name: a new one.
-  void editContact(const ContactRecord& contact);
+  /// Null for a new contact.
+  void editContact(const ContactRecord* member);
   void showMembers(const QStringList& selectedNames);
   void enableButtons();
   /// Shows below the name what is wrong with it as long as the group could not keep it.
