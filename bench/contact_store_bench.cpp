@@ -180,7 +180,7 @@ std::size_t memoryInUse() {
 
 std::size_t keyBytes(const ItemIndex& index) {
   std::size_t total = 0;
-  for (auto entry = index.keyBegin(); entry != index.keyEnd(); ++entry)
+  for (auto entry = index.recordNumbers.keyBegin(); entry != index.recordNumbers.keyEnd(); ++entry)
     total += static_cast<std::size_t>(entry->size());
   return total;
 }
@@ -203,7 +203,7 @@ void buildIndex(benchmark::State& state) {
       return state.SkipWithError(qPrintable(error));
     state.PauseTiming();
     const ItemIndex& index = *cache.find(path);
-    bytesEach = double(memoryInUse() - before - keyBytes(index)) / double(index.size());
+    bytesEach = double(memoryInUse() - before - keyBytes(index)) / double(index.recordCount);
     state.ResumeTiming();
   }
   state.counters["bytes_per_record"] = bytesEach;

@@ -24,6 +24,7 @@ void AddressBook::clear() {
   ++revision_;
   groups_.clear();
   contacts_.clear();
+  unsaved_.clear();
 }
 
 const ContactRecord* AddressBook::findContact(const QString& name) const {
@@ -38,15 +39,24 @@ const GroupFile* AddressBook::findGroup(const QString& name) const {
 
 bool AddressBook::saveContact(const ContactRecord& contact, bool writeToFile) {
   ++revision_;
-  contacts_[contact.name] = contact;
+  const QString name = contact.name;
+  const bool isNew = contacts_.insert_or_assign(name, contact).second;
   if (!writeToFile) return true;
   QString error;
   if (database_.writeItem(error, nameWidth, contactsPath(), contactRecordSize, packContact(contact),
                           timeoutSeconds))
-    return true;
+    return unsaved_.remove(name) == 0 || writePendingMembers(name);
+  if (isNew || unsaved_.contains(name)) unsaved_[name] = error;
   showFailure(QStringLiteral("There was a problem trying to save your contact to the database. Error="),
               error);
   return false;
+}
+
+bool AddressBook::writePendingMembers(const QString& contactName) {
+  bool written = true;
+  for (const auto& [groupName, group] : groups_)
+    if (group.contains(contactName)) written = writeMember(group, contactName) && written;
+  return written;
 }
 
 bool AddressBook::deleteContact(const QString& name, bool writeToFile) {
@@ -58,28 +68,29 @@ bool AddressBook::deleteContact(const QString& name, bool writeToFile) {
   for (auto& [groupName, group] : groups_)
     if (group.contains(ownName)) written = deleteMember(group, ownName, writeToFile) && written;
   ++revision_;
+  unsaved_.remove(ownName);
   contacts_.erase(found);
   return written;
 }
 
 bool AddressBook::renameContact(const QString& oldName, const ContactRecord& contact) {
   if (oldName == contact.name) return saveContact(contact);
-  // Both may lie in the record that is about to go.
-  const ContactRecord renamed = contact;
-  const QStringList groupNames = groupsWith(oldName);
-  bool written = deleteContact(oldName);
-  written = saveContact(renamed) && written;
-  for (const QString& groupName : groupNames) written = addMember(groupName, renamed.name) && written;
-  return written;
+  const bool isSaved = saveContact(contact);
+  bool written = isSaved;
+  for (const QString& groupName : groupsWith(oldName))
+    written = addMember(groupName, contact.name) && written;
+  // Names that differ only behind the key's width share the records just written.
+  const bool hasOwnRecords = packName(oldName) != packName(contact.name);
+  return deleteContact(oldName, isSaved && hasOwnRecords) && written;
 }
 
 bool AddressBook::createGroup(const QString& name, const QStringList& memberNames, bool writeToFile) {
   ++revision_;
-  groups_.try_emplace(name, name);
+  const GroupFile& group = groups_.try_emplace(name, name, newGroupFileName(name)).first->second;
   bool written = true;
   if (writeToFile) {
     QString error;
-    written = database_.createDb(error, groupPath(name));
+    written = database_.createDb(error, folder_ + group.fileNames_.first());
     if (!written)
       showFailure(QStringLiteral("There was a problem trying to create your group in the database Error="),
                   error);
@@ -90,11 +101,14 @@ bool AddressBook::createGroup(const QString& name, const QStringList& memberName
 }
 
 bool AddressBook::deleteGroup(const QString& name) {
-  // `name` may be the group's own.
-  const QString path = groupPath(name);
+  const auto group = groups_.find(name);
+  const QStringList fileNames =
+      group == groups_.end() ? QStringList(newGroupFileName(name)) : group->second.fileNames_;
   ++revision_;
-  groups_.erase(name);
-  if (database_.removeDb(path)) return true;
+  if (group != groups_.end()) groups_.erase(group);
+  bool removed = true;
+  for (const QString& fileName : fileNames) removed = database_.removeDb(folder_ + fileName) && removed;
+  if (removed) return true;
   showFailure(QStringLiteral("There was a problem trying to delete your group from the database"));
   return false;
 }
@@ -105,10 +119,13 @@ bool AddressBook::addMember(const QString& groupName, const QString& contactName
   if (group == groups_.end() || !contact) return false;
   ++revision_;
   group->second.members_[contact->name] = contact;
-  if (!writeToFile) return true;
-  QString error;
-  if (database_.writeItem(error, nameWidth, groupPath(groupName), memberRecordSize, packMember(contact->name),
-                          timeoutSeconds))
+  return !writeToFile || writeMember(group->second, contact->name);
+}
+
+bool AddressBook::writeMember(const GroupFile& group, const QString& contactName) {
+  QString error = unsaved_.value(contactName);
+  if (error.isEmpty() && database_.writeItem(error, nameWidth, folder_ + group.fileNames_.first(),
+                                             memberRecordSize, packMember(contactName), timeoutSeconds))
     return true;
   showFailure(QStringLiteral("There was a problem saving your contact to the database group. Error="), error);
   return false;
@@ -120,8 +137,11 @@ bool AddressBook::removeMember(const QString& groupName, const QString& contactN
 }
 
 bool AddressBook::deleteMember(GroupFile& group, const QString& contactName, bool writeToFile) {
-  const bool written =
-      !writeToFile || deleteName(groupPath(group.name()), packName(contactName), memberRecordSize);
+  bool written = true;
+  for (const QString& fileName : group.fileNames_) {
+    if (!writeToFile) break;
+    written = deleteName(folder_ + fileName, packName(contactName), memberRecordSize) && written;
+  }
   ++revision_;
   group.members_.erase(contactName);
   return written;
@@ -131,8 +151,12 @@ bool AddressBook::deleteName(const QString& path, const QByteArray& name, int re
   QString error;
   bool deleted = false;
   if (database_.deleteItem(error, nameWidth, path, name, recordSize, deleted, timeoutSeconds)) return true;
-  showFailure(QStringLiteral("There was a problem deleting a contact from your database. Error="), error);
+  showDeletionFailure(error);
   return false;
+}
+
+void AddressBook::showDeletionFailure(const QString& error) {
+  showFailure(QStringLiteral("There was a problem deleting a contact from your database. Error="), error);
 }
 
 void AddressBook::showFailure(const QString& sentence, const QString& error) {
@@ -152,8 +176,8 @@ QString AddressBook::contactsPath() const {
   return folder_ + encodeGroupFileName(QLatin1String(allContactsName), QLatin1String(contactsExtension));
 }
 
-QString AddressBook::groupPath(const QString& groupName) const {
-  return folder_ + encodeGroupFileName(groupName, QLatin1String(groupExtension));
+QString AddressBook::newGroupFileName(const QString& groupName) {
+  return encodeGroupFileName(groupName, QLatin1String(groupExtension));
 }
 
 }  // namespace parlexo

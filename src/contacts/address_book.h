@@ -5,8 +5,9 @@
 #include <unordered_map>
 
 #include <QByteArray>
-#include <QByteArrayList>
+#include <QHash>
 #include <QHashFunctions>  // std::hash of QString
+#include <QSet>
 #include <QString>
 #include <QStringList>
 #include <QtGlobal>
@@ -54,9 +55,10 @@ class AddressBook {
   AddressBook(const AddressBook&) = delete;
   AddressBook& operator=(const AddressBook&) = delete;
 
-  /// Reads all contacts and groups, once, at the start of the program; tells in `progress` how far it has
-  /// come. Members that are no contacts (any more) are deleted from their group's file. False when a file
-  /// could not be read, after a message: the program then ends.
+  /// Reads all contacts and groups, once, at the start of the program, and reports to `progress` how far it
+  /// has come. Members without a contact are deleted from their group's file, unless the contact has been
+  /// stored since the contacts were read: it is then loaded as well. False when a file could not be read,
+  /// after a message: the program then ends.
   [[nodiscard]] bool loadAll(Progress& progress);
   /// Forgets contacts and groups; the files stay.
   void clear();
@@ -69,21 +71,26 @@ class AddressBook {
   [[nodiscard]] const ContactRecord* findContact(const QString& name) const;
   [[nodiscard]] const GroupFile* findGroup(const QString& name) const;
 
-  /// Adds the contact, or takes its values over into the one of that name. False when writing failed.
+  /// Adds the contact, or takes its values over into the one of that name. False when writing failed. A new
+  /// contact that could not be written gets no member records either, as every program would delete them at
+  /// its next start; the first successful save writes those as well.
   bool saveContact(const ContactRecord& contact, bool writeToFile = true);
   /// Removes a contact from the database, from every group that has it, and from memory. True for a name
   /// that there is not; false when writing failed.
   bool deleteContact(const QString& name, bool writeToFile = true);
   /// Puts `contact` in the place of the contact `oldName`, in every group that has it too. The key of a
-  /// stored record never changes, so the old one is deleted and a new one written.
+  /// stored record never changes, so a new one is written and the old one deleted. The old one stays in the
+  /// files when the new one can't be written. False when writing failed.
   bool renameContact(const QString& oldName, const ContactRecord& contact);
 
   /// Creates a group with those of `memberNames` that are contacts; a group that exists gets them in
   /// addition. Each write is tried, whatever became of those before; false when one failed.
   bool createGroup(const QString& name, const QStringList& memberNames = {}, bool writeToFile = true);
-  /// Removes the group and its file. False when the file could not be removed.
+  /// Removes the group and its file. False, after a message, when the file could not be removed or does not
+  /// exist.
   bool deleteGroup(const QString& name);
-  /// Adds a contact to a group. False when there is no such group or contact, or when writing failed.
+  /// Adds a contact to a group. False when there is no such group or contact, and, after a message, when
+  /// writing failed or the contact itself could not be written yet.
   bool addMember(const QString& groupName, const QString& contactName, bool writeToFile = true);
   /// Takes a contact out of a group. True when it was no member; false when there is no such group, or
   /// when writing failed.
@@ -94,14 +101,18 @@ class AddressBook {
   static constexpr int timeoutSeconds = 60;
 
   [[nodiscard]] QString contactsPath() const;
-  [[nodiscard]] QString groupPath(const QString& groupName) const;
+  [[nodiscard]] static QString newGroupFileName(const QString& groupName);
   void createPersonalGroup();
   bool loadContacts(Progress& progress);
   bool loadGroups(Progress& progress);
   bool loadGroup(const QString& fileName, Progress& progress);
-  void addLoadedMember(GroupFile& group, const QByteArray& name, QByteArrayList& orphans) const;
-  void deleteOrphans(const QString& path, const QByteArrayList& orphans);
+  [[nodiscard]] bool addLoadedMember(GroupFile& group, const QByteArray& key) const;
+  void deleteOrphans(GroupFile& group, const QString& path, const QSet<QByteArray>& orphans);
+  bool loadNewContacts(QString& error, const QSet<QByteArray>& keys);
+  bool writeMember(const GroupFile& group, const QString& contactName);
+  bool writePendingMembers(const QString& contactName);
   void showFailure(const QString& sentence, const QString& error = {});
+  void showDeletionFailure(const QString& error);
   bool deleteMember(GroupFile& group, const QString& contactName, bool writeToFile);
   bool deleteName(const QString& path, const QByteArray& name, int recordSize);
   [[nodiscard]] QStringList groupsWith(const QString& contactName) const;
@@ -111,6 +122,7 @@ class AddressBook {
   Notifier& notifier_;
   Contacts contacts_;
   Groups groups_;
+  QHash<QString, QString> unsaved_;  // new contacts that could not be written, with the store's message
   quint64 revision_ = 0;
   std::optional<QStringList> shownOnce_;
 };

@@ -1,6 +1,7 @@
 // Reading the whole address book at the start of the program.
 
 #include <algorithm>
+#include <optional>
 #include <utility>
 
 #include <QDir>
@@ -21,6 +22,9 @@ constexpr int contactsPerProgress = 20;
 // Room is made at once for as many contacts as the file has, but not for more than this: a broken file may
 // claim any length.
 constexpr qint64 contactsToExpect = 1'000'000;
+// For the contacts while a group's file is locked: less than the time after which other programs that wait
+// for that file give up.
+constexpr int recheckTimeoutSeconds = 30;
 
 QString connectingProblem(const QString& error) {
   return QStringLiteral(
@@ -47,7 +51,7 @@ bool AddressBook::loadAll(Progress& progress) {
 }
 
 void AddressBook::createPersonalGroup() {
-  const QString path = groupPath(QLatin1String(personalContactsName));
+  const QString path = folder_ + newGroupFileName(QLatin1String(personalContactsName));
   QString error;
   if (database_.createDb(error, path)) return;
   notifier_.show(QStringLiteral("Can't create the personal contacts database: ") + path +
@@ -82,11 +86,14 @@ bool AddressBook::loadGroups(Progress& progress) {
 
 bool AddressBook::loadGroup(const QString& fileName, Progress& progress) {
   const QString name = decodeGroupFileName(fileName, QLatin1String(groupExtension));
-  GroupFile& group = groups_.try_emplace(name, name).first->second;
+  const auto [entry, isFirstFile] = groups_.try_emplace(name, name, fileName);
+  GroupFile& group = entry->second;
+  if (!isFirstFile) group.fileNames_.append(fileName);
   progress.setText(QStringLiteral("Loading Group \"%1\"...").arg(name));
-  QByteArrayList orphans;
+  QSet<QByteArray> orphans;
   const auto add = [&](QByteArrayView record) {
-    addLoadedMember(group, unpackMember(record), orphans);
+    const QByteArray key = unpackMember(record);
+    if (!addLoadedMember(group, key)) orphans.insert(key);
     return true;
   };
   QString error;
@@ -95,20 +102,39 @@ bool AddressBook::loadGroup(const QString& fileName, Progress& progress) {
     notifier_.error(connectingProblem(error));
     return false;
   }
-  deleteOrphans(path, orphans);
+  if (!orphans.isEmpty()) deleteOrphans(group, path, orphans);
   return true;
 }
 
-void AddressBook::addLoadedMember(GroupFile& group, const QByteArray& name, QByteArrayList& orphans) const {
-  if (const ContactRecord* contact = findContact(fromCodePage(name)))
-    group.members_[contact->name] = contact;
-  else
-    orphans.append(name);
+bool AddressBook::addLoadedMember(GroupFile& group, const QByteArray& key) const {
+  const ContactRecord* contact = findContact(fromCodePage(key));
+  if (contact) group.members_[contact->name] = contact;
+  return contact != nullptr;
 }
 
-// One that can't be deleted does not hinder the others; the next start tries it again.
-void AddressBook::deleteOrphans(const QString& path, const QByteArrayList& orphans) {
-  for (const QByteArray& orphan : orphans) deleteName(path, orphan, memberRecordSize);
+// A colleague may have stored a contact and its membership after the contacts were read here. Programs write
+// the contact first, so once the group's file is locked, a contact that is not in the database has no
+// acknowledged membership that it could lose.
+void AddressBook::deleteOrphans(GroupFile& group, const QString& path, const QSet<QByteArray>& orphans) {
+  const auto stillMissing = [&](QString& error) -> std::optional<QSet<QByteArray>> {
+    if (!loadNewContacts(error, orphans)) return std::nullopt;
+    QSet<QByteArray> missing;
+    for (const QByteArray& key : orphans)
+      if (!addLoadedMember(group, key)) missing.insert(key);
+    return missing;
+  };
+  QString error;
+  if (!database_.deleteItems(error, nameWidth, path, memberRecordSize, stillMissing, timeoutSeconds))
+    showDeletionFailure(error);
+}
+
+// Loads those of the contacts with these keys that are in the database by now.
+bool AddressBook::loadNewContacts(QString& error, const QSet<QByteArray>& keys) {
+  const auto add = [&](QByteArrayView record) {
+    if (keys.contains(unpackMember(record))) saveContact(unpackContact(record), false);
+    return true;
+  };
+  return database_.readAllItems(error, contactRecordSize, contactsPath(), add, recheckTimeoutSeconds);
 }
 
 }  // namespace parlexo

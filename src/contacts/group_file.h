@@ -5,18 +5,20 @@
 
 #include <QHashFunctions>  // std::hash of QString
 #include <QString>
+#include <QStringList>
 
 #include "contacts/contact_record.h"
 
 namespace parlexo {
 
-/// One group of contacts: its name and its members by name. The members belong to the address book, which
-/// takes a contact out of every group before it goes.
+/// One group of contacts: its name, its members by name, and the files that hold it. The members belong to
+/// the address book, which removes a contact from every group before it deletes the contact.
 class GroupFile {
  public:
   using Members = std::unordered_map<QString, const ContactRecord*>;
 
-  explicit GroupFile(QString name) : name_(std::move(name)) {}
+  /// `fileName` is the group's file, without the folder.
+  GroupFile(QString name, const QString& fileName) : name_(std::move(name)), fileNames_(fileName) {}
 
   [[nodiscard]] const QString& name() const { return name_; }
   [[nodiscard]] const Members& members() const { return members_; }
@@ -26,6 +28,8 @@ class GroupFile {
   friend class AddressBook;
 
   QString name_;
+  // Several where the names of several files read as the same group. Members are added to the first.
+  QStringList fileNames_;
   Members members_;
 };
 

@@ -2,6 +2,8 @@
 
 #include <array>
 
+#include <QRegularExpression>
+
 namespace parlexo {
 
 namespace {
@@ -42,6 +44,16 @@ QString decodeGroupFileName(const QString& fileName, const QString& extension) {
     name.replace(QLatin1String(replacement.encoded), QLatin1String(replacement.plain));
   if (name.endsWith(extension)) name.chop(extension.size());
   return name;
+}
+
+QString groupNameAfterRestart(const QString& name) {
+  const QLatin1String extension(groupExtension);
+  return decodeGroupFileName(encodeGroupFileName(name, extension), extension);
+}
+
+QString groupNameThatStays(const QString& name) {
+  static const QRegularExpression misread(QStringLiteral("-+(?=[1-9AB])"));
+  return QString(name).replace(misread, QStringLiteral(" ")).trimmed();
 }
 
 }  // namespace parlexo

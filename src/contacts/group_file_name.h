@@ -15,4 +15,11 @@ inline constexpr char contactsExtension[] = ".all_grp";
 /// group a-1, stored as a--1, reads back as a%. Address books in use depend on that.
 [[nodiscard]] QString decodeGroupFileName(const QString& fileName, const QString& extension);
 
+/// What the name of a new group will be once the folder has been read again.
+[[nodiscard]] QString groupNameAfterRestart(const QString& name);
+
+/// `name` with a blank in the place of the hyphens that keep it from reading back, blanks at both ends
+/// trimmed.
+[[nodiscard]] QString groupNameThatStays(const QString& name);
+
 }  // namespace parlexo

@@ -1,14 +1,10 @@
 #include "contacts/item_database.h"
 
-#include <algorithm>
-#include <limits>
 #include <memory>
 #include <new>
-#include <optional>
 #include <vector>
 
-#include <QByteArray>
-
+#include "contacts/database_operation.h"
 #include "contacts/zero_ended.h"
 
 namespace parlexo {
@@ -17,50 +13,12 @@ namespace {
 
 constexpr int lastAttempt = 10;
 constexpr int indexTimeout = 30;
-// Records are read in blocks of about this many bytes: one system call per record would make reading a
-// large database over a network slow.
-constexpr qint64 blockBytes = 1 << 20;
 constexpr qint64 stateWidth = 1;
-
-// Ends an operation with a message of its own.
-struct Failure {
-  int number;
-  const char* text;
-};
-
-// Ends an operation whose message is in the caller's error string already.
-struct Reported {};
 
 constexpr char shareError[] = "Database access share error!";
 constexpr char outOfMemory[] = "Out of memory!";
 constexpr char sizeError[] = "Determine database size error!";
 constexpr char positionError[] = "Can't set index position!";
-constexpr char unknownError[] = "Unknown error!";
-
-void appendMessage(QString& error, const char* operation, const Failure& failure) {
-  error += QStringLiteral("[%1:%2 - %3]")
-               .arg(QLatin1String(operation), QString::number(failure.number), QLatin1String(failure.text));
-}
-
-// Runs an operation's body and turns what it throws into the operation's message and result.
-template <typename Body>
-bool perform(QString& error, const char* operation, int unknownNumber, Body body) {
-  try {
-    body();
-    return true;
-  } catch (const Failure& failure) {
-    appendMessage(error, operation, failure);
-  } catch (const Reported&) {
-    return false;
-  } catch (...) {
-    appendMessage(error, operation, {unknownNumber, unknownError});
-  }
-  return false;
-}
-
-void require(bool success, const Failure& failure) {
-  if (!success) throw failure;
-}
 
 void requireOpened(SharedFile::OpenResult result, const Failure& shared, const Failure& failed) {
   switch (result) {
@@ -77,14 +35,6 @@ qint64 sizeOf(const SharedFile& file, const Failure& failure) {
   const std::optional<qint64> size = file.size();
   require(size.has_value(), failure);
   return *size;
-}
-
-std::vector<char> allocate(qint64 size, const Failure& failure) {
-  try {
-    return std::vector<char>(static_cast<std::size_t>(size), '\0');
-  } catch (const std::bad_alloc&) {
-    throw failure;
-  }
 }
 
 // Tells the waiter when its pauses are over.
@@ -107,56 +57,6 @@ class Wait {
   bool hasPaused_ = false;
 };
 
-// Hands out the records of a file one after the other. Before the block lies the record that came last, so
-// that a short record at the file's end can be filled up from it.
-class BlockReader {
- public:
-  BlockReader(SharedFile& file, qint64 size, qint64 recordSize)
-      : file_(file),
-        left_(size),
-        recordSize_(recordSize),
-        capacity_(std::max<qint64>(1, std::min(blockBytes, size) / recordSize) * recordSize),
-        buffer_(allocate(recordSize + capacity_, {4, outOfMemory})) {}
-
-  // The next record, or nothing at the end of the file.
-  std::optional<QByteArrayView> next() {
-    if (position_ == filled_ && !readBlock()) return std::nullopt;
-    const QByteArrayView record(&buffer_[static_cast<std::size_t>(recordSize_ + position_)], recordSize_);
-    position_ += recordSize_;
-    return record;
-  }
-
- private:
-  bool readBlock() {
-    const auto previousEnd = buffer_.begin() + recordSize_ + filled_;
-    std::copy(previousEnd - recordSize_, previousEnd, buffer_.begin());
-    const auto count =
-        file_.read(&buffer_[static_cast<std::size_t>(recordSize_)], std::min(left_, capacity_));
-    require(count.has_value(), {5, "Read from database error!"});
-    left_ -= *count;
-    position_ = 0;
-    filled_ = *count;
-    completeLastRecord();
-    return filled_ > 0;
-  }
-
-  void completeLastRecord() {
-    const qint64 tail = filled_ % recordSize_;
-    if (tail == 0) return;
-    const auto end = buffer_.begin() + recordSize_ + filled_;
-    std::copy(end - recordSize_, end - tail, end);
-    filled_ += recordSize_ - tail;
-  }
-
-  SharedFile& file_;
-  qint64 left_;
-  qint64 recordSize_;
-  qint64 capacity_;
-  std::vector<char> buffer_;
-  qint64 position_ = 0;
-  qint64 filled_ = 0;
-};
-
 }  // namespace
 
 struct ItemDatabase::RecordForm {
@@ -172,7 +72,7 @@ struct ItemDatabase::RecordForm {
 struct ItemDatabase::Lookup {
   bool found;
   qint32 recordNumber;  // -1 when not found
-  qint32 entryCount;
+  qint32 recordCount;   // whole records in the file, as far as the index knows
 };
 
 ItemDatabase::ItemDatabase(ItemIndexCache& cache, LockWaiter& waiter) : cache_(cache), waiter_(waiter) {}
@@ -191,18 +91,24 @@ SharedFile::OpenResult ItemDatabase::openWithWait(SharedFile& file, const QStrin
 
 bool ItemDatabase::readAllItems(QString& error, int recordSize, const QString& path, const Visitor& visitor,
                                 int timeout, bool includeDeleted) {
-  return perform(error, "readAllItems", 6, [&] {
-    SharedFile file;
-    requireOpened(openWithWait(file, path, SharedFile::Mode::Read, timeout), {1, shareError},
-                  {2, "Database open error!"});
-    const qint64 size = sizeOf(file, {3, sizeError});
-    if (size == 0) return;
-    BlockReader reader(file, size, recordSize);
-    while (const auto record = reader.next()) {
-      if (record->front() == recordDeleted && !includeDeleted) continue;
-      if (!visitor(*record)) return;
-    }
+  return runOperation(error, "readAllItems", 6, [&] {
+    readRecords(path, recordSize, timeout, [&](const BlockReader::Record& record) {
+      return (record.bytes.front() == recordDeleted && !includeDeleted) || visitor(record.bytes);
+    });
   });
+}
+
+// Throws the failures of readAllItems().
+void ItemDatabase::readRecords(const QString& path, qint64 recordSize, int timeout,
+                               const std::function<bool(const BlockReader::Record&)>& visit) {
+  SharedFile file;
+  requireOpened(openWithWait(file, path, SharedFile::Mode::Read, timeout), {1, shareError},
+                {2, "Database open error!"});
+  const qint64 size = sizeOf(file, {3, sizeError});
+  if (size == 0) return;
+  BlockReader reader(file, size, recordSize, {{4, outOfMemory}, {5, "Read from database error!"}});
+  while (const auto record = reader.next())
+    if (!visit(*record)) return;
 }
 
 ItemDatabase::Lookup ItemDatabase::getItemIndex(QString& error, const QString& path, QByteArrayView key,
@@ -217,26 +123,25 @@ ItemDatabase::Lookup ItemDatabase::getItemIndex(QString& error, const QString& p
     }
     fillIndex(error, *index, path, form);
   }
-  const auto found = index->constFind(key.toByteArray());
-  const auto count = static_cast<qint32>(index->size());
-  if (found == index->constEnd()) return {false, -1, count};
-  return {true, found.value(), count};
+  const auto found = index->recordNumbers.constFind(key.toByteArray());
+  if (found == index->recordNumbers.constEnd()) return {false, -1, index->recordCount};
+  return {true, found.value(), index->recordCount};
 }
 
 // An index that could not be read whole stays in the cache: its count no longer fits the file, so that the
 // next write of a new key throws it away.
 void ItemDatabase::fillIndex(QString& error, ItemIndex& index, const QString& path, const RecordForm& form) {
   qint32 number = 0;
-  const auto note = [&](QByteArrayView record) {
-    index[form.keyOf(record).toByteArray()] = number++;
+  const auto add = [&](const BlockReader::Record& record) {
+    index.recordNumbers[form.keyOf(record.bytes).toByteArray()] = number++;
+    if (record.isWhole) ++index.recordCount;
     return true;
   };
-  if (!readAllItems(error, static_cast<int>(form.size), path, note, indexTimeout, true)) throw Reported();
+  if (!runOperation(error, "readAllItems", 6, [&] { readRecords(path, form.size, indexTimeout, add); }))
+    throw Reported();
 }
 
 namespace {
-
-enum class Stored { InPlace, Appended };
 
 // Looks for the record's slot from `start` on and stores the record there, or behind the last one.
 class ItemStorer {
@@ -249,17 +154,17 @@ class ItemStorer {
         key_(untilZero(record.sliced(stateWidth, headWidth - stateWidth))),
         head_(allocate(headWidth, {7, outOfMemory})) {}
 
-  Stored storeFrom(qint64 start) {
+  // Returns the number of the record when it had to be appended.
+  std::optional<qint64> storeFrom(qint64 start) {
     seek(start, 6);
     for (qint64 position = start; position < fileSize_; position += record_.size()) {
       if (readsOwnKey()) {
         storeAt(position);
-        return Stored::InPlace;
+        return std::nullopt;
       }
       require(file_.seek(position + record_.size()), {12, "Can't read next item in database!"});
     }
-    append();
-    return Stored::Appended;
+    return append();
   }
 
  private:
@@ -290,10 +195,11 @@ class ItemStorer {
 
   // Where the file ends within a record, that one is left incomplete and the next record boundary taken:
   // otherwise all records written from now on would be out of step.
-  void append() {
+  qint64 append() {
     const qint64 records = (fileSize_ + record_.size() - 1) / record_.size();
     seek(records * record_.size(), 6);
     require(file_.write(record_), {13, "Can't append item to the database!"});
+    return records;
   }
 
   SharedFile& file_;
@@ -308,7 +214,7 @@ class ItemStorer {
 
 bool ItemDatabase::writeItem(QString& error, int keyWidth, const QString& path, int recordSize,
                              QByteArrayView record, int timeout) {
-  return perform(error, "writeItem", 14, [&] {
+  return runOperation(error, "writeItem", 14, [&] {
     require(!record.isEmpty() && record.size() == recordSize, {1, "Illegal data to write!"});
     const RecordForm form = {recordSize, keyWidth};
     for (int attempt = lastAttempt; attempt >= 0; --attempt)
@@ -326,31 +232,35 @@ bool ItemDatabase::tryWrite(QString& error, const QString& path, QByteArrayView 
   requireOpened(openWithWait(file, path, SharedFile::Mode::Write, timeout), {2, shareError},
                 {3, "Database open error!"});
   const qint64 size = sizeOf(file, {4, sizeError});
-  if (!lookup.found && size / form.size != lookup.entryCount) {
+  if (!lookup.found && size / form.size != lookup.recordCount) {
     file.close();
     cache_.dropItemIndex(path);
     return false;
   }
   ItemStorer storer(file, size, record, form.headWidth());
   const qint64 start = lookup.found ? lookup.recordNumber * form.size : size;
-  if (storer.storeFrom(start) == Stored::Appended) noteAppended(path, key, lookup);
+  if (const auto appended = storer.storeFrom(start)) updateIndex(path, key, lookup, *appended);
   return true;
 }
 
-// A key that the index knew but the file no longer had tells of a file that was deleted and made anew:
-// nothing in the index can be relied on, and a wrong record number would lead to doubled records.
-void ItemDatabase::noteAppended(const QString& path, QByteArrayView key, const Lookup& lookup) {
-  if (lookup.found) {
+// A record that went elsewhere than behind the last one known shows that the index does not fit the file: a
+// key that the index knew was no longer there, so the file was deleted and created again, or the file ended
+// within a record, whose place now holds another key. A wrong record number would lead to doubled records.
+void ItemDatabase::updateIndex(const QString& path, QByteArrayView key, const Lookup& lookup,
+                               qint64 appendedNumber) {
+  const std::shared_ptr<ItemIndex> index = cache_.find(path);
+  if (lookup.found || appendedNumber != lookup.recordCount) {
     cache_.dropItemIndex(path);
-  } else if (const std::shared_ptr<ItemIndex> index = cache_.find(path)) {
-    (*index)[key.toByteArray()] = lookup.entryCount;
+  } else if (index) {
+    index->recordNumbers[key.toByteArray()] = lookup.recordCount;
+    index->recordCount = lookup.recordCount + 1;
   }
 }
 
 bool ItemDatabase::deleteItem(QString& error, int keyWidth, const QString& path, QByteArrayView key,
                               int recordSize, bool& deleted, int timeout) {
   deleted = false;
-  return perform(error, "deleteItem", 9, [&] {
+  return runOperation(error, "deleteItem", 9, [&] {
     deleted = eraseItem(error, path, key, {recordSize, keyWidth}, timeout);
   });
 }
@@ -376,8 +286,46 @@ bool ItemDatabase::eraseItem(QString& error, const QString& path, QByteArrayView
   return false;
 }
 
+bool ItemDatabase::deleteItems(QString& error, int keyWidth, const QString& path, int recordSize,
+                               const KeyFinder& findKeys, int timeout) {
+  return runOperation(error, "deleteItem", 9, [&] {
+    SharedFile file;
+    requireOpened(openWithWait(file, path, SharedFile::Mode::Erase, timeout), {1, shareError},
+                  {2, shareError});
+    const auto keys = findKeys(error);
+    if (!keys) throw Reported();
+    if (!keys->isEmpty()) markDeleted(file, *keys, {recordSize, keyWidth});
+  });
+}
+
+// Throws the failures of deleteItem(). Adjacent records are marked with one write: every write waits for the
+// storage, while the file is locked.
+void ItemDatabase::markDeleted(SharedFile& file, const QSet<QByteArray>& keys, const RecordForm& form) {
+  struct Run {
+    qint64 position;
+    QByteArray bytes;
+  };
+  const qint64 size = sizeOf(file, {3, sizeError});
+  if (size == 0) return;
+  BlockReader reader(file, size, form.size, {{5, outOfMemory}, {6, "Read item error!"}});
+  std::vector<Run> runs;
+  for (qint64 position = 0; const auto record = reader.next(); position += form.size) {
+    const bool isInUse = record->bytes.front() != recordDeleted;
+    if (!isInUse || !keys.contains(form.keyOf(record->bytes).toByteArray())) continue;
+    if (runs.empty() || runs.back().position + runs.back().bytes.size() != position)
+      runs.push_back({position, {}});
+    runs.back().bytes.append(recordDeleted).append(record->bytes.sliced(stateWidth));
+  }
+  for (Run& run : runs) {
+    // The file may end within the last record, which must not become longer.
+    run.bytes.chop(form.size - stateWidth);
+    require(file.seek(run.position), {7, positionError});
+    require(file.write(run.bytes), {8, "Can't write item to database!"});
+  }
+}
+
 bool ItemDatabase::createDb(QString& error, const QString& path) {
-  return perform(error, "createDb", 2, [&] {
+  return runOperation(error, "createDb", 2, [&] {
     SharedFile file;
     const bool failed = file.open(path, SharedFile::Mode::Create) == SharedFile::OpenResult::Failed;
     require(!failed, {1, "Can't create the database!"});

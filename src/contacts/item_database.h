@@ -1,10 +1,14 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 
+#include <QByteArray>
 #include <QByteArrayView>
+#include <QSet>
 #include <QString>
 
+#include "contacts/block_reader.h"
 #include "contacts/item_index_cache.h"
 #include "contacts/lock_waiter.h"
 #include "contacts/shared_file.h"
@@ -36,14 +40,25 @@ class ItemDatabase {
 
   /// Stores `record` (`recordSize` bytes, key filled in; it is stored as in use whatever its state byte)
   /// under its key: over the data of the record with that key, in the slot of a deleted one with that key,
-  /// or behind the last. Fails with message 5 when the number of records differs from that of a
-  /// just-read index eleven times.
+  /// or behind the last. A file that ends within a record gets the new one at the next record boundary.
+  /// Fails with message 5 when eleven times in a row the file had another number of whole records than the
+  /// index that was just read from it.
   bool writeItem(QString& error, int keyWidth, const QString& path, int recordSize, QByteArrayView record,
                  int timeout);
 
   /// Marks the record in use with this key as deleted; `deleted` tells whether there was one.
   bool deleteItem(QString& error, int keyWidth, const QString& path, QByteArrayView key, int recordSize,
                   bool& deleted, int timeout);
+
+  /// Returns the keys to delete, or nothing after appending a message to `error`.
+  using KeyFinder = std::function<std::optional<QSet<QByteArray>>(QString& error)>;
+
+  /// Marks every record in use with one of the keys that `findKeys` returns as deleted. The file is locked
+  /// against reading and writing from before that call until the last mark is written, so what
+  /// `findKeys` reads in other files is newer than any record found here. It must not use this file. Fails
+  /// like deleteItem(), with its messages, and when `findKeys` fails.
+  bool deleteItems(QString& error, int keyWidth, const QString& path, int recordSize,
+                   const KeyFinder& findKeys, int timeout);
 
   /// Makes sure that the file exists. A file that others hold exists.
   bool createDb(QString& error, const QString& path);
@@ -62,11 +77,14 @@ class ItemDatabase {
 
   SharedFile::OpenResult openWithWait(SharedFile& file, const QString& path, SharedFile::Mode mode,
                                       int timeout);
+  void readRecords(const QString& path, qint64 recordSize, int timeout,
+                   const std::function<bool(const BlockReader::Record&)>& visit);
   Lookup getItemIndex(QString& error, const QString& path, QByteArrayView key, const RecordForm& form);
   void fillIndex(QString& error, ItemIndex& index, const QString& path, const RecordForm& form);
   bool tryWrite(QString& error, const QString& path, QByteArrayView record, const RecordForm& form,
                 int timeout);
-  void noteAppended(const QString& path, QByteArrayView key, const Lookup& lookup);
+  void updateIndex(const QString& path, QByteArrayView key, const Lookup& lookup, qint64 appendedNumber);
+  static void markDeleted(SharedFile& file, const QSet<QByteArray>& keys, const RecordForm& form);
   bool eraseItem(QString& error, const QString& path, QByteArrayView key, const RecordForm& form,
                  int timeout);
 

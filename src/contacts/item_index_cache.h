@@ -9,9 +9,14 @@
 
 namespace parlexo {
 
-/// Which record of a database file holds a key, deleted records included; of several records with one key
-/// the last.
-using ItemIndex = QHash<QByteArray, qint32>;
+/// The records of a database file as this program last saw them, deleted ones included.
+struct ItemIndex {
+  /// By key; of several records with one key the last.
+  QHash<QByteArray, qint32> recordNumbers;
+  /// Records with all their bytes in the file. Not the number of keys: a key may be there twice, and the file
+  /// may end within a record whose key is known.
+  qint32 recordCount = 0;
+};
 
 /// The item indexes of all databases that this run has looked a key up in. One object for the whole run,
 /// created by the application and used by the interface thread alone: it has no lock.

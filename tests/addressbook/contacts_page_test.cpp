@@ -202,7 +202,15 @@ TEST_F(ContactsPage, cancelledContactForAMessageIsNoEmptyAddition) {
 TEST_F(ContactsPage, groupIsCreatedChangedAndDeleted) {
   inDialog<CGroupDetailsDlg>([&](CGroupDetailsDlg& dialog) {
     click(dialog, "okButton");
-    type(dialog, "groupNameEdit", "Choir");
+    type(dialog, "groupNameEdit", "Choir-1");
+    click(dialog, "okButton");
+    EXPECT_TRUE(dialog.isVisible()) << "the name would not stay";
+    EXPECT_EQ(dialog.findChild<QLabel*>("groupNameWarning")->text(),
+              "After a restart this name would read \"Choir%\".");
+    auto& suggested = *dialog.findChild<QAbstractButton*>("useSuggestedNameLink");
+    EXPECT_EQ(suggested.text(), "Use \"Choir 1\"");
+    QTest::keyClick(&suggested, Qt::Key_Space);
+    EXPECT_EQ(dialog.findChild<QLineEdit*>("groupNameEdit")->text(), "Choir 1");
     inDialog<CSelectContactsDlg>([](CSelectContactsDlg& selection) {
       auto& contacts = *selection.findChild<CheckListView*>("contactList");
       contacts.model()->setData(contacts.model()->index(1, 0), Qt::Checked, Qt::CheckStateRole);
@@ -221,7 +229,7 @@ TEST_F(ContactsPage, groupIsCreatedChangedAndDeleted) {
   });
   press("newGroupButton");
   EXPECT_EQ(notifier_.takeLines(), QStringList("16 Group name cannot be blank"));
-  EXPECT_EQ(tree().selected(), (ContactFolder{Kind::Group, "Choir"}));
+  EXPECT_EQ(tree().selected(), (ContactFolder{Kind::Group, "Choir 1"}));
   EXPECT_EQ(shown(), QStringList({"Ann", "Dan"}));
 
   notifier_.answers = {MessageResult::Yes, MessageResult::Yes};
@@ -246,9 +254,56 @@ TEST_F(ContactsPage, groupIsCreatedChangedAndDeleted) {
   EXPECT_EQ(column(list(), 4), QStringList("+2"));
   list().selectNames({"Dan"});
   press(tree(), Qt::Key_Delete);
-  EXPECT_FALSE(book_.findGroup("Choir")) << "in the tree the key means the folder";
+  EXPECT_FALSE(book_.findGroup("Choir 1")) << "in the tree the key means the folder";
   EXPECT_TRUE(book_.findContact("Dan"));
   EXPECT_EQ(tree().selected(), ContactFolder());
+}
+
+TEST_F(ContactsPage, contactsAndGroupsWithoutNameAreSeenRenamedAndDeleted) {
+  addContact({});
+  book_.createGroup({}, QStringList({QString(), "Ann"}));
+  page_->refresh();
+  choose(Kind::Group, {});
+  EXPECT_EQ(tree().currentItem()->text(0), "(no name)");
+  EXPECT_EQ(shown(), QStringList({"(no name)", "Ann"}));
+  list().selectNames(QStringList(QString()));
+  inDialog<CContactDetailsDlg>([](CContactDetailsDlg& dialog) {
+    type(dialog, "nameEdit", "Zed");
+    click(dialog, "okButton");
+  });
+  press("editButton");
+  EXPECT_EQ(shown(), QStringList({"Ann", "Zed"}));
+  addContact({});
+  book_.addMember({}, {});
+  page_->refresh();
+  list().clearSelection();
+  inDialog<CGroupDetailsDlg>([this](CGroupDetailsDlg& dialog) {
+    auto& members = *dialog.findChild<RowListView*>("memberList");
+    members.selectNames(QStringList(QString()));
+    inDialog<CContactDetailsDlg>([](CContactDetailsDlg& contact) {
+      type(contact, "nameEdit", "Abe");
+      click(contact, "okButton");
+    });
+    click(dialog, "propertiesButton");
+    click(dialog, "okButton");
+  });
+  press("editButton");
+  EXPECT_EQ(shown(), QStringList({"Abe", "Ann", "Zed"}));
+  EXPECT_FALSE(book_.findContact({}));
+  addContact({});
+  page_->refresh();
+  choose(Kind::Other);
+  the<QLineEdit>("contactSearch").setText("(no");
+  EXPECT_EQ(shown(), QStringList("(no name)"));
+  list().selectAll();
+  notifier_.answers = {MessageResult::Yes, MessageResult::Yes};
+  press("deleteButton");
+  choose(Kind::Group, {});
+  list().clearSelection();
+  press("deleteButton");
+  reload();
+  EXPECT_FALSE(book_.findContact({}) || book_.findGroup({}));
+  EXPECT_TRUE(book_.findContact("Abe") && book_.findContact("Zed"));
 }
 
 TEST_F(ContactsPage, deletionFollowsTheFolder) {

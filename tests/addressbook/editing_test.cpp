@@ -3,6 +3,7 @@
 #include <optional>
 
 #include <QDir>
+#include <QRegularExpression>
 #include <QTemporaryDir>
 #include <gmock/gmock.h>
 
@@ -154,6 +155,32 @@ TEST(GroupDraft, refusesNamesThatAreBlankOrTaken) {
   GroupDraft created(sample.book(), {});
   EXPECT_EQ(created.takeName(" Teams "), "");
   EXPECT_EQ(created.changes().group, "Teams");
+}
+
+TEST(GroupDraft, suggestsNamesThatReadBackAsTyped) {
+  const SampleBook sample;
+  const struct {
+    const char* typed;
+    const char* afterRestart;
+    const char* suggestion;
+  } cases[] = {
+      {" Under-12s ", "Under%2s", "Under 12s"},
+      {"Team-A", "Team<", "Team A"},
+      {"x--9-B", "x-.>", "x 9 B"},
+      {"-1", "%", "1"},
+  };
+  const GroupDraft draft(sample.book(), {});
+  for (const auto& [typed, afterRestart, suggestion] : cases) {
+    const auto unstable = draft.unstableName(typed);
+    ASSERT_TRUE(unstable) << typed;
+    EXPECT_EQ(unstable->afterRestart, afterRestart);
+    EXPECT_EQ(unstable->suggestion, suggestion);
+    EXPECT_FALSE(draft.unstableName(unstable->suggestion));
+    EXPECT_EQ(unstable->place, unstable->afterRestart.indexOf(QRegularExpression("[%<.>]")));
+  }
+  for (const char* stable : {"Team-C", "A-0", "12-", "a.b/c:d", "%-<", "--", " - x"})
+    EXPECT_FALSE(draft.unstableName(stable)) << stable;
+  EXPECT_FALSE(GroupDraft(sample.book(), "Team-A").unstableName("Team-A")) << "an existing group";
 }
 
 TEST(GroupDraft, changesAreTheDifferenceAndTheBookStaysAsItIs) {

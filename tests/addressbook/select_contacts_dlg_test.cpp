@@ -96,6 +96,15 @@ TEST_F(SelectContactsDlg, checkBoxesTickAndSelectReturnsThemInTheListsOrder) {
   EXPECT_EQ(selected(), QStringList({"bob", "Dan", "eva"}));
 }
 
+TEST_F(SelectContactsDlg, contactsAndGroupsWithoutNameAreShownAndFound) {
+  people_.addContact({}, "+1");
+  people_.addGroup({});
+  open(people_, "All", {});
+  for (const char* search : {"contactSearch", "groupSearch"}) type(search, "no name");
+  EXPECT_EQ(shown(contacts(), 1), QStringList("(no name)"));
+  EXPECT_EQ(shown(groups(), 1), QStringList("(no name)"));
+}
+
 TEST_F(SelectContactsDlg, cancelAndEscapeLeaveTheSelectionAsItWas) {
   for (const bool byKey : {false, true}) {
     open(people_, "SMS", {"eva", "Ann"});

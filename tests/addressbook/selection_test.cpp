@@ -60,12 +60,6 @@ TEST(SelectionLists, modeDecidesWhoIsListed) {
   }
 }
 
-TEST(SelectionLists, faxNumbersAreShownHoweverTheModeIsSpelled) {
-  EXPECT_TRUE(showsFaxNumbers(u"Fax"));
-  EXPECT_TRUE(showsFaxNumbers(u"fAX"));
-  EXPECT_FALSE(showsFaxNumbers(u"Phone"));
-}
-
 TEST(SelectionLists, bothListsAreSortedWithoutRegardToCase) {
   SampleBook sample;
   for (const char* name :
@@ -97,16 +91,6 @@ TEST(SelectionLists, groupTicksAndUnticksItsEligibleMembersOnly) {
   lists.setGroupTicked(team, false);
   EXPECT_TRUE(lists.tickedContacts().isEmpty());
   EXPECT_EQ(lists.tickedCount(), 0);
-}
-
-TEST(SelectionLists, groupWithoutEligibleMembersChangesNothing) {
-  FivePeople sample;
-  sample.addGroup("Silent", {"Dan"});
-  sample.addGroup("Nobody");
-  SelectionLists lists(sample.book(), "SMS", pick(sample, {"Ann"}));
-  EXPECT_TRUE(lists.setGroupTicked(rowOfGroup(lists, "Silent"), true).isEmpty());
-  EXPECT_TRUE(lists.setGroupTicked(rowOfGroup(lists, "Nobody"), true).isEmpty());
-  EXPECT_EQ(namesOf(lists.tickedContacts()), QStringList("Ann"));
 }
 
 TEST(ContactSelection, keepsTheListsOrderAndEachNameOnce) {
@@ -203,14 +187,6 @@ TEST(TextSearch, findsTextsThatHoldEveryWord) {
   };
   const TextSearch search = sampleSearch();
   for (const auto& [typed, found] : cases) EXPECT_EQ(search.find(typed), found) << typed.toStdString();
-}
-
-TEST(TextSearch, looksOnlyAmongTheGivenTexts) {
-  const TextSearch search = sampleSearch();
-  EXPECT_EQ(search.find("a", {1, 2}), Found({2}));
-  EXPECT_EQ(search.find("", {1, 3}), Found({1, 3}));
-  EXPECT_EQ(search.find("a", {}), Found());
-  EXPECT_EQ(TextSearch().find("a"), Found());
 }
 
 }  // namespace

@@ -98,6 +98,17 @@ TEST_F(GoldenFiles, sameContactsAndMembersAreWrittenInTheSameBytes) {
   EXPECT_EQ(readBytes(pathOf("copy/" + oddTeamFile)), members(0) + members(2));
 }
 
+TEST(ContactFileFormat, longValuesFillTheirFieldsAndNothingElse) {
+  ContactRecord contact = {QString(81, u'n'), QString(21, u'1'), "Yes", {},
+                           QString(21, u'2'), QString(61, u'e'), {}};
+  for (QString& extra : contact.extra) extra = QString(41, u'x');
+  const QByteArray expected = "\x01" + QByteArray(80, 'n') + QByteArray(60, 'e') + QByteArray(20, '1') +
+                              QByteArray(20, '2') + QByteArray("Y\0", 2) + QByteArray(240, 'x') +
+                              QByteArray(89, '\0');
+  EXPECT_EQ(packContact(contact), expected);
+  EXPECT_EQ(packName(contact.name), QByteArray(80, 'n'));
+}
+
 TEST_F(GoldenFiles, changesTouchTheirBytesAlone) {
   QByteArray contacts = readBytes(golden_ + contactsFile);
   QByteArray members = readBytes(golden_ + oddTeamFile);

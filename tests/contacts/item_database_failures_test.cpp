@@ -63,8 +63,8 @@ class ItemDatabaseFailures : public StoreFixture {
     cache_.dropAllItemIndexes();
     if (index == Index::Missing) return;
     ItemIndex& entries = *cache_.create(path_);
-    entries = {{"Anna", 0}, {"Bob", 1}, {"Cleo", 2}};
-    if (index == Index::Early) entries["Cleo"] = 0;
+    entries = {{{"Anna", 0}, {"Bob", 1}, {"Cleo", 2}}, 3};
+    if (index == Index::Early) entries.recordNumbers["Cleo"] = 0;
   }
 
   void expectMessage(const Case& each) {

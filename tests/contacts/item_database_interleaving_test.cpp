@@ -1,6 +1,9 @@
-// What two programs on one file can come to that the store does not prevent (docs/file-formats.md says
-// which), so that a change of any of it is noticed. Two databases with an index each are two programs.
+// Files that another program has changed, damaged or locked. Two databases with an index each are two
+// programs.
 
+#include <optional>
+
+#include <QSet>
 #include <gtest/gtest.h>
 
 #include "tests/contacts/store_fixture.h"
@@ -28,8 +31,6 @@ class TwoPrograms : public StoreFixture {
   const QByteArray cleo_ = item("Cleo", 'c');
   ItemIndexCache otherCache_;
   ItemDatabase other_{otherCache_, waiter_};
-  const QString countMessage_ =
-      QStringLiteral("[writeItem:5 - Can't write to database as it is locked by another user!]");
 };
 
 TEST_F(TwoPrograms, deletionOfKeyThatOthersAppendedFindsNothing) {
@@ -38,45 +39,57 @@ TEST_F(TwoPrograms, deletionOfKeyThatOthersAppendedFindsNothing) {
   EXPECT_EQ(readBytes(path_), anna_ + bert_);
   // The next new key makes it read the file again.
   EXPECT_TRUE(write(database_, cleo_));
+  EXPECT_EQ(readBytes(path_), anna_ + bert_ + cleo_);
   EXPECT_TRUE(erase(database_, "Bert"));
 }
 
-TEST_F(TwoPrograms, slotThatOthersRevivedIsFoundByWhoeverKnewIt) {
-  EXPECT_TRUE(write(database_, anna_) && write(database_, bert_));
-  EXPECT_TRUE(erase(other_, "Anna") && write(database_, anna_) && erase(other_, "Anna"));
-  EXPECT_EQ(readBytes(path_), item("Anna", 'a', ItemDatabase::recordDeleted) + bert_);
+TEST_F(TwoPrograms, damagedFilesTakeNewKeysAndKeepWhatTheyHold) {
+  const QByteArray dora = item("Dora", 'd');
+  const QByteArray torn = bert_.first(6);
+  const struct {
+    QByteArray damaged;
+    QByteArray kept;
+  } cases[] = {
+      {anna_ + anna_, anna_ + anna_},
+      {anna_ + torn, anna_ + torn + QByteArray(recordSize - 6, '\0')},
+      {anna_ + bert_.first(3), anna_ + bert_.first(3) + QByteArray(recordSize - 3, '\0')},
+      {torn, torn + QByteArray(recordSize - 6, '\0')},
+      {bert_ + anna_ + bert_ + torn, bert_ + anna_ + bert_ + torn + QByteArray(recordSize - 6, '\0')},
+  };
+  for (const auto& each : cases) {
+    writeBytes(path_, each.damaged);
+    cache_.dropAllItemIndexes();
+    // The second append and the update use the index that the first one left.
+    EXPECT_TRUE(write(database_, cleo_) && write(database_, dora) && write(database_, item("Cleo", 'z')));
+    EXPECT_EQ(readBytes(path_), each.kept + item("Cleo", 'z') + dora);
+  }
+  EXPECT_EQ(error_, QString());
 }
 
-TEST_F(TwoPrograms, fileMadeAnewWithEqualCountTakesDoubledKey) {
-  EXPECT_TRUE(write(database_, anna_));
-  EXPECT_TRUE(other_.removeDb(path_) && write(other_, bert_));
-  EXPECT_TRUE(write(database_, bert_));
-  EXPECT_EQ(readBytes(path_), bert_ + bert_);
-}
-
-TEST_F(TwoPrograms, keyBeforeItsRememberedSlotIsDoubledAndNotDeleted) {
-  EXPECT_TRUE(write(database_, anna_) && write(database_, bert_));
-  EXPECT_TRUE(other_.removeDb(path_) && write(other_, bert_) && write(other_, cleo_));
-  EXPECT_FALSE(erase(database_, "Bert"));
-  EXPECT_TRUE(write(database_, bert_));
-  EXPECT_EQ(readBytes(path_), bert_ + cleo_ + bert_);
-}
-
-TEST_F(TwoPrograms, doubledKeysLetKnownKeysChangeAndRefuseNewOnes) {
-  writeBytes(path_, anna_ + anna_);
-  EXPECT_FALSE(write(database_, bert_));
-  EXPECT_EQ(error_, countMessage_);
-  EXPECT_TRUE(write(database_, item("Anna", 'z')));
-  EXPECT_TRUE(erase(database_, "Anna"));
-  EXPECT_EQ(readBytes(path_), anna_ + item("Anna", 'z', ItemDatabase::recordDeleted)) << "one still shows";
-}
-
-TEST_F(TwoPrograms, fileEndingWithinRecordLetsKnownKeysChangeAndRefusesNewOnes) {
+TEST_F(TwoPrograms, knownKeyCompletesItsTornRecord) {
   writeBytes(path_, anna_ + bert_.first(6));
-  EXPECT_FALSE(write(database_, cleo_));
-  EXPECT_EQ(error_, countMessage_);
-  EXPECT_TRUE(write(database_, item("Anna", 'z')));
-  EXPECT_EQ(readBytes(path_), item("Anna", 'z') + bert_.first(6));
+  EXPECT_TRUE(write(database_, bert_) && write(database_, cleo_));
+  EXPECT_EQ(readBytes(path_), anna_ + bert_ + cleo_);
+}
+
+TEST_F(TwoPrograms, deletionOfSeveralKeysLocksTheFileFromBeforeTheyAreChosen) {
+  writeBytes(path_, anna_ + bert_ + anna_ + cleo_.first(9));
+  const auto choose = [&](QString& error) -> std::optional<QSet<QByteArray>> {
+    SharedFile writer;
+    EXPECT_EQ(writer.open(path_, SharedFile::Mode::Write), SharedFile::OpenResult::SharingViolation);
+    if (!error.isEmpty()) return std::nullopt;
+    return QSet<QByteArray>{"Anna", "Cleo", "None"};
+  };
+  const auto deleteChosen = [&] {
+    return database_.deleteItems(error_, keyWidth, path_, recordSize, choose, timeout);
+  };
+  EXPECT_TRUE(deleteChosen());
+  const QByteArray anna = item("Anna", 'a', ItemDatabase::recordDeleted);
+  const QByteArray expected = anna + bert_ + anna + item("Cleo", 'c', ItemDatabase::recordDeleted).first(9);
+  EXPECT_EQ(readBytes(path_), expected);
+  error_ = "kept";
+  EXPECT_FALSE(deleteChosen());
+  EXPECT_EQ(error_, "kept");
 }
 
 }  // namespace

@@ -155,28 +155,11 @@ TEST_F(ItemDatabaseFixture, recordsBeyondOneReadingBlockKeepTheirOrder) {
   EXPECT_EQ(next, count + 1);
 }
 
-TEST_F(ItemDatabaseFixture, newKeyFollowsTheRecordsThatOthersAppended) {
-  EXPECT_TRUE(write(anna));
-  writeBytes(path_, anna + bob);
-  EXPECT_TRUE(write(cleo));
-  EXPECT_EQ(readBytes(path_), anna + bob + cleo);
-  // The rebuilt index knows where bob is.
-  EXPECT_TRUE(write(record("1Bob.4444444")));
-  EXPECT_EQ(readBytes(path_), anna + record("1Bob.4444444") + cleo);
-}
-
 TEST_F(ItemDatabaseFixture, fileThatWasMadeAnewTakesKnownKeysWithoutGapsOrDoubles) {
   EXPECT_TRUE(write(anna) && write(bob) && write(cleo));
   writeBytes(path_, bob);
   EXPECT_TRUE(write(cleo) && write(anna) && write(cleo));
   EXPECT_EQ(readBytes(path_), bob + cleo + anna);
-}
-
-TEST_F(ItemDatabaseFixture, knownKeyIsStillStoredAlignedBehindShortRecord) {
-  EXPECT_TRUE(write(anna));
-  writeBytes(path_, bob + record("1C"));
-  EXPECT_TRUE(write(anna));
-  EXPECT_EQ(readBytes(path_), bob + record("1C..........") + anna);
 }
 
 TEST_F(ItemDatabaseFixture, fileThatKeepsChangingIsGivenUpAfterElevenAttempts) {
@@ -212,7 +195,7 @@ TEST_F(ItemDatabaseFixture, unusableRecordsAndPathsGiveTheOperationsMessage) {
   // The index of the failed reading stays, empty, so that the writing itself is tried next.
   EXPECT_FALSE(write(anna) || write(anna));
   EXPECT_TRUE(erase("Anna", deleted));
-  (*cache_.create(path_))["Anna"] = 0;
+  cache_.create(path_)->recordNumbers["Anna"] = 0;
   EXPECT_FALSE(erase("Anna", deleted));
   EXPECT_EQ(error_,
             "kept [createDb:1 - Can't create the database!][readAllItems:2 - Database open error!]"

@@ -16,7 +16,7 @@ class WaitingFixture : public StoreFixture {
   WaitingFixture() {
     writeBytes(path_, record_);
     // Its own index, so that the operations need not read the file first.
-    (*cache_.create(path_))["Anna"] = 0;
+    *cache_.create(path_) = {{{"Anna", 0}}, 1};
   }
   bool read() {
     const auto ignore = [](QByteArrayView) { return true; };
@@ -75,34 +75,12 @@ TEST_F(WaitingFixture, operationsSucceedWhenTheOtherProcessLeavesInTime) {
   EXPECT_EQ(error_, QString());
 }
 
-TEST_F(WaitingFixture, readersComeInTogetherAndCreationNeverWaits) {
-  {
-    const OtherProcess reader(path_, LOCK_SH);
-    EXPECT_TRUE(read());
-  }
-  const OtherProcess writer(path_, LOCK_EX);
-  EXPECT_TRUE(database_.createDb(error_, path_));
-  EXPECT_FALSE(database_.removeDb(path_));
-  EXPECT_EQ(readBytes(path_), record_);
-  EXPECT_EQ(waiter_.pauses(), 0);
-}
-
 TEST_F(WaitingFixture, indexIsReadWithItsOwnLongerPatience) {
   database_.dropAllItemIndexes();
   const OtherProcess writer(path_, LOCK_EX);
   EXPECT_FALSE(write());
   EXPECT_EQ(error_, QStringLiteral("[readAllItems:1 - Database access share error!]"));
   EXPECT_EQ(waiter_.pauses(), 62);
-}
-
-TEST_F(WaitingFixture, fileDeletedWhileWaitingIsMadeAnewAndTakesTheWrite) {
-  OtherProcess other(path_, LOCK_EX);
-  waiter_.onPause = [&] {
-    QFile::remove(path_);
-    other.leave();
-  };
-  EXPECT_TRUE(write());
-  EXPECT_EQ(readBytes(path_), record_);
 }
 
 }  // namespace

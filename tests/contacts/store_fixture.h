@@ -48,11 +48,15 @@ class FakeWaiter final : public LockWaiter {
 class RecordingProgress final : public Progress {
  public:
   void show(const QString& text = {}) override { opened.append(text); }
-  void setText(const QString& text) override { texts.append(text); }
+  void setText(const QString& text) override {
+    texts.append(text);
+    if (onText) onText(text);
+  }
   void hide() override {}
 
   QStringList opened;  ///< the texts with which the box was opened
   QStringList texts;
+  std::function<void(const QString&)> onText;
 };
 
 /// A record of 12 bytes is what the tests of the database itself store: state, key of 4, data of 7.

@@ -34,6 +34,13 @@ class StressVerdict : public testing::Test {
     return judge(Kind::Contacts, pathOf("database"), {pathOf("journal")}).problems;
   }
 
+  Verdict memberVerdict(const std::string& journal, const std::string& contactJournal) {
+    write("journal", journal);
+    write("contacts", contactJournal);
+    write("database", file_);
+    return judge(Kind::Members, pathOf("database"), {pathOf("journal")}, {pathOf("contacts")});
+  }
+
   // An "@" in the journal stands for the group's file.
   std::vector<std::string> groupProblems(std::string journal) {
     for (std::size_t at = 0; (at = journal.find('@', at)) != std::string::npos;)
@@ -98,6 +105,25 @@ TEST_F(StressVerdict, damagedFileIsFound) {
   EXPECT_THAT(problemsWith([this] { file_ += "x"; }), ElementsAre(HasSubstr("ends within a record")));
   EXPECT_THAT(problemsWith([this] { stored("Bob", "from nowhere"); }),
               ElementsAre(HasSubstr("Bob: nobody wrote this")));
+}
+
+TEST_F(StressVerdict, memberMayBeGoneOnlyWhereItsContactMayHaveBeen) {
+  const struct {
+    std::string contactJournal;
+    std::size_t missing;
+  } cases[] = {
+      {"", 1},
+      {"begin\tw\t11\tAnn\tx\ndone\t12\n", 1},
+      {"begin\td\t1\tAnn\t\ndone\t9\n", 1},
+      {"begin\td\t30\tBob\t\ndone\t40\n", 1},
+      {"begin\td\t1\tAnn\t\ndone\t11\n", 0},
+      {"begin\td\t30\tAnn\t\n", 0},
+  };
+  for (const auto& each : cases) {
+    const Verdict verdict = memberVerdict("begin\tw\t10\tAnn\tmember\ndone\t20\n", each.contactJournal);
+    EXPECT_EQ(verdict.missing, each.missing) << each.contactJournal;
+    EXPECT_EQ(verdict.problems.size(), each.missing) << each.contactJournal;
+  }
 }
 
 TEST_F(StressVerdict, memberMustStayUnlessSomethingMayHaveTakenItAway) {

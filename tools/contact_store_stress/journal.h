@@ -6,7 +6,7 @@
 
 namespace parlexo::stress {
 
-enum class Action : char { Write = 'w', Delete = 'd', RemoveFile = 'r' };
+enum class Action : char { Write = 'w', Delete = 'd', RemoveFile = 'r', Start = 's' };
 
 /// One operation of one process as its journal tells it. Times are nanoseconds of the machine's monotonic
 /// clock, which all processes share.

@@ -26,6 +26,9 @@ namespace {
 
 using namespace parlexo::stress;
 
+// Of so many processes one is a starting program, the others change contacts and members.
+constexpr int rolesInTurn = 3;
+
 struct RunOptions {
   int processes = 4;
   int seconds = 5;
@@ -71,10 +74,19 @@ class Arena {
     const WorkerTask task = {folder.toStdString(), journals_.back(), number, random_(), until_};
     const pid_t process = ::fork();
     if (process == 0) {
-      options_.groups ? workOnGroups(task) : workOnContacts(task);
+      work(task);
       std::_Exit(0);
     }
     if (process > 0) workers_[process] = number;
+  }
+
+  void work(const WorkerTask& task) const {
+    if (options_.groups)
+      workOnGroups(task);
+    else if (task.number % rolesInTurn == 0)
+      workAsStartingProgram(task);
+    else
+      workOnContacts(task);
   }
 
   void killSomebody() {
@@ -145,9 +157,11 @@ RunOptions parseOptions(const QCoreApplication& application) {
 
 bool report(const char* what, const Verdict& verdict) {
   for (const std::string& problem : verdict.problems) std::printf("PROBLEM %s\n", problem.c_str());
-  std::printf("%s: %zu operations: %zu acknowledged, %zu not; %zu records, %zu doubled; %zu problem(s)\n",
-              what, verdict.operations, verdict.acknowledged, verdict.interrupted, verdict.records,
-              verdict.doubled, verdict.problems.size());
+  std::printf(
+      "%s: %zu operations: %zu acknowledged, %zu not; %zu records, %zu doubled, %zu missing; %zu "
+      "problem(s)\n",
+      what, verdict.operations, verdict.acknowledged, verdict.interrupted, verdict.records, verdict.doubled,
+      verdict.missing, verdict.problems.size());
   return verdict.problems.empty() && verdict.acknowledged > 0;
 }
 
@@ -155,9 +169,15 @@ bool isStoreSound(const Arena& arena, const std::string& folder, bool groups) {
   std::printf("%zu processes, %d killed\n", arena.journals().size(), arena.killed());
   if (groups) return report("groups", judgeGroups(groupPaths(folder), arena.journals()));
   std::vector<std::string> memberJournals;
-  for (const std::string& journal : arena.journals()) memberJournals.push_back(memberJournal(journal));
+  std::vector<std::string> startJournals;
+  for (const std::string& journal : arena.journals()) {
+    memberJournals.push_back(memberJournal(journal));
+    startJournals.push_back(startJournal(journal));
+  }
+  const bool starts = report("starts", judgeStarts(startJournals));
   const bool contacts = report("contacts", judge(Kind::Contacts, contactsPath(folder), arena.journals()));
-  return report("members", judge(Kind::Members, membersPath(folder), memberJournals)) && contacts;
+  return report("members", judge(Kind::Members, membersPath(folder), memberJournals, arena.journals())) &&
+         contacts && starts;
 }
 
 }  // namespace

@@ -93,23 +93,37 @@ bool isMissing(const std::vector<Operation>& all, const std::vector<Operation>& 
 
 }  // namespace
 
-Verdict judge(Kind kind, const std::string& database, const std::vector<std::string>& journals) {
+Verdict judge(Kind kind, const std::string& database, const std::vector<std::string>& journals,
+              const std::vector<std::string>& contactJournals) {
   Verdict verdict;
   const History history = readHistory(journals, verdict);
+  Verdict ofContacts;
+  const History contactHistory = readHistory(contactJournals, ofContacts);
   const Contents contents = readContents(kind, database, verdict);
   for (const auto& [key, operations] : history) {
     const auto stored = contents.find(key);
     const std::optional<std::string> found =
         stored == contents.end() ? std::nullopt : stored->second.values.back();
-    if (!isExplained(operations, found)) {
-      verdict.problems.push_back(key + ": shows \"" + found.value_or("(deleted)") +
-                                 "\", which no operation that may have been the last has left");
-    }
+    const auto contact = contactHistory.find(key);
+    const bool isMissed =
+        !found &&
+        isMissing(operations, contact == contactHistory.end() ? std::vector<Operation>() : contact->second);
+    const bool mayBeOrphan = !found && !isMissed && contact != contactHistory.end();
+    if (isExplained(operations, found) || mayBeOrphan) continue;
+    if (isMissed) ++verdict.missing;
+    verdict.problems.push_back(key + ": shows \"" + found.value_or("(deleted)") +
+                               "\", which no operation that may have been the last has left");
   }
   for (const auto& [key, stored] : contents) {
     if (stored.values.size() > 1) verdict.problems.push_back(key + ": is there twice");
     if (history.count(key) == 0) verdict.problems.push_back(key + ": nobody wrote this");
   }
+  return verdict;
+}
+
+Verdict judgeStarts(const std::vector<std::string>& journals) {
+  Verdict verdict;
+  readHistory(journals, verdict);
   return verdict;
 }
 
@@ -125,7 +139,9 @@ Verdict judgeGroups(const std::vector<std::string>& databases, const std::vector
       if (key.rfind(prefix, 0) != 0) continue;
       const auto stored = contents.find(key.substr(prefix.size()));
       const bool isThere = stored != contents.end() && stored->second.isInUse();
-      if (!isThere && isMissing(operations, removals)) verdict.problems.push_back(key + ": is missing");
+      if (isThere || !isMissing(operations, removals)) continue;
+      ++verdict.missing;
+      verdict.problems.push_back(key + ": is missing");
     }
     for (const auto& [key, stored] : contents)
       if (history.count(prefix + key) == 0) verdict.problems.push_back(key + ": nobody wrote this");

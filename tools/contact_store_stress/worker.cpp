@@ -1,11 +1,15 @@
 #include "tools/contact_store_stress/worker.h"
 
 #include <ctime>
+#include <functional>
 #include <random>
 
 #include <QByteArray>
 #include <QString>
 
+#include "base/notifier.h"
+#include "base/progress.h"
+#include "contacts/address_book.h"
 #include "contacts/contact_file_format.h"
 #include "contacts/item_database.h"
 #include "tools/contact_store_stress/journal.h"
@@ -44,12 +48,20 @@ class JournaledStore {
         database_(database),
         prefix_(prefix) {}
 
-  void write(const std::string& key, const std::string& value) {
+  // What has to be stored before is part of the operation, and when that fails there is no operation.
+  bool write(
+      const std::string& key, const std::string& value,
+      const std::function<bool()>& storeBefore = [] { return true; }) {
     const std::string record = recordFor(kind_, key, value);
     journal_.begin(Action::Write, prefix_ + key, kind_ == Kind::Members ? memberValue : value);
+    if (!storeBefore()) {
+      journal_.endWithoutEffect();
+      return false;
+    }
     const bool written = database_.writeItem(error_, nameWidth, path_, recordSizeOf(kind_),
                                              QByteArrayView(record), timeoutSeconds);
     finish(written);
+    return written;
   }
 
   void erase(const std::string& key) {
@@ -119,6 +131,32 @@ struct Process {
   ItemDatabase database{cache, waiter};
 };
 
+void deleteContact(JournaledStore& contacts, JournaledStore& members, const std::string& key) {
+  contacts.erase(key);
+  members.erase(key);
+}
+
+// A starting program shows no message.
+class ComplainingNotifier final : public Notifier {
+ public:
+  explicit ComplainingNotifier(JournalWriter& journal) : journal_(journal) {}
+
+  MessageResult show(const QString& text, unsigned /*style*/, int /*number*/) override {
+    journal_.complain(text.toStdString());
+    return MessageResult::Ok;
+  }
+
+ private:
+  JournalWriter& journal_;
+};
+
+class NoProgress final : public Progress {
+ public:
+  void show(const QString& /*text*/) override {}
+  void setText(const QString& /*text*/) override {}
+  void hide() override {}
+};
+
 std::string someKey(Process& process) {
   if (process.pick(2) == 0) return "shared " + std::to_string(process.pick(sharedKeys));
   return "own " + std::to_string(process.task.number) + ' ' + std::to_string(process.pick(ownKeys));
@@ -134,14 +172,33 @@ void workOnContacts(const WorkerTask& task) {
   JournaledStore members(Kind::Members, membersPath(task.folder), groupJournal, process.database);
   std::uint64_t sequence = 0;
   while (process.hasTime()) {
-    JournaledStore& store = process.pick(3) == 0 ? members : contacts;
     const auto dice = process.pick(10);
+    const std::string key = someKey(process);
+    const std::string value = std::to_string(task.number) + '/' + std::to_string(++sequence);
     if (dice == 0)
-      store.readAll();
-    else if (dice <= 2)
-      store.erase(someKey(process));
+      (process.pick(2) == 0 ? members : contacts).readAll();
+    else if (dice == 1)
+      members.erase(key);
+    else if (dice == 2)
+      deleteContact(contacts, members, key);
+    else if (dice <= 5)
+      contacts.write(key, value);
     else
-      store.write(someKey(process), std::to_string(task.number) + '/' + std::to_string(++sequence));
+      members.write(key, {}, [&] { return contacts.write(key, value); });
+  }
+}
+
+void workAsStartingProgram(const WorkerTask& task) {
+  Process process(task);
+  JournalWriter journal(startJournal(task.journal));
+  ComplainingNotifier notifier(journal);
+  NoProgress progress;
+  while (process.hasTime()) {
+    process.cache.dropAllItemIndexes();
+    AddressBook book(QString::fromStdString(task.folder), process.database, notifier);
+    journal.begin(Action::Start, "start", {});
+    journal.end(book.loadAll(progress));
+    process.waiter.pause();
   }
 }
 
@@ -170,6 +227,10 @@ void workOnGroups(const WorkerTask& task) {
 
 std::string memberJournal(const std::string& journal) {
   return journal + "-members";
+}
+
+std::string startJournal(const std::string& journal) {
+  return journal + "-starts";
 }
 
 std::string contactsPath(const std::string& folder) {

@@ -4,6 +4,7 @@
 #include <QStringList>
 
 #include "addressbook/core/import_columns.h"
+#include "addressbook/core/name_order.h"
 #include "contacts/address_book.h"
 
 namespace parlexo {
@@ -49,7 +50,7 @@ QString exportName(const ContactFolder& folder) {
     case ContactFolder::Kind::Group:
       break;
   }
-  QString name = folder.name;
+  QString name = shownName(folder.name);
   for (QChar& character : name)
     if (QStringLiteral("\\/:*?\"<>|").contains(character)) character = u'_';
   return name;

@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "addressbook/core/name_order.h"
 #include "addressbook/core/sorted_book.h"
 #include "contacts/address_book.h"
 
@@ -65,7 +66,8 @@ void ContactIndex::prepareSearch() {
   if (std::exchange(isSearchReady_, true)) return;
   search_.reserve(contacts_.size());
   for (const ContactRecord* contact : contacts_) {
-    for (const QString* field : {&contact->name, &contact->phone, &contact->fax}) search_.addField(*field);
+    search_.addField(shownName(contact->name));
+    for (const QString* field : {&contact->phone, &contact->fax}) search_.addField(*field);
     for (const QString& extra : contact->extra) search_.addField(extra);
     search_.endText();
   }

@@ -59,8 +59,9 @@ void ContactsFlow::addContact(const ContactRecord& contact, const QString& group
   services_.book.addMember(group, contact.name);
 }
 
-void ContactsFlow::changeContact(const ContactRecord& contact) const {
-  services_.book.saveContact(contact);
+void ContactsFlow::changeContact(const QString& oldName, const ContactRecord& contact) const {
+  const AddressBook::MessagesOnce once(services_.book);
+  services_.book.renameContact(oldName, contact);
 }
 
 void ContactsFlow::saveGroup(const GroupChanges& changes) const {
@@ -82,7 +83,8 @@ void ContactsFlow::saveGroup(const GroupChanges& changes) const {
 }
 
 void ContactsFlow::saveContacts(const GroupChanges& changes) const {
-  for (const ContactRecord& contact : changes.contacts) services_.book.saveContact(contact);
+  for (const ContactRecord& contact : changes.contacts)
+    services_.book.renameContact(contact.name == changes.newName ? QString() : contact.name, contact);
 }
 
 void ContactsFlow::changeMembers(const GroupChanges& changes) const {

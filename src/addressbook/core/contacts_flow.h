@@ -24,7 +24,9 @@ class ContactsFlow {
 
   /// Saves a new contact and makes it a member of the group.
   void addContact(const ContactRecord& contact, const QString& group) const;
-  void changeContact(const ContactRecord& contact) const;
+  /// Saves the contact that was called `oldName`. Only one without a name can have got another one; it stays
+  /// in its groups.
+  void changeContact(const QString& oldName, const ContactRecord& contact) const;
   /// Writes what the user made of a group.
   void saveGroup(const GroupChanges& changes) const;
 

@@ -8,12 +8,13 @@
 
 #include "addressbook/core/name_order.h"
 #include "contacts/address_book.h"
+#include "contacts/group_file_name.h"
 
 namespace parlexo {
 
-GroupDraft::GroupDraft(const AddressBook& book, const QString& name)
-    : book_(book), isNew_(name.isEmpty()), name_(name) {
-  const GroupFile* group = book.findGroup(name);
+GroupDraft::GroupDraft(const AddressBook& book, const std::optional<QString>& name)
+    : book_(book), isNew_(!name), name_(name.value_or(QString())) {
+  const GroupFile* group = isNew_ ? nullptr : book.findGroup(name_);
   if (!group) return;
   Contacts members;
   for (const auto& [memberName, contact] : group->members()) members.push_back(contact);
@@ -54,6 +55,7 @@ void GroupDraft::remove(const QStringList& names) {
   std::erase_if(members_, [&leaving](const ContactRecord* member) { return leaving.contains(member->name); });
   for (const QString& name : names)
     if (!book_.findContact(name)) pending_.erase(name);
+  if (leaving.contains(newName_)) newName_.clear();
 }
 
 void GroupDraft::put(const ContactRecord& contact) {
@@ -63,6 +65,12 @@ void GroupDraft::put(const ContactRecord& contact) {
       members, [&kept](const ContactRecord* member) { return member == &kept || member->name == kept.name; });
   members.push_back(&kept);
   setMembers(std::move(members));
+}
+
+void GroupDraft::putNameless(const ContactRecord& contact) {
+  std::erase_if(members_, [](const ContactRecord* member) { return member->name.isEmpty(); });
+  newName_ = contact.name;
+  put(contact);
 }
 
 QString GroupDraft::takeName(const QString& typed) {
@@ -81,8 +89,16 @@ bool GroupDraft::isNameInUse(const QString& name) const {
                      [&isSame](const auto& group) { return isSame(group.first); });
 }
 
+std::optional<UnstableGroupName> GroupDraft::unstableName(const QString& typed) const {
+  const QString name = typed.trimmed();
+  const QString afterRestart = groupNameAfterRestart(name);
+  if (!isNew_ || afterRestart == name) return std::nullopt;
+  const auto different = std::mismatch(name.begin(), name.end(), afterRestart.begin(), afterRestart.end());
+  return UnstableGroupName{afterRestart, groupNameThatStays(name), different.first - name.begin()};
+}
+
 GroupChanges GroupDraft::changes() const {
-  GroupChanges changes{name_, isNew_, {}, {}, {}};
+  GroupChanges changes{name_, isNew_, {}, {}, {}, newName_};
   for (const auto& [name, contact] : pending_) changes.contacts.push_back(contact);
   sortByName(changes.contacts, [](const ContactRecord& contact) { return contact.name; });
   const GroupFile* before = isNew_ ? nullptr : book_.findGroup(name_);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <unordered_map>
 #include <vector>
 
@@ -21,6 +22,15 @@ struct GroupChanges {
   std::vector<ContactRecord> contacts;  ///< new or changed ones, to be saved first
   QStringList added;                    ///< contacts that become members
   QStringList removed;                  ///< members that leave
+  /// The name given to the contact that had none, which is among `contacts`; empty when none was given.
+  QString newName = {};
+};
+
+/// A name for a new group that would be another one after the next start of the program.
+struct UnstableGroupName {
+  QString afterRestart;
+  QString suggestion;   ///< a similar name that stays
+  qsizetype place = 0;  ///< of the first character that would be another one
 };
 
 /// A group while it is being edited: members come and go, contacts are created and changed, and nothing of
@@ -29,8 +39,8 @@ class GroupDraft {
  public:
   using Contacts = ContactSelection::Contacts;
 
-  /// An empty `name` begins a new group, any other must be that of a group of `book`.
-  GroupDraft(const AddressBook& book, const QString& name);
+  /// Without a `name` a new group, otherwise the group of `book` with this name, which may be empty.
+  GroupDraft(const AddressBook& book, const std::optional<QString>& name);
 
   [[nodiscard]] bool isNew() const { return isNew_; }
   [[nodiscard]] const QString& name() const { return name_; }
@@ -47,10 +57,16 @@ class GroupDraft {
   void remove(const QStringList& names);
   /// Takes a new contact in, or the changed values of a member.
   void put(const ContactRecord& contact);
+  /// Takes the changed values of the member without a name, a name among them.
+  void putNameless(const ContactRecord& contact);
 
   /// Gives the group the name that was typed, blanks at both ends trimmed. Returns what is wrong with it, or
   /// an empty text. The name of a group that exists is not looked at: it stays.
   [[nodiscard]] QString takeName(const QString& typed);
+
+  /// Whether a new group can't keep the name that was typed, blanks at both ends trimmed. The name of an
+  /// existing group is never unstable.
+  [[nodiscard]] std::optional<UnstableGroupName> unstableName(const QString& typed) const;
 
   [[nodiscard]] GroupChanges changes() const;
 
@@ -63,6 +79,7 @@ class GroupDraft {
   bool isNew_;
   QString name_;
   std::unordered_map<QString, ContactRecord> pending_;  // new and changed contacts
+  QString newName_;                                     // of the contact without a name
   Contacts members_;
 };
 

@@ -9,6 +9,12 @@
 
 namespace parlexo {
 
+/// The name of a contact or group as lists show it: without a name there would be nothing to see or to click.
+/// The folder may hold such contacts and groups, as other programs and damaged files leave them.
+[[nodiscard]] inline QString shownName(const QString& name) {
+  return name.trimmed().isEmpty() ? QStringLiteral("(no name)") : name;
+}
+
 /// Sort key of a name in the lists of the address book: without regard to case, and names that differ only
 /// in case by their characters' numbers (so "ANN" stands before "Ann"). Folding once per name instead of
 /// once per comparison is what keeps a list of 100,000 names quick.

@@ -1,6 +1,7 @@
 #include "addressbook/screens/contact_list_model.h"
 
 #include "addressbook/core/contact_selection.h"
+#include "addressbook/core/name_order.h"
 
 namespace parlexo {
 
@@ -12,7 +13,7 @@ ContactListModel::ContactListModel(SelectionLists& lists, const QString& mode, Q
 
 QString ContactListModel::entryCell(int entry, int column) const {
   const ContactRecord& contact = lists_.contact(entry);
-  if (column == NameColumn) return contact.name;
+  if (column == NameColumn) return shownName(contact.name);
   if (column == NumberColumn) return showsFax_ ? contact.fax : contact.phone;
   return {};
 }
@@ -27,7 +28,7 @@ void ContactListModel::setEntryTicked(int entry, bool ticked) {
 
 void ContactListModel::addSearchedFields(int entry, TextSearch& search) const {
   const ContactRecord& contact = lists_.contact(entry);
-  search.addField(contact.name);
+  search.addField(shownName(contact.name));
   search.addField(contact.phone);
   if (showsFax_) search.addField(contact.fax);
   for (const QString& extra : contact.extra) search.addField(extra);

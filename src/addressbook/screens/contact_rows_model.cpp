@@ -2,6 +2,8 @@
 
 #include <utility>
 
+#include "addressbook/core/name_order.h"
+
 namespace parlexo {
 
 namespace {
@@ -33,7 +35,7 @@ QString yesOrNo(const ContactRecord& contact, QStringView mode) {
 QString cellOf(const ContactRecord& contact, Column column) {
   switch (column) {
     case Column::NameColumn:
-      return contact.name;
+      return shownName(contact.name);
     case Column::PhoneColumn:
       return contact.phone;
     case Column::SmsColumn:

@@ -293,11 +293,10 @@ void CContactsPage::newContact() {
 }
 
 void CContactsPage::newGroup() {
-  CGroupDetailsDlg dialog(services_, {}, this);
+  CGroupDetailsDlg dialog(services_, std::nullopt, this);
   if (dialog.exec() != QDialog::Accepted) return;
   const GroupChanges changes = dialog.changes();
-  flow_.saveGroup(changes);
-  refresh();
+  saveGroup(changes);
   tree_->select({ContactFolder::Kind::Group, changes.group});
 }
 
@@ -327,17 +326,34 @@ void CContactsPage::edit() {
 }
 
 void CContactsPage::editContact(int row) {
+  const QString oldName = model_.contact(row).name;
   const auto contact = editedByUser(model_.contact(row));
   if (!contact) return;
-  flow_.changeContact(*contact);
-  refresh();
+  if (contact->name == oldName) {
+    flow_.changeContact(oldName, *contact);
+    refresh();
+    return;
+  }
+  list_->keepPlace([&] {
+    forgetContacts();
+    flow_.changeContact(oldName, *contact);
+    readBook();
+  });
+  list_->selectNames({contact->name});
 }
 
 void CContactsPage::editGroup(const QString& group) {
   CGroupDetailsDlg dialog(services_, group, this);
   if (dialog.exec() != QDialog::Accepted) return;
-  flow_.saveGroup(dialog.changes());
-  refresh();
+  saveGroup(dialog.changes());
+}
+
+void CContactsPage::saveGroup(const GroupChanges& changes) {
+  list_->keepPlace([&] {
+    if (!changes.newName.isEmpty()) forgetContacts();
+    flow_.saveGroup(changes);
+    readBook();
+  });
 }
 
 void CContactsPage::remove() {
@@ -354,15 +370,18 @@ void CContactsPage::removeContacts(const QStringList& names) {
   if (!flow_.confirmDeletion(folder, static_cast<int>(names.size()))) return;
   const int scrolled = list_->verticalScrollBar()->value();
   const int place = list_->selectedRows().front();
-  // The list may be painted while the store waits for a file, and must not look for what is gone.
-  model_.setContacts({});
-  index_.forget();
+  forgetContacts();
   flow_.deleteContacts(folder, names);
   readBook();
   list_->verticalScrollBar()->setValue(scrolled);
   // The keyboard goes on where it was; nothing is selected, so that a further Delete can't hit by accident.
   const int row = std::min(place, model_.rowCount() - 1);
   list_->selectionModel()->setCurrentIndex(model_.index(row, 0), QItemSelectionModel::NoUpdate);
+}
+
+void CContactsPage::forgetContacts() {
+  model_.setContacts({});
+  index_.forget();
 }
 
 void CContactsPage::removeGroup(const ContactFolder& folder) {

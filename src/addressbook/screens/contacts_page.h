@@ -65,9 +65,12 @@ class CContactsPage final : public GradientPage {
   void edit();
   void editContact(int row);
   void editGroup(const QString& group);
+  void saveGroup(const GroupChanges& changes);
   void remove();
   void removeContacts(const QStringList& names);
   void removeGroup(const ContactFolder& folder);
+  /// Empties the list before contacts are deleted, as it may be painted while the store waits for a file.
+  void forgetContacts();
 
   /// The folder whose contacts the list shows: what a search finds belongs to no group.
   [[nodiscard]] ContactFolder shownFolder() const;

@@ -4,6 +4,7 @@
 #include <QSignalBlocker>
 #include <QTreeWidgetItemIterator>
 
+#include "addressbook/core/name_order.h"
 #include "contacts/address_book.h"
 #include "ui/list_style.h"
 
@@ -12,24 +13,17 @@ namespace parlexo {
 namespace {
 
 constexpr int kindRole = Qt::UserRole;
+constexpr int nameRole = Qt::UserRole + 1;
 
 ContactFolder folderOf(const QTreeWidgetItem& item) {
-  const auto kind = static_cast<ContactFolder::Kind>(item.data(0, kindRole).toInt());
-  switch (kind) {
-    case ContactFolder::Kind::Group:
-    case ContactFolder::Kind::Letter:
-      return {kind, item.text(0)};
-    case ContactFolder::Kind::Root:
-    case ContactFolder::Kind::AllContacts:
-    case ContactFolder::Kind::Other:
-      break;
-  }
-  return {kind, {}};
+  return {static_cast<ContactFolder::Kind>(item.data(0, kindRole).toInt()),
+          item.data(0, nameRole).toString()};
 }
 
-QTreeWidgetItem* folderItem(const QString& text, ContactFolder::Kind kind) {
+QTreeWidgetItem* folderItem(const QString& text, const ContactFolder& folder) {
   auto* item = new QTreeWidgetItem({text});
-  item->setData(0, kindRole, static_cast<int>(kind));
+  item->setData(0, kindRole, static_cast<int>(folder.kind));
+  item->setData(0, nameRole, folder.name);
   item->setToolTip(0, text);
   return item;
 }
@@ -48,13 +42,15 @@ FolderTree::FolderTree(QWidget* parent) : QTreeWidget(parent) {
 }
 
 void FolderTree::addFixedFolders() {
-  root_ = folderItem(QStringLiteral("Address Book"), ContactFolder::Kind::Root);
+  root_ = folderItem(QStringLiteral("Address Book"), {ContactFolder::Kind::Root, {}});
   addTopLevelItem(root_);
-  allContacts_ = folderItem(QLatin1String(allContactsName), ContactFolder::Kind::AllContacts);
+  allContacts_ = folderItem(QLatin1String(allContactsName), {ContactFolder::Kind::AllContacts, {}});
   root_->addChild(allContacts_);
-  for (char letter = 'A'; letter <= 'Z'; ++letter)
-    allContacts_->addChild(folderItem(QString(QLatin1Char(letter)), ContactFolder::Kind::Letter));
-  allContacts_->addChild(folderItem(QStringLiteral("Other"), ContactFolder::Kind::Other));
+  for (char letter = 'A'; letter <= 'Z'; ++letter) {
+    const QString name{QLatin1Char(letter)};
+    allContacts_->addChild(folderItem(name, {ContactFolder::Kind::Letter, name}));
+  }
+  allContacts_->addChild(folderItem(QStringLiteral("Other"), {ContactFolder::Kind::Other, {}}));
   root_->setExpanded(true);
 }
 
@@ -63,7 +59,8 @@ void FolderTree::setGroups(const QStringList& names) {
   const ContactFolder before = selected();
   while (root_->child(0) != allContacts_) delete root_->child(0);
   QList<QTreeWidgetItem*> groups;
-  for (const QString& name : names) groups.append(folderItem(name, ContactFolder::Kind::Group));
+  for (const QString& name : names)
+    groups.append(folderItem(shownName(name), {ContactFolder::Kind::Group, name}));
   root_->insertChildren(0, groups);
   QTreeWidgetItem* item = itemOf(before);
   setCurrentItem(item ? item : root_);

@@ -1,5 +1,8 @@
 #include "addressbook/screens/group_details_dlg.h"
 
+#include <algorithm>
+
+#include <QGridLayout>
 #include <QHBoxLayout>
 #include <QItemSelectionModel>
 #include <QLabel>
@@ -7,6 +10,7 @@
 #include <QShortcut>
 #include <QVBoxLayout>
 
+#include "addressbook/core/name_order.h"
 #include "addressbook/screens/contact_details_dlg.h"
 #include "addressbook/screens/contact_text_validator.h"
 #include "addressbook/screens/ok_and_cancel.h"
@@ -14,6 +18,7 @@
 #include "addressbook/screens/select_contacts_dlg.h"
 #include "base/notifier.h"
 #include "contacts/address_book.h"
+#include "ui/hyperlink_label.h"
 #include "ui/list_style.h"
 #include "ui/look.h"
 #include "ui/page_controls.h"
@@ -21,7 +26,24 @@
 
 namespace parlexo {
 
-CGroupDetailsDlg::CGroupDetailsDlg(const AddressBookServices& services, const QString& group, QWidget* parent)
+namespace {
+
+// The name, or of a long one the part around its character number `place`.
+QString quoted(const QString& name, qsizetype place) {
+  constexpr qsizetype longest = 40;
+  const QString dots = QStringLiteral("...");
+  const qsizetype start =
+      std::clamp<qsizetype>(place - longest / 2, 0, std::max<qsizetype>(0, name.size() - longest));
+  QString shown = name.mid(start, longest);
+  if (start > 0) shown.prepend(dots);
+  if (start + longest < name.size()) shown.append(dots);
+  return u'"' + shown + u'"';
+}
+
+}  // namespace
+
+CGroupDetailsDlg::CGroupDetailsDlg(const AddressBookServices& services, const std::optional<QString>& group,
+                                   QWidget* parent)
     : GradientDialog(parent), services_(services), draft_(services.book, group) {
   setObjectName(QStringLiteral("groupDetailsDialog"));
   setWindowTitle(QStringLiteral("Parlexo(TM) : Group Details"));
@@ -41,9 +63,10 @@ void CGroupDetailsDlg::createControls() {
     name_ = new QLineEdit(this);
     name_->setObjectName(QStringLiteral("groupNameEdit"));
     name_->setValidator(new ContactTextValidator(name_));
+    connect(name_, &QLineEdit::textChanged, this, &CGroupDetailsDlg::checkName);
   } else {
     name_ = readOnlyField(QStringLiteral("groupNameEdit"), this);
-    name_->setText(draft_.name());
+    name_->setText(shownName(draft_.name()));
   }
   list_ = new RowListView(
       model_, [this](int row) { return model_.contact(row).name; }, QStringLiteral("Group Members:"), this);
@@ -70,17 +93,56 @@ void CGroupDetailsDlg::createLayout() {
   middle->addLayout(list, 1);
   middle->addLayout(buttonColumn());
 
-  auto* top = new QHBoxLayout;
-  top->addWidget(labelFor(name_, QStringLiteral("&Group Name:")));
-  top->addWidget(name_, 1);
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(16, 14, 16, 14);
   layout->setSpacing(10);
-  layout->addLayout(top);
+  layout->addLayout(nameRows());
   layout->addLayout(middle, 1);
   layout->addLayout(okAndCancelRow(*this));
-  setTabOrder(name_, list_);
+  ok_ = findChild<PictureButton*>(QStringLiteral("okButton"));
+  setTabOrder(name_, useSuggestion_);
+  setTabOrder(useSuggestion_, list_);
   resize(sizeHint().expandedTo(dialogUnits(*this, 360, 210)));
+}
+
+QLayout* CGroupDetailsDlg::nameRows() {
+  nameWarning_ = wrappedLabel({}, this);
+  nameWarning_->setObjectName(QStringLiteral("groupNameWarning"));
+  nameWarning_->setTextFormat(Qt::PlainText);
+  QPalette palette = nameWarning_->palette();
+  palette.setColor(QPalette::WindowText, look::problemText);
+  nameWarning_->setPalette(palette);
+  useSuggestion_ = new HyperlinkLabel({}, {}, this);
+  useSuggestion_->setObjectName(QStringLiteral("useSuggestedNameLink"));
+  connect(useSuggestion_, &HyperlinkLabel::clicked, this, [this] {
+    name_->setFocus(Qt::OtherFocusReason);
+    if (const auto unstable = draft_.unstableName(name_->text())) name_->setText(unstable->suggestion);
+  });
+  auto* rows = new QGridLayout;
+  rows->setVerticalSpacing(2);
+  rows->addWidget(labelFor(name_, QStringLiteral("&Group Name:")), 0, 0);
+  rows->addWidget(name_, 0, 1);
+  rows->addWidget(nameWarning_, 1, 1);
+  rows->addWidget(useSuggestion_, 2, 1);
+  nameWarning_->hide();
+  useSuggestion_->hide();
+  return rows;
+}
+
+void CGroupDetailsDlg::checkName() {
+  const auto unstable = draft_.unstableName(name_->text());
+  ok_->setEnabled(!unstable);
+  nameWarning_->setVisible(unstable.has_value());
+  useSuggestion_->setVisible(unstable.has_value());
+  name_->setAccessibleDescription({});
+  if (!unstable) return;
+  const QString warning = QStringLiteral("After a restart this name would read %1.")
+                              .arg(quoted(unstable->afterRestart, unstable->place));
+  nameWarning_->setText(warning);
+  name_->setAccessibleDescription(warning);
+  const QString use = QStringLiteral("Use ") + quoted(unstable->suggestion, unstable->place);
+  useSuggestion_->setText(QString(use).replace(u'&', QStringLiteral("&&")));
+  useSuggestion_->updateGeometry();
 }
 
 QLayout* CGroupDetailsDlg::buttonColumn() {
@@ -93,7 +155,8 @@ QLayout* CGroupDetailsDlg::buttonColumn() {
   };
   add(QStringLiteral("selectButton"), QStringLiteral("&Select..."), &CGroupDetailsDlg::select);
   removeButton_ = add(QStringLiteral("removeButton"), QStringLiteral("&Remove"), &CGroupDetailsDlg::remove);
-  add(QStringLiteral("newContactButton"), QStringLiteral("&New Contact..."), [this] { editContact({}); });
+  add(QStringLiteral("newContactButton"), QStringLiteral("&New Contact..."),
+      [this] { editContact(nullptr); });
   propertiesButton_ = add(QStringLiteral("propertiesButton"), QStringLiteral("&Properties..."),
                           &CGroupDetailsDlg::showProperties);
   column->addStretch(1);
@@ -122,14 +185,17 @@ void CGroupDetailsDlg::remove() {
 
 void CGroupDetailsDlg::showProperties() {
   const int row = list_->chosenRow();
-  if (row >= 0) editContact(model_.contact(row));
+  if (row >= 0) editContact(&model_.contact(row));
 }
 
-void CGroupDetailsDlg::editContact(const ContactRecord& contact) {
+void CGroupDetailsDlg::editContact(const ContactRecord* member) {
   const auto isTaken = [this](const QString& name) { return draft_.isContactNameTaken(name); };
-  CContactDetailsDlg dialog(contact, isTaken, services_.notifier, this);
+  CContactDetailsDlg dialog(member ? *member : ContactRecord(), isTaken, services_.notifier, this);
   if (dialog.exec() != QDialog::Accepted) return;
-  draft_.put(dialog.contact());
+  if (member && member->name.isEmpty())
+    draft_.putNameless(dialog.contact());
+  else
+    draft_.put(dialog.contact());
   showMembers({dialog.contact().name});
 }
 
@@ -147,6 +213,7 @@ void CGroupDetailsDlg::enableButtons() {
 }
 
 void CGroupDetailsDlg::accept() {
+  if (!ok_->isEnabled()) return;
   const QString problem = draft_.takeName(name_->text());
   if (problem.isEmpty()) {
     GradientDialog::accept();

@@ -1,5 +1,6 @@
 #include "addressbook/screens/group_list_model.h"
 
+#include "addressbook/core/name_order.h"
 #include "contacts/group_file.h"
 
 namespace parlexo {
@@ -9,7 +10,7 @@ GroupListModel::GroupListModel(SelectionLists& lists, QObject* parent)
       lists_(lists) {}
 
 QString GroupListModel::entryCell(int entry, int column) const {
-  return column == NameColumn ? lists_.group(entry).name() : QString();
+  return column == NameColumn ? shownName(lists_.group(entry).name()) : QString();
 }
 
 bool GroupListModel::isEntryTicked(int entry) const {
@@ -21,7 +22,7 @@ void GroupListModel::setEntryTicked(int entry, bool ticked) {
 }
 
 void GroupListModel::addSearchedFields(int entry, TextSearch& search) const {
-  search.addField(lists_.group(entry).name());
+  search.addField(shownName(lists_.group(entry).name()));
 }
 
 }  // namespace parlexo
