@@ -133,6 +133,20 @@ TEST(Response, valuesOfEveryTypeAreRead) {
   EXPECT_TRUE(preferences.bEmailSmsSplit);
 }
 
+TEST(Response, mayLackItsAmountOnlyWhenItRefuses) {
+  const auto result = [](const std::string& fields) {
+    FakeGateway gateway(
+        httpReply(envelope("<m:getAccountBalanceResponse>" + fields + "</m:getAccountBalanceResponse>")));
+    const GatewayAccess access = accessTo(gateway.endpoint());
+    protocol::getAccountBalanceResponse balance;
+    return GatewayClient(access).getAccountBalance("T", balance);
+  };
+  EXPECT_EQ(result("<dValue>0</dValue><nErrorCode>0</nErrorCode>"), 0);
+  EXPECT_NE(result("<nErrorCode>0</nErrorCode>"), 0);
+  EXPECT_NE(result("<dValue xsi:nil=\"true\"/><nErrorCode>0</nErrorCode>"), 0);
+  EXPECT_EQ(result("<nErrorCode>7</nErrorCode>"), 0);
+}
+
 /// Whatever is wrong with a reply, the call fails and the record holds nothing of it.
 void expectFailure(const std::string& http, const std::string& what) {
   const Query query(http);

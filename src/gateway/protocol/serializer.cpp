@@ -127,7 +127,6 @@ bool takeBinary(::soap& context, const char* text, BinaryData& value) {
 /// Takes a field's text into the record; false when it is not of the field's type.
 bool take(::soap& context, const ReceivedField& received) {
   const Field& field = *received.field;
-  if (!received.text) return field.type != FieldType::Integer;
   switch (field.type) {
     case FieldType::Text:
       *static_cast<std::string*>(field.value) = received.text;
@@ -145,6 +144,24 @@ bool take(::soap& context, const ReceivedField& received) {
       return takeBinary(context, received.text, *static_cast<BinaryData*>(field.value));
   }
   return false;
+}
+
+/// A reply's numbers may only be absent when its code says that the gateway refused: read as 0, a missing
+/// balance would look like an empty account.
+bool hasItsNumbers(const ReceivedFields& received) {
+  const auto lacksCode = [](const ReceivedField& each) {
+    return !each.text && each.field->type == FieldType::Integer;
+  };
+  const auto reportsSuccess = [](const ReceivedField& each) {
+    return each.field->type == FieldType::Integer &&
+           *static_cast<const std::int32_t*>(each.field->value) == 0;
+  };
+  const auto lacksNumber = [](const ReceivedField& each) {
+    return !each.text && each.field->type == FieldType::Real;
+  };
+  if (std::any_of(received.begin(), received.end(), lacksCode)) return false;
+  return std::none_of(received.begin(), received.end(), reportsSuccess) ||
+         std::none_of(received.begin(), received.end(), lacksNumber);
 }
 
 }  // namespace
@@ -199,9 +216,9 @@ int readRecord(::soap& context, const std::string& element, const Fields& fields
   for (const Field& field : fields) received.push_back({&field});
   if (readMessage(context, element, received)) return context.error;
   for (const ReceivedField& each : received) {
-    if (!take(context, each)) return context.error = each.text ? SOAP_TYPE : SOAP_OCCURS;
+    if (each.text && !take(context, each)) return context.error = SOAP_TYPE;
   }
-  return SOAP_OK;
+  return hasItsNumbers(received) ? SOAP_OK : context.error = SOAP_OCCURS;
 }
 
 }  // namespace parlexo::protocol
