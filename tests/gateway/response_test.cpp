@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include "gateway/core/gateway_client.h"
+#include "gateway/core/wire_text.h"
 #include "gateway/protocol/server_envelope.h"
 #include "tests/gateway/fake_gateway.h"
 #include "tests/gateway/gateway_access_for.h"
@@ -80,8 +81,6 @@ TEST(Response, isReadInEveryFormThatServersGiveIt) {
        statusElement(code +
                      "<sStatus>&lt;&#x41;&#66;&#13;<![CDATA[<&>]]></sStatus><!-- <sStatus>no</sStatus> -->"),
        "", 7, "<AB\r<&>"},
-      {"UTF-8 becomes one byte a character", statusElement(code + "<sStatus>\xC3\xA9&#x80;</sStatus>"), "", 7,
-       "\xE9\x80"},
   };
   for (const auto& each : answers) {
     const Query query(httpReply(envelope(each.body, each.header)));
@@ -89,6 +88,29 @@ TEST(Response, isReadInEveryFormThatServersGiveIt) {
     EXPECT_EQ(query.response.nErrorCode, each.code) << each.what;
     EXPECT_EQ(query.status(), each.status) << each.what;
   }
+}
+
+TEST(Response, textIsUnicodeWithBytesOfTheCodePageAmongIt) {
+  const struct {
+    const char* sent;
+    const char16_t* read;
+  } texts[] = {
+      {"Sent \xE2\x80\x93 \xC4\x80&#256;&#x2013;", u"Sent \u2013 \u0100\u0100\u2013"},
+      {"\xF0\x9F\x98\x80&#xD83D;&#xDE00;!", u"\U0001F600\U0001F600!"},
+      {"\xC2\x80&#x93;\xC2\x81 \xC2\xA0\xC3\xA9", u"\u20AC\u201C\u0081 \u00A0\u00E9"},
+      {"\x93 \xE9 \xE9", u"\u201C \u00E9 \u00E9"},  // no UTF-8: bytes of the code page
+      {"&#xD83D;! &#xFFFE;", u"\uFFFD! \uFFFD"},
+      {"ends&#0; here", u"ends"},
+  };
+  for (const auto& [sent, read] : texts) {
+    const std::string fields = "<nErrorCode>0</nErrorCode><sStatus>" + std::string(sent) + "</sStatus>";
+    const Query query(httpReply(envelope(statusElement(fields))));
+    EXPECT_EQ(query.result, 0) << sent;
+    EXPECT_EQ(fromWire(query.response.sStatus).toStdU16String(), read) << sent;
+  }
+  std::string latin = envelope(statusElement("<nErrorCode>0</nErrorCode><sStatus>\xC3\xA9</sStatus>"));
+  latin.replace(latin.find("UTF-8"), 5, "ISO-8859-1");
+  EXPECT_EQ(fromWire(Query(httpReply(latin)).response.sStatus).toStdU16String(), u"\u00C3\u00A9");
 }
 
 TEST(Response, isReadInChunksAndUpToTheEndOfTheConnection) {
@@ -169,6 +191,8 @@ TEST(Response, thatIsNoAnswerFailsAndLeavesTheRecordCleared) {
       {"empty code", envelope(statusElement("<nErrorCode/><sStatus>Sent</sStatus>"))},
       {"code is a word", envelope(statusElement("<sStatus>Sent</sStatus><nErrorCode>none</nErrorCode>"))},
       {"code has a tail", envelope(statusElement("<sStatus>Sent</sStatus><nErrorCode>7 x</nErrorCode>"))},
+      {"text cut inside a character",
+       envelope(statusElement("<nErrorCode>0</nErrorCode><sStatus>\xE2\x80</sStatus>"))},
       {"code too large", envelope(statusElement("<nErrorCode>2147483648</nErrorCode>"))},
       {"text refers to nothing",
        envelope(statusElement("<nErrorCode>0</nErrorCode><sStatus href=\"#id0\"/>"))},

@@ -48,8 +48,6 @@ TEST(CommandLine, saysWhatIsWrong) {
       {"--colour red", "unknown option \"--colour\""},
       {"--port", "--port needs a value"},
       {"--port 70000", "--port 70000: needs a port from 0 to 65535"},
-      {"--listen nowhere", "--listen nowhere: needs an IP address"},
-      {"--account ann", "--account ann: needs USER:PASSWORD[:BALANCE[:nosenderid]]"},
       {"--account ann:b:nan", "--account ann:b:nan: needs USER:PASSWORD[:BALANCE[:nosenderid]]"},
       {"--latency -1", "--latency -1: needs a time in milliseconds"},
       {"--fault x", "--fault x: expected OPERATION:KIND"},

@@ -17,9 +17,10 @@ struct IoPatience {
   std::function<void(std::size_t)> onSent;
 };
 
-/// A context for one exchange with the gateway: the runtime's default modes, the gateway's namespaces, limits
-/// on what a hostile peer may make it read, and waits that obey `patience`, which must outlive the context.
-/// Null when there is no memory for it. The caller frees it with freeContext().
+/// A context for one exchange with the gateway: the gateway's namespaces, limits on what a hostile peer may
+/// make it read, and waits that obey `patience`, which must outlive the context. Strings are written one
+/// character per byte and read as UTF-8. Null when there is no memory for it. The caller frees it with
+/// freeContext().
 [[nodiscard]] ::soap* newClientContext(const IoPatience& patience);
 
 /// The same without a connection: for envelopes that are read from a stream (`is`) or written to one (`os`).
