@@ -14,9 +14,9 @@ namespace parlexo {
 
 /// How much of a document is read and how long it may take.
 struct DownloadLimits {
-  std::chrono::milliseconds silence{30'000};  ///< longest wait for a connection or the next byte
-  std::chrono::milliseconds whole{90'000};    ///< longest time for all of it
-  qint64 bytes = 64 * 1024;                   ///< a longer document is read up to here
+  std::chrono::milliseconds silence;  ///< longest wait for a connection or the next byte
+  std::chrono::milliseconds whole;    ///< longest time for all of it
+  qint64 bytes;                       ///< a longer document is read up to here
 };
 
 /// What came of one download.

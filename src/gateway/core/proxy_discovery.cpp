@@ -8,13 +8,14 @@
 #include <QNetworkRequest>
 #include <QTemporaryDir>
 
+#include "base/timeouts.h"
+
 namespace parlexo {
 
 namespace {
 
-using namespace std::chrono_literals;
-
-constexpr DownloadLimits scriptLimits{.silence = 5s, .whole = 10s, .bytes = 1 << 20};
+constexpr DownloadLimits scriptLimits{
+    .silence = timeouts::proxyScriptSilence, .whole = timeouts::proxyScriptWhole, .bytes = 1 << 20};
 
 bool isOnThisMachine(const QString& host) {
   return host == QLatin1String("localhost") || QHostAddress(host).isLoopback();

@@ -6,6 +6,7 @@
 
 #include "base/call_runner.h"
 #include "base/run_state.h"
+#include "base/timeouts.h"
 #include "gateway/core/bounded_download.h"
 #include "gateway/core/proxy_text.h"
 
@@ -13,10 +14,10 @@ namespace parlexo {
 
 /// Patience and limits of the locator's download.
 struct LocatorLimits {
-  std::chrono::milliseconds transfer{30'000};   ///< silence in one attempt, until it is connected and after
-  std::chrono::milliseconds retryDelay{1'000};  ///< before the second and last attempt to connect
-  qint64 documentBytes = 64 * 1024;             ///< a longer document is read up to here
-  std::chrono::milliseconds whole{90'000};      ///< for a document that comes in drops
+  std::chrono::milliseconds transfer = timeouts::locatorSilence;  ///< until connected, and then between bytes
+  std::chrono::milliseconds retryDelay = timeouts::locatorRetry;  ///< before the second and last attempt
+  qint64 documentBytes = 64 * 1024;                               ///< a longer document is read up to here
+  std::chrono::milliseconds whole = timeouts::locatorWhole;       ///< one attempt, redirects included
 };
 
 /// Downloads the locator document from the service's web site. Waits in a local event loop; any thread may
