@@ -1,6 +1,7 @@
 #include "gateway/core/server_locator.h"
 
 #include <chrono>
+#include <deque>
 #include <string>
 #include <thread>
 #include <vector>
@@ -158,16 +159,39 @@ TEST(ServerLocator, otherAnswersLocateNothingAndKeepNothing) {
   }
 }
 
-TEST(ServerLocator, redirectIsNotFollowed) {
-  FakeGateway elsewhere(httpReply(locatorText));
-  for (const std::string status : {"301 Moved Permanently", "302 Found", "303 See Other",
-                                   "307 Temporary Redirect", "308 Permanent Redirect"}) {
-    FakeGateway site("HTTP/1.1 " + status + "\r\nLocation: " + elsewhere.base() +
-                     "/WSDLServerLocator.xml\r\nContent-Length: 0\r\n\r\n");
+std::string redirectTo(const std::string& location, const std::string& status = "302 Found") {
+  return "HTTP/1.1 " + status + "\r\nLocation: " + location + "\r\nContent-Length: 0\r\n\r\n";
+}
+
+TEST(ServerLocator, followsUpToFiveRedirects) {
+  std::deque<FakeGateway> chain;
+  chain.emplace_back(httpReply(locatorText));
+  for (const char* status : {"301 Moved Permanently", "302 Found", "303 See Other", "307 Temporary Redirect",
+                             "308 Permanent Redirect", "302 Found"}) {
     RunState state;
-    EXPECT_EQ(locate(site.base(), state), Outcome::NotLocated) << status;
+    EXPECT_EQ(locate(chain.back().base(), state), Outcome::Located) << status;
+    chain.emplace_back(redirectTo(chain.back().base() + "/elsewhere?a=b", status));
   }
-  EXPECT_EQ(elsewhere.requestCount(), 0);
+  RunState state;
+  EXPECT_EQ(locate(chain.back().base(), state), Outcome::NotLocated);
+  EXPECT_EQ(headOf(chain.front().lastRequest()).value(0), u"GET /elsewhere?a=b HTTP/1.1"_qs);
+
+  FakeGateway loop(redirectTo("/WSDLServerLocator.xml"));
+  EXPECT_EQ(locate(loop.base(), state), Outcome::NotLocated);
+  EXPECT_EQ(loop.requestCount(), 6);
+}
+
+TEST(ServerLocator, redirectsNeverLeadToLessSafety) {
+  const QUrl open(u"http://a.test/x/y"_qs);
+  const QUrl encrypted(u"https://a.test/x/y"_qs);
+  const auto target = [](const QUrl& from, const char* to) {
+    return redirectTarget(from, QUrl(QLatin1String(to))).toString();
+  };
+  EXPECT_EQ(target(open, "https://b.test/z"), u"https://b.test/z"_qs);
+  EXPECT_EQ(target(encrypted, "../z"), u"https://a.test/z"_qs);
+  EXPECT_EQ(target(encrypted, "//b.test/"), u"https://b.test/"_qs);
+  for (const char* to : {"http://a.test/x/z", "ftp://a.test/", "file:///etc/passwd", "https:///z", ""})
+    EXPECT_EQ(target(encrypted, to), QString()) << to;
 }
 
 TEST(ServerLocator, hugeAndEndlessDocumentsAreReadToTheLimitOnly) {

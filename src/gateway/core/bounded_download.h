@@ -4,6 +4,7 @@
 
 #include <QByteArray>
 #include <QNetworkReply>
+#include <QUrl>
 
 #include "base/call_runner.h"
 
@@ -25,6 +26,7 @@ struct Download {
   QNetworkReply::NetworkError error = QNetworkReply::NoError;
   bool wasSent = false;  ///< the request went out, so a connection had come about
   bool isWhole = false;  ///< the document has arrived to its end or up to the limit
+  QUrl location;         ///< where a redirect points to, perhaps relative; empty when there is none
   QByteArray document;
 };
 

@@ -1,7 +1,10 @@
 #include "gateway/core/server_locator.h"
 
+#include <algorithm>
+#include <array>
 #include <limits>
 
+#include <QDeadlineTimer>
 #include <QEventLoop>
 #include <QNetworkProxy>
 #include <QNetworkReply>
@@ -16,6 +19,7 @@ namespace {
 
 constexpr int statusOk = 200;
 constexpr int statusProxyLogin = 407;
+constexpr int mostRedirects = 5;
 
 /// A port beyond 65535 would lose its upper bits and lead to another proxy.
 bool hasPort(const ProxyAddress& address) {
@@ -25,7 +29,7 @@ bool hasPort(const ProxyAddress& address) {
 QNetworkProxy proxyAt(const ProxyAddress& address) {
   // Without this Qt would take a proxy from the environment, which the gateway's own calls don't see.
   if (address.isEmpty() || !hasPort(address)) return QNetworkProxy::NoProxy;
-  // No name and password here: the header says them, and Qt must not start an exchange of its own.
+  // Name and password go in the header: Qt would only send them after another refusal.
   return {QNetworkProxy::HttpProxy, address.host, static_cast<quint16>(address.port)};
 }
 
@@ -34,14 +38,39 @@ void addHeaderLine(QNetworkRequest& request, const QByteArray& line) {
   request.setRawHeader(line.first(colon), line.sliced(colon + 2).trimmed());
 }
 
-QNetworkRequest requestFor(const QUrl& site) {
-  QUrl address(site);
-  address.setPath(QStringLiteral("/WSDLServerLocator.xml"));
+bool isEncrypted(const QUrl& address) {
+  return address.scheme() == QLatin1String("https");
+}
+
+/// The login goes to the proxy alone: in the header of a request that the proxy itself reads, but not in one
+/// that it passes on unseen to an encrypted site.
+bool headerCarriesLogin(const ProxySettings& login, const QUrl& address) {
+  return !login.host.isEmpty() && !isEncrypted(address);
+}
+
+QNetworkRequest requestFor(const QUrl& address, const ProxySettings& login) {
   QNetworkRequest request(address);
   addHeaderLine(request, "Accept: text/plain, text/html, text/htm, text/xml\r\n");
   addHeaderLine(request, "User-Agent: Parlexo/1.0\r\n");
+  if (headerCarriesLogin(login, address))
+    addHeaderLine(request, makeProxyAuthorisation(login.user, login.password));
+  // Qt would take the login's header along to an encrypted site.
   request.setAttribute(QNetworkRequest::RedirectPolicyAttribute, QNetworkRequest::ManualRedirectPolicy);
   return request;
+}
+
+QNetworkProxy proxyFor(const QUrl& address, const ProxySettings& login, const ProxyAddress& preconfigured) {
+  if (login.host.isEmpty()) return proxyAt(preconfigured);
+  QNetworkProxy proxy = proxyAt({login.host, login.port});
+  if (headerCarriesLogin(login, address)) return proxy;
+  proxy.setUser(login.user);
+  proxy.setPassword(login.password);
+  return proxy;
+}
+
+bool isRedirect(int status) {
+  constexpr std::array redirects = {301, 302, 303, 307, 308};
+  return std::find(redirects.begin(), redirects.end(), status) != redirects.end();
 }
 
 /// True when no connection came about, so that another attempt may do better.
@@ -57,17 +86,31 @@ void pause(std::chrono::milliseconds delay) {
 
 }  // namespace
 
+QUrl redirectTarget(const QUrl& from, const QUrl& location) {
+  const QUrl target = from.resolved(location);
+  const bool isWeb = isEncrypted(target) || target.scheme() == QLatin1String("http");
+  const bool isLessSafe = isEncrypted(from) && !isEncrypted(target);
+  const bool mayBeFollowed = !location.isEmpty() && target.isValid() && !target.host().isEmpty();
+  return mayBeFollowed && isWeb && !isLessSafe ? target : QUrl();
+}
+
 ServerLocator::ServerLocator(const QUrl& site, const LocatorLimits& limits) : site_(site), limits_(limits) {}
 
 Download ServerLocator::attempt(const ProxySettings& login, const ProxyAddress& preconfigured,
                                 const CancelFlag& cancel) const {
-  const bool isLogin = !login.host.isEmpty();
-  const ProxyAddress proxy = isLogin ? ProxyAddress{login.host, login.port} : preconfigured;
-  QNetworkRequest request = requestFor(site_);
-  if (isLogin) addHeaderLine(request, makeProxyAuthorisation(login.user, login.password));
-  return download(request, proxyAt(proxy),
-                  {.silence = limits_.transfer, .whole = limits_.whole, .bytes = limits_.documentBytes},
-                  cancel);
+  const QDeadlineTimer deadline(limits_.whole);
+  QUrl address(site_);
+  address.setPath(QStringLiteral("/WSDLServerLocator.xml"));
+  for (int redirects = 0;; ++redirects) {
+    Download reply = download(requestFor(address, login), proxyFor(address, login, preconfigured),
+                              {.silence = limits_.transfer,
+                               .whole = std::chrono::milliseconds(deadline.remainingTime()),
+                               .bytes = limits_.documentBytes},
+                              cancel);
+    const QUrl next = isRedirect(reply.status) ? redirectTarget(address, reply.location) : QUrl();
+    if (next.isEmpty() || redirects == mostRedirects || cancel.isRaised()) return reply;
+    address = next;
+  }
 }
 
 ServerLocator::Outcome ServerLocator::locate(RunState& state, const ProxyAddress& preconfigured,

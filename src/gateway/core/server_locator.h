@@ -20,6 +20,10 @@ struct LocatorLimits {
   std::chrono::milliseconds whole = timeouts::locatorWhole;       ///< one attempt, redirects included
 };
 
+/// Where a redirect from `from` with the header "Location: `location`" leads; empty when it must not be
+/// followed: it leads away from HTTP, from an encrypted site to an open one, or nowhere.
+[[nodiscard]] QUrl redirectTarget(const QUrl& from, const QUrl& location);
+
 /// Downloads the locator document from the service's web site. Waits in a local event loop; any thread may
 /// use it.
 class ServerLocator {
@@ -36,8 +40,9 @@ class ServerLocator {
 
   /// Downloads "/WSDLServerLocator.xml" and stores what it tells in `state.gateway`: all of it or, unless
   /// the outcome is Located, nothing. Where the proxy of `state` has a host, the request goes through it and
-  /// carries its login; otherwise it goes through `preconfigured`, or straight when that is empty too.
-  /// About 100 ms after `cancel` was raised (a second, where it waits for another attempt) it gives up.
+  /// carries its login; otherwise it goes through `preconfigured`, or straight when that is empty too. Up to
+  /// five redirects are followed, through the same proxy. About 100 ms after `cancel` was raised (a second,
+  /// where it waits for another attempt) it gives up.
   [[nodiscard]] Outcome locate(RunState& state, const ProxyAddress& preconfigured = {},
                                const CancelFlag& cancel = {}) const;
 
