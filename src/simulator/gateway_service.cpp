@@ -57,7 +57,7 @@ QString outcomeForLog(const Response& response) {
 }
 
 QString faultForLog(const std::optional<Fault>& fault) {
-  return fault ? QStringLiteral(" [fault: %1]").arg(describe(*fault)) : QString();
+  return fault ? QStringLiteral(" [fault: %1]").arg(forLog(describe(*fault))) : QString();
 }
 
 void replaceText(const protocol::Fields& fields, const char* text) {
