@@ -65,8 +65,8 @@ class Operations {
   void handle(const protocol::partnerEndSessionForSubUser& request,
               protocol::partnerEndSessionForSubUserResponse& response);
 
-  /// `text` as a response carries it, in UTF-8; lives as long as this object. What the code page has is sent as
-  /// the character of its byte's number, as requests do; only what it lacks is sent as itself.
+  /// `text` as a response carries it, in UTF-8; lives as long as this object. What the code page has is sent
+  /// as the character of its byte's number, as requests do; only what it lacks is sent as itself.
   [[nodiscard]] const char* keep(const QString& text);
 
   /// What a person should read in the log about the operation; empty for most.

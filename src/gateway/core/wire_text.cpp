@@ -8,14 +8,18 @@ namespace parlexo {
 
 namespace {
 
-/// Reads one character, in the one to six bytes that the runtime writes for any 31-bit number. QString's own
-/// decoder refuses surrogates before they could be joined.
+/// Reads one character, or one byte that does not fit UTF-8. QString's own decoder refuses surrogates before
+/// they could be joined.
 char32_t readCharacter(const char*& at) {
   const auto lead = static_cast<unsigned char>(*at++);
   if (lead < 0xC0) return lead;
-  int following = std::countl_one(lead) - 1;
+  const int following = std::countl_one(lead) - 1;
   char32_t character = lead & (0x3Fu >> following);
-  while (following-- > 0 && (*at & 0xC0) == 0x80) character = character << 6 | (*at++ & 0x3Fu);
+  for (int i = 0; i < following; ++i) {
+    if ((at[i] & 0xC0) != 0x80) return lead;
+    character = character << 6 | (at[i] & 0x3Fu);
+  }
+  at += following;
   return character;
 }
 
