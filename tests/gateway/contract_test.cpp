@@ -13,28 +13,11 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-/// The letter with which the name of a field of this type begins.
-char firstLetter(protocol::FieldType type) {
-  switch (type) {
-    case protocol::FieldType::Text:
-    case protocol::FieldType::BorrowedText:
-      return 's';
-    case protocol::FieldType::Integer:
-      return 'n';
-    case protocol::FieldType::Real:
-      return 'd';
-    case protocol::FieldType::Boolean:
-      return 'b';
-    case protocol::FieldType::Binary:
-      return 'o';
-  }
-  return 0;
-}
-
+/// The first letter of a name has to be that of its type.
 QString cellWith(const protocol::Fields& fields) {
   QStringList names;
   for (const protocol::Field& field : fields) {
-    EXPECT_EQ(field.name[0], firstLetter(field.type)) << field.name;
+    EXPECT_EQ(field.name[0], "ssndbo"[static_cast<int>(field.type)]) << field.name;
     names << u"`%1`"_qs.arg(QLatin1String(field.name));
   }
   return names.isEmpty() ? u"(none)"_qs : names.join(u", "_qs);

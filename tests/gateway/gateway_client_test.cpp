@@ -59,8 +59,6 @@ TEST(GatewayClient, installsOnlyTheProxyFieldsThatAreWhole) {
     const char* installedHost;
   };
   for (const Case& each : {Case{"u", "p", "h", "u", "h"},
-                           {"u", "p", "", "u", nullptr},
-                           {"", "p", "h", nullptr, "h"},
                            {"u", "", "h", nullptr, "h"},
                            {"", "", "h", nullptr, "h"},
                            {"", "", "", nullptr, nullptr}}) {
@@ -102,12 +100,11 @@ TEST(GatewayClient, cancelledBeforeItBeginsSendsNothing) {
   EXPECT_EQ(gateway.requestCount(), 0);
 }
 
-/// An address of this machine at which no connection comes about: nobody accepts those in its queue, and the
-/// system leaves further ones without an answer.
+/// An address of this machine that leaves connections without an answer, as nothing accepts those in its
+/// queue.
 class SilentAddress {
  public:
   explicit SilentAddress(int port) {
-    protocol::prepareSockets();
     sockaddr_in address{};
     address.sin_family = AF_INET;
     address.sin_port = htons(static_cast<std::uint16_t>(port));
@@ -118,17 +115,16 @@ class SilentAddress {
     target.ai_addr = reinterpret_cast<sockaddr*>(&address);
     target.ai_addrlen = sizeof address;
     for (SOAP_SOCKET& each : sockets_) each = protocol::openSocket(target);
-    EXPECT_EQ(bind(sockets_[0], target.ai_addr, sizeof address), 0);
-    EXPECT_EQ(listen(sockets_[0], 0), 0);
-    for (std::size_t i = 1; i < sockets_.size(); ++i)
-      EXPECT_TRUE(protocol::startConnecting(sockets_[i], target));
+    EXPECT_EQ(bind(sockets_[0], target.ai_addr, sizeof address) + listen(sockets_[0], 0), 0);
+    for (const SOAP_SOCKET each : {sockets_[1], sockets_[2]})
+      EXPECT_TRUE(protocol::startConnecting(each, target));
   }
   ~SilentAddress() {
     for (const SOAP_SOCKET each : sockets_) soap_closesocket(each);
   }
 
  private:
-  std::array<SOAP_SOCKET, 4> sockets_{};
+  std::array<SOAP_SOCKET, 3> sockets_{};
 };
 
 /// A version query to a host with the addresses that `resolve` finds; how long it took.
@@ -149,7 +145,7 @@ std::chrono::milliseconds queryBy(protocol::Resolver resolve, std::chrono::milli
 TEST(GatewayClient, triesEveryAddressOfTheHostWithinTheTimeOut) {
   FakeGateway gateway(versionReply);
   const SilentAddress silent(gateway.port());
-  const auto found = [](std::vector<std::string> addresses) {
+  const auto found = [](const std::vector<std::string>& addresses) {
     return [addresses](const std::string& host) {
       EXPECT_EQ(host, "gateway.test");
       return addresses;

@@ -200,7 +200,7 @@ TEST_F(ProxiedRun, proxyWithoutALoginCarriesTheCallsThatTheSettingsSendThroughIt
     const std::string call = "POST http://gateway.invalid:8080/ccx/onlineCommunication HTTP/1.1\r\n";
     EXPECT_EQ(open.lastRequest().starts_with(call), excepted.isEmpty());
   }
-  EXPECT_EQ(journal, Journal()) << "nobody is asked for a login";
+  EXPECT_EQ(journal, Journal()) << "no login was asked for";
 }
 
 TEST_F(ProxiedRun, proxyThatIsGoneFailsTheSearchAndEveryCall) {

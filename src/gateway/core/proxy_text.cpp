@@ -41,7 +41,7 @@ ProxyAddress httpProxyIn(const QString& list, const QString& scheme) {
   ProxyAddress forAllSchemes;
   for (const QString& entry : list.split(separators, Qt::SkipEmptyParts)) {
     const qsizetype equals = entry.indexOf(u'=');
-    const ProxyAddress proxy = httpProxy(entry.sliced(equals + 1));
+    ProxyAddress proxy = httpProxy(entry.sliced(equals + 1));
     if (equals < 0) {
       if (forAllSchemes.isEmpty()) forAllSchemes = proxy;
     } else if (entry.first(equals).compare(scheme, Qt::CaseInsensitive) == 0) {

@@ -19,7 +19,7 @@ struct IoPatience {
   std::chrono::milliseconds connect{};      ///< looking up the name and connecting, all addresses together
   std::chrono::milliseconds nextAddress{};  ///< how long one address is tried before the next joins it
   std::chrono::milliseconds silence{};      ///< longest wait for the next byte, sending and receiving
-  /// When the exchange ends at the latest, whatever it is doing.
+  /// When the exchange ends at the latest, even in the middle of a transfer.
   std::chrono::steady_clock::time_point deadline = std::chrono::steady_clock::time_point::max();
   /// Polled every 50 ms while the context waits; true ends the exchange with an error. May be empty.
   std::function<bool()> isCancelled{};

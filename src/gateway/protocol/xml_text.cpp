@@ -44,7 +44,7 @@ std::optional<char32_t> characterNumbered(std::string_view digits, int base) {
   return number <= 0x10FFFF ? number : U'\uFFFD';
 }
 
-/// What stands between "&" and ";".
+/// `name` is the part between "&" and ";".
 std::optional<char32_t> characterNamed(std::string_view name) {
   if (name.starts_with("#x") || name.starts_with("#X")) return characterNumbered(name.substr(2), 16);
   if (name.starts_with('#')) return characterNumbered(name.substr(1), 10);
