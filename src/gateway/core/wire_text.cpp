@@ -1,6 +1,9 @@
 #include "gateway/core/wire_text.h"
 
+#include <algorithm>
+#include <array>
 #include <bit>
+#include <cstddef>
 
 #include "base/code_page.h"
 
@@ -11,14 +14,17 @@ namespace {
 /// Reads one character, or one byte that does not fit UTF-8. QString's own decoder refuses surrogates before
 /// they could be joined.
 char32_t readCharacter(const char*& at) {
+  // By the number of bytes that follow the first. A smaller one in as many bytes would bring in a U+0000.
+  constexpr std::array<char32_t, 4> smallest = {0, 0x80, 0x800, 0x10000};
   const auto lead = static_cast<unsigned char>(*at++);
-  if (lead < 0xC0) return lead;
-  const int following = std::countl_one(lead) - 1;
+  const auto following = static_cast<std::size_t>(std::max(std::countl_one(lead) - 1, 0));
+  if (following == 0 || following >= smallest.size()) return lead;
   char32_t character = lead & (0x3Fu >> following);
-  for (int i = 0; i < following; ++i) {
+  for (std::size_t i = 0; i < following; ++i) {
     if ((at[i] & 0xC0) != 0x80) return lead;
     character = character << 6 | (at[i] & 0x3Fu);
   }
+  if (character < smallest[following]) return lead;
   at += following;
   return character;
 }

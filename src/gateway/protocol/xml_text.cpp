@@ -39,9 +39,10 @@ constexpr std::array<std::string_view, 96> latinEntities = {
 
 std::optional<char32_t> characterNumbered(std::string_view digits, int base) {
   std::uint32_t number = 0;
-  const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), number, base);
-  if (digits.empty() || error != std::errc() || end != digits.data() + digits.size()) return std::nullopt;
-  return number <= 0x10FFFF ? number : U'\uFFFD';
+  const char* const last = digits.data() + digits.size();
+  const auto [end, error] = std::from_chars(digits.data(), last, number, base);
+  if (digits.empty() || end != last) return std::nullopt;
+  return error == std::errc() && number <= 0x10FFFF ? number : U'\uFFFD';
 }
 
 /// `name` is the part between "&" and ";".
