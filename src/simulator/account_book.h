@@ -57,7 +57,7 @@ class AccountBook {
 };
 
 /// The last 500 transactions as the wire carries them: ID, date, amount and description with a tab between
-/// them, each record ended by "\r\n", in bytes of the code page.
+/// them, each record ended by "\r\n".
 [[nodiscard]] QString historyText(const Account& account);
 
 /// Whether `password` may be chosen: 6 to 10 characters, at least a letter and a digit.

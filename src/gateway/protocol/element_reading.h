@@ -25,9 +25,8 @@ inline constexpr int textType = 1;
 }
 
 /// Reads the element at hand, which must be `tag` unless that is null, as text; where strings are Unicode, as
-/// the content for textOfContent(). An element that is nil gives
-/// null; one that is a reference is filled in when the runtime meets what it points to, at the latest at the
-/// message's end.
+/// content that textOfContent() has to decode. An element that is nil gives null; one that is a reference is
+/// filled in when the runtime meets what it points to, at the latest at the message's end.
 [[nodiscard]] inline int readText(::soap& context, const char* tag, char** text) {
   const std::string name = context.tag;
   const int form = readsUnicode(context) ? 0 : 1;  // the runtime's numbers for content as sent, and for text

@@ -125,15 +125,21 @@ bool readBinary(::soap& context, std::string_view text, BinaryData& value) {
   return true;
 }
 
+/// The copy belongs to the context; false when there is no memory for it.
+bool assignBorrowed(::soap& context, void* member, const std::string& text) {
+  const char* copy = soap_strdup(&context, text.c_str());
+  *static_cast<const char**>(member) = copy;
+  return copy != nullptr;
+}
+
 /// Reads a field's text into the record; false when it is not of the field's type.
-bool readValue(::soap& context, const Field& field, std::string_view text) {
+bool readValue(::soap& context, const Field& field, const std::string& text) {
   switch (field.type) {
     case FieldType::Text:
       *static_cast<std::string*>(field.value) = text;
       return true;
     case FieldType::BorrowedText:
-      *static_cast<const char**>(field.value) = soap_strdup(&context, std::string(text).c_str());
-      return true;
+      return assignBorrowed(context, field.value, text);
     case FieldType::Integer:
       return assign(field.value, integerFromText(text));
     case FieldType::Real:
