@@ -2,8 +2,8 @@
 
 #include <chrono>
 
-/// Every time limit of the client's connections and of the programs that it asks, in one place. The section
-/// "Time-outs" of docs/gateway-protocol.md lists the same values; keep both in step.
+/// Every time limit of the client's connections, of its helper programs and of the waits for them. The
+/// section "Time-outs" of docs/gateway-protocol.md lists the same values; keep both in step.
 namespace parlexo::timeouts {
 
 using std::chrono::milliseconds;
@@ -26,8 +26,8 @@ inline constexpr seconds sessionEnd{3};
 
 /// Longest wait for a connection or for the next byte.
 inline constexpr seconds locatorSilence{30};
-/// All of it, redirects included; the silence alone would let a document that comes byte by byte last for
-/// days.
+/// All of it, with redirects and a second attempt; the silence alone would let a document that comes byte by
+/// byte last for days.
 inline constexpr seconds locatorWhole{90};
 /// Before the second and last attempt to connect.
 inline constexpr seconds locatorRetry{1};

@@ -4,7 +4,6 @@
 #include <array>
 #include <limits>
 
-#include <QDeadlineTimer>
 #include <QEventLoop>
 #include <QNetworkProxy>
 #include <QNetworkReply>
@@ -73,9 +72,16 @@ bool isRedirect(int status) {
   return std::find(redirects.begin(), redirects.end(), status) != redirects.end();
 }
 
+/// On the way to an encrypted site the proxy refuses a connection instead of a request.
+bool wantsProxyLogin(const Download& download) {
+  return download.status == statusProxyLogin ||
+         download.error == QNetworkReply::ProxyAuthenticationRequiredError;
+}
+
 /// True when no connection came about, so that another attempt may do better.
 bool hasNotConnected(const Download& download) {
-  return download.error != QNetworkReply::NoError && !download.wasSent && download.status == 0;
+  return download.error != QNetworkReply::NoError && !download.wasSent && download.status == 0 &&
+         !wantsProxyLogin(download);
 }
 
 void pause(std::chrono::milliseconds delay) {
@@ -97,8 +103,7 @@ QUrl redirectTarget(const QUrl& from, const QUrl& location) {
 ServerLocator::ServerLocator(const QUrl& site, const LocatorLimits& limits) : site_(site), limits_(limits) {}
 
 Download ServerLocator::attempt(const ProxySettings& login, const ProxyAddress& preconfigured,
-                                const CancelFlag& cancel) const {
-  const QDeadlineTimer deadline(limits_.whole);
+                                const QDeadlineTimer& deadline, const CancelFlag& cancel) const {
   QUrl address(site_);
   address.setPath(QStringLiteral("/WSDLServerLocator.xml"));
   for (int redirects = 0;; ++redirects) {
@@ -118,16 +123,14 @@ ServerLocator::Outcome ServerLocator::locate(RunState& state, const ProxyAddress
   // The login must not go anywhere but to its proxy.
   if (!state.proxy.host.isEmpty() && !hasPort({state.proxy.host, state.proxy.port}))
     return Outcome::NotLocated;
-  Download download = attempt(state.proxy, preconfigured, cancel);
+  const QDeadlineTimer deadline(limits_.whole);
+  Download download = attempt(state.proxy, preconfigured, deadline, cancel);
   if (hasNotConnected(download) && !cancel.isRaised()) {
     pause(limits_.retryDelay);
-    download = attempt(state.proxy, preconfigured, cancel);
+    download = attempt(state.proxy, preconfigured, deadline, cancel);
   }
   if (cancel.isRaised()) return Outcome::NotLocated;
-  if (download.status == statusProxyLogin ||
-      download.error == QNetworkReply::ProxyAuthenticationRequiredError) {
-    return Outcome::ProxyRefusal;
-  }
+  if (wantsProxyLogin(download)) return Outcome::ProxyRefusal;
   if (download.status != statusOk || !download.isWhole) return Outcome::NotLocated;
   const auto location = parseLocatorDocument(download.document);
   if (!location) return Outcome::NotLocated;

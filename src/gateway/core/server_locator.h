@@ -2,6 +2,7 @@
 
 #include <chrono>
 
+#include <QDeadlineTimer>
 #include <QUrl>
 
 #include "base/call_runner.h"
@@ -17,7 +18,7 @@ struct LocatorLimits {
   std::chrono::milliseconds transfer = timeouts::locatorSilence;  ///< until connected, and then between bytes
   std::chrono::milliseconds retryDelay = timeouts::locatorRetry;  ///< before the second and last attempt
   qint64 documentBytes = 64 * 1024;                               ///< a longer document is read up to here
-  std::chrono::milliseconds whole = timeouts::locatorWhole;       ///< one attempt, redirects included
+  std::chrono::milliseconds whole = timeouts::locatorWhole;       ///< all of it, with a second attempt
 };
 
 /// Where a redirect from `from` with the header "Location: `location`" leads; empty when it must not be
@@ -48,7 +49,7 @@ class ServerLocator {
 
  private:
   [[nodiscard]] Download attempt(const ProxySettings& login, const ProxyAddress& preconfigured,
-                                 const CancelFlag& cancel) const;
+                                 const QDeadlineTimer& deadline, const CancelFlag& cancel) const;
 
   QUrl site_;
   LocatorLimits limits_;
