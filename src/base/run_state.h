@@ -4,7 +4,8 @@
 
 namespace parlexo {
 
-/// The proxy that every exchange goes through; all empty when there is none.
+/// The proxy that every exchange but sessionEnd goes through; all empty when there is none. One that wants no
+/// login has neither user nor password.
 struct ProxySettings {
   QString password;
   QString user;

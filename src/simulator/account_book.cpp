@@ -3,8 +3,6 @@
 #include <algorithm>
 #include <cmath>
 
-#include "base/code_page.h"
-
 namespace parlexo::simulator {
 
 namespace {
@@ -74,11 +72,11 @@ void AccountBook::post(Account& account, std::int64_t cents, const QDateTime& da
   account.history.push_back({++lastTransaction_, date, cents, description});
 }
 
-QByteArray historyText(const Account& account) {
+QString historyText(const Account& account) {
   const std::size_t skipped = account.history.size() - std::min(account.history.size(), shownTransactions);
   QString text;
   for (std::size_t i = skipped; i < account.history.size(); ++i) text += recordOf(account.history[i]);
-  return toCodePage(text);
+  return text;
 }
 
 bool isAcceptablePassword(const QString& password) {

@@ -4,7 +4,6 @@
 #include <map>
 #include <vector>
 
-#include <QByteArray>
 #include <QDateTime>
 #include <QString>
 
@@ -58,8 +57,8 @@ class AccountBook {
 };
 
 /// The last 500 transactions as the wire carries them: ID, date, amount and description with a tab between
-/// them, each record ended by "\r\n", in bytes of the code page.
-[[nodiscard]] QByteArray historyText(const Account& account);
+/// them, each record ended by "\r\n".
+[[nodiscard]] QString historyText(const Account& account);
 
 /// Whether `password` may be chosen: 6 to 10 characters, at least a letter and a digit.
 [[nodiscard]] bool isAcceptablePassword(const QString& password);

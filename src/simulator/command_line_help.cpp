@@ -41,6 +41,7 @@ Faults
   notxml              answer a line of text that is not XML; nothing is carried out
   soapfault[=REASON]  answer a SOAP fault; nothing is carried out
   code=N              answer with error code N; nothing is carried out
+  text=TEXT           carry the operation out, answer TEXT in the place of its text
   version=N           wrong protocol version (getVersion only)
   clientversion=TEXT  wrong client version (locator only)
   badlocator          malformed locator document (locator only)

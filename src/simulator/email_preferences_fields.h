@@ -1,10 +1,5 @@
 #pragma once
 
-#include <deque>
-
-#include <QByteArray>
-
-#include "base/code_page.h"
 #include "simulator/operations.h"
 #include "simulator/simulator_options.h"
 
@@ -28,16 +23,15 @@ template <class Request>
   return preferences;
 }
 
-/// Fills a response; `kept` holds its texts and must outlive it.
+/// Fills a response; `operations` keeps its texts.
 template <class Response>
-void writePreferences(const EmailPreferences& preferences, Response& response, std::deque<QByteArray>& kept) {
-  const auto keep = [&kept](const QString& text) { return kept.emplace_back(toCodePage(text)).constData(); };
+void writePreferences(const EmailPreferences& preferences, Response& response, Operations& operations) {
   response.bEmailEnable = preferences.enabled;
-  response.sEmailCode = keep(preferences.code);
+  response.sEmailCode = operations.keep(preferences.code);
   response.bEmailFilter = preferences.filter;
-  response.sEmailFilter1 = keep(preferences.address1);
-  response.sEmailFilter2 = keep(preferences.address2);
-  response.sEmailFilter3 = keep(preferences.address3);
+  response.sEmailFilter1 = operations.keep(preferences.address1);
+  response.sEmailFilter2 = operations.keep(preferences.address2);
+  response.sEmailFilter3 = operations.keep(preferences.address3);
   response.bEmailSmsSplit = preferences.splitLong;
   response.bEmailEndDoubleLine = preferences.endAtDoubleLine;
   response.bEmailEndStop = preferences.endAtKeyword;

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <optional>
+#include <type_traits>
 
 #include "gateway/protocol/contract.h"
 
@@ -11,7 +12,7 @@ namespace parlexo::simulator {
 namespace {
 
 enum class Value { None, Number, OptionalText, Text };
-enum class Place { Connection, Anywhere, Operation, GetVersion, Locator };
+enum class Place { Connection, Anywhere, Operation, OperationWithText, GetVersion, Locator };
 
 struct KindRule {
   FaultKind kind;
@@ -29,6 +30,7 @@ constexpr std::array kindRules = {
     KindRule{FaultKind::NotXml, "notxml", Value::None, Place::Anywhere},
     KindRule{FaultKind::SoapFault, "soapfault", Value::OptionalText, Place::Operation},
     KindRule{FaultKind::Code, "code", Value::Number, Place::Operation},
+    KindRule{FaultKind::Text, "text", Value::Text, Place::OperationWithText},
     KindRule{FaultKind::Version, "version", Value::Number, Place::GetVersion},
     KindRule{FaultKind::ClientVersion, "clientversion", Value::Text, Place::Locator},
     KindRule{FaultKind::BadLocator, "badlocator", Value::None, Place::Locator},
@@ -43,6 +45,18 @@ const KindRule& ruleFor(FaultKind kind) {
                        [kind](const KindRule& rule) { return rule.kind == kind; });
 }
 
+bool answersWithText(const QString& operation) {
+  bool hasText = false;
+  protocol::visitOperation(operation.toStdString(), [&hasText](const auto& found) {
+    typename std::remove_cvref_t<decltype(found)>::Response response;
+    const protocol::Fields fields = found.fields(response);
+    hasText = std::any_of(fields.begin(), fields.end(), [](const protocol::Field& field) {
+      return field.type == protocol::FieldType::BorrowedText;
+    });
+  });
+  return hasText;
+}
+
 QString problemWithPlace(const Fault& fault) {
   const QString word = QString::fromLatin1(ruleFor(fault.kind).word);
   switch (ruleFor(fault.kind).place) {
@@ -53,6 +67,10 @@ QString problemWithPlace(const Fault& fault) {
       if (fault.operation == locatorDownload) return QStringLiteral("%1 does not go with locator").arg(word);
       if (fault.kind == FaultKind::Code && fault.operation == versionQuery)
         return QStringLiteral("the answer of getVersion has no code");
+      return {};
+    case Place::OperationWithText:
+      if (fault.operation != anyOperation && !answersWithText(fault.operation))
+        return QStringLiteral("the answer of %1 has no text").arg(fault.operation);
       return {};
     case Place::GetVersion:
       if (fault.operation != versionQuery) return QStringLiteral("%1 goes with getVersion only").arg(word);

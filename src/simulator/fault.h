@@ -15,6 +15,7 @@ enum class FaultKind {
   NotXml,         ///< answer HTTP 200 with a line of plain text; nothing is carried out
   SoapFault,      ///< answer a SOAP fault whose reason is `text`; nothing is carried out
   Code,           ///< answer `nErrorCode` = `number` and nothing else; nothing is carried out
+  Text,           ///< answer `text` in the place of the answer's text; the operation is carried out
   Version,        ///< getVersion answers `number`
   ClientVersion,  ///< the locator document announces the client version `text`
   BadLocator,     ///< the locator document is malformed

@@ -17,9 +17,11 @@ std::optional<Fault> FaultPlan::forCall(const QString& operation) {
   return take([&operation](const Fault& fault) {
     if (fault.kind == FaultKind::Refuse) return false;
     if (fault.operation == operation) return true;
-    // The answer of getVersion has no place for a code.
-    const bool fits = fault.kind != FaultKind::Code || operation != QLatin1String("getVersion");
-    return fault.operation == QLatin1String("any") && operation != QLatin1String("locator") && fits;
+    if (fault.operation != QLatin1String("any") || operation == QLatin1String("locator")) return false;
+    // Not every answer has a place for a code or a text.
+    Fault ofThisCall = fault;
+    ofThisCall.operation = operation;
+    return problemWith(ofThisCall).isEmpty();
   });
 }
 

@@ -24,6 +24,7 @@ bool preventsOperation(FaultKind kind) {
     case FaultKind::Cut:
     case FaultKind::Late:
     case FaultKind::Code:
+    case FaultKind::Text:
     case FaultKind::Version:
     case FaultKind::ClientVersion:
     case FaultKind::BadLocator:
@@ -54,6 +55,7 @@ HttpReply misbehave(const Fault& fault, HttpReply proper) {
                             (fault.text.isEmpty() ? defaultReason : fault.text).toStdString());
     case FaultKind::Refuse:
     case FaultKind::Code:
+    case FaultKind::Text:
     case FaultKind::Version:
     case FaultKind::ClientVersion:
     case FaultKind::BadLocator:

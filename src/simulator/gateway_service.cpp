@@ -57,7 +57,15 @@ QString outcomeForLog(const Response& response) {
 }
 
 QString faultForLog(const std::optional<Fault>& fault) {
-  return fault ? QStringLiteral(" [fault: %1]").arg(describe(*fault)) : QString();
+  return fault ? QStringLiteral(" [fault: %1]").arg(forLog(describe(*fault))) : QString();
+}
+
+void replaceText(const protocol::Fields& fields, const char* text) {
+  for (const protocol::Field& field : fields) {
+    if (field.type != protocol::FieldType::BorrowedText) continue;
+    *static_cast<const char**>(field.value) = text;
+    return;
+  }
 }
 
 // Lets the gateway work, unless the fault says what the answer is.
@@ -157,6 +165,8 @@ HttpReply GatewayService::perform(const Operation& operation, protocol::RequestR
   note(name + sessionForLog(sessionOf(request)) + QStringLiteral(": ") + outcomeForLog(response) +
        faultForLog(fault));
   for (const QString& line : operations.remarks()) unwrittenLog_.append(line);
+  if (fault && fault->kind == FaultKind::Text)
+    replaceText(operation.fields(response), operations.keep(fault->text));
   HttpReply reply{.body = QByteArray::fromStdString(protocol::responseEnvelope(response))};
   return fault ? misbehave(*fault, std::move(reply)) : reply;
 }

@@ -25,8 +25,13 @@ const Account* Operations::accountWithPassword(const std::string& user, const st
   return matches ? found : nullptr;
 }
 
-const char* Operations::keep(const QByteArray& text) {
-  return kept_.emplace_back(text).constData();
+const char* Operations::keep(const QString& text) {
+  QString wire;
+  for (const char32_t each : text.toUcs4()) {
+    const QString character = QString::fromUcs4(&each, 1);
+    wire += fitsCodePage(character) ? QString::fromLatin1(toCodePage(character)) : character;
+  }
+  return kept_.emplace_back(wire.toUtf8()).constData();
 }
 
 ResultCode Operations::endSession(const std::string& token) {
@@ -36,7 +41,7 @@ ResultCode Operations::endSession(const std::string& token) {
 
 void Operations::handle(const protocol::sessionStart& request, protocol::sessionStartResponse& response) {
   if (const Account* owner = accountWithPassword(request.sUser, request.sPassword))
-    response.sSession = keep(state_.sessions.open(owner->user, state_.now()).toLatin1());
+    response.sSession = keep(state_.sessions.open(owner->user, state_.now()));
   else
     response.nErrorCode = numberOf(ResultCode::WrongCredentials);
 }
@@ -50,7 +55,7 @@ void Operations::handle(const protocol::getVersion&, protocol::getVersionRespons
 }
 
 void Operations::handle(const protocol::getNews&, protocol::getNewsResponse& response) {
-  response.sNews = keep(toCodePage(state_.news));
+  response.sNews = keep(state_.news);
 }
 
 }  // namespace parlexo::simulator

@@ -65,13 +65,17 @@ class Operations {
   void handle(const protocol::partnerEndSessionForSubUser& request,
               protocol::partnerEndSessionForSubUserResponse& response);
 
+  /// `text` as a response carries it, in UTF-8; lives as long as this object. What the code page has is sent
+  /// as the character of its byte's number, as requests do; only what it lacks is sent as itself.
+  [[nodiscard]] const char* keep(const QString& text);
+
   /// What a person should read in the log about the operation; empty for most.
   [[nodiscard]] const QStringList& remarks() const { return remarks_; }
 
  private:
   struct Sending {
     ResultCode code = ResultCode::Success;
-    QByteArray receipts;
+    QString receipts;
   };
 
   [[nodiscard]] Session* session(const std::string& token);
@@ -84,8 +88,6 @@ class Operations {
   [[nodiscard]] Sending send(const std::string& token, AcceptedMessage message, const std::string& numbers);
   [[nodiscard]] std::int64_t costOf(const AcceptedMessage& message) const;
   [[nodiscard]] ResultCode endSession(const std::string& token);
-  /// The bytes of `text`, kept until the response has been written.
-  [[nodiscard]] const char* keep(const QByteArray& text);
 
   GatewayState& state_;
   std::deque<QByteArray> kept_;

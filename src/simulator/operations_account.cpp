@@ -1,4 +1,3 @@
-#include "base/code_page.h"
 #include "simulator/email_preferences_fields.h"
 #include "simulator/operations.h"
 
@@ -37,7 +36,7 @@ void Operations::handle(const protocol::setAccountPassword& request,
 void Operations::handle(const protocol::getEmailMessaging& request,
                         protocol::getEmailMessagingResponse& response) {
   if (const Account* owner = account(request.sSession))
-    writePreferences(owner->emailPreferences, response, kept_);
+    writePreferences(owner->emailPreferences, response, *this);
   else
     response.nErrorCode = numberOf(ResultCode::SessionExpired);
 }

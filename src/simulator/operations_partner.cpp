@@ -2,7 +2,6 @@
 #include <array>
 #include <optional>
 
-#include "base/code_page.h"
 #include "simulator/countries.h"
 #include "simulator/email_preferences_fields.h"
 #include "simulator/operations.h"
@@ -108,7 +107,7 @@ void Operations::handle(const protocol::partnerGetCostByPhoneNumber& request,
   } else if (!country || !fillCosts(state_.options.tariff, request.sServiceType, response)) {
     response.nErrorCode = numberOf(ResultCode::UnknownTariff);
   } else {
-    response.sCountry = keep(toCodePage(country->name));
+    response.sCountry = keep(country->name);
     response.sNetworks = "All networks";
   }
 }
@@ -122,7 +121,7 @@ void Operations::handle(const protocol::partnerGetEmailMessaging& request,
   else if (!user)
     response.nErrorCode = numberOf(ResultCode::BadUser);
   else
-    writePreferences(user->emailPreferences, response, kept_);
+    writePreferences(user->emailPreferences, response, *this);
 }
 
 void Operations::handle(const protocol::partnerEditEmailMessaging& request,
@@ -150,7 +149,7 @@ void Operations::handle(const protocol::partnerStartSessionForSubUser& request,
   else if (!user)
     response.nErrorCode = numberOf(ResultCode::BadUser);
   else
-    response.sSession = keep(state_.sessions.open(user->user, state_.now()).toLatin1());
+    response.sSession = keep(state_.sessions.open(user->user, state_.now()));
 }
 
 void Operations::handle(const protocol::partnerEndSessionForSubUser& request,

@@ -4,7 +4,6 @@
 #include <QCryptographicHash>
 #include <QRegularExpression>
 
-#include "base/code_page.h"
 #include "simulator/message_remarks.h"
 #include "simulator/message_text.h"
 #include "simulator/operations.h"
@@ -41,12 +40,12 @@ QStringList splitNumbers(const std::string& list) {
   return list.empty() ? QStringList() : textOf(list).split(u',');
 }
 
-QByteArray joinReceipts(const AcceptedMessage& message) {
+QString joinReceipts(const AcceptedMessage& message) {
   QStringList pairs;
   pairs.reserve(message.numbers.size());
   for (qsizetype i = 0; i < message.numbers.size(); ++i)
     pairs.append(message.numbers[i] + u':' + message.receipts[i]);
-  return toCodePage(pairs.join(u','));
+  return pairs.join(u',');
 }
 
 QString historyNote(const AcceptedMessage& message) {
@@ -221,7 +220,7 @@ void Operations::handle(const protocol::getStatus& request, protocol::getStatusR
   }
   const auto state = state_.outbox.state(owner->user, textOf(request.sReciept), state_.now());
   if (state)
-    response.sStatus = keep(toCodePage(*state));
+    response.sStatus = keep(*state);
   else
     response.nErrorCode = numberOf(ResultCode::UnknownReceipt);
 }

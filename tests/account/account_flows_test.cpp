@@ -123,7 +123,8 @@ TEST_F(EmailPreferencesTest, failedSaveIsToldByWhatFailed) {
 class News : public testing::Test, protected AccountRig {};
 
 TEST_F(News, comeWithoutASessionAndAsTheyWereWritten) {
-  const QString odd = QStringLiteral("<b>50 % off</b> & more\r\n\r\n€ ]]> caf\u00e9 \"quoted\"");
+  const QString odd =
+      QStringLiteral("<b>50 % off</b> & more\r\n\r\n€ ]]> caf\u00e9 \u0100 \U0001F600 \"quoted\"");
   simulator.setNews(odd);
   state.session.clear();
   EXPECT_EQ(fetchNews(gateway), odd);

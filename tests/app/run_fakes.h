@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <functional>
 
 #include <QString>
@@ -114,7 +115,7 @@ class RunTest : public testing::Test {
   RunState state;
   Settings settings{folder.path()};
   DirectCallRunner runner;
-  Gateway gateway{state, runner, {.connect = 5, .silence = 5}};
+  Gateway gateway{state, runner, {.connect = std::chrono::seconds(5), .silence = std::chrono::seconds(5)}};
   JournalNotifier notifier{journal};
   JournalProgress progress{journal};
   JournalStores stores{journal};

@@ -13,7 +13,7 @@ class FakeProxySystem final : public ProxySystem {
  public:
   QString configuredProxy(const QUrl& address, const CancelFlag& /*cancel*/) const override {
     askedFor = address;
-    return configured;
+    return address.host() == excepted ? QString() : configured;
   }
   QUrl scriptAddress(const CancelFlag& /*cancel*/) const override { return script; }
   QString scriptAnswer(const QString& file, const QUrl& /*address*/,
@@ -25,6 +25,7 @@ class FakeProxySystem final : public ProxySystem {
   }
 
   QString configured;
+  QString excepted;  ///< the host that `configured` is not for
   QUrl script;
   QString answer;
   mutable QUrl askedFor;

@@ -10,7 +10,7 @@ namespace parlexo::testing {
 [[nodiscard]] inline GatewayAccess accessTo(std::string endpoint) {
   GatewayAccess access;
   access.endpoint = std::move(endpoint);
-  access.timeouts = {.connect = 5, .silence = 5};
+  access.timeouts = {.connect = std::chrono::seconds(5), .silence = std::chrono::seconds(5)};
   return access;
 }
 

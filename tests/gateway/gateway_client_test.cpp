@@ -1,17 +1,25 @@
 #include "gateway/core/gateway_client.h"
 
+#include <array>
+#include <chrono>
 #include <string>
+#include <thread>
+#include <utility>
+#include <vector>
 
 #include <gtest/gtest.h>
 #include <stdsoap2.h>
 
 #include "base/run_state.h"
+#include "gateway/protocol/client_call.h"
+#include "gateway/protocol/socket_calls.h"
 #include "tests/gateway/fake_gateway.h"
 #include "tests/gateway/gateway_access_for.h"
 
 namespace parlexo {
 namespace {
 
+using namespace std::chrono_literals;
 using testing::accessTo;
 using testing::envelope;
 using testing::FakeGateway;
@@ -51,8 +59,6 @@ TEST(GatewayClient, installsOnlyTheProxyFieldsThatAreWhole) {
     const char* installedHost;
   };
   for (const Case& each : {Case{"u", "p", "h", "u", "h"},
-                           {"u", "p", "", "u", nullptr},
-                           {"", "p", "h", nullptr, "h"},
                            {"u", "", "h", nullptr, "h"},
                            {"", "", "h", nullptr, "h"},
                            {"", "", "", nullptr, nullptr}}) {
@@ -92,6 +98,86 @@ TEST(GatewayClient, cancelledBeforeItBeginsSendsNothing) {
   std::int32_t version = 0;
   EXPECT_NE(queryVersion(client, version), 0);
   EXPECT_EQ(gateway.requestCount(), 0);
+}
+
+/// An address of this machine that leaves connections without an answer, as nothing accepts those in its
+/// queue.
+class SilentAddress {
+ public:
+  explicit SilentAddress(int port) {
+    sockaddr_in address{};
+    address.sin_family = AF_INET;
+    address.sin_port = htons(static_cast<std::uint16_t>(port));
+    address.sin_addr.s_addr = htonl(INADDR_LOOPBACK + 1);
+    addrinfo target{};
+    target.ai_family = AF_INET;
+    target.ai_socktype = SOCK_STREAM;
+    target.ai_addr = reinterpret_cast<sockaddr*>(&address);
+    target.ai_addrlen = sizeof address;
+    for (SOAP_SOCKET& each : sockets_) each = protocol::openSocket(target);
+    EXPECT_EQ(bind(sockets_[0], target.ai_addr, sizeof address) + listen(sockets_[0], 0), 0);
+    for (const SOAP_SOCKET each : {sockets_[1], sockets_[2]})
+      EXPECT_TRUE(protocol::startConnecting(each, target));
+  }
+  ~SilentAddress() {
+    for (const SOAP_SOCKET each : sockets_) soap_closesocket(each);
+  }
+
+ private:
+  std::array<SOAP_SOCKET, 3> sockets_{};
+};
+
+/// A version query to a host with the addresses that `resolve` finds; how long it took.
+std::chrono::milliseconds queryBy(protocol::Resolver resolve, std::chrono::milliseconds nextAddress, int port,
+                                  bool isAnswered) {
+  const protocol::IoPatience patience{
+      .connect = 1s, .nextAddress = nextAddress, .silence = 5s, .resolve = std::move(resolve)};
+  ::soap* context = protocol::newClientContext(patience);
+  const std::string endpoint = "http://gateway.test:" + std::to_string(port) + "/x";
+  const auto start = std::chrono::steady_clock::now();
+  protocol::getVersion request;
+  protocol::getVersionResponse response;
+  EXPECT_EQ(protocol::call(context, endpoint.c_str(), request, response) == 0, isAnswered);
+  protocol::freeContext(context);
+  return std::chrono::duration_cast<std::chrono::milliseconds>(std::chrono::steady_clock::now() - start);
+}
+
+TEST(GatewayClient, triesEveryAddressOfTheHostWithinTheTimeOut) {
+  FakeGateway gateway(versionReply);
+  const SilentAddress silent(gateway.port());
+  const auto found = [](const std::vector<std::string>& addresses) {
+    return [addresses](const std::string& host) {
+      EXPECT_EQ(host, "gateway.test");
+      return addresses;
+    };
+  };
+  const auto beside = queryBy(found({"127.0.0.2", "127.0.0.1"}), 200ms, gateway.port(), true);
+  EXPECT_GE(beside, 200ms);
+  EXPECT_LT(beside, 700ms);
+  EXPECT_LT(queryBy(found({"127.0.0.3", "bad", "127.0.0.1"}), 10s, gateway.port(), true), 700ms);
+  EXPECT_LT(queryBy(found({"127.0.0.1", "127.0.0.2"}), 0s, gateway.port(), true), 700ms);
+  const auto inVain = queryBy(found({"127.0.0.2", "127.0.0.2", "127.0.0.3"}), 100ms, gateway.port(), false);
+  EXPECT_GE(inVain, 1s);
+  EXPECT_LT(inVain, 1500ms);
+  EXPECT_LT(queryBy(found({}), 10s, gateway.port(), false), 700ms);
+  const auto stuck = [](const std::string&) {
+    std::this_thread::sleep_for(3s);
+    return std::vector<std::string>();
+  };
+  EXPECT_LT(queryBy(stuck, 10s, gateway.port(), false), 1500ms);
+}
+
+TEST(GatewayClient, endsWithTheTimeForTheWholeExchange) {
+  for (const auto manner : {FakeGateway::Manner::Silent, FakeGateway::Manner::Drops}) {
+    FakeGateway gateway(versionReply, manner);
+    GatewayAccess access = accessTo(gateway.endpoint());
+    access.timeouts.whole = 300ms;
+    GatewayClient client(access);
+    std::int32_t version = 0;
+    const auto start = std::chrono::steady_clock::now();
+    EXPECT_NE(queryVersion(client, version), 0);
+    EXPECT_LT(std::chrono::steady_clock::now() - start, 1s);
+  }
 }
 
 }  // namespace

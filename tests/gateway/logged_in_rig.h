@@ -96,7 +96,7 @@ class LoggedInRig {
   simulator::Simulator simulator;
   RunState state;
   ImpatientRunner runner;
-  Gateway gateway{state, runner, GatewayTimeouts{2, 1}};
+  Gateway gateway{state, runner, {.connect = std::chrono::seconds(2), .silence = std::chrono::seconds(1)}};
   RecordingNotifier notifier;
 
  private:

@@ -105,8 +105,8 @@ class ProxiedRun : public RunTest {
     return {.password = password, .user = u"mary"_qs, .host = u"127.0.0.1"_qs, .port = proxy.port()};
   }
 
-  bool search() {
-    const QUrl site(simulator.site());
+  bool search() { return search(QUrl(simulator.site())); }
+  bool search(const QUrl& site) {
     const ServerLocator locator(
         site, {.transfer = std::chrono::seconds(5), .retryDelay = std::chrono::milliseconds(1)});
     // Asked for another host, because a proxy is never asked for by settings for one of this machine.
@@ -177,6 +177,30 @@ TEST_F(ProxiedRun, cancelFailsAndKeepsNothing) {
   EXPECT_EQ(journal, asked.first(2));
   EXPECT_EQ(proxy.requests().size(), 1);
   EXPECT_TRUE(state.proxy.host.isEmpty());
+}
+
+TEST_F(ProxiedRun, proxyWithoutALoginCarriesTheCallsThatTheSettingsSendThroughIt) {
+  const std::string locator = testing::httpReply(
+      "<?xml version=\"1.0\"?>\n<server ip=\"gateway.invalid\" port=\"8080\" maxfilesize=\"1\" "
+      "maxfilesizemobile=\"1\">\n<version product=\"client\" version=\"2.24\"/>\n");
+  for (const QString& excepted : {u""_qs, u"gateway.invalid"_qs}) {
+    testing::FakeGateway open(locator);
+    system->configured = u"http=127.0.0.1:%1;socks=127.0.0.1:1"_qs.arg(open.port());
+    system->excepted = excepted;
+    state = {};
+    ASSERT_TRUE(search(QUrl(u"http://www.parlexo.invalid"_qs)));
+    EXPECT_EQ(state.proxy.host.isEmpty(), !excepted.isEmpty());
+    open.setAnswer(testing::httpReply(
+        testing::envelope("<m:getVersionResponse><nVersion>103</nVersion></m:getVersionResponse>")));
+    const auto reply = gateway.call<protocol::getVersionResponse>(
+        [](GatewayClient& client, protocol::getVersionResponse& response) {
+          return client.getVersion(response);
+        });
+    EXPECT_EQ(reply.answered(), excepted.isEmpty());
+    const std::string call = "POST http://gateway.invalid:8080/ccx/onlineCommunication HTTP/1.1\r\n";
+    EXPECT_EQ(open.lastRequest().starts_with(call), excepted.isEmpty());
+  }
+  EXPECT_EQ(journal, Journal()) << "no login was asked for";
 }
 
 TEST_F(ProxiedRun, proxyThatIsGoneFailsTheSearchAndEveryCall) {

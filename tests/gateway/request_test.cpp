@@ -80,10 +80,6 @@ std::vector<RequestCase> requestCases() {
       {"sessionStart",
        calling<protocol::sessionStartResponse>(&GatewayClient::sessionStart, "anna", "a<b>&\"'"),
        text("sUser", "anna") + text("sPassword", "a&lt;b&gt;&amp;\"'")},
-      {"sendSms", calling<protocol::sendSmsResponse>(&GatewayClient::sendSms, "T", "", true, "+1,+2"),
-       text("sSession", "T") + text("sMessage", "") + flag("bFlash", true) +
-           text("sListPhoneNumbers", "+1,+2")},
-      {"getNews", calling<protocol::getNewsResponse>(&GatewayClient::getNews), ""},
       {"sendMms", calling<protocol::sendMmsResponse>(&GatewayClient::sendMms, "T", "d", "a.gif", file, "+1"),
        text("sSession", "T") + text("sDescription", "d") + text("sFileName", "a.gif") +
            "<oData xsi:type=\"xsd:base64Binary\">AP9HSUY=</oData>" + text("sListPhoneNumbers", "+1")},
@@ -92,30 +88,11 @@ std::vector<RequestCase> requestCases() {
                                           "+1"),
        text("sSession", "T") + text("sFileName", "empty") + "<oData xsi:type=\"xsd:base64Binary\"></oData>" +
            text("sListPhoneNumbers", "+1")},
-      {"sendVoice_Text",
-       calling<protocol::sendVoice_TextResponse>(&GatewayClient::sendVoice_Text, "T", "m", true, false, true,
-                                                 "+1"),
-       text("sSession", "T") + text("sMessage", "m") + flag("bPress1Key", true) +
-           flag("bWaitForSilence", false) + flag("bAllowRepeat", true) + text("sListPhoneNumbers", "+1")},
-      {"getStatus", calling<protocol::getStatusResponse>(&GatewayClient::getStatus, "T", "R1"),
-       text("sSession", "T") + text("sReciept", "R1")},
-      {"scheduleMessageEnable",
-       calling<protocol::scheduleMessageEnableResponse>(&GatewayClient::scheduleMessageEnable,
-                                                        "2030/01/02 03:04:05", "T"),
-       text("sDateTimeGmt", "2030/01/02 03:04:05") + text("sSession", "T")},
       {"partnerAddEvent",
        calling<protocol::partnerAddEventResponse>(&GatewayClient::partnerAddEvent, "T", "u", "e", "p", -0.1,
                                                   "d"),
        text("sSession", "T") + text("sUser", "u") + text("sEventType", "e") + text("sPackageType", "p") +
            "<dAmount xsi:type=\"xsd:double\">-0.1</dAmount>" + text("sDescription", "d")},
-      {"partnerEditEmailMessaging",
-       calling<protocol::partnerEditEmailMessagingResponse>(&GatewayClient::partnerEditEmailMessaging, "T",
-                                                            "u", true, "c", false, "1", "2", "3", true, false,
-                                                            true),
-       text("sSession", "T") + text("sUser", "u") + flag("bEmailEnable", true) + text("sEmailCode", "c") +
-           flag("bEmailFilter", false) + text("sEmailFilter1", "1") + text("sEmailFilter2", "2") +
-           text("sEmailFilter3", "3") + flag("bEmailSmsSplit", true) + flag("bEmailEndDoubleLine", false) +
-           flag("bEmailEndStop", true)},
       {"editEmailMessaging",
        calling<protocol::editEmailMessagingResponse>(&GatewayClient::editEmailMessaging, "T", true, "c",
                                                      false, "1", "2", "3", true, false, true),

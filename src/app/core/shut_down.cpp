@@ -5,8 +5,7 @@
 namespace parlexo {
 
 namespace {
-// A gateway that has gone away must not keep the program from ending for minutes.
-constexpr GatewayTimeouts atExit{.connect = 5, .silence = 10};
+constexpr GatewayTimeouts atExit{.whole = timeouts::sessionEnd};
 }  // namespace
 
 void shutDown(const RunState& state, RunStores& stores, Progress& progress, CallRunner& runner) {

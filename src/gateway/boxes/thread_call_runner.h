@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "base/call_runner.h"
+#include "base/timeouts.h"
 
 namespace parlexo {
 
@@ -16,9 +17,9 @@ class ProgressBox;
 class ThreadCallRunner final : public CallRunner {
  public:
   struct Timing {
-    std::chrono::milliseconds untilBox{300};
-    std::chrono::milliseconds untilCancel{10'000};  ///< of exchanges under one box, until it offers Cancel
-    std::chrono::milliseconds afterCancel{2000};    ///< how long a cancelled worker may take to end
+    std::chrono::milliseconds untilBox = timeouts::untilBox;
+    std::chrono::milliseconds untilCancel = timeouts::untilCancel;  ///< of exchanges under one box
+    std::chrono::milliseconds afterCancel = timeouts::afterCancel;  ///< until a worker is left behind
   };
 
   /// `progress` must outlive the runner.

@@ -50,6 +50,7 @@ class DownloadWait {
     take();
     result_.status = reply_.attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
     result_.error = reply_.error();
+    result_.location = reply_.attribute(QNetworkRequest::RedirectionTargetAttribute).toUrl();
     result_.isWhole = result_.error == QNetworkReply::NoError && !givenUp_ && hasAnnouncedLength();
     return std::move(result_);
   }

@@ -4,6 +4,7 @@
 
 #include <QByteArray>
 #include <QNetworkReply>
+#include <QUrl>
 
 #include "base/call_runner.h"
 
@@ -14,9 +15,9 @@ namespace parlexo {
 
 /// How much of a document is read and how long it may take.
 struct DownloadLimits {
-  std::chrono::milliseconds silence{30'000};  ///< longest wait for a connection or the next byte
-  std::chrono::milliseconds whole{90'000};    ///< longest time for all of it
-  qint64 bytes = 64 * 1024;                   ///< a longer document is read up to here
+  std::chrono::milliseconds silence;  ///< longest wait for a connection or the next byte
+  std::chrono::milliseconds whole;    ///< longest time for all of it
+  qint64 bytes;                       ///< a longer document is read up to here
 };
 
 /// What came of one download.
@@ -25,6 +26,7 @@ struct Download {
   QNetworkReply::NetworkError error = QNetworkReply::NoError;
   bool wasSent = false;  ///< the request went out, so a connection had come about
   bool isWhole = false;  ///< the document has arrived to its end or up to the limit
+  QUrl location;         ///< where a redirect points to, perhaps relative; empty when there is none
   QByteArray document;
 };
 

@@ -4,13 +4,11 @@
 #include <string>
 #include <utility>
 
-#include <QString>
-
 #include "base/call_runner.h"
-#include "base/code_page.h"
 #include "base/run_state.h"
 #include "gateway/core/gateway_access.h"
 #include "gateway/core/gateway_client.h"
+#include "gateway/core/wire_text.h"
 
 namespace parlexo {
 
@@ -83,15 +81,5 @@ class Gateway {
   CallRunner& runner_;
   GatewayTimeouts timeouts_;
 };
-
-/// Text as it goes onto the wire: bytes of the code page.
-[[nodiscard]] inline std::string toWire(const QString& text) {
-  return toCodePage(text).toStdString();
-}
-
-/// A response's string as text; a field that was absent reads as empty.
-[[nodiscard]] inline QString fromWire(const char* text) {
-  return fromCodePage(text ? QByteArrayView(text) : QByteArrayView());
-}
 
 }  // namespace parlexo

@@ -1,15 +1,19 @@
 #pragma once
 
+#include <chrono>
+#include <optional>
 #include <string>
 
 #include "base/run_state.h"
+#include "base/timeouts.h"
 
 namespace parlexo {
 
-/// Time-outs of one exchange, in seconds. Tests shorten them here and nowhere else.
+/// Time-outs of one exchange. Tests shorten them here and nowhere else.
 struct GatewayTimeouts {
-  int connect = 30;
-  int silence = 300;  ///< longest wait for the next byte, sending and receiving
+  std::chrono::milliseconds connect = timeouts::connect;  ///< looking up the name and connecting
+  std::chrono::milliseconds silence = timeouts::silence;  ///< longest wait for the next byte
+  std::optional<std::chrono::milliseconds> whole{};       ///< all of the exchange; none for no limit
 };
 
 /// All that one exchange with the gateway needs to know, copied out of the run's state so that the

@@ -38,7 +38,10 @@ std::int64_t shareOf(std::int64_t total, std::size_t part, std::size_t whole) {
 
 GatewayClient::GatewayClient(const GatewayAccess& access)
     : endpoint(access.endpoint.c_str()),
-      patience_{access.timeouts.connect, access.timeouts.silence, nullptr, nullptr} {
+      patience_{.connect = access.timeouts.connect,
+                .nextAddress = timeouts::nextAddress,
+                .silence = access.timeouts.silence},
+      whole_(access.timeouts.whole) {
   soap = protocol::newClientContext(patience_);
   if (soap) installProxy(*soap, access);
 }
@@ -64,6 +67,7 @@ template <class Request, class Response>
 int GatewayClient::call(Request&& request, Response& response) {
   response = Response{};
   if (!soap) return noContext;
+  if (whole_) patience_.deadline = std::chrono::steady_clock::now() + *whole_;
   return protocol::call(soap, endpoint, request, response, &isOutcomeOpen_, &requestLength_);
 }
 

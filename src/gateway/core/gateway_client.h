@@ -1,7 +1,9 @@
 #pragma once
 
 #include <atomic>
+#include <chrono>
 #include <cstddef>
+#include <optional>
 #include <string>
 
 #include "base/call_runner.h"
@@ -119,6 +121,7 @@ class GatewayClient {
   [[nodiscard]] int call(Request&& request, Response& response);
 
   protocol::IoPatience patience_;
+  std::optional<std::chrono::milliseconds> whole_;
   std::atomic<bool> isOutcomeOpen_ = false;
   std::size_t requestLength_ = 0;
 };

@@ -5,8 +5,10 @@
 namespace parlexo {
 
 bool GatewaySearch::run(RunState& state) const {
-  switch (locate(state, parts_.discovery.configured())) {
+  const ProxyAddress configured = parts_.discovery.configured();
+  switch (locate(state, configured)) {
     case ServerLocator::Outcome::Located:
+      if (!configured.isEmpty()) useConfiguredProxy(state);
       return true;
     case ServerLocator::Outcome::ProxyRefusal:
       return logInAndRepeat(state);
@@ -30,6 +32,12 @@ ServerLocator::Outcome GatewaySearch::locate(RunState& state, const ProxyAddress
   if (!ended) return ServerLocator::Outcome::NotLocated;
   state.gateway = attempt->state.gateway;
   return attempt->outcome;
+}
+
+void GatewaySearch::useConfiguredProxy(RunState& state) const {
+  // Asked again: the gateway may be on the local network, which the settings often except.
+  const ProxyAddress proxy = parts_.discovery.configuredFor(QUrl(state.gateway.endpoint));
+  state.proxy = {.password = {}, .user = {}, .host = proxy.host, .port = proxy.port};
 }
 
 bool GatewaySearch::logInAndRepeat(RunState& state) const {

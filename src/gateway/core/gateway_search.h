@@ -40,11 +40,13 @@ class GatewaySearch {
 
   /// True when `state.gateway` is filled. The first download uses the proxy of the system's settings, if
   /// any. When a proxy refuses it, the progress box is hidden, the user is asked once, the answer becomes
-  /// `state.proxy` and the download is repeated under the progress box; a second refusal is a failure.
+  /// `state.proxy` and the download is repeated under the progress box; a second refusal is a failure. When
+  /// it went through without a login, `state.proxy` is what the settings name for the gateway's own address.
   [[nodiscard]] bool run(RunState& state) const;
 
  private:
   [[nodiscard]] ServerLocator::Outcome locate(RunState& state, const ProxyAddress& preconfigured) const;
+  void useConfiguredProxy(RunState& state) const;
   [[nodiscard]] bool logInAndRepeat(RunState& state) const;
 
   Parts parts_;

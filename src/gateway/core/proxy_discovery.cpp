@@ -8,13 +8,14 @@
 #include <QNetworkRequest>
 #include <QTemporaryDir>
 
+#include "base/timeouts.h"
+
 namespace parlexo {
 
 namespace {
 
-using namespace std::chrono_literals;
-
-constexpr DownloadLimits scriptLimits{.silence = 5s, .whole = 10s, .bytes = 1 << 20};
+constexpr DownloadLimits scriptLimits{
+    .silence = timeouts::proxyScriptSilence, .whole = timeouts::proxyScriptWhole, .bytes = 1 << 20};
 
 bool isOnThisMachine(const QString& host) {
   return host == QLatin1String("localhost") || QHostAddress(host).isLoopback();
@@ -49,27 +50,29 @@ QString askScript(const ProxySystem& system, const QUrl& address, const CancelFl
 ProxyDiscovery::ProxyDiscovery(QUrl address, CallRunner& runner, std::shared_ptr<const ProxySystem> system)
     : address_(std::move(address)), runner_(runner), system_(std::move(system)) {}
 
-ProxyAddress ProxyDiscovery::configured() const {
-  if (isOnThisMachine(address_.host())) return {};
-  return run([](const ProxySystem& system, const QUrl& address, const CancelFlag& cancel) {
-    return system.configuredProxy(address, cancel);
-  });
+ProxyAddress ProxyDiscovery::configuredFor(const QUrl& address) const {
+  if (isOnThisMachine(address.host())) return {};
+  const QString list =
+      run(address, [](const ProxySystem& system, const QUrl& wanted, const CancelFlag& cancel) {
+        return system.configuredProxy(wanted, cancel);
+      });
+  return httpProxyIn(list, address.scheme());
 }
 
 ProxyAddress ProxyDiscovery::discover() const {
-  return run([](const ProxySystem& system, const QUrl& address, const CancelFlag& cancel) {
-    const QString configured = system.configuredProxy(address, cancel);
-    return configured.isEmpty() ? askScript(system, address, cancel) : configured;
-  });
+  return parseProxyText(
+      run(address_, [](const ProxySystem& system, const QUrl& address, const CancelFlag& cancel) {
+        const QString configured = system.configuredProxy(address, cancel);
+        return configured.isEmpty() ? askScript(system, address, cancel) : configured;
+      }));
 }
 
-ProxyAddress ProxyDiscovery::run(const Search& search) const {
+QString ProxyDiscovery::run(const QUrl& address, const Search& search) const {
   const auto found = std::make_shared<QString>();
-  const bool ended =
-      runner_.run([search, found, system = system_, address = address_](const CancelFlag& cancel) {
-        *found = search(*system, address, cancel);
-      });
-  return ended && !found->isEmpty() ? parseProxyText(*found) : ProxyAddress();
+  const bool ended = runner_.run([search, found, system = system_, address](const CancelFlag& cancel) {
+    *found = search(*system, address, cancel);
+  });
+  return ended ? *found : QString();
 }
 
 }  // namespace parlexo

@@ -20,9 +20,11 @@ class ProxyDiscovery {
   ProxyDiscovery(QUrl address, CallRunner& runner,
                  std::shared_ptr<const ProxySystem> system = makeProxySystem());
 
-  /// The proxy of the user's settings; empty when they name none. Programs of this machine are reached
+  /// The HTTP proxy of the user's settings; empty when they name none. Programs of this machine are reached
   /// without one, whatever the settings say.
-  [[nodiscard]] ProxyAddress configured() const;
+  [[nodiscard]] ProxyAddress configured() const { return configuredFor(address_); }
+  /// The same for another address: settings may make exceptions for a host or have a proxy for each scheme.
+  [[nodiscard]] ProxyAddress configuredFor(const QUrl& address) const;
   /// The proxy of the settings, otherwise the one that the network's configuration script names. Empty when
   /// neither does, the script can't be had or does not answer with "PROXY ".
   [[nodiscard]] ProxyAddress discover() const;
@@ -30,7 +32,8 @@ class ProxyDiscovery {
  private:
   using Search = std::function<QString(const ProxySystem&, const QUrl& address, const CancelFlag&)>;
 
-  [[nodiscard]] ProxyAddress run(const Search& search) const;
+  /// What `search` finds for `address`; empty when the user gave up waiting.
+  [[nodiscard]] QString run(const QUrl& address, const Search& search) const;
 
   QUrl address_;
   CallRunner& runner_;

@@ -19,6 +19,7 @@
 #include <vector>
 
 #include "base/helper_process.h"
+#include "base/timeouts.h"
 
 namespace {
 
@@ -27,7 +28,6 @@ constexpr int noAnswer = 1;
 constexpr int notUnderstood = 2;
 
 constexpr std::size_t longestAnswer = 4096;
-constexpr unsigned scriptSeconds = 2;
 constexpr std::size_t scriptMemory = 256u << 20;  // bytes
 
 void print(std::string_view answer) {
@@ -84,7 +84,7 @@ int dropMessage(const char* /*format*/, std::va_list /*values*/) {
 
 int tellScriptAnswer(const char* file, const char* address, const char* host) {
   // The script comes from the network: it may use the processor, memory and little else.
-  parlexo::confineHelper(scriptMemory, scriptSeconds);
+  parlexo::confineHelper(scriptMemory, parlexo::timeouts::proxyScriptRun.count());
   pacparser_set_error_printer(dropMessage);
   if (!pacparser_init() || !pacparser_parse_pac_file(file)) return noAnswer;
   const char* answer = pacparser_find_proxy(address, host);

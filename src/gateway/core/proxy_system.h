@@ -7,6 +7,7 @@
 #include <QUrl>
 
 #include "base/call_runner.h"
+#include "base/timeouts.h"
 
 namespace parlexo {
 
@@ -34,6 +35,6 @@ class ProxySystem {
 
 /// The one of this platform. A question that is not answered within `patience` stays open.
 [[nodiscard]] std::shared_ptr<const ProxySystem> makeProxySystem(
-    std::chrono::milliseconds patience = std::chrono::seconds(8));
+    std::chrono::milliseconds patience = timeouts::proxyQuestion);
 
 }  // namespace parlexo

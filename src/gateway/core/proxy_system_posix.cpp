@@ -70,7 +70,7 @@ class PosixProxySystem final : public ProxySystem {
     return QString::fromUtf8(finder.readAllStandardOutput()).split(u'\n', Qt::SkipEmptyParts);
   }
 
-  std::chrono::milliseconds patience_;  // look-ups on a dead network take longer
+  std::chrono::milliseconds patience_;
 };
 
 }  // namespace

@@ -2,6 +2,9 @@
 
 #include <algorithm>
 
+#include <QRegularExpression>
+#include <QUrl>
+
 #include "base/code_page.h"
 #include "gateway/core/leading_number.h"
 
@@ -14,6 +17,16 @@ int firstNumber(const QString& text) {
   return leadingNumber(text.sliced(digit - text.begin()).toLatin1());
 }
 
+ProxyAddress httpProxy(const QString& entry) {
+  constexpr int defaultPort = 80;
+  const QString address = entry.contains(QLatin1String("://")) ? entry : QStringLiteral("http://") + entry;
+  const QUrl proxy(address, QUrl::StrictMode);
+  const int port = proxy.port(defaultPort);
+  const bool isHttp = proxy.isValid() && proxy.scheme() == QLatin1String("http");
+  if (!isHttp || proxy.host().isEmpty() || port == 0) return {};
+  return {proxy.host(), port};
+}
+
 }  // namespace
 
 ProxyAddress parseProxyText(const QString& text) {
@@ -21,6 +34,21 @@ ProxyAddress parseProxyText(const QString& text) {
   const qsizetype colon = proxy.indexOf(u':');
   if (colon < 0) return {proxy, 0};
   return {proxy.first(colon), firstNumber(proxy.sliced(colon))};
+}
+
+ProxyAddress httpProxyIn(const QString& list, const QString& scheme) {
+  static const QRegularExpression separators(QStringLiteral("[;\\s]+"));
+  ProxyAddress forAllSchemes;
+  for (const QString& entry : list.split(separators, Qt::SkipEmptyParts)) {
+    const qsizetype equals = entry.indexOf(u'=');
+    ProxyAddress proxy = httpProxy(entry.sliced(equals + 1));
+    if (equals < 0) {
+      if (forAllSchemes.isEmpty()) forAllSchemes = proxy;
+    } else if (entry.first(equals).compare(scheme, Qt::CaseInsensitive) == 0) {
+      return proxy;
+    }
+  }
+  return forAllSchemes;
 }
 
 QByteArray makeProxyAuthorisation(const QString& user, const QString& password) {

@@ -19,12 +19,18 @@ inline constexpr int textType = 1;
   return context.tag == name ? SOAP_OK : context.error = SOAP_SYNTAX_ERROR;
 }
 
-/// Reads the element at hand, which must be `tag` unless that is null, as text. An element that is nil gives
-/// null; one that is a reference is filled in when the runtime meets what it points to, at the latest at the
-/// message's end.
+/// Whether strings are read as Unicode: a reply's are, a request's are bytes.
+[[nodiscard]] inline bool readsUnicode(const ::soap& context) {
+  return (context.imode & SOAP_C_UTFSTRING) != 0;
+}
+
+/// Reads the element at hand, which must be `tag` unless that is null, as text; where strings are Unicode, as
+/// content that textOfContent() has to decode. An element that is nil gives null; one that is a reference is
+/// filled in when the runtime meets what it points to, at the latest at the message's end.
 [[nodiscard]] inline int readText(::soap& context, const char* tag, char** text) {
   const std::string name = context.tag;
-  if (!soap_instring(&context, tag, text, "", textType, 1, 0, -1, nullptr)) return context.error;
+  const int form = readsUnicode(context) ? 0 : 1;  // the runtime's numbers for content as sent, and for text
+  if (!soap_instring(&context, tag, text, "", textType, form, 0, -1, nullptr)) return context.error;
   return checkEndTag(context, name);
 }
 

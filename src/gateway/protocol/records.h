@@ -7,7 +7,8 @@ namespace parlexo::protocol {
 
 /// What travels between client and gateway: for every operation a request record, named after the operation,
 /// and a response record. Members have the names and the order of the wire, where the first letter tells the
-/// type, so the misspellings are the service's own. Text is bytes, one character each.
+/// type, so the misspellings are the service's own. The text of a request is bytes, one character each; that
+/// of a response is UTF-8.
 
 /// A file's content. The bytes are not owned: in a request to send they are the caller's, in a received one
 /// the reader's.

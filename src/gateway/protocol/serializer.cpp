@@ -7,6 +7,7 @@
 
 #include "gateway/protocol/element_reading.h"
 #include "gateway/protocol/field_text.h"
+#include "gateway/protocol/xml_text.h"
 
 namespace parlexo::protocol {
 
@@ -114,7 +115,7 @@ bool assign(void* member, const std::optional<Value>& value) {
   return value.has_value();
 }
 
-bool takeBinary(::soap& context, const char* text, BinaryData& value) {
+bool readBinary(::soap& context, std::string_view text, BinaryData& value) {
   const auto bytes = fromBase64(text);
   if (!bytes) return false;
   auto* kept = static_cast<unsigned char*>(soap_malloc(&context, bytes->size() + 1));
@@ -124,27 +125,55 @@ bool takeBinary(::soap& context, const char* text, BinaryData& value) {
   return true;
 }
 
-/// Takes a field's text into the record; false when it is not of the field's type.
-bool take(::soap& context, const ReceivedField& received) {
-  const Field& field = *received.field;
-  if (!received.text) return field.type != FieldType::Integer;
+/// The copy belongs to the context; false when there is no memory for it.
+bool assignBorrowed(::soap& context, void* member, const std::string& text) {
+  const char* copy = soap_strdup(&context, text.c_str());
+  *static_cast<const char**>(member) = copy;
+  return copy != nullptr;
+}
+
+/// Reads a field's text into the record; false when it is not of the field's type.
+bool readValue(::soap& context, const Field& field, const std::string& text) {
   switch (field.type) {
     case FieldType::Text:
-      *static_cast<std::string*>(field.value) = received.text;
+      *static_cast<std::string*>(field.value) = text;
       return true;
     case FieldType::BorrowedText:
-      *static_cast<const char**>(field.value) = received.text;
-      return true;
+      return assignBorrowed(context, field.value, text);
     case FieldType::Integer:
-      return assign(field.value, integerFromText(received.text));
+      return assign(field.value, integerFromText(text));
     case FieldType::Real:
-      return assign(field.value, realFromText(received.text));
+      return assign(field.value, realFromText(text));
     case FieldType::Boolean:
-      return assign(field.value, booleanFromText(received.text));
+      return assign(field.value, booleanFromText(text));
     case FieldType::Binary:
-      return takeBinary(context, received.text, *static_cast<BinaryData*>(field.value));
+      return readBinary(context, text, *static_cast<BinaryData*>(field.value));
   }
   return false;
+}
+
+bool readValue(::soap& context, const ReceivedField& received) {
+  const Field& field = *received.field;
+  return readsUnicode(context) ? readValue(context, field, textOfContent(received.text))
+                               : readValue(context, field, received.text);
+}
+
+/// A reply's numbers may only be absent when its code says that the gateway refused: read as 0, a missing
+/// balance would look like an empty account.
+bool hasItsNumbers(const ReceivedFields& received) {
+  const auto lacksCode = [](const ReceivedField& each) {
+    return !each.text && each.field->type == FieldType::Integer;
+  };
+  const auto reportsSuccess = [](const ReceivedField& each) {
+    return each.field->type == FieldType::Integer &&
+           *static_cast<const std::int32_t*>(each.field->value) == 0;
+  };
+  const auto lacksNumber = [](const ReceivedField& each) {
+    return !each.text && each.field->type == FieldType::Real;
+  };
+  if (std::any_of(received.begin(), received.end(), lacksCode)) return false;
+  return std::none_of(received.begin(), received.end(), reportsSuccess) ||
+         std::none_of(received.begin(), received.end(), lacksNumber);
 }
 
 }  // namespace
@@ -199,9 +228,9 @@ int readRecord(::soap& context, const std::string& element, const Fields& fields
   for (const Field& field : fields) received.push_back({&field});
   if (readMessage(context, element, received)) return context.error;
   for (const ReceivedField& each : received) {
-    if (!take(context, each)) return context.error = each.text ? SOAP_TYPE : SOAP_OCCURS;
+    if (each.text && !readValue(context, each)) return context.error = SOAP_TYPE;
   }
-  return SOAP_OK;
+  return hasItsNumbers(received) ? SOAP_OK : context.error = SOAP_OCCURS;
 }
 
 }  // namespace parlexo::protocol

@@ -29,8 +29,9 @@ void setEncodingStyle(::soap& context);
 
 /// From the body's first element on: reads that element, which must be the given one, and all up to the end
 /// of the message. Fields may come in any order and as references to elements behind the first; unknown ones
-/// are passed over and the first of two counts. An absent whole number is an error, as every answer has its
-/// code. Returns the runtime's result; the record is whole only when that is 0.
+/// are passed over and the first of two counts. A record with a code or a version must have it; where
+/// the code is 0 its other numbers must not be absent either. Returns the runtime's result; the record is
+/// whole only when that is 0.
 [[nodiscard]] int readRecord(::soap& context, const std::string& element, const Fields& fields);
 
 }  // namespace parlexo::protocol

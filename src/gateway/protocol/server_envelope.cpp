@@ -26,7 +26,7 @@ std::string written(Write write) {
   context->os = &envelope;
   setEncodingStyle(*context);
   soap_begin(context.get());
-  soap_set_omode(context.get(), SOAP_ENC_PLAIN);
+  soap_set_omode(context.get(), SOAP_ENC_PLAIN | SOAP_C_UTFSTRING);
   if (soap_begin_send(context.get()) || write(*context) || soap_end_send(context.get())) return {};
   return envelope.str();
 }

@@ -47,16 +47,16 @@ class RequestReader {
 /// The envelope that answers with `fields`; `operation` is the name without "Response".
 [[nodiscard]] std::string responseEnvelope(std::string_view operation, const Fields& fields);
 
-/// The envelope that answers with a response record. Null strings are left out. Characters that XML cannot
-/// carry become "?".
+/// The envelope that answers with a response record, whose strings are UTF-8. Null strings are left out.
+/// Characters that XML cannot carry become "?".
 template <class Response>
 [[nodiscard]] std::string responseEnvelope(Response response) {
   const auto& operation = operationWith<Response>();
   return responseEnvelope(operation.name, operation.fields(response));
 }
 
-/// The envelope of a SOAP 1.1 fault; `code` is a qualified name like "SOAP-ENV:Server", an empty `detail` is
-/// left out.
+/// The envelope of a SOAP 1.1 fault, in UTF-8; `code` is a qualified name like "SOAP-ENV:Server", an empty
+/// `detail` is left out.
 [[nodiscard]] std::string faultEnvelope(std::string_view code, std::string_view text,
                                         std::string_view detail = {});
 

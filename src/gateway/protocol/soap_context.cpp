@@ -29,6 +29,8 @@ constexpr unsigned deepestNesting = 64;
   ::soap* context = newStreamContext();
   if (!context) return nullptr;
   context->recv_maxlength = longestReply;
+  // Requests are bytes with one character each; replies may hold any character.
+  soap_set_imode(context, SOAP_C_UTFSTRING);
   installSocketIo(*context, patience);
   return context;
 }

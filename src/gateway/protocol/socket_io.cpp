@@ -1,12 +1,12 @@
 #include "gateway/protocol/socket_io.h"
 
+#include <algorithm>
 #include <chrono>
-#include <memory>
-#include <string>
 
 #include <stdsoap2.h>
 
 #include "gateway/protocol/socket_calls.h"
+#include "gateway/protocol/socket_connect.h"
 
 namespace parlexo::protocol {
 
@@ -14,19 +14,8 @@ namespace {
 
 using Clock = std::chrono::steady_clock;
 
-constexpr std::chrono::milliseconds waitingSlice{50};
-
-struct AddressListDeleter {
-  void operator()(addrinfo* list) const { freeaddrinfo(list); }
-};
-using AddressList = std::unique_ptr<addrinfo, AddressListDeleter>;
-
 const IoPatience& patienceOf(const ::soap* context) {
   return *static_cast<const IoPatience*>(context->user);
-}
-
-bool isCancelled(const IoPatience& patience) {
-  return patience.isCancelled && patience.isCancelled();
 }
 
 /// Waits until the socket is ready or has failed, which the next call on it then tells. False when the
@@ -35,53 +24,26 @@ bool waitFor(SOAP_SOCKET socket, Direction direction, Clock::time_point deadline
              const IoPatience& patience) {
   // Without an address the runtime writes to a connection that was never opened; it would be waited for.
   if (!soap_valid_socket(socket)) return false;
-  while (!isCancelled(patience)) {
+  while (!isCancelled(patience) && Clock::now() < deadline) {
     const int ready = waitForSocket(socket, direction, waitingSlice);
     if (ready != 0) return ready > 0;
-    if (Clock::now() >= deadline) return false;
   }
   return false;
 }
 
 Clock::time_point silenceDeadline(const IoPatience& patience) {
-  return Clock::now() + std::chrono::seconds(patience.silenceSeconds);
-}
-
-AddressList lookUp(const char* host, int port) {
-  prepareSockets();
-  addrinfo hints{};
-  hints.ai_family = AF_UNSPEC;
-  hints.ai_socktype = SOCK_STREAM;
-  addrinfo* found = nullptr;
-  if (getaddrinfo(host, std::to_string(port).c_str(), &hints, &found) != 0) return nullptr;
-  return AddressList(found);
-}
-
-/// A connected socket that never blocks, or SOAP_INVALID_SOCKET.
-SOAP_SOCKET connectTo(const addrinfo& address, Clock::time_point deadline, const IoPatience& patience) {
-  const SOAP_SOCKET socket = openSocket(address);
-  if (!soap_valid_socket(socket)) return socket;
-  if (startConnecting(socket, address) && waitFor(socket, Direction::Sending, deadline, patience) &&
-      hasConnected(socket)) {
-    tuneForRequests(socket);
-    return socket;
-  }
-  soap_closesocket(socket);
-  return SOAP_INVALID_SOCKET;
+  return std::min(Clock::now() + patience.silence, patience.deadline);
 }
 
 SOAP_SOCKET openConnection(::soap* context, const char* /*endpoint*/, const char* host, int port) {
-  const IoPatience& patience = patienceOf(context);
-  const auto deadline = Clock::now() + std::chrono::seconds(patience.connectSeconds);
   const bool throughProxy = context->proxy_host != nullptr;
-  const AddressList addresses =
-      lookUp(throughProxy ? context->proxy_host : host, throughProxy ? context->proxy_port : port);
-  for (const addrinfo* each = addresses.get(); each && !isCancelled(patience); each = each->ai_next) {
-    const SOAP_SOCKET socket = connectTo(*each, deadline, patience);
-    if (soap_valid_socket(socket)) return socket;
-  }
-  context->error = SOAP_TCP_ERROR;
-  return SOAP_INVALID_SOCKET;
+  const SOAP_SOCKET socket = connectToHost(throughProxy ? context->proxy_host : host,
+                                           throughProxy ? context->proxy_port : port, patienceOf(context));
+  if (soap_valid_socket(socket))
+    tuneForRequests(socket);
+  else
+    context->error = SOAP_TCP_ERROR;
+  return socket;
 }
 
 int sendBytes(::soap* context, const char* bytes, std::size_t count) {

@@ -7,13 +7,14 @@
 #include <QProcess>
 
 #include "base/helper_program.h"
+#include "base/timeouts.h"
 
 namespace parlexo {
 namespace {
 
 constexpr qint64 largestDocument = 64 << 20;  // bytes
 constexpr qint64 pdfMarkRange = 1024;         // where readers look for the mark of a PDF
-constexpr std::chrono::milliseconds patience = std::chrono::seconds(10);
+constexpr std::chrono::milliseconds patience = timeouts::pageCount;
 
 /// What the page counter calls the kind of document that begins with `start`; empty for what it doesn't know.
 QString documentKind(const QByteArray& start) {
