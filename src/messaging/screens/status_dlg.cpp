@@ -120,6 +120,7 @@ void CStatusDlg::showCount(const QString& remark) {
 void CStatusDlg::getStatus() {
   if (isAsking_) return;
   const QScopedValueRollback guard(isAsking_, true);
+  showCount({});
   QStringList receipts;
   for (const int row : list_->selectedRecords()) receipts.append(model_.entryAt(row).receipt);
   const auto outcome = StatusQueryFlow(services_).query(receipts, [this](const StatusEntry& entry) {
