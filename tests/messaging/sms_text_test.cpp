@@ -69,15 +69,6 @@ TEST(SmsText, overlongStandardTextLosesItsEnd) {
   }
 }
 
-TEST(SmsText, overlongUnicodeTextIsDroppedWhole) {
-  const SmsComposition composition = composeSms(repeated(336), unicode);
-  EXPECT_TRUE(composition.tooLong);
-  EXPECT_EQ(composition.editorText, QString());
-  EXPECT_EQ(composition.transmitText, QString());
-  EXPECT_EQ(composition.totalSms, 1);
-  EXPECT_EQ(composition.remaining, 335);
-}
-
 TEST(SmsText, unicodeTravelsAsPrefixAndHexadecimalUnits) {
   const std::pair<QString, const char*> samples[] = {
       {QStringLiteral("Hi"), "%%UNICODE%%00480069"},

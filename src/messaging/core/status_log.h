@@ -3,6 +3,7 @@
 #include <unordered_map>
 #include <vector>
 
+#include <QHash>
 #include <QString>
 
 namespace parlexo {
