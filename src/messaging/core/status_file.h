@@ -52,7 +52,8 @@ class StatusFile {
   /// replaced it is kept under a numbered ".bad" name, of which there are at most ten.
   ///
   /// Returns false when another program holds the lock or a file could not be written. The old
-  /// file, or its ".bad" name, is then still there, and the log stays modified so that the next save tries again.
+  /// file, or its ".bad" name, is then still there, and the log stays modified so that the next save tries
+  /// again.
   bool save(StatusLog& log, IfLocked ifLocked = IfLocked::Defer);
 
   [[nodiscard]] const QString& path() const { return path_; }
