@@ -22,8 +22,8 @@ struct StatusDocument {
 /// UTF-8, one line per entry, values as they are.
 [[nodiscard]] QByteArray writeStatusDocument(const std::vector<StatusEntry>& entries);
 
-/// Reads `text` as XML. Of the children of the root the first `mostElements` are read, whatever their names.
-/// Control characters that XML forbids are left out without being a fault. A text with another fault
+/// Reads `text` as XML. Of the children of the root the first `mostElements` are read, regardless of their
+/// names. Control characters that XML forbids are left out without being a fault. A text with another fault
 /// yields the entries of all lines that can be read on their own.
 [[nodiscard]] StatusDocument readStatusDocument(const QByteArray& text, int mostElements);
 
