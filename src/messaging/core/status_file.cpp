@@ -16,6 +16,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QHash>
+#include <QList>
 #include <QRegularExpression>
 #include <QSaveFile>
 
@@ -62,16 +63,29 @@ void removeOldest(std::map<int, QString> files) {
   for (; files.size() > keptBadFiles; files.erase(files.begin())) QFile::remove(files.begin()->second);
 }
 
-// A copy, so that the file is still there when the disk has no room for its replacement. One that
-// can't be read can only be renamed.
-bool keepAsBad(const QString& path) {
+// Compares the lines in any order: two saves of the same entries may write them in different orders.
+bool holdsSameLines(const QString& path, const QByteArray& bytes) {
+  QFile file(path);
+  if (file.size() != bytes.size() || !file.open(QIODevice::ReadOnly)) return false;
+  const auto sortedLines = [](const QByteArray& text) {
+    QList<QByteArray> lines = text.split('\n');
+    std::sort(lines.begin(), lines.end());
+    return lines;
+  };
+  return sortedLines(file.readAll()) == sortedLines(bytes);
+}
+
+// A copy, so that the file is still there when the disk has no room for its replacement. One that can't be
+// read can only be renamed. A status with a quotation mark makes a file that is rejected at every start: that
+// must not push copies of other files out.
+bool keepAsBad(const QString& path, const StatusFile::FileContent& content) {
   const QFileInfo file(path);
+  const bool isRead = content.error.isEmpty();
   std::map<int, QString> files = badFiles(file);
+  if (isRead && !files.empty() && holdsSameLines(files.rbegin()->second, content.bytes)) return true;
   const int number = files.empty() ? 1 : files.rbegin()->first + 1;
   const QString kept = QStringLiteral("%1.%2.bad").arg(path).arg(number);
-  const bool isKept =
-      QFile(path).open(QIODevice::ReadOnly) ? QFile::copy(path, kept) : QFile::rename(path, kept);
-  if (!isKept) return false;
+  if (!(isRead ? QFile::copy(path, kept) : QFile::rename(path, kept))) return false;
   files.emplace(number, kept);
   removeOldest(std::move(files));
   return true;
@@ -184,7 +198,7 @@ bool StatusFile::mergeAndKeepRejected(StatusLog& log, const FileContent& content
   const bool isRejected = !content.error.isEmpty() || !mergeDocument(log, content.bytes) ||
                           (!rejected_.isEmpty() && content.bytes == rejected_);
   if (!isRejected) return true;
-  if (!keepAsBad(path_)) return false;
+  if (!keepAsBad(path_, content)) return false;
   rejected_.clear();
   return true;
 }
