@@ -5,7 +5,7 @@
 #include <utility>
 
 #include <QStringDecoder>
-#include <QStringList>
+#include <QStringTokenizer>
 #include <QXmlStreamReader>
 
 namespace parlexo {
@@ -14,6 +14,8 @@ namespace {
 constexpr char16_t entryElement[] = u"Message";
 constexpr char rootStart[] = "<Status>";
 constexpr char rootEnd[] = "</Status>";
+constexpr int deepestElement = 100;
+constexpr char16_t entryStart[] = u"<Message";
 constexpr char16_t receiptEnd[] = u"</Message>";
 
 // The attributes in the order in which they are written, each with the text before its value.
@@ -27,6 +29,20 @@ constexpr std::array writtenFields = {
     WrittenField{&StatusEntry::receipt, "\">"},
 };
 
+// Limits the depth, as the parser keeps more than a hundred bytes for each open element. readElementText()
+// would even call itself for each and overflow the stack.
+QString readTextOfElement(QXmlStreamReader& xml) {
+  QString text;
+  for (int depth = 1; depth > 0 && !xml.hasError();) {
+    xml.readNext();
+    if (xml.isStartElement()) ++depth;
+    if (xml.isEndElement()) --depth;
+    if (xml.isCharacters() || xml.isEntityReference()) text += xml.text();
+    if (depth > deepestElement) xml.raiseError(QStringLiteral("The elements are nested too deeply."));
+  }
+  return text;
+}
+
 StatusEntry entryOfElement(QXmlStreamReader& xml) {
   const QXmlStreamAttributes attributes = xml.attributes();
   StatusEntry entry;
@@ -34,7 +50,7 @@ StatusEntry entryOfElement(QXmlStreamReader& xml) {
   entry.phone = attributes.value(QLatin1String("Phone")).toString();
   entry.type = attributes.value(QLatin1String("Type")).toString();
   entry.status = attributes.value(QLatin1String("Status")).toString();
-  entry.receipt = xml.readElementText(QXmlStreamReader::IncludeChildElements);
+  entry.receipt = readTextOfElement(xml);
   return entry;
 }
 
@@ -49,7 +65,7 @@ std::vector<StatusEntry> entriesOfRoot(QXmlStreamReader& xml, int mostElements) 
     if (isEntry)
       entries.push_back(entryOfElement(xml));
     else
-      xml.skipCurrentElement();
+      readTextOfElement(xml);
   }
   while (!xml.atEnd()) xml.readNext();
   return entries;
@@ -60,18 +76,21 @@ QString faultOf(const QXmlStreamReader& xml) {
       .arg(xml.errorString(), QString::number(xml.lineNumber()), QString::number(xml.columnNumber()));
 }
 
-struct DecodedLines {
-  QStringList lines;  ///< without control characters
-  bool isExact;       ///< whether every byte could be decoded
+struct DecodedText {
+  QString text;  ///< without control characters but for the line feeds
+  bool isExact;  ///< whether every byte could be decoded
 };
 
 // UTF-8 unless a byte-order mark or the first character says otherwise.
-DecodedLines decodedLines(const QByteArray& text) {
-  QStringDecoder decode(QStringConverter::encodingForData(text, u'<').value_or(QStringConverter::Utf8));
-  const QString decoded = decode(text);
-  QStringList lines = decoded.split(u'\n');
-  for (QString& line : lines) line = withoutControlCharacters(line);
-  return {lines, !decode.hasError()};
+DecodedText decodedText(const QByteArray& bytes) {
+  QStringDecoder decode(QStringConverter::encodingForData(bytes, u'<').value_or(QStringConverter::Utf8));
+  const QString decoded = decode(bytes);
+  QString text;
+  text.reserve(decoded.size() + 1);
+  for (const QStringView line : qTokenize(decoded, u'\n'))
+    text += withoutControlCharacters(line.toString()) + u'\n';
+  text.chop(1);
+  return {text, !decode.hasError()};
 }
 
 // Where the text before each field's value begins and ends. Each is searched from the left but the last one:
@@ -94,8 +113,8 @@ std::optional<StatusEntry> entryOfOwnLine(QStringView line) {
   return entry;
 }
 
-std::optional<StatusEntry> entryOfXmlLine(const QString& line) {
-  QXmlStreamReader xml(line);
+std::optional<StatusEntry> entryOfXmlLine(QStringView line) {
+  QXmlStreamReader xml(line.toString());
   if (!xml.readNextStartElement() || xml.name() != entryElement) return std::nullopt;
   StatusEntry entry = entryOfElement(xml);
   while (!xml.atEnd()) xml.readNext();
@@ -104,12 +123,14 @@ std::optional<StatusEntry> entryOfXmlLine(const QString& line) {
 }
 
 // As XML where that works, so that an entry reads as it would in a document without a fault.
-std::vector<StatusEntry> entriesOfReadableLines(const QStringList& lines, int mostElements) {
+std::vector<StatusEntry> entriesOfReadableLines(const QString& text, int mostElements) {
   std::vector<StatusEntry> entries;
-  for (const QString& line : lines) {
+  for (const QStringView whole : qTokenize(text, u'\n')) {
     if (entries.size() == static_cast<std::size_t>(mostElements)) break;
+    const QStringView line = whole.trimmed();
+    if (!line.startsWith(entryStart)) continue;
     std::optional<StatusEntry> entry = entryOfXmlLine(line);
-    if (!entry) entry = entryOfOwnLine(QStringView(line).trimmed());
+    if (!entry) entry = entryOfOwnLine(line);
     if (entry) entries.push_back(std::move(*entry));
   }
   return entries;
@@ -133,11 +154,11 @@ StatusDocument readStatusDocument(const QByteArray& text, int mostElements) {
   QXmlStreamReader asItIs(text);
   StatusDocument document{entriesOfRoot(asItIs, mostElements), {}};
   if (!asItIs.hasError()) return document;
-  const auto [lines, isExact] = decodedLines(text);
-  QXmlStreamReader cleaned(lines.join(u'\n'));
+  const auto [decoded, isExact] = decodedText(text);
+  QXmlStreamReader cleaned(decoded);
   document.entries = entriesOfRoot(cleaned, mostElements);
   if (isExact && !cleaned.hasError()) return document;
-  document.entries = entriesOfReadableLines(lines, mostElements);
+  document.entries = entriesOfReadableLines(decoded, mostElements);
   document.fault = faultOf(isExact ? cleaned : asItIs);
   return document;
 }

@@ -130,10 +130,15 @@ std::vector<StatusEntry> entriesToWrite(const StatusLog& log) {
   return entries;
 }
 
+// Nothing when there is no file. A pipe or a device is not opened, as reading it might never end.
 std::optional<StatusFile::FileContent> readContent(const QString& path) {
-  if (!QFileInfo::exists(path)) return std::nullopt;
+  const QFileInfo info(path);
+  if (!info.exists()) return std::nullopt;
+  if (!info.isFile()) return StatusFile::FileContent{{}, QStringLiteral("It is not a file.")};
   QFile file(path);
   if (!file.open(QIODevice::ReadOnly)) return StatusFile::FileContent{{}, file.errorString()};
+  if (file.size() > StatusFile::mostBytes)
+    return StatusFile::FileContent{{}, QStringLiteral("It is larger than 32 MB.")};
   const QByteArray bytes = file.readAll();
   if (file.error() != QFileDevice::NoError) return StatusFile::FileContent{{}, file.errorString()};
   return StatusFile::FileContent{bytes, {}};

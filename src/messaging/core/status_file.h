@@ -20,6 +20,8 @@ class StatusFile {
   /// load() reads this many child elements; save(), checking after the fact, writes one more.
   static constexpr int elementsRead = 1000;
   static constexpr int entriesWritten = 1001;
+  /// A larger file counts as one that can't be read: a hundred times the size of a full log.
+  static constexpr qint64 mostBytes = 32 * 1024 * 1024;
 
   /// What save() does when another program keeps the lock for too long.
   enum class IfLocked {
