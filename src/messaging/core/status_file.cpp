@@ -100,10 +100,24 @@ QString recoveryText(std::size_t count) {
                     : QStringLiteral("%1 entries were brought back.").arg(count);
 }
 
-// The newest entries first. Those of the same second go by receipt, so that all programs choose the same.
+// Orders entries by age. Those of the same second go by receipt, so that all programs choose the same.
+struct Age {
+  std::time_t instant;
+  QStringView receipt;
+
+  bool operator<(const Age& other) const {
+    return instant != other.instant ? instant < other.instant : receipt < other.receipt;
+  }
+};
+
+Age ageOf(const StatusEntry& entry) {
+  return {statusInstant(entry.date), entry.receipt};
+}
+
+// The newest entries first.
 std::vector<StatusEntry> newestEntries(const StatusLog& log, std::size_t count) {
   struct Row {
-    std::time_t instant;
+    Age age;
     const StatusEntry* entry;
   };
   std::vector<Row> rows;
@@ -111,12 +125,10 @@ std::vector<StatusEntry> newestEntries(const StatusLog& log, std::size_t count) 
   QHash<QString, std::time_t> instants;  // the recipients of a message have one date, and mktime() is slow
   for (const auto& [receipt, entry] : log.entries()) {
     if (!instants.contains(entry.date)) instants.insert(entry.date, statusInstant(entry.date));
-    rows.push_back({instants.value(entry.date), &entry});
+    rows.push_back({{instants.value(entry.date), receipt}, &entry});
   }
   const auto end = rows.begin() + static_cast<std::ptrdiff_t>(std::min(rows.size(), count));
-  std::partial_sort(rows.begin(), end, rows.end(), [](const Row& a, const Row& b) {
-    return a.instant != b.instant ? a.instant > b.instant : a.entry->receipt > b.entry->receipt;
-  });
+  std::partial_sort(rows.begin(), end, rows.end(), [](const Row& a, const Row& b) { return b.age < a.age; });
   std::vector<StatusEntry> entries;
   std::transform(rows.begin(), end, std::back_inserter(entries), [](const Row& row) { return *row.entry; });
   return entries;
@@ -152,16 +164,20 @@ std::optional<StatusFile::FileContent> readUnderLock(const QString& path,
   return readContent(path);
 }
 
+// Of an entry that is missing in a file with the entries `present`. A full file, whose last entry is its
+// oldest, has no room for older ones: these were not deleted.
+bool hadRoomFor(const StatusEntry& missing, const std::vector<StatusEntry>& present) {
+  return present.size() < StatusFile::entriesWritten || !(ageOf(missing) < ageOf(present.back()));
+}
+
 // False when the document has a fault: an entry that is missing in it may not have been deleted.
 bool mergeDocument(StatusLog& log, const QByteArray& bytes) {
-  if (auto entries = readOwnStatusDocument(bytes)) {
-    log.merge(std::move(*entries), StatusLog::MissingEntries::Deleted);
-    return true;
-  }
-  StatusDocument document = readStatusDocument(bytes, std::numeric_limits<int>::max());
+  auto own = readOwnStatusDocument(bytes);
+  const StatusDocument document =
+      own ? StatusDocument{std::move(*own), {}} : readStatusDocument(bytes, std::numeric_limits<int>::max());
   const bool isWhole = document.fault.isEmpty();
-  log.merge(std::move(document.entries),
-            isWhole ? StatusLog::MissingEntries::Deleted : StatusLog::MissingEntries::Unknown);
+  log.merge(document.entries,
+            [&](const StatusEntry& missing) { return isWhole && hadRoomFor(missing, document.entries); });
   return isWhole;
 }
 

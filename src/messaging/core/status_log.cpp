@@ -77,14 +77,12 @@ void StatusLog::load(std::vector<StatusEntry> fileEntries) {
   savedRevision_ = ++revision_;
 }
 
-void StatusLog::merge(std::vector<StatusEntry> fileEntries, MissingEntries missing) {
+void StatusLog::merge(std::vector<StatusEntry> fileEntries, const IsDeleted& isDeleted) {
   Entries inFile = byReceipt(std::move(fileEntries));
-  bool isChanged = false;
-  if (missing == MissingEntries::Deleted) {
-    isChanged = std::erase_if(entries_, [&](const auto& own) {
-                  return inFile_.contains(own.first) && !inFile.contains(own.first);
-                }) > 0;
-  }
+  bool isChanged =
+      std::erase_if(entries_, [&](const auto& own) {
+        return inFile_.contains(own.first) && !inFile.contains(own.first) && isDeleted(own.second);
+      }) > 0;
   for (const auto& [receipt, entry] : inFile) {
     const auto own = entries_.find(receipt);
     const bool takesFiles = own == entries_.end() ? !inFile_.contains(receipt) : !isChangedHere(own->second);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <unordered_map>
 #include <vector>
 
@@ -34,11 +35,9 @@ class StatusLog {
   /// Keyed by receipt, compared byte by byte; in no order of time.
   using Entries = std::unordered_map<QString, StatusEntry>;
 
-  /// How merge() treats an entry that the file held before and no longer holds.
-  enum class MissingEntries {
-    Deleted,  ///< the file was read completely: another program has deleted the entry
-    Unknown,  ///< parts of the file could not be read: the entry is kept
-  };
+  /// Decides about an entry that the file held before and no longer holds: true when another program has
+  /// deleted it.
+  using IsDeleted = std::function<bool(const StatusEntry&)>;
 
   /// Adds an entry. One that has the same receipt is replaced, so that several failed recipients whose
   /// receipt reads "FAIL" leave the last of them.
@@ -53,9 +52,9 @@ class StatusLog {
   void load(std::vector<StatusEntry> fileEntries);
 
   /// Takes in what other programs have changed in the file since it was last read or written here:
-  /// entries that are new in the file are added; entries that the file held before and that are `missing`
-  /// now are removed; of an entry in both, the version changed here wins, otherwise the file's.
-  void merge(std::vector<StatusEntry> fileEntries, MissingEntries missing);
+  /// entries that are new in the file are added; entries that `isDeleted` says were deleted are removed; of
+  /// an entry in both, the version changed here wins, otherwise the file's.
+  void merge(std::vector<StatusEntry> fileEntries, const IsDeleted& isDeleted);
 
   [[nodiscard]] const Entries& entries() const { return entries_; }
 
