@@ -193,6 +193,11 @@ TEST_F(CancelOffer, isMadeWhileShortExchangesFollowEachOtherAsEarlyAsAsked) {
   for (int i = 0; i < 100 && !button(); ++i)
     EXPECT_TRUE(usual.run([](const CancelFlag&) { std::this_thread::sleep_for(5ms); }));
   EXPECT_TRUE(button());
+  progress_.hide();
+  progress_.show();
+  for (int i = 0; i < 3; ++i)
+    EXPECT_TRUE(usual.run([](const CancelFlag&) { std::this_thread::sleep_for(40ms); }));
+  EXPECT_FALSE(button()) << "the next box does not inherit the shorter wait";
 }
 
 TEST_F(ThreadCallRunnerTest, cancelledExchangeThatHangsIsLeftBehindWithWhatItOwns) {
