@@ -66,7 +66,8 @@ void removeOldest(std::map<int, QString> files) {
 // Compares the lines in any order: two saves of the same entries may write them in different orders.
 bool holdsSameLines(const QString& path, const QByteArray& bytes) {
   QFile file(path);
-  if (file.size() != bytes.size() || !file.open(QIODevice::ReadOnly)) return false;
+  const bool mayBeSame = QFileInfo(path).isFile() && file.size() == bytes.size();
+  if (!mayBeSame || !file.open(QIODevice::ReadOnly)) return false;
   const auto sortedLines = [](const QByteArray& text) {
     QList<QByteArray> lines = text.split('\n');
     std::sort(lines.begin(), lines.end());
