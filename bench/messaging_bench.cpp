@@ -1,13 +1,16 @@
 // What the user of the send and status pages waits for: a keystroke or a paste being counted, 10,000
-// recipients taken over and halved, 10,000 entries put into the order of the status page.
+// recipients taken over and halved, 10,000 entries put into the order of the status page, and
+// the status log being saved, which happens on the interface thread after every send.
 
 #include <vector>
 
+#include <QTemporaryDir>
 #include <benchmark/benchmark.h>
 
 #include "contacts/contact_record.h"
 #include "messaging/core/recipients.h"
 #include "messaging/core/sms_text.h"
+#include "messaging/core/status_file.h"
 #include "messaging/core/status_order.h"
 
 namespace parlexo {
@@ -54,6 +57,21 @@ void orderStatusEntries(benchmark::State& state) {
   }
 }
 BENCHMARK(orderStatusEntries)->Arg(1'000)->Arg(10'000)->Unit(benchmark::kMillisecond);
+
+void saveStatusLog(benchmark::State& state) {
+  const QTemporaryDir folder;
+  StatusFile file(folder.filePath(QStringLiteral("Status.xml")));
+  StatusLog log;
+  for (int i = 0; i < state.range(0); ++i)
+    log.add({QStringLiteral("+61491570156"), QStringLiteral("8C41-%1").arg(i, 6, 10, QChar(u'0')),
+             QStringLiteral("Delivered to Gateway"), QStringLiteral("SMS"),
+             QStringLiteral("01/01/2026 %1:10:00").arg(i * 7 % 24)});
+  for (auto _ : state) {
+    log.setStatus(QStringLiteral("8C41-000000"), QStringLiteral("Status %1").arg(log.revision()));
+    if (!file.save(log)) state.SkipWithError("not saved");
+  }
+}
+BENCHMARK(saveStatusLog)->Arg(100)->Arg(1'000)->Arg(10'000)->Unit(benchmark::kMillisecond);
 
 }  // namespace
 }  // namespace parlexo

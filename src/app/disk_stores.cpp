@@ -26,7 +26,7 @@ void DiskStores::releaseContacts() {
 }
 
 void DiskStores::saveStatusLog() {
-  if (statusLogIsRead_ && !statusFile_.save(statusLog_))
+  if (statusLogIsRead_ && !statusFile_.save(statusLog_, StatusFile::IfLocked::WriteAnyway))
     qWarning("The status log could not be written to %s", qUtf8Printable(statusFile_.path()));
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <chrono>
+
 #include <QString>
 
 #include "base/transfer.h"
@@ -19,6 +21,9 @@ class Progress {
   virtual void setText(const QString& text) = 0;
   /// Shows below the label how far `transfer` has come, until the box goes. Without a box nothing happens.
   virtual void follow(const Transfer& /*transfer*/) {}
+  /// Lets the box offer Cancel once the exchanges under it have taken `wait` in all, instead of the longer
+  /// default. Without a box nothing happens.
+  virtual void offerCancelAfter(std::chrono::milliseconds /*wait*/) {}
   /// Removes the box; harmless when there is none.
   virtual void hide() = 0;
   /// The label of a showing box; a null string when there is none.

@@ -5,8 +5,10 @@
 
 namespace parlexo {
 
-/// The characters of `text`, as a reader sees them, that the code page lacks and that would travel as "?":
-/// each once, in the order in which they come. One that draws nothing is given by its number, as in "U+200B".
+/// The characters of `text`, as a reader sees them, that would be sent as "?": those that the code page lacks
+/// and the control characters that XML forbids. Each is listed once, in order of appearance. A control
+/// character is given by its name, as in "BEL (bell)", any other that draws nothing by its number, as in
+/// "U+200B".
 [[nodiscard]] QStringList unsendableCharacters(const QString& text);
 
 }  // namespace parlexo

@@ -34,7 +34,7 @@ UnsendableHint::UnsendableHint(QWidget* parent) : QLabel(parent) {
 }
 
 void UnsendableHint::follow(const QString& text) {
-  setText(hintOf(unsendableCharacters(text)));
+  showHint(unsendableCharacters(text));
 }
 
 void UnsendableHint::watch(const QList<QLineEdit*>& fields) {
@@ -52,7 +52,12 @@ void UnsendableHint::tellOf(const QList<QLineEdit*>& fields) {
         return isPassword(field) && !unsendableCharacters(field->text()).isEmpty();
       }))
     characters.prepend(QStringLiteral("characters of the password"));
+  showHint(characters);
+}
+
+void UnsendableHint::showHint(const QStringList& characters) {
   setText(hintOf(characters));
+  setToolTip(text());
 }
 
 }  // namespace parlexo

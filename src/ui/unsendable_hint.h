@@ -22,6 +22,8 @@ class UnsendableHint final : public QLabel {
   void watch(const QList<QLineEdit*>& fields);
 
  private:
+  /// Shows the list, in a tool tip as well: on a narrow page the line is cut off.
+  void showHint(const QStringList& characters);
   void tellOf(const QList<QLineEdit*>& fields);
 };
 

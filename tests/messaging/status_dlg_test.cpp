@@ -128,7 +128,7 @@ TEST_F(StatusPage, countLineSaysWhatIsShownAndWhatTheFileWillLose) {
   logMessage("R1000", "", "Fax");
   page_->selectType("Voice");
   EXPECT_EQ(count(),
-            "0 messages of this type, 1001 in all. Only 1000 of them are kept when the program ends.");
+            "0 messages of this type, 1001 in all. Only the newest 1000 are kept when the program ends.");
 }
 
 }  // namespace

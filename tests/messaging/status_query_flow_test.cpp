@@ -29,8 +29,9 @@ class StatusQuery : public testing::Test, protected GatewayRig {
   }
 
   void query(const QStringList& receipts) {
-    StatusQueryFlow(services()).query(receipts, [this](const QString& receipt, const QString& status) {
-      updated_.append(receipt + QChar(u'=') + status);
+    updated_.clear();
+    outcome_ = StatusQueryFlow(services()).query(receipts, [this](const StatusEntry& entry) {
+      updated_.append(entry.receipt + QChar(u'=') + entry.status);
     });
   }
   [[nodiscard]] QString status(int which) const { return log.entries().at(receipts_[which]).status; }
@@ -38,6 +39,7 @@ class StatusQuery : public testing::Test, protected GatewayRig {
 
   QStringList receipts_;
   QStringList updated_;
+  StatusQueryOutcome outcome_;
   qsizetype sent_ = 0;
 };
 
@@ -61,28 +63,38 @@ TEST_F(StatusQuery, expiredSessionAsksForLoginOnceAndStops) {
   EXPECT_EQ(queries().size(), 1);
 }
 
-TEST_F(StatusQuery, stopsAtTheFirstFailureAndKeepsWhatCameIn) {
-  query({receipts_[0], QStringLiteral("no such receipt"), receipts_[1]});
-  EXPECT_EQ(updated_.size(), 1);
-  EXPECT_EQ(status(0), "Queued at gateway");
-  EXPECT_EQ(status(1), "Delivered to Gateway");
-  EXPECT_EQ(queries().size(), 2);
+TEST_F(StatusQuery, aFailedReceiptIsSkippedAndReportedOnce) {
+  query({receipts_[0], "no such receipt", "FAIL", "nor this", receipts_[1]});
+  EXPECT_EQ(updated_.size(), 2);
+  EXPECT_EQ(status(1), "Queued at gateway");
+  EXPECT_EQ(queries().size(), 4);
   EXPECT_FALSE(log.isModified());
   EXPECT_THAT(journal,
               ElementsAre("(box)", "(no box)",
                           "An error occured while getting the status of the message.\r\nError code: 10"));
+  EXPECT_EQ(statusQueryText(outcome_), "2 could not be determined. 1 failed message was left out.");
+  query({receipts_[0]});
+  EXPECT_EQ(statusQueryText(outcome_), "");
 }
 
-TEST_F(StatusQuery, everyFaultOfTheConnectionGivesTheSameMessage) {
-  for (const auto& [kind, number] : {std::pair{FaultKind::Late, 2500}, {FaultKind::SoapFault, 0}}) {
-    simulator.clearFaults();
-    misbehave(kind, QStringLiteral("getStatus"), number);
-    query(receipts_);
-    EXPECT_EQ(notifier.shown.back().style, message_style::stop);
-    EXPECT_THAT(notifier.takeTexts(), ElementsAre(unreachable)) << static_cast<int>(kind);
-  }
-  EXPECT_THAT(updated_, IsEmpty());
+TEST_F(StatusQuery, aGatewayOutOfReachIsGivenUpAfterThreeReceipts) {
+  misbehave(FaultKind::SoapFault, QStringLiteral("getStatus"));
+  query(receipts_ + receipts_);
+  EXPECT_EQ(queries().size(), 3);
+  EXPECT_THAT(notifier.takeTexts(), ElementsAre(unreachable));
+  EXPECT_EQ(statusQueryText(outcome_), "6 could not be determined.");
   EXPECT_EQ(status(0), "Delivered to Gateway");
+}
+
+TEST_F(StatusQuery, cancellingKeepsWhatWasReceivedAndShowsNoError) {
+  misbehave(FaultKind::Late, QStringLiteral("getStatus"), 150);
+  runner.cancel(2, std::chrono::milliseconds(20));
+  query(receipts_);
+  EXPECT_EQ(status(0), "Queued at gateway");
+  EXPECT_EQ(status(2), "Delivered to Gateway");
+  EXPECT_THAT(notifier.takeTexts(), IsEmpty());
+  EXPECT_EQ(statusQueryText(outcome_), "Cancelled: 2 not asked for.");
+  EXPECT_FALSE(log.isModified());
 }
 
 }  // namespace

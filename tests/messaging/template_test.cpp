@@ -25,7 +25,6 @@ TEST(TemplateParsing, wantsTheSeparatorOnce) {
       {"Hi", std::nullopt},
       {"Ann{|/SEP/|", std::nullopt},
       {"{|/SEP/|}a{|/SEP/|}b", std::nullopt},
-      {"{|/SEP/|}{|/SEP/|}", std::nullopt},
   };
   for (const auto& [bytes, content] : files) EXPECT_EQ(parseTemplate(bytes), content) << bytes.constData();
 }

@@ -66,7 +66,7 @@ QLineEdit* EmailPreferencesPanel::addEdit(QGridLayout& grid, int row, int column
 void EmailPreferencesPanel::createSwitches(QGridLayout& grid) {
   enabled_ = addCheckBox(grid, 0, 0, "emailEnabled", QStringLiteral("Enable Email Messaging:"));
   connect(enabled_, &QCheckBox::toggled, this, &EmailPreferencesPanel::enableWhatCounts);
-  code_ = addEdit(grid, 1, 0, "identityCode", QStringLiteral("Identity Code:"));
+  code_ = addEdit(grid, 1, 0, "identityCode", QStringLiteral("&Identity Code:"));
   split_ = addCheckBox(grid, 2, 0, "splitLongSms", QStringLiteral("Split long SMS into several SMS"));
   doubleLine_ =
       addCheckBox(grid, 3, 0, "stopAtDoubleLine", QStringLiteral("Stop emails at blank double lines"));
@@ -77,9 +77,9 @@ void EmailPreferencesPanel::createFilter(QGridLayout& grid) {
   filter_ =
       addCheckBox(grid, 0, filterColumn, "emailFilter", QStringLiteral("Filter based on email addresses:"));
   connect(filter_, &QCheckBox::toggled, this, &EmailPreferencesPanel::enableWhatCounts);
-  addresses_ = {addEdit(grid, 1, filterColumn, "emailAddress1", QStringLiteral("Email address 1:")),
-                addEdit(grid, 2, filterColumn, "emailAddress2", QStringLiteral("Email address 2:")),
-                addEdit(grid, 3, filterColumn, "emailAddress3", QStringLiteral("Email address 3:"))};
+  addresses_ = {addEdit(grid, 1, filterColumn, "emailAddress1", QStringLiteral("Email address &1:")),
+                addEdit(grid, 2, filterColumn, "emailAddress2", QStringLiteral("Email address &2:")),
+                addEdit(grid, 3, filterColumn, "emailAddress3", QStringLiteral("Email address &3:"))};
   auto* button = new PictureButton(QStringLiteral("&Save Changes"), this);
   button->setObjectName(QStringLiteral("saveChangesButton"));
   connect(button, &PictureButton::clicked, this, &EmailPreferencesPanel::save);

@@ -14,9 +14,9 @@ PasswordPanel::PasswordPanel(const AccountServices& services, QWidget* parent)
     : QGroupBox(QStringLiteral("Change Password:"), parent), flow_(services) {
   setObjectName(QStringLiteral("passwordPanel"));
   auto* form = new QFormLayout;
-  old_ = addEdit(*form, "oldPassword", QStringLiteral("Old password:"));
-  new_ = addEdit(*form, "newPassword", QStringLiteral("New Password:"));
-  retyped_ = addEdit(*form, "retypedPassword", QStringLiteral("Retype New Password:"));
+  old_ = addEdit(*form, "oldPassword", QStringLiteral("&Old password:"));
+  new_ = addEdit(*form, "newPassword", QStringLiteral("&New Password:"));
+  retyped_ = addEdit(*form, "retypedPassword", QStringLiteral("&Retype New Password:"));
   auto* button = new PictureButton(QStringLiteral("Change &Password"), this);
   button->setObjectName(QStringLiteral("changePasswordButton"));
   connect(button, &PictureButton::clicked, this, &PasswordPanel::change);

@@ -62,10 +62,10 @@ StorageFoldersPanel::StorageFoldersPanel(const AccountServices& services, Folder
   setObjectName(QStringLiteral("foldersPanel"));
   auto* column = new QVBoxLayout(this);
   Settings& settings = services_.settings;
-  addFolder(*column, {QStringLiteral("Contacts"), QStringLiteral("Contacts Folder: "),
+  addFolder(*column, {QStringLiteral("Contacts"), QStringLiteral("&Contacts Folder: "),
                       [&settings] { return settings.contactsFolder(); },
                       [&settings](const QString& path) { settings.setContactsFolder(path); }});
-  addFolder(*column, {QStringLiteral("Templates"), QStringLiteral("Templates Folder:"),
+  addFolder(*column, {QStringLiteral("Templates"), QStringLiteral("&Templates Folder:"),
                       [&settings] { return settings.templatesFolder(); },
                       [&settings](const QString& path) { settings.setTemplatesFolder(path); }});
   column->addStretch(1);

@@ -62,7 +62,8 @@ class ExchangeWait::Worker {
 ExchangeWait::ExchangeWait(ProgressBox& progress, std::chrono::milliseconds untilBox,
                            std::chrono::milliseconds untilCancel, std::function<void()> onCancel)
     : progress_(progress), untilCancel_(untilCancel), onCancel_(std::move(onCancel)) {
-  if (progress_.isShowing()) (void)progress_.sinceFirstExchange();
+  // Not only by the timer: of many short exchanges under one box none may live to see it.
+  if (progress_.isShowing()) offerCancelWhenDue();
   QObject::connect(&boxTimer_, &QTimer::timeout, &boxTimer_, [this] { look(); });
   graceTimer_.setSingleShot(true);
   QObject::connect(&graceTimer_, &QTimer::timeout, &graceTimer_, [this] { givenUp_ = true; });
@@ -104,7 +105,11 @@ void ExchangeWait::cancel(std::chrono::milliseconds grace) {
 // Again and again: the box of an exchange inside this one may have come and gone meanwhile.
 void ExchangeWait::look() {
   if (!progress_.isShowing()) showBox();
-  if (progress_.sinceFirstExchange() >= untilCancel_) progress_.offerCancel(onCancel_);
+  offerCancelWhenDue();
+}
+
+void ExchangeWait::offerCancelWhenDue() {
+  if (progress_.sinceFirstExchange() >= progress_.untilCancel(untilCancel_)) progress_.offerCancel(onCancel_);
 }
 
 void ExchangeWait::showBox() {

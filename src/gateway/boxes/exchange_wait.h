@@ -35,6 +35,7 @@ class ExchangeWait {
   class Worker;
 
   void look();
+  void offerCancelWhenDue();
   void showBox();
 
   ProgressBox& progress_;

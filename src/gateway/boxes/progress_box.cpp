@@ -62,6 +62,7 @@ void ProgressBox::show(const QString& text) {
     if (!text.isEmpty()) box_->setText(text);
     if (!box_->parentWidget()) centreOnScreen(*box_);
     exchanging_.invalidate();
+    untilCancel_.reset();
     isOffered_ = false;
     isCancelled_ = false;
   }
@@ -92,6 +93,10 @@ void ProgressBox::showTransfer(const Transfer& transfer) {
       QStringLiteral("%1 of %2 sent").arg(dataSizeText(transfer.done()), dataSizeText(transfer.total())));
 }
 
+void ProgressBox::offerCancelAfter(std::chrono::milliseconds wait) {
+  if (box_) untilCancel_ = wait;
+}
+
 void ProgressBox::hide() {
   if (!box_) return;
   // What the user pressed during blocking work still waits in the queue; it has to meet the block.
@@ -116,6 +121,10 @@ void ProgressBox::offerCancel(std::function<void()> cancel) {
 std::chrono::milliseconds ProgressBox::sinceFirstExchange() {
   if (!exchanging_.isValid()) exchanging_.start();
   return std::chrono::milliseconds(exchanging_.elapsed());
+}
+
+std::chrono::milliseconds ProgressBox::untilCancel(std::chrono::milliseconds standard) const {
+  return untilCancel_.value_or(standard);
 }
 
 void ProgressBox::remove() {

@@ -3,6 +3,7 @@
 #include <chrono>
 #include <functional>
 #include <memory>
+#include <optional>
 
 #include <QElapsedTimer>
 #include <QPointer>
@@ -24,6 +25,7 @@ class ProgressBox final : public Progress {
   void show(const QString& text = {}) override;
   void setText(const QString& text) override;
   void follow(const Transfer& transfer) override;
+  void offerCancelAfter(std::chrono::milliseconds wait) override;
   void hide() override;
   [[nodiscard]] QString text() const override;
 
@@ -37,6 +39,8 @@ class ProgressBox final : public Progress {
   /// How long exchanges have been under way under the box that is showing: zero at the first call for a box,
   /// the time since then later.
   [[nodiscard]] std::chrono::milliseconds sinceFirstExchange();
+  /// What offerCancelAfter() has set for the box that is showing, otherwise `standard`.
+  [[nodiscard]] std::chrono::milliseconds untilCancel(std::chrono::milliseconds standard) const;
 
  private:
   void showTransfer(const Transfer& transfer);
@@ -46,6 +50,7 @@ class ProgressBox final : public Progress {
   QPointer<CConnectingDlg> box_;
   QElapsedTimer sinceRepaint_;
   QElapsedTimer exchanging_;
+  std::optional<std::chrono::milliseconds> untilCancel_;
   QTimer transferTimer_;
   bool takesFocus_ = false;  ///< whether the program had the focus when the box came
   bool isOffered_ = false;

@@ -57,8 +57,7 @@ bool SendFlow::accepted(const SendReply& reply) const {
 void SendFlow::record(const QString& receipts, const QString& numbers) const {
   for (StatusEntry& entry : statusEntries(receipts, numbers, kind_.typeWord, QDateTime::currentDateTime()))
     services_.statusLog.add(std::move(entry));
-  // A disk that refuses is no reason to disturb the user now: the log stays marked as modified and the
-  // next save tries again.
+  // A failed save is not reported: the log stays modified, and the next save tries again.
   if (services_.statusLog.isModified()) services_.statusFile.save(services_.statusLog);
 }
 

@@ -9,7 +9,8 @@ QString statusCountText(int shown, std::size_t all) {
                              : QStringLiteral("%1 messages of this type").arg(shown);
   count += QStringLiteral(", %1 in all.").arg(all);
   if (all > StatusFile::elementsRead)
-    count += QStringLiteral(" Only %1 of them are kept when the program ends.").arg(StatusFile::elementsRead);
+    count +=
+        QStringLiteral(" Only the newest %1 are kept when the program ends.").arg(StatusFile::elementsRead);
   return count;
 }
 

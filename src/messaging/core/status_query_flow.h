@@ -6,32 +6,49 @@
 #include <QStringList>
 
 #include "messaging/core/messaging_services.h"
+#include "messaging/core/status_log.h"
 
 namespace parlexo {
 
-/// Asks the gateway what became of messages and keeps the answers in the status log.
+/// What came of a status query.
+struct StatusQueryOutcome {
+  int received = 0;
+  int undetermined = 0;  ///< asked for without success, or not asked for any more after a failure
+  int notAsked = 0;      ///< left when the user cancelled
+  int failedSends = 0;   ///< never accepted by the gateway, which therefore has no status for them
+};
+
+/// The outcome for the user, as in "2 could not be determined."; empty when every status was received.
+[[nodiscard]] QString statusQueryText(const StatusQueryOutcome& outcome);
+
+/// Asks the gateway for the current status of messages and stores the answers in the status log.
 class StatusQueryFlow {
  public:
-  /// Called with each receipt whose status has come in.
-  using Updated = std::function<void(const QString& receipt, const QString& status)>;
+  /// Called with each entry whose status was received.
+  using Updated = std::function<void(const StatusEntry& entry)>;
 
   /// `services` must refer to objects that outlive the flow.
   explicit StatusQueryFlow(const MessagingServices& services) : services_(services) {}
 
-  /// Asks for each receipt in turn and stops at the first failure, which the user is told; what came in
-  /// before stays. Without receipts nothing is called. The log is saved when something came in.
-  void query(const QStringList& receipts, const Updated& updated) const;
+  /// Asks for each receipt in turn but those that mark a failed send. The user sees how far the query is and
+  /// can cancel it after 3 s. A receipt that fails is skipped. After three transport failures in a row, or
+  /// when the session has expired, no more are asked for. The message for the first failure, or for the
+  /// expired session, is shown once at the end, so that a long query does not stop half-way and wait for the
+  /// user. What was received is kept in any case, and the log is saved when there was something.
+  StatusQueryOutcome query(const QStringList& receipts, const Updated& updated) const;
 
  private:
   struct Answer {
     bool answered = true;
+    bool cancelled = false;
     int code = 0;
     QString status;
 
     [[nodiscard]] bool isGood() const { return answered && code == 0; }
   };
+  class Run;
 
-  [[nodiscard]] Answer askAll(const QStringList& receipts, const Updated& updated) const;
+  void askAll(const QStringList& receipts, Run& run, const Updated& updated) const;
   [[nodiscard]] Answer ask(const QString& receipt) const;
   void report(const Answer& failure) const;
 

@@ -18,6 +18,11 @@ QString templateSuffix() {
   return QStringLiteral(".tpl");
 }
 
+// File names differ by case except on Windows, where the file system finds "X.TPL" by the name "X.tpl".
+Qt::CaseSensitivity suffixCase() {
+  return QDir::separator() == u'\\' ? Qt::CaseInsensitive : Qt::CaseSensitive;
+}
+
 // On Windows a name with a colon would lead into a hidden part of another file.
 QStringView refusedCharacters() {
   return QDir::separator() == u'\\' ? u"\\/:*?\"<>|" : u"\\/";
@@ -46,7 +51,7 @@ QStringList TemplateFolder::names() const {
   // Sorted here, because the file systems of Windows list their files in this order and others in none.
   const QDir::SortFlags order = QDir::Name | QDir::IgnoreCase;
   for (const QString& file : QDir(path_).entryList(QDir::Files | QDir::Hidden, order))
-    if (file.endsWith(templateSuffix())) names.append(file.chopped(templateSuffix().size()));
+    if (file.endsWith(templateSuffix(), suffixCase())) names.append(file.chopped(templateSuffix().size()));
   return names;
 }
 

@@ -11,6 +11,7 @@
 #include <QVBoxLayout>
 
 #include "base/notifier.h"
+#include "gateway/boxes/box_column.h"
 #include "messaging/core/messaging_texts.h"
 #include "ui/list_style.h"
 #include "ui/look.h"
@@ -64,8 +65,7 @@ void CLoadTemplateDlg::createList() {
 }
 
 void CLoadTemplateDlg::createLayout() {
-  auto* layout = new QVBoxLayout(this);
-  layout->setContentsMargins(16, 14, 16, 14);
+  QVBoxLayout* layout = createColumn(*this);
   layout->addWidget(labelFor(names_, listCaption()));
   layout->addWidget(names_, 1);
   layout->addSpacing(4);

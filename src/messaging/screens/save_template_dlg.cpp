@@ -7,6 +7,7 @@
 #include <QVBoxLayout>
 
 #include "base/notifier.h"
+#include "gateway/boxes/box_column.h"
 #include "messaging/core/messaging_texts.h"
 #include "ui/look.h"
 #include "ui/page_controls.h"
@@ -20,8 +21,7 @@ CSaveTemplateDlg::CSaveTemplateDlg(const TemplateFolder& folder, Template conten
   setWindowTitle(QStringLiteral("Parlexo(TM) : Save Template"));
   name_ = new QLineEdit(this);
   name_->setObjectName(QStringLiteral("templateName"));
-  auto* layout = new QVBoxLayout(this);
-  layout->setContentsMargins(16, 14, 16, 14);
+  QVBoxLayout* layout = createColumn(*this);
   layout->addWidget(labelFor(name_, QStringLiteral("&Template Name:")));
   layout->addWidget(name_);
   layout->addStretch(1);

@@ -106,20 +106,28 @@ void CStatusDlg::createLayout() {
 void CStatusDlg::fill() {
   model_.fill(services_.statusLog, type_->currentText());
   shownRevision_ = services_.statusLog.revision();
-  count_->setText(statusCountText(model_.rowCount(), services_.statusLog.entries().size()));
+  showCount({});
   exportButton_->setSuggestedName(type_->currentText() + QStringLiteral(" status"));
   list_->setCurrentIndex(list_->model()->index(0, 0));
+}
+
+void CStatusDlg::showCount(const QString& remark) {
+  QString count = statusCountText(model_.rowCount(), services_.statusLog.entries().size());
+  if (!remark.isEmpty()) count += u' ' + remark;
+  count_->setText(count);
 }
 
 void CStatusDlg::getStatus() {
   if (isAsking_) return;
   const QScopedValueRollback guard(isAsking_, true);
+  showCount({});
   QStringList receipts;
   for (const int row : list_->selectedRecords()) receipts.append(model_.entryAt(row).receipt);
-  StatusQueryFlow(services_).query(receipts, [this](const QString& receipt, const QString& status) {
-    model_.setStatus(receipt, status);
+  const auto outcome = StatusQueryFlow(services_).query(receipts, [this](const StatusEntry& entry) {
+    model_.setStatus(entry.receipt, entry.status);
     shownRevision_ = services_.statusLog.revision();
   });
+  showCount(statusQueryText(outcome));
 }
 
 }  // namespace parlexo

@@ -42,6 +42,8 @@ class CStatusDlg final : public GradientPage {
   void createMenu();
   void createLayout();
   void fill();
+  /// Shows how many messages there are, and `remark` behind it.
+  void showCount(const QString& remark);
   void getStatus();
 
   MessagingServices services_;

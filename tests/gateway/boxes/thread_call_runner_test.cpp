@@ -186,6 +186,20 @@ TEST_F(CancelOffer, countsAndHoldsForAllExchangesUnderOneBox) {
   EXPECT_FALSE(isCancelled(nothing, 50ms));
 }
 
+TEST_F(CancelOffer, isMadeWhileShortExchangesFollowEachOtherAsEarlyAsAsked) {
+  ThreadCallRunner usual(progress_);
+  progress_.show();
+  progress_.offerCancelAfter(60ms);
+  for (int i = 0; i < 100 && !button(); ++i)
+    EXPECT_TRUE(usual.run([](const CancelFlag&) { std::this_thread::sleep_for(5ms); }));
+  EXPECT_TRUE(button());
+  progress_.hide();
+  progress_.show();
+  for (int i = 0; i < 3; ++i)
+    EXPECT_TRUE(usual.run([](const CancelFlag&) { std::this_thread::sleep_for(40ms); }));
+  EXPECT_FALSE(button()) << "the next box does not inherit the shorter wait";
+}
+
 TEST_F(ThreadCallRunnerTest, cancelledExchangeThatHangsIsLeftBehindWithWhatItOwns) {
   struct Shared {
     std::atomic<bool> goOn = false;
