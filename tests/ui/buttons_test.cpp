@@ -131,14 +131,19 @@ TEST(ButtonAccessibility, assistiveToolsReadNameAndRoleAndCanPress) {
     QAbstractButton* button;
     QAccessible::Role role;
     QString name;
+    QString key;
   };
-  for (const Case& row : {Case{&button, QAccessible::Button, QStringLiteral("Fish & Chips")},
-                          Case{&link, QAccessible::Link, QStringLiteral("About")}}) {
+  for (const Case& row : {Case{&button, QAccessible::Button, u"Fish & Chips"_qs, u"Alt+C"_qs},
+                          Case{&link, QAccessible::Link, u"About"_qs, {}}}) {
     QSignalSpy clicks(row.button, &QAbstractButton::clicked);
     QAccessibleInterface* seen = QAccessible::queryAccessibleInterface(row.button);
     ASSERT_NE(seen, nullptr);
     EXPECT_EQ(seen->role(), row.role);
     EXPECT_EQ(seen->text(QAccessible::Name), row.name);
+    EXPECT_EQ(seen->text(QAccessible::Accelerator), row.key);
+    EXPECT_EQ(
+        seen->actionInterface()->keyBindingsForAction(QAccessibleActionInterface::pressAction()).join(u','),
+        row.key);
     seen->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
     EXPECT_EQ(clicks.count(), 1);
   }
