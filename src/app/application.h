@@ -13,6 +13,7 @@
 #include "gateway/boxes/progress_box.h"
 #include "gateway/boxes/thread_call_runner.h"
 #include "gateway/core/gateway.h"
+#include "ui/focus_keeper.h"
 
 namespace parlexo {
 
@@ -27,6 +28,7 @@ class Application {
  private:
   [[nodiscard]] bool locateGateway();
 
+  FocusKeeper focusKeeper_;
   QString site_;
   std::unique_ptr<Settings> settings_;
   RunState state_;

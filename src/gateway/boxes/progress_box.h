@@ -47,7 +47,6 @@ class ProgressBox final : public Progress {
   QElapsedTimer sinceRepaint_;
   QElapsedTimer exchanging_;
   QTimer transferTimer_;
-  bool takesFocus_ = false;  ///< whether the program had the focus when the box came
   bool isOffered_ = false;
   bool isCancelled_ = false;
 };

@@ -6,6 +6,7 @@
 #include <QThread>
 
 #include "tests/gateway/boxes/sample_page.h"
+#include "ui/focus_keeper.h"
 
 namespace parlexo {
 namespace {
@@ -50,6 +51,7 @@ TEST(ProgressBox, fitsItsTextAndCannotBeClosedByTheUser) {
 }
 
 TEST(ProgressBox, standsOverTheModalWindowWhileNoneIsActive) {
+  const FocusKeeper focusKeeper;
   GradientDialog dialog;
   dialog.setModal(true);
   dialog.show();
