@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include <QEventLoop>
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QKeyEvent>
@@ -81,7 +82,7 @@ bool claims(const QWidget& page, const QKeySequence& shortcut) {
 CMainDlg::CMainDlg(const std::vector<MainTab>& tabs, QWidget* parent) : GradientDialog(parent) {
   setObjectName(QStringLiteral("mainWindow"));
   setWindowTitle(QStringLiteral("Parlexo(TM) : Messaging Client v") + QLatin1String(clientVersion));
-  setWindowFlag(Qt::WindowMinMaxButtonsHint);
+  setWindowFlags(Qt::Window);
   auto* column = new QVBoxLayout(this);
   addHeader(*column);
   addTabs(*column, tabs);
@@ -92,6 +93,13 @@ CMainDlg::CMainDlg(const std::vector<MainTab>& tabs, QWidget* parent) : Gradient
   // On a screen smaller than that, Send and Exit must not lie beyond its edge.
   const QMargins titleBar(0, style()->pixelMetric(QStyle::PM_TitleBarHeight), 0, 0);
   resize(dialogUnits(*this, 558, 330).boundedTo(screen()->availableSize().shrunkBy(titleBar)));
+}
+
+void CMainDlg::run() {
+  QEventLoop loop;
+  connect(this, &CMainDlg::finished, &loop, &QEventLoop::quit);
+  show();
+  loop.exec();
 }
 
 void CMainDlg::setUserName(const QString& name) {

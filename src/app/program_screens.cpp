@@ -11,11 +11,12 @@
 #include "app/main_dlg.h"
 #include "app/main_tabs.h"
 #include "gateway/boxes/upgrade_dlg.h"
+#include "ui/front_window.h"
 
 namespace parlexo {
 
 void ProgramScreens::showUpgrade(const QString& version) {
-  CUpgradeDlg(version, QApplication::activeWindow()).exec();
+  CUpgradeDlg(version, frontWindow()).exec();
 }
 
 bool ProgramScreens::logIn() {
@@ -47,7 +48,7 @@ void ProgramScreens::runMainWindow() {
     services_.stores.saveStatusLog();
     keepGeometry(window);
   });
-  window.exec();
+  window.run();
   keepGeometry(window);
 }
 
