@@ -9,6 +9,7 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPalette>
 #include <QScreen>
 #include <QScrollArea>
 #include <QShortcut>
@@ -108,6 +109,15 @@ void CMainDlg::setUserName(const QString& name) {
 
 void CMainDlg::setBalance(const QString& amount) {
   balance_->setText(amount);
+  balance_->setPalette({});
+  balance_->setAccessibleDescription({});
+}
+
+void CMainDlg::markBalanceOutdated() {
+  QPalette palette = balance_->palette();
+  palette.setColor(QPalette::Text, look::disabledText);
+  balance_->setPalette(palette);
+  balance_->setAccessibleDescription(QStringLiteral("Not up to date"));
 }
 
 void CMainDlg::openTab(const QString& text) {

@@ -37,6 +37,8 @@ class CMainDlg : public GradientDialog {
   void setUserName(const QString& name);
   /// The amount as text; empty when it is not known.
   void setBalance(const QString& amount);
+  /// Greys the amount until the next setBalance().
+  void markBalanceOutdated();
   /// Brings the page with this tab text to the front; nothing happens when there is none.
   void openTab(const QString& text);
 

@@ -29,7 +29,8 @@ void ProgramScreens::logInAgain() {
   const QString before = services_.state.userName;
   if (!logIn() || !mainWindow_ || services_.state.userName == before) return;
   mainWindow_->setUserName(services_.state.userName);
-  mainWindow_->setBalance(balance_.refresh());
+  // The amount that is shown belongs to the other user.
+  mainWindow_->setBalance(balance_.refresh().value_or(QString()));
 }
 
 void ProgramScreens::runMainWindow() {
@@ -40,7 +41,7 @@ void ProgramScreens::runMainWindow() {
   window.setBalance(balance_.run());
   services_.progress.hide();
   QObject::connect(&window, &CMainDlg::refreshRequested, &window,
-                   [&] { window.setBalance(balance_.refresh()); });
+                   [&] { refreshBalance(window); });
   QObject::connect(&window, &CMainDlg::opened, &window, [&] { showNews(window); });
   window.restoreGeometry(services_.settings.windowGeometry());
   // Whoever logs off from the computer gets no chance to leave this window first.
@@ -50,6 +51,13 @@ void ProgramScreens::runMainWindow() {
   });
   window.run();
   keepGeometry(window);
+}
+
+void ProgramScreens::refreshBalance(CMainDlg& window) {
+  if (const auto balance = balance_.refresh())
+    window.setBalance(*balance);
+  else
+    window.markBalanceOutdated();
 }
 
 void ProgramScreens::keepGeometry(const CMainDlg& window) const {

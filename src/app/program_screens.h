@@ -45,6 +45,7 @@ class ProgramScreens final : public StartUpWindows, public SessionRenewal {
 
  private:
   [[nodiscard]] std::vector<MainTab> tabs();
+  void refreshBalance(CMainDlg& window);
   /// Nobody is told of news that can't be had.
   void showNews(CMainDlg& window) const;
   void keepGeometry(const CMainDlg& window) const;

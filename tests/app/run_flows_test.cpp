@@ -84,7 +84,7 @@ TEST_F(BalanceCheckTest, checkWarnsAndRefreshIsQuietAndSetsTheZeroFlagForGood) {
   EXPECT_EQ(journal, Journal());
   EXPECT_EQ(simulator.calls().back().session, state.session);
   simulator.stop();
-  EXPECT_EQ(check.refresh(), QString());
+  EXPECT_EQ(check.refresh(), std::nullopt);
   EXPECT_EQ(journal.size(), 2) << "the box goes and the failure is told";
 }
 
