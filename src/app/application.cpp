@@ -7,6 +7,7 @@
 #include "base/product.h"
 #include "base/secret.h"
 #include "gateway/boxes/proxy_login_dlg.h"
+#include "gateway/core/exchange_thread.h"
 #include "gateway/core/gateway_search.h"
 #include "gateway/core/proxy_discovery.h"
 #include "gateway/core/server_locator.h"
@@ -14,6 +15,8 @@
 namespace parlexo {
 
 namespace {
+
+constexpr std::chrono::seconds untilSessionEnded{3};
 
 std::unique_ptr<Settings> openSettings(const ProgramOptions& options) {
   if (options.dataDir.isEmpty()) return std::make_unique<Settings>();
@@ -39,7 +42,9 @@ int Application::run() {
   StartUp startUp({state_, *settings_, stores_, gateway_, notifier_, progress_, screens_,
                    [this] { return locateGateway(); }});
   const int exitCode = startUp.run();
-  shutDown(state_, stores_, progress_, runner_);
+  // The window is gone by now, so this wait shows no progress box.
+  DeadlineRunner runner(untilSessionEnded);
+  shutDown(state_, stores_, progress_, runner);
   wipe(state_.proxy.password);
   return exitCode;
 }
