@@ -31,9 +31,11 @@ Application::Application(const ProgramOptions& options)
       settings_(openSettings(options)),
       notifier_(*settings_),
       runner_(progress_),
-      gateway_(state_, runner_),
+      foreground_(runner_, backgroundQueue_),
+      gateway_(state_, foreground_),
+      backgroundGateway_(state_, backgroundQueue_),
       stores_(*settings_, notifier_, progress_),
-      screens_({state_, *settings_, stores_, gateway_, notifier_, progress_, runner_}) {
+      screens_({state_, *settings_, stores_, gateway_, backgroundGateway_, notifier_, progress_, runner_}) {
   setServiceHost(settings_->serviceHost());
   if (site_.isEmpty()) site_ = QStringLiteral("http://") + settings_->serviceHost();
 }
@@ -43,7 +45,8 @@ int Application::run() {
                    [this] { return locateGateway(); }});
   const int exitCode = startUp.run();
   // The window is gone by now, so this wait shows no progress box.
-  DeadlineRunner runner(untilSessionEnded);
+  DeadlineRunner direct(untilSessionEnded);
+  ForegroundRunner runner(direct, backgroundQueue_);
   shutDown(state_, stores_, progress_, runner);
   wipe(state_.proxy.password);
   return exitCode;

@@ -12,6 +12,9 @@
 #include "base/settings.h"
 #include "gateway/boxes/progress_box.h"
 #include "gateway/boxes/thread_call_runner.h"
+#include "gateway/core/background_gateway.h"
+#include "gateway/core/background_queue.h"
+#include "gateway/core/foreground_runner.h"
 #include "gateway/core/gateway.h"
 #include "ui/focus_keeper.h"
 
@@ -35,7 +38,10 @@ class Application {
   NotificationNotifier notifier_;
   ProgressBox progress_;
   ThreadCallRunner runner_;
+  BackgroundQueue backgroundQueue_;
+  ForegroundRunner foreground_;
   Gateway gateway_;
+  BackgroundGateway backgroundGateway_;
   DiskStores stores_;
   ProgramScreens screens_;
 };

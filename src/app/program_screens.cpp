@@ -4,12 +4,12 @@
 #include <QScopedValueRollback>
 
 #include "account/core/news.h"
-#include "account/screens/news_dlg.h"
 #include "app/core/login_flow.h"
 #include "app/disk_stores.h"
 #include "app/login_dlg.h"
 #include "app/main_dlg.h"
 #include "app/main_tabs.h"
+#include "app/news_announcement.h"
 #include "gateway/boxes/upgrade_dlg.h"
 #include "ui/front_window.h"
 
@@ -40,9 +40,11 @@ void ProgramScreens::runMainWindow() {
   window.setUserName(services_.state.userName);
   window.setBalance(balance_.run());
   services_.progress.hide();
-  QObject::connect(&window, &CMainDlg::refreshRequested, &window,
-                   [&] { refreshBalance(window); });
-  QObject::connect(&window, &CMainDlg::opened, &window, [&] { showNews(window); });
+  QObject::connect(&window, &CMainDlg::refreshRequested, &window, [&] { refreshBalance(window); });
+  NewsAnnouncement announcement(window);
+  QObject::connect(&window, &CMainDlg::opened, &window, [&] {
+    fetchNews(services_.background, window, [&](const QString& news) { announcement.announce(news); });
+  });
   window.restoreGeometry(services_.settings.windowGeometry());
   // Whoever logs off from the computer gets no chance to leave this window first.
   QObject::connect(qGuiApp, &QGuiApplication::commitDataRequest, &window, [&] {
@@ -72,10 +74,6 @@ std::vector<MainTab> ProgramScreens::tabs() {
        services_.settings},
       {book, services_.notifier, services_.progress, services_.settings, services_.runner},
       {services_.state, services_.settings, services_.gateway, services_.notifier, services_.progress});
-}
-
-void ProgramScreens::showNews(CMainDlg& window) const {
-  if (const auto news = fetchNews(services_.gateway)) CNewsDlg(*news, &window).exec();
 }
 
 }  // namespace parlexo

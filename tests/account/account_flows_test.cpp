@@ -4,7 +4,9 @@
 #include "account/core/email_preferences.h"
 #include "account/core/news.h"
 #include "account/core/password_change.h"
+#include "gateway/core/background_gateway.h"
 #include "tests/account/account_rig.h"
+#include "tests/gateway/stepping_worker.h"
 
 namespace parlexo {
 namespace {
@@ -122,15 +124,26 @@ TEST_F(EmailPreferencesTest, failedSaveIsToldByWhatFailed) {
 
 class News : public testing::Test, protected AccountRig {};
 
-TEST_F(News, comeWithoutASessionAndAsTheyWereWritten) {
+TEST_F(News, needNoSessionAndAreUnchanged) {
   const QString odd = QStringLiteral("<b>50 % off</b> & more\r\n\r\n€ ]]> caf\u00e9 \"quoted\"");
   simulator.setNews(odd);
   state.session.clear();
-  EXPECT_EQ(fetchNews(gateway), odd);
+  auto* worker = new SteppingWorker;
+  BackgroundQueue queue{std::unique_ptr<BackgroundWorker>(worker)};
+  const BackgroundGateway background(state, queue, {2, 1});
+  QObject window;
+  QStringList shown;
+  const auto fetch = [&] {
+    fetchNews(background, window, [&](const QString& news) { shown << news; });
+    worker->finish();
+  };
+  fetch();
+  EXPECT_EQ(shown, QStringList(odd));
   misbehave(FaultKind::Code, "getNews", 1);
-  EXPECT_EQ(fetchNews(gateway), std::nullopt);
+  fetch();
   simulator.stop();
-  EXPECT_EQ(fetchNews(gateway), std::nullopt);
+  fetch();
+  EXPECT_EQ(shown.size(), 1) << "failures are silent";
 }
 
 // "Words [address] words": what became a link stands in brackets.

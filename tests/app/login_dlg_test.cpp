@@ -8,6 +8,7 @@
 
 #include "app/disk_stores.h"
 #include "app/program_screens.h"
+#include "gateway/core/background_queue.h"
 #include "tests/app/run_fakes.h"
 
 namespace parlexo {
@@ -77,7 +78,9 @@ class SessionRenewalTest : public LoginDlgTest {
   }
 
   DiskStores disk_{settings, notifier, progress};
-  ProgramScreens renewal_{{state, settings, disk_, gateway, notifier, progress, runner}};
+  BackgroundQueue queue_;
+  BackgroundGateway background_{state, queue_};
+  ProgramScreens renewal_{{state, settings, disk_, gateway, background_, notifier, progress, runner}};
   QObject context_;
 };
 

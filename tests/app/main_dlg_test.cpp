@@ -26,8 +26,10 @@
 #include "app/notification_notifier.h"
 #include "app/program_screens.h"
 #include "gateway/boxes/progress_box.h"
+#include "gateway/core/background_queue.h"
 #include "messaging/screens/sms_dlg.h"
 #include "simulator/simulator.h"
+#include "ui/front_window.h"
 #include "ui/hyperlink_label.h"
 #include "ui/picture_button.h"
 
@@ -45,7 +47,7 @@ QWidget* pageWithButton(const QString& text) {
 class MainDlgTest : public testing::Test {
  protected:
   void SetUp() override {
-    window_.open();
+    window_.show();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&window_));
   }
 
@@ -81,13 +83,41 @@ TEST_F(MainDlgTest, f5RefreshesTheBalanceAndThePageInFront) {
   auto* front = new Page;
   auto* behind = new Page;
   CMainDlg window({{u"A"_qs, [front] { return front; }}, {u"B"_qs, [behind] { return behind; }}});
-  QSignalSpy balance(&window, &CMainDlg::refreshRequested);
-  window.open();
+  QSignalSpy requests(&window, &CMainDlg::refreshRequested);
+  window.show();
   ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
   QTest::keyClick(&window, Qt::Key_F5);
-  EXPECT_EQ(balance.count(), 1);
+  EXPECT_EQ(requests.count(), 1);
   EXPECT_EQ(front->refreshes, 1);
   EXPECT_EQ(behind->refreshes, 0);
+}
+
+TEST_F(MainDlgTest, balanceIsGreyUntilTheNextAnswer) {
+  const auto* balance = window_.findChild<QLineEdit*>(u"balance"_qs);
+  const QColor current = balance->palette().color(QPalette::Text);
+  window_.setBalance(u"7.50"_qs);
+  window_.markBalanceOutdated();
+  EXPECT_EQ(balance->text(), u"7.50"_qs);
+  EXPECT_NE(balance->palette().color(QPalette::Text), current);
+  EXPECT_FALSE(balance->accessibleDescription().isEmpty());
+  window_.setBalance(u"7.50"_qs);
+  EXPECT_EQ(balance->palette().color(QPalette::Text), current);
+  EXPECT_TRUE(balance->accessibleDescription().isEmpty());
+}
+
+TEST_F(MainDlgTest, dialogsAreModalOverItAndItIsNoDialogItself) {
+  EXPECT_EQ(window_.windowType(), Qt::Window);
+  EXPECT_FALSE(window_.isModal());
+  bool isOver = false;
+  QTimer::singleShot(0, &window_, [&] {
+    QWidget* about = QApplication::activeModalWidget();
+    ASSERT_NE(about, nullptr);
+    isOver = about->parentWidget() == &window_ && frontWindow() == about;
+    about->close();
+  });
+  QTest::keyClick(&window_, Qt::Key_F1);
+  EXPECT_TRUE(isOver);
+  EXPECT_EQ(frontWindow(), &window_);
 }
 
 TEST_F(MainDlgTest, aPageLargerThanTheWindowCanStillBeReached) {
@@ -100,7 +130,7 @@ TEST_F(MainDlgTest, aPageLargerThanTheWindowCanStillBeReached) {
     return page;
   };
   CMainDlg window({{u"A"_qs, makePage}});
-  window.open();
+  window.show();
   window.resize(600, 400);
   EXPECT_EQ(window.size(), QSize(600, 400));
   const auto* far = window.findChild<PictureButton*>(u"far"_qs);
@@ -120,7 +150,7 @@ TEST_F(MainDlgTest, aPageThatCanShrinkDoesNotScroll) {
   column->addWidget(words);
   column->addWidget(list);
   CMainDlg window({{u"A"_qs, [page] { return page; }}});
-  window.open();
+  window.show();
   ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
   window.resize(600, window.height() - page->height() + page->minimumSizeHint().height() + 30);
   QCoreApplication::processEvents();
@@ -138,10 +168,10 @@ TEST_F(MainDlgTest, onlyExitCtrlQAndTheCloseBoxEndIt) {
   EXPECT_TRUE(window_.isVisible());
   QTest::keyClick(&window_, Qt::Key_Q, Qt::ControlModifier);
   EXPECT_FALSE(window_.isVisible());
-  window_.open();
+  window_.show();
   window_.close();
   EXPECT_FALSE(window_.isVisible());
-  window_.open();
+  window_.show();
   QTest::mouseClick(window_.findChild<QWidget*>(u"exit"_qs), Qt::LeftButton);
   EXPECT_FALSE(window_.isVisible());
 }
@@ -161,7 +191,7 @@ TEST_F(MainDlgTest, altESendsOnSendPagesAndExitsElsewhere) {
 TEST_F(MainDlgTest, openedIsToldOnceAndLaterThanTheFirstShow) {
   CMainDlg other({});
   QSignalSpy opened(&other, &CMainDlg::opened);
-  other.open();
+  other.show();
   EXPECT_EQ(opened.count(), 0);
   other.hide();
   other.show();
@@ -212,7 +242,9 @@ class MainTabsTest : public testing::Test {
   NotificationNotifier notifier_{settings_};
   ProgressBox progress_;
   DiskStores stores_{settings_, notifier_, progress_};
-  ProgramScreens windows_{{state_, settings_, stores_, gateway_, notifier_, progress_, runner_}};
+  BackgroundQueue queue_;
+  BackgroundGateway background_{state_, queue_};
+  ProgramScreens windows_{{state_, settings_, stores_, gateway_, background_, notifier_, progress_, runner_}};
   CMainDlg window_{mainTabs({state_, gateway_, notifier_, progress_, windows_, stores_.addressBook(),
                              stores_.statusLog(), stores_.statusFile(), stores_.templates(), settings_},
                             {stores_.addressBook(), notifier_, progress_, settings_, runner_},
@@ -241,11 +273,11 @@ TEST_F(MainTabsTest, pagesAreFilledInTheirOrderThenComeBalanceAndNews) {
   bool hasRead = false;
   QTimer user;
   QObject::connect(&user, &QTimer::timeout, &user, [&hasRead] {
-    QWidget* modal = QApplication::activeModalWidget();
-    if (auto* news = qobject_cast<CNewsDlg*>(modal)) {
+    QWidget* front = frontWindow();
+    if (auto* news = qobject_cast<CNewsDlg*>(front)) {
       hasRead = true;
       news->accept();
-    } else if (auto* window = qobject_cast<CMainDlg*>(modal); window && hasRead) {
+    } else if (auto* window = qobject_cast<CMainDlg*>(front); window && hasRead) {
       window->accept();
     }
   });
@@ -265,14 +297,14 @@ TEST_F(MainTabsTest, balanceIsFetchedAnewForAnotherUserOnly) {
   QStringList users{u"demo"_qs, u"demo1234"_qs, u"demo"_qs, u"demo1234"_qs, u"ann"_qs, u"secret"_qs};
   QTimer user;
   QObject::connect(&user, &QTimer::timeout, &user, [&] {
-    QWidget* modal = QApplication::activeModalWidget();
-    if (auto* news = qobject_cast<CNewsDlg*>(modal)) {
+    QWidget* front = frontWindow();
+    if (auto* news = qobject_cast<CNewsDlg*>(front)) {
       news->accept();
-    } else if (auto* login = qobject_cast<CLoginDlg*>(modal)) {
+    } else if (auto* login = qobject_cast<CLoginDlg*>(front)) {
       login->findChild<QLineEdit*>(u"userName"_qs)->setText(users.takeFirst());
       login->findChild<QLineEdit*>(u"password"_qs)->setText(users.takeFirst());
       login->findChild<QAbstractButton*>(u"logIn"_qs)->click();
-    } else if (auto* window = qobject_cast<CMainDlg*>(modal)) {
+    } else if (auto* window = qobject_cast<CMainDlg*>(front)) {
       balances << window->findChild<QLineEdit*>(u"balance"_qs)->text();
       if (users.isEmpty()) return window->accept();
       // Not from here: a timer does not go off while it is being heard.
@@ -319,13 +351,13 @@ TEST_F(MainTabsTest, windowIsFoundAgainWhereItWasLeft) {
   const auto visit = [this](const std::function<void(CMainDlg&)>& act) {
     QTimer user;
     QObject::connect(&user, &QTimer::timeout, [&act] {
-      QWidget* modal = QApplication::activeModalWidget();
-      auto* window = qobject_cast<CMainDlg*>(modal);
+      QWidget* front = frontWindow();
+      auto* window = qobject_cast<CMainDlg*>(front);
       if (window && window->isActiveWindow()) {
         act(*window);
         window->accept();
-      } else if (modal && !window) {
-        modal->close();  // a message before the window opens
+      } else if (front && !window) {
+        front->close();  // a message before the window opens
       }
     });
     user.start(20);
@@ -340,14 +372,6 @@ TEST_F(MainTabsTest, windowIsFoundAgainWhereItWasLeft) {
   settings_.setWindowGeometry("nonsense");
   visit([&found](CMainDlg& window) { found = window.geometry(); });
   EXPECT_NE(found, left);
-}
-
-TEST_F(MainTabsTest, standInTheirOrder) {
-  QStringList texts;
-  const auto* tabs = window_.findChild<QTabWidget*>();
-  for (int i = 0; i < tabs->count(); ++i) texts << tabs->tabText(i);
-  EXPECT_EQ(texts, QStringList({u"SMS"_qs, u"WAP"_qs, u"MMS"_qs, u"Fax"_qs, u"Receive Messages"_qs,
-                                u"Contacts"_qs, u"Account History"_qs, u"Status"_qs, u"Settings"_qs}));
 }
 
 TEST_F(MainTabsTest, fitASmallScreen) {
