@@ -7,7 +7,6 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListView>
-#include <QMenu>
 #include <QScreen>
 #include <QSignalSpy>
 #include <QTabWidget>
@@ -316,33 +315,6 @@ TEST_F(MainTabsTest, balanceIsFetchedAnewForAnotherUserOnly) {
   windows_.runMainWindow();
   EXPECT_EQ(balances, QStringList({u"100.00"_qs, u"100.00"_qs, u"7.50"_qs}));
   EXPECT_EQ(simulator.calledOperations().count(u"getAccountBalance"_qs), 2);
-}
-
-TEST_F(MainTabsTest, contactAddedOnASendPageIsOfferedThereAtOnce) {
-  auto* sms = window_.findChild<CQuillonSMSDlg*>();
-  QStringList opened;
-  QTimer answers;
-  QObject::connect(&answers, &QTimer::timeout, &answers, [&opened] {
-    if (auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget())) {
-      QTest::keyClick(menu, Qt::Key_N);
-    } else if (auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget())) {
-      if (!dialog->objectName().endsWith(u"Dialog"_qs)) return;  // the progress box
-      opened << dialog->objectName();
-      if (auto* name = dialog->findChild<QLineEdit*>(u"nameEdit"_qs)) {
-        name->setText(u"Ann"_qs);
-        dialog->findChild<QLineEdit*>(u"phoneEdit"_qs)->setText(u"+61491570156"_qs);
-      }
-      dialog->accept();
-    }
-  });
-  makeFolderPath(settings_.contactsFolder());
-  ASSERT_TRUE(stores_.addressBook().loadAll(progress_));
-  answers.start(10);
-  window_.show();
-  sms->findChild<QAbstractButton*>(u"addContactsButton"_qs)->click();
-  EXPECT_EQ(opened, QStringList({u"contactDetailsDialog"_qs, u"selectContactsDialog"_qs}));
-  const GroupFile* personal = stores_.addressBook().findGroup(u"My Personal Contacts"_qs);
-  EXPECT_TRUE(personal && personal->contains(u"Ann"_qs));
 }
 
 TEST_F(MainTabsTest, windowIsFoundAgainWhereItWasLeft) {

@@ -90,13 +90,6 @@ TEST_F(WaitingForOthers, boxSaysSoWhileEventsRunAndIsThenAsBefore) {
   }
 }
 
-TEST_F(WaitingForOthers, fileThatIsFreeBringsNoBox) {
-  bool ran = false;
-  laterDo([&] { ran = true; });
-  EXPECT_TRUE(write());
-  EXPECT_FALSE(ran || box_.isShowing());
-}
-
 TEST_F(WaitingForOthers, patienceEndsAfterItsSecondsOfHalfSecondSteps) {
   const OtherProcess other(path_, LOCK_EX);
   // The clock runs a hundred times faster: the 30 seconds of reading an index take 0.31 s.

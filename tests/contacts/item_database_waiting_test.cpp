@@ -55,54 +55,12 @@ TEST_F(WaitingFixture, operationsGiveUpOnceMoreThanTheTimeoutHasPassed) {
   EXPECT_EQ(readBytes(path_), record_);
 }
 
-TEST_F(WaitingFixture, operationsSucceedWhenTheOtherProcessLeavesInTime) {
-  const std::function<bool()> operations[] = {[this] { return read(); }, [this] { return write(); },
-                                              [this] { return erase(); }};
-  for (const auto& operation : operations) {
-    OtherProcess other(path_, LOCK_EX);
-    int left = 5;
-    waiter_.onPause = [&] {
-      if (--left == 0) other.leave();
-    };
-    const int over = waiter_.waitsOver;
-    EXPECT_TRUE(operation());
-    EXPECT_EQ(left, 0);
-    EXPECT_EQ(waiter_.waitsOver - over, 1);
-  }
-  waiter_.onPause = nullptr;
-  EXPECT_TRUE(write());
-  EXPECT_EQ(waiter_.waitsOver, 3) << "only a wait that took place is over";
-  EXPECT_EQ(error_, QString());
-}
-
-TEST_F(WaitingFixture, readersComeInTogetherAndCreationNeverWaits) {
-  {
-    const OtherProcess reader(path_, LOCK_SH);
-    EXPECT_TRUE(read());
-  }
-  const OtherProcess writer(path_, LOCK_EX);
-  EXPECT_TRUE(database_.createDb(error_, path_));
-  EXPECT_FALSE(database_.removeDb(path_));
-  EXPECT_EQ(readBytes(path_), record_);
-  EXPECT_EQ(waiter_.pauses(), 0);
-}
-
 TEST_F(WaitingFixture, indexIsReadWithItsOwnLongerPatience) {
   database_.dropAllItemIndexes();
   const OtherProcess writer(path_, LOCK_EX);
   EXPECT_FALSE(write());
   EXPECT_EQ(error_, QStringLiteral("[readAllItems:1 - Database access share error!]"));
   EXPECT_EQ(waiter_.pauses(), 62);
-}
-
-TEST_F(WaitingFixture, fileDeletedWhileWaitingIsMadeAnewAndTakesTheWrite) {
-  OtherProcess other(path_, LOCK_EX);
-  waiter_.onPause = [&] {
-    QFile::remove(path_);
-    other.leave();
-  };
-  EXPECT_TRUE(write());
-  EXPECT_EQ(readBytes(path_), record_);
 }
 
 }  // namespace
