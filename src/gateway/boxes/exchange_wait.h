@@ -2,7 +2,6 @@
 
 #include <chrono>
 #include <functional>
-#include <memory>
 
 #include <QTimer>
 
@@ -32,15 +31,12 @@ class ExchangeWait {
   void cancel(std::chrono::milliseconds grace);
 
  private:
-  class Worker;
-
   void look();
   void showBox();
 
   ProgressBox& progress_;
   std::chrono::milliseconds untilCancel_;
   std::function<void()> onCancel_;
-  std::shared_ptr<Worker> worker_;
   CancelFlag cancelFlag_;
   QTimer boxTimer_;
   QTimer graceTimer_;

@@ -65,8 +65,8 @@ class ExchangeThread::Shared {
   bool hasSucceeded_ = false;
 };
 
-ExchangeThread::ExchangeThread(CallRunner::Exchange exchange, std::function<void()> onEnd)
-    : shared_(std::make_shared<Shared>(std::move(onEnd))) {
+ExchangeThread::ExchangeThread(CallRunner::Exchange exchange, std::function<void()> onEnd, CancelFlag cancel)
+    : cancel_(std::move(cancel)), shared_(std::make_shared<Shared>(std::move(onEnd))) {
   try {
     thread_ = std::thread([shared = shared_, cancel = cancel_, work = std::move(exchange)]() mutable {
       const bool succeeded = succeeds(work, cancel);
@@ -87,6 +87,12 @@ ExchangeThread::~ExchangeThread() {
     thread_.join();
   else
     thread_.detach();
+}
+
+void ExchangeThread::leaveBehind() {
+  cancel();
+  shared_->forget();
+  if (thread_.joinable()) thread_.detach();
 }
 
 bool ExchangeThread::waitFor(std::chrono::milliseconds limit) const {

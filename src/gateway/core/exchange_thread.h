@@ -14,8 +14,10 @@ namespace parlexo {
 class ExchangeThread {
  public:
   /// Starts `exchange`. `onEnd` is called when it has ended, also when it threw, on its thread; or at once on
-  /// the calling thread when no thread could be started.
-  explicit ExchangeThread(CallRunner::Exchange exchange, std::function<void()> onEnd = {});
+  /// the calling thread when no thread could be started. The exchange polls `cancel`, which may be raised
+  /// already.
+  explicit ExchangeThread(CallRunner::Exchange exchange, std::function<void()> onEnd = {},
+                          CancelFlag cancel = {});
   /// Cancels the exchange and waits up to 500 ms for its end, then leaves it behind. `onEnd` is not called
   /// after this has returned.
   ~ExchangeThread();
@@ -23,8 +25,11 @@ class ExchangeThread {
   ExchangeThread& operator=(const ExchangeThread&) = delete;
 
   void cancel() const { cancel_.raise(); }
+  /// Cancels the exchange and leaves it behind without a wait.
+  void leaveBehind();
   /// True when the exchange has ended within `limit`.
   [[nodiscard]] bool waitFor(std::chrono::milliseconds limit) const;
+  [[nodiscard]] bool hasEnded() const { return waitFor(std::chrono::milliseconds::zero()); }
   /// Whether the exchange has ended without an exception.
   [[nodiscard]] bool hasSucceeded() const;
 
