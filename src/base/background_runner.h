@@ -20,8 +20,9 @@ struct BackgroundTask {
 
 /// Runs tasks one at a time, in the order in which they were added, without a progress box and without
 /// blocking input. Calls that the user waits for have priority: they pause the runner, and a task that
-/// overlapped with one is cancelled and repeated afterwards. So a delivered result is never older than the
-/// user's last call. All functions belong to the interface thread.
+/// overlaps with one is cancelled and repeated afterwards, so that its result is not older than the call. A
+/// task that has been repeated three times runs to its end beside further calls instead: a busy user must
+/// not hold up the queue for ever. All functions belong to the interface thread.
 class BackgroundRunner {
  public:
   virtual ~BackgroundRunner() = default;

@@ -6,6 +6,10 @@
 
 namespace parlexo {
 
+namespace {
+constexpr int maxRepeats = 3;
+}
+
 ThreadBackgroundWorker::ThreadBackgroundWorker() = default;
 ThreadBackgroundWorker::~ThreadBackgroundWorker() = default;
 
@@ -26,19 +30,20 @@ BackgroundQueue::BackgroundQueue(std::unique_ptr<BackgroundWorker> worker,
     : worker_(std::move(worker)) {
   resumption_.setSingleShot(true);
   resumption_.setInterval(untilResumed);
-  QObject::connect(&resumption_, &QTimer::timeout, &resumption_, [this] { startNext(); });
+  QObject::connect(&resumption_, &QTimer::timeout, &resumption_, [this] { proceed(); });
 }
 
 void BackgroundQueue::add(BackgroundTask task) {
-  tasks_.push_back(std::move(task));
-  startNext();
+  entries_.push_back({std::move(task)});
+  proceed();
 }
 
 void BackgroundQueue::pause() {
   ++pauses_;
   resumption_.stop();
-  if (!isRunning_) return;
-  isOverlapped_ = true;
+  if (front_ != Front::Running || entries_.front().repeats == maxRepeats) return;
+  ++entries_.front().repeats;
+  front_ = Front::Cancelled;
   worker_->cancel();
 }
 
@@ -46,20 +51,28 @@ void BackgroundQueue::resume() {
   if (--pauses_ == 0) resumption_.start();
 }
 
+void BackgroundQueue::proceed() {
+  if (pauses_ > 0 || resumption_.isActive()) return;
+  if (front_ == Front::Waiting) startNext();
+  if (front_ == Front::Ended) deliver();
+}
+
 void BackgroundQueue::startNext() {
-  if (isRunning_ || pauses_ > 0 || resumption_.isActive()) return;
-  while (!tasks_.empty() && !tasks_.front().isWanted()) tasks_.pop_front();
-  if (tasks_.empty()) return;
-  isRunning_ = true;
-  isOverlapped_ = false;
-  worker_->start(tasks_.front().exchange, [this] { finish(); });
+  while (!entries_.empty() && !entries_.front().task.isWanted()) entries_.pop_front();
+  if (entries_.empty()) return;
+  front_ = Front::Running;
+  worker_->start(entries_.front().task.exchange, [this] { finish(); });
 }
 
 void BackgroundQueue::finish() {
-  isRunning_ = false;
-  if (isOverlapped_) return startNext();
-  const BackgroundTask task = std::move(tasks_.front());
-  tasks_.pop_front();
+  front_ = front_ == Front::Cancelled ? Front::Waiting : Front::Ended;
+  proceed();
+}
+
+void BackgroundQueue::deliver() {
+  const BackgroundTask task = std::move(entries_.front().task);
+  entries_.pop_front();
+  front_ = Front::Waiting;
   startNext();
   // Last, because it may open a dialog and return long after the next task has ended.
   if (task.isWanted()) task.deliver();

@@ -59,13 +59,25 @@ class BackgroundQueue final : public BackgroundRunner {
   void resume() override;
 
  private:
+  enum class Front {
+    Waiting,
+    Running,
+    Cancelled,  ///< running until it notices the cancel, to be repeated
+    Ended       ///< to be delivered
+  };
+  struct Entry {
+    BackgroundTask task;
+    int repeats = 0;
+  };
+
+  void proceed();
   void startNext();
   void finish();
+  void deliver();
 
-  std::deque<BackgroundTask> tasks_;  ///< the front one is under way while isRunning_
+  std::deque<Entry> entries_;
+  Front front_ = Front::Waiting;  ///< where the front one of the entries is
   int pauses_ = 0;
-  bool isRunning_ = false;
-  bool isOverlapped_ = false;  ///< a user's call has begun since the task under way was started
   QTimer resumption_;
   std::unique_ptr<BackgroundWorker> worker_;
 };
