@@ -24,9 +24,6 @@ class QuietMoment final : public QObject {
   /// waits.
   void await(std::function<void()> act);
 
-  /// Whether the user has pressed a key or a mouse button since construction.
-  [[nodiscard]] bool hasSeenInput() const { return sinceInput_.isValid(); }
-
  protected:
   bool eventFilter(QObject* target, QEvent* event) override;
 

@@ -36,8 +36,9 @@ class NewsAnnouncementTest : public testing::Test {
       if (!dialog()) return;
       user.stop();
       openedAfter = clock.elapsed();
-      act(*dialog());
-      dialog()->accept();
+      const QPointer<CNewsDlg> opened = dialog();
+      act(*opened);
+      if (opened) opened->accept();
     });
     user.start(10);
     clock.start();
@@ -52,6 +53,7 @@ class NewsAnnouncementTest : public testing::Test {
 };
 
 TEST_F(NewsAnnouncementTest, comesAtOnceForAUserWhoOnlyLooksOn) {
+  field_->clearFocus();
   const qint64 openedAfter = announce([this](CNewsDlg& news) {
     QTest::keyClick(news.windowHandle(), Qt::Key_X);
     EXPECT_EQ(field_->text(), QString()) << "keys belong to the dialog";
@@ -60,7 +62,9 @@ TEST_F(NewsAnnouncementTest, comesAtOnceForAUserWhoOnlyLooksOn) {
   EXPECT_LT(openedAfter, 1000);
 }
 
-TEST_F(NewsAnnouncementTest, waitsForAPauseAndLeavesWhatIsTypedInTheField) {
+TEST_F(NewsAnnouncementTest, waitsForAPauseAndLeavesWhatIsTypedInTheFields) {
+  auto* next = new QLineEdit;
+  window_.layout()->addWidget(next);
   QTest::keyClicks(field_, u"Dear"_qs);
   QTimer typist;
   int keys = 0;
@@ -71,7 +75,7 @@ TEST_F(NewsAnnouncementTest, waitsForAPauseAndLeavesWhatIsTypedInTheField) {
   });
   typist.start(100);
   const qint64 openedAfter = announce([](CNewsDlg& news) {
-    for (const auto key : {Qt::Key_C, Qt::Key_Space, Qt::Key_Return})
+    for (const auto key : {Qt::Key_C, Qt::Key_Space, Qt::Key_Return, Qt::Key_Tab, Qt::Key_1})
       QTest::keyClick(news.windowHandle(), key);
     EXPECT_TRUE(news.isVisible());
     QTest::qWait(1000);
@@ -79,6 +83,14 @@ TEST_F(NewsAnnouncementTest, waitsForAPauseAndLeavesWhatIsTypedInTheField) {
   });
   EXPECT_GE(openedAfter, 2400);
   EXPECT_EQ(field_->text(), u"Dearaaaaac "_qs);
+  EXPECT_EQ(next->text(), u"1"_qs);
+}
+
+TEST_F(NewsAnnouncementTest, closesByEscapeAtOnce) {
+  announce([](CNewsDlg& news) {
+    QTest::keyClick(news.windowHandle(), Qt::Key_Escape);
+    EXPECT_FALSE(news.isVisible());
+  });
 }
 
 TEST_F(NewsAnnouncementTest, waitsUntilMenusAndDialogsAreClosed) {
