@@ -22,6 +22,12 @@ bool isDialogOrMainWindow(const QObject* target) {
   return widget->isWindow() && (widget->windowType() == Qt::Dialog || widget->windowType() == Qt::Window);
 }
 
+// A file dialog of the system's has a widget that is never shown. The system's own window has the focus then,
+// and no window of the program is active.
+bool mayTakeFocus(const QWidget& window) {
+  return !window.testAttribute(Qt::WA_DontShowOnScreen) && !window.isMinimized();
+}
+
 }  // namespace
 
 FocusKeeper::FocusKeeper() {
@@ -53,7 +59,7 @@ void FocusKeeper::startSettling() {
 
 void FocusKeeper::check() {
   QWidget* front = frontWindow();
-  if (front && !QApplication::activeWindow()) front->activateWindow();
+  if (front && !QApplication::activeWindow() && mayTakeFocus(*front)) front->activateWindow();
   if (++step_ < pauses.size()) timer_.start(pauses[step_]);
 }
 
