@@ -104,21 +104,6 @@ TEST_F(MainDlgTest, balanceIsGreyUntilTheNextAnswer) {
   EXPECT_TRUE(balance->accessibleDescription().isEmpty());
 }
 
-TEST_F(MainDlgTest, dialogsAreModalOverItAndItIsNoDialogItself) {
-  EXPECT_EQ(window_.windowType(), Qt::Window);
-  EXPECT_FALSE(window_.isModal());
-  bool isOver = false;
-  QTimer::singleShot(0, &window_, [&] {
-    QWidget* about = QApplication::activeModalWidget();
-    ASSERT_NE(about, nullptr);
-    isOver = about->parentWidget() == &window_ && frontWindow() == about;
-    about->close();
-  });
-  QTest::keyClick(&window_, Qt::Key_F1);
-  EXPECT_TRUE(isOver);
-  EXPECT_EQ(frontWindow(), &window_);
-}
-
 TEST_F(MainDlgTest, aPageLargerThanTheWindowCanStillBeReached) {
   const auto makePage = [] {
     auto* page = pageWithButton(u"Near"_qs);
@@ -187,23 +172,15 @@ TEST_F(MainDlgTest, altESendsOnSendPagesAndExitsElsewhere) {
   EXPECT_EQ(sent.count(), 1);
 }
 
-TEST_F(MainDlgTest, openedIsToldOnceAndLaterThanTheFirstShow) {
-  CMainDlg other({});
-  QSignalSpy opened(&other, &CMainDlg::opened);
-  other.show();
-  EXPECT_EQ(opened.count(), 0);
-  other.hide();
-  other.show();
-  EXPECT_TRUE(opened.wait());
-  QCoreApplication::processEvents();
-  EXPECT_EQ(opened.count(), 1);
-}
-
-TEST_F(MainDlgTest, aboutOpensByF1AndByItsLink) {
+TEST_F(MainDlgTest, aboutOpensOverTheMainWindowWhichIsNoModalDialog) {
+  EXPECT_EQ(window_.windowType(), Qt::Window);
+  EXPECT_FALSE(window_.isModal());
   QStringList versions;
-  const auto lookAtAbout = [&versions] {
+  const auto lookAtAbout = [&versions, this] {
     auto* about = qobject_cast<CAboutDlg*>(QApplication::activeModalWidget());
     if (!about) return;
+    EXPECT_EQ(about->parentWidget(), &window_);
+    EXPECT_EQ(frontWindow(), about);
     versions << about->findChild<QLabel*>(u"version"_qs)->text().section(u'\n', 0, 0);
     about->close();
   };

@@ -102,15 +102,6 @@ TEST(PictureButton, hiddenOrDisabledDefaultIsNotPressedUnseen) {
   EXPECT_EQ(sample.strongClicks.count(), 0);
 }
 
-TEST(GradientDialog, escapeRejectsAndThereIsNoHelpButton) {
-  SampleDialog sample;
-  EXPECT_FALSE(sample.dialog.windowFlags() & Qt::WindowContextHelpButtonHint);
-  EXPECT_FALSE(sample.dialog.windowIcon().pixmap(16).isNull());
-  QTest::keyClick(sample.edit, Qt::Key_Escape);
-  EXPECT_FALSE(sample.dialog.isVisible());
-  EXPECT_EQ(sample.dialog.result(), QDialog::Rejected);
-}
-
 TEST(GradientDialog, opensAsHighAsItsTextsNeed) {
   GradientDialog dialog;
   dialog.setMinimumWidth(300);
