@@ -7,6 +7,7 @@
 #include "base/product.h"
 #include "base/secret.h"
 #include "gateway/boxes/proxy_login_dlg.h"
+#include "gateway/core/exchange_thread.h"
 #include "gateway/core/gateway_search.h"
 #include "gateway/core/proxy_discovery.h"
 #include "gateway/core/server_locator.h"
@@ -14,6 +15,8 @@
 namespace parlexo {
 
 namespace {
+
+constexpr std::chrono::seconds untilSessionEnded{3};
 
 std::unique_ptr<Settings> openSettings(const ProgramOptions& options) {
   if (options.dataDir.isEmpty()) return std::make_unique<Settings>();
@@ -28,9 +31,11 @@ Application::Application(const ProgramOptions& options)
       settings_(openSettings(options)),
       notifier_(*settings_),
       runner_(progress_),
-      gateway_(state_, runner_),
+      foreground_(runner_, backgroundQueue_),
+      gateway_(state_, foreground_),
+      backgroundGateway_(state_, backgroundQueue_),
       stores_(*settings_, notifier_, progress_),
-      screens_({state_, *settings_, stores_, gateway_, notifier_, progress_, runner_}) {
+      screens_({state_, *settings_, stores_, gateway_, backgroundGateway_, notifier_, progress_, runner_}) {
   setServiceHost(settings_->serviceHost());
   if (site_.isEmpty()) site_ = QStringLiteral("http://") + settings_->serviceHost();
 }
@@ -39,7 +44,10 @@ int Application::run() {
   StartUp startUp({state_, *settings_, stores_, gateway_, notifier_, progress_, screens_,
                    [this] { return locateGateway(); }});
   const int exitCode = startUp.run();
-  shutDown(state_, stores_, progress_, runner_);
+  // The window is gone by now, so this wait shows no progress box.
+  DeadlineRunner direct(untilSessionEnded);
+  ForegroundRunner runner(direct, backgroundQueue_);
+  shutDown(state_, stores_, progress_, runner);
   wipe(state_.proxy.password);
   return exitCode;
 }

@@ -12,7 +12,11 @@
 #include "base/settings.h"
 #include "gateway/boxes/progress_box.h"
 #include "gateway/boxes/thread_call_runner.h"
+#include "gateway/core/background_gateway.h"
+#include "gateway/core/background_queue.h"
+#include "gateway/core/foreground_runner.h"
 #include "gateway/core/gateway.h"
+#include "ui/focus_keeper.h"
 
 namespace parlexo {
 
@@ -27,13 +31,17 @@ class Application {
  private:
   [[nodiscard]] bool locateGateway();
 
+  FocusKeeper focusKeeper_;
   QString site_;
   std::unique_ptr<Settings> settings_;
   RunState state_;
   NotificationNotifier notifier_;
   ProgressBox progress_;
   ThreadCallRunner runner_;
+  BackgroundQueue backgroundQueue_;
+  ForegroundRunner foreground_;
   Gateway gateway_;
+  BackgroundGateway backgroundGateway_;
   DiskStores stores_;
   ProgramScreens screens_;
 };

@@ -10,6 +10,8 @@
 #include <QPlainTextEdit>
 #include <QTabWidget>
 
+#include "ui/front_window.h"
+
 namespace parlexo::hands {
 
 namespace {
@@ -53,7 +55,7 @@ QWidget* labelled(QWidget* window, const QString& label) {
 }  // namespace
 
 QWidget* windowInFront(const QString& title) {
-  QWidget* front = QApplication::activeModalWidget();
+  QWidget* front = frontWindow();
   return front && front->isVisible() && front->windowTitle().startsWith(title) ? front : nullptr;
 }
 

@@ -3,11 +3,13 @@
 #include <algorithm>
 #include <utility>
 
+#include <QEventLoop>
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPalette>
 #include <QScreen>
 #include <QScrollArea>
 #include <QShortcut>
@@ -81,7 +83,7 @@ bool claims(const QWidget& page, const QKeySequence& shortcut) {
 CMainDlg::CMainDlg(const std::vector<MainTab>& tabs, QWidget* parent) : GradientDialog(parent) {
   setObjectName(QStringLiteral("mainWindow"));
   setWindowTitle(QStringLiteral("Parlexo(TM) : Messaging Client v") + QLatin1String(clientVersion));
-  setWindowFlag(Qt::WindowMinMaxButtonsHint);
+  setWindowFlags(Qt::Window);
   auto* column = new QVBoxLayout(this);
   addHeader(*column);
   addTabs(*column, tabs);
@@ -94,12 +96,28 @@ CMainDlg::CMainDlg(const std::vector<MainTab>& tabs, QWidget* parent) : Gradient
   resize(dialogUnits(*this, 558, 330).boundedTo(screen()->availableSize().shrunkBy(titleBar)));
 }
 
+void CMainDlg::run() {
+  QEventLoop loop;
+  connect(this, &CMainDlg::finished, &loop, &QEventLoop::quit);
+  show();
+  loop.exec();
+}
+
 void CMainDlg::setUserName(const QString& name) {
   userName_->setText(name);
 }
 
 void CMainDlg::setBalance(const QString& amount) {
   balance_->setText(amount);
+  balance_->setPalette({});
+  balance_->setAccessibleDescription({});
+}
+
+void CMainDlg::markBalanceOutdated() {
+  QPalette palette = balance_->palette();
+  palette.setColor(QPalette::Text, look::disabledText);
+  balance_->setPalette(palette);
+  balance_->setAccessibleDescription(QStringLiteral("Not up to date"));
 }
 
 void CMainDlg::openTab(const QString& text) {

@@ -22,7 +22,8 @@ struct MainTab {
 };
 
 /// The window of the program after the login: tabs, user name, balance, About and Exit. It knows its pages
-/// only as widgets.
+/// only as widgets. An ordinary window, not a modal dialog: a window manager minimises and maximises only
+/// those reliably.
 class CMainDlg : public GradientDialog {
   Q_OBJECT
 
@@ -30,16 +31,21 @@ class CMainDlg : public GradientDialog {
   /// Creates the pages in the order of `tabs` and owns them. Two tabs must not have the same text.
   explicit CMainDlg(const std::vector<MainTab>& tabs, QWidget* parent = nullptr);
 
+  /// Shows the window and returns when it has closed.
+  void run();
+
   void setUserName(const QString& name);
   /// The amount as text; empty when it is not known.
   void setBalance(const QString& amount);
+  /// Greys the amount until the next setBalance().
+  void markBalanceOutdated();
   /// Brings the page with this tab text to the front; nothing happens when there is none.
   void openTab(const QString& text);
 
  Q_SIGNALS:
   /// Once, from the event loop, after the window has become visible.
   void opened();
-  /// The user wants the balance anew; the page in front refreshes itself.
+  /// The user wants the current balance; the page in front refreshes itself.
   void refreshRequested();
 
  protected:

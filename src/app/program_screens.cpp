@@ -4,18 +4,19 @@
 #include <QScopedValueRollback>
 
 #include "account/core/news.h"
-#include "account/screens/news_dlg.h"
 #include "app/core/login_flow.h"
 #include "app/disk_stores.h"
 #include "app/login_dlg.h"
 #include "app/main_dlg.h"
 #include "app/main_tabs.h"
+#include "app/news_announcement.h"
 #include "gateway/boxes/upgrade_dlg.h"
+#include "ui/front_window.h"
 
 namespace parlexo {
 
 void ProgramScreens::showUpgrade(const QString& version) {
-  CUpgradeDlg(version, QApplication::activeWindow()).exec();
+  CUpgradeDlg(version, frontWindow()).exec();
 }
 
 bool ProgramScreens::logIn() {
@@ -28,7 +29,8 @@ void ProgramScreens::logInAgain() {
   const QString before = services_.state.userName;
   if (!logIn() || !mainWindow_ || services_.state.userName == before) return;
   mainWindow_->setUserName(services_.state.userName);
-  mainWindow_->setBalance(balance_.refresh());
+  // The amount that is shown belongs to the other user.
+  mainWindow_->setBalance(balance_.refresh().value_or(QString()));
 }
 
 void ProgramScreens::runMainWindow() {
@@ -38,17 +40,26 @@ void ProgramScreens::runMainWindow() {
   window.setUserName(services_.state.userName);
   window.setBalance(balance_.run());
   services_.progress.hide();
-  QObject::connect(&window, &CMainDlg::refreshRequested, &window,
-                   [&] { window.setBalance(balance_.refresh()); });
-  QObject::connect(&window, &CMainDlg::opened, &window, [&] { showNews(window); });
+  QObject::connect(&window, &CMainDlg::refreshRequested, &window, [&] { refreshBalance(window); });
+  NewsAnnouncement announcement(window);
+  QObject::connect(&window, &CMainDlg::opened, &window, [&] {
+    fetchNews(services_.background, window, [&](const QString& news) { announcement.announce(news); });
+  });
   window.restoreGeometry(services_.settings.windowGeometry());
   // Whoever logs off from the computer gets no chance to leave this window first.
   QObject::connect(qGuiApp, &QGuiApplication::commitDataRequest, &window, [&] {
     services_.stores.saveStatusLog();
     keepGeometry(window);
   });
-  window.exec();
+  window.run();
   keepGeometry(window);
+}
+
+void ProgramScreens::refreshBalance(CMainDlg& window) {
+  if (const auto balance = balance_.refresh())
+    window.setBalance(*balance);
+  else
+    window.markBalanceOutdated();
 }
 
 void ProgramScreens::keepGeometry(const CMainDlg& window) const {
@@ -63,10 +74,6 @@ std::vector<MainTab> ProgramScreens::tabs() {
        services_.settings},
       {book, services_.notifier, services_.progress, services_.settings, services_.runner},
       {services_.state, services_.settings, services_.gateway, services_.notifier, services_.progress});
-}
-
-void ProgramScreens::showNews(CMainDlg& window) const {
-  if (const auto news = fetchNews(services_.gateway)) CNewsDlg(*news, &window).exec();
 }
 
 }  // namespace parlexo

@@ -12,6 +12,7 @@
 #include "base/run_state.h"
 #include "base/session_renewal.h"
 #include "base/settings.h"
+#include "gateway/core/background_gateway.h"
 #include "gateway/core/gateway.h"
 
 namespace parlexo {
@@ -26,6 +27,7 @@ struct WindowServices {
   Settings& settings;
   DiskStores& stores;
   const Gateway& gateway;
+  const BackgroundGateway& background;
   Notifier& notifier;
   Progress& progress;
   CallRunner& runner;
@@ -45,8 +47,7 @@ class ProgramScreens final : public StartUpWindows, public SessionRenewal {
 
  private:
   [[nodiscard]] std::vector<MainTab> tabs();
-  /// Nobody is told of news that can't be had.
-  void showNews(CMainDlg& window) const;
+  void refreshBalance(CMainDlg& window);
   void keepGeometry(const CMainDlg& window) const;
 
   WindowServices services_;

@@ -29,6 +29,7 @@ class AccessibleButton final : public QAccessibleWidget {
     if (which == QAccessible::Name && button_.accessibleName().isEmpty()) {
       return withoutMnemonic(button_.text());
     }
+    if (which == QAccessible::Accelerator) return keyBinding();
     return QAccessibleWidget::text(which);
   }
 
@@ -48,6 +49,11 @@ class AccessibleButton final : public QAccessibleWidget {
     return names << QAccessibleWidget::actionNames();
   }
 
+  [[nodiscard]] QStringList keyBindingsForAction(const QString& name) const override {
+    if (name != pressAction()) return QAccessibleWidget::keyBindingsForAction(name);
+    return keyBinding().isEmpty() ? QStringList() : QStringList(keyBinding());
+  }
+
   void doAction(const QString& name) override {
     if (name != pressAction()) {
       QAccessibleWidget::doAction(name);
@@ -57,6 +63,9 @@ class AccessibleButton final : public QAccessibleWidget {
   }
 
  private:
+  // The shortcut and not the text's mnemonic, because a page may have taken the key from the button.
+  [[nodiscard]] QString keyBinding() const { return button_.shortcut().toString(QKeySequence::NativeText); }
+
   QAbstractButton& button_;
 };
 

@@ -65,7 +65,7 @@ QSize PictureButton::minimumSizeHint() const {
 }
 
 QSize PictureButton::sizeHint() const {
-  const bool isWord = text().size() > 2;
+  const bool isWord = text().size() > 1;
   const QSize smallest = dialogUnits(*this, isWord ? 50 : 14, 14);
   return minimumSizeHint().expandedTo(smallest);
 }

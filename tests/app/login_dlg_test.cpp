@@ -3,11 +3,8 @@
 #include <QAbstractButton>
 #include <QLineEdit>
 #include <QTest>
-#include <QTimer>
 #include <gmock/gmock.h>
 
-#include "app/disk_stores.h"
-#include "app/program_screens.h"
 #include "tests/app/run_fakes.h"
 
 namespace parlexo {
@@ -64,34 +61,6 @@ TEST_F(LoginDlgTest, firstStartBeginsWithTheUserNameAndCanBeCancelled) {
   EXPECT_FALSE(dialog.isVisible());
   EXPECT_EQ(dialog.result(), QDialog::Rejected);
   EXPECT_THAT(simulator.calledOperations(), testing::ElementsAre(u"locator"_qs));
-}
-
-class SessionRenewalTest : public LoginDlgTest {
- protected:
-  // Answers the login dialog that is about to open.
-  void answer(const std::function<void(QDialog&)>& act) {
-    QTimer::singleShot(0, &context_, [act] {
-      if (auto* dialog = qobject_cast<CLoginDlg*>(QApplication::activeModalWidget())) act(*dialog);
-    });
-    renewal_.logInAgain();
-  }
-
-  DiskStores disk_{settings, notifier, progress};
-  ProgramScreens renewal_{{state, settings, disk_, gateway, notifier, progress, runner}};
-  QObject context_;
-};
-
-TEST_F(SessionRenewalTest, newLoginReplacesTheTokenAndCancellingKeepsIt) {
-  state.session = u"expired"_qs;
-  answer([](QDialog& dialog) { dialog.reject(); });
-  EXPECT_EQ(state.session, u"expired"_qs);
-  answer([](QDialog& dialog) {
-    type(dialog, u"userName"_qs, u"demo"_qs);
-    type(dialog, u"password"_qs, u"demo1234"_qs);
-    QTest::keyClick(&dialog, Qt::Key_Return);
-  });
-  EXPECT_NE(state.session, u"expired"_qs);
-  EXPECT_EQ(simulator.openSessions(), 1);
 }
 
 }  // namespace

@@ -7,7 +7,6 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListView>
-#include <QMenu>
 #include <QScreen>
 #include <QSignalSpy>
 #include <QTabWidget>
@@ -26,8 +25,10 @@
 #include "app/notification_notifier.h"
 #include "app/program_screens.h"
 #include "gateway/boxes/progress_box.h"
+#include "gateway/core/background_queue.h"
 #include "messaging/screens/sms_dlg.h"
 #include "simulator/simulator.h"
+#include "ui/front_window.h"
 #include "ui/hyperlink_label.h"
 #include "ui/picture_button.h"
 
@@ -45,7 +46,7 @@ QWidget* pageWithButton(const QString& text) {
 class MainDlgTest : public testing::Test {
  protected:
   void SetUp() override {
-    window_.open();
+    window_.show();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&window_));
   }
 
@@ -81,13 +82,26 @@ TEST_F(MainDlgTest, f5RefreshesTheBalanceAndThePageInFront) {
   auto* front = new Page;
   auto* behind = new Page;
   CMainDlg window({{u"A"_qs, [front] { return front; }}, {u"B"_qs, [behind] { return behind; }}});
-  QSignalSpy balance(&window, &CMainDlg::refreshRequested);
-  window.open();
+  QSignalSpy requests(&window, &CMainDlg::refreshRequested);
+  window.show();
   ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
   QTest::keyClick(&window, Qt::Key_F5);
-  EXPECT_EQ(balance.count(), 1);
+  EXPECT_EQ(requests.count(), 1);
   EXPECT_EQ(front->refreshes, 1);
   EXPECT_EQ(behind->refreshes, 0);
+}
+
+TEST_F(MainDlgTest, balanceIsGreyUntilTheNextAnswer) {
+  const auto* balance = window_.findChild<QLineEdit*>(u"balance"_qs);
+  const QColor current = balance->palette().color(QPalette::Text);
+  window_.setBalance(u"7.50"_qs);
+  window_.markBalanceOutdated();
+  EXPECT_EQ(balance->text(), u"7.50"_qs);
+  EXPECT_NE(balance->palette().color(QPalette::Text), current);
+  EXPECT_FALSE(balance->accessibleDescription().isEmpty());
+  window_.setBalance(u"7.50"_qs);
+  EXPECT_EQ(balance->palette().color(QPalette::Text), current);
+  EXPECT_TRUE(balance->accessibleDescription().isEmpty());
 }
 
 TEST_F(MainDlgTest, aPageLargerThanTheWindowCanStillBeReached) {
@@ -100,7 +114,7 @@ TEST_F(MainDlgTest, aPageLargerThanTheWindowCanStillBeReached) {
     return page;
   };
   CMainDlg window({{u"A"_qs, makePage}});
-  window.open();
+  window.show();
   window.resize(600, 400);
   EXPECT_EQ(window.size(), QSize(600, 400));
   const auto* far = window.findChild<PictureButton*>(u"far"_qs);
@@ -120,7 +134,7 @@ TEST_F(MainDlgTest, aPageThatCanShrinkDoesNotScroll) {
   column->addWidget(words);
   column->addWidget(list);
   CMainDlg window({{u"A"_qs, [page] { return page; }}});
-  window.open();
+  window.show();
   ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
   window.resize(600, window.height() - page->height() + page->minimumSizeHint().height() + 30);
   QCoreApplication::processEvents();
@@ -138,10 +152,10 @@ TEST_F(MainDlgTest, onlyExitCtrlQAndTheCloseBoxEndIt) {
   EXPECT_TRUE(window_.isVisible());
   QTest::keyClick(&window_, Qt::Key_Q, Qt::ControlModifier);
   EXPECT_FALSE(window_.isVisible());
-  window_.open();
+  window_.show();
   window_.close();
   EXPECT_FALSE(window_.isVisible());
-  window_.open();
+  window_.show();
   QTest::mouseClick(window_.findChild<QWidget*>(u"exit"_qs), Qt::LeftButton);
   EXPECT_FALSE(window_.isVisible());
 }
@@ -158,23 +172,15 @@ TEST_F(MainDlgTest, altESendsOnSendPagesAndExitsElsewhere) {
   EXPECT_EQ(sent.count(), 1);
 }
 
-TEST_F(MainDlgTest, openedIsToldOnceAndLaterThanTheFirstShow) {
-  CMainDlg other({});
-  QSignalSpy opened(&other, &CMainDlg::opened);
-  other.open();
-  EXPECT_EQ(opened.count(), 0);
-  other.hide();
-  other.show();
-  EXPECT_TRUE(opened.wait());
-  QCoreApplication::processEvents();
-  EXPECT_EQ(opened.count(), 1);
-}
-
-TEST_F(MainDlgTest, aboutOpensByF1AndByItsLink) {
+TEST_F(MainDlgTest, aboutOpensOverTheMainWindowWhichIsNoModalDialog) {
+  EXPECT_EQ(window_.windowType(), Qt::Window);
+  EXPECT_FALSE(window_.isModal());
   QStringList versions;
-  const auto lookAtAbout = [&versions] {
+  const auto lookAtAbout = [&versions, this] {
     auto* about = qobject_cast<CAboutDlg*>(QApplication::activeModalWidget());
     if (!about) return;
+    EXPECT_EQ(about->parentWidget(), &window_);
+    EXPECT_EQ(frontWindow(), about);
     versions << about->findChild<QLabel*>(u"version"_qs)->text().section(u'\n', 0, 0);
     about->close();
   };
@@ -212,7 +218,9 @@ class MainTabsTest : public testing::Test {
   NotificationNotifier notifier_{settings_};
   ProgressBox progress_;
   DiskStores stores_{settings_, notifier_, progress_};
-  ProgramScreens windows_{{state_, settings_, stores_, gateway_, notifier_, progress_, runner_}};
+  BackgroundQueue queue_;
+  BackgroundGateway background_{state_, queue_};
+  ProgramScreens windows_{{state_, settings_, stores_, gateway_, background_, notifier_, progress_, runner_}};
   CMainDlg window_{mainTabs({state_, gateway_, notifier_, progress_, windows_, stores_.addressBook(),
                              stores_.statusLog(), stores_.statusFile(), stores_.templates(), settings_},
                             {stores_.addressBook(), notifier_, progress_, settings_, runner_},
@@ -241,11 +249,11 @@ TEST_F(MainTabsTest, pagesAreFilledInTheirOrderThenComeBalanceAndNews) {
   bool hasRead = false;
   QTimer user;
   QObject::connect(&user, &QTimer::timeout, &user, [&hasRead] {
-    QWidget* modal = QApplication::activeModalWidget();
-    if (auto* news = qobject_cast<CNewsDlg*>(modal)) {
+    QWidget* front = frontWindow();
+    if (auto* news = qobject_cast<CNewsDlg*>(front)) {
       hasRead = true;
       news->accept();
-    } else if (auto* window = qobject_cast<CMainDlg*>(modal); window && hasRead) {
+    } else if (auto* window = qobject_cast<CMainDlg*>(front); window && hasRead) {
       window->accept();
     }
   });
@@ -265,14 +273,14 @@ TEST_F(MainTabsTest, balanceIsFetchedAnewForAnotherUserOnly) {
   QStringList users{u"demo"_qs, u"demo1234"_qs, u"demo"_qs, u"demo1234"_qs, u"ann"_qs, u"secret"_qs};
   QTimer user;
   QObject::connect(&user, &QTimer::timeout, &user, [&] {
-    QWidget* modal = QApplication::activeModalWidget();
-    if (auto* news = qobject_cast<CNewsDlg*>(modal)) {
+    QWidget* front = frontWindow();
+    if (auto* news = qobject_cast<CNewsDlg*>(front)) {
       news->accept();
-    } else if (auto* login = qobject_cast<CLoginDlg*>(modal)) {
+    } else if (auto* login = qobject_cast<CLoginDlg*>(front)) {
       login->findChild<QLineEdit*>(u"userName"_qs)->setText(users.takeFirst());
       login->findChild<QLineEdit*>(u"password"_qs)->setText(users.takeFirst());
       login->findChild<QAbstractButton*>(u"logIn"_qs)->click();
-    } else if (auto* window = qobject_cast<CMainDlg*>(modal)) {
+    } else if (auto* window = qobject_cast<CMainDlg*>(front)) {
       balances << window->findChild<QLineEdit*>(u"balance"_qs)->text();
       if (users.isEmpty()) return window->accept();
       // Not from here: a timer does not go off while it is being heard.
@@ -286,46 +294,19 @@ TEST_F(MainTabsTest, balanceIsFetchedAnewForAnotherUserOnly) {
   EXPECT_EQ(simulator.calledOperations().count(u"getAccountBalance"_qs), 2);
 }
 
-TEST_F(MainTabsTest, contactAddedOnASendPageIsOfferedThereAtOnce) {
-  auto* sms = window_.findChild<CQuillonSMSDlg*>();
-  QStringList opened;
-  QTimer answers;
-  QObject::connect(&answers, &QTimer::timeout, &answers, [&opened] {
-    if (auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget())) {
-      QTest::keyClick(menu, Qt::Key_N);
-    } else if (auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget())) {
-      if (!dialog->objectName().endsWith(u"Dialog"_qs)) return;  // the progress box
-      opened << dialog->objectName();
-      if (auto* name = dialog->findChild<QLineEdit*>(u"nameEdit"_qs)) {
-        name->setText(u"Ann"_qs);
-        dialog->findChild<QLineEdit*>(u"phoneEdit"_qs)->setText(u"+61491570156"_qs);
-      }
-      dialog->accept();
-    }
-  });
-  makeFolderPath(settings_.contactsFolder());
-  ASSERT_TRUE(stores_.addressBook().loadAll(progress_));
-  answers.start(10);
-  window_.show();
-  sms->findChild<QAbstractButton*>(u"addContactsButton"_qs)->click();
-  EXPECT_EQ(opened, QStringList({u"contactDetailsDialog"_qs, u"selectContactsDialog"_qs}));
-  const GroupFile* personal = stores_.addressBook().findGroup(u"My Personal Contacts"_qs);
-  EXPECT_TRUE(personal && personal->contains(u"Ann"_qs));
-}
-
 TEST_F(MainTabsTest, windowIsFoundAgainWhereItWasLeft) {
   QRect left;
   QRect found;
   const auto visit = [this](const std::function<void(CMainDlg&)>& act) {
     QTimer user;
     QObject::connect(&user, &QTimer::timeout, [&act] {
-      QWidget* modal = QApplication::activeModalWidget();
-      auto* window = qobject_cast<CMainDlg*>(modal);
+      QWidget* front = frontWindow();
+      auto* window = qobject_cast<CMainDlg*>(front);
       if (window && window->isActiveWindow()) {
         act(*window);
         window->accept();
-      } else if (modal && !window) {
-        modal->close();  // a message before the window opens
+      } else if (front && !window) {
+        front->close();  // a message before the window opens
       }
     });
     user.start(20);
@@ -340,14 +321,6 @@ TEST_F(MainTabsTest, windowIsFoundAgainWhereItWasLeft) {
   settings_.setWindowGeometry("nonsense");
   visit([&found](CMainDlg& window) { found = window.geometry(); });
   EXPECT_NE(found, left);
-}
-
-TEST_F(MainTabsTest, standInTheirOrder) {
-  QStringList texts;
-  const auto* tabs = window_.findChild<QTabWidget*>();
-  for (int i = 0; i < tabs->count(); ++i) texts << tabs->tabText(i);
-  EXPECT_EQ(texts, QStringList({u"SMS"_qs, u"WAP"_qs, u"MMS"_qs, u"Fax"_qs, u"Receive Messages"_qs,
-                                u"Contacts"_qs, u"Account History"_qs, u"Status"_qs, u"Settings"_qs}));
 }
 
 TEST_F(MainTabsTest, fitASmallScreen) {

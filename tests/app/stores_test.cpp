@@ -42,22 +42,6 @@ TEST_F(DiskStoresTest, runThatEndsBeforeTheStatusLogWasReadLeavesTheFileAlone) {
   EXPECT_TRUE(readBytes(settings_.statusFile()).contains("Status=\"y\""));
 }
 
-TEST_F(DiskStoresTest, firstStartMissesTheStatusFileOnceAndHasThePersonalGroup) {
-  {
-    DiskStores stores(settings_, notifier_, progress_);
-    EXPECT_TRUE(stores.loadContacts());
-    EXPECT_TRUE(stores.addressBook().findGroup(u"My Personal Contacts"_qs));
-    stores.loadStatusLog();
-    EXPECT_EQ(journal_.last(), u"message 0x30 0 Could not locate the status file."_qs);
-    stores.releaseContacts();
-    EXPECT_TRUE(stores.addressBook().groups().empty());
-    stores.saveStatusLog();
-  }
-  journal_.clear();
-  DiskStores(settings_, notifier_, progress_).loadStatusLog();
-  EXPECT_EQ(journal_, Journal());
-}
-
 class WaitingForOthers : public testing::Test {
  protected:
   bool write() { return database_.writeItem(error_, 4, path_, 12, QByteArray("\1Anna1111111", 12), 60); }
@@ -88,13 +72,6 @@ TEST_F(WaitingForOthers, boxSaysSoWhileEventsRunAndIsThenAsBefore) {
     EXPECT_EQ(box_.text(), before);
     EXPECT_EQ(box_.isShowing(), !before.isEmpty());
   }
-}
-
-TEST_F(WaitingForOthers, fileThatIsFreeBringsNoBox) {
-  bool ran = false;
-  laterDo([&] { ran = true; });
-  EXPECT_TRUE(write());
-  EXPECT_FALSE(ran || box_.isShowing());
 }
 
 TEST_F(WaitingForOthers, patienceEndsAfterItsSecondsOfHalfSecondSteps) {

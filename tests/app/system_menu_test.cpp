@@ -19,7 +19,7 @@ namespace {
 TEST(SystemMenu, endsWithTheEntryThatOpensTheAboutBox) {
   CMainDlg window({});
   QSignalSpy opened(&window, &CMainDlg::opened);
-  window.open();
+  window.show();
   ASSERT_TRUE(opened.wait());
   const auto handle = reinterpret_cast<HWND>(window.winId());
   const HMENU menu = GetSystemMenu(handle, FALSE);

@@ -1,5 +1,6 @@
 #include "messaging/screens/schedule_dlg.h"
 
+#include <QAccessible>
 #include <QCalendarWidget>
 #include <QLineEdit>
 #include <QTest>
@@ -57,6 +58,30 @@ TEST_F(ScheduleDialog, fieldsFollowCalendarTimeAndToday) {
   EXPECT_EQ(time.time(), QTime(2, 30)) << "what is being typed is left alone";
   calendar.setSelectedDate({2199, 7, 1});
   EXPECT_EQ(fields(), "2199/07/01 02:30:00 = 2199/07/01 00:30:00");
+}
+
+TEST_F(ScheduleDialog, enterInTheCalendarTakesTheDateAlsoATypedOne) {
+  dialog.activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
+  const auto accepted = [this](std::initializer_list<Qt::Key> keys) {
+    dialog.setResult(QDialog::Rejected);
+    dialog.show();
+    for (const auto key : keys) QTest::keyClick(calendar.focusProxy(), key);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return !dialog.isVisible(); }, 1000));
+    EXPECT_EQ(dialog.result(), QDialog::Accepted);
+    return dialog.schedule().text.left(10);
+  };
+  EXPECT_EQ(accepted({Qt::Key_Right, Qt::Key_Return}), "2026/10/26");
+  EXPECT_EQ(accepted({Qt::Key_0, Qt::Key_7, Qt::Key_Enter}), "2026/10/07");
+}
+
+TEST_F(ScheduleDialog, everyButtonAndTableHasAName) {
+  for (auto* part : dialog.findChildren<QWidget*>()) {
+    const QAccessibleInterface* seen = QAccessible::queryAccessibleInterface(part);
+    const bool isOther = seen->role() != QAccessible::Button && seen->role() != QAccessible::Table;
+    EXPECT_TRUE(isOther || part->isHidden() || !seen->text(QAccessible::Name).isEmpty())
+        << part->objectName().toStdString();
+  }
 }
 
 TEST_F(ScheduleDialog, enterSelectsAndEscapeCancels) {

@@ -17,21 +17,22 @@ QString program() {
   return QCoreApplication::applicationDirPath() + QStringLiteral("/parlexo-gateway");
 }
 
-TEST(CommandLine, readsEveryOption) {
-  const CommandLine line = readCommandLine(
-      QStringLiteral("--port=0 --account ann:secret1:2.5:nosenderid --account bob:x --latency 5 "
-                     "--session-lifetime 6 --delivery-step 7 --news Hi --client-version 3 "
-                     "--protocol-version 4 --listen ::1 --fault sendSms:code=12:next")
-          .split(u' '));
-  ASSERT_EQ(line.options.accounts.size(), 2U);
-  EXPECT_EQ(line.options.accounts[0].balance, 2.5);
-  EXPECT_FALSE(line.options.accounts[0].maySetSenderId);
-  EXPECT_EQ(line.options.latency.count(), 5);
-  EXPECT_EQ(line.options.sessionLifetime.count(), 6);
-  EXPECT_EQ(line.options.deliveryStep.count(), 7);
-  EXPECT_EQ(line.options.protocolVersion, 4);
-  ASSERT_EQ(line.faults.size(), 1U);
-  EXPECT_TRUE(line.faults[0].once);
+TEST(CommandLine, saysWhatIsWrong) {
+  struct Case {
+    const char* arguments;
+    const char* problem;
+  };
+  const Case cases[] = {
+      {"--colour red", "unknown option \"--colour\""},
+      {"--port 70000", "--port 70000: needs a port from 0 to 65535"},
+      {"--listen nowhere", "--listen nowhere: needs an IP address"},
+      {"--account ann:b:nan", "--account ann:b:nan: needs USER:PASSWORD[:BALANCE[:nosenderid]]"},
+      {"--latency -1", "--latency -1: needs a time in milliseconds"},
+      {"--fault x", "--fault x: expected OPERATION:KIND"},
+  };
+  for (const Case& each : cases)
+    EXPECT_EQ(readCommandLine(QString::fromLatin1(each.arguments).split(u' ')).problem.toStdString(),
+              each.problem);
 }
 
 TEST(GatewayProgram, servesUntilItIsAskedToEnd) {

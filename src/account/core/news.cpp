@@ -2,7 +2,7 @@
 
 #include <QRegularExpression>
 
-#include "gateway/core/gateway.h"
+#include "gateway/core/background_gateway.h"
 
 namespace parlexo {
 namespace {
@@ -35,11 +35,14 @@ void append(std::vector<NewsPart>& parts, const QString& text, const QUrl& page 
 
 }  // namespace
 
-std::optional<QString> fetchNews(const Gateway& gateway) {
-  const auto reply = gateway.call<protocol::getNewsResponse>(
-      [](GatewayClient& client, protocol::getNewsResponse& response) { return client.getNews(response); });
-  if (!reply.answered() || reply->nErrorCode != 0) return std::nullopt;
-  return fromWire(reply->sNews);
+void fetchNews(const BackgroundGateway& gateway, QObject& context,
+               std::function<void(const QString& news)> show) {
+  gateway.call<protocol::getNewsResponse>(
+      context,
+      [](GatewayClient& client, protocol::getNewsResponse& response) { return client.getNews(response); },
+      [show = std::move(show)](const Reply<protocol::getNewsResponse>& reply) {
+        if (reply.answered() && reply->nErrorCode == 0) show(fromWire(reply->sNews));
+      });
 }
 
 std::vector<NewsPart> newsParts(const QString& news) {

@@ -1,17 +1,21 @@
 #pragma once
 
-#include <optional>
+#include <functional>
 #include <vector>
 
 #include <QString>
 #include <QUrl>
 
+class QObject;
+
 namespace parlexo {
 
-class Gateway;
+class BackgroundGateway;
 
-/// What the gateway has to tell everybody; none when it could not be had. Needs no session.
-[[nodiscard]] std::optional<QString> fetchNews(const Gateway& gateway);
+/// Fetches the gateway's news, which need no session, in the background and passes them to `show` on the
+/// interface thread. `show` is not called when they could not be fetched, nor after `context` was destroyed.
+void fetchNews(const BackgroundGateway& gateway, QObject& context,
+               std::function<void(const QString& news)> show);
 
 /// A stretch of a text: plain words, or a web address with the page it names.
 struct NewsPart {

@@ -4,6 +4,7 @@
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QToolButton>
 
 namespace parlexo {
 
@@ -16,6 +17,8 @@ SearchField::SearchField(const QString& hint, QAbstractItemView& list, QWidget* 
   setPlaceholderText(hint);
   setAccessibleName(hint);
   setClearButtonEnabled(true);
+  if (auto* clearButton = findChild<QToolButton*>())
+    clearButton->setAccessibleName(QStringLiteral("Clear search"));
 }
 
 void SearchField::keyPressEvent(QKeyEvent* event) {

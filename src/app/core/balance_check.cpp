@@ -25,9 +25,9 @@ QString BalanceCheck::run() {
   return balance ? take(*balance) : QString();
 }
 
-QString BalanceCheck::refresh() {
+std::optional<QString> BalanceCheck::refresh() {
   const auto balance = query();
-  if (!balance) return {};
+  if (!balance) return std::nullopt;
   if (*balance <= 0.0) state_.balanceIsZero = true;
   return twoDecimals(*balance);
 }

@@ -25,9 +25,10 @@ class BalanceCheck {
   /// hidden before any message.
   [[nodiscard]] QString run();
 
-  /// The balance anew, for the user who asks for it and looks at it: as run(), but without the warnings,
-  /// which belong to the start of a run. What a balance of zero forbids, the send pages say when asked to.
-  [[nodiscard]] QString refresh();
+  /// The current balance, for a user who asked for it: as run(), but none when it could not be had, and
+  /// without the warnings, which belong to the start of a run. What a balance of zero forbids, the send pages
+  /// say when asked to.
+  [[nodiscard]] std::optional<QString> refresh();
 
   /// Judges a balance that the gateway has told and returns it with two decimals.
   [[nodiscard]] QString take(double balance);

@@ -83,11 +83,6 @@ void CConnectingDlg::growToFit() {
   if (needed.width() > minimumWidth()) setMinimumWidth(needed.width());
 }
 
-void CConnectingDlg::changeEvent(QEvent* event) {
-  GradientDialog::changeEvent(event);
-  if (event->type() == QEvent::ActivationChange && isActiveWindow()) hasBeenActive_ = true;
-}
-
 void CConnectingDlg::paintEvent(QPaintEvent* event) {
   GradientDialog::paintEvent(event);
   QPainter painter(this);

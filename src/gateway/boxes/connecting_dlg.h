@@ -30,9 +30,6 @@ class CConnectingDlg final : public GradientDialog {
   /// Shows the Cancel button. A press, or Escape, emits cancelled() and makes the button dull.
   void offerCancel();
 
-  /// Whether the window system has ever given it the focus, which takes a moment after show().
-  [[nodiscard]] bool hasBeenActive() const { return hasBeenActive_; }
-
   /// Escape: like Cancel, as soon as that is offered.
   void reject() override;
 
@@ -41,7 +38,6 @@ class CConnectingDlg final : public GradientDialog {
   void cancelled();
 
  protected:
-  void changeEvent(QEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
 
@@ -52,7 +48,6 @@ class CConnectingDlg final : public GradientDialog {
   QLabel* label_ = nullptr;
   QLabel* detail_ = nullptr;
   PictureButton* cancel_ = nullptr;
-  bool hasBeenActive_ = false;
 };
 
 }  // namespace parlexo

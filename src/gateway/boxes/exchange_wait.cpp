@@ -1,63 +1,15 @@
 #include "gateway/boxes/exchange_wait.h"
 
-#include <atomic>
-#include <exception>
-#include <mutex>
-#include <system_error>
-#include <thread>
 #include <utility>
 
 #include <QAbstractEventDispatcher>
 #include <QEventLoop>
 
 #include "gateway/boxes/progress_box.h"
+#include "gateway/core/exchange_thread.h"
 #include "ui/input_block.h"
 
 namespace parlexo {
-
-/// What worker and interface thread share. Each keeps it alive, so that a worker left behind never touches
-/// what the interface thread has already given back.
-class ExchangeWait::Worker {
- public:
-  explicit Worker(CallRunner::Exchange exchange) : exchange_(std::move(exchange)) {}
-
-  void work(const CancelFlag& cancel) {
-    bool succeeded = false;
-    try {
-      exchange_(cancel);
-      succeeded = true;
-    } catch (const std::exception& error) {
-      qWarning("An exchange failed: %s", error.what());
-    } catch (...) {
-      qWarning("An exchange failed.");
-    }
-    exchange_ = nullptr;
-    finish(succeeded);
-  }
-
-  [[nodiscard]] bool hasEnded() const { return ended_; }
-  [[nodiscard]] bool hasSucceeded() const { return ended_ && succeeded_; }
-
-  /// From here on the worker wakes nobody.
-  void leaveBehind() {
-    const std::scoped_lock lock(mutex_);
-    waiter_ = nullptr;
-  }
-
- private:
-  void finish(bool succeeded) {
-    const std::scoped_lock lock(mutex_);
-    succeeded_ = succeeded;
-    ended_ = true;
-    if (waiter_) waiter_->wakeUp();
-  }
-
-  CallRunner::Exchange exchange_;
-  std::mutex mutex_;
-  QAbstractEventDispatcher* waiter_ = QAbstractEventDispatcher::instance();
-  bool succeeded_ = false;
-  std::atomic<bool> ended_ = false;
-};
 
 ExchangeWait::ExchangeWait(ProgressBox& progress, std::chrono::milliseconds untilBox,
                            std::chrono::milliseconds untilCancel, std::function<void()> onCancel)
@@ -77,24 +29,13 @@ ExchangeWait::~ExchangeWait() {
 
 bool ExchangeWait::run(CallRunner::Exchange exchange) {
   const InputBlock block(InputBlock::CloseRequests::Dropped);
-  worker_ = std::make_shared<Worker>(std::move(exchange));
-  std::thread thread;
-  try {
-    thread = std::thread([worker = worker_, cancel = cancelFlag_] { worker->work(cancel); });
-  } catch (const std::system_error& error) {
-    qWarning("No thread for an exchange: %s", error.what());
-    return false;
-  }
+  const auto wakeUp = [waiter = QAbstractEventDispatcher::instance()] { waiter->wakeUp(); };
+  ExchangeThread thread(std::move(exchange), wakeUp, cancelFlag_);
   // Not exec(): a quit() of the application would end that while the worker still runs.
   QEventLoop loop;
-  while (!worker_->hasEnded() && !givenUp_) loop.processEvents(QEventLoop::WaitForMoreEvents);
-  if (worker_->hasEnded()) {
-    thread.join();
-  } else {
-    worker_->leaveBehind();
-    thread.detach();
-  }
-  return worker_->hasSucceeded();
+  while (!thread.hasEnded() && !givenUp_) loop.processEvents(QEventLoop::WaitForMoreEvents);
+  if (!thread.hasEnded()) thread.leaveBehind();
+  return thread.hasSucceeded();
 }
 
 void ExchangeWait::cancel(std::chrono::milliseconds grace) {

@@ -2,7 +2,6 @@
 
 #include <chrono>
 #include <functional>
-#include <memory>
 
 #include <QTimer>
 
@@ -32,8 +31,6 @@ class ExchangeWait {
   void cancel(std::chrono::milliseconds grace);
 
  private:
-  class Worker;
-
   void look();
   void offerCancelWhenDue();
   void showBox();
@@ -41,7 +38,6 @@ class ExchangeWait {
   ProgressBox& progress_;
   std::chrono::milliseconds untilCancel_;
   std::function<void()> onCancel_;
-  std::shared_ptr<Worker> worker_;
   CancelFlag cancelFlag_;
   QTimer boxTimer_;
   QTimer graceTimer_;

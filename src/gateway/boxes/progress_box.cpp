@@ -2,11 +2,12 @@
 
 #include <utility>
 
-#include <QApplication>
+#include <QCoreApplication>
 #include <QEventLoop>
 #include <QScreen>
 
 #include "base/data_size.h"
+#include "ui/front_window.h"
 
 namespace parlexo {
 
@@ -14,32 +15,11 @@ namespace {
 
 constexpr qint64 repaintPause = 30;  // milliseconds
 constexpr std::chrono::milliseconds transferPause{100};
-constexpr std::chrono::milliseconds untilSettled{100};  // time enough for a window manager
 
 // Window managers put a frameless box without an owner into a corner.
 void centreOnScreen(QWidget& box) {
   box.adjustSize();
   box.move(box.screen()->availableGeometry().center() - box.rect().center());
-}
-
-bool programIsActive() {
-  return QGuiApplication::applicationState() == Qt::ApplicationActive;
-}
-
-// Between a window that has just closed and the one below it none may be active for a moment.
-QWidget* windowBelow() {
-  QWidget* active = QApplication::activeWindow();
-  return active ? active : QApplication::activeModalWidget();
-}
-
-// A window manager that is told of a box's end before it has dealt with its beginning may leave the focus
-// where it was without a word, and Qt takes no window for the active one: shortcuts would be dead. So ask
-// once more.
-void giveFocusTo(QWidget& window) {
-  window.activateWindow();
-  QTimer::singleShot(untilSettled, &window, [&window] {
-    if (!QApplication::activeWindow()) window.activateWindow();
-  });
 }
 
 void handleWaitingEvents() {
@@ -55,8 +35,7 @@ ProgressBox::~ProgressBox() {
 void ProgressBox::show(const QString& text) {
   if (!box_) {
     block_ = std::make_unique<InputBlock>();
-    takesFocus_ = programIsActive();
-    box_ = new CConnectingDlg(windowBelow());
+    box_ = new CConnectingDlg(frontWindow());
     // The box may go before hide() is called: with the window it stands over.
     QObject::connect(box_, &QObject::destroyed, box_, [this] { block_.reset(); });
     if (!text.isEmpty()) box_->setText(text);
@@ -129,13 +108,7 @@ std::chrono::milliseconds ProgressBox::untilCancel(std::chrono::milliseconds sta
 
 void ProgressBox::remove() {
   transferTimer_.stop();
-  if (!box_) return;
-  const QPointer<QWidget> below = box_->parentWidget();
-  // A box that had the focus and lost it has lost it to another program, which keeps it.
-  const bool isWaitedFor = takesFocus_ && !box_->hasBeenActive();
-  const bool hasFocus = box_->isActiveWindow() || isWaitedFor;
   delete box_.data();
-  if (below && hasFocus) giveFocusTo(*below);
 }
 
 }  // namespace parlexo

@@ -52,7 +52,6 @@ class ProgressBox final : public Progress {
   QElapsedTimer exchanging_;
   std::optional<std::chrono::milliseconds> untilCancel_;
   QTimer transferTimer_;
-  bool takesFocus_ = false;  ///< whether the program had the focus when the box came
   bool isOffered_ = false;
   bool isCancelled_ = false;
 };

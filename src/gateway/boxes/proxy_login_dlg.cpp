@@ -1,12 +1,12 @@
 #include "gateway/boxes/proxy_login_dlg.h"
 
-#include <QApplication>
 #include <QGridLayout>
 #include <QLabel>
 #include <QLineEdit>
 
 #include "gateway/boxes/box_column.h"
 #include "gateway/core/leading_number.h"
+#include "ui/front_window.h"
 #include "ui/look.h"
 #include "ui/page_controls.h"
 #include "ui/unsendable_hint.h"
@@ -78,7 +78,7 @@ ProxySettings CProxyLoginDlg::settings() const {
 }
 
 std::optional<ProxySettings> ProxyLoginBox::ask() {
-  CProxyLoginDlg dialog(discovery_, QApplication::activeWindow());
+  CProxyLoginDlg dialog(discovery_, frontWindow());
   if (dialog.exec() != QDialog::Accepted) return std::nullopt;
   return dialog.settings();
 }

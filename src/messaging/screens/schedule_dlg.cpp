@@ -6,6 +6,7 @@
 #include <QFormLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QSignalBlocker>
@@ -18,6 +19,22 @@
 #include "ui/picture_button.h"
 
 namespace parlexo {
+
+namespace {
+
+// Qt leaves these parts of its calendar without a name; the object names are Qt's own.
+void nameForAssistiveTools(QCalendarWidget& calendar) {
+  const std::pair<const char*, QString> parts[] = {
+      {"qt_calendar_prevmonth", QStringLiteral("Previous month")},
+      {"qt_calendar_nextmonth", QStringLiteral("Next month")},
+      {"qt_calendar_yearedit", QStringLiteral("Year")},
+      {"qt_calendar_calendarview", QStringLiteral("Days")},
+  };
+  for (const auto& [objectName, name] : parts)
+    if (auto* part = calendar.findChild<QWidget*>(QLatin1String(objectName))) part->setAccessibleName(name);
+}
+
+}  // namespace
 
 CScheduleDlg::CScheduleDlg(QWidget* parent, Clock clock) : GradientDialog(parent), clock_(std::move(clock)) {
   setObjectName(QStringLiteral("scheduleDialog"));
@@ -34,6 +51,9 @@ void CScheduleDlg::createControls() {
   calendar_ = new QCalendarWidget(this);
   calendar_->setObjectName(QStringLiteral("calendar"));
   calendar_->setAccessibleName(QStringLiteral("Date:"));
+  nameForAssistiveTools(*calendar_);
+  // It has the keyboard in the place of the calendar.
+  calendar_->focusProxy()->installEventFilter(this);
   calendar_->setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
   QTextCharFormat likeOtherDays;  // any day will do, and red is hard to read on the highlighted one
   likeOtherDays.setForeground(look::text);
@@ -97,6 +117,16 @@ QLayout* CScheduleDlg::buttonRow() {
   auto* cancel = addButton(*row, QStringLiteral("cancelButton"), QStringLiteral("&Cancel"));
   connect(cancel, &PictureButton::clicked, this, &QDialog::reject);
   return row;
+}
+
+bool CScheduleDlg::eventFilter(QObject* target, QEvent* event) {
+  const bool isKey = target == calendar_->focusProxy() && event->type() == QEvent::KeyPress;
+  const int key = isKey ? static_cast<QKeyEvent*>(event)->key() : 0;
+  // Queued, because the calendar first takes over a date that was typed into it. Its own signal for Enter
+  // also comes with a click under some styles.
+  if (key == Qt::Key_Return || key == Qt::Key_Enter)
+    QMetaObject::invokeMethod(this, &CScheduleDlg::accept, Qt::QueuedConnection);
+  return GradientDialog::eventFilter(target, event);
 }
 
 void CScheduleDlg::chooseCurrentTime() {

@@ -32,6 +32,10 @@ class CScheduleDlg final : public GradientDialog {
   /// What the two fields show.
   [[nodiscard]] const Schedule& schedule() const { return schedule_; }
 
+ protected:
+  /// Enter in the calendar takes the date and closes the dialog.
+  bool eventFilter(QObject* target, QEvent* event) override;
+
  private:
   void createControls();
   void createLayout();

@@ -72,16 +72,5 @@ TEST(AnimatedPicture, brokenDataLeavesItBlank) {
   }
 }
 
-TEST(AnimatedPicture, programsAnimationIsThereAndMoves) {
-  CAnimatedPicture picture;
-  EXPECT_FALSE(picture.loadFromResource(QStringLiteral(":/animations/missing.gif")));
-  ASSERT_TRUE(picture.loadFromResource(QString::fromLatin1(connectingAnimation)));
-  EXPECT_GT(picture.frameCount(), 1);
-  EXPECT_GE(picture.sizeHint().height(), 32);
-  EXPECT_LE(picture.sizeHint().height(), 48);
-  EXPECT_TRUE(picture.start());
-  EXPECT_TRUE(QTest::qWaitFor([&] { return picture.currentFrame() == 2; }));
-}
-
 }  // namespace
 }  // namespace parlexo

@@ -27,21 +27,6 @@ class ThreadCallRunnerTest : public ::testing::Test {
   ThreadCallRunner runner_{progress_, {.untilBox = 50ms, .afterCancel = 100ms}};
 };
 
-TEST_F(ThreadCallRunnerTest, exchangeRunsElsewhereWhileEventsGoOn) {
-  int ticks = 0;
-  QTimer timer;
-  QObject::connect(&timer, &QTimer::timeout, [&] { ++ticks; });
-  timer.start(10ms);
-  std::thread::id worker;
-  EXPECT_TRUE(runner_.run([&](const CancelFlag&) {
-    worker = std::this_thread::get_id();
-    std::this_thread::sleep_for(120ms);
-  }));
-  EXPECT_NE(worker, std::thread::id());
-  EXPECT_NE(worker, std::this_thread::get_id());
-  EXPECT_GE(ticks, 3);
-}
-
 TEST_F(ThreadCallRunnerTest, manyShortExchangesAllEnd) {
   int ended = 0;
   for (int i = 0; i < 300; ++i) ended += runner_.run([](const CancelFlag&) {}) ? 1 : 0;

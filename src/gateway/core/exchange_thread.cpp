@@ -1,0 +1,111 @@
+#include "gateway/core/exchange_thread.h"
+
+#include <condition_variable>
+#include <exception>
+#include <mutex>
+#include <system_error>
+#include <utility>
+
+#include <QtGlobal>
+
+namespace parlexo {
+
+namespace {
+
+constexpr std::chrono::milliseconds untilLeftBehind{500};
+
+bool succeeds(const CallRunner::Exchange& exchange, const CancelFlag& cancel) {
+  try {
+    exchange(cancel);
+    return true;
+  } catch (const std::exception& error) {
+    qWarning("An exchange failed: %s", error.what());
+  } catch (...) {
+    qWarning("An exchange failed.");
+  }
+  return false;
+}
+
+}  // namespace
+
+/// Owned by both threads, so that it outlives an exchange that is left behind.
+class ExchangeThread::Shared {
+ public:
+  explicit Shared(std::function<void()> onEnd) : onEnd_(std::move(onEnd)) {}
+
+  void end(bool succeeded) {
+    const std::scoped_lock lock(mutex_);
+    hasEnded_ = true;
+    hasSucceeded_ = succeeded;
+    ended_.notify_all();
+    // Under the lock, so that forget() waits for a callback that is running.
+    if (onEnd_) onEnd_();
+  }
+
+  [[nodiscard]] bool waitFor(std::chrono::milliseconds limit) {
+    std::unique_lock lock(mutex_);
+    return ended_.wait_for(lock, limit, [this] { return hasEnded_; });
+  }
+
+  [[nodiscard]] bool hasSucceeded() {
+    const std::scoped_lock lock(mutex_);
+    return hasSucceeded_;
+  }
+
+  void forget() {
+    const std::scoped_lock lock(mutex_);
+    onEnd_ = nullptr;
+  }
+
+ private:
+  std::mutex mutex_;
+  std::condition_variable ended_;
+  std::function<void()> onEnd_;
+  bool hasEnded_ = false;
+  bool hasSucceeded_ = false;
+};
+
+ExchangeThread::ExchangeThread(CallRunner::Exchange exchange, std::function<void()> onEnd, CancelFlag cancel)
+    : cancel_(std::move(cancel)), shared_(std::make_shared<Shared>(std::move(onEnd))) {
+  try {
+    thread_ = std::thread([shared = shared_, cancel = cancel_, work = std::move(exchange)]() mutable {
+      const bool succeeded = succeeds(work, cancel);
+      work = nullptr;  // what it owns is given back before its end is reported
+      shared->end(succeeded);
+    });
+  } catch (const std::system_error& error) {
+    qWarning("No thread for an exchange: %s", error.what());
+    shared_->end(false);
+  }
+}
+
+ExchangeThread::~ExchangeThread() {
+  cancel();
+  shared_->forget();
+  if (!thread_.joinable()) return;
+  if (waitFor(untilLeftBehind))
+    thread_.join();
+  else
+    thread_.detach();
+}
+
+void ExchangeThread::leaveBehind() {
+  cancel();
+  shared_->forget();
+  if (thread_.joinable()) thread_.detach();
+}
+
+bool ExchangeThread::waitFor(std::chrono::milliseconds limit) const {
+  return shared_->waitFor(limit);
+}
+
+bool ExchangeThread::hasSucceeded() const {
+  return shared_->hasSucceeded();
+}
+
+bool DeadlineRunner::run(Exchange exchange) {
+  const ExchangeThread thread(std::move(exchange));
+  return thread.waitFor(limit_) && thread.hasSucceeded();
+}
+
+}  // namespace parlexo

@@ -1,0 +1,57 @@
+#pragma once
+
+#include <chrono>
+#include <functional>
+#include <memory>
+#include <thread>
+
+#include "base/call_runner.h"
+
+namespace parlexo {
+
+/// One exchange on a thread of its own. An exchange that does not end is left behind with everything it
+/// owns: a blocked name lookup cannot be interrupted.
+class ExchangeThread {
+ public:
+  /// Starts `exchange`. `onEnd` is called when it has ended, also when it threw, on its thread; or at once on
+  /// the calling thread when no thread could be started. The exchange polls `cancel`, which may be raised
+  /// already.
+  explicit ExchangeThread(CallRunner::Exchange exchange, std::function<void()> onEnd = {},
+                          CancelFlag cancel = {});
+  /// Cancels the exchange and waits up to 500 ms for its end, then leaves it behind. `onEnd` is not called
+  /// after this has returned.
+  ~ExchangeThread();
+  ExchangeThread(const ExchangeThread&) = delete;
+  ExchangeThread& operator=(const ExchangeThread&) = delete;
+
+  void cancel() const { cancel_.raise(); }
+  /// Cancels the exchange and leaves it behind without a wait.
+  void leaveBehind();
+  /// True when the exchange has ended within `limit`.
+  [[nodiscard]] bool waitFor(std::chrono::milliseconds limit) const;
+  [[nodiscard]] bool hasEnded() const { return waitFor(std::chrono::milliseconds::zero()); }
+  /// Whether the exchange has ended without an exception.
+  [[nodiscard]] bool hasSucceeded() const;
+
+ private:
+  class Shared;
+
+  CancelFlag cancel_;
+  std::shared_ptr<Shared> shared_;
+  std::thread thread_;
+};
+
+/// Runs an exchange while the calling thread waits without an event loop: for the end of the program, when no
+/// window is left to keep alive.
+class DeadlineRunner final : public CallRunner {
+ public:
+  /// An exchange that takes longer than `limit` is cancelled.
+  explicit DeadlineRunner(std::chrono::milliseconds limit) : limit_(limit) {}
+
+  [[nodiscard]] bool run(Exchange exchange) override;
+
+ private:
+  std::chrono::milliseconds limit_;
+};
+
+}  // namespace parlexo

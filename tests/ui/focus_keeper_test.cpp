@@ -1,0 +1,51 @@
+#include "ui/focus_keeper.h"
+
+#include <memory>
+
+#include <QApplication>
+#include <QTest>
+#include <gtest/gtest.h>
+
+#include "ui/gradient_page.h"
+
+namespace parlexo {
+namespace {
+
+/// The main window with a dialog over it and a question over that, and a window manager that forgets about
+/// the focus.
+class FocusKeeperTest : public testing::Test {
+ protected:
+  FocusKeeperTest() {
+    main_.show();
+    for (GradientDialog* each : {dialog_.get(), question_.get()}) {
+      each->setModal(true);
+      each->show();
+      EXPECT_TRUE(QTest::qWaitForWindowActive(each));
+    }
+  }
+
+  GradientPage main_;
+  std::unique_ptr<GradientDialog> dialog_ = std::make_unique<GradientDialog>(&main_);
+  std::unique_ptr<GradientDialog> question_ = std::make_unique<GradientDialog>(dialog_.get());
+};
+
+TEST_F(FocusKeeperTest, windowBelowGetsTheKeyboardWhenTwoCloseTogether) {
+  const FocusKeeper keeper;
+  question_.reset();
+  dialog_.reset();
+  QApplication::setActiveWindow(nullptr);
+  EXPECT_TRUE(QTest::qWaitFor([this] { return main_.isActiveWindow(); }, 1000));
+}
+
+TEST_F(FocusKeeperTest, programInTheBackgroundStaysThere) {
+  const FocusKeeper keeper;
+  QTest::qWait(500);  // until the windows that have just opened no longer count
+  QApplication::setActiveWindow(nullptr);
+  question_->close();
+  dialog_->close();
+  QTest::qWait(500);
+  EXPECT_EQ(QApplication::activeWindow(), nullptr);
+}
+
+}  // namespace
+}  // namespace parlexo
