@@ -7,7 +7,6 @@
 #include "base/product.h"
 #include "base/secret.h"
 #include "gateway/boxes/proxy_login_dlg.h"
-#include "gateway/core/exchange_thread.h"
 #include "gateway/core/gateway_search.h"
 #include "gateway/core/proxy_discovery.h"
 #include "gateway/core/server_locator.h"
@@ -15,8 +14,6 @@
 namespace parlexo {
 
 namespace {
-
-constexpr std::chrono::seconds untilSessionEnded{3};
 
 std::unique_ptr<Settings> openSettings(const ProgramOptions& options) {
   if (options.dataDir.isEmpty()) return std::make_unique<Settings>();
@@ -45,8 +42,7 @@ int Application::run() {
                    [this] { return locateGateway(); }});
   const int exitCode = startUp.run();
   // The window is gone by now, so this wait shows no progress box.
-  DeadlineRunner direct(untilSessionEnded);
-  ForegroundRunner runner(direct, backgroundQueue_);
+  DirectCallRunner runner;
   shutDown(state_, stores_, progress_, runner);
   wipe(state_.proxy.password);
   return exitCode;

@@ -21,6 +21,8 @@ inline constexpr seconds nextAddress{2};
 inline constexpr seconds silence{300};
 /// All of the last exchange, sessionEnd. Its answer is not used, so the program's end must not wait for it.
 inline constexpr seconds sessionEnd{3};
+/// All of a query in the background: one that hangs must not hold up those behind it for long.
+inline constexpr seconds background{60};
 
 // The locator's download.
 
@@ -53,6 +55,13 @@ inline constexpr seconds pageCount{10};
 inline constexpr milliseconds untilBox{300};
 /// Of exchanges under one box, before it offers Cancel.
 inline constexpr seconds untilCancel{10};
+/// The same for a query of many statuses, which is often started by mistake or takes longer than it is worth.
+inline constexpr seconds untilStatusCancel{3};
+/// From the end of a user's call to the next query in the background. One action of the user is often several
+/// calls in a row.
+inline constexpr milliseconds untilBackground{200};
+/// How long a background query may take to end when the program does, before it is left behind.
+inline constexpr milliseconds untilLeftBehind{500};
 /// How long a cancelled exchange may take to end before it is left behind.
 inline constexpr seconds afterCancel{2};
 

@@ -160,17 +160,6 @@ TEST_F(BackgroundThreadTest, destructionCancelsAndLeavesAnExchangeBehindThatDoes
   EXPECT_EQ(delivered_, 0);
 }
 
-TEST(DeadlineRunner, givesUpAtItsLimit) {
-  EXPECT_TRUE(DeadlineRunner(5s).run([](const CancelFlag&) {}));
-  QElapsedTimer clock;
-  clock.start();
-  EXPECT_FALSE(DeadlineRunner(50ms).run([](const CancelFlag& cancel) {
-    while (!cancel.isRaised()) std::this_thread::sleep_for(1ms);
-  }));
-  EXPECT_GE(clock.elapsed(), 50);
-  EXPECT_LT(clock.elapsed(), 2000);
-}
-
 /// Queries over a real connection, for a user who may log in again meanwhile.
 class BackgroundGatewayTest : public ::testing::Test {
  protected:
@@ -206,7 +195,8 @@ class BackgroundGatewayTest : public ::testing::Test {
   testing::FakeGateway server_{"HTTP/1.1 500 Internal Server Error\r\nContent-Length: 0\r\n\r\n"};
   RunState state_;
   BackgroundQueue queue_;
-  BackgroundGateway gateway_{state_, queue_, {.connect = std::chrono::seconds(5), .silence = std::chrono::seconds(5)}};
+  BackgroundGateway gateway_{
+      state_, queue_, {.connect = std::chrono::seconds(5), .silence = std::chrono::seconds(5)}};
   std::unique_ptr<QObject> context_ = std::make_unique<QObject>();
   std::vector<int> results_;
 };

@@ -36,7 +36,8 @@ struct BackgroundQuery<protocol::getStatusResponse> {
 class BackgroundGateway {
  public:
   /// `state` and `runner` must outlive this object and every query that was started.
-  BackgroundGateway(const RunState& state, BackgroundRunner& runner, const GatewayTimeouts& timeouts = {})
+  BackgroundGateway(const RunState& state, BackgroundRunner& runner,
+                    const GatewayTimeouts& timeouts = {.whole = timeouts::background})
       : state_(state), runner_(runner), timeouts_(timeouts) {}
 
   /// Queues `operation(client, response)`, which calls one method of the client and returns its result. It

@@ -9,6 +9,7 @@
 #include <QTimer>
 
 #include "base/background_runner.h"
+#include "base/timeouts.h"
 
 namespace parlexo {
 
@@ -52,7 +53,7 @@ class BackgroundQueue final : public BackgroundRunner {
   /// the user's is often several calls in a row.
   explicit BackgroundQueue(
       std::unique_ptr<BackgroundWorker> worker = std::make_unique<ThreadBackgroundWorker>(),
-      std::chrono::milliseconds untilResumed = std::chrono::milliseconds(200));
+      std::chrono::milliseconds untilResumed = timeouts::untilBackground);
 
   void add(BackgroundTask task) override;
   void pause() override;

@@ -8,11 +8,11 @@
 
 #include <QtGlobal>
 
+#include "base/timeouts.h"
+
 namespace parlexo {
 
 namespace {
-
-constexpr std::chrono::milliseconds untilLeftBehind{500};
 
 bool succeeds(const CallRunner::Exchange& exchange, const CancelFlag& cancel) {
   try {
@@ -83,7 +83,7 @@ ExchangeThread::~ExchangeThread() {
   cancel();
   shared_->forget();
   if (!thread_.joinable()) return;
-  if (waitFor(untilLeftBehind))
+  if (waitFor(timeouts::untilLeftBehind))
     thread_.join();
   else
     thread_.detach();
@@ -101,11 +101,6 @@ bool ExchangeThread::waitFor(std::chrono::milliseconds limit) const {
 
 bool ExchangeThread::hasSucceeded() const {
   return shared_->hasSucceeded();
-}
-
-bool DeadlineRunner::run(Exchange exchange) {
-  const ExchangeThread thread(std::move(exchange));
-  return thread.waitFor(limit_) && thread.hasSucceeded();
 }
 
 }  // namespace parlexo

@@ -41,17 +41,4 @@ class ExchangeThread {
   std::thread thread_;
 };
 
-/// Runs an exchange while the calling thread waits without an event loop: for the end of the program, when no
-/// window is left to keep alive.
-class DeadlineRunner final : public CallRunner {
- public:
-  /// An exchange that takes longer than `limit` is cancelled.
-  explicit DeadlineRunner(std::chrono::milliseconds limit) : limit_(limit) {}
-
-  [[nodiscard]] bool run(Exchange exchange) override;
-
- private:
-  std::chrono::milliseconds limit_;
-};
-
 }  // namespace parlexo

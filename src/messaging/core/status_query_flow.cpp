@@ -7,6 +7,7 @@
 #include "base/notifier.h"
 #include "base/progress.h"
 #include "base/run_state.h"
+#include "base/timeouts.h"
 #include "gateway/core/gateway.h"
 #include "messaging/core/receipts.h"
 #include "messaging/core/session_expiry.h"
@@ -15,8 +16,6 @@
 namespace parlexo {
 namespace {
 
-// A query of many messages is often started by mistake or takes longer than it is worth.
-constexpr std::chrono::seconds untilQueryCancel{3};
 // A gateway that can't be reached takes the whole connect time-out for each attempt.
 constexpr int mostTransportFailures = 3;
 
@@ -83,7 +82,7 @@ StatusQueryOutcome StatusQueryFlow::query(const QStringList& receipts, const Upd
 
 void StatusQueryFlow::askAll(const QStringList& receipts, Run& run, const Updated& updated) const {
   const ProgressScope box(services_.progress, queryProgressText(1, receipts.size()));
-  services_.progress.offerCancelAfter(untilQueryCancel);
+  services_.progress.offerCancelAfter(timeouts::untilStatusCancel);
   for (qsizetype i = 0; i < receipts.size() && !run.isOver(); ++i) {
     services_.progress.setText(queryProgressText(i + 1, receipts.size()));
     const Answer answer = ask(receipts[i]);
