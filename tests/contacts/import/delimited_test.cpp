@@ -126,6 +126,13 @@ TEST_F(DelimitedFileTest, findsEncodingAndDelimiterByItself) {
       {QByteArray("\xFE\xFF\0N\0a\0m\0e\0|\0P\0h\0o\0n\0e\0\n\0Z\0o\0\xEB\0|\0001\0,\0005", 38), "UTF-16BE"},
   };
   for (const auto& [bytes, what] : cases) EXPECT_EQ(rowsOf(this->read(write(bytes)).sheet), read) << what;
+
+  const QString named = write("sep=;\r\nA,b;c\n1,2;\"3");
+  EXPECT_EQ(detectFormat(named, {}, cancel_).delimiter, u';');
+  EXPECT_EQ(rowsOf(this->read(named).sheet), "A,b|c/");
+  EXPECT_THAT(this->read(named).problem.toStdString(), HasSubstr("Line 3")) << "the line of the file";
+  const QString even = write("Lee, Ann;0412345678\nOak, Bob;0412345679\n");
+  EXPECT_EQ(detectFormat(even, {}, cancel_).delimiter, u';') << "leaves a column of numbers";
 }
 
 TEST_F(DelimitedFileTest, judgesTheEncodingByTheWholeFile) {

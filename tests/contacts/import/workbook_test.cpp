@@ -1,9 +1,14 @@
+#include <algorithm>
+#include <random>
+
 #include <QDir>
 #include <QFile>
 #include <QStringList>
 #include <QTemporaryDir>
 #include <gmock/gmock.h>
 
+#include "contacts/import/binary_records.h"
+#include "contacts/import/compound_file.h"
 #include "contacts/import/number_format.h"
 #include "contacts/import/spread_sheet.h"
 #include "contacts/import/workbook_builder.h"
@@ -51,6 +56,7 @@ TEST(CSpreadSheet, readsTheWorkbooksOfRealProgramsAlike) {
     if (hasFormulas) {
       EXPECT_EQ(rowOf(people, 1).value(6), "Ann Example") << name;
     }
+    EXPECT_EQ(book.sheets().front().lacksFormulas, name == QLatin1String("libreoffice.xls")) << name;
   }
 }
 
@@ -63,11 +69,12 @@ TEST(CSpreadSheet, readsFilesOfAnyName) {
   }
 }
 
-TEST(CSpreadSheet, leavesOutSheetsWithoutCellsAndKeepsTheirPlaces) {
+TEST(CSpreadSheet, leavesOutSheetsWithoutCellsAndPutsHiddenOnesLast) {
   for (const char* name : {"openpyxl.xlsx", "xlwt.xls"}) {
     CSpreadSheet book;
     ASSERT_EQ(book.read(sample(name), {}, CancelFlag()), QString());
-    ASSERT_EQ(book.sheets().size(), 2u);
+    ASSERT_EQ(book.sheets().size(), 3u);
+    EXPECT_EQ(book.sheets()[2].name, "Lists (hidden)") << "though it is the first in the file";
     EXPECT_EQ(book.sheets()[1].name, "Other");
     EXPECT_EQ(rowOf(book.sheets()[1].sheet, 4), QStringList({"", "", "far"}));
     EXPECT_EQ(book.sheets()[1].sheet.rowCount(), 5);
@@ -106,6 +113,24 @@ TEST(CSpreadSheet, damagedFilesGiveAMessage) {
     EXPECT_THAT(problemOf(half.fileName()).toStdString(), HasSubstr("can't be read")) << name;
   }
   EXPECT_FALSE(CSpreadSheet::isWorkbook(QStringLiteral(SAMPLE_FOLDER "README.md")));
+}
+
+TEST(CompoundFile, survivesAnyBytes) {
+  QFile file(sample("libreoffice.xls"));
+  ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+  const QByteArray whole = file.readAll();
+  ASSERT_EQ(readBinarySheets(readCompoundStream(whole, u"Workbook")).size(), 1u);
+  std::mt19937 random(31);
+  for (int round = 0; round < 2000; ++round) {
+    QByteArray bytes =
+        whole.left(static_cast<qsizetype>(random() % static_cast<std::size_t>(whole.size())) + 1);
+    for (int change = 0; change < 20; ++change)
+      bytes[static_cast<qsizetype>(random() % static_cast<std::size_t>(std::min<qsizetype>(
+                                                  bytes.size(), 700)))] = static_cast<char>(random() % 256);
+    const QByteArray stream = readCompoundStream(bytes, u"Workbook");
+    ASSERT_LE(stream.size(), bytes.size() + (1 << 16));
+    ASSERT_LE(readBinarySheets(stream).size(), static_cast<std::size_t>(stream.size()));
+  }
 }
 
 TEST(WorkbookXml, givesUpOnWhatIsMadeToFillTheMemory) {
