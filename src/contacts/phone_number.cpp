@@ -107,9 +107,9 @@ QString textOfProblem(Problem problem, const QString& number, const QString& cal
     case Problem::UnknownCallingCode:
       return QStringLiteral("The country code of the number %1 is not in use.").arg(number);
     case Problem::WrongLength:
-      return QStringLiteral("The number %1 is too long or too short for its country code.").arg(number);
+      return QStringLiteral("The number %1 has a wrong length.").arg(number);
     case Problem::NoReading:
-      return QStringLiteral("The number %1 is not valid in the country code %2.").arg(number, callingCode);
+      return QStringLiteral("The number %1 is not valid in %2.").arg(number, callingCode);
   }
   Q_UNREACHABLE();
 }

@@ -7,26 +7,6 @@
 namespace parlexo {
 namespace {
 
-QByteArray field(const QByteArray& content, int width) {
-  return content.leftJustified(width, '\0');
-}
-
-TEST(ContactFileFormat, contactRecordHasItsFieldsInPlace) {
-  const ContactRecord contact = {"Zo\u00EB \u20AC",
-                                 "+491712345678",
-                                 "Yes",
-                                 "N",
-                                 "+4930",
-                                 "z@x.example",
-                                 {"one", "two", "", "four", "", "six"}};
-  const QByteArray expected = "\x01" + field("Zo\xEB \x80", 80) + field("z@x.example", 60) +
-                              field("+491712345678", 20) + field("+4930", 20) + "YN" + field("one", 40) +
-                              field("two", 40) + field("", 40) + field("four", 40) + field("", 40) +
-                              field("six", 40) + field("", 89);
-  ASSERT_EQ(expected.size(), 512);
-  EXPECT_EQ(packContact(contact), expected);
-}
-
 TEST(ContactFileFormat, longValuesFillTheirFieldsAndNothingElse) {
   ContactRecord contact = {QString(81, u'n'), QString(21, u'1'), {}, {},
                            QString(21, u'2'), QString(61, u'e'), {}};

@@ -1,4 +1,3 @@
-#include <random>
 #include <string>
 #include <vector>
 
@@ -80,24 +79,6 @@ TEST(DelimitedParser, tellsTheLineOfWhatIsBrokenOrTooMuch) {
   };
   for (const auto& [text, problem] : cases)
     EXPECT_THAT(parse(text, 3, small).problem.toStdString(), HasSubstr(problem)) << text.toStdString();
-}
-
-TEST(DelimitedParser, survivesAnyText) {
-  std::mt19937 random(20);
-  const QString alphabet = QStringLiteral("a,;\"\"\"\r\n \t\u00e9");
-  ImportLimits small;
-  small.columns = 20;
-  small.cellLength = 50;
-  for (int round = 0; round < 3000; ++round) {
-    QString text;
-    for (std::size_t length = random() % 200; length > 0; --length)
-      text += alphabet[static_cast<qsizetype>(random() % static_cast<std::size_t>(alphabet.size()))];
-    const Parsed whole = parse(text, 1000, small);
-    const Parsed pieces = parse(text, 1 + static_cast<int>(random() % 5), small);
-    ASSERT_EQ(rowsOf(whole.sheet), rowsOf(pieces.sheet)) << text.toStdString();
-    ASSERT_EQ(whole.problem, pieces.problem);
-    ASSERT_LE(whole.sheet.columnCount(), small.columns);
-  }
 }
 
 class DelimitedFileTest : public testing::Test {
