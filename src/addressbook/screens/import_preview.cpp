@@ -100,7 +100,9 @@ void ImportPreview::show(const Sheet& sheet, const ImportPlan& plan) {
 void ImportPreview::addChoice(int column, ImportField field) {
   auto* choice = new QComboBox(strip_);
   choice->setObjectName(QStringLiteral("column%1Choice").arg(column + 1));
-  choice->setAccessibleName(QStringLiteral("What column %1 becomes").arg(column + 1));
+  const QString purpose = QStringLiteral("What column %1 becomes").arg(column + 1);
+  choice->setAccessibleName(purpose);
+  choice->setAccessibleDescription(purpose);  // Qt on Unix names a combo box by its value
   for (const ImportField offered : importFields())
     choice->addItem(fieldLabel(offered), static_cast<int>(offered));
   choice->setCurrentIndex(choice->findData(static_cast<int>(field)));
