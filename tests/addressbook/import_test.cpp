@@ -130,7 +130,7 @@ TEST_F(ContactImportTest, aFullNameWinsOverItsParts) {
   EXPECT_TRUE(book_.findContact("Bob B. Brown") && book_.findContact("Cid Clay"));
 }
 
-TEST_F(ContactImportTest, tellsWhatARowLoses) {
+TEST_F(ContactImportTest, reportsWhatARowLoses) {
   user_.answer = {ImportUser::Choice::Overwrite, true};
   const ImportOutcome outcome = import(
       "Name,Phone,Fax,Email,Extra 2\n"

@@ -14,8 +14,8 @@ namespace parlexo {
 
 namespace {
 
-/// A cell as a field of a contact can hold it: one line of composed characters. What a code page lacks and
-/// nobody sees or cares about is replaced before it could become "?".
+/// A cell as a field of a contact can hold it: one line of composed characters. Invisible marks, blanks and
+/// dashes that the code page lacks are removed or replaced before they could become "?".
 QString fieldText(QStringView cell) {
   QString text;
   for (const QChar c : cell.toString().normalized(QString::NormalizationForm_C)) {
@@ -121,7 +121,7 @@ QString checkExtra(QString& value, std::size_t number) {
   return QStringLiteral("%1 is cut to %2 characters.").arg(fieldLabel(extraField(number))).arg(extraWidth);
 }
 
-/// A fax machine alone gets no SMS, whatever holds for the other contacts.
+/// A fax machine alone gets no SMS, even when the other contacts of the import do.
 void withdrawSmsWithoutPhone(ContactRecord& contact) {
   if (contact.phone.isEmpty()) contact.supportsSms = QStringLiteral("N");
 }

@@ -98,7 +98,7 @@ int rowsWithNumber(const Sheet& sheet) {
   return most;
 }
 
-/// A first line such as "sep=;" tells spreadsheet programs the delimiter.
+/// A first line such as "sep=;", which names the delimiter for spreadsheet programs.
 struct SeparatorLine {
   QChar delimiter;
   qsizetype length = 0;  ///< line end included; 0 without such a line
