@@ -75,11 +75,14 @@ PlanMatch matchPlan(std::string_view plan, std::string_view number) {
   return match;
 }
 
+/// Cuts the calling code of `country` off.
+std::string_view nationalPart(const CallingCode& country, std::string_view digits) {
+  return digits.substr(std::string_view(country.code).size());
+}
+
 PlanMatch matchNumber(std::string_view digits) {
   const CallingCode* country = findCallingCode(digits);
-  if (!country) return {};
-  digits.remove_prefix(std::string_view(country->code).size());
-  return matchPlan(country->plan, digits);
+  return country ? matchPlan(country->plan, nationalPart(*country, digits)) : PlanMatch();
 }
 
 void appendWithout(std::string_view prefixes, std::string_view digits, std::vector<std::string_view>& rests) {
@@ -103,13 +106,17 @@ bool isPlanned(std::string_view digits) {
 
 bool isPossible(std::string_view digits) {
   const PlanMatch match = matchNumber(digits);
-  return match.both || (match.length && !match.beginning);
+  return match.both || (match.length && !match.beginning && withoutTrunkPrefix(digits).empty());
 }
 
-std::vector<std::string_view> withoutTrunkPrefix(const CallingCode& country, std::string_view digits) {
+std::vector<std::string> withoutTrunkPrefix(std::string_view digits) {
+  std::vector<std::string> numbers;
+  const CallingCode* country = findCallingCode(digits);
+  if (!country) return numbers;
   std::vector<std::string_view> rests;
-  appendWithout(country.trunkPrefixes, digits, rests);
-  return rests;
+  appendWithout(country->trunkPrefixes, nationalPart(*country, digits), rests);
+  for (const std::string_view rest : rests) numbers.push_back(country->code + std::string(rest));
+  return numbers;
 }
 
 std::vector<std::string_view> withoutInternationalPrefix(const CallingCode* country,

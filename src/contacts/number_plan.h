@@ -1,5 +1,6 @@
 #pragma once
 
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -15,13 +16,13 @@ namespace parlexo {
 /// Whether `digits`, calling code included, have a length and a beginning that the plan knows.
 [[nodiscard]] bool isPlanned(std::string_view digits);
 
-/// Whether `digits`, calling code included, can be a number. Other than isPlanned() it accepts a beginning
-/// that the plan does not know, in any length of the plan: countries open new ranges.
+/// Whether `digits`, calling code included, can be a number. Unlike isPlanned() it accepts a beginning that
+/// the plan does not know, in any length of the plan: countries open new ranges, but none that begins with a
+/// trunk prefix.
 [[nodiscard]] bool isPossible(std::string_view digits);
 
-/// `digits` without each of the trunk prefixes that they begin with.
-[[nodiscard]] std::vector<std::string_view> withoutTrunkPrefix(const CallingCode& country,
-                                                               std::string_view digits);
+/// `digits`, calling code included, without each of the trunk prefixes that they have behind the code.
+[[nodiscard]] std::vector<std::string> withoutTrunkPrefix(std::string_view digits);
 
 /// `digits` without "00" and without each of the country's own international prefixes that they begin with.
 /// `country` may be null.

@@ -17,7 +17,10 @@ using Problem = PhoneNumber::Problem;
 
 constexpr qsizetype longestCallingCode = 4;
 constexpr QChar minusSign(0x2212);
-// Between area code and number. What follows the slash of "030 123456/78" is another extension.
+// A slash is decoration between area code and number. Behind a whole number it introduces another extension
+// or a second number: "030 123456/78", "04105 1234/1235".
+constexpr qsizetype mostDigitsBeforeSlash = 6;
+constexpr qsizetype longestCodeBeforeSlash = 3;
 constexpr qsizetype fewestDigitsBehindSlash = 4;
 
 bool isDecoration(QChar c) {
@@ -42,13 +45,20 @@ QString withoutIntroduction(QStringView written) {
   return number;
 }
 
-QString bareNumber(QStringView written) {
-  QString number = withoutIntroduction(written);
-  // "+44 (0)20 ...": the zero is for callers inside the country.
-  if (number.startsWith(u'+') || number.startsWith(u"00")) number.remove(QLatin1String("(0)"));
-  number = withoutDecoration(number);
+bool isSlashDecoration(const QString& number, qsizetype slash) {
+  const qsizetype prefix = number.startsWith(u'+')    ? 1 + longestCodeBeforeSlash
+                           : number.startsWith(u"00") ? 2 + longestCodeBeforeSlash
+                                                      : 0;
+  return slash > 0 && slash <= prefix + mostDigitsBeforeSlash &&
+         number.size() - slash > fewestDigitsBehindSlash;
+}
+
+QString bareNumber(QString number) {
+  // Programs that hold a column of numbers as floating point write 61491570156.0.
+  static const QRegularExpression fraction(QStringLiteral(R"(^(\+?\d{7,})\.0$)"));
+  number = withoutDecoration(number.replace(fraction, QStringLiteral("\\1")));
   const qsizetype slash = number.indexOf(u'/');
-  if (slash > 0 && number.size() - slash > fewestDigitsBehindSlash) number.remove(slash, 1);
+  if (isSlashDecoration(number, slash)) number.remove(slash, 1);
   return number;
 }
 
@@ -65,22 +75,48 @@ QString international(std::string_view digits) {
   return u'+' + QString::fromLatin1(digits.data(), static_cast<qsizetype>(digits.size()));
 }
 
-/// All numbers that `digits` can be where `code` is the default.
-std::set<std::string> readingsOf(std::string_view digits, const std::string& code) {
-  const CallingCode* country = findCallingCode(code);
-  std::set<std::string> readings;
-  for (const std::string_view abroad : withoutInternationalPrefix(country, digits))
-    if (isPossible(abroad)) readings.emplace(abroad);
-  if (!country) return readings;
-  const auto addPlanned = [&](const std::string& candidate) {
-    if (isPlanned(candidate)) readings.insert(candidate);
-  };
-  if (digits.starts_with(code)) addPlanned(std::string(digits));
-  addPlanned(code + std::string(digits));
-  for (const std::string_view national : withoutTrunkPrefix(*country, digits))
-    addPlanned(code + std::string(national));
-  return readings;
-}
+/// The numbers that a text can be. One that a numbering plan has is preferred to one that is merely possible.
+class Readings {
+ public:
+  explicit Readings(std::string defaultCode) : defaultCode_(std::move(defaultCode)) {}
+
+  void add(std::string_view digits, bool hasPlus) {
+    if (hasPlus)
+      addInternational(digits);
+    else
+      addAll(digits);
+  }
+
+  [[nodiscard]] const std::set<std::string>& numbers() const {
+    return planned_.empty() ? possible_ : planned_;
+  }
+
+ private:
+  void addAll(std::string_view digits) {
+    const CallingCode* country = findCallingCode(defaultCode_);
+    for (const std::string_view abroad : withoutInternationalPrefix(country, digits))
+      addInternational(abroad);
+    if (!country) return;
+    if (digits.starts_with(defaultCode_)) addPlanned(std::string(digits));
+    addPlanned(defaultCode_ + std::string(digits));
+  }
+
+  void addInternational(std::string_view digits) {
+    addPlanned(std::string(digits));
+    if (isPossible(digits)) possible_.emplace(digits);
+  }
+
+  /// Also without the trunk prefix, which people leave behind the calling code.
+  void addPlanned(const std::string& digits) {
+    if (isPlanned(digits)) planned_.insert(digits);
+    for (const std::string& shorter : withoutTrunkPrefix(digits))
+      if (isPlanned(shorter)) planned_.insert(shorter);
+  }
+
+  std::string defaultCode_;
+  std::set<std::string> planned_;
+  std::set<std::string> possible_;
+};
 
 /// What is wrong with a number that has an international prefix.
 Problem internationalProblem(std::string_view digits) {
@@ -125,7 +161,8 @@ PhoneNumber::PhoneNumber(QString text, std::optional<Problem> problem, QString p
     : text_(std::move(text)), problem_(problem), problemText_(std::move(problemText)) {}
 
 PhoneNumber PhoneNumber::parse(QStringView written, const QString& callingCode) {
-  const QString number = bareNumber(written);
+  QString introduced = withoutIntroduction(written);
+  const QString number = bareNumber(introduced);
   const auto failed = [&](Problem problem) {
     return PhoneNumber(number, problem, textOfProblem(problem, number, callingCode));
   };
@@ -134,13 +171,16 @@ PhoneNumber PhoneNumber::parse(QStringView written, const QString& callingCode) 
   const bool hasPlus = number.startsWith(u'+');
   const std::string digits = number.sliced(hasPlus ? 1 : 0).toStdString();
   if (!isDigits(digits)) return failed(Problem::NotANumber);
-  if (hasPlus && !isPossible(digits)) return failed(internationalProblem(digits));
 
-  const std::set<std::string> readings =
-      hasPlus ? std::set{digits} : readingsOf(digits, callingCode.mid(1).toStdString());
-  if (readings.empty()) return failed(problemOfUnreadable(digits, callingCode));
-  if (readings.size() > 1) return {number, Problem::Ambiguous, ambiguityText(number, readings)};
-  return {international(*readings.begin()), std::nullopt, QString()};
+  Readings readings(callingCode.mid(1).toStdString());
+  readings.add(digits, hasPlus);
+  // "+44 (0)20 ...": the zero is for callers inside the country.
+  const QString shorter = bareNumber(introduced.remove(QLatin1String("(0)")));
+  if (shorter != number) readings.add(shorter.sliced(hasPlus ? 1 : 0).toStdString(), hasPlus);
+  const std::set<std::string>& numbers = readings.numbers();
+  if (numbers.size() > 1) return {number, Problem::Ambiguous, ambiguityText(number, numbers)};
+  if (numbers.size() == 1) return {international(*numbers.begin()), std::nullopt, QString()};
+  return failed(hasPlus ? internationalProblem(digits) : problemOfUnreadable(digits, callingCode));
 }
 
 std::optional<QString> PhoneNumber::parseCallingCode(QStringView typed) {

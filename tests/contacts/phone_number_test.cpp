@@ -32,10 +32,15 @@ TEST(PhoneNumber, readsNationalNumbersOfEveryKindOfCountry) {
       {"701 234 5678", "+7", "+77012345678"},
       {"8 701 234 56 78", "+7", "+77012345678"},
       {"7 701 234 56 78", "+7", "+77012345678"},
+      {"+49 0171 1234567", "+49", "+491711234567"},  // a zero that only callers inside the country dial
+      {"44 (0)20 7946 0958", "+44", "+442079460958"},
+      {"+39 (0)6 12345678", "+44", "+390612345678"},
+      {"61412345678.0", "+61", "+61412345678"},
       {"(55) 99123-4567", "+55", "+5555991234567"},
       {"06 30 123 4567", "+36", "+36301234567"},
       {"620 1234", "+1868", "+18686201234"},
       {"011 44 20 7946 0958", "+1", "+442079460958"},
+      {"0011 687 123456", "+61", "+687123456"},  // +1 has no numbers that begin with 1
       {"0011 44 20 7946 0958", "+61", "+442079460958"},
   };
   for (const auto& [written, code, number] : cases) EXPECT_EQ(read(written, code), number) << written;
@@ -59,6 +64,7 @@ TEST(PhoneNumber, refusesWhatItWouldHaveToGuess) {
       {" - ", "+61", Problem::Empty, ""},
       {"+61 2 9876 5432 ext. 5", "+61", Problem::NotANumber, ""},
       {"030 123456/78", "+49", Problem::NotANumber, ""},
+      {"04105 1234/1235", "+49", Problem::NotANumber, ""},
       {"+61412345678 / +61412345679", "", Problem::NotANumber, ""},
       {"6.1E+10", "+61", Problem::Rounded, "A spreadsheet program has rounded the number."},
       {"0412 345 678", "", Problem::NoCallingCode, "The number 0412345678 has no country code."},
@@ -74,6 +80,7 @@ TEST(PhoneNumber, refusesWhatItWouldHaveToGuess) {
       {"49 171 1234567", "+49", Problem::Ambiguous,
        "The number 491711234567 can be +491711234567 or +49491711234567. Write it with a plus sign."},
       {"390612345", "+39", Problem::Ambiguous, nullptr},
+      {"+39 (0)347 1234567", "", Problem::Ambiguous, nullptr},
   };
   for (const auto& [written, code, problem, text] : cases) {
     const PhoneNumber number = PhoneNumber::parse(QString::fromUtf8(written), QString::fromLatin1(code));
