@@ -117,7 +117,8 @@ ImportField extraField(std::size_t number) {
 /// Cuts an extra field to what the file can hold. Returns what to say about it.
 QString checkExtra(QString& value, std::size_t number) {
   if (toCodePage(value).size() <= extraWidth) return {};
-  while (toCodePage(value).size() > extraWidth) value.chop(1);
+  value.truncate(extraWidth);  // a character has at least one byte
+  while (toCodePage(value).size() > extraWidth || value.back().isHighSurrogate()) value.chop(1);
   return QStringLiteral("%1 is cut to %2 characters.").arg(fieldLabel(extraField(number))).arg(extraWidth);
 }
 

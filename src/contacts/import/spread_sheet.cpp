@@ -28,9 +28,8 @@ WorkbookKind kindOf(const QString& path) {
 
 QString unreadFormulasText() {
   return QStringLiteral(
-      "The formulas of this workbook can't be read, so their cells are empty here. Save it as .xlsx and "
-      "import "
-      "that file.");
+      "The formulas of this workbook can't be read, so their cells are empty here. "
+      "Save it as .xlsx and import that file.");
 }
 
 bool CSpreadSheet::isWorkbook(const QString& path) {
