@@ -167,7 +167,7 @@ QStringList cellsOf(const Sheet& sheet, int row) {
 }  // namespace
 
 QString planProblem(const ImportPlan& plan) {
-  if (!plan.maps(ImportField::Name) && !plan.maps(ImportField::Surname))
+  if (!plan.maps(ImportField::Name) && !plan.maps(ImportField::FirstName) && !plan.maps(ImportField::Surname))
     return QStringLiteral("Choose the column that holds the names.");
   if (!plan.maps(ImportField::Phone) && !plan.maps(ImportField::Fax))
     return QStringLiteral("Choose the column that holds the phone numbers.");
