@@ -17,7 +17,7 @@ struct CallingCode {
   const char* plan;
 };
 
-/// All calling codes that are in use.
+/// All calling codes that are in use, sorted by code.
 [[nodiscard]] std::span<const CallingCode> callingCodes();
 
 }  // namespace parlexo

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <charconv>
+#include <iterator>
 
 namespace parlexo {
 
@@ -93,11 +94,15 @@ void appendWithout(std::string_view prefixes, std::string_view digits, std::vect
 
 }  // namespace
 
+// As no code is the beginning of another, only the last one that does not sort behind the digits can match.
 const CallingCode* findCallingCode(std::string_view digits) {
   const auto codes = callingCodes();
-  const auto found = std::find_if(codes.begin(), codes.end(),
-                                  [&](const CallingCode& known) { return digits.starts_with(known.code); });
-  return found == codes.end() ? nullptr : &*found;
+  const auto behind = std::upper_bound(
+      codes.begin(), codes.end(), digits,
+      [](std::string_view searched, const CallingCode& known) { return searched < known.code; });
+  if (behind == codes.begin()) return nullptr;
+  const CallingCode& last = *std::prev(behind);
+  return digits.starts_with(last.code) ? &last : nullptr;
 }
 
 bool isPlanned(std::string_view digits) {

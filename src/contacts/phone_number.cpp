@@ -175,8 +175,10 @@ PhoneNumber PhoneNumber::parse(QStringView written, const QString& callingCode) 
   Readings readings(callingCode.mid(1).toStdString());
   readings.add(digits, hasPlus);
   // "+44 (0)20 ...": the zero is for callers inside the country.
-  const QString shorter = bareNumber(introduced.remove(QLatin1String("(0)")));
-  if (shorter != number) readings.add(shorter.sliced(hasPlus ? 1 : 0).toStdString(), hasPlus);
+  if (introduced.contains(QLatin1String("(0)"))) {
+    const QString shorter = bareNumber(introduced.remove(QLatin1String("(0)")));
+    readings.add(shorter.sliced(hasPlus ? 1 : 0).toStdString(), hasPlus);
+  }
   const std::set<std::string>& numbers = readings.numbers();
   if (numbers.size() > 1) return {number, Problem::Ambiguous, ambiguityText(number, numbers)};
   if (numbers.size() == 1) return {international(*numbers.begin()), std::nullopt, QString()};
