@@ -4,8 +4,6 @@
 
 #include <gtest/gtest.h>
 
-#include "contacts/calling_codes.h"
-
 namespace parlexo {
 namespace {
 
@@ -101,7 +99,6 @@ TEST(PhoneNumber, knowsCallingCodes) {
     EXPECT_FALSE(PhoneNumber::parseCallingCode(typed).has_value());
   EXPECT_TRUE(PhoneNumber::isCallingCodeInUse(u"+1868"));
   EXPECT_FALSE(PhoneNumber::isCallingCodeInUse(u"+999"));
-  EXPECT_GT(callingCodes().size(), 200U);
 }
 
 }  // namespace

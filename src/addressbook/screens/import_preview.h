@@ -13,7 +13,7 @@ class QTableWidget;
 namespace parlexo {
 
 /// The first rows of an imported file as they will be read. Above each column the user chooses what the
-/// column becomes; in front of each row stands the contact it will be, or why it will be refused.
+/// column becomes; the first cell of each row shows the contact it will be, or why it will be refused.
 class ImportPreview final : public QWidget {
   Q_OBJECT
 

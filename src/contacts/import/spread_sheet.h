@@ -30,8 +30,7 @@ class CSpreadSheet {
   [[nodiscard]] static bool isWorkbook(const QString& path);
 
   /// Reads all sheets with cells; hidden ones come last and have "(hidden)" behind their names. Returns what
-  /// is wrong with the file, as the user is told; empty when nothing is. Raising `cancel` ends the reading
-  /// early.
+  /// is wrong with the file, for the user; empty when nothing is. Raising `cancel` ends the reading early.
   [[nodiscard]] QString read(const QString& path, const ImportLimits& limits, const CancelFlag& cancel);
 
   [[nodiscard]] const std::vector<NamedSheet>& sheets() const { return sheets_; }

@@ -9,6 +9,7 @@
 #include "base/call_runner.h"
 #include "contacts/import/delimited_file.h"
 #include "contacts/import/delimited_parser.h"
+#include "tests/base/file_bytes.h"
 
 namespace parlexo {
 namespace {
@@ -83,12 +84,7 @@ TEST(DelimitedParser, tellsTheLineOfWhatIsBrokenOrTooMuch) {
 
 class DelimitedFileTest : public testing::Test {
  protected:
-  QString write(const QByteArray& bytes, const QString& name = QStringLiteral("file.csv")) {
-    QFile file(folder_.filePath(name));
-    EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(bytes);
-    return file.fileName();
-  }
+  QString write(const QByteArray& bytes) { return writeBytes(folder_.filePath("file.csv"), bytes); }
   [[nodiscard]] SheetReading read(const QString& path) const {
     return readDelimited(path, detectFormat(path, {}, cancel_), {}, cancel_);
   }
