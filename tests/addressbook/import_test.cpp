@@ -209,7 +209,7 @@ TEST_F(ContactImportTest, stopsWhereTheUserOrTheDiskStopsIt) {
 }
 
 TEST_F(ContactImportTest, repeatsWhatAGroupsFileDidNotTake) {
-  const QByteArray rows = "Name,Phone\nB,+61491570156\nC,+61491570156\n";
+  const QByteArray rows = "First Name,Phone\nB,+61491570156\nC,+61491570156\n";
   const QString file = folder_.filePath("Team.grp");
   ASSERT_TRUE(QFile::rename(file, file + ".away") && QDir().mkdir(file));
   ImportOutcome outcome = import(rows, "Team");

@@ -132,6 +132,8 @@ TEST_F(SelectContactsDlg, columnsShowFaxNumbersInFaxModeAndPhoneNumbersElse) {
 TEST_F(SelectContactsDlg, searchFiltersByNameShownNumberAndExtra) {
   people_.addContact("Fay", "+61491570158", "Y", "N", "+61255509999", {"Perth", "", "", "", "", "vip"});
   open(people_, "All");
+  type("contactSearch", "5550");
+  EXPECT_EQ(shown(contacts(), 1), QStringList()) << "a fax number that is not shown";
   type("contactSearch", "57015 VIP fay perth");
   EXPECT_EQ(shown(contacts(), 1), QStringList("Fay"));
   EXPECT_EQ(shown(groups(), 1), QStringList({"all", "Team"})) << "each search has its own list";
