@@ -17,13 +17,17 @@ struct Field {
 };
 
 constexpr Field nameField = {1, nameWidth};
-constexpr Field emailField = {81, 60};
+constexpr Field emailField = {81, emailWidth};
 constexpr Field phoneField = {141, 20};
 constexpr Field faxField = {161, 20};
 constexpr Field supportsSmsField = {181, 1};
 constexpr Field supportsMediaField = {182, 1};
-constexpr std::array<Field, ContactRecord::extraCount> extraFields = {
-    {{183, 40}, {223, 40}, {263, 40}, {303, 40}, {343, 40}, {383, 40}}};
+constexpr std::array<Field, ContactRecord::extraCount> extraFields = {{{183, extraWidth},
+                                                                       {223, extraWidth},
+                                                                       {263, extraWidth},
+                                                                       {303, extraWidth},
+                                                                       {343, extraWidth},
+                                                                       {383, extraWidth}}};
 
 // The rest of the field is zero already.
 void put(QByteArray& record, Field field, const QString& value) {

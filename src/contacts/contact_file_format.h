@@ -12,6 +12,9 @@ namespace parlexo {
 
 /// Width of the key, a contact's name, behind the state byte of every record.
 inline constexpr int nameWidth = 80;
+/// Widths of other fields, in bytes of the code page.
+inline constexpr int emailWidth = 60;
+inline constexpr int extraWidth = 40;
 inline constexpr int contactRecordSize = 512;
 inline constexpr int memberRecordSize = 256;
 

@@ -36,7 +36,7 @@ class ImportContactsDlgTest : public test::DiskBook {
   QString write(const QByteArray& text) { return writeBytes(folder_.filePath("people.csv"), text); }
   QTableWidget& preview() { return *dialog_.findChild<QTableWidget*>("preview"); }
   QString cell(int row, int column) {
-    const auto* item = preview().item(row, column);
+    const auto* item = preview().item(row - 1, column);
     return item ? item->text() : QString();
   }
   QComboBox& choice(int column) {

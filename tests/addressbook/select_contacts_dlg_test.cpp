@@ -105,20 +105,12 @@ TEST_F(SelectContactsDlg, contactsAndGroupsWithoutNameAreShownAndFound) {
   EXPECT_EQ(shown(groups(), 1), QStringList("(no name)"));
 }
 
-TEST_F(SelectContactsDlg, cancelAndEscapeLeaveTheSelectionAsItWas) {
-  for (const bool byKey : {false, true}) {
-    open(people_, "SMS", {"eva", "Ann"});
-    clickCell(contacts(), 0, 0);
-    clickCell(contacts(), 1, 0);
-    if (byKey) {
-      QTest::keyClick(&contacts(), Qt::Key_Escape);
-    } else {
-      press("cancelButton");
-    }
-    EXPECT_FALSE(dialog_->isVisible());
-    EXPECT_EQ(dialog_->result(), QDialog::Rejected);
-    EXPECT_EQ(selected(), QStringList({"Ann", "eva"}));
-  }
+TEST_F(SelectContactsDlg, cancelLeavesTheSelectionAsItWas) {
+  open(people_, "SMS", {"eva", "Ann"});
+  clickCell(contacts(), 0, 0);
+  press("cancelButton");
+  EXPECT_EQ(dialog_->result(), QDialog::Rejected);
+  EXPECT_EQ(selected(), QStringList({"Ann", "eva"}));
 }
 
 TEST_F(SelectContactsDlg, keyboardAloneTicksAndSelects) {
@@ -126,36 +118,13 @@ TEST_F(SelectContactsDlg, keyboardAloneTicksAndSelects) {
   EXPECT_TRUE(contacts().hasFocus());
   QTest::keyClick(&contacts(), Qt::Key_Space);
   EXPECT_EQ(ticked(), QStringList("Ann"));
-  QTest::keyClick(&contacts(), Qt::Key_D);
+  QTest::keyClick(&contacts(), Qt::Key_Down, Qt::ShiftModifier);
   QTest::keyClick(&contacts(), Qt::Key_Space);
-  EXPECT_EQ(ticked(), QStringList({"Ann", "Dan"}));
-  QTest::keyClick(&contacts(), Qt::Key_Up, Qt::ShiftModifier);
-  QTest::keyClick(&contacts(), Qt::Key_Up, Qt::ShiftModifier);
+  EXPECT_EQ(ticked(), QStringList({"Ann", "bob"})) << "all selected rows follow the current one";
   QTest::keyClick(&contacts(), Qt::Key_Space);
-  EXPECT_EQ(ticked(), QStringList({"Ann", "bob", "Cid", "Dan"}))
-      << "all selected rows follow the current one";
-  QTest::keyClick(&contacts(), Qt::Key_Space);
-  EXPECT_EQ(ticked(), QStringList("Ann"));
   QTest::keyClick(&contacts(), Qt::Key_Return);
   EXPECT_EQ(dialog_->result(), QDialog::Accepted);
-  EXPECT_EQ(selected(), QStringList("Ann"));
-}
-
-TEST_F(SelectContactsDlg, groupTicksItsEligibleMembersAndClearUnticksAll) {
-  open(people_, "Media", {});
-  ASSERT_EQ(groups().model()->index(1, 1).data().toString(), "Team");
-  QSignalSpy changes(contacts().model(), &QAbstractItemModel::dataChanged);
-  clickCell(groups(), 1, 0);
-  EXPECT_EQ(changes.count(), 1) << "however many members it has";
-  EXPECT_EQ(ticked(), QStringList({"Ann", "eva"}));
-  clickCell(groups(), 1, 0);
-  EXPECT_EQ(ticked(), QStringList());
-  clickCell(groups(), 1, 0);
-  press("clearAllButton");
-  EXPECT_EQ(ticked(), QStringList());
-  EXPECT_EQ(groups().model()->index(1, 0).data(Qt::CheckStateRole).toInt(), Qt::Unchecked);
-  press("selectButton");
-  EXPECT_TRUE(selected().isEmpty());
+  EXPECT_EQ(selected(), QStringList());
 }
 
 TEST_F(SelectContactsDlg, columnsShowFaxNumbersInFaxModeAndPhoneNumbersElse) {
@@ -172,17 +141,11 @@ TEST_F(SelectContactsDlg, columnsShowFaxNumbersInFaxModeAndPhoneNumbersElse) {
 TEST_F(SelectContactsDlg, searchFiltersByNameShownNumberAndExtra) {
   people_.addContact("Fay", "+61491570158", "Y", "N", "+61255509999", {"Perth", "", "", "", "", "vip"});
   open(people_, "All");
-  const std::pair<const char*, QStringList> cases[] = {{"A", {"Ann", "Dan", "eva", "Fay"}},
-                                                       {"57015", {"Ann", "eva", "Fay"}},
-                                                       {"VIP fay perth", {"Fay"}},
-                                                       {"5550", {}}};
-  for (const auto& [typed, names] : cases) {
-    type("contactSearch", typed);
-    EXPECT_EQ(shown(contacts(), 1), names) << typed;
-  }
+  type("contactSearch", "5550");
+  EXPECT_EQ(shown(contacts(), 1), QStringList()) << "a fax number that is not shown";
+  type("contactSearch", "57015 VIP fay perth");
+  EXPECT_EQ(shown(contacts(), 1), QStringList("Fay"));
   EXPECT_EQ(shown(groups(), 1), QStringList({"all", "Team"})) << "each search has its own list";
-  type("groupSearch", "EA");
-  EXPECT_EQ(shown(groups(), 1), QStringList("Team"));
   open(people_, "Fax");
   type("contactSearch", "5550");
   EXPECT_EQ(shown(contacts(), 1), QStringList({"Cid", "Fay"}));
@@ -196,7 +159,9 @@ TEST_F(SelectContactsDlg, searchKeepsTicksAndTicksWhatIsShown) {
   clickCell(contacts(), 1, 0);
   EXPECT_EQ(ticked(), QStringList("Dan"));
   type("groupSearch", "team");
+  const QSignalSpy changes(contacts().model(), &QAbstractItemModel::dataChanged);
   clickCell(groups(), 0, 0);
+  EXPECT_EQ(changes.count(), 1) << "however many members it has";
   EXPECT_EQ(ticked(), QStringList({"Ann", "Dan"}));
   EXPECT_EQ(countLine(), "4 of 5 contacts selected, 2 hidden by the search");
   field.clear();
@@ -205,6 +170,7 @@ TEST_F(SelectContactsDlg, searchKeepsTicksAndTicksWhatIsShown) {
   type("contactSearch", "bob");
   press("clearAllButton");
   EXPECT_EQ(countLine(), "0 of 5 contacts selected") << "clearing reaches hidden rows too";
+  EXPECT_EQ(groups().model()->index(0, 0).data(Qt::CheckStateRole).toInt(), Qt::Unchecked);
   press("selectButton");
   EXPECT_TRUE(selected().isEmpty());
 }
@@ -231,6 +197,7 @@ TEST_F(SelectContactsDlg, searchIsWorkedByKeyboard) {
   field->setFocus();
   QTest::keyClick(field, Qt::Key_Escape);
   EXPECT_FALSE(dialog_->isVisible());
+  EXPECT_TRUE(selected().isEmpty());
 }
 
 TEST_F(SelectContactsDlg, speaksItsNamesToAScreenReader) {

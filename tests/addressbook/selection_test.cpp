@@ -49,8 +49,6 @@ TEST(SelectionLists, modeDecidesWhoIsListed) {
       {"Fax", {"Cid"}},
       {"Phone", {"Ann", "eva"}},
       {"all", {}},
-      {"sms", {}},
-      {"fax", {}},
       {"SMS ", {}},
       {"", {}},
   };
@@ -137,10 +135,8 @@ TEST(ExtraSelection, fieldsMustAllMatchAndValuesOfAFieldAreAlternatives) {
     ExtraChoice choice;
     QStringList names;
   } cases[] = {
-      {"one value", {{{"Sydney"}, {}, {}, {}, {}, {}}}, {"Ann", "Cid"}},
       {"two values of a field", {{{"Sydney", "Perth"}, {}, {}, {}, {}, {}}}, {"Ann", "Bob", "Cid"}},
       {"two fields", {{{"Sydney"}, {"Sales"}, {}, {}, {}, {}}}, {"Ann"}},
-      {"two fields that never meet", {{{"Perth"}, {"Sales"}, {}, {}, {}, {}}}, {}},
       {"one late field alone", {{{}, {}, {}, {"VIP"}, {}, {}}}, {"Ann", "Bob"}},
       {"case counts", {{{}, {}, {}, {"vip"}, {}, {}}}, {"Dan"}},
       {"an empty value never matches", {{{}, {""}, {}, {}, {}, {}}}, {}},
@@ -170,7 +166,6 @@ TEST(TextSearch, findsTextsThatHoldEveryWord) {
     Found found;
   } cases[] = {
       {"", {0, 1, 2, 3}},
-      {" \t ", {0, 1, 2, 3}},
       {"ANN", {0, 2}},
       {"lee ann", {0, 2}},
       {"  ann   lee ", {0, 2}},

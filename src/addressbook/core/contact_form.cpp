@@ -20,11 +20,6 @@ bool matchesWhole(const QString& value, const QRegularExpression& pattern) {
   return match.hasMatch() && match.capturedLength() == value.size();
 }
 
-bool isEmailAddress(const QString& value) {
-  static const QRegularExpression pattern(QStringLiteral(R"(^[^@]+@([-\w]+\.)+[A-Za-z]{2,4}$)"));
-  return matchesWhole(value, pattern);
-}
-
 bool isInternationalNumber(const QString& value) {
   static const QRegularExpression pattern(QStringLiteral(R"(\+\d{1,30})"));
   return matchesWhole(value, pattern);
@@ -37,6 +32,11 @@ QString asContactText(const QString& typed) {
   for (const QChar character : typed)
     if (character.category() != QChar::Other_Control) text.append(character);
   return throughCodePage(text);
+}
+
+bool isEmailAddress(const QString& value) {
+  static const QRegularExpression pattern(QStringLiteral(R"(^[^@]+@([-\w]+\.)+[A-Za-z]{2,4}$)"));
+  return matchesWhole(value, pattern);
 }
 
 ContactForm::ContactForm(ContactRecord contact, NameTest isNameTaken)

@@ -12,6 +12,9 @@ namespace parlexo {
 /// `typed` as a contact can hold it: without control characters, and with "?" for what the code page lacks.
 [[nodiscard]] QString asContactText(const QString& typed);
 
+/// Whether the dialog accepts `value` as an e-mail address.
+[[nodiscard]] bool isEmailAddress(const QString& value);
+
 /// What is wrong with a contact that was typed, and where.
 struct ContactProblem {
   enum class Field { Name, Email, Phone, Fax };

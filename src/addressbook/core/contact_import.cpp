@@ -12,13 +12,9 @@ namespace parlexo {
 
 namespace {
 
-int firstRow(const ImportPlan& plan) {
-  return plan.hasHeadings ? 1 : 0;
-}
-
 int contactRows(const Sheet& sheet, const ImportPlan& plan) {
   int count = 0;
-  for (int row = firstRow(plan); row < sheet.rowCount(); ++row)
+  for (int row = plan.firstRow(); row < sheet.rowCount(); ++row)
     if (!sheet.isBlank(row)) ++count;
   return count;
 }
@@ -31,7 +27,7 @@ class Import {
 
   ImportOutcome run() {
     const int total = contactRows(sheet_, plan_);
-    for (int row = firstRow(plan_); row < sheet_.rowCount() && !hasEnded(); ++row) {
+    for (int row = plan_.firstRow(); row < sheet_.rowCount() && !hasEnded(); ++row) {
       if (sheet_.isBlank(row)) continue;
       outcome_.lastRow = row;
       if (user_.goOn(done(), total))
@@ -53,12 +49,15 @@ class Import {
 
   void take(int row) {
     const ImportRow read = readImportRow(sheet_, row, plan_);
+    const int stored = outcome_.imported + outcome_.updated;
     if (!read.refusal.isEmpty())
       outcome_.refused.push_back({row, read.refusal});
     else if (const ContactRecord* existing = book_.findContact(read.contact.name))
       takeExisting(*existing, read);
     else
       store(newContact(read, plan_), outcome_.imported);
+    if (!read.remark.isEmpty() && outcome_.imported + outcome_.updated > stored)
+      outcome_.remarks.push_back({row, read.remark});
   }
 
   void takeExisting(const ContactRecord& existing, const ImportRow& read) {
@@ -168,7 +167,7 @@ QStringList cellsOf(const Sheet& sheet, int row) {
 }  // namespace
 
 QString planProblem(const ImportPlan& plan) {
-  if (!plan.maps(ImportField::Name) && !plan.maps(ImportField::Surname))
+  if (!plan.maps(ImportField::Name) && !plan.maps(ImportField::FirstName) && !plan.maps(ImportField::Surname))
     return QStringLiteral("Choose the column that holds the names.");
   if (!plan.maps(ImportField::Phone) && !plan.maps(ImportField::Fax))
     return QStringLiteral("Choose the column that holds the phone numbers.");
@@ -191,13 +190,16 @@ QString summaryText(const ImportOutcome& outcome) {
              .arg(outcome.updated)
              .arg(outcome.skipped)
              .arg(outcome.refused.size()) +
+         (outcome.remarks.empty() ? QString()
+                                  : QStringLiteral("\nImported in part: %L1").arg(outcome.remarks.size())) +
          endingOf(outcome);
 }
 
 void writeRefusedRows(const Sheet& sheet, const ImportPlan& plan, const ImportOutcome& outcome,
                       CsvWriter& file) {
   const QString reasonHeading = QStringLiteral("Reason");
-  if (plan.hasHeadings && sheet.rowCount() > 0) file.addRow(cellsOf(sheet, 0) << reasonHeading);
+  if (plan.headingRow && sheet.rowCount() > *plan.headingRow)
+    file.addRow(cellsOf(sheet, *plan.headingRow) << reasonHeading);
   for (const ImportOutcome::Refused& refused : outcome.refused)
     file.addRow(cellsOf(sheet, refused.row) << refused.reason);
 }

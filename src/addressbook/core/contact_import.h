@@ -48,6 +48,10 @@ struct ImportOutcome {
     int row;  ///< of the sheet
     QString reason;
   };
+  struct Remark {
+    int row;  ///< of the sheet
+    QString text;
+  };
 
   End end = End::Complete;
   int lastRow = 0;  ///< of the sheet: where an import ended that is not complete
@@ -57,6 +61,7 @@ struct ImportOutcome {
   int skipped = 0;
   QStringList names;  ///< of the contacts that were imported or updated
   std::vector<Refused> refused;
+  std::vector<Remark> remarks;  ///< on rows that were imported, but not with all their values
 };
 
 /// Why the plan can't work, as the user is told: no column for the name or for a number. Empty when it can.

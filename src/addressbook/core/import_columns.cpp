@@ -1,8 +1,11 @@
 #include "addressbook/core/import_columns.h"
 
 #include <algorithm>
+#include <set>
 
 #include <QHash>
+
+#include "contacts/import/number_format.h"
 
 namespace parlexo {
 
@@ -24,9 +27,8 @@ struct Headings {
 /// The headings that address books, phones and mail programs write.
 const std::vector<Headings>& knownHeadings() {
   static const std::vector<Headings> known = {
-      {ImportField::Name,
-       {"name", "fullname", "contactname", "displayname", "contact", "firstname", "givenname", "first",
-        "forename"}},
+      {ImportField::Name, {"name", "fullname", "contactname", "displayname", "contact"}},
+      {ImportField::FirstName, {"firstname", "givenname", "first", "forename"}},
       {ImportField::Surname, {"surname", "lastname", "familyname", "last"}},
       {ImportField::ClientId,
        {"clientid", "clientno", "clientnumber", "customerid", "customerno", "customernumber", "id"}},
@@ -57,27 +59,46 @@ ImportField fieldOfHeading(QStringView heading) {
   return fields.value(plainHeading(heading), ImportField::Nothing);
 }
 
-bool looksLikeNumber(QStringView cell) {
-  constexpr qsizetype fewestDigits = 6;
-  qsizetype digits = 0;
-  for (const QChar c : cell) {
-    if (c.isLetter()) return false;
-    if (c.isDigit()) ++digits;
-  }
-  return digits >= fewestDigits;
-}
-
 bool rowHasNumber(const Sheet& sheet, int row) {
   for (int column = 0; column < sheet.cellCount(row); ++column)
-    if (looksLikeNumber(sheet.cell(row, column))) return true;
+    if (looksLikePhoneNumber(sheet.cell(row, column))) return true;
   return false;
+}
+
+std::size_t knownHeadingsIn(const Sheet& sheet, int row) {
+  std::set<ImportField> fields;
+  for (int column = 0; column < sheet.cellCount(row); ++column)
+    fields.insert(fieldOfHeading(sheet.cell(row, column)));
+  fields.erase(ImportField::Nothing);
+  return fields.size();
+}
+
+int filledCells(const Sheet& sheet, int row) {
+  int filled = 0;
+  for (int column = 0; column < sheet.cellCount(row); ++column)
+    if (!sheet.cell(row, column).trimmed().isEmpty()) ++filled;
+  return filled;
+}
+
+bool isTitle(const Sheet& sheet, int row) {
+  return filledCells(sheet, row) <= 1 && !rowHasNumber(sheet, row);
+}
+
+/// Unknown headings: the last row before the first number, when all rows above it are titles.
+std::optional<int> headingRowByContent(const Sheet& sheet, int rows) {
+  int row = 0;
+  while (row + 1 < rows && isTitle(sheet, row) && !rowHasNumber(sheet, row + 1)) ++row;
+  // One row of one cell is a title only when there are headings below it.
+  if (row > 0 && filledCells(sheet, row) < 2) row = 0;
+  if (row + 1 < rows && !rowHasNumber(sheet, row) && rowHasNumber(sheet, row + 1)) return row;
+  return std::nullopt;
 }
 
 /// Without headings: the first column with phone numbers, and the first other one for the names.
 ImportColumns columnsByContent(const Sheet& sheet) {
   ImportColumns columns(static_cast<std::size_t>(sheet.columnCount()), ImportField::Nothing);
   for (std::size_t column = 0; column < columns.size(); ++column) {
-    const bool isNumber = looksLikeNumber(sheet.cell(0, static_cast<int>(column)));
+    const bool isNumber = looksLikePhoneNumber(sheet.cell(0, static_cast<int>(column)));
     const ImportField field = isNumber ? ImportField::Phone : ImportField::Name;
     if (std::count(columns.begin(), columns.end(), field) == 0) columns[column] = field;
   }
@@ -101,6 +122,8 @@ QString fieldLabel(ImportField field) {
       return QStringLiteral("(not imported)");
     case ImportField::Name:
       return QStringLiteral("Name");
+    case ImportField::FirstName:
+      return QStringLiteral("First Name");
     case ImportField::Surname:
       return QStringLiteral("Surname");
     case ImportField::ClientId:
@@ -131,19 +154,22 @@ QString fieldLabel(ImportField field) {
   Q_UNREACHABLE();
 }
 
-bool hasHeadings(const Sheet& sheet) {
-  if (sheet.rowCount() == 0) return false;
-  for (int column = 0; column < sheet.cellCount(0); ++column)
-    if (fieldOfHeading(sheet.cell(0, column)) != ImportField::Nothing) return true;
-  return sheet.rowCount() > 1 && !rowHasNumber(sheet, 0) && rowHasNumber(sheet, 1);
+std::optional<int> findHeadingRow(const Sheet& sheet) {
+  constexpr int mostTitles = 10;
+  const int rows = std::min(sheet.rowCount(), mostTitles + 2);
+  // One known word may be a title or a name; two are headings.
+  for (int row = 0; row < std::min(rows, mostTitles + 1); ++row)
+    if (knownHeadingsIn(sheet, row) >= 2) return row;
+  if (rows > 0 && knownHeadingsIn(sheet, 0) > 0) return 0;
+  return headingRowByContent(sheet, rows);
 }
 
-ImportColumns suggestColumns(const Sheet& sheet, bool headings) {
+ImportColumns suggestColumns(const Sheet& sheet, std::optional<int> headingRow) {
   if (sheet.rowCount() == 0) return {};
-  if (!headings) return columnsByContent(sheet);
+  if (!headingRow) return columnsByContent(sheet);
   ImportColumns columns(static_cast<std::size_t>(sheet.columnCount()), ImportField::Nothing);
   for (std::size_t column = 0; column < columns.size(); ++column) {
-    const ImportField field = fieldOfHeading(sheet.cell(0, static_cast<int>(column)));
+    const ImportField field = fieldOfHeading(sheet.cell(*headingRow, static_cast<int>(column)));
     if (std::count(columns.begin(), columns.end(), field) == 0) columns[column] = field;
   }
   return columns;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <vector>
 
 #include <QString>
@@ -13,6 +14,7 @@ namespace parlexo {
 enum class ImportField {
   Nothing,
   Name,
+  FirstName,
   Surname,
   ClientId,
   Phone,
@@ -37,11 +39,11 @@ using ImportColumns = std::vector<ImportField>;
 /// The field's name for the user.
 [[nodiscard]] QString fieldLabel(ImportField field);
 
-/// Whether the first row seems to hold headings instead of a contact.
-[[nodiscard]] bool hasHeadings(const Sheet& sheet);
+/// The row that seems to hold headings, perhaps below title rows; nullopt when the first row is a contact.
+[[nodiscard]] std::optional<int> findHeadingRow(const Sheet& sheet);
 
-/// The fields that the headings in the first row name; with `headings` false, the fields that the first
-/// columns are likely to hold. No field comes twice.
-[[nodiscard]] ImportColumns suggestColumns(const Sheet& sheet, bool headings);
+/// The fields that the headings in that row name; without one, the fields that the first columns are likely
+/// to hold. No field comes twice.
+[[nodiscard]] ImportColumns suggestColumns(const Sheet& sheet, std::optional<int> headingRow);
 
 }  // namespace parlexo

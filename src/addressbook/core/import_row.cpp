@@ -3,25 +3,35 @@
 #include <algorithm>
 #include <array>
 
-#include <QRegularExpression>
+#include <QStringList>
 
 #include "addressbook/core/contact_form.h"
-#include "addressbook/core/import_number.h"
 #include "base/code_page.h"
 #include "contacts/contact_file_format.h"
+#include "contacts/phone_number.h"
 
 namespace parlexo {
 
 namespace {
 
-constexpr qsizetype longestNumber = 20;  // the width of its field on disk, plus sign included
-
-/// A value as a field of a contact can hold it: one line.
-QString fieldValue(QStringView cell) {
-  QString value = cell.toString();
-  for (QChar& c : value)
-    if (c.category() == QChar::Other_Control) c = u' ';
-  return throughCodePage(value).trimmed();
+/// A cell as a field of a contact can hold it: one line of composed characters. Invisible marks, blanks and
+/// dashes that the code page lacks are removed or replaced before they could become "?".
+QString fieldText(QStringView cell) {
+  QString text;
+  for (const QChar c : cell.toString().normalized(QString::NormalizationForm_C)) {
+    const char16_t unit = c.unicode();
+    const bool isDirectionMark = unit == 0x200E || unit == 0x200F || (unit >= 0x202A && unit <= 0x202E) ||
+                                 (unit >= 0x2066 && unit <= 0x2069);
+    if (isDirectionMark) continue;
+    const bool isLost = unit > 0x7F && !fitsCodePage(QStringView(&c, 1));
+    if (c.category() == QChar::Other_Control || (isLost && c.category() == QChar::Separator_Space))
+      text += u' ';
+    else if (isLost && (c.category() == QChar::Punctuation_Dash || unit == 0x2212))
+      text += u'-';
+    else
+      text += c;
+  }
+  return text.trimmed();
 }
 
 struct RowTexts {
@@ -37,14 +47,19 @@ RowTexts textsOf(const Sheet& sheet, int row, const ImportColumns& columns) {
   for (std::size_t column = 0; column < columns.size(); ++column)
     if (columns[column] != ImportField::Nothing)
       texts.values[static_cast<std::size_t>(columns[column])] =
-          fieldValue(sheet.cell(row, static_cast<int>(column)));
+          fieldText(sheet.cell(row, static_cast<int>(column)));
   return texts;
 }
 
-QString nameOf(const RowTexts& texts) {
-  QString name = texts[ImportField::Name];
-  if (!name.isEmpty() && !texts[ImportField::Surname].isEmpty()) name += u' ';
-  name += texts[ImportField::Surname];
+QString nameOf(const RowTexts& texts, const ImportPlan& plan) {
+  const QString& whole = texts[ImportField::Name];
+  // Beside first names in a column of their own, "Name" is the full name.
+  const bool isFull = !whole.isEmpty() && plan.maps(ImportField::FirstName);
+  QString name = whole.isEmpty() ? texts[ImportField::FirstName] : whole;
+  if (!isFull && !texts[ImportField::Surname].isEmpty()) {
+    if (!name.isEmpty()) name += u' ';
+    name += texts[ImportField::Surname];
+  }
   if (!name.isEmpty() && !texts[ImportField::ClientId].isEmpty())
     name += QStringLiteral(" (") + texts[ImportField::ClientId] + u')';
   return name;
@@ -61,7 +76,9 @@ QString flagOf(const QString& text) {
 
 QString nameRefusal(const QString& name) {
   if (name.isEmpty()) return QStringLiteral("The row has no name.");
-  // Names in a script that the code page lacks would all look alike.
+  if (!fitsCodePage(name))
+    return QStringLiteral("The name \"%1\" has characters that can't be stored.").arg(name);
+  // Another program has lost them already: such names would all look alike.
   if (name.contains(u'?') &&
       std::none_of(name.begin(), name.end(), [](QChar c) { return c.isLetterOrNumber(); }))
     return QStringLiteral("The name has no letter or digit that the address book can keep.");
@@ -70,35 +87,44 @@ QString nameRefusal(const QString& name) {
   return {};
 }
 
-/// Whether digits were lost when a spreadsheet program saved the number as text: "6.1E+10".
-bool isRounded(const QString& number) {
-  static const QRegularExpression pattern(QStringLiteral(R"(^\+?[\d,]+E\+\d+$)"));
-  return pattern.match(number).hasMatch();
-}
-
-/// What can be said of a number beyond that it is wrong; empty when there is nothing.
-QString numberRefusal(const QString& number) {
-  if (isRounded(number)) return QStringLiteral("A spreadsheet program has rounded the number.");
-  if (number.size() > longestNumber)
-    return QStringLiteral("The number %1 is longer than %2 characters.").arg(number).arg(longestNumber);
-  const bool lacksCode =
-      std::all_of(number.begin(), number.end(), [](QChar c) { return c >= u'0' && c <= u'9'; });
-  if (lacksCode && !number.isEmpty()) return QStringLiteral("The number %1 has no country code.").arg(number);
-  return {};
-}
-
-QString refusalOf(const ContactRecord& contact) {
+QString refusalOf(const ContactRecord& contact, const PhoneNumber& phone, const PhoneNumber& fax) {
   if (QString refusal = nameRefusal(contact.name); !refusal.isEmpty()) return refusal;
   if (contact.phone.isEmpty() && contact.fax.isEmpty()) return QStringLiteral("The row has no number.");
-  for (const QString& number : {contact.phone, contact.fax})
-    if (QString refusal = numberRefusal(number); !refusal.isEmpty()) return refusal;
+  for (const PhoneNumber& number : {phone, fax})
+    if (!number.problemText().isEmpty()) return number.problemText();
   // Beyond that, what holds for contacts that are typed.
   const auto problem = ContactForm({}, [](const QString&) { return false; }).take(contact);
   return problem ? problem->text : QString();
 }
 
+/// Leaves out an address that the dialog would refuse or the file would cut. Returns what to say about it.
+QString checkEmail(QString& email) {
+  if (email.isEmpty()) return {};
+  QString remark;
+  if (!isEmailAddress(email))
+    remark = QStringLiteral("The invalid e-mail address \"%1\" is left out.").arg(email);
+  else if (toCodePage(email).size() > emailWidth)
+    remark =
+        QStringLiteral("The e-mail address is longer than %1 characters and is left out.").arg(emailWidth);
+  if (!remark.isEmpty()) email.clear();
+  return remark;
+}
+
 ImportField extraField(std::size_t number) {
   return static_cast<ImportField>(static_cast<std::size_t>(ImportField::Extra1) + number);
+}
+
+/// Cuts an extra field to what the file can hold. Returns what to say about it.
+QString checkExtra(QString& value, std::size_t number) {
+  if (toCodePage(value).size() <= extraWidth) return {};
+  value.truncate(extraWidth);  // a character has at least one byte
+  while (toCodePage(value).size() > extraWidth || value.back().isHighSurrogate()) value.chop(1);
+  return QStringLiteral("%1 is cut to %2 characters.").arg(fieldLabel(extraField(number))).arg(extraWidth);
+}
+
+/// A fax machine alone gets no SMS, even when the other contacts of the import do.
+void withdrawSmsWithoutPhone(ContactRecord& contact) {
+  if (contact.phone.isEmpty()) contact.supportsSms = QStringLiteral("N");
 }
 
 QString yesOrNo(bool yes) {
@@ -113,16 +139,25 @@ bool ImportPlan::maps(ImportField field) const {
 
 ImportRow readImportRow(const Sheet& sheet, int row, const ImportPlan& plan) {
   const RowTexts texts = textsOf(sheet, row, plan.columns);
+  const PhoneNumber phone = PhoneNumber::parse(texts[ImportField::Phone], plan.countryCode);
+  const PhoneNumber fax = PhoneNumber::parse(texts[ImportField::Fax], plan.countryCode);
   ImportRow read;
   ContactRecord& contact = read.contact;
-  contact.name = nameOf(texts);
-  contact.phone = internationalNumber(texts[ImportField::Phone], plan.countryCode);
-  contact.fax = internationalNumber(texts[ImportField::Fax], plan.countryCode);
-  contact.email = texts[ImportField::Email];
+  contact.name = nameOf(texts, plan);
+  contact.phone = phone.text();
+  contact.fax = fax.text();
   contact.supportsSms = flagOf(texts[ImportField::SupportsSms]);
   contact.supportsMedia = flagOf(texts[ImportField::SupportsMedia]);
-  for (std::size_t i = 0; i < contact.extra.size(); ++i) contact.extra[i] = texts[extraField(i)];
-  read.refusal = refusalOf(contact);
+  contact.email = throughCodePage(texts[ImportField::Email]);
+  QStringList remarks = {checkEmail(contact.email)};
+  read.leavesOutEmail = !remarks.first().isEmpty();
+  for (std::size_t i = 0; i < contact.extra.size(); ++i) {
+    contact.extra[i] = throughCodePage(texts[extraField(i)]);
+    remarks << checkExtra(contact.extra[i], i);
+  }
+  remarks.removeAll(QString());
+  read.remark = remarks.join(u' ');
+  read.refusal = refusalOf(contact, phone, fax);
   return read;
 }
 
@@ -130,6 +165,7 @@ ContactRecord newContact(const ImportRow& row, const ImportPlan& plan) {
   ContactRecord contact = row.contact;
   if (contact.supportsSms.isEmpty()) contact.supportsSms = yesOrNo(plan.supportsSms);
   if (contact.supportsMedia.isEmpty()) contact.supportsMedia = yesOrNo(plan.supportsMedia);
+  withdrawSmsWithoutPhone(contact);
   return contact;
 }
 
@@ -137,11 +173,12 @@ ContactRecord overwritten(const ContactRecord& existing, const ImportRow& row, c
   ContactRecord contact = existing;
   if (plan.maps(ImportField::Phone)) contact.phone = row.contact.phone;
   if (plan.maps(ImportField::Fax)) contact.fax = row.contact.fax;
-  if (plan.maps(ImportField::Email)) contact.email = row.contact.email;
+  if (plan.maps(ImportField::Email) && !row.leavesOutEmail) contact.email = row.contact.email;
   if (!row.contact.supportsSms.isEmpty()) contact.supportsSms = row.contact.supportsSms;
   if (!row.contact.supportsMedia.isEmpty()) contact.supportsMedia = row.contact.supportsMedia;
   for (std::size_t i = 0; i < contact.extra.size(); ++i)
     if (plan.maps(extraField(i))) contact.extra[i] = row.contact.extra[i];
+  withdrawSmsWithoutPhone(contact);
   return contact;
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <optional>
+
 #include <QString>
 
 #include "addressbook/core/import_columns.h"
@@ -11,22 +13,26 @@ namespace parlexo {
 /// How the rows of a sheet become contacts.
 struct ImportPlan {
   ImportColumns columns;
-  bool hasHeadings = true;  ///< the first row is no contact
-  QString countryCode;      ///< "+" and digits for numbers without one; may be empty
-  bool supportsSms = true;  ///< for contacts whose row does not say it
+  std::optional<int> headingRow = 0;  ///< contacts begin below it; without one, in the first row
+  QString countryCode;                ///< "+" and digits for numbers without one; may be empty
+  bool supportsSms = true;            ///< for contacts with a phone number whose row does not say it
   bool supportsMedia = false;
   QString group;  ///< that the contacts join; may be empty
 
   [[nodiscard]] bool maps(ImportField field) const;
+  [[nodiscard]] int firstRow() const { return headingRow ? *headingRow + 1 : 0; }
 };
 
 /// One row as the import understands it.
 struct ImportRow {
-  ContactRecord contact;  ///< fields that the plan does not map are empty
-  QString refusal;        ///< why the row can't be imported; empty when it can
+  ContactRecord contact;        ///< fields that the plan does not map are empty
+  QString refusal;              ///< why the row can't be imported; empty when it can
+  QString remark;               ///< what is left out or cut although the row can be imported; may be empty
+  bool leavesOutEmail = false;  ///< the row's address; that of an existing contact stays
 };
 
-/// Reads a row of `sheet`. Texts are passed through the code page, as in all contacts.
+/// Reads a row of `sheet`. Texts are passed through the code page, as in all contacts; a name that would lose
+/// characters there is refused, as two people could end up as one contact.
 [[nodiscard]] ImportRow readImportRow(const Sheet& sheet, int row, const ImportPlan& plan);
 
 /// The new contact, with what the plan says for all contacts of this import.

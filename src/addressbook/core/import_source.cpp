@@ -98,6 +98,11 @@ QStringList ImportSource::sheetNames() const {
   return names;
 }
 
+QString ImportSource::remark() const {
+  const bool lacksFormulas = workbook_ && workbook_->sheets()[sheetNumber_].lacksFormulas;
+  return lacksFormulas ? unreadFormulasText() : QString();
+}
+
 const Sheet& ImportSource::preview() const {
   return workbook_ ? workbook_->sheets()[sheetNumber_].sheet : text_;
 }

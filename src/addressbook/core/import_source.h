@@ -39,6 +39,8 @@ class ImportSource {
 
   /// All rows of a workbook's sheet, the first rows of a text file.
   [[nodiscard]] const Sheet& preview() const;
+  /// What the user should know of the file although it can be imported; may be empty.
+  [[nodiscard]] QString remark() const;
   /// What is wrong with the file, as the user is told; empty when it can be imported as far as it was read.
   [[nodiscard]] const QString& problem() const { return problem_; }
 

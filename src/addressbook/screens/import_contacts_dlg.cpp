@@ -15,15 +15,16 @@
 #include <QProgressBar>
 #include <QSignalBlocker>
 #include <QStandardPaths>
+#include <QTableWidget>
 #include <QVBoxLayout>
 
 #include "addressbook/core/contact_import.h"
-#include "addressbook/core/import_number.h"
 #include "addressbook/screens/import_preview.h"
 #include "addressbook/screens/import_question_dlg.h"
 #include "addressbook/screens/import_summary_dlg.h"
 #include "base/message_texts.h"
 #include "base/notifier.h"
+#include "contacts/phone_number.h"
 #include "ui/look.h"
 #include "ui/page_controls.h"
 #include "ui/picture_button.h"
@@ -135,12 +136,10 @@ QComboBox* CImportContactsDlg::createChoice(const QString& objectName, const QSt
 }
 
 void CImportContactsDlg::createPlanControls() {
-  headings_ =
-      checkBox(QStringLiteral("The first row &names the columns"), QStringLiteral("headingsBox"), this);
+  headings_ = checkBox(QString(), QStringLiteral("headingsBox"), this);
+  showHeadingRow();
   connect(headings_, &QCheckBox::toggled, this, &CImportContactsDlg::showPreview);
   preview_ = new ImportPreview(this);
-  preview_->setObjectName(QStringLiteral("preview"));
-  preview_->setAccessibleName(QStringLiteral("First rows, and what each column becomes:"));
   connect(preview_, &ImportPreview::columnsChanged, this, &CImportContactsDlg::judgeRows);
   problem_ = wrappedLabel(QString(), this);
   problem_->setObjectName(QStringLiteral("problemLine"));
@@ -195,7 +194,8 @@ void CImportContactsDlg::createLayout(const QString& group) {
   options->setContentsMargins({});
   options->addLayout(fileRow);
   options->addLayout(formatRow);
-  options->addWidget(labelFor(preview_, QStringLiteral("First &rows, and what each column becomes:")));
+  options->addWidget(
+      labelFor(preview_->table(), QStringLiteral("First &rows, and what each column becomes:")));
   options->addWidget(preview_, 1);
   options->addWidget(problem_);
   options->addLayout(planRow);
@@ -261,16 +261,26 @@ void CImportContactsDlg::changeFormat() {
 
 void CImportContactsDlg::suggestPlan() {
   const QSignalBlocker blocker(headings_);
-  headings_->setChecked(source_.problem().isEmpty() && hasHeadings(source_.preview()));
+  const std::optional<int> found =
+      source_.problem().isEmpty() ? findHeadingRow(source_.preview()) : std::nullopt;
+  headings_->setChecked(found.has_value());
+  headingRow_ = found.value_or(0);
+  showHeadingRow();
   showPreview();
+}
+
+void CImportContactsDlg::showHeadingRow() {
+  headings_->setText(headingRow_ == 0 ? QStringLiteral("The first row &names the columns")
+                                      : QStringLiteral("Row %1 &names the columns").arg(headingRow_ + 1));
 }
 
 void CImportContactsDlg::showPreview() {
   ImportPlan suggested = plan();
   const Sheet nothing;
   const Sheet& sheet = source_.problem().isEmpty() ? source_.preview() : nothing;
-  suggested.columns = suggestColumns(sheet, headings_->isChecked());
+  suggested.columns = suggestColumns(sheet, suggested.headingRow);
   preview_->show(sheet, suggested);
+  preview_->setTabOrderBehind(headings_);
   showProblem();
 }
 
@@ -281,26 +291,30 @@ void CImportContactsDlg::judgeRows() {
 
 void CImportContactsDlg::showProblem() {
   const bool isOpen = !source_.path().isEmpty() && source_.problem().isEmpty();
-  const QString problem = isOpen ? problemOfPlan() : source_.problem();
+  QStringList problems =
+      isOpen ? QStringList{source_.remark(), problemOfPlan()} : QStringList{source_.problem()};
+  problems.removeAll(QString());
   QPalette palette = problem_->palette();
   palette.setColor(QPalette::WindowText, look::problemText);
   problem_->setPalette(palette);
-  problem_->setText(problem);
+  problem_->setText(problems.join(u'\n'));
   import_->setEnabled(isOpen);
 }
 
 ImportPlan CImportContactsDlg::plan() const {
   return {.columns = preview_->columns(),
-          .hasHeadings = headings_->isChecked(),
-          .countryCode = countryCodeOf(countryCode_->text()).value_or(QString()),
+          .headingRow = headings_->isChecked() ? std::optional(headingRow_) : std::nullopt,
+          .countryCode = PhoneNumber::parseCallingCode(countryCode_->text()).value_or(QString()),
           .supportsSms = supportsSms_->isChecked(),
           .supportsMedia = supportsMedia_->isChecked(),
           .group = group_};
 }
 
 QString CImportContactsDlg::problemOfPlan() const {
-  if (!countryCodeOf(countryCode_->text()))
-    return QStringLiteral("The country code is a plus sign and one to four digits, as in +61.");
+  const std::optional<QString> code = PhoneNumber::parseCallingCode(countryCode_->text());
+  if (!code) return QStringLiteral("The country code is a plus sign and one to four digits, as in +61.");
+  if (!code->isEmpty() && !PhoneNumber::isCallingCodeInUse(*code))
+    return QStringLiteral("The country code %1 is not in use.").arg(*code);
   return planProblem(plan());
 }
 

@@ -53,6 +53,7 @@ class CImportContactsDlg : public GradientDialog {
   void changeFormat();
   void showFormat();
   void suggestPlan();
+  void showHeadingRow();
   void showPreview();
   void judgeRows();
   void showProblem();
@@ -73,6 +74,7 @@ class CImportContactsDlg : public GradientDialog {
   QComboBox* encoding_;
   QComboBox* delimiter_;
   QCheckBox* headings_;
+  int headingRow_ = 0;  ///< of the sheet, where headings_ is checked
   ImportPreview* preview_;
   QLabel* problem_;
   QLineEdit* countryCode_;

@@ -3,8 +3,12 @@
 #include <algorithm>
 
 #include <QComboBox>
+#include <QEvent>
 #include <QHeaderView>
+#include <QScrollBar>
 #include <QSignalBlocker>
+#include <QTableWidget>
+#include <QVBoxLayout>
 
 #include "addressbook/core/contact_import.h"
 #include "addressbook/core/import_source.h"
@@ -17,7 +21,6 @@ namespace {
 
 // A file may have a thousand columns, of which a contact can take fourteen.
 constexpr int shownColumns = 60;
-constexpr int choiceRow = 0;
 constexpr int resultColumn = 0;
 constexpr int firstFileColumn = 1;
 constexpr int narrowest = 120;
@@ -31,53 +34,114 @@ QTableWidgetItem* cellItem(const QString& text) {
   return item;
 }
 
-QString headingOf(const Sheet& sheet, int column, bool hasHeadings) {
+/// The contact that a row becomes, or why it is refused; in red what is lost.
+QTableWidgetItem* resultItem(const ImportRow& row) {
+  const QString number = row.contact.phone.isEmpty() ? row.contact.fax : row.contact.phone;
+  const QString contact = QStringLiteral("%1 [%2]").arg(row.contact.name, number);
+  auto* item = cellItem(!row.refusal.isEmpty() ? QStringLiteral("Refused: ") + row.refusal
+                        : row.remark.isEmpty() ? contact
+                                               : contact + QStringLiteral(". ") + row.remark);
+  if (!row.refusal.isEmpty() || !row.remark.isEmpty()) item->setForeground(look::problemText);
+  return item;
+}
+
+QString headingOf(const Sheet& sheet, int column, std::optional<int> headingRow) {
   const QString heading =
-      hasHeadings ? sheet.cell(0, column).toString().simplified().left(longestShown) : QString();
+      headingRow ? sheet.cell(*headingRow, column).toString().simplified().left(longestShown) : QString();
   return heading.isEmpty() ? QStringLiteral("Column %1").arg(column + 1) : heading;
 }
 
 }  // namespace
 
-ImportPreview::ImportPreview(QWidget* parent) : QTableWidget(parent) {
-  styleList(*this);
-  setEditTriggers(QAbstractItemView::NoEditTriggers);
-  setSelectionMode(QAbstractItemView::NoSelection);
-  setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
-  setWordWrap(false);
-  verticalHeader()->hide();
+ImportPreview::ImportPreview(QWidget* parent)
+    : QWidget(parent), strip_(new QWidget(this)), table_(new QTableWidget(this)) {
+  styleList(*table_);
+  table_->setObjectName(QStringLiteral("preview"));
+  table_->setAccessibleName(QStringLiteral("First rows, and what each column becomes:"));
+  table_->setEditTriggers(QAbstractItemView::NoEditTriggers);
+  table_->setSelectionMode(QAbstractItemView::NoSelection);
+  table_->setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
+  table_->setWordWrap(false);
+  table_->verticalHeader()->hide();
+  strip_->hide();
+  strip_->setFixedHeight(QComboBox().sizeHint().height() + 2);
+  auto* layout = new QVBoxLayout(this);
+  layout->setContentsMargins({});
+  layout->setSpacing(0);
+  layout->addWidget(strip_);
+  layout->addWidget(table_, 1);
+  connect(table_->horizontalScrollBar(), &QScrollBar::valueChanged, this, &ImportPreview::placeChoices);
+  connect(table_->horizontalHeader(), &QHeaderView::sectionResized, this, &ImportPreview::placeChoices);
+  connect(table_->horizontalHeader(), &QHeaderView::geometriesChanged, this, &ImportPreview::placeChoices);
 }
 
 void ImportPreview::show(const Sheet& sheet, const ImportPlan& plan) {
-  clear();
+  table_->clear();
+  qDeleteAll(choices_);
   choices_.clear();
   rows_.clear();
   columns_ = plan.columns;
   const int columns = std::min(sheet.columnCount(), shownColumns);
-  for (int row = plan.hasHeadings ? 1 : 0;
+  for (int row = plan.firstRow();
        row < sheet.rowCount() && rows_.size() < static_cast<std::size_t>(ImportSource::previewRows); ++row)
     if (!sheet.isBlank(row)) rows_.push_back(row);
-  setColumnCount(columns == 0 ? 0 : firstFileColumn + columns);
-  setRowCount(columns == 0 ? 0 : 1 + static_cast<int>(rows_.size()));
+  table_->setColumnCount(columns == 0 ? 0 : firstFileColumn + columns);
+  table_->setRowCount(columns == 0 ? 0 : static_cast<int>(rows_.size()));
   QStringList headings = {QStringLiteral("Contact")};
-  for (int column = 0; column < columns; ++column) headings << headingOf(sheet, column, plan.hasHeadings);
-  setHorizontalHeaderLabels(headings);
+  for (int column = 0; column < columns; ++column) headings << headingOf(sheet, column, plan.headingRow);
+  table_->setHorizontalHeaderLabels(headings);
   for (int column = 0; column < columns; ++column)
     addChoice(column, plan.columns[static_cast<std::size_t>(column)]);
+  strip_->setVisible(!choices_.empty());
   fillRows(sheet, plan);
+  placeChoices();
 }
 
 void ImportPreview::addChoice(int column, ImportField field) {
-  auto* choice = new QComboBox(this);
+  auto* choice = new QComboBox(strip_);
   choice->setObjectName(QStringLiteral("column%1Choice").arg(column + 1));
-  choice->setAccessibleName(QStringLiteral("What column %1 becomes").arg(column + 1));
+  const QString purpose = QStringLiteral("What column %1 becomes").arg(column + 1);
+  choice->setAccessibleName(purpose);
+  choice->setAccessibleDescription(purpose);  // Qt on Unix names a combo box by its value
   for (const ImportField offered : importFields())
     choice->addItem(fieldLabel(offered), static_cast<int>(offered));
   choice->setCurrentIndex(choice->findData(static_cast<int>(field)));
   choice->setMaxVisibleItems(choice->count());
+  choice->installEventFilter(this);
   connect(choice, &QComboBox::currentIndexChanged, this, [this, column] { takeChoice(column); });
-  setCellWidget(choiceRow, firstFileColumn + column, choice);
   choices_.push_back(choice);
+  choice->show();
+}
+
+void ImportPreview::placeChoices() {
+  const QHeaderView& header = *table_->horizontalHeader();
+  const int left = table_->viewport()->mapTo(this, QPoint(0, 0)).x();
+  for (std::size_t i = 0; i < choices_.size(); ++i) {
+    const int column = firstFileColumn + static_cast<int>(i);
+    choices_[i]->setGeometry(left + header.sectionViewportPosition(column), 0, header.sectionSize(column),
+                             strip_->height() - 2);
+  }
+}
+
+bool ImportPreview::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::FocusIn)
+    if (const auto* choice = qobject_cast<QComboBox*>(watched)) scrollToChoice(*choice);
+  return QWidget::eventFilter(watched, event);
+}
+
+void ImportPreview::scrollToChoice(const QComboBox& choice) {
+  QScrollBar& bar = *table_->horizontalScrollBar();
+  const int beyond = choice.geometry().right() - strip_->width();
+  if (beyond > 0) bar.setValue(bar.value() + beyond);
+  if (choice.x() < 0) bar.setValue(bar.value() + choice.x());
+}
+
+void ImportPreview::setTabOrderBehind(QWidget* before) {
+  for (QComboBox* choice : choices_) {
+    setTabOrder(before, choice);
+    before = choice;
+  }
+  setTabOrder(before, table_);
 }
 
 // A field can come from one column only: the column that had it before gives it up.
@@ -102,31 +166,20 @@ ImportColumns ImportPreview::columns() const {
 void ImportPreview::fillRows(const Sheet& sheet, const ImportPlan& plan) {
   for (std::size_t i = 0; i < rows_.size(); ++i)
     for (std::size_t column = 0; column < choices_.size(); ++column)
-      setItem(static_cast<int>(i) + 1, firstFileColumn + static_cast<int>(column),
-              cellItem(sheet.cell(rows_[i], static_cast<int>(column)).toString()));
+      table_->setItem(static_cast<int>(i), firstFileColumn + static_cast<int>(column),
+                      cellItem(sheet.cell(rows_[i], static_cast<int>(column)).toString()));
   judge(sheet, plan);
-  resizeColumnsToContents();
-  for (int column = 0; column < columnCount(); ++column)
-    setColumnWidth(column, std::clamp(columnWidth(column), narrowest, widest));
-  if (columnCount() > 0) setColumnWidth(resultColumn, resultWidth);
-  if (rowCount() > 0) setRowHeight(choiceRow, choices_.front()->sizeHint().height() + 2);
+  table_->resizeColumnsToContents();
+  for (int column = 0; column < table_->columnCount(); ++column)
+    table_->setColumnWidth(column, std::clamp(table_->columnWidth(column), narrowest, widest));
+  if (table_->columnCount() > 0) table_->setColumnWidth(resultColumn, resultWidth);
 }
 
 void ImportPreview::judge(const Sheet& sheet, const ImportPlan& plan) {
-  if (!planProblem(plan).isEmpty()) {
-    for (std::size_t i = 0; i < rows_.size(); ++i)
-      setItem(static_cast<int>(i) + 1, resultColumn, cellItem({}));
-    return;
-  }
-  for (std::size_t i = 0; i < rows_.size(); ++i) {
-    const ImportRow row = readImportRow(sheet, rows_[i], plan);
-    const QString number = row.contact.phone.isEmpty() ? row.contact.fax : row.contact.phone;
-    const bool isRefused = !row.refusal.isEmpty();
-    auto* item = cellItem(isRefused ? QStringLiteral("Refused: ") + row.refusal
-                                    : QStringLiteral("%1 [%2]").arg(row.contact.name, number));
-    if (isRefused) item->setForeground(look::problemText);
-    setItem(static_cast<int>(i) + 1, resultColumn, item);
-  }
+  const bool canBeRead = planProblem(plan).isEmpty();
+  for (std::size_t i = 0; i < rows_.size(); ++i)
+    table_->setItem(static_cast<int>(i), resultColumn,
+                    canBeRead ? resultItem(readImportRow(sheet, rows_[i], plan)) : cellItem({}));
 }
 
 QSize ImportPreview::sizeHint() const {

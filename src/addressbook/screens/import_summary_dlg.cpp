@@ -1,7 +1,5 @@
 #include "addressbook/screens/import_summary_dlg.h"
 
-#include <algorithm>
-
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QListWidget>
@@ -29,24 +27,33 @@ CImportSummaryDlg::CImportSummaryDlg(const Sheet& sheet, const ImportPlan& plan,
   summary->setObjectName(QStringLiteral("summary"));
   summary->setMinimumWidth(dialogUnits(*this, 170, 0).width());  // the title is read whole
   layout->addWidget(summary);
-  if (!outcome.refused.empty()) addRefusedRows(*layout);
+  if (!outcome.refused.empty() || !outcome.remarks.empty()) addRows(*layout);
   addButtons(*layout);
 }
 
-void CImportSummaryDlg::addRefusedRows(QVBoxLayout& layout) {
-  constexpr std::size_t mostShown = 1000;
+QStringList CImportSummaryDlg::rowTexts() const {
+  QStringList texts;
+  for (const ImportOutcome::Refused& refused : outcome_.refused)
+    texts << QStringLiteral("Row %1: %2").arg(refused.row + 1).arg(refused.reason);
+  for (const ImportOutcome::Remark& remark : outcome_.remarks)
+    texts << QStringLiteral("Row %1 is imported in part: %2").arg(remark.row + 1).arg(remark.text);
+  return texts;
+}
+
+void CImportSummaryDlg::addRows(QVBoxLayout& layout) {
+  constexpr qsizetype mostShown = 1000;
+  const QString caption = outcome_.remarks.empty()   ? QStringLiteral("&Refused rows:")
+                          : outcome_.refused.empty() ? QStringLiteral("&Rows imported in part:")
+                                                     : QStringLiteral("&Rows refused or imported in part:");
   auto* list = new QListWidget(this);
   list->setObjectName(QStringLiteral("refusedList"));
-  list->setAccessibleName(QStringLiteral("Refused rows:"));
+  list->setAccessibleName(QString(caption).remove(u'&'));
   styleList(*list);
-  const std::size_t shown = std::min(outcome_.refused.size(), mostShown);
-  for (std::size_t i = 0; i < shown; ++i)
-    list->addItem(
-        QStringLiteral("Row %1: %2").arg(outcome_.refused[i].row + 1).arg(outcome_.refused[i].reason));
-  if (shown < outcome_.refused.size())
-    list->addItem(QStringLiteral("and %L1 more").arg(outcome_.refused.size() - shown));
+  const QStringList texts = rowTexts();
+  list->addItems(texts.mid(0, mostShown));
+  if (texts.size() > mostShown) list->addItem(QStringLiteral("and %L1 more").arg(texts.size() - mostShown));
   list->setMinimumSize(dialogUnits(*this, 250, 80));
-  auto* label = new QLabel(QStringLiteral("&Refused rows:"), this);
+  auto* label = new QLabel(caption, this);
   label->setBuddy(list);
   layout.addWidget(label);
   layout.addWidget(list, 1);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QStringList>
+
 #include "addressbook/core/contact_import.h"
 #include "ui/gradient_page.h"
 
@@ -23,7 +25,8 @@ class CImportSummaryDlg final : public GradientDialog {
   bool saveRefusedTo(const QString& path);
 
  private:
-  void addRefusedRows(QVBoxLayout& layout);
+  [[nodiscard]] QStringList rowTexts() const;
+  void addRows(QVBoxLayout& layout);
   void addButtons(QVBoxLayout& layout);
   void saveRefused();
 

@@ -2,6 +2,12 @@
 
 #include <freexl.h>
 
+#include <algorithm>
+
+#include <QFile>
+
+#include "contacts/import/binary_records.h"
+#include "contacts/import/compound_file.h"
 #include "contacts/import/number_format.h"
 #include "contacts/import/workbook_builder.h"
 #include "contacts/import/workbook_readers.h"
@@ -56,10 +62,12 @@ void readCell(const Workbook& book, std::size_t sheet, unsigned row, unsigned sh
   }
 }
 
-void readSheet(const Workbook& book, unsigned short number, WorkbookBuilder& builder) {
+void readSheet(const Workbook& book, unsigned short number, const BinarySheet& properties,
+               WorkbookBuilder& builder) {
   const char* name = nullptr;
   if (freexl_get_worksheet_name(book.handle(), number, &name) != FREEXL_OK || !name) return;
-  const std::size_t sheet = builder.addSheet(QString::fromUtf8(name));
+  const std::size_t sheet = builder.addSheet(QString::fromUtf8(name), properties.isHidden);
+  if (properties.hasFormulas) builder.setLacksFormulas(sheet);
   unsigned rows = 0;
   unsigned short columns = 0;
   if (freexl_select_active_worksheet(book.handle(), number) != FREEXL_OK ||
@@ -67,6 +75,15 @@ void readSheet(const Workbook& book, unsigned short number, WorkbookBuilder& bui
     return;
   for (unsigned row = 0; row < rows && builder.isOpen(); ++row)
     for (unsigned short column = 0; column < columns; ++column) readCell(book, sheet, row, column, builder);
+}
+
+std::vector<BinarySheet> sheetsOf(const QString& path) {
+  QFile file(path);
+  if (!file.open(QIODevice::ReadOnly)) return {};
+  const QByteArray bytes = file.readAll();
+  QByteArray stream = readCompoundStream(bytes, u"Workbook");
+  if (stream.isEmpty()) stream = readCompoundStream(bytes, u"Book");  // before Excel 97
+  return readBinarySheets(stream);
 }
 
 }  // namespace
@@ -77,10 +94,15 @@ QString readBinaryWorkbook(const QString& path, const ImportLimits& limits, cons
   if (!book.isOpen() || book.info(FREEXL_BIFF_PASSWORD) == FREEXL_BIFF_OBFUSCATED)
     return QStringLiteral("The workbook can't be read. It is damaged or protected by a password.");
   WorkbookBuilder builder(limits, cancel);
+  const std::vector<BinarySheet> properties = sheetsOf(path);
   const unsigned count = book.info(FREEXL_BIFF_SHEET_COUNT);
   for (unsigned sheet = 0; sheet < count && builder.isOpen(); ++sheet)
-    readSheet(book, static_cast<unsigned short>(sheet), builder);
+    readSheet(book, static_cast<unsigned short>(sheet),
+              sheet < properties.size() ? properties[sheet] : BinarySheet(), builder);
   sheets = builder.build();
+  const bool hasFormulas = std::any_of(properties.begin(), properties.end(),
+                                       [](const BinarySheet& sheet) { return sheet.hasFormulas; });
+  if (sheets.empty() && hasFormulas && builder.problem().isEmpty()) return unreadFormulasText();
   return builder.problem();
 }
 

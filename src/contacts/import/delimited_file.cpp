@@ -1,15 +1,19 @@
 #include "contacts/import/delimited_file.h"
 
 #include <algorithm>
+#include <iterator>
 #include <map>
 #include <optional>
+#include <utility>
 
 #include <QFile>
 #include <QFileInfo>
+#include <QRegularExpression>
 #include <QStringDecoder>
 
 #include "base/code_page.h"
 #include "contacts/import/delimited_parser.h"
+#include "contacts/import/number_format.h"
 
 namespace parlexo {
 
@@ -82,15 +86,51 @@ int evenRows(const Sheet& sheet) {
   return most;
 }
 
+/// In how many rows the column that most often has a phone number has one.
+int rowsWithNumber(const Sheet& sheet) {
+  int most = 0;
+  for (int column = 0; column < sheet.columnCount(); ++column) {
+    int rows = 0;
+    for (int row = 0; row < sheet.rowCount(); ++row)
+      if (looksLikePhoneNumber(sheet.cell(row, column))) ++rows;
+    most = std::max(most, rows);
+  }
+  return most;
+}
+
+/// A first line such as "sep=;", which names the delimiter for spreadsheet programs.
+struct SeparatorLine {
+  QChar delimiter;
+  qsizetype length = 0;  ///< line end included; 0 without such a line
+};
+
+SeparatorLine findSeparatorLine(const QString& text) {
+  static const QRegularExpression pattern(QStringLiteral("^\"?sep=(.)\"?(\r\n|\r|\n|$)"),
+                                          QRegularExpression::CaseInsensitiveOption);
+  const QRegularExpressionMatch match = pattern.match(text);
+  return match.hasMatch() ? SeparatorLine{match.captured(1).front(), match.capturedLength()}
+                          : SeparatorLine{};
+}
+
+QString beginningOf(const QString& path, TextEncoding encoding) {
+  QFile file(path);
+  return file.open(QIODevice::ReadOnly) ? TextDecoder(encoding).decode(file.read(chunkBytes)) : QString();
+}
+
 QChar detectDelimiter(const QString& path, TextEncoding encoding, const ImportLimits& limits,
                       const CancelFlag& cancel) {
+  const SeparatorLine named = findSeparatorLine(beginningOf(path, encoding));
+  if (std::count(std::begin(knownDelimiters), std::end(knownDelimiters), named.delimiter) != 0)
+    return named.delimiter;
   QChar best = path.endsWith(QLatin1String(".tsv"), Qt::CaseInsensitive) ? u'\t' : u',';
-  int bestRows = 0;
+  // Evenly cut rows first; of equals the one that leaves a column of numbers.
+  std::pair<int, int> bestRows;
   for (const QChar delimiter : knownDelimiters) {
     const SheetReading reading = readDelimited(path, {encoding, delimiter}, limits, cancel, rowsToJudge);
     // Where the quotation marks make no sense, the delimiter is another.
-    const int rows = reading.problem.isEmpty() ? evenRows(reading.sheet) : 0;
-    if (rows <= bestRows) continue;
+    if (!reading.problem.isEmpty()) continue;
+    const std::pair rows(evenRows(reading.sheet), rowsWithNumber(reading.sheet));
+    if (rows.first == 0 || rows <= bestRows) continue;
     bestRows = rows;
     best = delimiter;
   }
@@ -132,10 +172,14 @@ SheetReading readDelimited(const QString& path, const DelimitedFormat& format, c
   }
   TextDecoder decoder(format.encoding);
   DelimitedParser parser(format.delimiter, limits, maxRows, reading.sheet);
-  for (;;) {
+  for (bool isFirst = true;;) {
     const QByteArray bytes = file.read(chunkBytes);
     if (bytes.isEmpty()) break;
-    if (!parser.feed(decoder.decode(bytes)) || cancel.isRaised()) break;
+    const QString text = decoder.decode(bytes);
+    const qsizetype skipped = isFirst ? findSeparatorLine(text).length : 0;
+    if (skipped > 0) parser.skipLine();
+    isFirst = false;
+    if (!parser.feed(QStringView(text).sliced(skipped)) || cancel.isRaised()) break;
   }
   if (cancel.isRaised()) return reading;
   parser.finish();

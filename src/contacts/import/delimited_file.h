@@ -33,14 +33,15 @@ struct SheetReading {
 /// empty when nothing is in the way.
 [[nodiscard]] QString fileProblem(const QString& path, const ImportLimits& limits = {});
 
-/// Tells the encoding by the byte order mark, else by whether all bytes are valid UTF-8, else it is the code
-/// page; and the delimiter by which of the known ones cuts the first rows most evenly. Reads the whole file
-/// once; a file that can't be read has some format.
+/// Detects the encoding: the byte order mark decides, else UTF-8 if all bytes are valid, else the code page.
+/// The delimiter is that of a first line "sep=;" if there is one, else the known one that cuts the first rows
+/// most evenly, where several do so the one that leaves a column of numbers. Reads the whole file once; a
+/// file that can't be read has some format.
 [[nodiscard]] DelimitedFormat detectFormat(const QString& path, const ImportLimits& limits,
                                            const CancelFlag& cancel);
 
-/// Reads at most the first `maxRows` rows. The problem of a file that can't be read or is broken names the
-/// line; a cancelled reading ends early and has none.
+/// Reads at most the first `maxRows` rows, without a first line "sep=;". The problem of a file that can't be
+/// read or is broken names the line; a cancelled reading ends early and has none.
 [[nodiscard]] SheetReading readDelimited(const QString& path, const DelimitedFormat& format,
                                          const ImportLimits& limits, const CancelFlag& cancel,
                                          int maxRows = std::numeric_limits<int>::max());

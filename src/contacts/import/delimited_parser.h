@@ -15,6 +15,8 @@ class DelimitedParser {
   /// Stops by itself after `maxRows` rows. `sheet` must be empty and outlive the parser.
   DelimitedParser(QChar delimiter, const ImportLimits& limits, int maxRows, Sheet& sheet);
 
+  /// Counts a line that was not fed.
+  void skipLine() { ++line_; }
   /// Takes the next piece of the text. False when no more is wanted: all rows are there or a fault was found.
   [[nodiscard]] bool feed(QStringView piece);
   /// Ends the text, whose last row need not end with a line break.

@@ -61,4 +61,14 @@ QString dateText(double serial, bool since1904) {
   return moment.toString(days == 0 ? QStringLiteral("HH:mm:ss") : QStringLiteral("yyyy-MM-dd HH:mm:ss"));
 }
 
+bool looksLikePhoneNumber(QStringView cell) {
+  constexpr qsizetype fewestDigits = 6;
+  qsizetype digits = 0;
+  for (const QChar c : cell) {
+    if (c.isLetter() || c == u',' || c == u';' || c == u'|' || c == u'\t') return false;
+    if (c.isDigit()) ++digits;
+  }
+  return digits >= fewestDigits;
+}
+
 }  // namespace parlexo

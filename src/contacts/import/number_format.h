@@ -19,4 +19,7 @@ namespace parlexo {
 /// of 1899, or since 1904 began. A number that is no such day gives its numberText().
 [[nodiscard]] QString dateText(double serial, bool since1904);
 
+/// Whether a cell may hold a phone number: six digits or more, no letter and no delimiter.
+[[nodiscard]] bool looksLikePhoneNumber(QStringView cell);
+
 }  // namespace parlexo

@@ -74,14 +74,30 @@ bool OdsReader::read() {
   const std::unique_ptr<QIODevice> part = archive_.openPart(QStringLiteral("content.xml"));
   if (!part) return false;
   WorkbookXml xml(part.get());
-  while (!xml.atEnd() && builder_.isOpen())
-    if (xml.readNext() == WorkbookXml::StartElement && xml.name() == u"table") readTable(xml);
+  while (!xml.atEnd() && builder_.isOpen()) {
+    if (xml.readNext() != WorkbookXml::StartElement) continue;
+    if (xml.name() == u"style") readStyle(xml);
+    if (xml.name() == u"table") readTable(xml);
+  }
   return !xml.hasError();
+}
+
+// The styles of tables come before the tables.
+void OdsReader::readStyle(WorkbookXml& xml) {
+  constexpr std::size_t mostStyles = 10'000;
+  const QString name = odsAttribute(xml, u"name").toString();
+  while (xml.readNextStartElement()) {
+    if (xml.name() == u"table-properties" && odsAttribute(xml, u"display") == u"false" &&
+        hiddenStyles_.size() < mostStyles)
+      hiddenStyles_.insert(name);
+    xml.skipCurrentElement();
+  }
 }
 
 // Rows may stand in groups and header groups.
 void OdsReader::readTable(WorkbookXml& xml) {
-  sheet_ = builder_.addSheet(odsAttribute(xml, u"name").toString());
+  const bool isHidden = hiddenStyles_.count(odsAttribute(xml, u"style-name").toString()) != 0;
+  sheet_ = builder_.addSheet(odsAttribute(xml, u"name").toString(), isHidden);
   row_ = 0;
   while (!xml.atEnd() && builder_.isOpen()) {
     xml.readNext();

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <set>
+
 #include <QString>
 
 #include "contacts/import/workbook_builder.h"
@@ -18,6 +20,7 @@ class OdsReader {
   [[nodiscard]] bool read();
 
  private:
+  void readStyle(WorkbookXml& xml);
   void readTable(WorkbookXml& xml);
   void readRow(WorkbookXml& xml);
   /// `repeats` rows from row_ on.
@@ -25,6 +28,7 @@ class OdsReader {
 
   ZipArchive& archive_;
   WorkbookBuilder& builder_;
+  std::set<QString> hiddenStyles_;  ///< of tables
   std::size_t sheet_ = 0;
   int row_ = 0;
   int column_ = 0;

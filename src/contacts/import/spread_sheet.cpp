@@ -1,5 +1,7 @@
 #include "contacts/import/spread_sheet.h"
 
+#include <algorithm>
+
 #include <QFile>
 
 #include "contacts/import/workbook_readers.h"
@@ -24,6 +26,12 @@ WorkbookKind kindOf(const QString& path) {
 
 }  // namespace
 
+QString unreadFormulasText() {
+  return QStringLiteral(
+      "The formulas of this workbook can't be read, so their cells are empty here. "
+      "Save it as .xlsx and import that file.");
+}
+
 bool CSpreadSheet::isWorkbook(const QString& path) {
   return kindOf(path) != WorkbookKind::None;
 }
@@ -41,6 +49,10 @@ QString CSpreadSheet::read(const QString& path, const ImportLimits& limits, cons
     case WorkbookKind::None:
       return QStringLiteral("The file is not a workbook.");
   }
+  std::stable_partition(sheets_.begin(), sheets_.end(),
+                        [](const NamedSheet& sheet) { return !sheet.isHidden; });
+  for (NamedSheet& sheet : sheets_)
+    if (sheet.isHidden) sheet.name += QLatin1String(" (hidden)");
   if (problem.isEmpty() && sheets_.empty() && !cancel.isRaised())
     problem = QStringLiteral("The workbook has no sheet with a cell in it.");
   return problem;

@@ -17,12 +17,16 @@ QString cellLimitProblem(const ImportLimits& limits) {
 
 }  // namespace
 
-std::size_t WorkbookBuilder::addSheet(const QString& name) {
+std::size_t WorkbookBuilder::addSheet(const QString& name, bool isHidden) {
   if (sheets_.size() >= static_cast<std::size_t>(limits_.sheets))
     problem_ = QStringLiteral("The file has more than %L1 sheets.").arg(limits_.sheets);
   else
-    sheets_.push_back({name, {}});
+    sheets_.push_back({.name = name, .isHidden = isHidden, .cells = {}});
   return sheets_.size() - 1;
+}
+
+void WorkbookBuilder::setLacksFormulas(std::size_t sheet) {
+  if (sheet < sheets_.size()) sheets_[sheet].lacksFormulas = true;
 }
 
 std::size_t WorkbookBuilder::addText(const QString& text) {
@@ -69,7 +73,7 @@ NamedSheets WorkbookBuilder::build() {
     // Few texts may be in many cells.
     if (length > limits_.textLength) problem_ = textLimitProblem();
     if (!isOpen()) return {};
-    built.push_back({raw.name, tableOf(raw.cells)});
+    built.push_back({raw.name, tableOf(raw.cells), raw.isHidden, raw.lacksFormulas});
   }
   return isOpen() ? std::move(built) : NamedSheets();
 }

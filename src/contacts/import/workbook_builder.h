@@ -17,7 +17,9 @@ class WorkbookBuilder {
   WorkbookBuilder(const ImportLimits& limits, const CancelFlag& cancel) : limits_(limits), cancel_(cancel) {}
 
   /// Begins a further sheet and returns its number. Too many close the builder.
-  std::size_t addSheet(const QString& name);
+  std::size_t addSheet(const QString& name, bool isHidden = false);
+  /// Records that the sheet has formulas whose results can't be read.
+  void setLacksFormulas(std::size_t sheet);
   /// A text that cells refer to by the returned number.
   std::size_t addText(const QString& text);
 
@@ -40,6 +42,8 @@ class WorkbookBuilder {
   };
   struct RawSheet {
     QString name;
+    bool isHidden = false;
+    bool lacksFormulas = false;
     std::vector<Cell> cells;
   };
 

@@ -72,12 +72,12 @@ bool XlsxReader::read() {
     if (relation.type == u"sharedStrings" && !readTexts(relation.part)) return false;
     if (relation.type == u"styles" && !readStyles(relation.part)) return false;
   }
-  for (const auto& [name, id] : sheets_) {
+  for (const SheetEntry& entry : sheets_) {
     const auto sheet = std::find_if(relations.begin(), relations.end(),
-                                    [&id = id](const Relation& relation) { return relation.id == id; });
+                                    [&](const Relation& relation) { return relation.id == entry.relation; });
     // Sheets may also be drawings.
     if (sheet == relations.end() || sheet->type != u"worksheet") continue;
-    if (!builder_.isOpen() || !readSheet(name, sheet->part)) return false;
+    if (!builder_.isOpen() || !readSheet(entry, sheet->part)) return false;
   }
   return true;
 }
@@ -105,7 +105,10 @@ bool XlsxReader::readWorkbook(const QString& partName) {
   WorkbookXml xml(part.get());
   while (!xml.atEnd() && sheets_.size() < mostEntries) {
     if (xml.readNext() != WorkbookXml::StartElement) continue;
-    if (xml.name() == u"sheet") sheets_.emplace_back(attribute(xml, u"name"), attribute(xml, u"id"));
+    const QString state = attribute(xml, u"state");
+    if (xml.name() == u"sheet")
+      sheets_.push_back(
+          {attribute(xml, u"name"), attribute(xml, u"id"), state == u"hidden" || state == u"veryHidden"});
     if (xml.name() == u"workbookPr") {
       const QString value = attribute(xml, u"date1904");
       since1904_ = value == u"1" || value == u"true";
@@ -144,10 +147,10 @@ bool XlsxReader::readStyles(const QString& partName) {
   return !xml.hasError();
 }
 
-bool XlsxReader::readSheet(const QString& name, const QString& partName) {
+bool XlsxReader::readSheet(const SheetEntry& entry, const QString& partName) {
   const std::unique_ptr<QIODevice> part = archive_.openPart(partName);
   if (!part) return false;
-  const std::size_t sheet = builder_.addSheet(name);
+  const std::size_t sheet = builder_.addSheet(entry.name, entry.isHidden);
   WorkbookXml xml(part.get());
   // References may be left out: then row follows row and cell follows cell.
   Place place{-1, -1};

@@ -28,6 +28,11 @@ class XlsxReader {
     QString type;
     QString part;
   };
+  struct SheetEntry {
+    QString name;
+    QString relation;
+    bool isHidden;
+  };
   struct Place {
     int row = 0;
     int column = 0;
@@ -37,13 +42,13 @@ class XlsxReader {
   [[nodiscard]] bool readWorkbook(const QString& part);
   [[nodiscard]] bool readTexts(const QString& part);
   [[nodiscard]] bool readStyles(const QString& part);
-  [[nodiscard]] bool readSheet(const QString& name, const QString& part);
+  [[nodiscard]] bool readSheet(const SheetEntry& entry, const QString& part);
   void readCell(WorkbookXml& xml, std::size_t sheet, Place place);
   void setNumber(std::size_t sheet, Place place, const QString& written, std::size_t style);
 
   ZipArchive& archive_;
   WorkbookBuilder& builder_;
-  std::vector<std::pair<QString, QString>> sheets_;  ///< name and id of the relation
+  std::vector<SheetEntry> sheets_;
   std::size_t firstText_ = 0;
   std::size_t textCount_ = 0;
   std::vector<bool> dateStyles_;

@@ -1,13 +1,18 @@
+#include <algorithm>
+#include <random>
+
 #include <QDir>
-#include <QFile>
 #include <QStringList>
 #include <QTemporaryDir>
 #include <gmock/gmock.h>
 
+#include "contacts/import/binary_records.h"
+#include "contacts/import/compound_file.h"
 #include "contacts/import/number_format.h"
 #include "contacts/import/spread_sheet.h"
 #include "contacts/import/workbook_builder.h"
 #include "contacts/import/workbook_xml.h"
+#include "tests/base/file_bytes.h"
 
 namespace parlexo {
 namespace {
@@ -35,12 +40,8 @@ TEST(CSpreadSheet, readsTheWorkbooksOfRealProgramsAlike) {
   const QStringList ann = {"Ann",         "Example",    "1001",
                            "61491570156", "2020-05-06", QString::fromUtf8("Zürich")};
   const QStringList bob = {"Bob", "Brown", "A-7", "0412 345 678", "2021-12-31", "a \"b\", c"};
-  const std::pair<const char*, bool> samples[] = {{"openpyxl.xlsx", false},
-                                                  {"xlwt.xls", false},
-                                                  {"libreoffice.xlsx", true},
-                                                  {"libreoffice.ods", true},
-                                                  {"libreoffice.xls", false}};
-  for (const auto& [name, hasFormulas] : samples) {
+  for (const char* name :
+       {"openpyxl.xlsx", "xlwt.xls", "libreoffice.xlsx", "libreoffice.ods", "libreoffice.xls"}) {
     ASSERT_TRUE(CSpreadSheet::isWorkbook(sample(name)));
     CSpreadSheet book;
     ASSERT_EQ(book.read(sample(name), {}, CancelFlag()), QString()) << name;
@@ -48,29 +49,19 @@ TEST(CSpreadSheet, readsTheWorkbooksOfRealProgramsAlike) {
     ASSERT_EQ(people.rowCount(), 3) << name;
     EXPECT_EQ(rowOf(people, 1).mid(0, 6), ann) << name;
     EXPECT_EQ(rowOf(people, 2).mid(0, 6), bob) << name;
-    if (hasFormulas) {
-      EXPECT_EQ(rowOf(people, 1).value(6), "Ann Example") << name;
-    }
+    const bool lacksFormulas = name == QLatin1String("libreoffice.xls");
+    EXPECT_EQ(book.sheets().front().lacksFormulas, lacksFormulas) << name;
+    EXPECT_EQ(rowOf(people, 1).contains("Ann Example"), people.cellCount(0) > 6 && !lacksFormulas) << name;
   }
 }
 
-TEST(CSpreadSheet, readsFilesOfAnyName) {
-  const QTemporaryDir folder;
-  for (const char* name : {"openpyxl.xlsx", "libreoffice.ods", "xlwt.xls"}) {
-    const QString path = folder.filePath(QString::fromUtf8("G\u00e4ste \u540d\u7c3f ") + QLatin1String(name));
-    ASSERT_TRUE(QFile::copy(sample(name), path));
-    EXPECT_EQ(problemOf(path).toStdString(), "") << name;
-  }
-}
-
-TEST(CSpreadSheet, leavesOutSheetsWithoutCellsAndKeepsTheirPlaces) {
+TEST(CSpreadSheet, leavesOutSheetsWithoutCellsAndPutsHiddenOnesLast) {
   for (const char* name : {"openpyxl.xlsx", "xlwt.xls"}) {
     CSpreadSheet book;
     ASSERT_EQ(book.read(sample(name), {}, CancelFlag()), QString());
-    ASSERT_EQ(book.sheets().size(), 2u);
-    EXPECT_EQ(book.sheets()[1].name, "Other");
+    ASSERT_EQ(book.sheets().size(), 3u);
+    EXPECT_EQ(book.sheets()[2].name, "Lists (hidden)") << "though it is the first in the file";
     EXPECT_EQ(rowOf(book.sheets()[1].sheet, 4), QStringList({"", "", "far"}));
-    EXPECT_EQ(book.sheets()[1].sheet.rowCount(), 5);
   }
 }
 
@@ -82,30 +73,39 @@ TEST(CSpreadSheet, stopsAtTheLimits) {
   EXPECT_THAT(problemOf(sample("libreoffice.ods"), unpacked).toStdString(), HasSubstr("once it is unpacked"));
   ImportLimits rows;
   rows.rows = 2;
-  ImportLimits cells;
-  cells.cells = 5;
   ImportLimits text;
   text.textLength = 20;
   for (const char* name : {"openpyxl.xlsx", "libreoffice.ods", "xlwt.xls"}) {
     EXPECT_THAT(problemOf(sample(name), rows).toStdString(), HasSubstr("more than 2 rows"));
-    EXPECT_THAT(problemOf(sample(name), cells).toStdString(), HasSubstr("more than 5 cells"));
     EXPECT_THAT(problemOf(sample(name), text).toStdString(), HasSubstr("too much text"));
   }
 }
 
-TEST(CSpreadSheet, damagedFilesGiveAMessage) {
+TEST(CSpreadSheet, readsFilesOfAnyNameAndReportsDamagedOnes) {
   const QTemporaryDir folder;
+  const QString path = folder.filePath(QString::fromUtf8("G\u00e4ste \u540d\u7c3f"));
   for (const char* name : {"openpyxl.xlsx", "libreoffice.ods", "xlwt.xls"}) {
-    QFile whole(sample(name));
-    ASSERT_TRUE(whole.open(QIODevice::ReadOnly));
-    const QByteArray bytes = whole.readAll();
-    QFile half(folder.filePath(QString::fromLatin1(name)));
-    ASSERT_TRUE(half.open(QIODevice::WriteOnly));
-    half.write(bytes.left(bytes.size() / 2));
-    half.close();
-    EXPECT_THAT(problemOf(half.fileName()).toStdString(), HasSubstr("can't be read")) << name;
+    const QByteArray bytes = readBytes(sample(name));
+    EXPECT_EQ(problemOf(writeBytes(path, bytes)).toStdString(), "") << name;
+    EXPECT_THAT(problemOf(writeBytes(path, bytes.left(bytes.size() / 2))).toStdString(),
+                HasSubstr("can't be read"));
   }
   EXPECT_FALSE(CSpreadSheet::isWorkbook(QStringLiteral(SAMPLE_FOLDER "README.md")));
+}
+
+TEST(CompoundFile, survivesAnyBytes) {
+  const QByteArray whole = readBytes(sample("libreoffice.xls"));
+  ASSERT_EQ(readBinarySheets(readCompoundStream(whole, u"Workbook")).size(), 1u);
+  std::mt19937 random(31);
+  const auto below = [&](qsizetype limit) { return static_cast<qsizetype>(random()) % limit; };
+  for (int round = 0; round < 2000; ++round) {
+    QByteArray bytes = whole.left(below(whole.size()) + 1);
+    for (int change = 0; change < 20; ++change)
+      bytes[below(std::min<qsizetype>(bytes.size(), 700))] = static_cast<char>(below(256));
+    const QByteArray stream = readCompoundStream(bytes, u"Workbook");
+    ASSERT_LE(stream.size(), bytes.size() + (1 << 16));
+    ASSERT_LE(readBinarySheets(stream).size(), static_cast<std::size_t>(stream.size()));
+  }
 }
 
 TEST(WorkbookXml, givesUpOnWhatIsMadeToFillTheMemory) {
@@ -143,9 +143,7 @@ TEST(WorkbookBuilder, gapsInFrontOfCellsCountLikeCells) {
 TEST(NumberFormat, keepsAllDigitsAndKnowsDates) {
   EXPECT_EQ(numberText(u"61412345678901234567"), "61412345678901234567");
   EXPECT_EQ(numberText(u"6.1412345678E10"), "61412345678");
-  EXPECT_EQ(numberText(u"61412345678.0"), "61412345678");
   EXPECT_EQ(numberText(u"0.1"), "0.1");
-  EXPECT_EQ(numberText(-2.5), "-2.5");
   EXPECT_EQ(numberText(u"n/a"), "n/a");
   for (const QStringView date :
        std::initializer_list<QStringView>{u"dd/mm/yyyy", u"[$-409]h:mm AM/PM", u"mmm\\-yy"})
@@ -153,7 +151,6 @@ TEST(NumberFormat, keepsAllDigitsAndKnowsDates) {
   for (const QStringView other :
        std::initializer_list<QStringView>{u"General", u"0.00", u"[Red]#,##0", u"\"day\" 0", u"@"})
     EXPECT_FALSE(isDateFormat(other)) << other.toString().toStdString();
-  EXPECT_EQ(dateText(43957, false), "2020-05-06");
   EXPECT_EQ(dateText(42495, true), "2020-05-06");
   EXPECT_EQ(dateText(43957.5, false), "2020-05-06 12:00:00");
   EXPECT_EQ(dateText(0.25, false), "06:00:00");
