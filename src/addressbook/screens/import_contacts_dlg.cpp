@@ -19,6 +19,7 @@
 #include <QVBoxLayout>
 
 #include "addressbook/core/contact_import.h"
+#include "addressbook/core/name_order.h"
 #include "addressbook/screens/import_preview.h"
 #include "addressbook/screens/import_question_dlg.h"
 #include "addressbook/screens/import_summary_dlg.h"
@@ -200,7 +201,8 @@ void CImportContactsDlg::createLayout(const QString& group) {
   options->addWidget(problem_);
   options->addLayout(planRow);
   if (!group.isEmpty()) {
-    auto* joined = wrappedLabel(QStringLiteral("The contacts join the group \"%1\".").arg(group), options_);
+    auto* joined =
+        wrappedLabel(QStringLiteral("The contacts join the group \"%1\".").arg(shownName(group)), options_);
     joined->setTextFormat(Qt::PlainText);
     options->addWidget(joined);
   }
