@@ -51,7 +51,7 @@ inline constexpr seconds pageCount{10};
 
 // What the user sees of a wait.
 
-/// Before a wait without a box of its own shows one; most exchanges are over before.
+/// Until a wait that its caller gave no progress box shows one. Most exchanges end sooner.
 inline constexpr milliseconds untilBox{300};
 /// Of exchanges under one box, before it offers Cancel.
 inline constexpr seconds untilCancel{10};

@@ -9,7 +9,7 @@
 
 namespace parlexo {
 
-/// One exchange on a thread of its own. An exchange that does not end is left behind with everything it
+/// Runs one exchange on a separate thread. An exchange that does not end is left behind with everything it
 /// owns: a blocked name lookup cannot be interrupted.
 class ExchangeThread {
  public:

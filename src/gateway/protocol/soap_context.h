@@ -11,7 +11,7 @@ struct soap;
 namespace parlexo::protocol {
 
 /// Finds the addresses of a host, in their numeric form and in the order in which they should be tried; empty
-/// when it has none. May block, and is called on a thread of its own that may outlive the exchange.
+/// when it has none. May block; is called on a separate thread that may outlive the exchange.
 using Resolver = std::function<std::vector<std::string>(const std::string& host)>;
 
 /// How long the input and output of a context may take, and who may end them early.
