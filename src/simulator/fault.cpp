@@ -5,7 +5,7 @@
 #include <optional>
 #include <type_traits>
 
-#include "gateway/protocol/contract.h"
+#include "protocol/contract.h"
 
 namespace parlexo::simulator {
 

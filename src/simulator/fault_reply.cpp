@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "gateway/protocol/server_envelope.h"
+#include "protocol/server_envelope.h"
 
 namespace parlexo::simulator {
 

@@ -2,7 +2,7 @@
 
 #include <string_view>
 
-#include "gateway/protocol/server_envelope.h"
+#include "protocol/server_envelope.h"
 #include "simulator/fault_reply.h"
 #include "simulator/locator_document.h"
 #include "simulator/message_text.h"

@@ -8,7 +8,7 @@
 #include <QString>
 #include <QStringList>
 
-#include "gateway/protocol/records.h"
+#include "protocol/records.h"
 #include "simulator/accepted_message.h"
 #include "simulator/gateway_state.h"
 #include "simulator/result_code.h"

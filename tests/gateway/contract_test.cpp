@@ -1,4 +1,4 @@
-#include "gateway/protocol/contract.h"
+#include "protocol/contract.h"
 
 #include <string>
 

@@ -5,7 +5,7 @@
 #include <cstdlib>
 #include <utility>
 
-#include "gateway/protocol/socket_calls.h"
+#include "protocol/socket_calls.h"
 
 namespace parlexo::testing {
 

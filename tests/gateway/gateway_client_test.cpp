@@ -11,8 +11,8 @@
 #include <stdsoap2.h>
 
 #include "base/run_state.h"
-#include "gateway/protocol/client_call.h"
-#include "gateway/protocol/socket_calls.h"
+#include "protocol/client_call.h"
+#include "protocol/socket_calls.h"
 #include "tests/gateway/fake_gateway.h"
 #include "tests/gateway/gateway_access_for.h"
 

@@ -5,7 +5,7 @@
 #include <gtest/gtest.h>
 
 #include "gateway/core/gateway_client.h"
-#include "gateway/protocol/server_envelope.h"
+#include "protocol/server_envelope.h"
 #include "tests/gateway/fake_gateway.h"
 #include "tests/gateway/gateway_access_for.h"
 

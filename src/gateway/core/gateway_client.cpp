@@ -7,8 +7,8 @@
 #include <stdsoap2.h>
 
 #include "base/secret.h"
-#include "gateway/protocol/client_call.h"
-#include "gateway/protocol/contract.h"
+#include "protocol/client_call.h"
+#include "protocol/contract.h"
 
 namespace parlexo {
 

@@ -9,8 +9,8 @@
 #include "base/call_runner.h"
 #include "base/transfer.h"
 #include "gateway/core/gateway_access.h"
-#include "gateway/protocol/records.h"
-#include "gateway/protocol/soap_context.h"
+#include "protocol/records.h"
+#include "protocol/soap_context.h"
 
 namespace parlexo {
 

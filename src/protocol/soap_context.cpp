@@ -1,8 +1,8 @@
-#include "gateway/protocol/soap_context.h"
+#include "protocol/soap_context.h"
 
 #include <stdsoap2.h>
 
-#include "gateway/protocol/socket_io.h"
+#include "protocol/socket_io.h"
 
 namespace parlexo::protocol {
 

@@ -1,4 +1,4 @@
-#include "gateway/protocol/socket_connect.h"
+#include "protocol/socket_connect.h"
 
 #include <algorithm>
 #include <future>
@@ -8,7 +8,7 @@
 #include <utility>
 #include <vector>
 
-#include "gateway/protocol/socket_calls.h"
+#include "protocol/socket_calls.h"
 
 namespace parlexo::protocol {
 

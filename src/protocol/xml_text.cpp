@@ -1,4 +1,4 @@
-#include "gateway/protocol/xml_text.h"
+#include "protocol/xml_text.h"
 
 #include <algorithm>
 #include <array>

@@ -4,8 +4,8 @@
 #include <tuple>
 #include <type_traits>
 
-#include "gateway/protocol/fields.h"
-#include "gateway/protocol/records.h"
+#include "protocol/fields.h"
+#include "protocol/records.h"
 
 namespace parlexo::protocol {
 

@@ -5,7 +5,7 @@
 
 #include <stdsoap2.h>
 
-#include "gateway/protocol/soap_context.h"
+#include "protocol/soap_context.h"
 
 namespace parlexo::protocol {
 

@@ -3,7 +3,7 @@
 #include <string>
 #include <string_view>
 
-#include "gateway/protocol/fields.h"
+#include "protocol/fields.h"
 
 struct soap;
 

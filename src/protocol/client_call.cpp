@@ -1,10 +1,10 @@
-#include "gateway/protocol/client_call.h"
+#include "protocol/client_call.h"
 
 #include <string>
 
 #include <stdsoap2.h>
 
-#include "gateway/protocol/serializer.h"
+#include "protocol/serializer.h"
 
 namespace parlexo::protocol {
 

@@ -5,8 +5,8 @@
 #include <string_view>
 #include <type_traits>
 
-#include "gateway/protocol/contract.h"
-#include "gateway/protocol/fields.h"
+#include "protocol/contract.h"
+#include "protocol/fields.h"
 
 struct soap;
 

@@ -1,4 +1,4 @@
-#include "gateway/protocol/socket_calls.h"
+#include "protocol/socket_calls.h"
 
 namespace parlexo::protocol {
 

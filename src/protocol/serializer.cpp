@@ -1,13 +1,13 @@
-#include "gateway/protocol/serializer.h"
+#include "protocol/serializer.h"
 
 #include <algorithm>
 #include <optional>
 
 #include <stdsoap2.h>
 
-#include "gateway/protocol/element_reading.h"
-#include "gateway/protocol/field_text.h"
-#include "gateway/protocol/xml_text.h"
+#include "protocol/element_reading.h"
+#include "protocol/field_text.h"
+#include "protocol/xml_text.h"
 
 namespace parlexo::protocol {
 

@@ -1,4 +1,4 @@
-#include "gateway/protocol/field_text.h"
+#include "protocol/field_text.h"
 
 #include <algorithm>
 #include <array>

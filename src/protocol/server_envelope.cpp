@@ -1,4 +1,4 @@
-#include "gateway/protocol/server_envelope.h"
+#include "protocol/server_envelope.h"
 
 #include <memory>
 #include <new>
@@ -6,8 +6,8 @@
 
 #include <stdsoap2.h>
 
-#include "gateway/protocol/serializer.h"
-#include "gateway/protocol/soap_context.h"
+#include "protocol/serializer.h"
+#include "protocol/soap_context.h"
 
 namespace parlexo::protocol {
 

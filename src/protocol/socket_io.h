@@ -1,6 +1,6 @@
 #pragma once
 
-#include "gateway/protocol/soap_context.h"
+#include "protocol/soap_context.h"
 
 struct soap;
 

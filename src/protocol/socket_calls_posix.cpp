@@ -5,7 +5,7 @@
 
 #include <cerrno>
 
-#include "gateway/protocol/socket_calls.h"
+#include "protocol/socket_calls.h"
 
 namespace parlexo::protocol {
 

@@ -4,8 +4,8 @@
 #include <string>
 #include <string_view>
 
-#include "gateway/protocol/contract.h"
-#include "gateway/protocol/fields.h"
+#include "protocol/contract.h"
+#include "protocol/fields.h"
 
 struct soap;
 

@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "gateway/protocol/records.h"
+#include "protocol/records.h"
 
 namespace parlexo::protocol {
 

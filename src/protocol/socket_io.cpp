@@ -1,12 +1,12 @@
-#include "gateway/protocol/socket_io.h"
+#include "protocol/socket_io.h"
 
 #include <algorithm>
 #include <chrono>
 
 #include <stdsoap2.h>
 
-#include "gateway/protocol/socket_calls.h"
-#include "gateway/protocol/socket_connect.h"
+#include "protocol/socket_calls.h"
+#include "protocol/socket_connect.h"
 
 namespace parlexo::protocol {
 

@@ -4,7 +4,7 @@
 
 #include <stdsoap2.h>
 
-#include "gateway/protocol/element_reading.h"
+#include "protocol/element_reading.h"
 
 struct Namespace namespaces[] = {
     {"SOAP-ENV", "http://schemas.xmlsoap.org/soap/envelope/", "http://www.w3.org/*/soap-envelope", nullptr},
