@@ -15,8 +15,8 @@
 #include <QTimer>
 #include <gmock/gmock.h>
 
+#include "base/task_thread.h"
 #include "gateway/core/background_gateway.h"
-#include "gateway/core/exchange_thread.h"
 #include "gateway/core/foreground_runner.h"
 #include "tests/gateway/fake_gateway.h"
 #include "tests/gateway/stepping_worker.h"

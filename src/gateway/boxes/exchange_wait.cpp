@@ -5,8 +5,8 @@
 #include <QAbstractEventDispatcher>
 #include <QEventLoop>
 
+#include "base/task_thread.h"
 #include "gateway/boxes/progress_box.h"
-#include "gateway/core/exchange_thread.h"
 #include "ui/input_block.h"
 
 namespace parlexo {
@@ -30,7 +30,7 @@ ExchangeWait::~ExchangeWait() {
 bool ExchangeWait::run(CallRunner::Exchange exchange) {
   const InputBlock block(InputBlock::CloseRequests::Dropped);
   const auto wakeUp = [waiter = QAbstractEventDispatcher::instance()] { waiter->wakeUp(); };
-  ExchangeThread thread(std::move(exchange), wakeUp, cancelFlag_);
+  TaskThread thread(std::move(exchange), wakeUp, cancelFlag_);
   // Not exec(): a quit() of the application would end that while the worker still runs.
   QEventLoop loop;
   while (!thread.hasEnded() && !givenUp_) loop.processEvents(QEventLoop::WaitForMoreEvents);

@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "gateway/core/exchange_thread.h"
+#include "base/task_thread.h"
 
 namespace parlexo {
 
@@ -18,7 +18,7 @@ void ThreadBackgroundWorker::start(CallRunner::Exchange exchange, std::function<
   const auto post = [this, onEnd = std::move(onEnd)] {
     QMetaObject::invokeMethod(&receiver_, onEnd, Qt::QueuedConnection);
   };
-  thread_ = std::make_unique<ExchangeThread>(std::move(exchange), post);
+  thread_ = std::make_unique<TaskThread>(std::move(exchange), post);
 }
 
 void ThreadBackgroundWorker::cancel() {

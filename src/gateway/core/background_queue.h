@@ -13,7 +13,7 @@
 
 namespace parlexo {
 
-class ExchangeThread;
+class TaskThread;
 
 /// Runs one exchange at a time for a BackgroundQueue. All functions belong to the interface thread.
 class BackgroundWorker {
@@ -43,7 +43,7 @@ class ThreadBackgroundWorker final : public BackgroundWorker {
 
  private:
   QObject receiver_;
-  std::unique_ptr<ExchangeThread> thread_;
+  std::unique_ptr<TaskThread> thread_;
 };
 
 /// The rules of background work: order, priority of the user's calls, unwanted results.

@@ -11,18 +11,18 @@ namespace parlexo {
 
 /// Runs one exchange on a separate thread. An exchange that does not end is left behind with everything it
 /// owns: a blocked name lookup cannot be interrupted.
-class ExchangeThread {
+class TaskThread {
  public:
   /// Starts `exchange`. `onEnd` is called when it has ended, also when it threw, on its thread; or at once on
   /// the calling thread when no thread could be started. The exchange polls `cancel`, which may be raised
   /// already.
-  explicit ExchangeThread(CallRunner::Exchange exchange, std::function<void()> onEnd = {},
-                          CancelFlag cancel = {});
+  explicit TaskThread(CallRunner::Exchange exchange, std::function<void()> onEnd = {},
+                      CancelFlag cancel = {});
   /// Cancels the exchange and waits up to 500 ms for its end, then leaves it behind. `onEnd` is not called
   /// after this has returned.
-  ~ExchangeThread();
-  ExchangeThread(const ExchangeThread&) = delete;
-  ExchangeThread& operator=(const ExchangeThread&) = delete;
+  ~TaskThread();
+  TaskThread(const TaskThread&) = delete;
+  TaskThread& operator=(const TaskThread&) = delete;
 
   void cancel() const { cancel_.raise(); }
   /// Cancels the exchange and leaves it behind without a wait.

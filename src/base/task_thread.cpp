@@ -1,4 +1,4 @@
-#include "gateway/core/exchange_thread.h"
+#include "base/task_thread.h"
 
 #include <condition_variable>
 #include <exception>
@@ -29,7 +29,7 @@ bool succeeds(const CallRunner::Exchange& exchange, const CancelFlag& cancel) {
 }  // namespace
 
 /// Owned by both threads, so that it outlives an exchange that is left behind.
-class ExchangeThread::Shared {
+class TaskThread::Shared {
  public:
   explicit Shared(std::function<void()> onEnd) : onEnd_(std::move(onEnd)) {}
 
@@ -65,7 +65,7 @@ class ExchangeThread::Shared {
   bool hasSucceeded_ = false;
 };
 
-ExchangeThread::ExchangeThread(CallRunner::Exchange exchange, std::function<void()> onEnd, CancelFlag cancel)
+TaskThread::TaskThread(CallRunner::Exchange exchange, std::function<void()> onEnd, CancelFlag cancel)
     : cancel_(std::move(cancel)), shared_(std::make_shared<Shared>(std::move(onEnd))) {
   try {
     thread_ = std::thread([shared = shared_, cancel = cancel_, work = std::move(exchange)]() mutable {
@@ -79,7 +79,7 @@ ExchangeThread::ExchangeThread(CallRunner::Exchange exchange, std::function<void
   }
 }
 
-ExchangeThread::~ExchangeThread() {
+TaskThread::~TaskThread() {
   cancel();
   shared_->forget();
   if (!thread_.joinable()) return;
@@ -89,17 +89,17 @@ ExchangeThread::~ExchangeThread() {
     thread_.detach();
 }
 
-void ExchangeThread::leaveBehind() {
+void TaskThread::leaveBehind() {
   cancel();
   shared_->forget();
   if (thread_.joinable()) thread_.detach();
 }
 
-bool ExchangeThread::waitFor(std::chrono::milliseconds limit) const {
+bool TaskThread::waitFor(std::chrono::milliseconds limit) const {
   return shared_->waitFor(limit);
 }
 
-bool ExchangeThread::hasSucceeded() const {
+bool TaskThread::hasSucceeded() const {
   return shared_->hasSucceeded();
 }
 
