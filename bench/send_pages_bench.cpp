@@ -13,13 +13,13 @@
 #include <QTreeView>
 #include <benchmark/benchmark.h>
 
-#include "gateway/boxes/progress_box.h"
-#include "gateway/boxes/thread_call_runner.h"
 #include "messaging/screens/message_edit.h"
 #include "messaging/screens/sms_dlg.h"
 #include "messaging/screens/status_dlg.h"
 #include "tests/messaging/gateway_rig.h"
 #include "ui/picture_button.h"
+#include "ui/waiting/progress_box.h"
+#include "ui/waiting/thread_call_runner.h"
 
 namespace parlexo {
 namespace {

@@ -5,7 +5,7 @@
 
 #include "bench/bench_folder.h"
 #include "contacts/address_book.h"
-#include "gateway/boxes/progress_box.h"
+#include "ui/waiting/progress_box.h"
 
 namespace parlexo {
 namespace {

@@ -6,10 +6,10 @@
 
 #include "base/message_texts.h"
 #include "base/product.h"
-#include "gateway/boxes/animated_picture.h"
 #include "ui/hyperlink_label.h"
 #include "ui/look.h"
 #include "ui/picture_button.h"
+#include "ui/waiting/animated_picture.h"
 
 namespace parlexo {
 

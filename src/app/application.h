@@ -10,13 +10,13 @@
 #include "app/program_screens.h"
 #include "base/run_state.h"
 #include "base/settings.h"
-#include "gateway/boxes/progress_box.h"
-#include "gateway/boxes/thread_call_runner.h"
 #include "gateway/core/background_gateway.h"
 #include "gateway/core/background_queue.h"
 #include "gateway/core/foreground_runner.h"
 #include "gateway/core/gateway.h"
 #include "ui/focus_keeper.h"
+#include "ui/waiting/progress_box.h"
+#include "ui/waiting/thread_call_runner.h"
 
 namespace parlexo {
 

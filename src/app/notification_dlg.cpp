@@ -12,9 +12,9 @@
 #include "app/core/notification_results.h"
 #include "app/message_icon.h"
 #include "base/message_texts.h"
-#include "gateway/boxes/animated_picture.h"
 #include "ui/look.h"
 #include "ui/picture_button.h"
+#include "ui/waiting/animated_picture.h"
 
 namespace parlexo {
 

@@ -24,13 +24,13 @@
 #include "app/notification_dlg.h"
 #include "app/notification_notifier.h"
 #include "app/program_screens.h"
-#include "gateway/boxes/progress_box.h"
 #include "gateway/core/background_queue.h"
 #include "messaging/screens/sms_dlg.h"
 #include "simulator/simulator.h"
 #include "ui/front_window.h"
 #include "ui/hyperlink_label.h"
 #include "ui/picture_button.h"
+#include "ui/waiting/progress_box.h"
 
 namespace parlexo {
 namespace {

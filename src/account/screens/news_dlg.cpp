@@ -9,10 +9,10 @@
 
 #include "account/core/news.h"
 #include "base/message_texts.h"
-#include "gateway/boxes/box_column.h"
 #include "ui/look.h"
 #include "ui/page_controls.h"
 #include "ui/picture_button.h"
+#include "ui/waiting/box_column.h"
 
 namespace parlexo {
 namespace {

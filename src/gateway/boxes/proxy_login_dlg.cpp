@@ -4,12 +4,12 @@
 #include <QLabel>
 #include <QLineEdit>
 
-#include "gateway/boxes/box_column.h"
 #include "gateway/core/leading_number.h"
 #include "ui/front_window.h"
 #include "ui/look.h"
 #include "ui/page_controls.h"
 #include "ui/unsendable_hint.h"
+#include "ui/waiting/box_column.h"
 
 namespace parlexo {
 

@@ -6,10 +6,10 @@
 #include <QVBoxLayout>
 
 #include "base/product.h"
-#include "gateway/boxes/box_column.h"
 #include "ui/look.h"
 #include "ui/page_controls.h"
 #include "ui/picture_button.h"
+#include "ui/waiting/box_column.h"
 
 namespace parlexo {
 

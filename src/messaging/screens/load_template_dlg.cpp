@@ -11,12 +11,12 @@
 #include <QVBoxLayout>
 
 #include "base/notifier.h"
-#include "gateway/boxes/box_column.h"
 #include "messaging/core/messaging_texts.h"
 #include "ui/list_style.h"
 #include "ui/look.h"
 #include "ui/page_controls.h"
 #include "ui/picture_button.h"
+#include "ui/waiting/box_column.h"
 
 namespace parlexo {
 namespace {

@@ -7,10 +7,10 @@
 #include <QVBoxLayout>
 
 #include "base/notifier.h"
-#include "gateway/boxes/box_column.h"
 #include "messaging/core/messaging_texts.h"
 #include "ui/look.h"
 #include "ui/page_controls.h"
+#include "ui/waiting/box_column.h"
 
 namespace parlexo {
 

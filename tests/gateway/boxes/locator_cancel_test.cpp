@@ -3,12 +3,12 @@
 #include <QElapsedTimer>
 #include <QTimer>
 
-#include "gateway/boxes/progress_box.h"
-#include "gateway/boxes/thread_call_runner.h"
 #include "gateway/core/gateway_search.h"
-#include "tests/gateway/boxes/sample_page.h"
 #include "tests/gateway/fake_gateway.h"
 #include "tests/gateway/fake_proxy_system.h"
+#include "tests/ui/waiting/sample_page.h"
+#include "ui/waiting/progress_box.h"
+#include "ui/waiting/thread_call_runner.h"
 
 namespace parlexo {
 namespace {

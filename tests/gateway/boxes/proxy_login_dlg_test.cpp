@@ -6,8 +6,8 @@
 #include <QTimer>
 #include <gtest/gtest.h>
 
-#include "gateway/boxes/animated_picture.h"
 #include "tests/gateway/fake_proxy_system.h"
+#include "ui/waiting/animated_picture.h"
 
 namespace parlexo {
 namespace {

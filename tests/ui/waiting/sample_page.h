@@ -7,9 +7,9 @@
 #include <QVBoxLayout>
 #include <gtest/gtest.h>
 
-#include "gateway/boxes/connecting_dlg.h"
 #include "ui/gradient_page.h"
 #include "ui/picture_button.h"
+#include "ui/waiting/connecting_dlg.h"
 
 namespace parlexo {
 

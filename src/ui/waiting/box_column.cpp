@@ -1,8 +1,8 @@
-#include "gateway/boxes/box_column.h"
+#include "ui/waiting/box_column.h"
 
 #include <QVBoxLayout>
 
-#include "gateway/boxes/animated_picture.h"
+#include "ui/waiting/animated_picture.h"
 
 namespace parlexo {
 

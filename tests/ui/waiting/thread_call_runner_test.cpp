@@ -1,4 +1,4 @@
-#include "gateway/boxes/thread_call_runner.h"
+#include "ui/waiting/thread_call_runner.h"
 
 #include <atomic>
 #include <chrono>
@@ -9,8 +9,8 @@
 #include <QElapsedTimer>
 #include <QTimer>
 
-#include "gateway/boxes/progress_box.h"
-#include "tests/gateway/boxes/sample_page.h"
+#include "tests/ui/waiting/sample_page.h"
+#include "ui/waiting/progress_box.h"
 
 namespace parlexo {
 namespace {

@@ -1,4 +1,4 @@
-#include "gateway/boxes/animated_picture.h"
+#include "ui/waiting/animated_picture.h"
 
 #include <QBuffer>
 #include <QFile>
@@ -7,7 +7,7 @@
 
 // The initialiser is declared outside every namespace; without the call a static library drops its resources.
 static void loadResources() {
-  Q_INIT_RESOURCE(boxes);
+  Q_INIT_RESOURCE(waiting);
 }
 
 namespace parlexo {

@@ -1,14 +1,14 @@
-#include "gateway/boxes/connecting_dlg.h"
+#include "ui/waiting/connecting_dlg.h"
 
 #include <QCloseEvent>
 #include <QGridLayout>
 #include <QLabel>
 #include <QPainter>
 
-#include "gateway/boxes/animated_picture.h"
 #include "ui/input_block.h"
 #include "ui/look.h"
 #include "ui/picture_button.h"
+#include "ui/waiting/animated_picture.h"
 
 namespace parlexo {
 

@@ -1,11 +1,11 @@
-#include "gateway/boxes/progress_box.h"
+#include "ui/waiting/progress_box.h"
 
 #include <memory>
 
 #include <QLabel>
 #include <QThread>
 
-#include "tests/gateway/boxes/sample_page.h"
+#include "tests/ui/waiting/sample_page.h"
 
 namespace parlexo {
 namespace {

@@ -10,8 +10,8 @@
 #include <QTimer>
 
 #include "base/progress.h"
-#include "gateway/boxes/connecting_dlg.h"
 #include "ui/input_block.h"
+#include "ui/waiting/connecting_dlg.h"
 
 namespace parlexo {
 

@@ -1,4 +1,4 @@
-#include "gateway/boxes/progress_box.h"
+#include "ui/waiting/progress_box.h"
 
 #include <utility>
 

@@ -1,4 +1,4 @@
-#include "gateway/boxes/exchange_wait.h"
+#include "ui/waiting/exchange_wait.h"
 
 #include <utility>
 
@@ -6,8 +6,8 @@
 #include <QEventLoop>
 
 #include "base/task_thread.h"
-#include "gateway/boxes/progress_box.h"
 #include "ui/input_block.h"
+#include "ui/waiting/progress_box.h"
 
 namespace parlexo {
 

@@ -1,4 +1,4 @@
-#include "gateway/boxes/animated_picture.h"
+#include "ui/waiting/animated_picture.h"
 
 #include <utility>
 #include <vector>

@@ -1,9 +1,9 @@
-#include "gateway/boxes/thread_call_runner.h"
+#include "ui/waiting/thread_call_runner.h"
 
 #include <utility>
 
-#include "gateway/boxes/exchange_wait.h"
-#include "gateway/boxes/progress_box.h"
+#include "ui/waiting/exchange_wait.h"
+#include "ui/waiting/progress_box.h"
 
 namespace parlexo {
 
