@@ -6,10 +6,10 @@
 #include "app/core/start_up.h"
 #include "base/product.h"
 #include "base/secret.h"
-#include "gateway/boxes/proxy_login_dlg.h"
-#include "gateway/core/gateway_search.h"
-#include "gateway/core/proxy_discovery.h"
-#include "gateway/core/server_locator.h"
+#include "connection/locator/gateway_search.h"
+#include "connection/locator/proxy_discovery.h"
+#include "connection/locator/server_locator.h"
+#include "connection/screens/proxy_login_dlg.h"
 
 namespace parlexo {
 

@@ -10,7 +10,7 @@
 #include "app/main_dlg.h"
 #include "app/main_tabs.h"
 #include "app/news_announcement.h"
-#include "gateway/boxes/upgrade_dlg.h"
+#include "connection/screens/upgrade_dlg.h"
 #include "ui/front_window.h"
 
 namespace parlexo {

@@ -12,8 +12,8 @@
 #include "base/run_state.h"
 #include "base/session_renewal.h"
 #include "base/settings.h"
-#include "gateway/core/background_gateway.h"
-#include "gateway/core/gateway.h"
+#include "connection/client/background_gateway.h"
+#include "connection/client/gateway.h"
 
 namespace parlexo {
 

@@ -4,9 +4,9 @@
 #include "account/core/email_preferences.h"
 #include "account/core/news.h"
 #include "account/core/password_change.h"
-#include "gateway/core/background_gateway.h"
+#include "connection/client/background_gateway.h"
 #include "tests/account/account_rig.h"
-#include "tests/gateway/stepping_worker.h"
+#include "tests/support/stepping_worker.h"
 
 namespace parlexo {
 namespace {

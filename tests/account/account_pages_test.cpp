@@ -8,7 +8,7 @@
 #include "account/screens/receive_messages_dlg.h"
 #include "base/run_state.h"
 #include "tests/account/account_rig.h"
-#include "tests/ui/column_cells.h"
+#include "tests/support/column_cells.h"
 #include "ui/picture_button.h"
 #include "ui/record_table.h"
 

@@ -4,7 +4,7 @@
 
 #include "account/core/account_services.h"
 #include "base/settings.h"
-#include "tests/gateway/logged_in_rig.h"
+#include "tests/support/logged_in_rig.h"
 
 namespace parlexo {
 

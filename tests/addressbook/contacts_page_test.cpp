@@ -24,8 +24,8 @@
 #include "addressbook/screens/row_list_view.h"
 #include "addressbook/screens/select_contacts_dlg.h"
 #include "tests/addressbook/disk_book.h"
-#include "tests/base/file_bytes.h"
-#include "tests/ui/column_cells.h"
+#include "tests/support/column_cells.h"
+#include "tests/support/file_bytes.h"
 
 namespace parlexo {
 namespace {

@@ -15,7 +15,7 @@
 #include "addressbook/screens/import_question_dlg.h"
 #include "addressbook/screens/import_summary_dlg.h"
 #include "tests/addressbook/disk_book.h"
-#include "tests/base/file_bytes.h"
+#include "tests/support/file_bytes.h"
 
 namespace parlexo {
 namespace {

@@ -8,7 +8,7 @@
 #include "base/csv_writer.h"
 #include "contacts/import/delimited_file.h"
 #include "tests/addressbook/disk_book.h"
-#include "tests/base/file_bytes.h"
+#include "tests/support/file_bytes.h"
 
 namespace parlexo {
 namespace {

@@ -10,7 +10,7 @@
 #include "contacts/item_database.h"
 #include "contacts/item_index_cache.h"
 #include "contacts/lock_waiter.h"
-#include "tests/base/recording_notifier.h"
+#include "tests/support/recording_notifier.h"
 
 namespace parlexo::test {
 

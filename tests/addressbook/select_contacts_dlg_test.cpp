@@ -16,7 +16,7 @@
 #include "addressbook/screens/check_list_view.h"
 #include "addressbook/screens/select_by_extra_dlg.h"
 #include "tests/addressbook/sample_book.h"
-#include "tests/ui/column_cells.h"
+#include "tests/support/column_cells.h"
 
 namespace parlexo {
 namespace {

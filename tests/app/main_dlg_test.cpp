@@ -24,7 +24,7 @@
 #include "app/notification_dlg.h"
 #include "app/notification_notifier.h"
 #include "app/program_screens.h"
-#include "gateway/core/background_queue.h"
+#include "connection/client/background_queue.h"
 #include "messaging/screens/sms_dlg.h"
 #include "simulator/simulator.h"
 #include "ui/front_window.h"

@@ -13,8 +13,8 @@
 #include "base/call_runner.h"
 #include "base/notifier.h"
 #include "base/progress.h"
-#include "gateway/core/gateway.h"
-#include "gateway/core/server_locator.h"
+#include "connection/client/gateway.h"
+#include "connection/locator/server_locator.h"
 #include "simulator/simulator.h"
 
 namespace parlexo {

@@ -9,8 +9,8 @@
 #include "app/disk_stores.h"
 #include "app/pumping_lock_waiter.h"
 #include "tests/app/run_fakes.h"
-#include "tests/base/file_bytes.h"
 #include "tests/contacts/other_process.h"
+#include "tests/support/file_bytes.h"
 #include "ui/waiting/progress_box.h"
 
 namespace parlexo {

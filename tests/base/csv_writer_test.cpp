@@ -4,7 +4,7 @@
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
-#include "tests/base/file_bytes.h"
+#include "tests/support/file_bytes.h"
 
 namespace parlexo {
 namespace {

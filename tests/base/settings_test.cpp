@@ -5,7 +5,7 @@
 #include <gtest/gtest.h>
 
 #include "base/product.h"
-#include "tests/base/file_bytes.h"
+#include "tests/support/file_bytes.h"
 
 namespace parlexo {
 namespace {

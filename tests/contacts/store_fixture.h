@@ -13,8 +13,8 @@
 #include "base/progress.h"
 #include "contacts/address_book.h"
 #include "contacts/item_database.h"
-#include "tests/base/file_bytes.h"
-#include "tests/base/recording_notifier.h"
+#include "tests/support/file_bytes.h"
+#include "tests/support/recording_notifier.h"
 
 /// Lets a failed comparison show texts as texts.
 inline void PrintTo(const QString& text, std::ostream* out) {

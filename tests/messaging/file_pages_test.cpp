@@ -19,8 +19,8 @@
 #include "messaging/screens/mms_dlg.h"
 #include "messaging/screens/picture_preview.h"
 #include "messaging/screens/wap_dlg.h"
-#include "tests/base/file_bytes.h"
 #include "tests/messaging/page_rig.h"
+#include "tests/support/file_bytes.h"
 
 namespace parlexo {
 namespace {

@@ -10,9 +10,9 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "tests/base/file_bytes.h"
 #include "tests/messaging/gateway_rig.h"
 #include "tests/messaging/memory_refusal.h"
+#include "tests/support/file_bytes.h"
 
 namespace parlexo {
 namespace {

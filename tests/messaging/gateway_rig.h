@@ -9,7 +9,7 @@
 #include "messaging/core/status_log.h"
 #include "messaging/core/template.h"
 #include "tests/addressbook/sample_book.h"
-#include "tests/gateway/logged_in_rig.h"
+#include "tests/support/logged_in_rig.h"
 
 namespace parlexo {
 

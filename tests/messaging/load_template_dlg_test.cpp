@@ -8,8 +8,8 @@
 #include <QTest>
 #include <gmock/gmock.h>
 
-#include "tests/base/file_bytes.h"
-#include "tests/base/recording_notifier.h"
+#include "tests/support/file_bytes.h"
+#include "tests/support/recording_notifier.h"
 #include "ui/picture_button.h"
 
 namespace parlexo {

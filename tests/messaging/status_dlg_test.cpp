@@ -9,7 +9,7 @@
 #include <gmock/gmock.h>
 
 #include "tests/messaging/gateway_rig.h"
-#include "tests/ui/column_cells.h"
+#include "tests/support/column_cells.h"
 #include "ui/picture_button.h"
 
 namespace parlexo {

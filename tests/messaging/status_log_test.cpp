@@ -7,8 +7,8 @@
 #include "messaging/core/status_document.h"
 #include "messaging/core/status_file.h"
 #include "messaging/core/status_order.h"
-#include "tests/base/file_bytes.h"
-#include "tests/base/recording_notifier.h"
+#include "tests/support/file_bytes.h"
+#include "tests/support/recording_notifier.h"
 
 namespace parlexo {
 namespace {

@@ -7,7 +7,7 @@
 #include <QTemporaryDir>
 #include <gmock/gmock.h>
 
-#include "tests/base/file_bytes.h"
+#include "tests/support/file_bytes.h"
 
 namespace parlexo {
 namespace {

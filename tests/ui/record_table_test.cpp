@@ -13,9 +13,9 @@
 #include <gmock/gmock.h>
 
 #include "base/settings.h"
-#include "tests/base/file_bytes.h"
-#include "tests/base/recording_notifier.h"
-#include "tests/ui/column_cells.h"
+#include "tests/support/column_cells.h"
+#include "tests/support/file_bytes.h"
+#include "tests/support/recording_notifier.h"
 #include "ui/export_button.h"
 #include "ui/sorted_rows.h"
 

@@ -2,7 +2,7 @@
 
 #include <QRegularExpression>
 
-#include "gateway/core/background_gateway.h"
+#include "connection/client/background_gateway.h"
 
 namespace parlexo {
 namespace {

@@ -8,7 +8,7 @@
 #include "base/notifier.h"
 #include "base/progress.h"
 #include "base/run_state.h"
-#include "gateway/core/gateway.h"
+#include "connection/client/gateway.h"
 
 namespace parlexo {
 

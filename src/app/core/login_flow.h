@@ -5,7 +5,7 @@
 #include "base/notifier.h"
 #include "base/run_state.h"
 #include "base/settings.h"
-#include "gateway/core/gateway.h"
+#include "connection/client/gateway.h"
 
 namespace parlexo {
 

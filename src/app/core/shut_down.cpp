@@ -1,6 +1,6 @@
 #include "app/core/shut_down.h"
 
-#include "gateway/core/gateway.h"
+#include "connection/client/gateway.h"
 
 namespace parlexo {
 

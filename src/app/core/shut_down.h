@@ -4,7 +4,7 @@
 #include "base/call_runner.h"
 #include "base/progress.h"
 #include "base/run_state.h"
-#include "gateway/core/gateway_access.h"
+#include "connection/client/gateway_access.h"
 
 namespace parlexo {
 

@@ -10,7 +10,7 @@
 #include "base/progress.h"
 #include "base/run_state.h"
 #include "base/settings.h"
-#include "gateway/core/gateway.h"
+#include "connection/client/gateway.h"
 
 namespace parlexo {
 

@@ -7,7 +7,7 @@
 #include "base/message_texts.h"
 #include "base/run_state.h"
 #include "base/transfer.h"
-#include "gateway/core/gateway.h"
+#include "connection/client/gateway.h"
 #include "messaging/core/message_file.h"
 #include "messaging/core/send_flow.h"
 

@@ -3,7 +3,7 @@
 #include "base/message_texts.h"
 #include "base/notifier.h"
 #include "base/run_state.h"
-#include "gateway/core/gateway.h"
+#include "connection/client/gateway.h"
 #include "messaging/core/messaging_texts.h"
 
 namespace parlexo {

@@ -1,7 +1,7 @@
 #include "messaging/core/sms_send_flow.h"
 
 #include "base/notifier.h"
-#include "gateway/core/gateway.h"
+#include "connection/client/gateway.h"
 #include "messaging/core/messaging_texts.h"
 
 namespace parlexo {

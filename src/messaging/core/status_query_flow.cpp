@@ -8,7 +8,7 @@
 #include "base/progress.h"
 #include "base/run_state.h"
 #include "base/timeouts.h"
-#include "gateway/core/gateway.h"
+#include "connection/client/gateway.h"
 #include "messaging/core/receipts.h"
 #include "messaging/core/session_expiry.h"
 #include "messaging/core/status_file.h"

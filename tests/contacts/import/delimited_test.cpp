@@ -9,7 +9,7 @@
 #include "base/call_runner.h"
 #include "contacts/import/delimited_file.h"
 #include "contacts/import/delimited_parser.h"
-#include "tests/base/file_bytes.h"
+#include "tests/support/file_bytes.h"
 
 namespace parlexo {
 namespace {

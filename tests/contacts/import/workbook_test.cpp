@@ -12,7 +12,7 @@
 #include "contacts/import/spread_sheet.h"
 #include "contacts/import/workbook_builder.h"
 #include "contacts/import/workbook_xml.h"
-#include "tests/base/file_bytes.h"
+#include "tests/support/file_bytes.h"
 
 namespace parlexo {
 namespace {

@@ -1,0 +1,81 @@
+#include "connection/client/background_queue.h"
+
+#include <utility>
+
+#include "base/task_thread.h"
+
+namespace parlexo {
+
+namespace {
+constexpr int maxRepeats = 3;
+}
+
+ThreadBackgroundWorker::ThreadBackgroundWorker() = default;
+ThreadBackgroundWorker::~ThreadBackgroundWorker() = default;
+
+void ThreadBackgroundWorker::start(CallRunner::Exchange exchange, std::function<void()> onEnd) {
+  // Destroying the thread object stops it from posting, destroying the receiver drops what was posted.
+  const auto post = [this, onEnd = std::move(onEnd)] {
+    QMetaObject::invokeMethod(&receiver_, onEnd, Qt::QueuedConnection);
+  };
+  thread_ = std::make_unique<TaskThread>(std::move(exchange), post);
+}
+
+void ThreadBackgroundWorker::cancel() {
+  if (thread_) thread_->cancel();
+}
+
+BackgroundQueue::BackgroundQueue(std::unique_ptr<BackgroundWorker> worker,
+                                 std::chrono::milliseconds untilResumed)
+    : worker_(std::move(worker)) {
+  resumption_.setSingleShot(true);
+  resumption_.setInterval(untilResumed);
+  QObject::connect(&resumption_, &QTimer::timeout, &resumption_, [this] { proceed(); });
+}
+
+void BackgroundQueue::add(BackgroundTask task) {
+  entries_.push_back({std::move(task)});
+  proceed();
+}
+
+void BackgroundQueue::pause() {
+  ++pauses_;
+  resumption_.stop();
+  if (front_ != Front::Running || entries_.front().repeats == maxRepeats) return;
+  ++entries_.front().repeats;
+  front_ = Front::Cancelled;
+  worker_->cancel();
+}
+
+void BackgroundQueue::resume() {
+  if (--pauses_ == 0) resumption_.start();
+}
+
+void BackgroundQueue::proceed() {
+  if (pauses_ > 0 || resumption_.isActive()) return;
+  if (front_ == Front::Waiting) startNext();
+  if (front_ == Front::Ended) deliver();
+}
+
+void BackgroundQueue::startNext() {
+  while (!entries_.empty() && !entries_.front().task.isWanted()) entries_.pop_front();
+  if (entries_.empty()) return;
+  front_ = Front::Running;
+  worker_->start(entries_.front().task.exchange, [this] { finish(); });
+}
+
+void BackgroundQueue::finish() {
+  front_ = front_ == Front::Cancelled ? Front::Waiting : Front::Ended;
+  proceed();
+}
+
+void BackgroundQueue::deliver() {
+  const BackgroundTask task = std::move(entries_.front().task);
+  entries_.pop_front();
+  front_ = Front::Waiting;
+  startNext();
+  // Last, because it may open a dialog and return long after the next task has ended.
+  if (task.isWanted()) task.deliver();
+}
+
+}  // namespace parlexo

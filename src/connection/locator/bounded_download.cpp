@@ -1,0 +1,87 @@
+#include "connection/locator/bounded_download.h"
+
+#include <algorithm>
+#include <memory>
+
+#include <QEventLoop>
+#include <QNetworkAccessManager>
+#include <QNetworkProxy>
+#include <QNetworkRequest>
+#include <QTimer>
+
+namespace parlexo {
+
+namespace {
+
+constexpr std::chrono::milliseconds cancelPoll{100};
+
+/// Waits for one reply and collects what arrives.
+class DownloadWait {
+ public:
+  DownloadWait(QNetworkReply& reply, const DownloadLimits& limits) : reply_(reply), limits_(limits) {}
+
+  [[nodiscard]] Download run(const CancelFlag& cancel) {
+    QObject::connect(&reply_, &QNetworkReply::requestSent, &loop_, [this] { result_.wasSent = true; });
+    QObject::connect(&reply_, &QNetworkReply::readyRead, &loop_, [this] { take(); });
+    QObject::connect(&reply_, &QNetworkReply::finished, &loop_, &QEventLoop::quit);
+    QTimer::singleShot(limits_.whole, &loop_, [this] { giveUp(); });
+    QTimer poll;
+    QObject::connect(&poll, &QTimer::timeout, &loop_, [this, &cancel] {
+      if (cancel.isRaised()) giveUp();
+    });
+    poll.start(cancelPoll);
+    if (!reply_.isFinished()) loop_.exec();
+    return verdict();
+  }
+
+ private:
+  void take() {
+    // A reply that failed at once is not open.
+    if (reply_.isOpen()) result_.document += reply_.read(limits_.bytes - result_.document.size());
+    if (result_.document.size() >= limits_.bytes) loop_.quit();
+  }
+
+  void giveUp() {
+    givenUp_ = true;
+    loop_.quit();
+  }
+
+  Download verdict() {
+    take();
+    result_.status = reply_.attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
+    result_.error = reply_.error();
+    result_.location = reply_.attribute(QNetworkRequest::RedirectionTargetAttribute).toUrl();
+    result_.isWhole = result_.error == QNetworkReply::NoError && !givenUp_ && hasAnnouncedLength();
+    return std::move(result_);
+  }
+
+  // Now and then Qt takes a connection that was closed early for the end of the document.
+  [[nodiscard]] bool hasAnnouncedLength() const {
+    const qint64 announced = reply_.header(QNetworkRequest::ContentLengthHeader).toLongLong();
+    return result_.document.size() >= std::min(announced, limits_.bytes);
+  }
+
+  QNetworkReply& reply_;
+  const DownloadLimits& limits_;
+  QEventLoop loop_;
+  Download result_;
+  bool givenUp_ = false;
+};
+
+}  // namespace
+
+Download download(QNetworkRequest request, const QNetworkProxy& proxy, const DownloadLimits& limits,
+                  const CancelFlag& cancel) {
+  // The limit counts bytes as they arrive, so they must not be compressed.
+  request.setRawHeader("Accept-Encoding", "identity");
+  request.setAttribute(QNetworkRequest::CacheLoadControlAttribute, QNetworkRequest::AlwaysNetwork);
+  request.setAttribute(QNetworkRequest::Http2AllowedAttribute, false);
+  request.setTransferTimeout(static_cast<int>(limits.silence.count()));
+  QNetworkAccessManager manager;
+  manager.setProxy(proxy);
+  const std::unique_ptr<QNetworkReply> reply(manager.get(request));
+  reply->setReadBufferSize(limits.bytes);
+  return DownloadWait(*reply, limits).run(cancel);
+}
+
+}  // namespace parlexo

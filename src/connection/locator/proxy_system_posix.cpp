@@ -1,0 +1,82 @@
+#include <QDeadlineTimer>
+#include <QProcess>
+#include <QStringList>
+
+#include "base/helper_program.h"
+#include "connection/locator/proxy_system.h"
+
+namespace parlexo {
+
+namespace {
+
+constexpr int pollMilliseconds = 50;
+constexpr int defaultHttpPort = 80;
+
+/// Waits for the end of `process`; kills it when the time is over or `cancel` is raised.
+bool endsWell(QProcess& process, std::chrono::milliseconds patience, const CancelFlag& cancel) {
+  const QDeadlineTimer deadline(patience);
+  while (process.state() != QProcess::NotRunning) {
+    if (cancel.isRaised() || deadline.hasExpired()) {
+      process.kill();
+      process.waitForFinished();
+      return false;
+    }
+    process.waitForFinished(pollMilliseconds);
+  }
+  // Not error(): a poll in vain has left its time-out there.
+  return process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0;
+}
+
+QString encoded(const QUrl& address) {
+  // The script engine sets the address between single quotes.
+  return QString::fromLatin1(address.toEncoded()).replace(u'\'', QStringLiteral("%27"));
+}
+
+/// Asks a helper process for everything that may block.
+class PosixProxySystem final : public ProxySystem {
+ public:
+  explicit PosixProxySystem(std::chrono::milliseconds patience) : patience_(patience) {}
+
+  [[nodiscard]] QString configuredProxy(const QUrl& address, const CancelFlag& cancel) const override {
+    const QStringList answers = ask({QStringLiteral("setting"), encoded(address)}, cancel);
+    if (answers.isEmpty()) return {};
+    // The first is the one to use. Of the other kinds, "direct" is no proxy and SOCKS none for HTTP.
+    const QUrl proxy(answers.first());
+    if (proxy.scheme() != QLatin1String("http") || proxy.host().isEmpty()) return {};
+    return QStringLiteral("%1:%2").arg(proxy.host()).arg(proxy.port(defaultHttpPort));
+  }
+
+  [[nodiscard]] QUrl scriptAddress(const CancelFlag& cancel) const override {
+    return QUrl(ask({QStringLiteral("detect")}, cancel).value(0));
+  }
+
+  [[nodiscard]] QString scriptAnswer(const QString& file, const QUrl& address,
+                                     const CancelFlag& cancel) const override {
+    return ask({QStringLiteral("script"), file, encoded(address), address.host(QUrl::FullyEncoded)}, cancel)
+        .value(0);
+  }
+
+ private:
+  /// Runs the helper, which bounds its own output, and returns the lines it wrote. A process of its own can
+  /// be killed whatever the network or a script does in it.
+  [[nodiscard]] QStringList ask(const QStringList& question, const CancelFlag& cancel) const {
+    const QString program = helperProgram(QStringLiteral("parlexo-proxy-finder"));
+    if (program.isEmpty()) return {};
+    QProcess finder;
+    finder.setStandardInputFile(QProcess::nullDevice());
+    finder.setStandardErrorFile(QProcess::nullDevice());
+    finder.start(program, question, QIODevice::ReadOnly);
+    if (!endsWell(finder, patience_, cancel)) return {};
+    return QString::fromUtf8(finder.readAllStandardOutput()).split(u'\n', Qt::SkipEmptyParts);
+  }
+
+  std::chrono::milliseconds patience_;
+};
+
+}  // namespace
+
+std::shared_ptr<const ProxySystem> makeProxySystem(std::chrono::milliseconds patience) {
+  return std::make_shared<PosixProxySystem>(patience);
+}
+
+}  // namespace parlexo

@@ -1,0 +1,221 @@
+#include <optional>
+
+#include <QDeadlineTimer>
+#include <QProcess>
+#include <QRegularExpression>
+#include <QTcpSocket>
+#include <QTemporaryDir>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "app/core/login_flow.h"
+#include "app/core/shut_down.h"
+#include "connection/locator/gateway_search.h"
+#include "tests/app/run_fakes.h"
+#include "tests/support/fake_gateway.h"
+#include "tests/support/fake_proxy_system.h"
+#include "tests/support/file_bytes.h"
+
+namespace parlexo {
+namespace {
+
+using namespace Qt::StringLiterals;
+using ::testing::ElementsAre;
+
+bool listensOn(int port) {
+  QTcpSocket socket;
+  socket.connectToHost(QStringLiteral("127.0.0.1"), static_cast<quint16>(port));
+  return socket.waitForConnected(200);
+}
+
+/// A real proxy, tinyproxy, on a loopback port of its own, that wants the login "mary" with "s3cret-word".
+class TinyProxy {
+ public:
+  TinyProxy() {
+    const QString settings = QStringLiteral(
+        "Port %1\nListen 127.0.0.1\nAllow 127.0.0.1\nTimeout 20\nMaxClients 20\n"
+        "BasicAuth mary s3cret-word\nLogLevel Info\nLogFile \"%2\"\n");
+    const QString config = writeBytes(folder_.filePath(u"tinyproxy.conf"_qs),
+                                      settings.arg(port_).arg(folder_.filePath(u"log"_qs)).toUtf8());
+    process_.start(u"tinyproxy"_qs, {u"-d"_qs, u"-c"_qs, config});
+    if (!process_.waitForStarted()) return;
+    const QDeadlineTimer deadline(10'000);
+    while (!listensOn(port_) && !process_.waitForFinished(20) && !deadline.hasExpired()) {
+    }
+  }
+  ~TinyProxy() { stop(); }
+  TinyProxy(const TinyProxy&) = delete;
+  TinyProxy& operator=(const TinyProxy&) = delete;
+
+  [[nodiscard]] bool isRunning() const { return process_.state() == QProcess::Running; }
+  [[nodiscard]] int port() const { return port_; }
+  void stop() {
+    process_.kill();
+    process_.waitForFinished();
+  }
+
+  /// The request lines that its log shows, in order, such as "GET http://127.0.0.1:80/x HTTP/1.1"; refused
+  /// ones too.
+  [[nodiscard]] QStringList requests() const {
+    static const QRegularExpression line(QStringLiteral("Request \\(file descriptor \\d+\\): (.*)"));
+    QStringList requests;
+    for (const auto& match : line.globalMatch(log())) requests << match.captured(1);
+    return requests;
+  }
+  /// How many of the requests it kept to itself for want of the right login.
+  [[nodiscard]] qsizetype refusals() const {
+    // A refusal leaves no line of its own; what was let through is connected to its server.
+    return requests().size() - log().count(QStringLiteral("opensock: opening connection to"));
+  }
+
+ private:
+  [[nodiscard]] QString log() const { return QString::fromUtf8(readBytes(folder_.filePath(u"log"_qs))); }
+
+  QTemporaryDir folder_;
+  QProcess process_;
+  int port_ = testing::closedPort();
+};
+
+/// Answers the proxy dialog for the user.
+class JournalProxyLogin final : public ProxyLogin {
+ public:
+  explicit JournalProxyLogin(Journal& journal) : journal_(journal) {}
+
+  std::optional<ProxySettings> ask() override {
+    journal_ << u"proxy login"_qs;
+    return entered;
+  }
+
+  std::optional<ProxySettings> entered;
+
+ private:
+  Journal& journal_;
+};
+
+/// A run whose system names a real proxy for the service's site; the site is a simulator.
+class ProxiedRun : public RunTest {
+ protected:
+  void SetUp() override {
+    RunTest::SetUp();
+    ASSERT_TRUE(proxy.isRunning());
+    system->configured = u"127.0.0.1:%1"_qs.arg(proxy.port());
+  }
+
+  [[nodiscard]] ProxySettings mary(const QString& password = u"s3cret-word"_qs) const {
+    return {.password = password, .user = u"mary"_qs, .host = u"127.0.0.1"_qs, .port = proxy.port()};
+  }
+
+  bool search() { return search(QUrl(simulator.site())); }
+  bool search(const QUrl& site) {
+    const ServerLocator locator(
+        site, {.transfer = std::chrono::seconds(5), .retryDelay = std::chrono::milliseconds(1)});
+    // Asked for another host, because a proxy is never asked for by settings for one of this machine.
+    const ProxyDiscovery discovery(QUrl(u"http://www.parlexo.invalid"_qs), runner, system);
+    return GatewaySearch({locator, discovery, runner, progress, login}).run(state);
+  }
+
+  [[nodiscard]] QString locatorRequest() const {
+    return u"GET %1/WSDLServerLocator.xml HTTP/1.1"_qs.arg(simulator.site());
+  }
+  [[nodiscard]] QString soapRequest() const {
+    return u"POST %1/ccx/onlineCommunication HTTP/1.1"_qs.arg(simulator.site());
+  }
+
+  const Journal asked = {u"progress hidden"_qs, u"proxy login"_qs, u"progress "_qs};
+  TinyProxy proxy;
+  std::shared_ptr<FakeProxySystem> system = std::make_shared<FakeProxySystem>();
+  JournalProxyLogin login{journal};
+};
+
+TEST_F(ProxiedRun, rightLoginCarriesEveryCallButTheLast) {
+  login.entered = mary();
+  ASSERT_TRUE(search());
+  EXPECT_EQ(journal, asked);
+  EXPECT_THAT(proxy.requests(), ElementsAre(locatorRequest(), locatorRequest()));
+  EXPECT_EQ(proxy.refusals(), 1);
+
+  ASSERT_EQ(LoginFlow(state, settings, gateway, notifier).attempt(u"demo"_qs, u"demo1234"_qs),
+            LoginOutcome::Accepted);
+  EXPECT_EQ(proxy.requests().mid(2), QStringList({soapRequest()}));
+  shutDown(state, stores, progress, runner);
+  EXPECT_THAT(simulator.calledOperations(), ElementsAre(u"locator"_qs, u"sessionStart"_qs, u"sessionEnd"_qs));
+  EXPECT_EQ(proxy.requests().size(), 3);
+  EXPECT_EQ(proxy.refusals(), 1);
+}
+
+TEST_F(ProxiedRun, wrongLoginFailsAfterOneQuestion) {
+  const struct {
+    const char* what;
+    ProxySettings entered;
+    qsizetype requests;
+  } cases[] = {
+      {"wrong password", mary(u"wrong"_qs), 2},
+      {"no host", {.password = u"s3cret-word"_qs, .user = u"mary"_qs, .host = {}, .port = proxy.port()}, 1},
+      {"another proxy",
+       {.password = u"s3cret-word"_qs,
+        .user = u"mary"_qs,
+        .host = u"127.0.0.1"_qs,
+        .port = testing::closedPort()},
+       1},
+  };
+  for (const auto& [what, entered, requests] : cases) {
+    SCOPED_TRACE(what);
+    journal.clear();
+    const auto before = proxy.requests().size();
+    login.entered = entered;
+    state = {};
+    EXPECT_FALSE(search());
+    EXPECT_EQ(journal, asked);
+    EXPECT_EQ(proxy.requests().size() - before, requests);
+  }
+  EXPECT_EQ(proxy.refusals(), proxy.requests().size());
+  EXPECT_THAT(simulator.calledOperations(), ElementsAre());
+}
+
+TEST_F(ProxiedRun, cancelFailsAndKeepsNothing) {
+  EXPECT_FALSE(search());
+  EXPECT_EQ(journal, asked.first(2));
+  EXPECT_EQ(proxy.requests().size(), 1);
+  EXPECT_TRUE(state.proxy.host.isEmpty());
+}
+
+TEST_F(ProxiedRun, proxyWithoutALoginCarriesTheCallsThatTheSettingsSendThroughIt) {
+  const std::string locator = testing::httpReply(
+      "<?xml version=\"1.0\"?>\n<server ip=\"gateway.invalid\" port=\"8080\" maxfilesize=\"1\" "
+      "maxfilesizemobile=\"1\">\n<version product=\"client\" version=\"2.24\"/>\n");
+  for (const QString& excepted : {u""_qs, u"gateway.invalid"_qs}) {
+    testing::FakeGateway open(locator);
+    system->configured = u"http=127.0.0.1:%1;socks=127.0.0.1:1"_qs.arg(open.port());
+    system->excepted = excepted;
+    state = {};
+    ASSERT_TRUE(search(QUrl(u"http://www.parlexo.invalid"_qs)));
+    EXPECT_EQ(state.proxy.host.isEmpty(), !excepted.isEmpty());
+    open.setAnswer(testing::httpReply(
+        testing::envelope("<m:getVersionResponse><nVersion>103</nVersion></m:getVersionResponse>")));
+    const auto reply = gateway.call<protocol::getVersionResponse>(
+        [](GatewayClient& client, protocol::getVersionResponse& response) {
+          return client.getVersion(response);
+        });
+    EXPECT_EQ(reply.answered(), excepted.isEmpty());
+    const std::string call = "POST http://gateway.invalid:8080/ccx/onlineCommunication HTTP/1.1\r\n";
+    EXPECT_EQ(open.lastRequest().starts_with(call), excepted.isEmpty());
+  }
+  EXPECT_EQ(journal, Journal()) << "no login was asked for";
+}
+
+TEST_F(ProxiedRun, proxyThatIsGoneFailsTheSearchAndEveryCall) {
+  login.entered = mary();
+  ASSERT_TRUE(search());
+  proxy.stop();
+  EXPECT_FALSE(search());
+  EXPECT_EQ(journal, asked);
+  const auto reply = gateway.call<protocol::getVersionResponse>(
+      [](GatewayClient& client, protocol::getVersionResponse& response) {
+        return client.getVersion(response);
+      });
+  EXPECT_FALSE(reply.answered());
+  EXPECT_THAT(simulator.calledOperations(), ElementsAre(u"locator"_qs));
+}
+
+}  // namespace
+}  // namespace parlexo

@@ -1,0 +1,224 @@
+#include "connection/client/background_queue.h"
+
+#include <atomic>
+#include <chrono>
+#include <memory>
+#include <optional>
+#include <stdexcept>
+#include <string>
+#include <thread>
+#include <vector>
+
+#include <QCoreApplication>
+#include <QElapsedTimer>
+#include <QEventLoop>
+#include <QTimer>
+#include <gmock/gmock.h>
+
+#include "base/task_thread.h"
+#include "connection/client/background_gateway.h"
+#include "connection/client/foreground_runner.h"
+#include "tests/support/fake_gateway.h"
+#include "tests/support/stepping_worker.h"
+
+namespace parlexo {
+namespace {
+
+using namespace std::chrono_literals;
+using ::testing::ElementsAre;
+
+void handleEvents(std::chrono::milliseconds time) {
+  QEventLoop loop;
+  QTimer::singleShot(time, &loop, &QEventLoop::quit);
+  loop.exec();
+}
+
+template <class Condition>
+bool comesTrue(Condition condition) {
+  QElapsedTimer clock;
+  clock.start();
+  while (!condition() && clock.elapsed() < 5000) handleEvents(5ms);
+  return condition();
+}
+
+class BackgroundQueueTest : public ::testing::Test {
+ protected:
+  void add(
+      const std::string& name, std::function<bool()> isWanted = [] { return true; }) {
+    queue_->add({[this, name](const CancelFlag&) { events_.push_back("run " + name); },
+                 [this, name] { events_.push_back("deliver " + name); }, std::move(isWanted)});
+  }
+
+  std::vector<std::string> events_;
+  SteppingWorker* worker_ = new SteppingWorker;  // the queue owns it
+  std::optional<BackgroundQueue> queue_{std::in_place, std::unique_ptr<BackgroundWorker>(worker_), 10ms};
+};
+
+TEST_F(BackgroundQueueTest, taskThatOverlapsWithAUsersCallIsCancelledAndRepeatedAfterIt) {
+  DirectCallRunner direct;
+  ForegroundRunner user(direct, *queue_);
+  add("a");
+  EXPECT_TRUE(user.run([&](const CancelFlag&) {
+    EXPECT_TRUE(worker_->isCancelled());
+    // A call inside the call must not let background work go on when it ends.
+    EXPECT_TRUE(user.run([](const CancelFlag&) {}));
+    handleEvents(30ms);
+    worker_->finish();
+    add("b");
+    handleEvents(30ms);
+    EXPECT_FALSE(worker_->isBusy());
+  }));
+  EXPECT_FALSE(worker_->isBusy()) << "another call of the user's may follow at once";
+  EXPECT_TRUE(comesTrue([&] { return worker_->isBusy(); }));
+  EXPECT_FALSE(worker_->isCancelled());
+  worker_->finish();
+  worker_->finish();
+  EXPECT_THAT(events_, ElementsAre("run a", "run a", "deliver a", "run b", "deliver b"));
+  EXPECT_FALSE(worker_->isBusy());
+}
+
+TEST_F(BackgroundQueueTest, userWhoIsAlwaysBusyDoesNotHoldItUpForEver) {
+  DirectCallRunner direct;
+  ForegroundRunner user(direct, *queue_);
+  add("a");
+  add("b");
+  bool isCancelled = true;
+  for (int calls = 1; calls <= 4 && worker_->isBusy(); ++calls) {
+    EXPECT_TRUE(user.run([&](const CancelFlag&) {
+      isCancelled = worker_->isCancelled();
+      worker_->finish();
+    }));
+    EXPECT_EQ(isCancelled, calls < 4);
+    EXPECT_EQ(events_.back(), "run a") << "delivery waits for the end of the call";
+    EXPECT_TRUE(comesTrue([&] { return worker_->isBusy(); }));
+  }
+  worker_->finish();
+  EXPECT_THAT(events_, ElementsAre("run a", "run a", "run a", "run a", "deliver a", "run b", "deliver b"));
+}
+
+TEST_F(BackgroundQueueTest, unwantedTasksAreNeitherRunNorDelivered) {
+  bool isWanted = true;
+  const auto wanted = [&isWanted] { return isWanted; };
+  add("a", wanted);
+  add("b", wanted);
+  add("c");
+  isWanted = false;
+  worker_->finish();
+  worker_->finish();
+  EXPECT_THAT(events_, ElementsAre("run a", "run c", "deliver c"));
+}
+
+TEST_F(BackgroundQueueTest, deliveryMayWaitWhileFurtherTasksEnd) {
+  queue_->add({[](const CancelFlag&) {},
+               [this] {
+                 worker_->finish();  // as under a dialog that is opened here
+                 events_.emplace_back("dialog closed");
+               },
+               [] { return true; }});
+  add("b");
+  worker_->finish();
+  EXPECT_THAT(events_, ElementsAre("run b", "deliver b", "dialog closed"));
+}
+
+class BackgroundThreadTest : public ::testing::Test {
+ protected:
+  void add(CallRunner::Exchange exchange) {
+    queue_->add({std::move(exchange), [this] { ++delivered_; }, [] { return true; }});
+  }
+
+  int delivered_ = 0;
+  std::optional<BackgroundQueue> queue_{std::in_place};
+};
+
+TEST_F(BackgroundThreadTest, resultsArriveOnTheInterfaceThreadAlsoAfterAnException) {
+  std::thread::id worker;
+  add([&](const CancelFlag&) { worker = std::this_thread::get_id(); });
+  add([](const CancelFlag&) { throw std::runtime_error("broken"); });
+  EXPECT_TRUE(comesTrue([this] { return delivered_ == 2; }));
+  EXPECT_NE(worker, std::thread::id());
+  EXPECT_NE(worker, std::this_thread::get_id());
+}
+
+TEST_F(BackgroundThreadTest, destructionCancelsAndLeavesAnExchangeBehindThatDoesNotEnd) {
+  struct Shared {
+    std::atomic<bool> goOn = false;
+    std::atomic<bool> wasCancelled = false;
+  };
+  const auto shared = std::make_shared<Shared>();
+  add([shared](const CancelFlag& cancel) {
+    while (!shared->goOn) std::this_thread::sleep_for(1ms);
+    shared->wasCancelled = cancel.isRaised();
+  });
+  QElapsedTimer clock;
+  clock.start();
+  queue_.reset();
+  EXPECT_LT(clock.elapsed(), 2000);
+  shared->goOn = true;
+  EXPECT_TRUE(comesTrue([&] { return shared.use_count() == 1; })) << "the thread gives back what it owns";
+  EXPECT_TRUE(shared->wasCancelled);
+  handleEvents(20ms);
+  EXPECT_EQ(delivered_, 0);
+}
+
+/// Queries over a real connection, for a user who may log in again meanwhile.
+class BackgroundGatewayTest : public ::testing::Test {
+ protected:
+  BackgroundGatewayTest() {
+    state_.gateway.endpoint = QString::fromStdString(server_.endpoint());
+    state_.session = QStringLiteral("first");
+    state_.userName = QStringLiteral("ann");
+  }
+
+  template <class Response, class Operation>
+  void query(Operation operation) {
+    gateway_.call<Response>(*context_, operation,
+                            [this](const Reply<Response>& reply) { results_.push_back(reply.result()); });
+  }
+  void queryNews() {
+    query<protocol::getNewsResponse>(
+        [](GatewayClient& client, protocol::getNewsResponse& response) { return client.getNews(response); });
+  }
+  void queryBalance() {
+    query<protocol::getAccountBalanceResponse>(
+        [](GatewayClient& client, protocol::getAccountBalanceResponse& response) {
+          return client.getAccountBalance("first", response);
+        });
+  }
+
+  /// Until everything that was queued before has been delivered or dropped.
+  void handleEventsUntilIdle() {
+    bool isIdle = false;
+    queue_.add({[](const CancelFlag&) {}, [&isIdle] { isIdle = true; }, [] { return true; }});
+    EXPECT_TRUE(comesTrue([&] { return isIdle; }));
+  }
+
+  testing::FakeGateway server_{"HTTP/1.1 500 Internal Server Error\r\nContent-Length: 0\r\n\r\n"};
+  RunState state_;
+  BackgroundQueue queue_;
+  BackgroundGateway gateway_{
+      state_, queue_, {.connect = std::chrono::seconds(5), .silence = std::chrono::seconds(5)}};
+  std::unique_ptr<QObject> context_ = std::make_unique<QObject>();
+  std::vector<int> results_;
+};
+
+TEST_F(BackgroundGatewayTest, resultsOfAnEarlierSessionOrUserOrForAClosedWindowAreDropped) {
+  const auto delivered = [this](const char* session, const char* user) {
+    results_.clear();
+    queryBalance();
+    queryNews();
+    state_.session = QLatin1String(session);
+    state_.userName = QLatin1String(user);
+    handleEventsUntilIdle();
+    return results_.size();
+  };
+  EXPECT_EQ(delivered("first", "ann"), 2U) << "failures count as results";
+  EXPECT_EQ(delivered("second", "ann"), 1U) << "news need no session";
+  EXPECT_EQ(delivered("second", "bob"), 1U);
+  queryNews();
+  context_.reset();
+  handleEventsUntilIdle();
+  EXPECT_EQ(results_.size(), 1U) << "as before";
+}
+
+}  // namespace
+}  // namespace parlexo

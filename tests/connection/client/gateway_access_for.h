@@ -1,0 +1,17 @@
+#pragma once
+
+#include <string>
+
+#include "connection/client/gateway_access.h"
+
+namespace parlexo::testing {
+
+/// Access to a server of the test, with patience that a test can bear.
+[[nodiscard]] inline GatewayAccess accessTo(std::string endpoint) {
+  GatewayAccess access;
+  access.endpoint = std::move(endpoint);
+  access.timeouts = {.connect = std::chrono::seconds(5), .silence = std::chrono::seconds(5)};
+  return access;
+}
+
+}  // namespace parlexo::testing

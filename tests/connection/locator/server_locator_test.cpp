@@ -1,0 +1,284 @@
+#include "connection/locator/server_locator.h"
+
+#include <chrono>
+#include <deque>
+#include <string>
+#include <thread>
+#include <vector>
+
+#include <QHostAddress>
+#include <QStringList>
+#include <QTcpServer>
+#include <QTcpSocket>
+#include <QTimer>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "connection/locator/locator_document.h"
+#include "tests/support/fake_gateway.h"
+
+namespace parlexo {
+namespace {
+
+using namespace std::chrono_literals;
+using testing::FakeGateway;
+using namespace Qt::StringLiterals;
+using testing::httpReply;
+using ::testing::UnorderedElementsAre;
+
+const std::string xmlHead = "<?xml version=\"1.0\"?>";
+const std::string serverLine =
+    R"(<server ip="10.0.0.7" port="8080" maxfilesize="2097152" maxfilesizemobile="51200">)";
+const std::string versionLine = R"(<version product="client" version="2.24"/>)";
+
+std::string lines(const std::vector<std::string>& each, const char* end = "\n") {
+  std::string text;
+  for (const std::string& line : each) text.append(line).append(end);
+  return text;
+}
+
+/// A locator document as the service's web site holds it.
+const std::string locatorText = lines({xmlHead, serverLine, versionLine, "</server>"});
+
+TEST(LocatorDocument, tellsTheFiveValuesAndTheEndpoint) {
+  for (const std::string& each : std::vector<std::string>{
+           locatorText,
+           lines({xmlHead, " \t" + serverLine + " ", "<!-- more -->", "", "  " + versionLine}, "\r\n"),
+           lines({"", serverLine, "<version product=\"server\" version=\"9\">", versionLine}),
+           lines({"anything", serverLine, versionLine, "<version product=\"client\" version=\"9\"/>"}),
+           locatorText.substr(0, locatorText.find("/>")),
+       }) {
+    const auto location = parseLocatorDocument(QByteArray::fromStdString(each));
+    ASSERT_TRUE(location) << each;
+    EXPECT_EQ(location->host, "10.0.0.7");
+    EXPECT_EQ(location->port, 8080);
+    EXPECT_EQ(location->maxFileSize, 2097152);
+    EXPECT_EQ(location->maxFileSizeMobile, 51200);
+    EXPECT_EQ(location->latestClientVersion, "2.24");
+    EXPECT_EQ(location->endpoint, "http://10.0.0.7:8080/ccx/onlineCommunication");
+  }
+}
+
+TEST(LocatorDocument, readsNumbersAsFarAsTheyGo) {
+  struct Case {
+    const char* port;
+    int read;
+  };
+  for (const Case& each :
+       {Case{"abc", 0}, {" 81x", 81}, {"-1", -1}, {"+9", 9}, {"0x10", 0}, {"99999999999", 2147483647}}) {
+    const std::string server =
+        std::string("<server ip=\"h\" port=\"") + each.port + "\" maxfilesize=\"1\" maxfilesizemobile=\"2\">";
+    const auto location =
+        parseLocatorDocument(QByteArray::fromStdString(lines({xmlHead, server, versionLine})));
+    ASSERT_TRUE(location) << each.port;
+    EXPECT_EQ(location->port, each.read) << each.port;
+    EXPECT_EQ(location->endpoint, QStringLiteral("http://h:%1/ccx/onlineCommunication").arg(each.read));
+  }
+}
+
+TEST(LocatorDocument, ofAnotherFormTellsNothing) {
+  struct Case {
+    const char* what;
+    std::vector<std::string> document;
+  };
+  for (const Case& each : std::vector<Case>{
+           {"server on line 3", {xmlHead, "", serverLine, versionLine}},
+           {"attribute between",
+            {xmlHead, serverLine, R"(<version product="client" build="1" version="2">)"}},
+           {"cut version", {xmlHead, serverLine, R"(<version product="client" version="2.2)"}},
+           {"the first one counts", {xmlHead, serverLine, R"(<version product="client" >)", versionLine}},
+           {"extra attribute",
+            {xmlHead, R"(<server ip="h" port="1" name="x" maxfilesize="1" maxfilesizemobile="2">)",
+             versionLine}},
+           {"empty host",
+            {xmlHead, R"(<server ip="" port="1" maxfilesize="1" maxfilesizemobile="2">)", versionLine}},
+       }) {
+    EXPECT_FALSE(parseLocatorDocument(QByteArray::fromStdString(lines(each.document)))) << each.what;
+  }
+}
+
+using Outcome = ServerLocator::Outcome;
+
+LocatorLimits quickLimits() {
+  return {.transfer = 1s, .retryDelay = 50ms, .documentBytes = 64 * 1024, .whole = 1500ms};
+}
+
+Outcome locate(const std::string& site, RunState& state) {
+  return ServerLocator(QUrl(QString::fromStdString(site)), quickLimits()).locate(state);
+}
+
+/// The lines of a request's head, without the language, which is that of the machine.
+QStringList headOf(const std::string& request) {
+  QStringList lines = QString::fromStdString(request).split(QStringLiteral("\r\n"), Qt::SkipEmptyParts);
+  lines.removeIf([](const QString& line) { return line.startsWith(u"Accept-Language: "); });
+  return lines;
+}
+
+TEST(ServerLocator, sendsItsTwoHeadersAndNothingOfTheUser) {
+  FakeGateway site(httpReply(locatorText));
+  RunState state;
+  state.proxy.user = QStringLiteral("proxy user without a proxy");
+  state.proxy.password = QStringLiteral("secret");
+  EXPECT_EQ(locate(site.base(), state), Outcome::Located);
+  EXPECT_EQ(state.gateway.host, "10.0.0.7");
+  const QString host = QStringLiteral("Host: 127.0.0.1:%1").arg(site.port());
+  EXPECT_THAT(headOf(site.lastRequest()),
+              UnorderedElementsAre(u"GET /WSDLServerLocator.xml HTTP/1.1"_qs, host,
+                                   u"Accept: text/plain, text/html, text/htm, text/xml"_qs,
+                                   u"User-Agent: Parlexo/1.0"_qs, u"Accept-Encoding: identity"_qs,
+                                   u"Connection: Keep-Alive"_qs, u"Cache-Control: no-cache"_qs,
+                                   u"Pragma: no-cache"_qs));
+}
+
+TEST(ServerLocator, otherAnswersLocateNothingAndKeepNothing) {
+  const std::string cut = httpReply(locatorText).substr(0, httpReply(locatorText).size() - 5);
+  struct Case {
+    std::string reply;
+    Outcome outcome;
+  };
+  for (const Case& each : std::vector<Case>{
+           {httpReply(locatorText, "404 Not Found"), Outcome::NotLocated},
+           {httpReply(locatorText, "201 Created"), Outcome::NotLocated},
+           {httpReply(locatorText, "407 Proxy Authentication Required"), Outcome::ProxyRefusal},
+           {httpReply(lines({xmlHead, serverLine, std::string(70'000, ' '), versionLine})),
+            Outcome::NotLocated},
+           {cut, Outcome::NotLocated},
+           {"", Outcome::NotLocated},
+       }) {
+    FakeGateway site(each.reply);
+    RunState state;
+    EXPECT_EQ(locate(site.base(), state), each.outcome) << each.reply.substr(0, 60);
+    EXPECT_TRUE(state.gateway.host.isEmpty());
+    EXPECT_TRUE(state.gateway.endpoint.isEmpty());
+    EXPECT_EQ(state.gateway.maxFileSize, 0);
+  }
+}
+
+std::string redirectTo(const std::string& location, const std::string& status = "302 Found") {
+  return "HTTP/1.1 " + status + "\r\nLocation: " + location + "\r\nContent-Length: 0\r\n\r\n";
+}
+
+TEST(ServerLocator, followsUpToFiveRedirects) {
+  std::deque<FakeGateway> chain;
+  chain.emplace_back(httpReply(locatorText));
+  for (const char* status : {"301 Moved Permanently", "302 Found", "303 See Other", "307 Temporary Redirect",
+                             "308 Permanent Redirect", "302 Found"}) {
+    RunState state;
+    EXPECT_EQ(locate(chain.back().base(), state), Outcome::Located) << status;
+    chain.emplace_back(redirectTo(chain.back().base() + "/elsewhere?a=b", status));
+  }
+  RunState state;
+  EXPECT_EQ(locate(chain.back().base(), state), Outcome::NotLocated);
+  EXPECT_EQ(headOf(chain.front().lastRequest()).value(0), u"GET /elsewhere?a=b HTTP/1.1"_qs);
+
+  FakeGateway loop(redirectTo("/WSDLServerLocator.xml"));
+  EXPECT_EQ(locate(loop.base(), state), Outcome::NotLocated);
+  EXPECT_EQ(loop.requestCount(), 6);
+}
+
+TEST(ServerLocator, redirectsNeverLeadToLessSafety) {
+  const QUrl open(u"http://a.test/x/y"_qs);
+  const QUrl encrypted(u"https://a.test/x/y"_qs);
+  const auto target = [](const QUrl& from, const char* to) {
+    return redirectTarget(from, QUrl(QLatin1String(to))).toString();
+  };
+  EXPECT_EQ(target(open, "https://b.test/z"), u"https://b.test/z"_qs);
+  EXPECT_EQ(target(encrypted, "../z"), u"https://a.test/z"_qs);
+  EXPECT_EQ(target(encrypted, "//b.test/"), u"https://b.test/"_qs);
+  for (const char* to : {"http://a.test/x/z", "ftp://a.test/", "file:///etc/passwd", "https:///z", ""})
+    EXPECT_EQ(target(encrypted, to), QString()) << to;
+}
+
+TEST(ServerLocator, hugeAndEndlessDocumentsAreReadToTheLimitOnly) {
+  const std::string endlessHead = "HTTP/1.1 200 OK\r\n\r\n";
+  struct Case {
+    std::string reply;
+    FakeGateway::Manner manner;
+    Outcome outcome;
+  };
+  for (const Case& each : std::vector<Case>{
+           {httpReply(locatorText + std::string(100 << 20, '\n')), FakeGateway::Manner::Answers,
+            Outcome::Located},
+           {httpReply(std::string(100 << 20, 'x')), FakeGateway::Manner::Answers, Outcome::NotLocated},
+           {endlessHead + locatorText, FakeGateway::Manner::Endless, Outcome::Located},
+           {endlessHead, FakeGateway::Manner::Endless, Outcome::NotLocated},
+           {"HTTP/1.1 200 OK\r\nX: ", FakeGateway::Manner::Endless, Outcome::NotLocated},
+       }) {
+    FakeGateway site(each.reply, each.manner);
+    RunState state;
+    EXPECT_EQ(locate(site.base(), state), each.outcome);
+    // What lies in the buffers of both ends of the connection counts as sent.
+    EXPECT_LT(site.bytesSent(), 24u << 20);
+  }
+}
+
+TEST(ServerLocator, siteThatIsSilentOrDripsEndsTheDownload) {
+  for (const auto manner : {FakeGateway::Manner::Silent, FakeGateway::Manner::Drops}) {
+    FakeGateway site(httpReply(locatorText), manner);
+    RunState state;
+    const auto start = std::chrono::steady_clock::now();
+    EXPECT_EQ(locate(site.base(), state), Outcome::NotLocated);
+    EXPECT_LT(std::chrono::steady_clock::now() - start, 3500ms);
+    EXPECT_EQ(site.requestCount(), 1);
+    EXPECT_TRUE(state.gateway.host.isEmpty());
+  }
+}
+
+TEST(ServerLocator, cancelEndsTheDownloadAtOnce) {
+  FakeGateway site(httpReply(locatorText), FakeGateway::Manner::Silent);
+  const CancelFlag cancel;
+  std::thread user([cancel] {
+    std::this_thread::sleep_for(200ms);
+    cancel.raise();
+  });
+  RunState state;
+  const auto start = std::chrono::steady_clock::now();
+  EXPECT_EQ(ServerLocator(QUrl(QString::fromStdString(site.base()))).locate(state, {}, cancel),
+            Outcome::NotLocated);
+  EXPECT_LT(std::chrono::steady_clock::now() - start, 1500ms);
+  EXPECT_EQ(site.requestCount(), 1) << "no second attempt";
+  user.join();
+}
+
+TEST(ServerLocator, connectsOnceMoreAfterTheDelay) {
+  const int port = testing::closedPort();
+  // The port is closed when the download begins.
+  QTcpServer late;
+  QObject::connect(&late, &QTcpServer::newConnection, &late, [&] {
+    QTcpSocket* incoming = late.nextPendingConnection();
+    QObject::connect(incoming, &QTcpSocket::readyRead, incoming, [incoming] {
+      if (incoming->readAll().endsWith("\r\n\r\n")) {
+        incoming->write(QByteArray::fromStdString(httpReply(locatorText)));
+        incoming->disconnectFromHost();
+      }
+    });
+  });
+  QTimer::singleShot(100ms, &late, [&] { late.listen(QHostAddress::LocalHost, static_cast<quint16>(port)); });
+  RunState state;
+  const QUrl address(QStringLiteral("http://127.0.0.1:%1").arg(port));
+  LocatorLimits limits = quickLimits();
+  limits.retryDelay = 400ms;
+  EXPECT_EQ(ServerLocator(address, limits).locate(state), Outcome::Located);
+}
+
+TEST(ServerLocator, givesUpAfterTheSecondRefusedConnection) {
+  RunState state;
+  const auto start = std::chrono::steady_clock::now();
+  EXPECT_EQ(locate("http://127.0.0.1:" + std::to_string(testing::closedPort()), state), Outcome::NotLocated);
+  const auto spent = std::chrono::steady_clock::now() - start;
+  EXPECT_GE(spent, 50ms);
+  EXPECT_LT(spent, 1s);
+}
+
+TEST(ServerLocator, proxyPortOutOfRangeIsNotBentIntoAnother) {
+  FakeGateway proxy(httpReply(locatorText));
+  for (const int port : {0, -1, 65536 + proxy.port()}) {
+    RunState state;
+    state.proxy = {.password = {}, .user = {}, .host = u"127.0.0.1"_qs, .port = port};
+    EXPECT_EQ(locate(proxy.base(), state), Outcome::NotLocated) << port;
+  }
+  EXPECT_EQ(proxy.requestCount(), 0);
+}
+
+}  // namespace
+}  // namespace parlexo

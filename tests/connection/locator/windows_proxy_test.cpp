@@ -1,0 +1,64 @@
+// What the system says about proxies, held against the settings that it takes it from.
+
+#include <windows.h>
+
+#include <array>
+
+#include <QFile>
+#include <QTemporaryDir>
+#include <gtest/gtest.h>
+
+#include "connection/locator/proxy_system.h"
+#include "connection/locator/proxy_text.h"
+
+namespace parlexo {
+namespace {
+
+const QUrl address(QStringLiteral("http://gateway.test/WSDLServerLocator.xml"));
+constexpr wchar_t internetSettings[] = L"Software\\Microsoft\\Windows\\CurrentVersion\\Internet Settings";
+
+QString textOfUser(const wchar_t* name) {
+  std::array<wchar_t, 1000> text{};
+  DWORD size = sizeof text;
+  RegGetValueW(HKEY_CURRENT_USER, internetSettings, name, RRF_RT_REG_SZ, nullptr, text.data(), &size);
+  return QString::fromWCharArray(text.data());
+}
+
+/// The proxy in the user's settings; empty when none is switched on.
+QString proxyOfUser() {
+  DWORD isOn = 0;
+  DWORD size = sizeof isOn;
+  RegGetValueW(HKEY_CURRENT_USER, internetSettings, L"ProxyEnable", RRF_RT_REG_DWORD, nullptr, &isOn, &size);
+  return isOn ? textOfUser(L"ProxyServer") : QString();
+}
+
+TEST(WindowsProxySystem, tellsTheProxyOfTheUsersSettings) {
+  const CancelFlag cancel;
+  EXPECT_EQ(makeProxySystem()->configuredProxy(address, cancel), proxyOfUser());
+  for (const char* host : {"news.inside.test", "intranet"}) {
+    const bool isExcepted = textOfUser(L"ProxyOverride") == QStringLiteral("*.inside.test;<local>");
+    EXPECT_EQ(
+        makeProxySystem()->configuredProxy(QUrl(QStringLiteral("http://") + QLatin1String(host)), cancel),
+        isExcepted ? QString() : proxyOfUser())
+        << host;
+  }
+}
+
+TEST(WindowsProxySystem, letsTheSystemReadAConfigurationScript) {
+  const QTemporaryDir folder;
+  const QString script = folder.filePath(QStringLiteral("proxy.pac"));
+  const auto answer = [&](const QByteArray& text) {
+    QFile file(script);
+    EXPECT_TRUE(file.open(QIODevice::WriteOnly) && file.write(text) == text.size());
+    file.close();
+    const CancelFlag cancel;
+    return makeProxySystem()->scriptAnswer(script, address, cancel);
+  };
+  EXPECT_EQ(answer("function FindProxyForURL(url, host) {\n"
+                   "  return host == 'gateway.test' ? 'PROXY proxy.test:8080' : 'DIRECT';\n}\n"),
+            QStringLiteral("PROXY proxy.test:8080"));
+  EXPECT_EQ(answer("this is no script ("), QString());
+}
+
+}  // namespace
+}  // namespace parlexo

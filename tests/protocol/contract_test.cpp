@@ -1,0 +1,57 @@
+#include "protocol/contract.h"
+
+#include <string>
+
+#include <QRegularExpression>
+#include <QStringList>
+#include <gtest/gtest.h>
+
+#include "tests/support/file_bytes.h"
+
+namespace parlexo {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+/// The first letter of a name has to be that of its type.
+QString cellWith(const protocol::Fields& fields) {
+  QStringList names;
+  for (const protocol::Field& field : fields) {
+    EXPECT_EQ(field.name[0], "ssndbo"[static_cast<int>(field.type)]) << field.name;
+    names << u"`%1`"_qs.arg(QLatin1String(field.name));
+  }
+  return names.isEmpty() ? u"(none)"_qs : names.join(u", "_qs);
+}
+
+TEST(Contract, isTheTableOfTheDocumentation) {
+  const QString page = QString::fromUtf8(readBytes(QStringLiteral(GATEWAY_PAGE)));
+  static const QRegularExpression row(u"^\\| \\d+ \\| `\\w+` \\|.*`.*$"_qs,
+                                      QRegularExpression::MultilineOption);
+  QStringList documented;
+  for (const auto& match : row.globalMatch(page)) documented << match.captured();
+
+  QStringList found;
+  protocol::forEachOperation([&found](const auto& operation) {
+    typename std::remove_cvref_t<decltype(operation)>::Request request;
+    typename std::remove_cvref_t<decltype(operation)>::Response response;
+    found << u"| %1 | `%2` | %3 | %4 |"_qs.arg(found.size() + 1)
+                 .arg(QString::fromStdString(std::string(operation.name)),
+                      cellWith(operation.fields(request)), cellWith(operation.fields(response)));
+  });
+  EXPECT_EQ(found.size(), 28);
+  EXPECT_EQ(found.join(u'\n').toStdString(), documented.join(u'\n').toStdString());
+}
+
+/// Two members that share one place would both read the value written last.
+TEST(Contract, everyFieldHasAMemberOfItsOwn) {
+  protocol::forEachOperation([&](const auto& operation) {
+    typename std::remove_cvref_t<decltype(operation)>::Request request;
+    const protocol::Fields fields = operation.fields(request);
+    for (std::size_t i = 1; i < fields.size(); ++i) {
+      EXPECT_LT(fields[i - 1].value, fields[i].value) << operation.name << " " << fields[i].name;
+    }
+  });
+}
+
+}  // namespace
+}  // namespace parlexo

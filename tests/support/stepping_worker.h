@@ -1,0 +1,34 @@
+#pragma once
+
+#include <utility>
+
+#include "connection/client/background_queue.h"
+
+namespace parlexo {
+
+/// Runs an exchange only when the test says so, on the calling thread.
+class SteppingWorker final : public BackgroundWorker {
+ public:
+  void start(CallRunner::Exchange exchange, std::function<void()> onEnd) override {
+    exchange_ = std::move(exchange);
+    onEnd_ = std::move(onEnd);
+    cancel_ = CancelFlag();
+  }
+  void cancel() override { cancel_.raise(); }
+
+  [[nodiscard]] bool isBusy() const { return onEnd_ != nullptr; }
+  [[nodiscard]] bool isCancelled() const { return cancel_.isRaised(); }
+
+  /// Runs the exchange under way and reports its end.
+  void finish() {
+    std::exchange(exchange_, nullptr)(cancel_);
+    std::exchange(onEnd_, nullptr)();
+  }
+
+ private:
+  CallRunner::Exchange exchange_;
+  std::function<void()> onEnd_;
+  CancelFlag cancel_;
+};
+
+}  // namespace parlexo
