@@ -21,11 +21,11 @@
 #include "addressbook/screens/contact_details_dlg.h"
 #include "addressbook/screens/folder_tree.h"
 #include "addressbook/screens/group_details_dlg.h"
-#include "addressbook/screens/row_list_view.h"
 #include "addressbook/screens/select_contacts_dlg.h"
 #include "tests/addressbook/disk_book.h"
 #include "tests/support/column_cells.h"
 #include "tests/support/file_bytes.h"
+#include "ui/row_list_view.h"
 
 namespace parlexo {
 namespace {

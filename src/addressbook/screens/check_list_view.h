@@ -5,7 +5,7 @@
 #include <QString>
 
 #include "addressbook/screens/check_list_model.h"
-#include "addressbook/screens/row_list_view.h"
+#include "ui/row_list_view.h"
 
 namespace parlexo {
 

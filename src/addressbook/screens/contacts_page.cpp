@@ -24,14 +24,14 @@
 #include "addressbook/screens/folder_tree.h"
 #include "addressbook/screens/group_details_dlg.h"
 #include "addressbook/screens/import_contacts_dlg.h"
-#include "addressbook/screens/row_list_view.h"
-#include "addressbook/screens/search_field.h"
 #include "base/notifier.h"
 #include "contacts/address_book.h"
 #include "ui/list_style.h"
 #include "ui/look.h"
 #include "ui/page_controls.h"
 #include "ui/picture_button.h"
+#include "ui/row_list_view.h"
+#include "ui/search_field.h"
 
 namespace parlexo {
 

@@ -14,7 +14,6 @@
 #include "addressbook/screens/contact_details_dlg.h"
 #include "addressbook/screens/contact_text_validator.h"
 #include "addressbook/screens/ok_and_cancel.h"
-#include "addressbook/screens/row_list_view.h"
 #include "addressbook/screens/select_contacts_dlg.h"
 #include "base/notifier.h"
 #include "contacts/address_book.h"
@@ -23,6 +22,7 @@
 #include "ui/look.h"
 #include "ui/page_controls.h"
 #include "ui/picture_button.h"
+#include "ui/row_list_view.h"
 
 namespace parlexo {
 

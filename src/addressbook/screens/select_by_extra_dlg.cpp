@@ -5,11 +5,11 @@
 #include <QLabel>
 
 #include "addressbook/screens/extra_value_box.h"
-#include "addressbook/screens/search_field.h"
 #include "base/notifier.h"
 #include "ui/look.h"
 #include "ui/page_controls.h"
 #include "ui/picture_button.h"
+#include "ui/search_field.h"
 
 namespace parlexo {
 

@@ -7,11 +7,11 @@
 #include <QVBoxLayout>
 
 #include "addressbook/screens/check_list_view.h"
-#include "addressbook/screens/search_field.h"
 #include "addressbook/screens/select_by_extra_dlg.h"
 #include "ui/list_style.h"
 #include "ui/look.h"
 #include "ui/picture_button.h"
+#include "ui/search_field.h"
 
 namespace parlexo {
 

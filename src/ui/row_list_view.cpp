@@ -1,4 +1,4 @@
-#include "addressbook/screens/row_list_view.h"
+#include "ui/row_list_view.h"
 
 #include <algorithm>
 #include <utility>

@@ -1,4 +1,4 @@
-#include "addressbook/screens/search_field.h"
+#include "ui/search_field.h"
 
 #include <QAbstractItemView>
 #include <QHBoxLayout>
