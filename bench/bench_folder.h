@@ -8,7 +8,7 @@
 
 #include "base/notifier.h"
 #include "base/progress.h"
-#include "contacts/sample_contacts.h"
+#include "contacts/samples/sample_contacts.h"
 
 namespace parlexo {
 

@@ -4,7 +4,7 @@
 #include <utility>
 #include <vector>
 
-#include "contacts/sample_contacts.h"
+#include "contacts/samples/sample_contacts.h"
 
 namespace parlexo {
 

@@ -9,7 +9,7 @@
 #include <QString>
 
 #include "base/product.h"
-#include "contacts/sample_contacts.h"
+#include "contacts/samples/sample_contacts.h"
 
 namespace {
 

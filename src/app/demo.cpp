@@ -10,7 +10,7 @@
 
 #include "base/notifier.h"
 #include "base/settings.h"
-#include "contacts/sample_contacts.h"
+#include "contacts/samples/sample_contacts.h"
 #include "messaging/core/status_file.h"
 #include "messaging/core/status_log.h"
 #include "messaging/core/template.h"

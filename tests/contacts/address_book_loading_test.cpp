@@ -2,7 +2,7 @@
 #include <gmock/gmock.h>
 
 #include "contacts/contact_file_format.h"
-#include "contacts/sample_contacts.h"
+#include "contacts/samples/sample_contacts.h"
 #include "contacts/shared_file.h"
 #include "tests/contacts/store_fixture.h"
 

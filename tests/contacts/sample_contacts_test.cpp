@@ -1,4 +1,4 @@
-#include "contacts/sample_contacts.h"
+#include "contacts/samples/sample_contacts.h"
 
 #include "tests/contacts/store_fixture.h"
 
