@@ -5,11 +5,11 @@
 
 #include "app/application.h"
 #include "app/core/command_line.h"
-#include "app/demo.h"
 #include "app/journey.h"
 #include "app/journey_plan.h"
 #include "app/process.h"
 #include "base/process_end.h"
+#include "demo/demo.h"
 #include "ui/look.h"
 
 namespace {
