@@ -5,8 +5,6 @@
 
 #include "app/application.h"
 #include "app/core/command_line.h"
-#include "app/journey.h"
-#include "app/journey_plan.h"
 #include "app/process.h"
 #include "base/process_end.h"
 #include "demo/demo.h"
@@ -17,21 +15,10 @@ namespace {
 using namespace parlexo;
 
 constexpr int demoFailed = 1;
-constexpr int journeyFailed = 1;
 
 int endAtOnce(const ImmediateEnd& end) {
   std::fputs(qUtf8Printable(end.output), end.exitCode == 0 ? stdout : stderr);
   return end.exitCode;
-}
-
-int runJourney(const ProgramOptions& options) {
-  // The journey finds its way by Qt's own controls, which the system's file dialogs lack.
-  QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
-  Application client(options);
-  Journey journey(journeyPlan(Demo::user(), Demo::password(), options.journeyDir), options.journeyDir);
-  journey.start();
-  const int exitCode = client.run();
-  return exitCode == 0 && !journey.succeeded() ? journeyFailed : exitCode;
 }
 
 int runDemo(ProgramOptions options) {
@@ -41,7 +28,7 @@ int runDemo(ProgramOptions options) {
     return endAtOnce({demoFailed, QStringLiteral("parlexo-client: the demo can't start: %1\n").arg(problem)});
   options.dataDir = demo.dataFolder();
   if (options.site.isEmpty()) options.site = demo.site();
-  return options.journeyDir.isEmpty() ? Application(options).run() : runJourney(options);
+  return Application(options).run();
 }
 
 // The command line is read before there is an application object, so that --help works without a display.

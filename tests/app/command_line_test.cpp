@@ -12,12 +12,10 @@ TEST(CommandLine, setsTheOptions) {
     bool demo;
     QString site;
     QString dataDir;
-    QString journeyDir;
   } cases[] = {
-      {{"--journey", "/tmp/pictures"}, true, {}, {}, "/tmp/pictures"},
-      {{"--site=http://[::1]:8081/", "--data-dir=/tmp/a=b"}, false, "http://[::1]:8081", "/tmp/a=b", {}},
-      {{"--data-dir", "x"}, false, {}, QDir::currentPath() + "/x", {}},
-      {{"-platform", "offscreen", "-style=fusion", "--demo"}, true, {}, {}, {}},
+      {{"--site=http://[::1]:8081/", "--data-dir=/tmp/a=b"}, false, "http://[::1]:8081", "/tmp/a=b"},
+      {{"--data-dir", "x"}, false, {}, QDir::currentPath() + "/x"},
+      {{"-platform", "offscreen", "-style=fusion", "--demo"}, true, {}, {}},
   };
   for (const auto& each : cases) {
     SCOPED_TRACE(each.arguments.join(u' ').toStdString());
@@ -27,7 +25,6 @@ TEST(CommandLine, setsTheOptions) {
     EXPECT_EQ(options->demo, each.demo);
     EXPECT_EQ(options->site, each.site);
     EXPECT_EQ(options->dataDir, each.dataDir);
-    EXPECT_EQ(options->journeyDir, each.journeyDir);
   }
 }
 

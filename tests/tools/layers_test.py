@@ -14,7 +14,7 @@ TABLE = """
 | `base` | all | |
 | `contacts` | store | `base` |
 | `simulator` | server | {simulator} |
-| `app` | main | everything |
+| `app` | main | `simulator` `contacts` `base` |
 """
 
 

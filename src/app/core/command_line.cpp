@@ -23,8 +23,6 @@ QString helpText() {
          "Options:\n"
          "  --demo                  try the program out: a gateway simulator inside the process,\n"
          "                          sample contacts, account demo with password demo1234\n"
-         "  --journey DIR           a demo that drives itself: send a message, ask for its status,\n"
-         "                          leave a picture of every step in DIR\n"
          "  --site http://HOST:PORT ask this web site where the gateway is, not %1\n"
          "  --data-dir DIR          keep contacts, templates, status log and settings in DIR\n"
          "  -v, --version           print the version and end\n"
@@ -98,7 +96,7 @@ class Parser {
   }
 
   void takeWithValue(const QString& name, const QString& argument) {
-    static const QStringList names = {u"--site"_qs, u"--data-dir"_qs, u"--journey"_qs};
+    static const QStringList names = {u"--site"_qs, u"--data-dir"_qs};
     if (!names.contains(name)) {
       end_ = wrong(u"unknown option \"%1\""_qs.arg(argument));
       return;
@@ -112,13 +110,7 @@ class Parser {
 
   void store(const QString& name, const QString& value) {
     if (name == u"--site"_qs) return takeSite(value);
-    const QString folder = QDir(value).absolutePath();
-    if (name == u"--data-dir"_qs) {
-      options_.dataDir = folder;
-    } else {
-      options_.demo = true;
-      options_.journeyDir = folder;
-    }
+    options_.dataDir = QDir(value).absolutePath();
   }
 
   QString valueOf(const QString& argument) {

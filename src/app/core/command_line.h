@@ -12,7 +12,6 @@ struct ProgramOptions {
   bool demo = false;   ///< run against a gateway simulator inside the process
   QString site;        ///< "http://HOST:PORT" of the locator's document; empty for the service's own
   QString dataDir;     ///< absolute folder for all files of this run; empty for the user's own
-  QString journeyDir;  ///< absolute folder for the pictures of a demo that drives itself; empty for none
 };
 
 /// The program ends at once: with `output` on standard output when `exitCode` is 0, on standard error

@@ -10,7 +10,7 @@ class QWidget;
 namespace parlexo {
 
 /// One thing that a person does with the program.
-struct JourneyStep {
+struct TourStep {
   QString picture;                           ///< the picture's file name without ".png"
   QString account;                           ///< what the person sees and does
   QString window;                            ///< how the title of the window begins that must be in front
@@ -19,7 +19,7 @@ struct JourneyStep {
 
 /// The way through the program that shows what it does: in with `user` and `password`, a message sent and
 /// followed, every other page looked at, and out. Files to send are made in `folder`.
-[[nodiscard]] std::vector<JourneyStep> journeyPlan(const QString& user, const QString& password,
-                                                   const QString& folder);
+[[nodiscard]] std::vector<TourStep> tourPlan(const QString& user, const QString& password,
+                                             const QString& folder);
 
 }  // namespace parlexo

@@ -1,4 +1,4 @@
-#include "app/journey.h"
+#include "tour/tour.h"
 
 #include <cstdio>
 #include <utility>
@@ -9,7 +9,7 @@
 #include <QTimer>
 #include <QWidget>
 
-#include "app/journey_hands.h"
+#include "tour/tour_hands.h"
 
 namespace parlexo {
 
@@ -26,29 +26,28 @@ void print(const QString& line) {
 
 }  // namespace
 
-Journey::Journey(std::vector<JourneyStep> steps, const QString& folder)
-    : steps_(std::move(steps)), folder_(folder) {}
+Tour::Tour(std::vector<TourStep> steps, const QString& folder) : steps_(std::move(steps)), folder_(folder) {}
 
-void Journey::start() {
+void Tour::start() {
   if (!QDir().mkpath(folder_)) return fail(QStringLiteral("the folder %1 can't be made").arg(folder_));
   waiting_.start();
-  QTimer::singleShot(pollInterval, this, &Journey::waitForWindow);
+  QTimer::singleShot(pollInterval, this, &Tour::waitForWindow);
 }
 
-void Journey::waitForWindow() {
+void Tour::waitForWindow() {
   if (next_ == steps_.size()) return;
-  const JourneyStep& step = steps_[next_];
+  const TourStep& step = steps_[next_];
   if (QWidget* window = hands::windowInFront(step.window)) {
     QTimer::singleShot(settleTime, window, [this, window] { takeStep(window); });
   } else if (waiting_.elapsed() > longestWait) {
     fail(QStringLiteral("the window \"%1\" did not come").arg(step.window));
   } else {
-    QTimer::singleShot(pollInterval, this, &Journey::waitForWindow);
+    QTimer::singleShot(pollInterval, this, &Tour::waitForWindow);
   }
 }
 
-void Journey::takeStep(QWidget* window) {
-  const JourneyStep& step = steps_[next_];
+void Tour::takeStep(QWidget* window) {
+  const TourStep& step = steps_[next_];
   const QString file =
       QStringLiteral("%1/%2-%3.png").arg(folder_).arg(next_ + 1, 2, 10, QChar(u'0')).arg(step.picture);
   if (!window->grab().save(file)) return fail(QStringLiteral("the picture %1 can't be written").arg(file));
@@ -56,14 +55,14 @@ void Journey::takeStep(QWidget* window) {
   ++next_;
   waiting_.restart();
   // Queued before acting: what is pressed may open a window and not return before that has closed.
-  QTimer::singleShot(pollInterval, this, &Journey::waitForWindow);
+  QTimer::singleShot(pollInterval, this, &Tour::waitForWindow);
   if (!step.act(window)) fail(QStringLiteral("\"%1\" lacks what this step needs").arg(step.window));
 }
 
-void Journey::fail(const QString& why) {
+void Tour::fail(const QString& why) {
   failed_ = true;
   next_ = steps_.size();
-  print(QStringLiteral("The journey ended early: ") + why);
+  print(QStringLiteral("The tour ended early: ") + why);
   QApplication::closeAllWindows();
   QCoreApplication::exit(1);
 }

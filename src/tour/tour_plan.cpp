@@ -1,4 +1,4 @@
-#include "app/journey_plan.h"
+#include "tour/tour_plan.h"
 
 #include <cstdio>
 
@@ -6,13 +6,13 @@
 #include <QPainter>
 #include <QPdfWriter>
 
-#include "app/journey_hands.h"
+#include "tour/tour_hands.h"
 
 namespace parlexo {
 
 namespace {
 
-using Plan = std::vector<JourneyStep>;
+using Plan = std::vector<TourStep>;
 using Act = std::function<bool(QWidget* window)>;
 
 const QString loginWindow = QStringLiteral("Parlexo(TM) : Login");
@@ -233,7 +233,7 @@ void planAccount(Plan& plan) {
 
 }  // namespace
 
-std::vector<JourneyStep> journeyPlan(const QString& user, const QString& password, const QString& folder) {
+std::vector<TourStep> tourPlan(const QString& user, const QString& password, const QString& folder) {
   Plan plan;
   planLogin(plan, user, password);
   planMessage(plan);

@@ -1,4 +1,4 @@
-#include "app/journey_hands.h"
+#include "tour/tour_hands.h"
 
 #include <QAbstractButton>
 #include <QAbstractItemView>

@@ -6,7 +6,7 @@
 #include <QObject>
 #include <QString>
 
-#include "app/journey_plan.h"
+#include "tour/tour_plan.h"
 
 class QWidget;
 
@@ -15,12 +15,12 @@ namespace parlexo {
 /// Drives the program through a plan as a person would: by window titles, labels, buttons and keys.
 /// It prints an account and leaves a picture of every step, so that somebody without a display, or a
 /// machine, can see that the whole way works.
-class Journey : public QObject {
+class Tour : public QObject {
   Q_OBJECT
 
  public:
   /// The pictures go into `folder`, which is created.
-  Journey(std::vector<JourneyStep> steps, const QString& folder);
+  Tour(std::vector<TourStep> steps, const QString& folder);
 
   /// Begins as soon as the event loop runs.
   void start();
@@ -32,7 +32,7 @@ class Journey : public QObject {
   void takeStep(QWidget* window);
   void fail(const QString& why);
 
-  std::vector<JourneyStep> steps_;
+  std::vector<TourStep> steps_;
   std::size_t next_ = 0;
   bool failed_ = false;
   QString folder_;
