@@ -10,7 +10,7 @@
 
 namespace parlexo::simulator {
 
-/// What the command line of parlexo-gateway asks for.
+/// What the command line of parlexo-simulator asks for.
 struct CommandLine {
   Options options;
   std::vector<Fault> faults;

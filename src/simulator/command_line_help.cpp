@@ -6,7 +6,7 @@ namespace parlexo::simulator {
 namespace {
 
 const char usage[] =
-    R"(Usage: parlexo-gateway [OPTION]...
+    R"(Usage: parlexo-simulator [OPTION]...
 
 A messaging gateway for trying out and testing the Parlexo client: it answers every operation, delivers
 nothing, and prints each message as a person reads it. Start the client with --site and the address that is

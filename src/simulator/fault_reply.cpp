@@ -2,13 +2,12 @@
 
 #include <utility>
 
-#include "protocol/server_envelope.h"
+#include "server/soap_dispatch.h"
 
 namespace parlexo::simulator {
 
 namespace {
 
-constexpr int internalError = 500;
 const QString defaultReason = QStringLiteral("The gateway is out of order");
 
 }  // namespace
@@ -33,26 +32,26 @@ bool preventsOperation(FaultKind kind) {
   return false;
 }
 
-HttpReply misbehave(const Fault& fault, HttpReply proper) {
+server::HttpReply misbehave(const Fault& fault, server::HttpReply proper) {
   switch (fault.kind) {
     case FaultKind::Close:
-      proper.ending = HttpReply::Ending::Nothing;
+      proper.ending = server::HttpReply::Ending::Nothing;
       return proper;
     case FaultKind::Cut:
-      proper.ending = HttpReply::Ending::Half;
+      proper.ending = server::HttpReply::Ending::Half;
       return proper;
     case FaultKind::Late:
       proper.delay = std::chrono::milliseconds(fault.number);
       return proper;
     case FaultKind::HttpError:
-      return {.status = internalError,
+      return {.status = 500,
               .contentType = "text/html",
               .body = "<html><body><h1>Internal Server Error</h1></body></html>\r\n"};
     case FaultKind::NotXml:
       return {.body = "The gateway is having a rest.\r\n"};
     case FaultKind::SoapFault:
-      return soapFaultReply("SOAP-ENV:Server",
-                            (fault.text.isEmpty() ? defaultReason : fault.text).toStdString());
+      return server::soapFaultReply("SOAP-ENV:Server",
+                                    (fault.text.isEmpty() ? defaultReason : fault.text).toStdString());
     case FaultKind::Refuse:
     case FaultKind::Code:
     case FaultKind::Text:
@@ -64,12 +63,9 @@ HttpReply misbehave(const Fault& fault, HttpReply proper) {
   return proper;
 }
 
-HttpReply soapFaultReply(std::string_view code, std::string_view reason) {
-  return {.status = internalError, .body = QByteArray::fromStdString(protocol::faultEnvelope(code, reason))};
-}
-
-HttpReply plainReply(int status, const QByteArray& text) {
-  return {.status = status, .contentType = "text/plain", .body = text};
+QByteArray malformedLocatorDocument(const server::Location& location) {
+  const QByteArray port = " port=\"" + QByteArray::number(location.port) + '"';
+  return server::locatorDocument(location).replace(port, QByteArray());
 }
 
 }  // namespace parlexo::simulator

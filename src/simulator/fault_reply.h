@@ -1,11 +1,10 @@
 #pragma once
 
-#include <string_view>
-
 #include <QByteArray>
 
+#include "server/http_message.h"
+#include "server/locator_document.h"
 #include "simulator/fault.h"
-#include "simulator/http_message.h"
 
 namespace parlexo::simulator {
 
@@ -14,12 +13,9 @@ namespace parlexo::simulator {
 [[nodiscard]] bool preventsOperation(FaultKind kind);
 
 /// What `fault` makes of the `proper` reply.
-[[nodiscard]] HttpReply misbehave(const Fault& fault, HttpReply proper);
+[[nodiscard]] server::HttpReply misbehave(const Fault& fault, server::HttpReply proper);
 
-/// A SOAP fault under HTTP status 500.
-[[nodiscard]] HttpReply soapFaultReply(std::string_view code, std::string_view reason);
-
-/// A reply of one line of text.
-[[nodiscard]] HttpReply plainReply(int status, const QByteArray& text);
+/// A document that every client must refuse: its server line lacks the port.
+[[nodiscard]] QByteArray malformedLocatorDocument(const server::Location& location);
 
 }  // namespace parlexo::simulator

@@ -2,34 +2,21 @@
 
 #include <string_view>
 
-#include "protocol/server_envelope.h"
+#include "server/locator_document.h"
+#include "server/soap_dispatch.h"
 #include "simulator/fault_reply.h"
-#include "simulator/locator_document.h"
 #include "simulator/message_text.h"
 #include "simulator/operations.h"
 #include "simulator/result_code.h"
 
 namespace parlexo::simulator {
 
-namespace {
+using namespace server;
 
-constexpr QByteArrayView endpointPath = "/ccx/onlineCommunication";
-constexpr QByteArrayView actionPrefix = "capeconnect:onlineCommunication:onlineCommunicationPortType#";
+namespace {
 
 QString nameOf(std::string_view name) {
   return QString::fromLatin1(name.data(), static_cast<qsizetype>(name.size()));
-}
-
-// The operation that the header asks for, which must be the one in the body.
-QByteArray wantedAction(const QString& operation) {
-  return actionPrefix.toByteArray() + operation.toLatin1();
-}
-
-QByteArray actionOf(const HttpRequest& request) {
-  QByteArray action = request.header("soapaction");
-  if (action.size() >= 2 && action.startsWith('"') && action.endsWith('"'))
-    action = action.mid(1, action.size() - 2);
-  return action;
 }
 
 template <class Request>
@@ -128,19 +115,11 @@ HttpReply GatewayService::answerLocator(const HttpRequest& request) {
 }
 
 HttpReply GatewayService::answerOperation(const HttpRequest& request) {
-  protocol::RequestReader reader(request.body.toStdString());
-  const QString name = nameOf(reader.operation());
-  HttpReply reply = soapFaultReply("SOAP-ENV:Client", "There is no operation \"" + reader.operation() + "\"");
-  if (reader.operation().empty()) {
-    reply = soapFaultReply("SOAP-ENV:Client", "The request is not a SOAP envelope");
-  } else if (actionOf(request) != wantedAction(name)) {
-    reply = soapFaultReply("SOAP-ENV:Client", "SOAPAction and body name different operations");
-  } else if (protocol::visitOperation(reader.operation(),
-                                      [&](const auto& operation) { reply = perform(operation, reader); })) {
-    return reply;
-  }
-  note(QStringLiteral("refused a request that is no proper call of \"%1\"").arg(forLog(name)));
-  return reply;
+  return dispatchSoap(
+      request, [this](const auto& operation, auto& reader) { return perform(operation, reader); },
+      [this](const QString& name) {
+        note(QStringLiteral("refused a request that is not a valid call of \"%1\"").arg(forLog(name)));
+      });
 }
 
 template <class Operation>

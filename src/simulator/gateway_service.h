@@ -9,10 +9,10 @@
 #include <QString>
 #include <QStringList>
 
+#include "server/http_message.h"
 #include "simulator/accepted_message.h"
 #include "simulator/fault_plan.h"
 #include "simulator/gateway_state.h"
-#include "simulator/http_message.h"
 
 namespace parlexo::protocol {
 class RequestReader;
@@ -35,7 +35,7 @@ class GatewayService {
  public:
   explicit GatewayService(const Options& options) : options_(options), state_(options) {}
 
-  [[nodiscard]] HttpReply answer(const HttpRequest& request);
+  [[nodiscard]] server::HttpReply answer(const server::HttpRequest& request);
   [[nodiscard]] bool refusesConnection();
 
   /// Calls `access(state)` while nobody else touches the state, and returns its result.
@@ -46,11 +46,11 @@ class GatewayService {
   }
 
  private:
-  [[nodiscard]] HttpReply route(const HttpRequest& request);
-  [[nodiscard]] HttpReply answerLocator(const HttpRequest& request);
-  [[nodiscard]] HttpReply answerOperation(const HttpRequest& request);
+  [[nodiscard]] server::HttpReply route(const server::HttpRequest& request);
+  [[nodiscard]] server::HttpReply answerLocator(const server::HttpRequest& request);
+  [[nodiscard]] server::HttpReply answerOperation(const server::HttpRequest& request);
   template <class Operation>
-  [[nodiscard]] HttpReply perform(const Operation& operation, protocol::RequestReader& reader);
+  [[nodiscard]] server::HttpReply perform(const Operation& operation, protocol::RequestReader& reader);
   void note(const QString& line);
 
   const Options options_;

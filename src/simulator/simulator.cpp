@@ -6,9 +6,9 @@
 
 #include <QThread>
 
+#include "server/http_server.h"
+#include "server/locator_document.h"
 #include "simulator/gateway_service.h"
-#include "simulator/http_server.h"
-#include "simulator/locator_document.h"
 
 namespace parlexo::simulator {
 
@@ -33,22 +33,22 @@ class Simulator::Engine {
   [[nodiscard]] GatewayService& service() { return service_; }
 
  private:
-  [[nodiscard]] std::unique_ptr<HttpServer> newServer();
+  [[nodiscard]] std::unique_ptr<server::HttpServer> newServer();
   void endThread();
 
   const Options options_;
   GatewayService service_;
   mutable std::mutex mutex_;
   QThread thread_;
-  std::unique_ptr<HttpServer> server_;  // made here, then lives and dies on thread_
+  std::unique_ptr<server::HttpServer> server_;  // made here, then lives and dies on thread_
   std::atomic<quint16> port_ = 0;
   QString errorText_;
 };
 
-std::unique_ptr<HttpServer> Simulator::Engine::newServer() {
-  HttpHooks hooks{[this] { return service_.refusesConnection(); },
-                  [this](const HttpRequest& request) { return service_.answer(request); }};
-  return std::make_unique<HttpServer>(std::move(hooks), options_.requestTimeout, options_.uploadRate);
+std::unique_ptr<server::HttpServer> Simulator::Engine::newServer() {
+  server::HttpHooks hooks{[this] { return service_.refusesConnection(); },
+                          [this](const server::HttpRequest& request) { return service_.answer(request); }};
+  return std::make_unique<server::HttpServer>(std::move(hooks), options_.requestTimeout, options_.uploadRate);
 }
 
 bool Simulator::Engine::start() {
@@ -88,7 +88,7 @@ QString Simulator::Engine::site() const {
   // A gateway that listens everywhere is reached here by the loopback address.
   const bool everywhere = options_.address == QHostAddress::Any || options_.address == QHostAddress::AnyIPv4;
   const QHostAddress address = everywhere ? QHostAddress(QHostAddress::LocalHost) : options_.address;
-  return QStringLiteral("http://%1:%2").arg(hostText(address)).arg(port());
+  return QStringLiteral("http://%1:%2").arg(server::hostText(address)).arg(port());
 }
 
 Simulator::Simulator(const Options& options) : engine_(std::make_unique<Engine>(options)) {}

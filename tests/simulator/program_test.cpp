@@ -14,7 +14,7 @@ using testing::HasSubstr;
 using testing::StartsWith;
 
 QString program() {
-  return QCoreApplication::applicationDirPath() + QStringLiteral("/parlexo-gateway");
+  return QCoreApplication::applicationDirPath() + QStringLiteral("/parlexo-simulator");
 }
 
 TEST(CommandLine, saysWhatIsWrong) {
@@ -56,7 +56,7 @@ TEST(GatewayProgram, badOptionEndsItWithAMessage) {
   process.start(program(), {QStringLiteral("--prot")});
   ASSERT_TRUE(process.waitForFinished(10000));
   EXPECT_EQ(process.exitCode(), 2);
-  EXPECT_THAT(process.readAllStandardError().toStdString(), StartsWith("parlexo-gateway: unknown option"));
+  EXPECT_THAT(process.readAllStandardError().toStdString(), StartsWith("parlexo-simulator: unknown option"));
 }
 
 TEST(MessageText, countsUnitsAndParts) {

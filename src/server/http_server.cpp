@@ -1,10 +1,10 @@
-#include "simulator/http_server.h"
+#include "server/http_server.h"
 
 #include <utility>
 
-#include "simulator/http_connection.h"
+#include "server/http_connection.h"
 
-namespace parlexo::simulator {
+namespace parlexo::server {
 
 namespace {
 
@@ -33,4 +33,4 @@ void HttpServer::incomingConnection(qintptr descriptor) {
   if (uploadRate_ > 0) connection->slowDown(uploadRate_);
 }
 
-}  // namespace parlexo::simulator
+}  // namespace parlexo::server

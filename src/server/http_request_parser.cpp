@@ -1,9 +1,9 @@
-#include "simulator/http_request_parser.h"
+#include "server/http_request_parser.h"
 
 #include <algorithm>
 #include <utility>
 
-namespace parlexo::simulator {
+namespace parlexo::server {
 
 namespace {
 
@@ -183,4 +183,4 @@ void HttpRequestParser::refuse(int status) {
   buffer_.clear();
 }
 
-}  // namespace parlexo::simulator
+}  // namespace parlexo::server

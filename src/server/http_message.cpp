@@ -1,8 +1,8 @@
-#include "simulator/http_message.h"
+#include "server/http_message.h"
 
 #include <algorithm>
 
-namespace parlexo::simulator {
+namespace parlexo::server {
 
 namespace {
 
@@ -62,4 +62,4 @@ QByteArray wireForm(const HttpReply& reply, bool keepAlive) {
   return bytes;
 }
 
-}  // namespace parlexo::simulator
+}  // namespace parlexo::server

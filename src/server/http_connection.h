@@ -6,10 +6,10 @@
 #include <QTcpSocket>
 #include <QTimer>
 
-#include "simulator/http_request_parser.h"
-#include "simulator/http_server.h"
+#include "server/http_request_parser.h"
+#include "server/http_server.h"
 
-namespace parlexo::simulator {
+namespace parlexo::server {
 
 /// One client's connection: reads its requests one after the other and answers each. Deletes itself when the
 /// connection has ended.
@@ -40,4 +40,4 @@ class HttpConnection final : public QObject {
   Phase phase_ = Phase::Reading;
 };
 
-}  // namespace parlexo::simulator
+}  // namespace parlexo::server

@@ -1,8 +1,8 @@
-#include "simulator/http_connection.h"
+#include "server/http_connection.h"
 
 #include <algorithm>
 
-namespace parlexo::simulator {
+namespace parlexo::server {
 
 namespace {
 
@@ -99,4 +99,4 @@ void HttpConnection::refuse(int status) {
   deadline_.start(refusalGrace);
 }
 
-}  // namespace parlexo::simulator
+}  // namespace parlexo::server

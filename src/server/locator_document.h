@@ -4,9 +4,9 @@
 #include <QHostAddress>
 #include <QString>
 
-namespace parlexo::simulator {
+namespace parlexo::server {
 
-/// What the locator document tells clients.
+/// What the locator document announces.
 struct Location {
   QHostAddress address;
   quint16 port = 0;
@@ -18,13 +18,10 @@ struct Location {
 /// The path that the document is served under.
 inline constexpr char locatorPath[] = "/WSDLServerLocator.xml";
 
-/// The host as it stands in an address: an IPv6 one in brackets.
+/// The host part of a URL: an IPv6 address in brackets.
 [[nodiscard]] QString hostText(const QHostAddress& address);
 
-/// The document: clients read it line by line, so its form is fixed to the blank.
+/// The document: clients read it line by line, so its layout is fixed down to the spaces.
 [[nodiscard]] QByteArray locatorDocument(const Location& location);
 
-/// A document that no client may accept: its server line lacks the port.
-[[nodiscard]] QByteArray malformedLocatorDocument(const Location& location);
-
-}  // namespace parlexo::simulator
+}  // namespace parlexo::server

@@ -25,7 +25,7 @@ int serve(const CommandLine& line) {
   parlexo::simulator::Simulator simulator(line.options);
   for (const auto& fault : line.faults) simulator.setFault(fault);
   if (!simulator.start()) {
-    print(stderr, QStringLiteral("parlexo-gateway: cannot listen on port %1: %2")
+    print(stderr, QStringLiteral("parlexo-simulator: cannot listen on port %1: %2")
                       .arg(line.options.port)
                       .arg(simulator.errorText()));
     return 1;
@@ -42,7 +42,7 @@ int runProgram(int argc, char** argv) {
   const QCoreApplication application(argc, argv);
   CommandLine line = parlexo::simulator::readCommandLine(QCoreApplication::arguments().mid(1));
   if (!line.problem.isEmpty()) {
-    print(stderr, QStringLiteral("parlexo-gateway: %1\nTry --help.").arg(line.problem));
+    print(stderr, QStringLiteral("parlexo-simulator: %1\nTry --help.").arg(line.problem));
     return usageError;
   }
   if (line.help) {
@@ -50,7 +50,7 @@ int runProgram(int argc, char** argv) {
     return 0;
   }
   if (line.version) {
-    print(stdout, QStringLiteral("parlexo-gateway %1").arg(QString::fromLatin1(parlexo::clientVersion)));
+    print(stdout, QStringLiteral("parlexo-simulator %1").arg(QString::fromLatin1(parlexo::clientVersion)));
     return 0;
   }
   line.options.log = [](const QString& text) { print(stdout, text); };

@@ -5,9 +5,9 @@
 
 #include <QByteArray>
 
-#include "simulator/http_message.h"
+#include "server/http_message.h"
 
-namespace parlexo::simulator {
+namespace parlexo::server {
 
 /// Reads HTTP/1.0 and 1.1 requests from bytes that arrive in any pieces, bodies by length or in chunks. What
 /// a peer may make it hold is bounded: 16 KiB of header, 8 MiB of body and 1 MiB of lines between chunks.
@@ -53,4 +53,4 @@ class HttpRequestParser {
   bool continueWish_ = false;
 };
 
-}  // namespace parlexo::simulator
+}  // namespace parlexo::server

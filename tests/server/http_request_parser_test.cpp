@@ -1,8 +1,8 @@
-#include "simulator/http_request_parser.h"
+#include "server/http_request_parser.h"
 
 #include <gmock/gmock.h>
 
-namespace parlexo::simulator {
+namespace parlexo::server {
 
 namespace {
 
@@ -86,4 +86,4 @@ TEST(HttpRequestParser, refusesWhatIsMalformedOrTooLarge) {
 
 }  // namespace
 
-}  // namespace parlexo::simulator
+}  // namespace parlexo::server

@@ -7,7 +7,7 @@
 #include <QByteArray>
 #include <QHostAddress>
 
-namespace parlexo::simulator {
+namespace parlexo::server {
 
 /// A request as it was read from a connection.
 struct HttpRequest {
@@ -39,4 +39,4 @@ struct HttpReply {
 /// `reply` in the bytes of the wire, without what its ending leaves out.
 [[nodiscard]] QByteArray wireForm(const HttpReply& reply, bool keepAlive);
 
-}  // namespace parlexo::simulator
+}  // namespace parlexo::server

@@ -5,9 +5,9 @@
 
 #include <QTcpServer>
 
-#include "simulator/http_message.h"
+#include "server/http_message.h"
 
-namespace parlexo::simulator {
+namespace parlexo::server {
 
 /// What an HTTP server asks its owner; called on the server's thread.
 struct HttpHooks {
@@ -33,4 +33,4 @@ class HttpServer final : public QTcpServer {
   int uploadRate_;
 };
 
-}  // namespace parlexo::simulator
+}  // namespace parlexo::server
