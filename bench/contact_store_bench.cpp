@@ -25,13 +25,16 @@
 #include "contacts/item_database.h"
 
 namespace parlexo {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int thousand = 1'000;
 constexpr int million = 1'000'000;
 constexpr int waitSeconds = 60;
 
-const QString contactsFile = QStringLiteral("All Contacts.all_grp");
+const QString contactsFile = u"All Contacts.all_grp"_s;
 
 int sizeOf(const benchmark::State& state) {
   return static_cast<int>(state.range(0));
@@ -60,7 +63,7 @@ const SqliteBook& sqliteOf(int contactTotal) {
   static std::unordered_map<int, std::unique_ptr<SqliteBook>> books;
   auto& book = books[contactTotal];
   if (!book) {
-    const QString path = BenchFolder::of(contactTotal).file(QStringLiteral("book.sqlite"));
+    const QString path = BenchFolder::of(contactTotal).file(u"book.sqlite"_s);
     book = std::make_unique<SqliteBook>(QFile::encodeName(path));
     book->fill(contactTotal, groupTotal);
   }
@@ -88,8 +91,8 @@ class NextContact {
   const ContactRecord& operator()() {
     static int number = 0;
     ++number;
-    if (isNew_) contact_.name = QStringLiteral("New contact %1").arg(number);
-    contact_.phone = QStringLiteral("+%1").arg(number);
+    if (isNew_) contact_.name = u"New contact %1"_s.arg(number);
+    contact_.phone = u"+%1"_s.arg(number);
     return contact_;
   }
 
@@ -145,7 +148,7 @@ class Stopwatch {
 void save(benchmark::State& state, bool isNew) {
   const BenchFolder& folder = BenchFolder::of(sizeOf(state));
   const QString path = folder.file(contactsFile);
-  const QString barePath = folder.file(QStringLiteral("bare"));
+  const QString barePath = folder.file(u"bare"_s);
   if (!QFile::exists(barePath)) QFile::copy(path, barePath);
   const SqliteBook& sqlite = sqliteOf(sizeOf(state));
   SleepingLockWaiter waiter;

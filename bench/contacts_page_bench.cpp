@@ -17,6 +17,9 @@
 #include "tests/addressbook/sample_book.h"
 
 namespace parlexo {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int contactTotal = 100000;
@@ -35,11 +38,10 @@ class Town : public test::SampleBook {
     QStringList members;
     for (int number = 0; number < contactTotal; ++number) {
       const int shuffled = static_cast<int>(number * 48271LL % contactTotal);
-      const QString name = QStringLiteral("%1erson %2")
-                               .arg(QChar(u'A' + shuffled % 26))
-                               .arg(shuffled, 6, 10, QLatin1Char('0'));
-      addContact(name, QStringLiteral("+61%1").arg(400000000 + number), "Y", "N", {},
-                 {QStringLiteral("City %1").arg(number % 500), "", "", "", "", ""});
+      const QString name =
+          u"%1erson %2"_s.arg(QChar(u'A' + shuffled % 26)).arg(shuffled, 6, 10, QLatin1Char('0'));
+      addContact(name, u"+61%1"_s.arg(400000000 + number), "Y", "N", {},
+                 {u"City %1"_s.arg(number % 500), "", "", "", "", ""});
       if (number % 2 == 0) members << name;
     }
     addGroup("Half the town", members);
@@ -68,11 +70,11 @@ struct OpenPage {
   DirectCallRunner runner;
   CContactsPage page{{town().book(), notifier, progress, settings, runner}};
   FolderTree& tree = *page.findChild<FolderTree*>();
-  QAbstractItemView& list = *page.findChild<QAbstractItemView*>(QStringLiteral("contactList"));
-  QLineEdit& search = *page.findChild<QLineEdit*>(QStringLiteral("contactSearch"));
+  QAbstractItemView& list = *page.findChild<QAbstractItemView*>(u"contactList"_s);
+  QLineEdit& search = *page.findChild<QLineEdit*>(u"contactSearch"_s);
 };
 
-const ContactFolder personal{ContactFolder::Kind::Group, QStringLiteral("My Personal Contacts")};
+const ContactFolder personal{ContactFolder::Kind::Group, u"My Personal Contacts"_s};
 
 /// From the choice of a folder to its repainted list, and back to an empty one.
 void switchFolder(benchmark::State& state, const ContactFolder& folder) {
@@ -85,10 +87,9 @@ void switchFolder(benchmark::State& state, const ContactFolder& folder) {
     state.ResumeTiming();
   }
 }
-BENCHMARK_CAPTURE(switchFolder, letterA, ContactFolder{ContactFolder::Kind::Letter, QStringLiteral("A")})
+BENCHMARK_CAPTURE(switchFolder, letterA, ContactFolder{ContactFolder::Kind::Letter, u"A"_s})
     ->Unit(benchmark::kMillisecond);
-BENCHMARK_CAPTURE(switchFolder, groupOf50000,
-                  ContactFolder{ContactFolder::Kind::Group, QStringLiteral("Half the town")})
+BENCHMARK_CAPTURE(switchFolder, groupOf50000, ContactFolder{ContactFolder::Kind::Group, u"Half the town"_s})
     ->Unit(benchmark::kMillisecond);
 
 /// What is typed letter by letter: a name, a number, two words, something that nobody has.
@@ -149,7 +150,7 @@ void switchFolderWithProxyModel(benchmark::State& state) {
   char letter = 'A';
   for (auto step : state) {
     letter = letter == 'A' ? 'B' : 'A';
-    proxied.filter.setFilterRegularExpression(QStringLiteral("^%1").arg(QLatin1Char(letter)));
+    proxied.filter.setFilterRegularExpression(u"^%1"_s.arg(QLatin1Char(letter)));
     benchmark::DoNotOptimize(proxied.view.viewport()->grab());
   }
 }

@@ -14,6 +14,9 @@
 #include "messaging/core/status_order.h"
 
 namespace parlexo {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 void countText(benchmark::State& state, SmsCharset charset) {
@@ -29,8 +32,8 @@ void takeAndHalveRecipients(benchmark::State& state) {
   std::vector<int> everySecond;
   for (int i = 0; i < state.range(0); ++i) {
     ContactRecord& contact = contacts[static_cast<std::size_t>(i)];
-    contact.name = QStringLiteral("Name %1").arg(i);
-    contact.phone = QStringLiteral("+%1").arg(100'000 + i);
+    contact.name = u"Name %1"_s.arg(i);
+    contact.phone = u"+%1"_s.arg(100'000 + i);
     selection.push_back(&contact);
     if (i % 2 == 1) everySecond.push_back(i);
   }
@@ -47,7 +50,7 @@ void orderStatusEntries(benchmark::State& state) {
   std::vector<StatusEntry> entries;
   for (int i = 0; i < state.range(0); ++i) {
     StatusEntry entry;
-    entry.date = QStringLiteral("01/01/2026 10:00:%1").arg(i * 7 % 60, 2, 10, QChar(u'0'));
+    entry.date = u"01/01/2026 10:00:%1"_s.arg(i * 7 % 60, 2, 10, QChar(u'0'));
     entries.push_back(entry);
   }
   for (auto _ : state) {
@@ -60,14 +63,13 @@ BENCHMARK(orderStatusEntries)->Arg(1'000)->Arg(10'000)->Unit(benchmark::kMillise
 
 void saveStatusLog(benchmark::State& state) {
   const QTemporaryDir folder;
-  StatusFile file(folder.filePath(QStringLiteral("Status.xml")));
+  StatusFile file(folder.filePath(u"Status.xml"_s));
   StatusLog log;
   for (int i = 0; i < state.range(0); ++i)
-    log.add({QStringLiteral("+61491570156"), QStringLiteral("8C41-%1").arg(i, 6, 10, QChar(u'0')),
-             QStringLiteral("Delivered to Gateway"), QStringLiteral("SMS"),
-             QStringLiteral("01/01/2026 %1:10:00").arg(i * 7 % 24)});
+    log.add({u"+61491570156"_s, u"8C41-%1"_s.arg(i, 6, 10, QChar(u'0')), u"Delivered to Gateway"_s, u"SMS"_s,
+             u"01/01/2026 %1:10:00"_s.arg(i * 7 % 24)});
   for (auto _ : state) {
-    log.setStatus(QStringLiteral("8C41-000000"), QStringLiteral("Status %1").arg(log.revision()));
+    log.setStatus(u"8C41-000000"_s, u"Status %1"_s.arg(log.revision()));
     if (!file.save(log)) state.SkipWithError("not saved");
   }
 }

@@ -16,6 +16,9 @@
 #include "tests/addressbook/sample_book.h"
 
 namespace parlexo {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int contactTotal = 100000;
@@ -31,11 +34,10 @@ class Town : public test::SampleBook {
     QStringList members;
     for (int number = 0; number < contactTotal; ++number) {
       const int shuffled = static_cast<int>(number * 48271LL % contactTotal);
-      const QString name = QStringLiteral("%1 %2")
-                               .arg(QLatin1String(words[shuffled % 10]))
-                               .arg(shuffled, 6, 10, QLatin1Char('0'));
-      addContact(name, QStringLiteral("+61%1").arg(400000000 + number), "Y", "N", {},
-                 {QStringLiteral("City %1").arg(number % cityTotal), name, "", "", "", ""});
+      const QString name =
+          u"%1 %2"_s.arg(QLatin1String(words[shuffled % 10])).arg(shuffled, 6, 10, QLatin1Char('0'));
+      addContact(name, u"+61%1"_s.arg(400000000 + number), "Y", "N", {},
+                 {u"City %1"_s.arg(number % cityTotal), name, "", "", "", ""});
       if (number < memberTotal) members << name;
     }
     addGroup("Half the town", members);
@@ -48,7 +50,7 @@ const Town& town() {
 }
 
 ContactSelection everybody() {
-  SelectionLists lists(town().book(), QStringLiteral("All"), {});
+  SelectionLists lists(town().book(), u"All"_s, {});
   lists.setGroupTicked(0, true);
   return lists.tickedContacts();
 }
@@ -66,7 +68,7 @@ void openDialog(benchmark::State& state) {
   RecordingNotifier notifier;
   town();
   for (auto step : state) {
-    CSelectContactsDlg dialog(town().book(), QStringLiteral("SMS"), initial, notifier);
+    CSelectContactsDlg dialog(town().book(), u"SMS"_s, initial, notifier);
     showAndPaint(dialog);
   }
 }
@@ -75,9 +77,9 @@ BENCHMARK(openDialog)->Arg(0)->Arg(1)->Unit(benchmark::kMillisecond);
 /// From the tick of the group to the repainted list.
 void tickGroupOf50000(benchmark::State& state) {
   RecordingNotifier notifier;
-  CSelectContactsDlg dialog(town().book(), QStringLiteral("SMS"), {}, notifier);
+  CSelectContactsDlg dialog(town().book(), u"SMS"_s, {}, notifier);
   showAndPaint(dialog);
-  QAbstractItemModel& groups = *dialog.findChild<CheckListView*>(QStringLiteral("groupList"))->model();
+  QAbstractItemModel& groups = *dialog.findChild<CheckListView*>(u"groupList"_s)->model();
   bool isTicked = false;
   for (auto step : state) {
     isTicked = !isTicked;
@@ -90,12 +92,12 @@ BENCHMARK(tickGroupOf50000)->Unit(benchmark::kMillisecond);
 /// The space bar with all rows selected, to the repainted list.
 void tickAllSelectedRows(benchmark::State& state) {
   RecordingNotifier notifier;
-  CSelectContactsDlg dialog(town().book(), QStringLiteral("SMS"), {}, notifier);
+  CSelectContactsDlg dialog(town().book(), u"SMS"_s, {}, notifier);
   showAndPaint(dialog);
-  auto& view = *dialog.findChild<CheckListView*>(QStringLiteral("contactList"));
+  auto& view = *dialog.findChild<CheckListView*>(u"contactList"_s);
   view.selectAll();
   for (auto step : state) {
-    QKeyEvent space(QEvent::KeyPress, Qt::Key_Space, Qt::NoModifier, QStringLiteral(" "));
+    QKeyEvent space(QEvent::KeyPress, Qt::Key_Space, Qt::NoModifier, u" "_s);
     QCoreApplication::sendEvent(&view, &space);
     benchmark::DoNotOptimize(dialog.grab());
   }
@@ -105,9 +107,9 @@ BENCHMARK(tickAllSelectedRows)->Unit(benchmark::kMillisecond);
 /// The typed beginning of a name that nobody has: every name is looked at.
 void searchForMissingName(benchmark::State& state) {
   RecordingNotifier notifier;
-  CSelectContactsDlg dialog(town().book(), QStringLiteral("SMS"), {}, notifier);
-  auto& view = *dialog.findChild<CheckListView*>(QStringLiteral("contactList"));
-  for (auto step : state) view.keyboardSearch(QStringLiteral("z"));
+  CSelectContactsDlg dialog(town().book(), u"SMS"_s, {}, notifier);
+  auto& view = *dialog.findChild<CheckListView*>(u"contactList"_s);
+  for (auto step : state) view.keyboardSearch(u"z"_s);
 }
 BENCHMARK(searchForMissingName)->Unit(benchmark::kMillisecond);
 
@@ -117,10 +119,10 @@ const char* const typings[] = {"ann 0123", "+614000", "eva city 7", "zq"};
 /// Every keystroke in the search field, to the laid out and repainted list; the argument picks the typing.
 void searchByKeystrokes(benchmark::State& state) {
   RecordingNotifier notifier;
-  CSelectContactsDlg dialog(town().book(), QStringLiteral("SMS"), {}, notifier);
+  CSelectContactsDlg dialog(town().book(), u"SMS"_s, {}, notifier);
   showAndPaint(dialog);
-  auto& view = *dialog.findChild<CheckListView*>(QStringLiteral("contactList"));
-  auto& search = *dialog.findChild<QLineEdit*>(QStringLiteral("contactSearch"));
+  auto& view = *dialog.findChild<CheckListView*>(u"contactList"_s);
+  auto& search = *dialog.findChild<QLineEdit*>(u"contactSearch"_s);
   const QString typing = QString::fromLatin1(typings[state.range(0)]);
   qsizetype typed = 0;
   for (auto step : state) {
@@ -135,12 +137,12 @@ BENCHMARK(searchByKeystrokes)->DenseRange(0, 3)->Unit(benchmark::kMillisecond);
 /// From nothing found back to all contacts in the repainted list.
 void clearSearch(benchmark::State& state) {
   RecordingNotifier notifier;
-  CSelectContactsDlg dialog(town().book(), QStringLiteral("SMS"), everybody(), notifier);
+  CSelectContactsDlg dialog(town().book(), u"SMS"_s, everybody(), notifier);
   showAndPaint(dialog);
-  auto& view = *dialog.findChild<CheckListView*>(QStringLiteral("contactList"));
-  auto& search = *dialog.findChild<QLineEdit*>(QStringLiteral("contactSearch"));
+  auto& view = *dialog.findChild<CheckListView*>(u"contactList"_s);
+  auto& search = *dialog.findChild<QLineEdit*>(u"contactSearch"_s);
   for (auto step : state) {
-    search.setText(QStringLiteral("zq"));
+    search.setText(u"zq"_s);
     search.clear();
     benchmark::DoNotOptimize(view.viewport()->grab());
   }
@@ -150,8 +152,8 @@ BENCHMARK(clearSearch)->Unit(benchmark::kMillisecond);
 /// The same keystrokes with Qt's own filter between the same rows and the same kind of view. It looks at
 /// the names and numbers alone, for one text instead of words.
 void searchWithProxyModel(benchmark::State& state) {
-  SelectionLists lists(town().book(), QStringLiteral("SMS"), {});
-  ContactListModel model(lists, QStringLiteral("SMS"));
+  SelectionLists lists(town().book(), u"SMS"_s, {});
+  ContactListModel model(lists, u"SMS"_s);
   QSortFilterProxyModel filter;
   filter.setSourceModel(&model);
   filter.setFilterCaseSensitivity(Qt::CaseInsensitive);
@@ -173,17 +175,17 @@ BENCHMARK(searchWithProxyModel)->DenseRange(0, 3)->Unit(benchmark::kMillisecond)
 
 /// Making 100,000 contacts ready to be searched, which the dialog does once.
 void prepareSearch(benchmark::State& state) {
-  SelectionLists lists(town().book(), QStringLiteral("SMS"), {});
+  SelectionLists lists(town().book(), u"SMS"_s, {});
   for (auto step : state) {
-    ContactListModel model(lists, QStringLiteral("SMS"));
-    model.search(QStringLiteral("zq"));
+    ContactListModel model(lists, u"SMS"_s);
+    model.search(u"zq"_s);
   }
 }
 BENCHMARK(prepareSearch)->Unit(benchmark::kMillisecond);
 
 /// "Select" with 50,000 ticked contacts.
 void collectTicked(benchmark::State& state) {
-  SelectionLists lists(town().book(), QStringLiteral("SMS"), everybody());
+  SelectionLists lists(town().book(), u"SMS"_s, everybody());
   for (auto step : state) benchmark::DoNotOptimize(lists.tickedContacts());
 }
 BENCHMARK(collectTicked)->Unit(benchmark::kMillisecond);

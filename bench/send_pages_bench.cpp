@@ -22,6 +22,9 @@
 #include "ui/waiting/thread_call_runner.h"
 
 namespace parlexo {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int recipientTotal = 10'000;
@@ -63,8 +66,8 @@ class Desk : public GatewayRig {
   Desk() : GatewayRig(richAccount()) {
     // No number ends in 99: the simulator would let it fail.
     for (int number = 0; number < recipientTotal; ++number) {
-      names << QStringLiteral("Name %1").arg(number, 5, 10, QChar(u'0'));
-      book.addContact(names.back(), QStringLiteral("+61%1").arg(400'000'000 + 100 * number), "Y");
+      names << u"Name %1"_s.arg(number, 5, 10, QChar(u'0'));
+      book.addContact(names.back(), u"+61%1"_s.arg(400'000'000 + 100 * number), "Y");
     }
   }
 
@@ -80,8 +83,7 @@ class Desk : public GatewayRig {
 
 /// Opens the selection with all contacts ticked and takes them over.
 void selectEverybody(CQuillonSMSDlg& page, const QStringList& names) {
-  QTimer::singleShot(0, &page,
-                     [&page] { page.findChild<QDialog*>(QStringLiteral("selectContactsDialog"))->accept(); });
+  QTimer::singleShot(0, &page, [&page] { page.findChild<QDialog*>(u"selectContactsDialog"_s)->accept(); });
   page.selectContacts(names);
 }
 
@@ -111,10 +113,10 @@ void sendTo10000(benchmark::State& state) {
   for (auto step : state) {
     state.PauseTiming();
     selectEverybody(page, desk.names);
-    page.findChild<MessageEdit*>()->setPlainText(QStringLiteral("Hello"));
+    page.findChild<MessageEdit*>()->setPlainText(u"Hello"_s);
     state.ResumeTiming();
     LoopWatch watch;
-    page.findChild<PictureButton*>(QStringLiteral("sendButton"))->click();
+    page.findChild<PictureButton*>(u"sendButton"_s)->click();
     benchmark::DoNotOptimize(page.grab());
     blocked = std::max(blocked, watch.longestMilliseconds());
   }
@@ -125,10 +127,9 @@ BENCHMARK(sendTo10000)->Unit(benchmark::kMillisecond)->Iterations(5);
 
 void addEntries(StatusLog& log) {
   for (int number = 0; number < recipientTotal; ++number)
-    log.add({QStringLiteral("+61%1").arg(400'000'000 + number), QStringLiteral("8C41-%1").arg(number),
-             QStringLiteral("Delivered to Gateway"), QStringLiteral("SMS"),
-             QStringLiteral("21/11/2026 10:%1:%2")
-                 .arg(number / 60 % 60, 2, 10, QChar(u'0'))
+    log.add({u"+61%1"_s.arg(400'000'000 + number), u"8C41-%1"_s.arg(number), u"Delivered to Gateway"_s,
+             u"SMS"_s,
+             u"21/11/2026 10:%1:%2"_s.arg(number / 60 % 60, 2, 10, QChar(u'0'))
                  .arg(number % 60, 2, 10, QChar(u'0'))});
 }
 
@@ -138,7 +139,7 @@ void fillStatusPage(benchmark::State& state) {
   CStatusDlg page(desk.services());
   paint(page);
   for (auto step : state) {
-    page.selectType(QStringLiteral("SMS"));
+    page.selectType(u"SMS"_s);
     benchmark::DoNotOptimize(page.grab());
   }
 }
@@ -150,7 +151,7 @@ void sortStatusPage(benchmark::State& state) {
   addEntries(desk.log);
   CStatusDlg page(desk.services());
   paint(page);
-  auto& list = *page.findChild<QTreeView*>(QStringLiteral("statusList"));
+  auto& list = *page.findChild<QTreeView*>(u"statusList"_s);
   int column = 0;
   for (auto step : state) {
     list.sortByColumn(column, Qt::DescendingOrder);

@@ -8,6 +8,9 @@
 #include "ui/waiting/progress_box.h"
 
 namespace parlexo {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 void load(benchmark::State& state, Progress& progress) {
@@ -20,7 +23,7 @@ void load(benchmark::State& state, Progress& progress) {
     ItemIndexCache cache;
     ItemDatabase database(cache, waiter);
     AddressBook book(folder.path(), database, notifier);
-    progress.show(QStringLiteral("Loading Contacts from Database..."));
+    progress.show(u"Loading Contacts from Database..."_s);
     const bool isLoaded = book.loadAll(progress);
     progress.hide();
     const bool isWhole = isLoaded && notifier.count == 0 && book.contacts().size() == std::size_t(total);

@@ -11,6 +11,8 @@
 #include "base/product.h"
 #include "contacts/samples/sample_contacts.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int badUsage = 2;
@@ -29,19 +31,17 @@ std::optional<int> countOf(const QCommandLineParser& parser, const QString& opti
 
 int main(int argc, char** argv) {
   const QCoreApplication application(argc, argv);
-  const QString contactsOption = QStringLiteral("contacts");
-  const QString groupsOption = QStringLiteral("groups");
+  const QString contactsOption = u"contacts"_s;
+  const QString groupsOption = u"groups"_s;
   QCommandLineParser parser;
   parser.setApplicationDescription(
-      QStringLiteral("Writes a made-up address book into the folder DIR, which must not hold one yet."));
+      u"Writes a made-up address book into the folder DIR, which must not hold one yet."_s);
   const QCommandLineOption help = parser.addHelpOption();
   QCoreApplication::setApplicationVersion(QLatin1String(parlexo::clientVersion));
   const QCommandLineOption version = parser.addVersionOption();
-  parser.addOption(
-      {contactsOption, QStringLiteral("How many contacts (40)."), QStringLiteral("N"), QStringLiteral("40")});
-  parser.addOption({groupsOption, QStringLiteral("How many groups beside My Personal Contacts (6)."),
-                    QStringLiteral("M"), QStringLiteral("6")});
-  parser.addPositionalArgument(QStringLiteral("DIR"), QStringLiteral("The contacts folder to fill."));
+  parser.addOption({contactsOption, u"How many contacts (40)."_s, u"N"_s, u"40"_s});
+  parser.addOption({groupsOption, u"How many groups beside My Personal Contacts (6)."_s, u"M"_s, u"6"_s});
+  parser.addPositionalArgument(u"DIR"_s, u"The contacts folder to fill."_s);
   if (!parser.parse(QCoreApplication::arguments())) {
     std::fprintf(stderr, "make-contacts: %s (see --help)\n", qPrintable(parser.errorText()));
     return badUsage;

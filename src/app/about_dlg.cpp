@@ -13,14 +13,16 @@
 
 namespace parlexo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QLabel* createVersionLabel() {
-  auto* label =
-      new QLabel(QStringLiteral("Parlexo Client vX.XX\n"
-                                "Copyright (C) 2026 the Parlexo developers.\nGPL-3.0-or-later."));
-  label->setObjectName(QStringLiteral("version"));
-  label->setText(label->text().replace(QStringLiteral("X.XX"), QLatin1String(clientVersion)));
+  auto* label = new QLabel(
+      u"Parlexo Client vX.XX\n"
+      "Copyright (C) 2026 the Parlexo developers.\nGPL-3.0-or-later."_s);
+  label->setObjectName(u"version"_s);
+  label->setText(label->text().replace(u"X.XX"_s, QLatin1String(clientVersion)));
   label->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
   return label;
 }
@@ -28,17 +30,17 @@ QLabel* createVersionLabel() {
 }  // namespace
 
 CAboutDlg::CAboutDlg(QWidget* parent) : GradientDialog(parent) {
-  setObjectName(QStringLiteral("about"));
-  setWindowTitle(QStringLiteral("Parlexo(TM) : About"));
+  setObjectName(u"about"_s);
+  setWindowTitle(u"Parlexo(TM) : About"_s);
   auto* site = new HyperlinkLabel(webPage({}), QUrl(webPage({})));
-  site->setObjectName(QStringLiteral("site"));
+  site->setObjectName(u"site"_s);
   auto* texts = new QVBoxLayout;
   texts->addWidget(createVersionLabel());
   texts->addWidget(site, 0, Qt::AlignLeft);
   texts->addStretch();
 
   auto* ok = new PictureButton(text(TextId::ButtonOk));
-  ok->setObjectName(QStringLiteral("ok"));
+  ok->setObjectName(u"ok"_s);
   ok->setDefault(true);
   connect(ok, &PictureButton::clicked, this, &CAboutDlg::accept);
   auto* row = new QHBoxLayout(this);

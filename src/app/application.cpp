@@ -13,6 +13,8 @@
 
 namespace parlexo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 std::unique_ptr<Settings> openSettings(const ProgramOptions& options) {
@@ -34,7 +36,7 @@ Application::Application(const ProgramOptions& options)
       stores_(*settings_, notifier_, progress_),
       screens_({state_, *settings_, stores_, gateway_, backgroundGateway_, notifier_, progress_, runner_}) {
   setServiceHost(settings_->serviceHost());
-  if (site_.isEmpty()) site_ = QStringLiteral("http://") + settings_->serviceHost();
+  if (site_.isEmpty()) site_ = u"http://"_s + settings_->serviceHost();
 }
 
 int Application::run() {

@@ -8,6 +8,8 @@
 
 namespace parlexo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr QColor nameColour(16, 74, 128);
@@ -60,14 +62,13 @@ void drawWaves(QPainter& painter, QPointF source, qreal step) {
 }  // namespace
 
 Banner::Banner(QWidget* parent) : QWidget(parent) {
-  setObjectName(QStringLiteral("banner"));
+  setObjectName(u"banner"_s);
   setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
 }
 
 QSize Banner::sizeHint() const {
   const QFontMetrics metrics(nameFont(*this));
-  return {metrics.horizontalAdvance(QStringLiteral("Parlexo")) + 4 * metrics.height(),
-          metrics.height() * 3 / 2};
+  return {metrics.horizontalAdvance(u"Parlexo"_s) + 4 * metrics.height(), metrics.height() * 3 / 2};
 }
 
 void Banner::paintEvent(QPaintEvent*) {
@@ -81,7 +82,7 @@ void Banner::paintEvent(QPaintEvent*) {
   painter.setPen(nameColour);
   const QRectF nameRect(bubble.right() + unit * 0.6, 0, width(), height());
   QRectF drawn;
-  painter.drawText(nameRect, Qt::AlignLeft | Qt::AlignVCenter, QStringLiteral("Parlexo"), &drawn);
+  painter.drawText(nameRect, Qt::AlignLeft | Qt::AlignVCenter, u"Parlexo"_s, &drawn);
   drawWaves(painter, QPointF(drawn.right() + unit * 0.1, height() / 2.0), unit * 0.62);
 }
 

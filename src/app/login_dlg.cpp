@@ -17,6 +17,8 @@
 
 namespace parlexo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 void addLink(QVBoxLayout& column, const QString& explanation, const QString& name, const QString& page) {
@@ -31,34 +33,34 @@ void addLink(QVBoxLayout& column, const QString& explanation, const QString& nam
 
 CLoginDlg::CLoginDlg(LoginFlow& flow, const QString& rememberedUser, QWidget* parent)
     : GradientDialog(parent), flow_(flow) {
-  setObjectName(QStringLiteral("login"));
-  setWindowTitle(QStringLiteral("Parlexo(TM) : Login v") + QLatin1String(clientVersion));
+  setObjectName(u"login"_s);
+  setWindowTitle(u"Parlexo(TM) : Login v"_s + QLatin1String(clientVersion));
   auto* column = new QVBoxLayout(this);
   column->addWidget(new Banner);
   addFields(*column, rememberedUser);
   addButtons(*column);
   column->addStretch(1);
   addLink(*column,
-          QStringLiteral("If you don't have an account with Parlexo then click the link to sign-up. The "
-                         "sign-up process only takes a minute:"),
-          QStringLiteral("signUp"), QStringLiteral("/signup.php"));
-  addLink(*column, QStringLiteral("Lost your password? Click the link to get your password details:"),
-          QStringLiteral("forgotPassword"), QStringLiteral("/forgotpassword.php"));
+          u"If you don't have an account with Parlexo then click the link to sign-up. The "
+          "sign-up process only takes a minute:"_s,
+          u"signUp"_s, u"/signup.php"_s);
+  addLink(*column, u"Lost your password? Click the link to get your password details:"_s, u"forgotPassword"_s,
+          u"/forgotpassword.php"_s);
   setMinimumSize(dialogUnits(*this, 250, 129));
 }
 
 void CLoginDlg::addFields(QVBoxLayout& column, const QString& rememberedUser) {
-  user_ = createField(QStringLiteral("userName"));
+  user_ = createField(u"userName"_s);
   user_->setText(rememberedUser);
-  password_ = createField(QStringLiteral("password"));
+  password_ = createField(u"password"_s);
   password_->setEchoMode(QLineEdit::Password);
   auto* grid = new QGridLayout;
   const auto addRow = [grid](int row, const QString& text, QLineEdit* field) {
     grid->addWidget(field, row, 1);
     grid->addWidget(labelFor(field, text), row, 0);
   };
-  addRow(0, QStringLiteral("User Name:"), user_);
-  addRow(1, QStringLiteral("Password:"), password_);
+  addRow(0, u"User Name:"_s, user_);
+  addRow(1, u"Password:"_s, password_);
   column.addLayout(grid);
   auto* hint = new UnsendableHint(this);
   hint->watch({user_, password_});
@@ -75,10 +77,10 @@ QLineEdit* CLoginDlg::createField(const QString& name) {
 void CLoginDlg::addButtons(QVBoxLayout& column) {
   auto* row = new QHBoxLayout;
   row->addStretch();
-  auto* login = addButton(*row, QStringLiteral("logIn"), QStringLiteral("Login"));
+  auto* login = addButton(*row, u"logIn"_s, u"Login"_s);
   login->setDefault(true);
   connect(login, &PictureButton::clicked, this, &CLoginDlg::logIn);
-  auto* cancel = addButton(*row, QStringLiteral("cancel"), QStringLiteral("Cancel"));
+  auto* cancel = addButton(*row, u"cancel"_s, u"Cancel"_s);
   connect(cancel, &PictureButton::clicked, this, &CLoginDlg::reject);
   column.addLayout(row);
 }

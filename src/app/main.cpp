@@ -10,6 +10,8 @@
 #include "demo/demo.h"
 #include "ui/look.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using namespace parlexo;
@@ -25,7 +27,7 @@ int runDemo(ProgramOptions options) {
   Demo demo(options.dataDir);
   const QString problem = demo.start();
   if (!problem.isEmpty())
-    return endAtOnce({demoFailed, QStringLiteral("parlexo-client: the demo can't start: %1\n").arg(problem)});
+    return endAtOnce({demoFailed, u"parlexo-client: the demo can't start: %1\n"_s.arg(problem)});
   options.dataDir = demo.dataFolder();
   if (options.site.isEmpty()) options.site = demo.site();
   return Application(options).run();

@@ -29,6 +29,8 @@
 
 namespace parlexo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QLineEdit* addField(QGridLayout& grid, int row, const QString& name, const QString& labelText) {
@@ -81,8 +83,8 @@ bool claims(const QWidget& page, const QKeySequence& shortcut) {
 }  // namespace
 
 CMainDlg::CMainDlg(const std::vector<MainTab>& tabs, QWidget* parent) : GradientDialog(parent) {
-  setObjectName(QStringLiteral("mainWindow"));
-  setWindowTitle(QStringLiteral("Parlexo(TM) : Messaging Client v") + QLatin1String(clientVersion));
+  setObjectName(u"mainWindow"_s);
+  setWindowTitle(u"Parlexo(TM) : Messaging Client v"_s + QLatin1String(clientVersion));
   setWindowFlags(Qt::Window);
   auto* column = new QVBoxLayout(this);
   addHeader(*column);
@@ -117,7 +119,7 @@ void CMainDlg::markBalanceOutdated() {
   QPalette palette = balance_->palette();
   palette.setColor(QPalette::Text, look::disabledText);
   balance_->setPalette(palette);
-  balance_->setAccessibleDescription(QStringLiteral("Not up to date"));
+  balance_->setAccessibleDescription(u"Not up to date"_s);
 }
 
 void CMainDlg::openTab(const QString& text) {
@@ -149,9 +151,9 @@ bool CMainDlg::nativeEvent(const QByteArray& type, void* message, qintptr* resul
 
 void CMainDlg::addHeader(QVBoxLayout& column) {
   auto* grid = new QGridLayout;
-  userName_ = addField(*grid, 0, QStringLiteral("userName"), QStringLiteral("User Name:"));
-  balance_ = addField(*grid, 1, QStringLiteral("balance"), QStringLiteral("Account Balance: "));
-  grid->addWidget(new QLabel(QStringLiteral("(in your account's base currency)")), 1, 2);
+  userName_ = addField(*grid, 0, u"userName"_s, u"User Name:"_s);
+  balance_ = addField(*grid, 1, u"balance"_s, u"Account Balance: "_s);
+  grid->addWidget(new QLabel(u"(in your account's base currency)"_s), 1, 2);
   auto* row = new QHBoxLayout;
   row->addWidget(new Banner, 1);
   row->addLayout(grid);
@@ -160,18 +162,18 @@ void CMainDlg::addHeader(QVBoxLayout& column) {
 
 void CMainDlg::addTabs(QVBoxLayout& column, const std::vector<MainTab>& tabs) {
   tabs_ = new QTabWidget;
-  tabs_->setObjectName(QStringLiteral("tabs"));
+  tabs_->setObjectName(u"tabs"_s);
   for (const auto& tab : tabs) tabs_->addTab(scrollable(tab.create()), tab.text);
   connect(tabs_, &QTabWidget::currentChanged, this, &CMainDlg::shareExitMnemonic);
   column.addWidget(tabs_, 1);
 }
 
 void CMainDlg::addFooter(QVBoxLayout& column) {
-  auto* about = new HyperlinkLabel(QStringLiteral("About"));
-  about->setObjectName(QStringLiteral("about"));
+  auto* about = new HyperlinkLabel(u"About"_s);
+  about->setObjectName(u"about"_s);
   connect(about, &HyperlinkLabel::clicked, this, &CMainDlg::showAbout);
-  exit_ = new PictureButton(QStringLiteral("&Exit"));
-  exit_->setObjectName(QStringLiteral("exit"));
+  exit_ = new PictureButton(u"&Exit"_s);
+  exit_->setObjectName(u"exit"_s);
   connect(exit_, &PictureButton::clicked, this, &CMainDlg::accept);
   auto* row = new QHBoxLayout;
   row->addWidget(about);

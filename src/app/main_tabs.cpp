@@ -14,9 +14,11 @@
 
 namespace parlexo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-const QString statusTab = QStringLiteral("Status");
+const QString statusTab = u"Status"_s;
 
 // The visible tab stays: whoever has just sent a message may want to write the next one.
 void showSentMessages(SendPage& page, CStatusDlg& status) {
@@ -52,17 +54,15 @@ std::vector<MainTab> mainTabs(const MessagingServices& services,
                               const AddressBookServices& addressBookServices,
                               const AccountServices& accountServices) {
   return {
-      sendTab<CQuillonSMSDlg>(QStringLiteral("SMS"), services, addressBookServices),
-      sendTab<CQuillonWAPDlg>(QStringLiteral("WAP"), services, addressBookServices),
-      sendTab<CQuillonMMSDlg>(QStringLiteral("MMS"), services, addressBookServices),
-      sendTab<CQuillonFaxDlg>(QStringLiteral("Fax"), services, addressBookServices),
-      {QStringLiteral("Receive Messages"),
-       [accountServices] { return new CReceiveMessagesDlg(accountServices.state); }},
-      {QStringLiteral("Contacts"), [addressBookServices] { return new CContactsPage(addressBookServices); }},
-      {QStringLiteral("Account History"),
-       [accountServices] { return new CAccountHistoryDlg(accountServices); }},
+      sendTab<CQuillonSMSDlg>(u"SMS"_s, services, addressBookServices),
+      sendTab<CQuillonWAPDlg>(u"WAP"_s, services, addressBookServices),
+      sendTab<CQuillonMMSDlg>(u"MMS"_s, services, addressBookServices),
+      sendTab<CQuillonFaxDlg>(u"Fax"_s, services, addressBookServices),
+      {u"Receive Messages"_s, [accountServices] { return new CReceiveMessagesDlg(accountServices.state); }},
+      {u"Contacts"_s, [addressBookServices] { return new CContactsPage(addressBookServices); }},
+      {u"Account History"_s, [accountServices] { return new CAccountHistoryDlg(accountServices); }},
       {statusTab, [services] { return new CStatusDlg(services); }},
-      {QStringLiteral("Settings"), [accountServices] { return new CSettingsDlg(accountServices); }}};
+      {u"Settings"_s, [accountServices] { return new CSettingsDlg(accountServices); }}};
 }
 
 void connectPages(CMainDlg& window) {

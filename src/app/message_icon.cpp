@@ -8,6 +8,8 @@
 
 namespace parlexo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int iconSize = 36;
@@ -16,13 +18,13 @@ constexpr QRectF ground(2, 2, iconSize - 4, iconSize - 4);
 QString accessibleIconName(unsigned icon) {
   switch (icon) {
     case message_style::stop:
-      return QStringLiteral("Error");
+      return u"Error"_s;
     case message_style::question:
-      return QStringLiteral("Question");
+      return u"Question"_s;
     case message_style::exclamation:
-      return QStringLiteral("Warning");
+      return u"Warning"_s;
     case message_style::information:
-      return QStringLiteral("Information");
+      return u"Information"_s;
     default:
       return {};
   }
@@ -71,7 +73,7 @@ void drawStop(QPainter& painter) {
 
 void drawExclamation(QPainter& painter) {
   fill(painter, triangle(), QColor(244, 178, 32));
-  drawSign(painter, QStringLiteral("!"), QColor(60, 40, 0), ground.translated(0, 3));
+  drawSign(painter, u"!"_s, QColor(60, 40, 0), ground.translated(0, 3));
 }
 
 void drawCircled(QPainter& painter, const QString& sign) {
@@ -83,7 +85,7 @@ void drawCircled(QPainter& painter, const QString& sign) {
 
 MessageIcon::MessageIcon(unsigned style, QWidget* parent)
     : QWidget(parent), icon_(style & message_style::iconBits) {
-  setObjectName(QStringLiteral("messageIcon"));
+  setObjectName(u"messageIcon"_s);
   setFixedSize(iconSize, iconSize);
   setAccessibleName(accessibleIconName(icon_));
 }
@@ -92,9 +94,9 @@ void MessageIcon::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
   if (icon_ == message_style::stop) drawStop(painter);
-  if (icon_ == message_style::question) drawCircled(painter, QStringLiteral("?"));
+  if (icon_ == message_style::question) drawCircled(painter, u"?"_s);
   if (icon_ == message_style::exclamation) drawExclamation(painter);
-  if (icon_ == message_style::information) drawCircled(painter, QStringLiteral("i"));
+  if (icon_ == message_style::information) drawCircled(painter, u"i"_s);
 }
 
 }  // namespace parlexo

@@ -18,6 +18,8 @@
 
 namespace parlexo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // Ctrl+C without a selection copies all, wherever in the dialog the focus is: what a message box is expected
@@ -45,8 +47,8 @@ class MessageView final : public QPlainTextEdit {
 // Read-only, so that a long text scrolls and every text can be selected, copied and read aloud.
 MessageView* createMessage(const QString& text) {
   auto* message = new MessageView(text);
-  message->setObjectName(QStringLiteral("message"));
-  message->setAccessibleName(QStringLiteral("Message"));
+  message->setObjectName(u"message"_s);
+  message->setAccessibleName(u"Message"_s);
   message->setReadOnly(true);
   message->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
   message->setTabChangesFocus(true);
@@ -61,13 +63,13 @@ MessageView* createMessage(const QString& text) {
 
 CNotificationDlg::CNotificationDlg(const QString& text, unsigned style, bool suppressible, QWidget* parent)
     : GradientDialog(parent), style_(style) {
-  setObjectName(QStringLiteral("notification"));
-  setWindowTitle(QStringLiteral("Parlexo(TM) : Notification"));
+  setObjectName(u"notification"_s);
+  setWindowTitle(u"Parlexo(TM) : Notification"_s);
   auto* column = new QVBoxLayout(this);
   column->addLayout(createHeader(text), 1);
   column->addWidget(createConnectingAnimation(this), 0, Qt::AlignHCenter);
-  dontShowAgain_ = new QCheckBox(QStringLiteral("&Don't show again"));
-  dontShowAgain_->setObjectName(QStringLiteral("dontShowAgain"));
+  dontShowAgain_ = new QCheckBox(u"&Don't show again"_s);
+  dontShowAgain_->setObjectName(u"dontShowAgain"_s);
   column->addWidget(dontShowAgain_);
   dontShowAgain_->setVisible(suppressible);
   column->addLayout(createButtons());
@@ -121,7 +123,7 @@ QHBoxLayout* CNotificationDlg::createButtons() {
 void CNotificationDlg::addButton(QHBoxLayout& row, const QString& text, MessageResult result) {
   const bool isFirst = row.count() == 1;  // the stretch alone
   auto* button = new PictureButton(text);
-  button->setObjectName(QStringLiteral("button%1").arg(static_cast<int>(result)));
+  button->setObjectName(u"button%1"_s.arg(static_cast<int>(result)));
   connect(button, &PictureButton::clicked, this, [this, result] { end(result); });
   row.addWidget(button);
   if (isFirst) button->setDefault(true);

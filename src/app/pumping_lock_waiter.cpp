@@ -7,6 +7,8 @@
 
 namespace parlexo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr qint64 stepsPerSecond = 2;
@@ -32,7 +34,7 @@ void PumpingLockWaiter::pause() {
 }
 
 void PumpingLockWaiter::showBox() {
-  const QString text = QStringLiteral("Waiting for another user to finish with the contacts...");
+  const QString text = u"Waiting for another user to finish with the contacts..."_s;
   isWaiting_ = true;
   labelBefore_ = progress_.text();
   progress_.show(text);

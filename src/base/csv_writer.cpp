@@ -6,6 +6,9 @@
 #include <QSaveFile>
 
 namespace parlexo {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr char byteOrderMark[] = "\xEF\xBB\xBF";
@@ -33,7 +36,7 @@ bool needsQuotes(QStringView cell) {
 }
 
 QString quoted(QString cell) {
-  return u'"' + cell.replace(u'"', QStringLiteral("\"\"")) + u'"';
+  return u'"' + cell.replace(u'"', u"\"\""_s) + u'"';
 }
 
 }  // namespace
@@ -49,8 +52,7 @@ void CsvWriter::addRow(const QStringList& cells) {
     written.append(needsQuotes(text) ? quoted(text) : text);
   }
   // An only cell that is empty must not read as a blank line, which readers skip.
-  bytes_ +=
-      (written == QStringList{QString()} ? QStringLiteral("\"\"") : written.join(u',')).toUtf8() + "\r\n";
+  bytes_ += (written == QStringList{QString()} ? u"\"\""_s : written.join(u',')).toUtf8() + "\r\n";
 }
 
 QString CsvWriter::save(const QString& path) const {
@@ -59,8 +61,7 @@ QString CsvWriter::save(const QString& path) const {
     file.write(bytes_);
     if (file.commit()) return {};
   }
-  return QStringLiteral("The file %1 could not be written: %2")
-      .arg(QDir::toNativeSeparators(path), file.errorString());
+  return u"The file %1 could not be written: %2"_s.arg(QDir::toNativeSeparators(path), file.errorString());
 }
 
 }  // namespace parlexo

@@ -4,6 +4,8 @@
 
 namespace parlexo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr std::int64_t kilo = 1024;
@@ -18,13 +20,13 @@ QString inUnits(std::int64_t bytes, std::int64_t unit, const QString& name) {
 
 QString dataSizeText(std::int64_t bytes) {
   if (bytes < kilo) return exactSizeText(bytes);
-  if (bytes < kilo * kilo) return inUnits(bytes, kilo, QStringLiteral("KB"));
-  return inUnits(bytes, kilo * kilo, QStringLiteral("MB"));
+  if (bytes < kilo * kilo) return inUnits(bytes, kilo, u"KB"_s);
+  return inUnits(bytes, kilo * kilo, u"MB"_s);
 }
 
 QString exactSizeText(std::int64_t bytes) {
   const QString number = QLocale(QLocale::English).toString(static_cast<qlonglong>(bytes));
-  return number + (bytes == 1 ? QStringLiteral(" byte") : QStringLiteral(" bytes"));
+  return number + (bytes == 1 ? u" byte"_s : u" bytes"_s);
 }
 
 }  // namespace parlexo

@@ -5,9 +5,11 @@
 
 namespace parlexo {
 
+using namespace Qt::StringLiterals;
+
 QString helperProgram(const QString& name) {
   const QString folder = QCoreApplication::applicationDirPath();
-  return QStandardPaths::findExecutable(name, {folder, folder + QStringLiteral("/../libexec/parlexo")});
+  return QStandardPaths::findExecutable(name, {folder, folder + u"/../libexec/parlexo"_s});
 }
 
 }  // namespace parlexo

@@ -2,6 +2,8 @@
 
 namespace parlexo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 // Process-wide by contract: texts and links name the service's site wherever they stand.
 QString& chosenHost() {
@@ -20,7 +22,7 @@ void setServiceHost(const QString& host) {
 
 QString webPage(const QString& path) {
   const QString& host = chosenHost();
-  return QStringLiteral("https://") + (host.isEmpty() ? defaultServiceHost() : host) + path;
+  return u"https://"_s + (host.isEmpty() ? defaultServiceHost() : host) + path;
 }
 
 }  // namespace parlexo

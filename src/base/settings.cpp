@@ -10,6 +10,8 @@
 
 namespace parlexo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr char organisation[] = "Parlexo";
@@ -30,11 +32,11 @@ QString inFolder(const QString& folder, const QString& name) {
 
 // A text as it stands in the store. A hand-edited value with a comma that is not quoted comes back as a list.
 QString storedText(const QSettings& store, const QString& key) {
-  return store.value(key).toStringList().join(QStringLiteral(", "));
+  return store.value(key).toStringList().join(u", "_s);
 }
 
 QString columnWidthsKey(const QString& list) {
-  return QStringLiteral("Columns/") + list;
+  return u"Columns/"_s + list;
 }
 
 QString suppressionKey(int messageNumber) {
@@ -52,50 +54,48 @@ Settings::Settings()
 }
 
 Settings::Settings(const QString& dataFolder)
-    : store_(std::make_unique<QSettings>(inFolder(dataFolder, QStringLiteral("Parlexo Client.conf")),
-                                         QSettings::IniFormat)),
+    : store_(
+          std::make_unique<QSettings>(inFolder(dataFolder, u"Parlexo Client.conf"_s), QSettings::IniFormat)),
       programFolder_{QDir::toNativeSeparators(QDir(dataFolder).absolutePath())} {}
 
 QString Settings::mobilePhoneNumber() {
-  return cached(mobilePhoneNumber_, QStringLiteral("Mobile/PhoneNumber"), QString());
+  return cached(mobilePhoneNumber_, u"Mobile/PhoneNumber"_s, QString());
 }
 
 void Settings::setMobilePhoneNumber(const QString& number) {
-  write(mobilePhoneNumber_, QStringLiteral("Mobile/PhoneNumber"), number);
+  write(mobilePhoneNumber_, u"Mobile/PhoneNumber"_s, number);
 }
 
 QString Settings::contactsFolder() {
-  return cached(contactsFolder_, QStringLiteral("Path/Contacts"),
-                inFolder(programFolder_.path, QStringLiteral("contacts")));
+  return cached(contactsFolder_, u"Path/Contacts"_s, inFolder(programFolder_.path, u"contacts"_s));
 }
 
 void Settings::setContactsFolder(const QString& folder) {
-  write(contactsFolder_, QStringLiteral("Path/Contacts"), folder);
+  write(contactsFolder_, u"Path/Contacts"_s, folder);
 }
 
 QString Settings::templatesFolder() {
-  return cached(templatesFolder_, QStringLiteral("Path/Templates"),
-                inFolder(programFolder_.path, QStringLiteral("templates")));
+  return cached(templatesFolder_, u"Path/Templates"_s, inFolder(programFolder_.path, u"templates"_s));
 }
 
 void Settings::setTemplatesFolder(const QString& folder) {
-  write(templatesFolder_, QStringLiteral("Path/Templates"), folder);
+  write(templatesFolder_, u"Path/Templates"_s, folder);
 }
 
 QString Settings::statusFile() const {
-  return inFolder(programFolder_.path, QStringLiteral("Status.xml"));
+  return inFolder(programFolder_.path, u"Status.xml"_s);
 }
 
 QString Settings::rememberedUser() const {
-  return storedText(*store_, QStringLiteral("Login/User"));
+  return storedText(*store_, u"Login/User"_s);
 }
 
 void Settings::setRememberedUser(const QString& user) {
-  store_->setValue(QStringLiteral("Login/User"), user);
+  store_->setValue(u"Login/User"_s, user);
 }
 
 QString Settings::serviceHost() const {
-  const QString host = storedText(*store_, QStringLiteral("Service/Host"));
+  const QString host = storedText(*store_, u"Service/Host"_s);
   return host.isEmpty() ? defaultServiceHost() : host;
 }
 
@@ -105,23 +105,23 @@ bool Settings::isMessageSuppressed(int messageNumber) const {
 
 void Settings::suppressMessage(int messageNumber) {
   // A text like all settings: the registry keeps numbers and texts apart.
-  store_->setValue(suppressionKey(messageNumber), QStringLiteral("1"));
+  store_->setValue(suppressionKey(messageNumber), u"1"_s);
 }
 
 QString Settings::fileFolder() const {
-  return storedText(*store_, QStringLiteral("Path/Files"));
+  return storedText(*store_, u"Path/Files"_s);
 }
 
 void Settings::setFileFolder(const QString& folder) {
-  store_->setValue(QStringLiteral("Path/Files"), folder);
+  store_->setValue(u"Path/Files"_s, folder);
 }
 
 QByteArray Settings::windowGeometry() const {
-  return QByteArray::fromBase64(storedText(*store_, QStringLiteral("Window/Geometry")).toLatin1());
+  return QByteArray::fromBase64(storedText(*store_, u"Window/Geometry"_s).toLatin1());
 }
 
 void Settings::setWindowGeometry(const QByteArray& geometry) {
-  store_->setValue(QStringLiteral("Window/Geometry"), QString::fromLatin1(geometry.toBase64()));
+  store_->setValue(u"Window/Geometry"_s, QString::fromLatin1(geometry.toBase64()));
 }
 
 QList<int> Settings::columnWidths(const QString& list) const {

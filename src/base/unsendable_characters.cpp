@@ -9,6 +9,9 @@
 #include "base/code_page.h"
 
 namespace parlexo {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // Abbreviations and names of ASCII (ISO 646); empty for tab, line feed and carriage return, which can be
@@ -58,11 +61,11 @@ QLatin1String unsendableControl(QStringView character) {
 // The character itself, or its name or number where it would leave nothing to see.
 QString readable(const QString& character) {
   if (const QLatin1String name = unsendableControl(character); !name.isEmpty()) return name;
-  if (character == QChar(0x85)) return QStringLiteral("NEL (next line)");
+  if (character == QChar(0x85)) return u"NEL (next line)"_s;
   const auto isSeen = [](char32_t point) { return QChar::isPrint(point) && !QChar::isSpace(point); };
   const auto points = character.toUcs4();
   if (std::any_of(points.begin(), points.end(), isSeen)) return character;
-  return QStringLiteral("U+") + QString::number(points.front(), 16).toUpper().rightJustified(4, QChar(u'0'));
+  return u"U+"_s + QString::number(points.front(), 16).toUpper().rightJustified(4, QChar(u'0'));
 }
 
 }  // namespace

@@ -8,6 +8,8 @@
 
 namespace parlexo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QString withSeparator(const QString& folder) {
@@ -47,8 +49,7 @@ bool AddressBook::saveContact(const ContactRecord& contact, bool writeToFile) {
                           timeoutSeconds))
     return unsaved_.remove(name) == 0 || writePendingMembers(name);
   if (isNew || unsaved_.contains(name)) unsaved_[name] = error;
-  showFailure(QStringLiteral("There was a problem trying to save your contact to the database. Error="),
-              error);
+  showFailure(u"There was a problem trying to save your contact to the database. Error="_s, error);
   return false;
 }
 
@@ -92,8 +93,7 @@ bool AddressBook::createGroup(const QString& name, const QStringList& memberName
     QString error;
     written = database_.createDb(error, folder_ + group.fileNames_.first());
     if (!written)
-      showFailure(QStringLiteral("There was a problem trying to create your group in the database Error="),
-                  error);
+      showFailure(u"There was a problem trying to create your group in the database Error="_s, error);
   }
   for (const QString& memberName : memberNames)
     if (findContact(memberName)) written = addMember(name, memberName, writeToFile) && written;
@@ -109,7 +109,7 @@ bool AddressBook::deleteGroup(const QString& name) {
   bool removed = true;
   for (const QString& fileName : fileNames) removed = database_.removeDb(folder_ + fileName) && removed;
   if (removed) return true;
-  showFailure(QStringLiteral("There was a problem trying to delete your group from the database"));
+  showFailure(u"There was a problem trying to delete your group from the database"_s);
   return false;
 }
 
@@ -127,7 +127,7 @@ bool AddressBook::writeMember(const GroupFile& group, const QString& contactName
   if (error.isEmpty() && database_.writeItem(error, nameWidth, folder_ + group.fileNames_.first(),
                                              memberRecordSize, packMember(contactName), timeoutSeconds))
     return true;
-  showFailure(QStringLiteral("There was a problem saving your contact to the database group. Error="), error);
+  showFailure(u"There was a problem saving your contact to the database group. Error="_s, error);
   return false;
 }
 
@@ -156,7 +156,7 @@ bool AddressBook::deleteName(const QString& path, const QByteArray& name, int re
 }
 
 void AddressBook::showDeletionFailure(const QString& error) {
-  showFailure(QStringLiteral("There was a problem deleting a contact from your database. Error="), error);
+  showFailure(u"There was a problem deleting a contact from your database. Error="_s, error);
 }
 
 void AddressBook::showFailure(const QString& sentence, const QString& error) {

@@ -16,6 +16,8 @@
 
 namespace parlexo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int contactsPerProgress = 20;
@@ -27,9 +29,8 @@ constexpr qint64 contactsToExpect = 1'000'000;
 constexpr int recheckTimeoutSeconds = 30;
 
 QString connectingProblem(const QString& error) {
-  return QStringLiteral(
-             "There was a problem connecting to the database. Please ensure you can connect to the database "
-             "storage location. Error=") +
+  return u"There was a problem connecting to the database. Please ensure you can connect to the database "
+         "storage location. Error="_s +
          error;
 }
 
@@ -54,14 +55,13 @@ void AddressBook::createPersonalGroup() {
   const QString path = folder_ + newGroupFileName(QLatin1String(personalContactsName));
   QString error;
   if (database_.createDb(error, path)) return;
-  notifier_.show(QStringLiteral("Can't create the personal contacts database: ") + path +
-                     QStringLiteral(" Error=") + error,
+  notifier_.show(u"Can't create the personal contacts database: "_s + path + u" Error="_s + error,
                  message_style::ok);
 }
 
 bool AddressBook::loadContacts(Progress& progress) {
-  progress.setText(QStringLiteral("Loading all Contacts..."));
-  const QString loadedText = QStringLiteral("Loading all Contacts (%i Loaded)...");
+  progress.setText(u"Loading all Contacts..."_s);
+  const QString loadedText = u"Loading all Contacts (%i Loaded)..."_s;
   int loaded = 0;
   contacts_.reserve(static_cast<std::size_t>(
       std::min(QFileInfo(contactsPath()).size() / contactRecordSize, contactsToExpect)));
@@ -89,7 +89,7 @@ bool AddressBook::loadGroup(const QString& fileName, Progress& progress) {
   const auto [entry, isFirstFile] = groups_.try_emplace(name, name, fileName);
   GroupFile& group = entry->second;
   if (!isFirstFile) group.fileNames_.append(fileName);
-  progress.setText(QStringLiteral("Loading Group \"%1\"...").arg(name));
+  progress.setText(u"Loading Group \"%1\"..."_s.arg(name));
   QSet<QByteArray> orphans;
   const auto add = [&](QByteArrayView record) {
     const QByteArray key = unpackMember(record);

@@ -6,6 +6,8 @@
 
 namespace parlexo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct Replacement {
@@ -52,8 +54,8 @@ QString groupNameAfterRestart(const QString& name) {
 }
 
 QString groupNameThatStays(const QString& name) {
-  static const QRegularExpression misread(QStringLiteral("-+(?=[1-9AB])"));
-  return QString(name).replace(misread, QStringLiteral(" ")).trimmed();
+  static const QRegularExpression misread(u"-+(?=[1-9AB])"_s);
+  return QString(name).replace(misread, u" "_s).trimmed();
 }
 
 }  // namespace parlexo

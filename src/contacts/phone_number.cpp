@@ -11,6 +11,8 @@
 
 namespace parlexo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using Problem = PhoneNumber::Problem;
@@ -55,8 +57,8 @@ bool isSlashDecoration(const QString& number, qsizetype slash) {
 
 QString bareNumber(QString number) {
   // Programs that hold a column of numbers as floating point write 61491570156.0.
-  static const QRegularExpression fraction(QStringLiteral(R"(^(\+?\d{7,})\.0$)"));
-  number = withoutDecoration(number.replace(fraction, QStringLiteral("\\1")));
+  static const QRegularExpression fraction(uR"(^(\+?\d{7,})\.0$)"_s);
+  number = withoutDecoration(number.replace(fraction, u"\\1"_s));
   const qsizetype slash = number.indexOf(u'/');
   if (isSlashDecoration(number, slash)) number.remove(slash, 1);
   return number;
@@ -67,7 +69,7 @@ bool isDigits(std::string_view text) {
 }
 
 bool isRounded(const QString& number) {
-  static const QRegularExpression pattern(QStringLiteral(R"(^\+?[\d,]+E\+\d+$)"));
+  static const QRegularExpression pattern(uR"(^\+?[\d,]+E\+\d+$)"_s);
   return pattern.match(number).hasMatch();
 }
 
@@ -137,22 +139,22 @@ QString textOfProblem(Problem problem, const QString& number, const QString& cal
     case Problem::Ambiguous:  // names the readings
       return {};
     case Problem::Rounded:
-      return QStringLiteral("A spreadsheet program has rounded the number.");
+      return u"A spreadsheet program has rounded the number."_s;
     case Problem::NoCallingCode:
-      return QStringLiteral("The number %1 has no country code.").arg(number);
+      return u"The number %1 has no country code."_s.arg(number);
     case Problem::UnknownCallingCode:
-      return QStringLiteral("The country code of the number %1 is not in use.").arg(number);
+      return u"The country code of the number %1 is not in use."_s.arg(number);
     case Problem::WrongLength:
-      return QStringLiteral("The number %1 has a wrong length.").arg(number);
+      return u"The number %1 has a wrong length."_s.arg(number);
     case Problem::NoReading:
-      return QStringLiteral("The number %1 is not valid in %2.").arg(number, callingCode);
+      return u"The number %1 is not valid in %2."_s.arg(number, callingCode);
   }
   Q_UNREACHABLE();
 }
 
 QString ambiguityText(const QString& number, const std::set<std::string>& readings) {
-  return QStringLiteral("The number %1 can be %2 or %3. Write it with a plus sign.")
-      .arg(number, international(*readings.begin()), international(*readings.rbegin()));
+  return u"The number %1 can be %2 or %3. Write it with a plus sign."_s.arg(
+      number, international(*readings.begin()), international(*readings.rbegin()));
 }
 
 }  // namespace

@@ -18,6 +18,8 @@
 
 namespace parlexo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int sampleContactCount = 60;
@@ -68,11 +70,10 @@ StatusLog earlierLog() {
   StatusLog log;
   int number = 1;
   for (const auto& message : earlierMessages) {
-    const QString receipt = QStringLiteral("DEMO-%1").arg(number++, 4, 10, QChar(u'0'));
+    const QString receipt = u"DEMO-%1"_s.arg(number++, 4, 10, QChar(u'0'));
     const QDateTime sent = now.addSecs(-3600LL * message.hoursAgo);
     log.add({QLatin1String(message.phone), receipt, QLatin1String(message.status),
-             QLatin1String(message.type),
-             QLocale::c().toString(sent, QStringLiteral("dd/MM/yyyy HH:mm:ss"))});
+             QLatin1String(message.type), QLocale::c().toString(sent, u"dd/MM/yyyy HH:mm:ss"_s)});
   }
   return log;
 }
@@ -86,18 +87,18 @@ class SilentNotifier final : public Notifier {
 
 Demo::Demo(const QString& dataFolder) : dataFolder_(dataFolder) {
   if (!dataFolder_.isEmpty()) return;
-  temporary_ = std::make_unique<QTemporaryDir>(QDir::temp().filePath(QStringLiteral("parlexo-demo-XXXXXX")));
+  temporary_ = std::make_unique<QTemporaryDir>(QDir::temp().filePath(u"parlexo-demo-XXXXXX"_s));
   dataFolder_ = temporary_->path();
 }
 
 Demo::~Demo() = default;
 
 QString Demo::user() {
-  return QStringLiteral("demo");
+  return u"demo"_s;
 }
 
 QString Demo::password() {
-  return QStringLiteral("demo1234");
+  return u"demo1234"_s;
 }
 
 QString Demo::site() const {
@@ -109,7 +110,7 @@ QString Demo::start() {
   simulator::Options options;
   // The second one belongs to the first and has no numbers of its own.
   options.accounts = {{user(), password(), 100.0, true, {}},
-                      {QStringLiteral("crew@") + user(), password(), 20.0, false, {}}};
+                      {u"crew@"_s + user(), password(), 20.0, false, {}}};
   simulator_ = std::make_unique<simulator::Simulator>(options);
   if (!simulator_->start()) return simulator_->errorText();
   rememberPayments();
@@ -139,7 +140,7 @@ QString Demo::fillTemplates() const {
   const TemplateFolder templates(folder.path());
   for (const auto& sample : sampleTemplates) {
     if (!templates.save(QLatin1String(sample.name), {{}, QLatin1String(sample.text)}))
-      return QStringLiteral("Can't write the template %1").arg(QLatin1String(sample.name));
+      return u"Can't write the template %1"_s.arg(QLatin1String(sample.name));
   }
   return {};
 }
@@ -152,7 +153,7 @@ QString Demo::fillStatusLog() {
     file.load(log, silent);
   } else {
     log = earlierLog();
-    if (!file.save(log)) return QStringLiteral("Can't write %1").arg(file.path());
+    if (!file.save(log)) return u"Can't write %1"_s.arg(file.path());
   }
   for (const auto& [receipt, entry] : log.entries()) simulator_->rememberReceipt(user(), receipt);
   return {};

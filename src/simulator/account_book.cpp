@@ -5,6 +5,8 @@
 
 namespace parlexo::simulator {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr std::size_t shownTransactions = 500;
@@ -19,11 +21,11 @@ QString plainField(QString text) {
 QString recordOf(const Transaction& transaction) {
   const QStringList fields = {
       QString::number(transaction.id),
-      transaction.date.toUTC().toString(QStringLiteral("dd/MM/yyyy HH:mm:ss")),
+      transaction.date.toUTC().toString(u"dd/MM/yyyy HH:mm:ss"_s),
       QString::number(toAmount(transaction.cents), 'f', 2),
       plainField(transaction.description),
   };
-  return fields.join(u'\t') + QStringLiteral("\r\n");
+  return fields.join(u'\t') + u"\r\n"_s;
 }
 
 }  // namespace

@@ -8,6 +8,8 @@
 
 namespace parlexo::simulator {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr quint16 defaultPort = 8080;
@@ -29,7 +31,7 @@ std::optional<int> readNumber(const QString& text, int least, int most) {
 QString readInto(std::chrono::milliseconds& target, const QString& value) {
   constexpr int most = 1'000'000'000;
   const std::optional<int> number = readNumber(value, 0, most);
-  if (!number) return QStringLiteral("needs a time in milliseconds");
+  if (!number) return u"needs a time in milliseconds"_s;
   target = std::chrono::milliseconds(*number);
   return {};
 }
@@ -37,18 +39,18 @@ QString readInto(std::chrono::milliseconds& target, const QString& value) {
 QString readPort(CommandLine& line, const QString& value) {
   constexpr int mostPort = 65535;
   const std::optional<int> port = readNumber(value, 0, mostPort);
-  if (!port) return QStringLiteral("needs a port from 0 to 65535");
+  if (!port) return u"needs a port from 0 to 65535"_s;
   line.options.port = static_cast<quint16>(*port);
   return {};
 }
 
 QString readAddress(CommandLine& line, const QString& value) {
-  return line.options.address.setAddress(value) ? QString() : QStringLiteral("needs an IP address");
+  return line.options.address.setAddress(value) ? QString() : u"needs an IP address"_s;
 }
 
 QString readAccount(CommandLine& line, const QString& value) {
   const QStringList words = value.split(u':');
-  QString wanted = QStringLiteral("needs USER:PASSWORD[:BALANCE[:nosenderid]]");
+  QString wanted = u"needs USER:PASSWORD[:BALANCE[:nosenderid]]"_s;
   constexpr qsizetype most = 4;
   if (words.size() < 2 || words.size() > most || words[0].isEmpty() || words[1].isEmpty()) return wanted;
   AccountOptions account{words[0], words[1], AccountOptions{}.balance, true, {}};
@@ -70,7 +72,7 @@ QString readFault(CommandLine& line, const QString& value) {
 QString readUploadRate(CommandLine& line, const QString& value) {
   constexpr int most = 1'000'000'000;
   const std::optional<int> rate = readNumber(value, 0, most);
-  if (!rate) return QStringLiteral("needs a number of bytes");
+  if (!rate) return u"needs a number of bytes"_s;
   line.options.uploadRate = *rate;
   return {};
 }
@@ -78,7 +80,7 @@ QString readUploadRate(CommandLine& line, const QString& value) {
 QString readProtocolVersion(CommandLine& line, const QString& value) {
   bool isNumber = false;
   line.options.protocolVersion = value.toInt(&isNumber);
-  return isNumber ? QString() : QStringLiteral("needs a number");
+  return isNumber ? QString() : u"needs a number"_s;
 }
 
 constexpr std::array optionRules = {
@@ -104,7 +106,7 @@ constexpr std::array optionRules = {
     OptionRule{"--client-version",
                [](CommandLine& line, const QString& value) {
                  line.options.clientVersion = value;
-                 return value.isEmpty() ? QStringLiteral("needs a version") : QString();
+                 return value.isEmpty() ? u"needs a version"_s : QString();
                }},
     OptionRule{"--protocol-version", readProtocolVersion},
 };
@@ -117,11 +119,11 @@ QString readOption(CommandLine& line, const QStringList& arguments, qsizetype& i
   const auto* rule =
       std::find_if(optionRules.begin(), optionRules.end(),
                    [&name](const OptionRule& candidate) { return name == QLatin1String(candidate.name); });
-  if (rule == optionRules.end()) return QStringLiteral("unknown option \"%1\"").arg(argument);
-  if (equals < 0 && index + 1 >= arguments.size()) return QStringLiteral("%1 needs a value").arg(name);
+  if (rule == optionRules.end()) return u"unknown option \"%1\""_s.arg(argument);
+  if (equals < 0 && index + 1 >= arguments.size()) return u"%1 needs a value"_s.arg(name);
   const QString value = equals < 0 ? arguments[++index] : argument.mid(equals + 1);
   const QString problem = rule->read(line, value);
-  return problem.isEmpty() ? QString() : QStringLiteral("%1 %2: %3").arg(name, value, problem);
+  return problem.isEmpty() ? QString() : u"%1 %2: %3"_s.arg(name, value, problem);
 }
 
 }  // namespace

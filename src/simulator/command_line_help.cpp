@@ -3,6 +3,8 @@
 
 namespace parlexo::simulator {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 const char usage[] =
@@ -61,9 +63,8 @@ Error codes
 QString helpText() {
   QString text = QString::fromLatin1(usage);
   for (int number = 0; number <= static_cast<int>(ResultCode::MessageTooLong); ++number)
-    text += QStringLiteral("  %1  %2\n")
-                .arg(number, 2)
-                .arg(QString::fromLatin1(meaningOf(static_cast<ResultCode>(number))));
+    text +=
+        u"  %1  %2\n"_s.arg(number, 2).arg(QString::fromLatin1(meaningOf(static_cast<ResultCode>(number))));
   return text;
 }
 

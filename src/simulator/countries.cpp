@@ -5,20 +5,16 @@
 
 namespace parlexo::simulator {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 const std::vector<Country>& countries() {
   // International prefixes as assigned by the telephone union.
   static const std::vector<Country> list = {
-      {QStringLiteral("Australia"), QStringLiteral("61")},
-      {QStringLiteral("China"), QStringLiteral("86")},
-      {QStringLiteral("France"), QStringLiteral("33")},
-      {QStringLiteral("Germany"), QStringLiteral("49")},
-      {QStringLiteral("Malaysia"), QStringLiteral("60")},
-      {QStringLiteral("New Zealand"), QStringLiteral("64")},
-      {QStringLiteral("Singapore"), QStringLiteral("65")},
-      {QStringLiteral("United Kingdom"), QStringLiteral("44")},
-      {QStringLiteral("United States"), QStringLiteral("1")},
+      {u"Australia"_s, u"61"_s}, {u"China"_s, u"86"_s},          {u"France"_s, u"33"_s},
+      {u"Germany"_s, u"49"_s},   {u"Malaysia"_s, u"60"_s},       {u"New Zealand"_s, u"64"_s},
+      {u"Singapore"_s, u"65"_s}, {u"United Kingdom"_s, u"44"_s}, {u"United States"_s, u"1"_s},
   };
   return list;
 }

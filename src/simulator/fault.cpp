@@ -9,6 +9,8 @@
 
 namespace parlexo::simulator {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 enum class Value { None, Number, OptionalText, Text };
@@ -36,9 +38,9 @@ constexpr std::array kindRules = {
     KindRule{FaultKind::BadLocator, "badlocator", Value::None, Place::Locator},
 };
 
-const QString anyOperation = QStringLiteral("any");
-const QString locatorDownload = QStringLiteral("locator");
-const QString versionQuery = QStringLiteral("getVersion");
+const QString anyOperation = u"any"_s;
+const QString locatorDownload = u"locator"_s;
+const QString versionQuery = u"getVersion"_s;
 
 const KindRule& ruleFor(FaultKind kind) {
   return *std::find_if(kindRules.begin(), kindRules.end(),
@@ -61,22 +63,22 @@ QString problemWithPlace(const Fault& fault) {
   const QString word = QString::fromLatin1(ruleFor(fault.kind).word);
   switch (ruleFor(fault.kind).place) {
     case Place::Connection:
-      if (fault.operation != anyOperation) return QStringLiteral("%1 goes with any only").arg(word);
+      if (fault.operation != anyOperation) return u"%1 goes with any only"_s.arg(word);
       return {};
     case Place::Operation:
-      if (fault.operation == locatorDownload) return QStringLiteral("%1 does not go with locator").arg(word);
+      if (fault.operation == locatorDownload) return u"%1 does not go with locator"_s.arg(word);
       if (fault.kind == FaultKind::Code && fault.operation == versionQuery)
-        return QStringLiteral("the answer of getVersion has no code");
+        return u"the answer of getVersion has no code"_s;
       return {};
     case Place::OperationWithText:
       if (fault.operation != anyOperation && !answersWithText(fault.operation))
-        return QStringLiteral("the answer of %1 has no text").arg(fault.operation);
+        return u"the answer of %1 has no text"_s.arg(fault.operation);
       return {};
     case Place::GetVersion:
-      if (fault.operation != versionQuery) return QStringLiteral("%1 goes with getVersion only").arg(word);
+      if (fault.operation != versionQuery) return u"%1 goes with getVersion only"_s.arg(word);
       return {};
     case Place::Locator:
-      if (fault.operation != locatorDownload) return QStringLiteral("%1 goes with locator only").arg(word);
+      if (fault.operation != locatorDownload) return u"%1 goes with locator only"_s.arg(word);
       return {};
     case Place::Anywhere:
       return {};
@@ -89,18 +91,18 @@ QString readValue(Fault& fault, const KindRule& rule, const std::optional<QStrin
   const QString word = QString::fromLatin1(rule.word);
   switch (rule.value) {
     case Value::None:
-      return value ? QStringLiteral("%1 takes no value").arg(word) : QString();
+      return value ? u"%1 takes no value"_s.arg(word) : QString();
     case Value::Number: {
       bool isNumber = false;
       fault.number = value.value_or(QString()).toInt(&isNumber);
-      return isNumber ? QString() : QStringLiteral("%1 needs a number: %1=N").arg(word);
+      return isNumber ? QString() : u"%1 needs a number: %1=N"_s.arg(word);
     }
     case Value::OptionalText:
       fault.text = value.value_or(QString());
       return {};
     case Value::Text:
       fault.text = value.value_or(QString());
-      return fault.text.isEmpty() ? QStringLiteral("%1 needs a text: %1=TEXT").arg(word) : QString();
+      return fault.text.isEmpty() ? u"%1 needs a text: %1=TEXT"_s.arg(word) : QString();
   }
   return {};
 }
@@ -111,7 +113,7 @@ QString readKind(Fault& fault, const QString& text) {
   const auto* rule = std::find_if(kindRules.begin(), kindRules.end(), [&word](const KindRule& candidate) {
     return word == QLatin1String(candidate.word);
   });
-  if (rule == kindRules.end()) return QStringLiteral("unknown kind of fault \"%1\"").arg(word);
+  if (rule == kindRules.end()) return u"unknown kind of fault \"%1\""_s.arg(word);
   fault.kind = rule->kind;
   return readValue(fault, *rule, equals < 0 ? std::nullopt : std::optional<QString>(text.mid(equals + 1)));
 }
@@ -132,9 +134,8 @@ const QStringList& operationNames() {
 QString problemWith(const Fault& fault) {
   if (fault.operation != anyOperation && fault.operation != locatorDownload &&
       !operationNames().contains(fault.operation))
-    return QStringLiteral("unknown operation \"%1\"").arg(fault.operation);
-  if (fault.kind == FaultKind::Late && fault.number < 0)
-    return QStringLiteral("late needs a time of 0 ms or more");
+    return u"unknown operation \"%1\""_s.arg(fault.operation);
+  if (fault.kind == FaultKind::Late && fault.number < 0) return u"late needs a time of 0 ms or more"_s;
   return problemWithPlace(fault);
 }
 
@@ -145,7 +146,7 @@ QString describe(const Fault& fault) {
     case Value::None:
       return word;
     case Value::Number:
-      return QStringLiteral("%1=%2").arg(word).arg(fault.number);
+      return u"%1=%2"_s.arg(word).arg(fault.number);
     case Value::OptionalText:
     case Value::Text:
       return fault.text.isEmpty() ? word : word + u'=' + fault.text;
@@ -163,7 +164,7 @@ ParsedFault parseFault(const QString& text) {
   }
   const qsizetype colon = rest.indexOf(u':');
   if (colon < 0) {
-    parsed.problem = QStringLiteral("expected OPERATION:KIND");
+    parsed.problem = u"expected OPERATION:KIND"_s;
     return parsed;
   }
   parsed.fault.operation = rest.left(colon);

@@ -6,9 +6,11 @@
 
 namespace parlexo::simulator {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-const QString defaultReason = QStringLiteral("The gateway is out of order");
+const QString defaultReason = u"The gateway is out of order"_s;
 
 }  // namespace
 

@@ -11,6 +11,8 @@
 
 namespace parlexo::simulator {
 
+using namespace Qt::StringLiterals;
+
 using namespace server;
 
 namespace {
@@ -30,21 +32,21 @@ QString sessionOf(const Request& request) {
 // The beginning of a token tells sessions apart; the whole of it would let a reader of the log take one over.
 QString sessionForLog(const QString& session) {
   constexpr qsizetype shown = 8;
-  return session.isEmpty() ? QString() : QStringLiteral(" (session %1)").arg(forLog(session.left(shown)));
+  return session.isEmpty() ? QString() : u" (session %1)"_s.arg(forLog(session.left(shown)));
 }
 
 template <class Response>
 QString outcomeForLog(const Response& response) {
   if constexpr (requires { response.nErrorCode; }) {
     const char* meaning = meaningOf(static_cast<ResultCode>(response.nErrorCode));
-    return QStringLiteral("code %1, %2").arg(response.nErrorCode).arg(QString::fromLatin1(meaning));
+    return u"code %1, %2"_s.arg(response.nErrorCode).arg(QString::fromLatin1(meaning));
   } else {
-    return QStringLiteral("version %1").arg(response.nVersion);
+    return u"version %1"_s.arg(response.nVersion);
   }
 }
 
 QString faultForLog(const std::optional<Fault>& fault) {
-  return fault ? QStringLiteral(" [fault: %1]").arg(forLog(describe(*fault))) : QString();
+  return fault ? u" [fault: %1]"_s.arg(forLog(describe(*fault))) : QString();
 }
 
 void replaceText(const protocol::Fields& fields, const char* text) {
@@ -88,7 +90,7 @@ HttpReply GatewayService::answer(const HttpRequest& request) {
 
 bool GatewayService::refusesConnection() {
   const bool refuses = with([](ServiceState& state) { return state.faults.refusesConnection(); });
-  if (refuses && options_.log) options_.log(QStringLiteral("connection refused [fault: refuse]"));
+  if (refuses && options_.log) options_.log(u"connection refused [fault: refuse]"_s);
   return refuses;
 }
 
@@ -101,7 +103,7 @@ HttpReply GatewayService::route(const HttpRequest& request) {
 }
 
 HttpReply GatewayService::answerLocator(const HttpRequest& request) {
-  const QString name = QStringLiteral("locator");
+  const QString name = u"locator"_s;
   state_.calls.push_back({name, {}});
   const std::optional<Fault> fault = state_.faults.forCall(name);
   note(name + faultForLog(fault));
@@ -118,7 +120,7 @@ HttpReply GatewayService::answerOperation(const HttpRequest& request) {
   return dispatchSoap(
       request, [this](const auto& operation, auto& reader) { return perform(operation, reader); },
       [this](const QString& name) {
-        note(QStringLiteral("refused a request that is not a valid call of \"%1\"").arg(forLog(name)));
+        note(u"refused a request that is not a valid call of \"%1\""_s.arg(forLog(name)));
       });
 }
 
@@ -129,7 +131,7 @@ HttpReply GatewayService::perform(const Operation& operation, protocol::RequestR
   const bool wellFormed = reader.read(request);
   state_.calls.push_back({name, sessionOf(request)});
   if (!wellFormed) {
-    note(name + QStringLiteral(": malformed request"));
+    note(name + u": malformed request"_s);
     return soapFaultReply("SOAP-ENV:Client", "The request is malformed");
   }
   const std::optional<Fault> fault = state_.faults.forCall(name);
@@ -141,8 +143,7 @@ HttpReply GatewayService::perform(const Operation& operation, protocol::RequestR
   typename Operation::Response response;
   Operations operations(state_.gateway);
   carryOut(operations, fault, request, response);
-  note(name + sessionForLog(sessionOf(request)) + QStringLiteral(": ") + outcomeForLog(response) +
-       faultForLog(fault));
+  note(name + sessionForLog(sessionOf(request)) + u": "_s + outcomeForLog(response) + faultForLog(fault));
   for (const QString& line : operations.remarks()) unwrittenLog_.append(line);
   if (fault && fault->kind == FaultKind::Text)
     replaceText(operation.fields(response), operations.keep(fault->text));
@@ -151,7 +152,7 @@ HttpReply GatewayService::perform(const Operation& operation, protocol::RequestR
 }
 
 void GatewayService::note(const QString& line) {
-  const QString time = state_.gateway.now().toString(QStringLiteral("yyyy-MM-dd HH:mm:ss"));
+  const QString time = state_.gateway.now().toString(u"yyyy-MM-dd HH:mm:ss"_s);
   unwrittenLog_.append(time + u' ' + line);
 }
 

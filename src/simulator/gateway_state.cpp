@@ -2,12 +2,14 @@
 
 namespace parlexo::simulator {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-const QString defaultNews = QStringLiteral(
-    "Welcome to the Parlexo gateway simulator.\r\n\r\n"
+const QString defaultNews =
+    u"Welcome to the Parlexo gateway simulator.\r\n\r\n"
     "Messages go nowhere, cost nothing real, and are printed in the simulator's log. "
-    "Numbers that end in 99 fail.");
+    "Numbers that end in 99 fail."_s;
 
 std::shared_ptr<const Clock> clockOf(const Options& options) {
   return options.clock ? options.clock : std::make_shared<SystemClock>();

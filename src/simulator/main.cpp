@@ -9,6 +9,8 @@
 #include "simulator/simulator.h"
 #include "simulator/stop_signals.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using parlexo::simulator::CommandLine;
@@ -25,15 +27,14 @@ int serve(const CommandLine& line) {
   parlexo::simulator::Simulator simulator(line.options);
   for (const auto& fault : line.faults) simulator.setFault(fault);
   if (!simulator.start()) {
-    print(stderr, QStringLiteral("parlexo-simulator: cannot listen on port %1: %2")
-                      .arg(line.options.port)
+    print(stderr, u"parlexo-simulator: cannot listen on port %1: %2"_s.arg(line.options.port)
                       .arg(simulator.errorText()));
     return 1;
   }
-  print(stdout, QStringLiteral("Gateway simulator at %1 (Ctrl+C ends it)").arg(simulator.site()));
+  print(stdout, u"Gateway simulator at %1 (Ctrl+C ends it)"_s.arg(simulator.site()));
   parlexo::simulator::waitForStopSignal();
   simulator.stop();
-  print(stdout, QStringLiteral("Ended after %1 messages").arg(simulator.messages().size()));
+  print(stdout, u"Ended after %1 messages"_s.arg(simulator.messages().size()));
   return 0;
 }
 
@@ -42,7 +43,7 @@ int runProgram(int argc, char** argv) {
   const QCoreApplication application(argc, argv);
   CommandLine line = parlexo::simulator::readCommandLine(QCoreApplication::arguments().mid(1));
   if (!line.problem.isEmpty()) {
-    print(stderr, QStringLiteral("parlexo-simulator: %1\nTry --help.").arg(line.problem));
+    print(stderr, u"parlexo-simulator: %1\nTry --help."_s.arg(line.problem));
     return usageError;
   }
   if (line.help) {
@@ -50,7 +51,7 @@ int runProgram(int argc, char** argv) {
     return 0;
   }
   if (line.version) {
-    print(stdout, QStringLiteral("parlexo-simulator %1").arg(QString::fromLatin1(parlexo::clientVersion)));
+    print(stdout, u"parlexo-simulator %1"_s.arg(QString::fromLatin1(parlexo::clientVersion)));
     return 0;
   }
   line.options.log = [](const QString& text) { print(stdout, text); };

@@ -7,6 +7,8 @@
 
 namespace parlexo::simulator {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr QByteArrayView unicodePrefix = "%%UNICODE%%";
@@ -70,7 +72,7 @@ QString forLog(const QString& text) {
     if (character == u'\n')
       line += u'⏎';
     else if (character.category() == QChar::Other_Control)
-      line += QStringLiteral("\\x%1").arg(character.unicode(), 2, 16, QLatin1Char('0'));
+      line += u"\\x%1"_s.arg(character.unicode(), 2, 16, QLatin1Char('0'));
     else
       line += character;
   }

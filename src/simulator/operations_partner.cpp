@@ -8,6 +8,8 @@
 
 namespace parlexo::simulator {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // What a partner charges his own customers, in proportion to what he pays.
@@ -81,9 +83,8 @@ void Operations::handle(const protocol::partnerAddEvent& request,
   } else if (!user) {
     response.nErrorCode = numberOf(ResultCode::BadUser);
   } else {
-    const QString description =
-        QStringLiteral("%1 %2: %3")
-            .arg(textOf(request.sEventType), textOf(request.sPackageType), textOf(request.sDescription));
+    const QString description = u"%1 %2: %3"_s.arg(textOf(request.sEventType), textOf(request.sPackageType),
+                                                   textOf(request.sDescription));
     state_.accounts.post(*user, toCents(request.dAmount), state_.now(), description);
   }
 }

@@ -10,6 +10,8 @@
 
 namespace parlexo::simulator {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr qsizetype longestDescription = 10240;
@@ -50,7 +52,7 @@ QString joinReceipts(const AcceptedMessage& message) {
 
 QString historyNote(const AcceptedMessage& message) {
   const qsizetype count = message.numbers.size();
-  const QString form = count == 1 ? QStringLiteral("%1 to %2 number") : QStringLiteral("%1 to %2 numbers");
+  const QString form = count == 1 ? u"%1 to %2 number"_s : u"%1 to %2 numbers"_s;
   return form.arg(wordFor(message.type)).arg(count);
 }
 
@@ -85,22 +87,21 @@ int fileLimit(const Options& options, MessageType type) {
 }  // namespace
 
 QDateTime readSchedule(const QString& text) {
-  static const QRegularExpression form(
-      QStringLiteral("\\A[0-9]{4}/[0-9]{2}/[0-9]{2} [0-9]{2}:[0-9]{2}:[0-9]{2}\\z"));
+  static const QRegularExpression form(u"\\A[0-9]{4}/[0-9]{2}/[0-9]{2} [0-9]{2}:[0-9]{2}:[0-9]{2}\\z"_s);
   if (!form.match(text).hasMatch()) return {};
-  QDateTime time = QDateTime::fromString(text, QStringLiteral("yyyy/MM/dd HH:mm:ss"));
+  QDateTime time = QDateTime::fromString(text, u"yyyy/MM/dd HH:mm:ss"_s);
   time.setTimeSpec(Qt::UTC);
   return time;
 }
 
 bool isSenderId(const QString& text) {
-  static const QRegularExpression number(QStringLiteral("\\A\\+?[0-9]{5,15}\\z"));
-  static const QRegularExpression name(QStringLiteral("\\A[A-Za-z0-9 ]{1,11}\\z"));
+  static const QRegularExpression number(u"\\A\\+?[0-9]{5,15}\\z"_s);
+  static const QRegularExpression name(u"\\A[A-Za-z0-9 ]{1,11}\\z"_s);
   return number.match(text).hasMatch() || (name.match(text).hasMatch() && !text.trimmed().isEmpty());
 }
 
 bool isUndeliverable(const QString& number) {
-  static const QRegularExpression form(QStringLiteral("\\A\\+[0-9]+\\z"));
+  static const QRegularExpression form(u"\\A\\+[0-9]+\\z"_s);
   return number.endsWith(QLatin1String("99")) || !form.match(number).hasMatch();
 }
 

@@ -5,27 +5,29 @@
 
 namespace parlexo::simulator {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-const QString notAccepted = QStringLiteral("Not accepted by gateway");
-const QString queued = QStringLiteral("Queued at gateway");
-const QString sent = QStringLiteral("Sent to network");
-const QString delivered = QStringLiteral("Delivered to handset");
+const QString notAccepted = u"Not accepted by gateway"_s;
+const QString queued = u"Queued at gateway"_s;
+const QString sent = u"Sent to network"_s;
+const QString delivered = u"Delivered to handset"_s;
 
 }  // namespace
 
 QString wordFor(MessageType type) {
   switch (type) {
     case MessageType::Sms:
-      return QStringLiteral("SMS");
+      return u"SMS"_s;
     case MessageType::Mms:
-      return QStringLiteral("MMS");
+      return u"MMS"_s;
     case MessageType::Fax:
-      return QStringLiteral("Fax");
+      return u"Fax"_s;
     case MessageType::Wap:
-      return QStringLiteral("WAP");
+      return u"WAP"_s;
     case MessageType::Voice:
-      return QStringLiteral("Voice");
+      return u"Voice"_s;
   }
   return {};
 }
@@ -51,7 +53,7 @@ void Outbox::remember(const QString& user, const QString& receipt) {
 }
 
 QString Outbox::nextReceipt() {
-  return QStringLiteral("%1-%2").arg(receiptPrefix_).arg(++lastReceipt_, 6, 10, QLatin1Char('0'));
+  return u"%1-%2"_s.arg(receiptPrefix_).arg(++lastReceipt_, 6, 10, QLatin1Char('0'));
 }
 
 const AcceptedMessage& Outbox::store(AcceptedMessage message) {

@@ -12,12 +12,14 @@
 
 namespace parlexo::simulator {
 
+using namespace Qt::StringLiterals;
+
 /// The service and the thread that serves it. The mutex guards starting and stopping; the service has its
 /// own.
 class Simulator::Engine {
  public:
   explicit Engine(const Options& options) : options_(options), service_(options) {
-    thread_.setObjectName(QStringLiteral("gateway simulator"));
+    thread_.setObjectName(u"gateway simulator"_s);
     // Without a context the call is made on the thread that finishes: the server must end where it lived.
     QObject::connect(&thread_, &QThread::finished, [this] { server_.reset(); });
   }
@@ -88,7 +90,7 @@ QString Simulator::Engine::site() const {
   // A gateway that listens everywhere is reached here by the loopback address.
   const bool everywhere = options_.address == QHostAddress::Any || options_.address == QHostAddress::AnyIPv4;
   const QHostAddress address = everywhere ? QHostAddress(QHostAddress::LocalHost) : options_.address;
-  return QStringLiteral("http://%1:%2").arg(server::hostText(address)).arg(port());
+  return u"http://%1:%2"_s.arg(server::hostText(address)).arg(port());
 }
 
 Simulator::Simulator(const Options& options) : engine_(std::make_unique<Engine>(options)) {}

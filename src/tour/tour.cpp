@@ -13,6 +13,8 @@
 
 namespace parlexo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int pollInterval = 50;       // ms between two looks for the next window
@@ -29,7 +31,7 @@ void print(const QString& line) {
 Tour::Tour(std::vector<TourStep> steps, const QString& folder) : steps_(std::move(steps)), folder_(folder) {}
 
 void Tour::start() {
-  if (!QDir().mkpath(folder_)) return fail(QStringLiteral("the folder %1 can't be made").arg(folder_));
+  if (!QDir().mkpath(folder_)) return fail(u"the folder %1 can't be made"_s.arg(folder_));
   waiting_.start();
   QTimer::singleShot(pollInterval, this, &Tour::waitForWindow);
 }
@@ -40,7 +42,7 @@ void Tour::waitForWindow() {
   if (QWidget* window = hands::windowInFront(step.window)) {
     QTimer::singleShot(settleTime, window, [this, window] { takeStep(window); });
   } else if (waiting_.elapsed() > longestWait) {
-    fail(QStringLiteral("the window \"%1\" did not come").arg(step.window));
+    fail(u"the window \"%1\" did not come"_s.arg(step.window));
   } else {
     QTimer::singleShot(pollInterval, this, &Tour::waitForWindow);
   }
@@ -48,21 +50,20 @@ void Tour::waitForWindow() {
 
 void Tour::takeStep(QWidget* window) {
   const TourStep& step = steps_[next_];
-  const QString file =
-      QStringLiteral("%1/%2-%3.png").arg(folder_).arg(next_ + 1, 2, 10, QChar(u'0')).arg(step.picture);
-  if (!window->grab().save(file)) return fail(QStringLiteral("the picture %1 can't be written").arg(file));
-  print(QStringLiteral("%1. %2  [%3]").arg(next_ + 1, 2).arg(step.account, file));
+  const QString file = u"%1/%2-%3.png"_s.arg(folder_).arg(next_ + 1, 2, 10, QChar(u'0')).arg(step.picture);
+  if (!window->grab().save(file)) return fail(u"the picture %1 can't be written"_s.arg(file));
+  print(u"%1. %2  [%3]"_s.arg(next_ + 1, 2).arg(step.account, file));
   ++next_;
   waiting_.restart();
   // Queued before acting: what is pressed may open a window and not return before that has closed.
   QTimer::singleShot(pollInterval, this, &Tour::waitForWindow);
-  if (!step.act(window)) fail(QStringLiteral("\"%1\" lacks what this step needs").arg(step.window));
+  if (!step.act(window)) fail(u"\"%1\" lacks what this step needs"_s.arg(step.window));
 }
 
 void Tour::fail(const QString& why) {
   failed_ = true;
   next_ = steps_.size();
-  print(QStringLiteral("The tour ended early: ") + why);
+  print(u"The tour ended early: "_s + why);
   QApplication::closeAllWindows();
   QCoreApplication::exit(1);
 }

@@ -14,6 +14,8 @@
 
 namespace parlexo::hands {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QString withoutMnemonic(QString text) {
@@ -81,7 +83,7 @@ bool toggle(QWidget* window, const QString& boxText) {
   for (auto* box : window->findChildren<QCheckBox*>()) {
     if (box->text() != boxText || !box->isVisible() || !box->isEnabled()) continue;
     box->setFocus();
-    pressKey(box, Qt::Key_Space, QStringLiteral(" "));
+    pressKey(box, Qt::Key_Space, u" "_s);
     return true;
   }
   return false;
@@ -104,7 +106,7 @@ bool tick(QWidget* window, const QString& list, const QString& name) {
     if (named.data().toString() != name) continue;
     view->setFocus();
     view->setCurrentIndex(named.siblingAtColumn(0));
-    pressKey(view, Qt::Key_Space, QStringLiteral(" "));
+    pressKey(view, Qt::Key_Space, u" "_s);
     return true;
   }
   return false;
@@ -132,7 +134,7 @@ QString readList(QWidget* window, const QString& list, int column) {
   for (int row = 0; view && row < view->model()->rowCount(view->rootIndex()); ++row) {
     cells += view->model()->index(row, column, view->rootIndex()).data().toString();
   }
-  return cells.join(QStringLiteral(", "));
+  return cells.join(u", "_s);
 }
 
 }  // namespace parlexo::hands

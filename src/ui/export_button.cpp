@@ -9,19 +9,21 @@
 
 namespace parlexo {
 
+using namespace Qt::StringLiterals;
+
 QString askForCsvPath(QWidget* parent, const QString& suggestedName) {
-  QFileDialog dialog(parent, QStringLiteral("Export"),
+  QFileDialog dialog(parent, u"Export"_s,
                      QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
   dialog.setAcceptMode(QFileDialog::AcceptSave);
-  dialog.setNameFilters({QStringLiteral("CSV files (*.csv)"), QStringLiteral("All files (*)")});
-  dialog.setDefaultSuffix(QStringLiteral("csv"));
-  dialog.selectFile(suggestedName + QStringLiteral(".csv"));
+  dialog.setNameFilters({u"CSV files (*.csv)"_s, u"All files (*)"_s});
+  dialog.setDefaultSuffix(u"csv"_s);
+  dialog.selectFile(suggestedName + u".csv"_s);
   return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
 }
 
 ExportButton::ExportButton(const RecordTable& table, Notifier& notifier, QWidget* parent)
-    : PictureButton(QStringLiteral("E&xport..."), parent), table_(table), notifier_(notifier) {
-  setObjectName(QStringLiteral("exportButton"));
+    : PictureButton(u"E&xport..."_s, parent), table_(table), notifier_(notifier) {
+  setObjectName(u"exportButton"_s);
   const auto followRows = [this] { setEnabled(table_.model()->rowCount() > 0); };
   connect(table.model(), &QAbstractItemModel::modelReset, this, followRows);
   followRows();

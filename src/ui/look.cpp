@@ -17,6 +17,8 @@ static void loadResources() {
 
 namespace parlexo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr qreal smallestPointSize = 9;
@@ -65,14 +67,14 @@ QIcon programIcon() {
   loadResources();
   QIcon icon;
   for (const int size : {16, 24, 32, 48, 64, 128, 256}) {
-    icon.addFile(QStringLiteral(":/icons/parlexo-client-%1.png").arg(size), QSize(size, size));
+    icon.addFile(u":/icons/parlexo-client-%1.png"_s.arg(size), QSize(size, size));
   }
   return icon;
 }
 
 QSize dialogUnits(const QWidget& widget, int width, int height) {
   const QFontMetricsF metrics(widget.font(), &widget);
-  const QString letters = QStringLiteral("ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz");
+  const QString letters = u"ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz"_s;
   const qreal averageWidth = metrics.horizontalAdvance(letters) / qreal(letters.size());
   return {qRound(width * averageWidth / 4), qRound(height * metrics.height() / 8)};
 }

@@ -13,6 +13,8 @@
 
 namespace parlexo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int itemPadding = 4;  // pixels that a list's row is higher than its text
@@ -60,7 +62,7 @@ QColor focusColor(const QStyleOption& option) {
 
 }  // namespace
 
-LookStyle::LookStyle() : QProxyStyle(QStyleFactory::create(QStringLiteral("Fusion"))) {}
+LookStyle::LookStyle() : QProxyStyle(QStyleFactory::create(u"Fusion"_s)) {}
 
 void LookStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                               const QWidget* widget) const {

@@ -8,6 +8,8 @@
 
 namespace parlexo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 constexpr int captionGap = 6;
 }  // namespace
@@ -17,8 +19,7 @@ SearchField::SearchField(const QString& hint, QAbstractItemView& list, QWidget* 
   setPlaceholderText(hint);
   setAccessibleName(hint);
   setClearButtonEnabled(true);
-  if (auto* clearButton = findChild<QToolButton*>())
-    clearButton->setAccessibleName(QStringLiteral("Clear search"));
+  if (auto* clearButton = findChild<QToolButton*>()) clearButton->setAccessibleName(u"Clear search"_s);
 }
 
 void SearchField::keyPressEvent(QKeyEvent* event) {

@@ -7,6 +7,9 @@
 #include "base/unsendable_characters.h"
 
 namespace parlexo {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // As many as a narrow page has room for; the rest is an ellipsis.
@@ -17,7 +20,7 @@ QString hintOf(QStringList characters) {
   const bool isCut = characters.size() > mostCharactersShown;
   characters = characters.mid(0, mostCharactersShown);
   if (isCut) characters.append(QString(QChar(u'\u2026')));
-  return QStringLiteral("Will be sent as \"?\":  ") + characters.join(QStringLiteral("  "));
+  return u"Will be sent as \"?\":  "_s + characters.join(u"  "_s);
 }
 
 bool isPassword(const QLineEdit* field) {
@@ -27,7 +30,7 @@ bool isPassword(const QLineEdit* field) {
 }  // namespace
 
 UnsendableHint::UnsendableHint(QWidget* parent) : QLabel(parent) {
-  setObjectName(QStringLiteral("unsendableCharacters"));
+  setObjectName(u"unsendableCharacters"_s);
   setTextFormat(Qt::PlainText);
   // A long list is cut off; it must not widen the window.
   setMinimumSize(1, fontMetrics().lineSpacing());
@@ -51,7 +54,7 @@ void UnsendableHint::tellOf(const QList<QLineEdit*>& fields) {
   if (std::any_of(fields.begin(), fields.end(), [](const QLineEdit* field) {
         return isPassword(field) && !unsendableCharacters(field->text()).isEmpty();
       }))
-    characters.prepend(QStringLiteral("characters of the password"));
+    characters.prepend(u"characters of the password"_s);
   showHint(characters);
 }
 

@@ -4,8 +4,10 @@
 
 namespace parlexo {
 
+using namespace Qt::StringLiterals;
+
 bool isWebAddress(const QUrl& page) {
-  const bool isWeb = page.scheme() == QStringLiteral("https") || page.scheme() == QStringLiteral("http");
+  const bool isWeb = page.scheme() == u"https"_s || page.scheme() == u"http"_s;
   return page.isValid() && isWeb && !page.host().isEmpty();
 }
 

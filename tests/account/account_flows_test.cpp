@@ -33,14 +33,13 @@ TEST(HistoryText, becomesARecordForEveryLineThatHasEnded) {
 }
 
 TEST(HistoryDate, isOrderedByTimeWhereItHasTheUsualForm) {
-  const QStringList inOrder = {u"31/12/2025 23:59:59"_qs, u"01/01/2026 00:00:00"_qs,
-                               u"01/01/2026 00:00:01"_qs, u"01/01/2026 00:01:00"_qs,
-                               u"01/01/2026 01:00:00"_qs, u"02/01/2026 00:00:00"_qs,
-                               u"01/02/2026 00:00:00"_qs};
+  const QStringList inOrder = {u"31/12/2025 23:59:59"_s, u"01/01/2026 00:00:00"_s, u"01/01/2026 00:00:01"_s,
+                               u"01/01/2026 00:01:00"_s, u"01/01/2026 01:00:00"_s, u"02/01/2026 00:00:00"_s,
+                               u"01/02/2026 00:00:00"_s};
   for (int i = 1; i < inOrder.size(); ++i)
     EXPECT_LT(historyDateOrder(inOrder[i - 1]), historyDateOrder(inOrder[i])) << i;
   EXPECT_TRUE(historyDateOrder(inOrder[0]));
-  for (const auto& other : {u"2026-01-01"_qs, u"1/1/2026 10:00:00"_qs, u"01/01/2026 10:00:0x"_qs, QString()})
+  for (const auto& other : {u"2026-01-01"_s, u"1/1/2026 10:00:00"_s, u"01/01/2026 10:00:0x"_s, QString()})
     EXPECT_FALSE(historyDateOrder(other)) << other.toStdString();
 }
 
@@ -48,12 +47,12 @@ class AccountHistory : public testing::Test, protected AccountRig {};
 
 TEST_F(AccountHistory, arrivesFieldByFieldOverTheWire) {
   const QDateTime date({2026, 1, 2}, {3, 4, 5}, Qt::UTC);
-  simulator.rememberTransaction("demo", -0.05, date, u"SMS <to> Zoë & 1 €"_qs);
+  simulator.rememberTransaction("demo", -0.05, date, u"SMS <to> Zoë & 1 €"_s);
   simulator.rememberTransaction("demo", 100, date.addDays(1), QString());
   const auto records = AccountHistoryFlow(services()).load();
   ASSERT_TRUE(records);
   EXPECT_THAT(*records,
-              ElementsAre(HistoryRecord{"1", "02/01/2026 03:04:05", "-0.05", u"SMS <to> Zoë & 1 €"_qs},
+              ElementsAre(HistoryRecord{"1", "02/01/2026 03:04:05", "-0.05", u"SMS <to> Zoë & 1 €"_s},
                           HistoryRecord{"2", "03/01/2026 03:04:05", "100.00", ""}));
   EXPECT_THAT(journal, ElementsAre("(box)", "(no box)"));
 }
@@ -81,7 +80,7 @@ TEST_F(EmailPreferencesTest, everySettingArrivesInItsOwnPlaceAndComesBack) {
   // Each flag alone: the two that change places between loading and saving would go unnoticed together.
   for (int flag = 0; flag < 4; ++flag) {
     EmailPreferences wanted{.isEnabled = true,
-                            .identityCode = QStringLiteral("Zoë & <1>"),
+                            .identityCode = u"Zoë & <1>"_s,
                             .splitsLongSms = flag == 0,
                             .stopsAtDoubleLine = flag == 1,
                             .stopsAtEndKeyword = flag == 2,
@@ -119,8 +118,7 @@ TEST_F(EmailPreferencesTest, failedSaveIsToldByWhatFailed) {
 class News : public testing::Test, protected AccountRig {};
 
 TEST_F(News, needNoSessionAndAreUnchanged) {
-  const QString odd =
-      QStringLiteral("<b>50 % off</b> & more\r\n\r\n€ ]]> caf\u00e9 \u0100 \U0001F600 \"quoted\"");
+  const QString odd = u"<b>50 % off</b> & more\r\n\r\n€ ]]> caf\u00e9 \u0100 \U0001F600 \"quoted\""_s;
   simulator.setNews(odd);
   state.session.clear();
   auto* worker = new SteppingWorker;
@@ -145,7 +143,7 @@ TEST_F(News, needNoSessionAndAreUnchanged) {
 std::string marked(const char* news) {
   QString text;
   for (const NewsPart& part : newsParts(QString::fromUtf8(news)))
-    text += part.page.isEmpty() ? part.text : QStringLiteral("[%1]").arg(part.text);
+    text += part.page.isEmpty() ? part.text : u"[%1]"_s.arg(part.text);
   return text.toStdString();
 }
 

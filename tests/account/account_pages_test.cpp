@@ -22,11 +22,11 @@ using testing::ElementsAre;
 class HistoryPage : public testing::Test, protected AccountRig {
  protected:
   void remember(double amount, const QDate& day) {
-    simulator.rememberTransaction("demo", amount, QDateTime(day, {12, 0}, Qt::UTC), u"note"_qs);
+    simulator.rememberTransaction("demo", amount, QDateTime(day, {12, 0}, Qt::UTC), u"note"_s);
   }
   void open() {
     page_ = std::make_unique<CAccountHistoryDlg>(services());
-    list_ = page_->findChild<RecordTable*>(u"historyList"_qs);
+    list_ = page_->findChild<RecordTable*>(u"historyList"_s);
     page_->resize(700, 300);
     page_->show();
   }
@@ -52,7 +52,7 @@ TEST_F(HistoryPage, refreshShowsWhatIsNewAndAFailureKeepsTheRows) {
   page_->refresh();
   EXPECT_THAT(column(0), ElementsAre("1"));
   remember(1, {2026, 1, 2});
-  auto* button = page_->findChild<PictureButton*>(u"refreshButton"_qs);
+  auto* button = page_->findChild<PictureButton*>(u"refreshButton"_s);
   QTest::mouseClick(button, Qt::LeftButton);
   EXPECT_THAT(column(2), ElementsAre("-5.00", "1.00"));
   misbehave(FaultKind::Code, "getAccountHistory", 3);
@@ -66,7 +66,7 @@ TEST_F(HistoryPage, showsNothingOfTheUserWhoWasLoggedInBefore) {
   open();
   page_->hide();
   misbehave(FaultKind::Code, "getAccountHistory", 3);
-  state.userName = u"other"_qs;
+  state.userName = u"other"_s;
   page_->show();
   EXPECT_TRUE(QTest::qWaitFor([this] { return column(0).isEmpty(); }));
   EXPECT_EQ(operations().size(), 2);
@@ -84,7 +84,7 @@ TEST_F(HistoryPage, headingsSortNumbersByValueAndDatesByTime) {
 }
 
 TEST(NewsDlg, showsMarkupAsTextAndOpensWebAddressesByKeyboard) {
-  const QString news = u"<img src='file:///etc/hostname'> see https://a.example/x and javascript:alert(1)"_qs;
+  const QString news = u"<img src='file:///etc/hostname'> see https://a.example/x and javascript:alert(1)"_s;
   CNewsDlg dialog(news);
   QList<QUrl> opened;
   dialog.setOpener([&opened](const QUrl& page) {
@@ -93,17 +93,17 @@ TEST(NewsDlg, showsMarkupAsTextAndOpensWebAddressesByKeyboard) {
   });
   dialog.open();
   ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
-  auto* text = dialog.findChild<QTextBrowser*>(u"news"_qs);
+  auto* text = dialog.findChild<QTextBrowser*>(u"news"_s);
   EXPECT_EQ(text->toPlainText(), news);
   text->setFocus();
   QTest::keyClick(text, Qt::Key_Tab);
   QTest::keyClick(text, Qt::Key_Return);
-  EXPECT_EQ(opened, QList<QUrl>({QUrl(u"https://a.example/x"_qs)}));
+  EXPECT_EQ(opened, QList<QUrl>({QUrl(u"https://a.example/x"_s)}));
   EXPECT_TRUE(dialog.isVisible()) << "Enter followed the link";
   EXPECT_EQ(text->toPlainText(), news) << "the page is not loaded into the dialog";
-  Q_EMIT text->anchorClicked(QUrl(u"file:///etc/passwd"_qs));
+  Q_EMIT text->anchorClicked(QUrl(u"file:///etc/passwd"_s));
   EXPECT_EQ(opened.size(), 1);
-  QTest::keyClick(dialog.findChild<QWidget*>(u"ok"_qs), Qt::Key_Return);
+  QTest::keyClick(dialog.findChild<QWidget*>(u"ok"_s), Qt::Key_Return);
   EXPECT_FALSE(dialog.isVisible());
 }
 
@@ -118,22 +118,22 @@ QStringList visibleTexts(const QWidget& page) {
 
 TEST(ReceiveMessagesPage, showsTheNumbersOfWhoeverIsLoggedIn) {
   RunState state;
-  state.userName = u"demo"_qs;
+  state.userName = u"demo"_s;
   CReceiveMessagesDlg page(state);
   page.show();
   const QStringList texts = visibleTexts(page);
-  EXPECT_EQ(texts.count(u"demo"_qs), 3);
-  EXPECT_EQ(texts.count(u"@"_qs), 3);
+  EXPECT_EQ(texts.count(u"demo"_s), 3);
+  EXPECT_EQ(texts.count(u"@"_s), 3);
   for (const auto& each : receivingNumbers) EXPECT_TRUE(texts.contains(QLatin1String(each.number)));
 
   // Another user logs in after the session has expired.
   page.hide();
-  state.userName = u"crew@demo"_qs;
+  state.userName = u"crew@demo"_s;
   page.show();
   EXPECT_EQ(
       visibleTexts(page),
       QStringList({u"If your parent account has been assigned a dedicated number then it is possible for "
-                   "you to receive replies to your SMS.\r\nEmail Parlexo for further information."_qs}));
+                   "you to receive replies to your SMS.\r\nEmail Parlexo for further information."_s}));
 }
 
 }  // namespace

@@ -35,7 +35,7 @@ class SettingsPage : public testing::Test, protected AccountRig {
   }
   [[nodiscard]] QStringList enabledControls() const {
     QStringList names;
-    for (const auto* control : page_->findChild<QWidget*>(u"emailPanel"_qs)->findChildren<QWidget*>())
+    for (const auto* control : page_->findChild<QWidget*>(u"emailPanel"_s)->findChildren<QWidget*>())
       if (control->isEnabled() && control->focusPolicy() != Qt::NoFocus) names << control->objectName();
     return names;
   }
@@ -67,15 +67,15 @@ TEST_F(SettingsPage, incompletePreferencesLeadToWhatMayMiss) {
   box("emailFilter").click();
   QTest::keyClick(&edit("identityCode"), Qt::Key_Return);
   EXPECT_TRUE(edit("emailAddress1").hasFocus());
-  edit("emailAddress1").setText(u"日本@a.example"_qs);
+  edit("emailAddress1").setText(u"日本@a.example"_s);
   press("saveChangesButton");
   EXPECT_EQ(notifier.shown.back().style, message_style::information);
-  EXPECT_EQ(edit("emailAddress1").text(), u"??@a.example"_qs) << "as the gateway has it";
-  EXPECT_EQ(simulator.emailPreferences("demo").address1, u"??@a.example"_qs);
+  EXPECT_EQ(edit("emailAddress1").text(), u"??@a.example"_s) << "as the gateway has it";
+  EXPECT_EQ(simulator.emailPreferences("demo").address1, u"??@a.example"_s);
 }
 
 TEST_F(SettingsPage, refreshLoadsWhatStartUpMissedButKeepsWhatIsTyped) {
-  ASSERT_EQ(EmailPreferencesFlow(services()).save({.identityCode = u"held"_qs}), EmailSaveOutcome::Saved);
+  ASSERT_EQ(EmailPreferencesFlow(services()).save({.identityCode = u"held"_s}), EmailSaveOutcome::Saved);
   notifier.shown.clear();
   for (const auto& [kind, code] : {std::pair(FaultKind::Code, 7), {FaultKind::HttpError, 0}}) {
     simulator.clearFaults();
@@ -86,14 +86,14 @@ TEST_F(SettingsPage, refreshLoadsWhatStartUpMissedButKeepsWhatIsTyped) {
   EXPECT_THAT(notifier.takeTexts(), IsEmpty());
   simulator.clearFaults();
   page_->refresh();
-  EXPECT_EQ(edit("identityCode").text(), u"held"_qs);
-  edit("identityCode").setText(u"typed"_qs);
+  EXPECT_EQ(edit("identityCode").text(), u"held"_s);
+  edit("identityCode").setText(u"typed"_s);
   page_->refresh();
-  EXPECT_EQ(edit("identityCode").text(), u"typed"_qs);
+  EXPECT_EQ(edit("identityCode").text(), u"typed"_s);
   page_->hide();
-  state.userName = u"other"_qs;
+  state.userName = u"other"_s;
   page_->show();
-  EXPECT_TRUE(QTest::qWaitFor([this] { return edit("identityCode").text() == u"held"_qs; }))
+  EXPECT_TRUE(QTest::qWaitFor([this] { return edit("identityCode").text() == u"held"_s; }))
       << "what another user has typed does not stay";
 }
 
@@ -105,7 +105,7 @@ TEST_F(SettingsPage, passwordsStayAfterAFailureAndGoOnceTheyHaveServed) {
     QTest::keyClicks(&edit(field), "newer567");
   }
   QTest::keyClick(&edit("retypedPassword"), Qt::Key_Return);
-  EXPECT_EQ(edit("newPassword").text(), u"newer567"_qs);
+  EXPECT_EQ(edit("newPassword").text(), u"newer567"_s);
   EXPECT_TRUE(edit("oldPassword").hasFocus());
   QTest::keyClicks(&edit("oldPassword"), "demo1234");  // takes the place of the selected wrong one
   press("changePasswordButton");
@@ -129,7 +129,7 @@ TEST_F(SettingsPage, chosenFolderIsKeptForTheNextStartAndWarnedOf) {
   EXPECT_EQ(Settings(folder.path()).templatesFolder(), chosen_);
   EXPECT_EQ(asked_.value(1), before) << "the search begins there";
   EXPECT_EQ(notifier.shown.at(1).style, message_style::exclamation);
-  EXPECT_TRUE(notifier.shown.at(1).text.contains(u"Contacts. You must exit application"_qs));
+  EXPECT_TRUE(notifier.shown.at(1).text.contains(u"Contacts. You must exit application"_s));
 }
 
 }  // namespace

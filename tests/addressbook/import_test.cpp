@@ -11,6 +11,9 @@
 #include "tests/support/file_bytes.h"
 
 namespace parlexo {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using testing::ElementsAre;
@@ -61,7 +64,7 @@ class ContactImportTest : public test::DiskBook {
 
   [[nodiscard]] QString describe(const QString& name) const {
     const ContactRecord* contact = book_.findContact(name);
-    if (!contact) return QStringLiteral("none");
+    if (!contact) return u"none"_s;
     QStringList fields = {contact->name,          contact->phone, contact->supportsSms,
                           contact->supportsMedia, contact->fax,   contact->email};
     for (const QString& extra : contact->extra) fields << extra;

@@ -29,24 +29,24 @@ class LoginDlgTest : public RunTest {
 };
 
 TEST_F(LoginDlgTest, refusedPasswordKeepsItOpenForAnotherTryByEnter) {
-  CLoginDlg dialog(flow, u"demo"_qs);
+  CLoginDlg dialog(flow, u"demo"_s);
   dialog.open();
   ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
-  auto* password = dialog.findChild<QLineEdit*>(u"password"_qs);
+  auto* password = dialog.findChild<QLineEdit*>(u"password"_s);
   EXPECT_TRUE(password->hasFocus());
   EXPECT_EQ(password->echoMode(), QLineEdit::Password);
 
-  QTest::keyClicks(password, u"wrong"_qs);
+  QTest::keyClicks(password, u"wrong"_s);
   QTest::keyClick(password, Qt::Key_Return);
   EXPECT_TRUE(dialog.isVisible());
   EXPECT_EQ(journal.size(), 1);
   EXPECT_EQ(password->selectedText().size(), 5);
 
-  QTest::keyClicks(password, u"demo1234"_qs);
+  QTest::keyClicks(password, u"demo1234"_s);
   QTest::keyClick(password, Qt::Key_Return);
   EXPECT_EQ(dialog.result(), QDialog::Accepted);
   EXPECT_FALSE(dialog.isVisible());
-  EXPECT_EQ(state.userName, u"demo"_qs);
+  EXPECT_EQ(state.userName, u"demo"_s);
   password->undo();
   EXPECT_EQ(password->text(), QString()) << "wiped, and not to be had back";
 }
@@ -55,12 +55,12 @@ TEST_F(LoginDlgTest, firstStartBeginsWithTheUserNameAndCanBeCancelled) {
   CLoginDlg dialog(flow, {});
   dialog.open();
   ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
-  EXPECT_TRUE(dialog.findChild<QLineEdit*>(u"userName"_qs)->hasFocus());
-  EXPECT_EQ(dialog.windowTitle(), u"Parlexo(TM) : Login v2.24"_qs);
-  QTest::mouseClick(dialog.findChild<QAbstractButton*>(u"cancel"_qs), Qt::LeftButton);
+  EXPECT_TRUE(dialog.findChild<QLineEdit*>(u"userName"_s)->hasFocus());
+  EXPECT_EQ(dialog.windowTitle(), u"Parlexo(TM) : Login v2.24"_s);
+  QTest::mouseClick(dialog.findChild<QAbstractButton*>(u"cancel"_s), Qt::LeftButton);
   EXPECT_FALSE(dialog.isVisible());
   EXPECT_EQ(dialog.result(), QDialog::Rejected);
-  EXPECT_THAT(simulator.calledOperations(), testing::ElementsAre(u"locator"_qs));
+  EXPECT_THAT(simulator.calledOperations(), testing::ElementsAre(u"locator"_s));
 }
 
 }  // namespace

@@ -54,13 +54,13 @@ class MainDlgTest : public testing::Test {
     QTest::keyClick(window_.focusWidget() ? window_.focusWidget() : &window_, Qt::Key_E, Qt::AltModifier);
   }
 
-  CMainDlg window_{{{u"SMS"_qs, [] { return pageWithButton(u"S&end >"_qs); }},
-                    {u"Status"_qs, [] { return pageWithButton(u"Get &Status"_qs); }}}};
+  CMainDlg window_{{{u"SMS"_s, [] { return pageWithButton(u"S&end >"_s); }},
+                    {u"Status"_s, [] { return pageWithButton(u"Get &Status"_s); }}}};
 };
 
 TEST_F(MainDlgTest, ctrlTabAndCtrlDigitsTurnTheTabsFromAnywhere) {
   const auto* tabs = window_.findChild<QTabWidget*>();
-  auto* exit = window_.findChild<QWidget*>(u"exit"_qs);
+  auto* exit = window_.findChild<QWidget*>(u"exit"_s);
   exit->setFocus();
   for (const int expected : {1, 0}) {
     QTest::keyClick(exit, Qt::Key_Tab, Qt::ControlModifier);
@@ -81,7 +81,7 @@ TEST_F(MainDlgTest, f5RefreshesTheBalanceAndThePageInFront) {
   };
   auto* front = new Page;
   auto* behind = new Page;
-  CMainDlg window({{u"A"_qs, [front] { return front; }}, {u"B"_qs, [behind] { return behind; }}});
+  CMainDlg window({{u"A"_s, [front] { return front; }}, {u"B"_s, [behind] { return behind; }}});
   QSignalSpy requests(&window, &CMainDlg::refreshRequested);
   window.show();
   ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
@@ -92,32 +92,32 @@ TEST_F(MainDlgTest, f5RefreshesTheBalanceAndThePageInFront) {
 }
 
 TEST_F(MainDlgTest, balanceIsGreyUntilTheNextAnswer) {
-  const auto* balance = window_.findChild<QLineEdit*>(u"balance"_qs);
+  const auto* balance = window_.findChild<QLineEdit*>(u"balance"_s);
   const QColor current = balance->palette().color(QPalette::Text);
-  window_.setBalance(u"7.50"_qs);
+  window_.setBalance(u"7.50"_s);
   window_.markBalanceOutdated();
-  EXPECT_EQ(balance->text(), u"7.50"_qs);
+  EXPECT_EQ(balance->text(), u"7.50"_s);
   EXPECT_NE(balance->palette().color(QPalette::Text), current);
   EXPECT_FALSE(balance->accessibleDescription().isEmpty());
-  window_.setBalance(u"7.50"_qs);
+  window_.setBalance(u"7.50"_s);
   EXPECT_EQ(balance->palette().color(QPalette::Text), current);
   EXPECT_TRUE(balance->accessibleDescription().isEmpty());
 }
 
 TEST_F(MainDlgTest, aPageLargerThanTheWindowCanStillBeReached) {
   const auto makePage = [] {
-    auto* page = pageWithButton(u"Near"_qs);
+    auto* page = pageWithButton(u"Near"_s);
     page->setMinimumSize(3000, 3000);
-    auto* far = new PictureButton(u"Far"_qs, page);
-    far->setObjectName(u"far"_qs);
+    auto* far = new PictureButton(u"Far"_s, page);
+    far->setObjectName(u"far"_s);
     far->move(2900, 2900);
     return page;
   };
-  CMainDlg window({{u"A"_qs, makePage}});
+  CMainDlg window({{u"A"_s, makePage}});
   window.show();
   window.resize(600, 400);
   EXPECT_EQ(window.size(), QSize(600, 400));
-  const auto* far = window.findChild<PictureButton*>(u"far"_qs);
+  const auto* far = window.findChild<PictureButton*>(u"far"_s);
   EXPECT_TRUE(far->visibleRegion().isEmpty());
   ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
   for (int i = 0; i < 2; ++i) QTest::keyClick(window.focusWidget(), Qt::Key_Tab);
@@ -128,12 +128,12 @@ TEST_F(MainDlgTest, aPageLargerThanTheWindowCanStillBeReached) {
 TEST_F(MainDlgTest, aPageThatCanShrinkDoesNotScroll) {
   auto* page = new QWidget;
   auto* column = new QVBoxLayout(page);
-  auto* words = new QLabel(QString(u"words "_qs).repeated(20), page);
+  auto* words = new QLabel(QString(u"words "_s).repeated(20), page);
   words->setWordWrap(true);
   auto* list = new QListView(page);
   column->addWidget(words);
   column->addWidget(list);
-  CMainDlg window({{u"A"_qs, [page] { return page; }}});
+  CMainDlg window({{u"A"_s, [page] { return page; }}});
   window.show();
   ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
   window.resize(600, window.height() - page->height() + page->minimumSizeHint().height() + 30);
@@ -156,7 +156,7 @@ TEST_F(MainDlgTest, onlyExitCtrlQAndTheCloseBoxEndIt) {
   window_.close();
   EXPECT_FALSE(window_.isVisible());
   window_.show();
-  QTest::mouseClick(window_.findChild<QWidget*>(u"exit"_qs), Qt::LeftButton);
+  QTest::mouseClick(window_.findChild<QWidget*>(u"exit"_s), Qt::LeftButton);
   EXPECT_FALSE(window_.isVisible());
 }
 
@@ -166,7 +166,7 @@ TEST_F(MainDlgTest, altESendsOnSendPagesAndExitsElsewhere) {
   altE();
   EXPECT_TRUE(QTest::qWaitFor([&] { return sent.count() == 1; }));
   EXPECT_TRUE(window_.isVisible());
-  window_.openTab(u"Status"_qs);
+  window_.openTab(u"Status"_s);
   altE();
   EXPECT_TRUE(QTest::qWaitFor([&] { return !window_.isVisible(); }));
   EXPECT_EQ(sent.count(), 1);
@@ -181,14 +181,14 @@ TEST_F(MainDlgTest, aboutOpensOverTheMainWindowWhichIsNoModalDialog) {
     if (!about) return;
     EXPECT_EQ(about->parentWidget(), &window_);
     EXPECT_EQ(frontWindow(), about);
-    versions << about->findChild<QLabel*>(u"version"_qs)->text().section(u'\n', 0, 0);
+    versions << about->findChild<QLabel*>(u"version"_s)->text().section(u'\n', 0, 0);
     about->close();
   };
   QTimer::singleShot(0, &window_, lookAtAbout);
   QTest::keyClick(&window_, Qt::Key_F1);
   QTimer::singleShot(0, &window_, lookAtAbout);
-  QTest::mouseClick(window_.findChild<HyperlinkLabel*>(u"about"_qs), Qt::LeftButton);
-  EXPECT_EQ(versions, QStringList({u"Parlexo Client v2.24"_qs, u"Parlexo Client v2.24"_qs}));
+  QTest::mouseClick(window_.findChild<HyperlinkLabel*>(u"about"_s), Qt::LeftButton);
+  EXPECT_EQ(versions, QStringList({u"Parlexo Client v2.24"_s, u"Parlexo Client v2.24"_s}));
 }
 
 /// Closes the messages about a gateway that is not there: pages ask it as they are made, and before the
@@ -233,19 +233,19 @@ TEST_F(MainTabsTest, pagesTellEachOtherWhatWasSent) {
   auto* sms = window_.findChild<CQuillonSMSDlg*>();
   const auto* type = tabs->widget(7)->findChild<QComboBox*>();
 
-  Q_EMIT sms->messageSent(u"Fax"_qs);
-  EXPECT_EQ(type->currentText(), u"Fax"_qs);
+  Q_EMIT sms->messageSent(u"Fax"_s);
+  EXPECT_EQ(type->currentText(), u"Fax"_s);
   EXPECT_EQ(tabs->currentIndex(), 0);
 
-  Q_EMIT sms->statusRequested(u"SMS"_qs);
-  EXPECT_EQ(type->currentText(), u"SMS"_qs);
-  EXPECT_EQ(tabs->tabText(tabs->currentIndex()), u"Status"_qs);
+  Q_EMIT sms->statusRequested(u"SMS"_s);
+  EXPECT_EQ(type->currentText(), u"SMS"_s);
+  EXPECT_EQ(tabs->tabText(tabs->currentIndex()), u"Status"_s);
 }
 
 TEST_F(MainTabsTest, pagesAreFilledInTheirOrderThenComeBalanceAndNews) {
   simulator::Simulator simulator;
   ASSERT_TRUE(simulator.start());
-  state_.gateway.endpoint = simulator.site() + u"/ccx/onlineCommunication"_qs;
+  state_.gateway.endpoint = simulator.site() + u"/ccx/onlineCommunication"_s;
   bool hasRead = false;
   QTimer user;
   QObject::connect(&user, &QTimer::timeout, &user, [&hasRead] {
@@ -265,23 +265,23 @@ TEST_F(MainTabsTest, pagesAreFilledInTheirOrderThenComeBalanceAndNews) {
 
 TEST_F(MainTabsTest, balanceIsFetchedAnewForAnotherUserOnly) {
   simulator::Options options;
-  options.accounts.push_back({u"ann"_qs, u"secret"_qs, 7.5, true, {}});
+  options.accounts.push_back({u"ann"_s, u"secret"_s, 7.5, true, {}});
   simulator::Simulator simulator(options);
   ASSERT_TRUE(simulator.start());
-  state_.gateway.endpoint = simulator.site() + u"/ccx/onlineCommunication"_qs;
+  state_.gateway.endpoint = simulator.site() + u"/ccx/onlineCommunication"_s;
   QStringList balances;
-  QStringList users{u"demo"_qs, u"demo1234"_qs, u"demo"_qs, u"demo1234"_qs, u"ann"_qs, u"secret"_qs};
+  QStringList users{u"demo"_s, u"demo1234"_s, u"demo"_s, u"demo1234"_s, u"ann"_s, u"secret"_s};
   QTimer user;
   QObject::connect(&user, &QTimer::timeout, &user, [&] {
     QWidget* front = frontWindow();
     if (auto* news = qobject_cast<CNewsDlg*>(front)) {
       news->accept();
     } else if (auto* login = qobject_cast<CLoginDlg*>(front)) {
-      login->findChild<QLineEdit*>(u"userName"_qs)->setText(users.takeFirst());
-      login->findChild<QLineEdit*>(u"password"_qs)->setText(users.takeFirst());
-      login->findChild<QAbstractButton*>(u"logIn"_qs)->click();
+      login->findChild<QLineEdit*>(u"userName"_s)->setText(users.takeFirst());
+      login->findChild<QLineEdit*>(u"password"_s)->setText(users.takeFirst());
+      login->findChild<QAbstractButton*>(u"logIn"_s)->click();
     } else if (auto* window = qobject_cast<CMainDlg*>(front)) {
-      balances << window->findChild<QLineEdit*>(u"balance"_qs)->text();
+      balances << window->findChild<QLineEdit*>(u"balance"_s)->text();
       if (users.isEmpty()) return window->accept();
       // Not from here: a timer does not go off while it is being heard.
       QTimer::singleShot(0, window, [this] { windows_.logInAgain(); });
@@ -290,8 +290,8 @@ TEST_F(MainTabsTest, balanceIsFetchedAnewForAnotherUserOnly) {
   user.start(10);
   ASSERT_TRUE(windows_.logIn());
   windows_.runMainWindow();
-  EXPECT_EQ(balances, QStringList({u"100.00"_qs, u"100.00"_qs, u"7.50"_qs}));
-  EXPECT_EQ(simulator.calledOperations().count(u"getAccountBalance"_qs), 2);
+  EXPECT_EQ(balances, QStringList({u"100.00"_s, u"100.00"_s, u"7.50"_s}));
+  EXPECT_EQ(simulator.calledOperations().count(u"getAccountBalance"_s), 2);
 }
 
 TEST_F(MainTabsTest, windowIsFoundAgainWhereItWasLeft) {

@@ -42,7 +42,7 @@ class NewsAnnouncementTest : public testing::Test {
     });
     user.start(10);
     clock.start();
-    announcement_.announce(u"Hello"_qs);
+    announcement_.announce(u"Hello"_s);
     (void)QTest::qWaitFor([&] { return openedAfter >= 0 && !dialog(); }, 5000);
     return openedAfter;
   }
@@ -65,7 +65,7 @@ TEST_F(NewsAnnouncementTest, comesAtOnceForAUserWhoOnlyLooksOn) {
 TEST_F(NewsAnnouncementTest, waitsForAPauseAndLeavesWhatIsTypedInTheFields) {
   auto* next = new QLineEdit;
   window_.layout()->addWidget(next);
-  QTest::keyClicks(field_, u"Dear"_qs);
+  QTest::keyClicks(field_, u"Dear"_s);
   QTimer typist;
   int keys = 0;
   QObject::connect(&typist, &QTimer::timeout, &typist, [&] {
@@ -82,8 +82,8 @@ TEST_F(NewsAnnouncementTest, waitsForAPauseAndLeavesWhatIsTypedInTheFields) {
     QTest::keyClick(news.windowHandle(), Qt::Key_Z);
   });
   EXPECT_GE(openedAfter, 2400);
-  EXPECT_EQ(field_->text(), u"Dearaaaaac "_qs);
-  EXPECT_EQ(next->text(), u"1"_qs);
+  EXPECT_EQ(field_->text(), u"Dearaaaaac "_s);
+  EXPECT_EQ(next->text(), u"1"_s);
 }
 
 TEST_F(NewsAnnouncementTest, closesByEscapeAtOnce) {
@@ -95,7 +95,7 @@ TEST_F(NewsAnnouncementTest, closesByEscapeAtOnce) {
 
 TEST_F(NewsAnnouncementTest, waitsUntilMenusAndDialogsAreClosed) {
   QMenu menu;
-  menu.addAction(u"Paste"_qs);
+  menu.addAction(u"Paste"_s);
   menu.popup(window_.pos());
   GradientDialog question(&window_);
   QTimer::singleShot(300, &menu, [&] {

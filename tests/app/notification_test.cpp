@@ -38,7 +38,7 @@ class NotificationTest : public testing::Test {
   }
 
   static void press(CNotificationDlg& dialog, MessageResult result) {
-    QTest::mouseClick(dialog.findChild<QAbstractButton*>(u"button%1"_qs.arg(static_cast<int>(result))),
+    QTest::mouseClick(dialog.findChild<QAbstractButton*>(u"button%1"_s.arg(static_cast<int>(result))),
                       Qt::LeftButton);
   }
 
@@ -124,7 +124,7 @@ TEST_F(NotificationTest, messageThatCannotBeSuppressedHasNoCheckBox) {
 
 TEST_F(NotificationTest, longListScrollsAndIsCopiedByCtrlC) {
   QString list = "The following numbers failed:";
-  for (int i = 0; i < 10'000; ++i) list += u"\n+61491%1"_qs.arg(570000 + i);
+  for (int i = 0; i < 10'000; ++i) list += u"\n+61491%1"_s.arg(570000 + i);
   CNotificationDlg dialog(list, message_style::ok, false);
   dialog.show();
   ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));

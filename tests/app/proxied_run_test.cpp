@@ -24,7 +24,7 @@ using ::testing::ElementsAre;
 
 bool listensOn(int port) {
   QTcpSocket socket;
-  socket.connectToHost(QStringLiteral("127.0.0.1"), static_cast<quint16>(port));
+  socket.connectToHost(u"127.0.0.1"_s, static_cast<quint16>(port));
   return socket.waitForConnected(200);
 }
 
@@ -32,12 +32,12 @@ bool listensOn(int port) {
 class TinyProxy {
  public:
   TinyProxy() {
-    const QString settings = QStringLiteral(
-        "Port %1\nListen 127.0.0.1\nAllow 127.0.0.1\nTimeout 20\nMaxClients 20\n"
-        "BasicAuth mary s3cret-word\nLogLevel Info\nLogFile \"%2\"\n");
-    const QString config = writeBytes(folder_.filePath(u"tinyproxy.conf"_qs),
-                                      settings.arg(port_).arg(folder_.filePath(u"log"_qs)).toUtf8());
-    process_.start(u"tinyproxy"_qs, {u"-d"_qs, u"-c"_qs, config});
+    const QString settings =
+        u"Port %1\nListen 127.0.0.1\nAllow 127.0.0.1\nTimeout 20\nMaxClients 20\n"
+        "BasicAuth mary s3cret-word\nLogLevel Info\nLogFile \"%2\"\n"_s;
+    const QString config = writeBytes(folder_.filePath(u"tinyproxy.conf"_s),
+                                      settings.arg(port_).arg(folder_.filePath(u"log"_s)).toUtf8());
+    process_.start(u"tinyproxy"_s, {u"-d"_s, u"-c"_s, config});
     if (!process_.waitForStarted()) return;
     const QDeadlineTimer deadline(10'000);
     while (!listensOn(port_) && !process_.waitForFinished(20) && !deadline.hasExpired()) {
@@ -57,7 +57,7 @@ class TinyProxy {
   /// The request lines that its log shows, in order, such as "GET http://127.0.0.1:80/x HTTP/1.1"; refused
   /// ones too.
   [[nodiscard]] QStringList requests() const {
-    static const QRegularExpression line(QStringLiteral("Request \\(file descriptor \\d+\\): (.*)"));
+    static const QRegularExpression line(u"Request \\(file descriptor \\d+\\): (.*)"_s);
     QStringList requests;
     for (const auto& match : line.globalMatch(log())) requests << match.captured(1);
     return requests;
@@ -65,11 +65,11 @@ class TinyProxy {
   /// How many of the requests it kept to itself for want of the right login.
   [[nodiscard]] qsizetype refusals() const {
     // A refusal leaves no line of its own; what was let through is connected to its server.
-    return requests().size() - log().count(QStringLiteral("opensock: opening connection to"));
+    return requests().size() - log().count(u"opensock: opening connection to"_s);
   }
 
  private:
-  [[nodiscard]] QString log() const { return QString::fromUtf8(readBytes(folder_.filePath(u"log"_qs))); }
+  [[nodiscard]] QString log() const { return QString::fromUtf8(readBytes(folder_.filePath(u"log"_s))); }
 
   QTemporaryDir folder_;
   QProcess process_;
@@ -82,7 +82,7 @@ class JournalProxyLogin final : public ProxyLogin {
   explicit JournalProxyLogin(Journal& journal) : journal_(journal) {}
 
   std::optional<ProxySettings> ask() override {
-    journal_ << u"proxy login"_qs;
+    journal_ << u"proxy login"_s;
     return entered;
   }
 
@@ -98,11 +98,11 @@ class ProxiedRun : public RunTest {
   void SetUp() override {
     RunTest::SetUp();
     ASSERT_TRUE(proxy.isRunning());
-    system->configured = u"127.0.0.1:%1"_qs.arg(proxy.port());
+    system->configured = u"127.0.0.1:%1"_s.arg(proxy.port());
   }
 
-  [[nodiscard]] ProxySettings mary(const QString& password = u"s3cret-word"_qs) const {
-    return {.password = password, .user = u"mary"_qs, .host = u"127.0.0.1"_qs, .port = proxy.port()};
+  [[nodiscard]] ProxySettings mary(const QString& password = u"s3cret-word"_s) const {
+    return {.password = password, .user = u"mary"_s, .host = u"127.0.0.1"_s, .port = proxy.port()};
   }
 
   bool search() { return search(QUrl(simulator.site())); }
@@ -110,18 +110,18 @@ class ProxiedRun : public RunTest {
     const ServerLocator locator(
         site, {.transfer = std::chrono::seconds(5), .retryDelay = std::chrono::milliseconds(1)});
     // Asked for another host, because a proxy is never asked for by settings for one of this machine.
-    const ProxyDiscovery discovery(QUrl(u"http://www.parlexo.invalid"_qs), runner, system);
+    const ProxyDiscovery discovery(QUrl(u"http://www.parlexo.invalid"_s), runner, system);
     return GatewaySearch({locator, discovery, runner, progress, login}).run(state);
   }
 
   [[nodiscard]] QString locatorRequest() const {
-    return u"GET %1/WSDLServerLocator.xml HTTP/1.1"_qs.arg(simulator.site());
+    return u"GET %1/WSDLServerLocator.xml HTTP/1.1"_s.arg(simulator.site());
   }
   [[nodiscard]] QString soapRequest() const {
-    return u"POST %1/ccx/onlineCommunication HTTP/1.1"_qs.arg(simulator.site());
+    return u"POST %1/ccx/onlineCommunication HTTP/1.1"_s.arg(simulator.site());
   }
 
-  const Journal asked = {u"progress hidden"_qs, u"proxy login"_qs, u"progress "_qs};
+  const Journal asked = {u"progress hidden"_s, u"proxy login"_s, u"progress "_s};
   TinyProxy proxy;
   std::shared_ptr<FakeProxySystem> system = std::make_shared<FakeProxySystem>();
   JournalProxyLogin login{journal};
@@ -134,11 +134,11 @@ TEST_F(ProxiedRun, rightLoginCarriesEveryCallButTheLast) {
   EXPECT_THAT(proxy.requests(), ElementsAre(locatorRequest(), locatorRequest()));
   EXPECT_EQ(proxy.refusals(), 1);
 
-  ASSERT_EQ(LoginFlow(state, settings, gateway, notifier).attempt(u"demo"_qs, u"demo1234"_qs),
+  ASSERT_EQ(LoginFlow(state, settings, gateway, notifier).attempt(u"demo"_s, u"demo1234"_s),
             LoginOutcome::Accepted);
   EXPECT_EQ(proxy.requests().mid(2), QStringList({soapRequest()}));
   shutDown(state, stores, progress, runner);
-  EXPECT_THAT(simulator.calledOperations(), ElementsAre(u"locator"_qs, u"sessionStart"_qs, u"sessionEnd"_qs));
+  EXPECT_THAT(simulator.calledOperations(), ElementsAre(u"locator"_s, u"sessionStart"_s, u"sessionEnd"_s));
   EXPECT_EQ(proxy.requests().size(), 3);
   EXPECT_EQ(proxy.refusals(), 1);
 }
@@ -149,12 +149,12 @@ TEST_F(ProxiedRun, wrongLoginFailsAfterOneQuestion) {
     ProxySettings entered;
     qsizetype requests;
   } cases[] = {
-      {"wrong password", mary(u"wrong"_qs), 2},
-      {"no host", {.password = u"s3cret-word"_qs, .user = u"mary"_qs, .host = {}, .port = proxy.port()}, 1},
+      {"wrong password", mary(u"wrong"_s), 2},
+      {"no host", {.password = u"s3cret-word"_s, .user = u"mary"_s, .host = {}, .port = proxy.port()}, 1},
       {"another proxy",
-       {.password = u"s3cret-word"_qs,
-        .user = u"mary"_qs,
-        .host = u"127.0.0.1"_qs,
+       {.password = u"s3cret-word"_s,
+        .user = u"mary"_s,
+        .host = u"127.0.0.1"_s,
         .port = testing::closedPort()},
        1},
   };
@@ -183,12 +183,12 @@ TEST_F(ProxiedRun, proxyWithoutALoginCarriesTheCallsThatTheSettingsSendThroughIt
   const std::string locator = testing::httpReply(
       "<?xml version=\"1.0\"?>\n<server ip=\"gateway.invalid\" port=\"8080\" maxfilesize=\"1\" "
       "maxfilesizemobile=\"1\">\n<version product=\"client\" version=\"2.24\"/>\n");
-  for (const QString& excepted : {u""_qs, u"gateway.invalid"_qs}) {
+  for (const QString& excepted : {u""_s, u"gateway.invalid"_s}) {
     testing::FakeGateway open(locator);
-    system->configured = u"http=127.0.0.1:%1;socks=127.0.0.1:1"_qs.arg(open.port());
+    system->configured = u"http=127.0.0.1:%1;socks=127.0.0.1:1"_s.arg(open.port());
     system->excepted = excepted;
     state = {};
-    ASSERT_TRUE(search(QUrl(u"http://www.parlexo.invalid"_qs)));
+    ASSERT_TRUE(search(QUrl(u"http://www.parlexo.invalid"_s)));
     EXPECT_EQ(state.proxy.host.isEmpty(), !excepted.isEmpty());
     open.setAnswer(testing::httpReply(
         testing::envelope("<m:getVersionResponse><nVersion>103</nVersion></m:getVersionResponse>")));
@@ -214,7 +214,7 @@ TEST_F(ProxiedRun, proxyThatIsGoneFailsTheSearchAndEveryCall) {
         return client.getVersion(response);
       });
   EXPECT_FALSE(reply.answered());
-  EXPECT_THAT(simulator.calledOperations(), ElementsAre(u"locator"_qs));
+  EXPECT_THAT(simulator.calledOperations(), ElementsAre(u"locator"_s));
 }
 
 }  // namespace

@@ -22,7 +22,7 @@ class BalanceCheckTest : public RunTest {
   void SetUp() override {
     RunTest::SetUp();
     ASSERT_TRUE(locate());
-    state.session = u"token"_qs;
+    state.session = u"token"_s;
   }
 
   QString run() { return BalanceCheck(state, gateway, notifier, progress).run(); }
@@ -30,20 +30,20 @@ class BalanceCheckTest : public RunTest {
 
 TEST_F(BalanceCheckTest, amountIsShownAndJudged) {
   const Journal nothing;
-  const Journal low = {u"progress hidden"_qs, u"message 0x40 146 "_qs + text(TextId::BalanceLow)};
-  const Journal zero = {u"progress hidden"_qs, u"message 0x40 147 "_qs + text(TextId::BalanceZero)};
+  const Journal low = {u"progress hidden"_s, u"message 0x40 146 "_s + text(TextId::BalanceLow)};
+  const Journal zero = {u"progress hidden"_s, u"message 0x40 147 "_s + text(TextId::BalanceZero)};
   const struct {
     double balance;
     QString shown;
     Journal told;
     bool isZero;
-  } amounts[] = {{100.0, u"100.00"_qs, nothing, false},
-                 {2.0, u"2.00"_qs, nothing, false},
-                 {1.999, u"2.00"_qs, low, false},
-                 {0.01, u"0.01"_qs, low, false},
-                 {0.0, u"0.00"_qs, zero, true},
-                 {-3.5, u"-3.50"_qs, zero, true},
-                 {1e15, u"1000000000000000.00"_qs, nothing, false}};
+  } amounts[] = {{100.0, u"100.00"_s, nothing, false},
+                 {2.0, u"2.00"_s, nothing, false},
+                 {1.999, u"2.00"_s, low, false},
+                 {0.01, u"0.01"_s, low, false},
+                 {0.0, u"0.00"_s, zero, true},
+                 {-3.5, u"-3.50"_s, zero, true},
+                 {1e15, u"1000000000000000.00"_s, nothing, false}};
   for (const auto& [balance, shown, told, isZero] : amounts) {
     state.balanceIsZero = false;
     journal.clear();
@@ -54,28 +54,28 @@ TEST_F(BalanceCheckTest, amountIsShownAndJudged) {
 }
 
 TEST_F(BalanceCheckTest, refusalIsPassedOverInSilenceAndALostGatewayIsReported) {
-  setFault(FaultKind::Code, u"getAccountBalance"_qs, 7);
+  setFault(FaultKind::Code, u"getAccountBalance"_s, 7);
   EXPECT_EQ(run(), QString());
   EXPECT_EQ(journal, Journal());
   simulator.clearFaults();
-  setFault(FaultKind::Cut, u"getAccountBalance"_qs);
+  setFault(FaultKind::Cut, u"getAccountBalance"_s);
   EXPECT_EQ(run(), QString());
-  EXPECT_EQ(journal, Journal({u"progress hidden"_qs, unreachableMessage}));
+  EXPECT_EQ(journal, Journal({u"progress hidden"_s, unreachableMessage}));
   EXPECT_FALSE(state.balanceIsZero);
 }
 
 TEST_F(BalanceCheckTest, checkWarnsAndRefreshIsQuietAndSetsTheZeroFlagForGood) {
-  ASSERT_EQ(LoginFlow(state, settings, gateway, notifier).attempt(u"demo"_qs, u"demo1234"_qs),
+  ASSERT_EQ(LoginFlow(state, settings, gateway, notifier).attempt(u"demo"_s, u"demo1234"_s),
             LoginOutcome::Accepted);
-  ASSERT_TRUE(simulator.setBalance(u"demo"_qs, 1.25));
-  EXPECT_EQ(run(), u"1.25"_qs);
+  ASSERT_TRUE(simulator.setBalance(u"demo"_s, 1.25));
+  EXPECT_EQ(run(), u"1.25"_s);
   EXPECT_EQ(journal.size(), 2) << "it is low";
   journal.clear();
   BalanceCheck check(state, gateway, notifier, progress);
   const std::tuple<double, QString, bool> steps[] = {
-      {1.5, u"1.50"_qs, false}, {0.0, u"0.00"_qs, true}, {50.0, u"50.00"_qs, true}};
+      {1.5, u"1.50"_s, false}, {0.0, u"0.00"_s, true}, {50.0, u"50.00"_s, true}};
   for (const auto& [balance, shown, isZero] : steps) {
-    ASSERT_TRUE(simulator.setBalance(u"demo"_qs, balance));
+    ASSERT_TRUE(simulator.setBalance(u"demo"_s, balance));
     EXPECT_EQ(check.refresh(), shown);
     EXPECT_EQ(state.balanceIsZero, isZero);
   }
@@ -91,9 +91,9 @@ class LoginFlowTest : public RunTest {
   void SetUp() override {
     RunTest::SetUp();
     ASSERT_TRUE(locate());
-    settings.setRememberedUser(u"earlier"_qs);
-    state.session = u"old token"_qs;
-    state.userName = u"old user"_qs;
+    settings.setRememberedUser(u"earlier"_s);
+    state.session = u"old token"_s;
+    state.userName = u"old user"_s;
   }
 
   LoginOutcome attempt(const QString& user, const QString& password) {
@@ -101,24 +101,24 @@ class LoginFlowTest : public RunTest {
   }
 
   void expectNothingStored() {
-    EXPECT_EQ(state.session, u"old token"_qs);
-    EXPECT_EQ(state.userName, u"old user"_qs);
-    EXPECT_EQ(settings.rememberedUser(), u"earlier"_qs);
+    EXPECT_EQ(state.session, u"old token"_s);
+    EXPECT_EQ(state.userName, u"old user"_s);
+    EXPECT_EQ(settings.rememberedUser(), u"earlier"_s);
   }
 };
 
 TEST_F(LoginFlowTest, acceptedLoginReplacesSessionAndIsRemembered) {
-  EXPECT_EQ(attempt(u"demo"_qs, u"demo1234"_qs), LoginOutcome::Accepted);
+  EXPECT_EQ(attempt(u"demo"_s, u"demo1234"_s), LoginOutcome::Accepted);
   EXPECT_FALSE(state.session.isEmpty());
-  EXPECT_NE(state.session, u"old token"_qs);
-  EXPECT_EQ(state.userName, u"demo"_qs);
-  EXPECT_EQ(settings.rememberedUser(), u"demo"_qs);
+  EXPECT_NE(state.session, u"old token"_s);
+  EXPECT_EQ(state.userName, u"demo"_s);
+  EXPECT_EQ(settings.rememberedUser(), u"demo"_s);
   EXPECT_EQ(journal, Journal());
 }
 
 TEST_F(LoginFlowTest, acceptanceWithoutTokenClosesTheDialogAndStoresNothing) {
-  setFault(FaultKind::Code, u"sessionStart"_qs, 0);
-  EXPECT_EQ(attempt(u"demo"_qs, u"demo1234"_qs), LoginOutcome::Accepted);
+  setFault(FaultKind::Code, u"sessionStart"_s, 0);
+  EXPECT_EQ(attempt(u"demo"_s, u"demo1234"_s), LoginOutcome::Accepted);
   expectNothingStored();
   EXPECT_EQ(journal, Journal());
 }
@@ -129,15 +129,15 @@ TEST_F(LoginFlowTest, refusalIsShownAndStoresNothing) {
     int number;
     QString message;
   } refusals[] = {
-      {FaultKind::Code, 4, u"message 0x10 0 Invalid Username or Password. Passwords are case sensitive"_qs},
-      {FaultKind::Code, 12, u"message 0x10 0 An error occured while logging on. Error code: 12"_qs},
+      {FaultKind::Code, 4, u"message 0x10 0 Invalid Username or Password. Passwords are case sensitive"_s},
+      {FaultKind::Code, 12, u"message 0x10 0 An error occured while logging on. Error code: 12"_s},
       {FaultKind::Cut, 0, unreachableMessage},
   };
   for (const auto& [kind, number, message] : refusals) {
     simulator.clearFaults();
     journal.clear();
-    setFault(kind, u"sessionStart"_qs, number, u"reason"_qs);
-    EXPECT_EQ(attempt(u"demo"_qs, u"demo1234"_qs), LoginOutcome::Refused);
+    setFault(kind, u"sessionStart"_s, number, u"reason"_s);
+    EXPECT_EQ(attempt(u"demo"_s, u"demo1234"_s), LoginOutcome::Refused);
     EXPECT_THAT(journal, ElementsAre(message));
     expectNothingStored();
   }
@@ -146,11 +146,11 @@ TEST_F(LoginFlowTest, refusalIsShownAndStoresNothing) {
 const QString locatorMessage =
     u"message 0x10 0 Could not connect to the Parlexo internet to determine the location of the gateway "
     u"server.\r\n\r\nPlease make sure you have internet connectivity, your firewall allows gateway "
-    u"connection or try again later."_qs;
+    u"connection or try again later."_s;
 
 // What every run journals before its first call to the gateway.
-const Journal loading = {u"progress Loading Contacts from Database..."_qs, u"contacts loaded"_qs,
-                         u"status log loaded"_qs, u"progress text "_qs};
+const Journal loading = {u"progress Loading Contacts from Database..."_s, u"contacts loaded"_s,
+                         u"status log loaded"_s, u"progress text "_s};
 
 class StartUpTest : public RunTest {
  protected:
@@ -163,15 +163,14 @@ class StartUpTest : public RunTest {
 
 TEST_F(StartUpTest, everyStepComesInItsOrder) {
   windows.login = [this] {
-    return LoginFlow(state, settings, gateway, notifier).attempt(u"demo"_qs, u"demo1234"_qs) ==
+    return LoginFlow(state, settings, gateway, notifier).attempt(u"demo"_s, u"demo1234"_s) ==
            LoginOutcome::Accepted;
   };
   EXPECT_EQ(run(), 0);
-  EXPECT_EQ(journal,
-            loading + Journal({u"progress hidden"_qs, u"login"_qs, u"progress "_qs, u"main window"_qs}));
-  EXPECT_THAT(simulator.calledOperations(), ElementsAre(u"locator"_qs, u"getVersion"_qs, u"sessionStart"_qs));
-  EXPECT_TRUE(QDir(folder.filePath(u"contacts"_qs)).exists());
-  EXPECT_TRUE(QDir(folder.filePath(u"templates"_qs)).exists());
+  EXPECT_EQ(journal, loading + Journal({u"progress hidden"_s, u"login"_s, u"progress "_s, u"main window"_s}));
+  EXPECT_THAT(simulator.calledOperations(), ElementsAre(u"locator"_s, u"getVersion"_s, u"sessionStart"_s));
+  EXPECT_TRUE(QDir(folder.filePath(u"contacts"_s)).exists());
+  EXPECT_TRUE(QDir(folder.filePath(u"templates"_s)).exists());
 }
 
 TEST_F(StartUpTest, unreadableContactsEndTheProgramBeforeTheStatusLog) {
@@ -184,21 +183,21 @@ TEST_F(StartUpTest, unreadableContactsEndTheProgramBeforeTheStatusLog) {
 TEST_F(StartUpTest, cancelledLoginEndsInSilence) {
   windows.login = [] { return false; };
   EXPECT_EQ(run(), 0);
-  EXPECT_EQ(journal, loading + Journal({u"progress hidden"_qs, u"login"_qs}));
+  EXPECT_EQ(journal, loading + Journal({u"progress hidden"_s, u"login"_s}));
 }
 
 const Journal noLocation = {locatorMessage};
-const Journal noGateway = {u"progress hidden"_qs, unreachableMessage};
-const Journal wrongProtocol = {u"progress hidden"_qs, u"upgrade \"\""_qs};
+const Journal noGateway = {u"progress hidden"_s, unreachableMessage};
+const Journal wrongProtocol = {u"progress hidden"_s, u"upgrade \"\""_s};
 
 Journal otherClient(const QString& version) {
-  return {u"progress hidden"_qs, u"upgrade \"%1\""_qs.arg(version), u"login"_qs, u"progress "_qs,
-          u"main window"_qs};
+  return {u"progress hidden"_s, u"upgrade \"%1\""_s.arg(version), u"login"_s, u"progress "_s,
+          u"main window"_s};
 }
 
 TEST_F(StartUpTest, obstacleIsToldToTheUser) {
-  const auto locator = u"locator"_qs;
-  const auto version = u"getVersion"_qs;
+  const auto locator = u"locator"_s;
+  const auto version = u"getVersion"_s;
   const struct {
     FaultKind kind;
     QString operation;
@@ -209,8 +208,8 @@ TEST_F(StartUpTest, obstacleIsToldToTheUser) {
       {FaultKind::BadLocator, locator, 0, {}, noLocation},
       {FaultKind::Close, version, 0, {}, noGateway},
       {FaultKind::Version, version, 104, {}, wrongProtocol},
-      {FaultKind::ClientVersion, locator, 0, u"2.23"_qs, otherClient(u"2.23"_qs)},
-      {FaultKind::ClientVersion, locator, 0, u"2.240"_qs, otherClient(u"2.240"_qs)},
+      {FaultKind::ClientVersion, locator, 0, u"2.23"_s, otherClient(u"2.23"_s)},
+      {FaultKind::ClientVersion, locator, 0, u"2.240"_s, otherClient(u"2.240"_s)},
   };
   for (const auto& [kind, operation, number, text, after] : obstacles) {
     SCOPED_TRACE(static_cast<int>(kind));
@@ -225,21 +224,21 @@ TEST_F(StartUpTest, obstacleIsToldToTheUser) {
 
 class ShutDownTest : public RunTest {
  protected:
-  const Journal ending = {u"progress hidden"_qs, u"contacts released"_qs, u"status log saved"_qs};
+  const Journal ending = {u"progress hidden"_s, u"contacts released"_s, u"status log saved"_s};
 };
 
 TEST_F(ShutDownTest, runWithoutSessionMakesNoCall) {
   ASSERT_TRUE(locate());
   shutDown(state, stores, progress, runner);
   EXPECT_EQ(journal, ending);
-  EXPECT_THAT(simulator.calledOperations(), ElementsAre(u"locator"_qs));
+  EXPECT_THAT(simulator.calledOperations(), ElementsAre(u"locator"_s));
 }
 
 TEST_F(ShutDownTest, sessionIsClosedPastTheProxyThatOtherCallsUse) {
   ASSERT_TRUE(locate());
-  ASSERT_EQ(LoginFlow(state, settings, gateway, notifier).attempt(u"demo"_qs, u"demo1234"_qs),
+  ASSERT_EQ(LoginFlow(state, settings, gateway, notifier).attempt(u"demo"_s, u"demo1234"_s),
             LoginOutcome::Accepted);
-  state.proxy.host = u"127.0.0.1"_qs;
+  state.proxy.host = u"127.0.0.1"_s;
   state.proxy.port = 1;
   shutDown(state, stores, progress, runner);
   EXPECT_EQ(simulator.openSessions(), 0);

@@ -37,7 +37,7 @@ TEST_F(DiskStoresTest, runThatEndsBeforeTheStatusLogWasReadLeavesTheFileAlone) {
   stores.saveStatusLog();
   EXPECT_EQ(readBytes(settings_.statusFile()), earlier);
   stores.loadStatusLog();
-  stores.statusLog().setStatus(u"r"_qs, u"y"_qs);
+  stores.statusLog().setStatus(u"r"_s, u"y"_s);
   stores.saveStatusLog();
   EXPECT_TRUE(readBytes(settings_.statusFile()).contains("Status=\"y\""));
 }
@@ -49,7 +49,7 @@ class WaitingForOthers : public testing::Test {
   void laterDo(const std::function<void()>& action) { QTimer::singleShot(20, &context_, action); }
 
   QTemporaryDir folder_;
-  QString path_ = folder_.filePath(u"items"_qs);
+  QString path_ = folder_.filePath(u"items"_s);
   QObject context_;
   ProgressBox box_;
   PumpingLockWaiter waiter_{box_, std::chrono::milliseconds(5)};
@@ -59,7 +59,7 @@ class WaitingForOthers : public testing::Test {
 };
 
 TEST_F(WaitingForOthers, boxSaysSoWhileEventsRunAndIsThenAsBefore) {
-  for (const QString& before : {QString(), u"Loading Group \"x\"..."_qs}) {
+  for (const QString& before : {QString(), u"Loading Group \"x\"..."_s}) {
     if (!before.isEmpty()) box_.show(before);
     OtherProcess other(path_, LOCK_EX);
     QString label;
@@ -68,7 +68,7 @@ TEST_F(WaitingForOthers, boxSaysSoWhileEventsRunAndIsThenAsBefore) {
       other.leave();
     });
     EXPECT_TRUE(write());
-    EXPECT_EQ(label, u"Waiting for another user to finish with the contacts..."_qs);
+    EXPECT_EQ(label, u"Waiting for another user to finish with the contacts..."_s);
     EXPECT_EQ(box_.text(), before);
     EXPECT_EQ(box_.isShowing(), !before.isEmpty());
   }
@@ -80,7 +80,7 @@ TEST_F(WaitingForOthers, patienceEndsAfterItsSecondsOfHalfSecondSteps) {
   QElapsedTimer time;
   time.start();
   EXPECT_FALSE(write());
-  EXPECT_EQ(error_, u"[readAllItems:1 - Database access share error!]"_qs);
+  EXPECT_EQ(error_, u"[readAllItems:1 - Database access share error!]"_s);
   EXPECT_GE(time.elapsed(), 300);
   EXPECT_LT(time.elapsed(), 10'000);
   EXPECT_FALSE(box_.isShowing());

@@ -25,16 +25,16 @@ TEST(CodePage, textsHaveTheBytesOfTheTable) {
     QByteArray bytes;
     bool fits;
   } cases[] = {
-      {"nothing", u""_qs, "", true},
-      {"Latin letters", u"Zoë é"_qs, "Zo\xEB \xE9", true},
-      {"euro sign and low quotes", u"€‚ƒ„…"_qs, "\x80\x82\x83\x84\x85", true},
-      {"quotes and dashes", u"‘’“”•–—™"_qs, "\x91\x92\x93\x94\x95\x96\x97\x99", true},
-      {"letters among the controls", u"Œ\u0178"_qs, "\x8C\x9F", true},
-      {"undefined byte", u"\u0081"_qs, "\x81", true},
-      {"Cyrillic letters", u"Жук"_qs, "???", false},
-      {"surrogate pair", u"a😀b"_qs, "a?b", false},
+      {"nothing", u""_s, "", true},
+      {"Latin letters", u"Zoë é"_s, "Zo\xEB \xE9", true},
+      {"euro sign and low quotes", u"€‚ƒ„…"_s, "\x80\x82\x83\x84\x85", true},
+      {"quotes and dashes", u"‘’“”•–—™"_s, "\x91\x92\x93\x94\x95\x96\x97\x99", true},
+      {"letters among the controls", u"Œ\u0178"_s, "\x8C\x9F", true},
+      {"undefined byte", u"\u0081"_s, "\x81", true},
+      {"Cyrillic letters", u"Жук"_s, "???", false},
+      {"surrogate pair", u"a😀b"_s, "a?b", false},
       {"half a pair at the end", QString(QChar(0xD83D)), "?", false},
-      {"half a pair", QString(QChar(0xD83D)) + u"x"_qs, "?x", false},
+      {"half a pair", QString(QChar(0xD83D)) + u"x"_s, "?x", false},
   };
   for (const auto& each : cases) {
     EXPECT_EQ(toCodePage(each.text), each.bytes) << each.what;

@@ -22,11 +22,11 @@ TEST(CsvWriter, quotesOnlyTheCellsThatNeedIt) {
     QStringList cells;
     QByteArray line;
   } cases[] = {
-      {{u"plain"_qs, u"two words"_qs, QString()}, "plain,two words,\r\n"},
-      {{u"Doe, J."_qs, u"say \"hi\""_qs}, "\"Doe, J.\",\"say \"\"hi\"\"\"\r\n"},
-      {{u"two\r\nlines"_qs, u"a\nb"_qs, u"a\rb"_qs}, "\"two\r\nlines\",\"a\nb\",\"a\rb\"\r\n"},
-      {{u" in front"_qs, u"behind "_qs}, "\" in front\",\"behind \"\r\n"},
-      {{u"Zo\u00EB \u4E2D \U0001F600"_qs}, "Zo\xC3\xAB \xE4\xB8\xAD \xF0\x9F\x98\x80\r\n"},
+      {{u"plain"_s, u"two words"_s, QString()}, "plain,two words,\r\n"},
+      {{u"Doe, J."_s, u"say \"hi\""_s}, "\"Doe, J.\",\"say \"\"hi\"\"\"\r\n"},
+      {{u"two\r\nlines"_s, u"a\nb"_s, u"a\rb"_s}, "\"two\r\nlines\",\"a\nb\",\"a\rb\"\r\n"},
+      {{u" in front"_s, u"behind "_s}, "\" in front\",\"behind \"\r\n"},
+      {{u"Zo\u00EB \u4E2D \U0001F600"_s}, "Zo\xC3\xAB \xE4\xB8\xAD \xF0\x9F\x98\x80\r\n"},
       {{QString()}, "\"\"\r\n"},
       {{QString(), QString()}, ",\r\n"},
   };
@@ -42,16 +42,16 @@ TEST(CsvWriter, formulasBecomeTextsWhereTheFileIsForPeople) {
     QByteArray harmless;
     QByteArray asItIs;
   } cases[] = {
-      {u"=1+1"_qs, "'=1+1", "=1+1"},
-      {u"+61491570156"_qs, "'+61491570156", "+61491570156"},
-      {u"-0.05"_qs, "-0.05", "-0.05"},
-      {u"-1+2"_qs, "'-1+2", "-1+2"},
-      {u"-1\n"_qs, "\"'-1\n\"", "\"-1\n\""},
-      {u"@SUM(A1)"_qs, "'@SUM(A1)", "@SUM(A1)"},
-      {u"\t=1"_qs, "'\t=1", "\"\t=1\""},
-      {u"\r=1"_qs, "\"'\r=1\"", "\"\r=1\""},
-      {u"=\"a\",1"_qs, "\"'=\"\"a\"\",1\"", "\"=\"\"a\"\",1\""},
-      {u"1+1=2"_qs, "1+1=2", "1+1=2"},
+      {u"=1+1"_s, "'=1+1", "=1+1"},
+      {u"+61491570156"_s, "'+61491570156", "+61491570156"},
+      {u"-0.05"_s, "-0.05", "-0.05"},
+      {u"-1+2"_s, "'-1+2", "-1+2"},
+      {u"-1\n"_s, "\"'-1\n\"", "\"-1\n\""},
+      {u"@SUM(A1)"_s, "'@SUM(A1)", "@SUM(A1)"},
+      {u"\t=1"_s, "'\t=1", "\"\t=1\""},
+      {u"\r=1"_s, "\"'\r=1\"", "\"\r=1\""},
+      {u"=\"a\",1"_s, "\"'=\"\"a\"\",1\"", "\"=\"\"a\"\",1\""},
+      {u"1+1=2"_s, "1+1=2", "1+1=2"},
   };
   for (const auto& [cell, harmless, asItIs] : cases) {
     EXPECT_EQ(lineOf({cell}, CsvCells::Harmless), harmless + "\r\n");
@@ -61,18 +61,18 @@ TEST(CsvWriter, formulasBecomeTextsWhereTheFileIsForPeople) {
 
 TEST(CsvWriter, replacesAFileAsAWholeOrLeavesItAlone) {
   const QTemporaryDir folder;
-  const QString path = folder.filePath(u"list.csv"_qs);
+  const QString path = folder.filePath(u"list.csv"_s);
   CsvWriter csv(CsvCells::AsTheyAre);
-  csv.addRow({u"Name"_qs});
-  csv.addRow({u"Ann"_qs});
+  csv.addRow({u"Name"_s});
+  csv.addRow({u"Ann"_s});
   ASSERT_EQ(csv.save(path), QString());
   ASSERT_EQ(csv.save(path), QString());
   EXPECT_EQ(readBytes(path), "\xEF\xBB\xBFName\r\nAnn\r\n");
 
-  const QString nowhere = folder.filePath(u"missing/list.csv"_qs);
+  const QString nowhere = folder.filePath(u"missing/list.csv"_s);
   const QString problem = csv.save(nowhere);
   EXPECT_TRUE(problem.contains(QDir::toNativeSeparators(nowhere))) << problem.toStdString();
-  EXPECT_FALSE(problem.endsWith(u": "_qs)) << problem.toStdString();
+  EXPECT_FALSE(problem.endsWith(u": "_s)) << problem.toStdString();
   EXPECT_NE(csv.save(folder.path()), QString());
 }
 

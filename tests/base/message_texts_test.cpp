@@ -15,31 +15,31 @@ class ServiceHost : public testing::Test {
 };
 
 TEST_F(ServiceHost, pagesFollowTheChosenHostAndFallBackToTheCompiledOne) {
-  EXPECT_EQ(webPage(u"/signup.php"_qs), u"https://"_qs + defaultServiceHost() + u"/signup.php"_qs);
-  setServiceHost(u"gateway.example.org"_qs);
-  EXPECT_EQ(webPage(u"/signup.php"_qs), u"https://gateway.example.org/signup.php"_qs);
+  EXPECT_EQ(webPage(u"/signup.php"_s), u"https://"_s + defaultServiceHost() + u"/signup.php"_s);
+  setServiceHost(u"gateway.example.org"_s);
+  EXPECT_EQ(webPage(u"/signup.php"_s), u"https://gateway.example.org/signup.php"_s);
   setServiceHost({});
-  EXPECT_EQ(webPage({}), u"https://"_qs + defaultServiceHost());
+  EXPECT_EQ(webPage({}), u"https://"_s + defaultServiceHost());
 }
 
 TEST_F(ServiceHost, balanceWarningsNameTheSite) {
-  setServiceHost(u"pay.example"_qs);
+  setServiceHost(u"pay.example"_s);
   EXPECT_EQ(text(TextId::BalanceLow),
             u"Your account balance is less than $2.00.\r\nPlease go to https://pay.example and top up your "
-            u"account balance."_qs);
+            u"account balance."_s);
   EXPECT_EQ(
       text(TextId::BalanceZero),
       u"Your account balance is zero.\r\nPlease go to https://pay.example, sign-in and add credit to your "
       u"account.\r\n\r\nIf you wish to trial our services then this may only be done via the website "
       u"portal. In the web portal click the 'Free Trial' button. The Parlexo Client software requires "
-      u"credit to send messages."_qs);
+      u"credit to send messages."_s);
 }
 
 TEST(MessageTexts, numberTakesThePlaceOfTheFirstPlaceholder) {
-  EXPECT_EQ(withNumber(u"Error code: %i"_qs, 12), u"Error code: 12"_qs);
-  EXPECT_EQ(withNumber(u"Error code: %d"_qs, -1), u"Error code: -1"_qs);
-  EXPECT_EQ(withNumber(u"%i of %i"_qs, 3), u"3 of %i"_qs);
-  EXPECT_EQ(withNumber(u"no code"_qs, 3), u"no code"_qs);
+  EXPECT_EQ(withNumber(u"Error code: %i"_s, 12), u"Error code: 12"_s);
+  EXPECT_EQ(withNumber(u"Error code: %d"_s, -1), u"Error code: -1"_s);
+  EXPECT_EQ(withNumber(u"%i of %i"_s, 3), u"3 of %i"_s);
+  EXPECT_EQ(withNumber(u"no code"_s, 3), u"no code"_s);
 }
 
 }  // namespace

@@ -33,11 +33,11 @@ TEST(Secret, textThatAnotherOneSharesStaysWhole) {
   const QString other = text;
   wipe(text);
   EXPECT_EQ(text, QString());
-  EXPECT_EQ(other, u"demo1234"_qs);
+  EXPECT_EQ(other, u"demo1234"_s);
 }
 
 TEST(Secret, travelsInTheCodePage) {
-  EXPECT_EQ(*secretToWire(u"p\u00E4ss\u20AC"_qs), "p\xE4ss\x80");
+  EXPECT_EQ(*secretToWire(u"p\u00E4ss\u20AC"_s), "p\xE4ss\x80");
   EXPECT_EQ(*secretToWire({}), "");
 }
 

@@ -17,8 +17,8 @@ class SettingsTest : public testing::Test {
   QString path(const QString& name) const { return QDir::toNativeSeparators(folder_.filePath(name)); }
 
   // The settings file as a later start finds it.
-  QByteArray storedFile() const { return readBytes(path(u"Parlexo Client.conf"_qs)).replace("\r\n", "\n"); }
-  void store(const QByteArray& content) const { writeBytes(path(u"Parlexo Client.conf"_qs), content); }
+  QByteArray storedFile() const { return readBytes(path(u"Parlexo Client.conf"_s)).replace("\r\n", "\n"); }
+  void store(const QByteArray& content) const { writeBytes(path(u"Parlexo Client.conf"_s), content); }
 
   QTemporaryDir folder_;
 };
@@ -26,9 +26,9 @@ class SettingsTest : public testing::Test {
 TEST_F(SettingsTest, emptyStoreGivesDefaultsThatAreNotWrittenBack) {
   {
     Settings settings(folder_.path());
-    EXPECT_EQ(settings.contactsFolder(), path(u"contacts"_qs));
-    EXPECT_EQ(settings.templatesFolder(), path(u"templates"_qs));
-    EXPECT_EQ(settings.statusFile(), path(u"Status.xml"_qs));
+    EXPECT_EQ(settings.contactsFolder(), path(u"contacts"_s));
+    EXPECT_EQ(settings.templatesFolder(), path(u"templates"_s));
+    EXPECT_EQ(settings.statusFile(), path(u"Status.xml"_s));
     EXPECT_EQ(settings.mobilePhoneNumber(), QString());
     EXPECT_EQ(settings.rememberedUser(), QString());
     EXPECT_EQ(settings.serviceHost(), defaultServiceHost());
@@ -39,13 +39,13 @@ TEST_F(SettingsTest, emptyStoreGivesDefaultsThatAreNotWrittenBack) {
 TEST_F(SettingsTest, writtenValuesLieUnderTheirSectionsAndComeBackAtTheNextStart) {
   {
     Settings settings(folder_.path());
-    settings.setMobilePhoneNumber(u"+61491570156"_qs);
-    settings.setContactsFolder(u"/srv/shared, all/contacts"_qs);
-    settings.setTemplatesFolder(u"/srv/templates"_qs);
-    settings.setRememberedUser(u"zoë"_qs);
+    settings.setMobilePhoneNumber(u"+61491570156"_s);
+    settings.setContactsFolder(u"/srv/shared, all/contacts"_s);
+    settings.setTemplatesFolder(u"/srv/templates"_s);
+    settings.setRememberedUser(u"zoë"_s);
     settings.suppressMessage(146);
     settings.setWindowGeometry(QByteArray("\0geometry\xFF", 10));
-    settings.setColumnWidths(u"statusList"_qs, {130, 0, 90});
+    settings.setColumnWidths(u"statusList"_s, {130, 0, 90});
   }
   const QByteArray stored = storedFile();
   for (const char* line : {"[Mobile]\nPhoneNumber=+61491570156\n", "[Login]\nUser=zo",
@@ -54,13 +54,13 @@ TEST_F(SettingsTest, writtenValuesLieUnderTheirSectionsAndComeBackAtTheNextStart
     EXPECT_TRUE(stored.contains(line)) << line << "missing in\n" << stored.constData();
 
   Settings next(folder_.path());
-  EXPECT_EQ(next.mobilePhoneNumber(), u"+61491570156"_qs);
-  EXPECT_EQ(next.contactsFolder(), u"/srv/shared, all/contacts"_qs);
-  EXPECT_EQ(next.templatesFolder(), u"/srv/templates"_qs);
-  EXPECT_EQ(next.rememberedUser(), u"zoë"_qs);
+  EXPECT_EQ(next.mobilePhoneNumber(), u"+61491570156"_s);
+  EXPECT_EQ(next.contactsFolder(), u"/srv/shared, all/contacts"_s);
+  EXPECT_EQ(next.templatesFolder(), u"/srv/templates"_s);
+  EXPECT_EQ(next.rememberedUser(), u"zoë"_s);
   EXPECT_EQ(next.windowGeometry(), QByteArray("\0geometry\xFF", 10));
-  EXPECT_EQ(next.columnWidths(u"statusList"_qs), QList<int>({130, 0, 90}));
-  EXPECT_EQ(next.columnWidths(u"otherList"_qs), QList<int>());
+  EXPECT_EQ(next.columnWidths(u"statusList"_s), QList<int>({130, 0, 90}));
+  EXPECT_EQ(next.columnWidths(u"otherList"_s), QList<int>());
   EXPECT_TRUE(next.isMessageSuppressed(146));
   EXPECT_FALSE(next.isMessageSuppressed(147));
 }
@@ -71,29 +71,29 @@ TEST_F(SettingsTest, handEditedValuesReadAsTheyWereMeant) {
       "b\nTemplates=\n[Settings]\nMessageDontShowAgain146=0\n[Service]\nHost=a.example\n"
       "[Columns]\nlist=-5 wide 999999 80\n");
   Settings settings(folder_.path());
-  EXPECT_EQ(settings.contactsFolder(), u"/data/a, b"_qs);
-  EXPECT_EQ(settings.templatesFolder(), path(u"templates"_qs));
+  EXPECT_EQ(settings.contactsFolder(), u"/data/a, b"_s);
+  EXPECT_EQ(settings.templatesFolder(), path(u"templates"_s));
   EXPECT_FALSE(settings.isMessageSuppressed(146));
-  EXPECT_EQ(settings.serviceHost(), u"a.example"_qs);
-  EXPECT_EQ(settings.columnWidths(u"list"_qs), QList<int>({0, 0, 4000, 80}));
+  EXPECT_EQ(settings.serviceHost(), u"a.example"_s);
+  EXPECT_EQ(settings.columnWidths(u"list"_s), QList<int>({0, 0, 4000, 80}));
 }
 
 TEST_F(SettingsTest, folderIsReadOnceAndFollowsItsSetter) {
   Settings settings(folder_.path());
   Settings other(folder_.path());
-  settings.setContactsFolder(u"/first"_qs);
-  EXPECT_EQ(settings.contactsFolder(), u"/first"_qs);
-  other.setContactsFolder(u"/second"_qs);
-  EXPECT_EQ(settings.contactsFolder(), u"/first"_qs);
+  settings.setContactsFolder(u"/first"_s);
+  EXPECT_EQ(settings.contactsFolder(), u"/first"_s);
+  other.setContactsFolder(u"/second"_s);
+  EXPECT_EQ(settings.contactsFolder(), u"/first"_s);
   settings.setContactsFolder({});
-  EXPECT_EQ(settings.contactsFolder(), path(u"contacts"_qs));
+  EXPECT_EQ(settings.contactsFolder(), path(u"contacts"_s));
 }
 
 TEST_F(SettingsTest, folderPathIsMadeWithEveryMissingLevelAndNothingIsOverwritten) {
-  makeFolderPath(u"  "_qs + path(u"My Data/shared/contacts"_qs) + u"\t"_qs);
-  EXPECT_TRUE(QDir(path(u"My Data/shared/contacts"_qs)).exists());
+  makeFolderPath(u"  "_s + path(u"My Data/shared/contacts"_s) + u"\t"_s);
+  EXPECT_TRUE(QDir(path(u"My Data/shared/contacts"_s)).exists());
   store("in the way");
-  makeFolderPath(path(u"Parlexo Client.conf/contacts"_qs));
+  makeFolderPath(path(u"Parlexo Client.conf/contacts"_s));
   makeFolderPath({});
   EXPECT_EQ(storedFile(), "in the way");
 }

@@ -11,6 +11,9 @@
 #include "base/settings.h"
 
 namespace parlexo {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// While it lives, HKEY_CURRENT_USER is an empty key that goes with it.
@@ -57,9 +60,9 @@ TEST(RegistrySettings, areTextsUnderTheProgramsKey) {
   const OwnHive hive;
   {
     Settings settings;
-    settings.setMobilePhoneNumber(QStringLiteral("+61491570156"));
+    settings.setMobilePhoneNumber(u"+61491570156"_s);
     settings.setContactsFolder(QString::fromUtf8("\\\\server\\share\\\u4f60\u597d, all"));
-    settings.setTemplatesFolder(QStringLiteral("C:\\Templates"));
+    settings.setTemplatesFolder(u"C:\\Templates"_s);
     settings.setRememberedUser(QString::fromUtf8("zo\u00eb"));
     settings.suppressMessage(146);
   }
@@ -72,13 +75,13 @@ TEST(RegistrySettings, areTextsUnderTheProgramsKey) {
 
 TEST(RegistrySettings, readWhatAnAdministratorPutThere) {
   const OwnHive hive;
-  EXPECT_TRUE(Settings().contactsFolder().endsWith(QStringLiteral("\\contacts")));
+  EXPECT_TRUE(Settings().contactsFolder().endsWith(u"\\contacts"_s));
   EXPECT_EQ(stored(L"Path", L"Contacts"), L"(none)") << "the default is not written";
   store(L"Path", L"Contacts", L"P:\\Team");
   store(L"Settings", L"MessageDontShowAgain147", L"1");
   store(L"..\\OrganizationDefaults\\Settings", L"MessageDontShowAgain146", L"1");
   Settings settings;
-  EXPECT_EQ(settings.contactsFolder(), QStringLiteral("P:\\Team"));
+  EXPECT_EQ(settings.contactsFolder(), u"P:\\Team"_s);
   EXPECT_TRUE(settings.isMessageSuppressed(147));
   EXPECT_FALSE(settings.isMessageSuppressed(146));
 }
@@ -87,11 +90,11 @@ TEST(FolderPath, isMadeWhateverItsSeparators) {
   const QTemporaryDir folder;
   const QString native = QDir::toNativeSeparators(folder.path());
   ASSERT_TRUE(QDir::setCurrent(native)) << "a path without a drive means that of the current folder";
-  makeFolderPath(native + QStringLiteral("\\a\\b/c\\"));
-  makeFolderPath(QLatin1Char(' ') + native.mid(2) + QStringLiteral("\\d"));
-  makeFolderPath(QStringLiteral("Q:\\no such drive"));
-  EXPECT_TRUE(QDir(folder.filePath(QStringLiteral("a/b/c"))).exists());
-  EXPECT_TRUE(QDir(folder.filePath(QStringLiteral("d"))).exists());
+  makeFolderPath(native + u"\\a\\b/c\\"_s);
+  makeFolderPath(QLatin1Char(' ') + native.mid(2) + u"\\d"_s);
+  makeFolderPath(u"Q:\\no such drive"_s);
+  EXPECT_TRUE(QDir(folder.filePath(u"a/b/c"_s)).exists());
+  EXPECT_TRUE(QDir(folder.filePath(u"d"_s)).exists());
   QDir::setCurrent(QDir::rootPath());
 }
 

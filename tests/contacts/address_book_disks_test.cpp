@@ -15,6 +15,9 @@
 #include "tests/contacts/store_fixture.h"
 
 namespace parlexo {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using testing::ElementsAre;
@@ -192,7 +195,7 @@ TEST_F(AddressBookOnDisk, groupsOfAnyNameThatFilesCanHaveComeBack) {
 }
 
 TEST_F(AddressBookOnDisk, groupNamesThatNoFileCanHaveAreRefused) {
-  for (const QString& name : {QString(252, u'g'), QString(130, u'.'), QStringLiteral("a") + QChar(u'\0')}) {
+  for (const QString& name : {QString(252, u'g'), QString(130, u'.'), u"a"_s + QChar(u'\0')}) {
     EXPECT_FALSE(book_.createGroup(name, {known}));
     EXPECT_THAT(takeMessages(), ElementsAre(creating, adding + readOpenError));
     EXPECT_TRUE(book_.findGroup(name)->contains(known));

@@ -7,6 +7,9 @@
 #include "tests/contacts/store_fixture.h"
 
 namespace parlexo {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using testing::Contains;
@@ -120,8 +123,8 @@ TEST_F(AddressBookLoading, reportsOnceThatAGroupCannotBeCleanedUpAndGoesOn) {
   EXPECT_EQ(readBytes(pathOf("Team.grp")), orphans);
   EXPECT_EQ(readBytes(pathOf("Zebras.grp")), deletedRecord(packMember("Gone")));
   EXPECT_THAT(notifier_.takeLines(),
-              ElementsAre(QStringLiteral("16 There was a problem deleting a contact from your database. "
-                                         "Error=[deleteItem:1 - Database access share error!]")));
+              ElementsAre(u"16 There was a problem deleting a contact from your database. "
+                          "Error=[deleteItem:1 - Database access share error!]"_s));
 }
 
 TEST_F(AddressBookLoading, cutNamesMeetAgainAtTheNextStart) {

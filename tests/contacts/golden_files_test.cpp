@@ -8,6 +8,9 @@
 #include "tests/contacts/store_fixture.h"
 
 namespace parlexo {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using testing::IsEmpty;
@@ -75,7 +78,7 @@ TEST_F(GoldenFiles, areReadAsMeant) {
 
   EXPECT_EQ(book_.groups().size(), 3U);
   EXPECT_EQ(book_.findGroup(oddTeam)->members().size(), 3U);
-  for (const QString& name : {zoe, full, QStringLiteral("Rubbish")})
+  for (const QString& name : {zoe, full, u"Rubbish"_s})
     EXPECT_EQ(book_.findGroup(oddTeam)->members().at(name), book_.findContact(name));
   EXPECT_TRUE(book_.findGroup("a%")->contains(every));
   EXPECT_THAT(notifier_.takeLines(), IsEmpty());

@@ -9,6 +9,9 @@
 #include "tests/contacts/store_fixture.h"
 
 namespace parlexo {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // Sizes that nothing else asks the memory for.
@@ -84,7 +87,7 @@ class ItemDatabaseFailures : public StoreFixture {
     EXPECT_TRUE(each.operation()) << "works again once the fault is gone: " << qPrintable(error_);
   }
 
-  QString path_ = pathOf(QStringLiteral("items.db"));
+  QString path_ = pathOf(u"items.db"_s);
 };
 
 // What a new index takes from the memory in one piece.

@@ -9,6 +9,9 @@
 #include "tests/contacts/store_fixture.h"
 
 namespace parlexo {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class TwoPrograms : public StoreFixture {
@@ -25,7 +28,7 @@ class TwoPrograms : public StoreFixture {
     return deleted;
   }
 
-  const QString path_ = pathOf(QStringLiteral("items.db"));
+  const QString path_ = pathOf(u"items.db"_s);
   const QByteArray anna_ = item("Anna", 'a');
   const QByteArray bert_ = item("Bert", 'b');
   const QByteArray cleo_ = item("Cleo", 'c');

@@ -6,6 +6,9 @@
 #include "tests/contacts/store_fixture.h"
 
 namespace parlexo {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using testing::ElementsAre;
@@ -39,7 +42,7 @@ class ItemDatabaseFixture : public StoreFixture {
     return records;
   }
 
-  QString path_ = pathOf(QStringLiteral("items.db"));
+  QString path_ = pathOf(u"items.db"_s);
 };
 
 TEST_F(ItemDatabaseFixture, everyOperationCreatesTheMissingFileEmptyOrWithItsRecord) {
@@ -47,16 +50,16 @@ TEST_F(ItemDatabaseFixture, everyOperationCreatesTheMissingFileEmptyOrWithItsRec
   EXPECT_EQ(readBytes(path_), "");
 
   bool deleted = true;
-  path_ = pathOf(QStringLiteral("deleting.db"));
+  path_ = pathOf(u"deleting.db"_s);
   EXPECT_TRUE(erase("Anna", deleted));
   EXPECT_FALSE(deleted);
   EXPECT_EQ(readBytes(path_), "");
 
-  path_ = pathOf(QStringLiteral("writing.db"));
+  path_ = pathOf(u"writing.db"_s);
   EXPECT_TRUE(write(anna));
   EXPECT_EQ(readBytes(path_), anna);
 
-  path_ = pathOf(QStringLiteral("creating.db"));
+  path_ = pathOf(u"creating.db"_s);
   EXPECT_TRUE(database_.createDb(error_, path_));
   EXPECT_EQ(readBytes(path_), "");
   EXPECT_EQ(error_, QString());
@@ -177,8 +180,7 @@ TEST_F(ItemDatabaseFixture, fileThatKeepsChangingIsGivenUpAfterElevenAttempts) {
     EXPECT_EQ(openings, 22);
     EXPECT_EQ(readBytes(path_).size(), 11 * recordSize);
   }
-  EXPECT_EQ(error_,
-            QStringLiteral("[writeItem:5 - Can't write to database as it is locked by another user!]"));
+  EXPECT_EQ(error_, u"[writeItem:5 - Can't write to database as it is locked by another user!]"_s);
   EXPECT_EQ(waiter_.pauses(), 0);
 }
 
@@ -186,7 +188,7 @@ TEST_F(ItemDatabaseFixture, unusableRecordsAndPathsGiveTheOperationsMessage) {
   bool deleted = false;
   EXPECT_FALSE(write({}));
   EXPECT_FALSE(write(anna.chopped(1)));
-  EXPECT_EQ(error_, QStringLiteral("[writeItem:1 - Illegal data to write!]").repeated(2));
+  EXPECT_EQ(error_, u"[writeItem:1 - Illegal data to write!]"_s.repeated(2));
 
   // A folder where the file should be.
   path_ = folder_.path();

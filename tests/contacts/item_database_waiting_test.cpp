@@ -9,6 +9,9 @@
 #include "tests/contacts/store_fixture.h"
 
 namespace parlexo {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class WaitingFixture : public StoreFixture {
@@ -28,7 +31,7 @@ class WaitingFixture : public StoreFixture {
     return database_.deleteItem(error_, keyWidth, path_, "Anna", recordSize, deleted, timeout) && deleted;
   }
 
-  QString path_ = pathOf(QStringLiteral("items.db"));
+  QString path_ = pathOf(u"items.db"_s);
   QByteArray record_ = QByteArray("\1Anna1111111", recordSize);
 };
 
@@ -79,7 +82,7 @@ TEST_F(WaitingFixture, indexIsReadWithItsOwnLongerPatience) {
   database_.dropAllItemIndexes();
   const OtherProcess writer(path_, LOCK_EX);
   EXPECT_FALSE(write());
-  EXPECT_EQ(error_, QStringLiteral("[readAllItems:1 - Database access share error!]"));
+  EXPECT_EQ(error_, u"[readAllItems:1 - Database access share error!]"_s);
   EXPECT_EQ(waiter_.pauses(), 62);
 }
 

@@ -5,6 +5,9 @@
 #include <gtest/gtest.h>
 
 namespace parlexo {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using Problem = PhoneNumber::Problem;
@@ -93,7 +96,7 @@ TEST(PhoneNumber, refusesWhatItWouldHaveToGuess) {
 
 TEST(PhoneNumber, knowsCallingCodes) {
   for (const char16_t* typed : {u"61", u"+61", u"0061", u" + 61 "})
-    EXPECT_EQ(PhoneNumber::parseCallingCode(typed), QStringLiteral("+61"));
+    EXPECT_EQ(PhoneNumber::parseCallingCode(typed), u"+61"_s);
   EXPECT_EQ(PhoneNumber::parseCallingCode(u""), QString());
   for (const char16_t* typed : {u"+", u"0", u"061", u"12345", u"au"})
     EXPECT_FALSE(PhoneNumber::parseCallingCode(typed).has_value());

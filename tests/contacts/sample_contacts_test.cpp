@@ -3,23 +3,26 @@
 #include "tests/contacts/store_fixture.h"
 
 namespace parlexo {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class SampleFolder : public AddressBookFixture {};
 
 TEST_F(SampleFolder, loadsBackWholeAndIsNotOverwritten) {
-  const QString folder = pathOf(QStringLiteral("new/contacts"));
+  const QString folder = pathOf(u"new/contacts"_s);
   ASSERT_EQ(writeSampleFolder(folder, 300, 12), QString());
   AddressBook book(folder, database_, notifier_);
   EXPECT_TRUE(book.loadAll(progress_));
   EXPECT_EQ(book.contacts().size(), 300U);
   EXPECT_EQ(book.groups().size(), 13U);
-  EXPECT_EQ(book.findGroup(QStringLiteral("Customers"))->members().size(), 150U);
-  EXPECT_EQ(book.findGroup(QStringLiteral("My Personal Contacts"))->members().size(), 8U);
+  EXPECT_EQ(book.findGroup(u"Customers"_s)->members().size(), 150U);
+  EXPECT_EQ(book.findGroup(u"My Personal Contacts"_s)->members().size(), 8U);
   EXPECT_TRUE(notifier_.shown.empty());
 
-  EXPECT_TRUE(writeSampleFolder(folder, 5, 0).contains(QStringLiteral("already")));
-  EXPECT_EQ(readBytes(folder + QStringLiteral("/All Contacts.all_grp")).size(), 300 * 512);
+  EXPECT_TRUE(writeSampleFolder(folder, 5, 0).contains(u"already"_s));
+  EXPECT_EQ(readBytes(folder + u"/All Contacts.all_grp"_s).size(), 300 * 512);
 }
 
 }  // namespace

@@ -11,6 +11,9 @@
 #include "tests/contacts/store_fixture.h"
 
 namespace parlexo {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using Mode = SharedFile::Mode;
@@ -18,7 +21,7 @@ using OpenResult = SharedFile::OpenResult;
 
 class SharedFileFixture : public StoreFixture {
  protected:
-  QString path_ = pathOf(QStringLiteral("shared"));
+  QString path_ = pathOf(u"shared"_s);
 };
 
 TEST_F(SharedFileFixture, modesShutEachOtherOut) {
@@ -52,9 +55,9 @@ TEST_F(SharedFileFixture, onlyRemovalLeavesMissingFileMissing) {
   SharedFile file;
   EXPECT_EQ(file.open(path_, Mode::Remove), OpenResult::Failed);
   EXPECT_FALSE(QFileInfo::exists(path_));
-  EXPECT_EQ(file.open(pathOf(QStringLiteral("none/shared")), Mode::Write), OpenResult::Failed);
-  QFile::link(QStringLiteral("none/shared"), pathOf(QStringLiteral("link")));
-  EXPECT_EQ(file.open(pathOf(QStringLiteral("link")), Mode::Write), OpenResult::Failed);
+  EXPECT_EQ(file.open(pathOf(u"none/shared"_s), Mode::Write), OpenResult::Failed);
+  QFile::link(u"none/shared"_s, pathOf(u"link"_s));
+  EXPECT_EQ(file.open(pathOf(u"link"_s), Mode::Write), OpenResult::Failed);
   EXPECT_EQ(file.open(path_, Mode::Read), OpenResult::Opened);
   EXPECT_EQ(file.size(), 0);
 }
@@ -75,15 +78,15 @@ TEST_F(SharedFileFixture, appendThatDoesNotFitIsCutBack) {
 
 TEST_F(SharedFileFixture, onlyOrdinaryFilesOfTheWholePathAreOpened) {
   ASSERT_EQ(::mkfifo(qPrintable(path_), 0600), 0);
-  writeBytes(pathOf(QStringLiteral("cut")), "x");
-  const QString withZero = pathOf(QStringLiteral("cut")) + QChar(u'\0') + QStringLiteral(".grp");
+  writeBytes(pathOf(u"cut"_s), "x");
+  const QString withZero = pathOf(u"cut"_s) + QChar(u'\0') + u".grp"_s;
   for (const Mode mode : {Mode::Read, Mode::Write, Mode::Erase, Mode::Create, Mode::Remove}) {
     SharedFile file;
     EXPECT_EQ(file.open(path_, mode), OpenResult::Failed) << "a pipe";
     EXPECT_EQ(file.open(folder_.path(), mode), OpenResult::Failed) << "a folder";
     EXPECT_EQ(file.open(withZero, mode), OpenResult::Failed) << "a zero in the path";
   }
-  EXPECT_EQ(readBytes(pathOf(QStringLiteral("cut"))), "x");
+  EXPECT_EQ(readBytes(pathOf(u"cut"_s)), "x");
 }
 
 TEST_F(SharedFileFixture, openedFileIsNeverOneThatWasRemovedMeanwhile) {

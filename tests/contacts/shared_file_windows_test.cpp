@@ -8,6 +8,9 @@
 #include "tests/contacts/store_fixture.h"
 
 namespace parlexo {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using Mode = SharedFile::Mode;
@@ -17,7 +20,7 @@ using OpenResult = SharedFile::OpenResult;
 class Holder {
  public:
   Holder(const QString& path, Mode mode) {
-    process_.start(QCoreApplication::applicationDirPath() + QStringLiteral("/shared-file-holder"),
+    process_.start(QCoreApplication::applicationDirPath() + u"/shared-file-holder"_s,
                    {path, QString::number(static_cast<int>(mode))});
     EXPECT_TRUE(process_.waitForReadyRead());
     EXPECT_EQ(process_.readLine().trimmed(), "held");
@@ -41,7 +44,7 @@ class SharingBetweenProcesses : public StoreFixture {
   SharingBetweenProcesses() { writeBytes(path_, record_); }
 
   QByteArray record_ = QByteArray("\1Anna1111111", recordSize);
-  QString path_ = pathOf(QStringLiteral("items.db"));
+  QString path_ = pathOf(u"items.db"_s);
 };
 
 TEST_F(SharingBetweenProcesses, modesShutOthersOut) {
@@ -94,7 +97,7 @@ TEST_F(SharingBetweenProcesses, eraserAndAReaderThatSharesEverythingButHoldsALoc
 TEST_F(SharingBetweenProcesses, writerWaitsForAReaderElsewhereAndGivesUpAfterTheTimeout) {
   Holder reader(path_, Mode::Read);
   EXPECT_FALSE(database_.writeItem(error_, keyWidth, path_, recordSize, record_, timeout));
-  EXPECT_EQ(error_, QStringLiteral("[writeItem:2 - Database access share error!]"));
+  EXPECT_EQ(error_, u"[writeItem:2 - Database access share error!]"_s);
   waiter_.onPause = [&reader] { reader.leave(); };
   error_.clear();
   EXPECT_TRUE(database_.writeItem(error_, keyWidth, path_, recordSize, record_, timeout));
@@ -117,23 +120,23 @@ TEST_F(SharingBetweenProcesses, removedFileIsGoneAndAMissingOneStaysMissing) {
 TEST_F(SharingBetweenProcesses, everyWayToWriteAPathLeadsToTheSameFile) {
   const QString folder = folder_.filePath(QString::fromUtf8("Gr\u00fc\u00dfe \u4f60\u597d"));
   ASSERT_TRUE(QDir().mkdir(folder));
-  const QString file = folder + QStringLiteral("/f.db");
+  const QString file = folder + u"/f.db"_s;
   const QString native = QDir::toNativeSeparators(file);
   writeBytes(file, "12345");
   ASSERT_TRUE(QDir::setCurrent(folder_.path())) << "a path without a drive means that of the current folder";
   // The folder for temporary files may lie on a share.
-  const bool isOnShare = native.startsWith(QStringLiteral("\\\\"));
-  const QStringList others = isOnShare ? QStringList(QStringLiteral("\\\\?\\UNC\\") + native.mid(2))
-                                       : QStringList{QStringLiteral("\\\\?\\") + native, native.mid(2)};
+  const bool isOnShare = native.startsWith(u"\\\\"_s);
+  const QStringList others = isOnShare ? QStringList(u"\\\\?\\UNC\\"_s + native.mid(2))
+                                       : QStringList{u"\\\\?\\"_s + native, native.mid(2)};
   for (const QString& path : QStringList{file, native} + others) {
     SharedFile shared;
     EXPECT_EQ(shared.open(path, Mode::Read), OpenResult::Opened) << path.toStdString();
     EXPECT_EQ(shared.size(), 5) << path.toStdString();
   }
   // On a share "nul" is a name like any other.
-  const QString device = isOnShare ? QStringLiteral("nul") : pathOf(QStringLiteral("nul"));
-  for (const QString& path : {folder, device, file + QChar(u'\0') + u'x', pathOf(QStringLiteral("a*b")),
-                              pathOf(QStringLiteral("none/x"))}) {
+  const QString device = isOnShare ? u"nul"_s : pathOf(u"nul"_s);
+  for (const QString& path :
+       {folder, device, file + QChar(u'\0') + u'x', pathOf(u"a*b"_s), pathOf(u"none/x"_s)}) {
     SharedFile shared;
     EXPECT_EQ(shared.open(path, Mode::Write), OpenResult::Failed) << path.toStdString();
   }

@@ -23,6 +23,9 @@
 #include "tests/support/file_bytes.h"
 
 namespace parlexo {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using testing::ElementsAre;
@@ -73,9 +76,9 @@ TYPED_TEST(FilePages, clearThemselvesAfterASendThatSucceededAndOnlyThen) {
   auto* note = this->page.template findChild<MessageEdit*>();
   const QString chosenFile = this->write("photo.jpg", "bytes");
   this->select({"Ann"});
-  if (note) note->setText(QStringLiteral("Look"));
+  if (note) note->setText(u"Look"_s);
   this->path().setText(chosenFile);
-  this->misbehave(simulator::FaultKind::Code, QStringLiteral("any"), 12);
+  this->misbehave(simulator::FaultKind::Code, u"any"_s, 12);
   this->press("sendButton");
   this->simulator.clearFaults();
   EXPECT_THAT(sent, IsEmpty());
@@ -122,7 +125,7 @@ TYPED_TEST(FilePages, takeOneDroppedFileEverywhereAndNothingElse) {
   const auto* note = this->page.template findChild<MessageEdit*>();
   QWidget* const places[] = {&this->page, &this->path(), note ? note->viewport() : &this->page,
                              this->template find<QAbstractItemView>("contactsBox").viewport()};
-  EXPECT_FALSE(this->drop({QUrl(QStringLiteral("https://www.parlexo.example/a.jpg"))}, this->page));
+  EXPECT_FALSE(this->drop({QUrl(u"https://www.parlexo.example/a.jpg"_s)}, this->page));
   for (QWidget* place : places) {
     EXPECT_FALSE(this->drop({chosenFile, chosenFile}, *place));
     EXPECT_FALSE(this->drop({QUrl::fromLocalFile(this->folder.path())}, *place));

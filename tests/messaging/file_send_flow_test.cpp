@@ -15,6 +15,9 @@
 #include "tests/support/file_bytes.h"
 
 namespace parlexo {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using simulator::FaultKind;
@@ -82,10 +85,10 @@ class FileSending : public testing::TestWithParam<Page>, protected GatewayRig {
   QString write(const QString& name, const QByteArray& bytes) {
     return writeBytes(folder.filePath(name), bytes);
   }
-  FileDraft draftOf(const QString& path, const QString& numbers = QStringLiteral("+61491570156")) {
-    return {path, {}, QStringLiteral("somebody"), numbers, {}};
+  FileDraft draftOf(const QString& path, const QString& numbers = u"+61491570156"_s) {
+    return {path, {}, u"somebody"_s, numbers, {}};
   }
-  FileDraft goodDraft() { return draftOf(write(QStringLiteral("good.bin"), content(1000))); }
+  FileDraft goodDraft() { return draftOf(write(u"good.bin"_s, content(1000))); }
   SendOutcome send(const FileDraft& draft) { return FileSendFlow(services(), GetParam().kind).send(draft); }
   std::string cannotOpen(const QString& path) {
     return GetParam().cannotOpen + QDir::toNativeSeparators(path).toStdString();
@@ -94,10 +97,10 @@ class FileSending : public testing::TestWithParam<Page>, protected GatewayRig {
 
 TEST_P(FileSending, acceptedFileArrivesByteForByteAndIsLogged) {
   const QByteArray bytes = content(40'000);
-  FileDraft draft = draftOf(write(QString::fromUtf8("Gr\u00FC\u00DFe \u4F60.jpg"), bytes),
-                            QStringLiteral("+61491570156,+60312345678"));
+  FileDraft draft =
+      draftOf(write(QString::fromUtf8("Gr\u00FC\u00DFe \u4F60.jpg"), bytes), u"+61491570156,+60312345678"_s);
   draft.note = QString::fromUtf8("Caf\u00E9 & <b>\n\u20AC");
-  state.senderId = QStringLiteral("+61491570999");
+  state.senderId = u"+61491570999"_s;
   EXPECT_EQ(send(draft), SendOutcome::Delivered);
   EXPECT_THAT(journal, ElementsAre("(box)", "(no box)", GetParam().success));
   EXPECT_EQ(notifier.shown.back().style, message_style::information);
@@ -118,7 +121,7 @@ TEST_P(FileSending, acceptedFileArrivesByteForByteAndIsLogged) {
 
 TEST_P(FileSending, messagesAfterTheSendAreTheKindsOwn) {
   FileDraft draft = goodDraft();
-  draft.numbersList = QStringLiteral("+61491570156,+61491570199");
+  draft.numbersList = u"+61491570156,+61491570199"_s;
   EXPECT_EQ(send(draft), SendOutcome::PartlyFailed);
   misbehave(FaultKind::Code, QString::fromLatin1(GetParam().operation), 12);
   EXPECT_EQ(send(draft), SendOutcome::NotSent);
@@ -132,7 +135,7 @@ TEST_P(FileSending, messagesAfterTheSendAreTheKindsOwn) {
 }
 
 TEST_P(FileSending, whatIsMissingStopsBeforeAnyCallInThePagesOrder) {
-  const QString large = write(QStringLiteral("large"), content(GetParam().limit + 1));
+  const QString large = write(u"large"_s, content(GetParam().limit + 1));
   FileDraft draft;
   draft.note = QString(10'241, QChar(u'x'));
   state.balanceIsZero = true;
@@ -146,7 +149,7 @@ TEST_P(FileSending, whatIsMissingStopsBeforeAnyCallInThePagesOrder) {
   draft.path = large;
   expectRefusal("The contacts list is blank. Select contacts to send message to.",
                 SendOutcome::RecipientsAtFault);
-  draft.displayList = QStringLiteral("Ann [+1]");
+  draft.displayList = u"Ann [+1]"_s;
   if (GetParam().kind == FileKind::Mms)
     expectRefusal("Description must be 10Kb or less", SendOutcome::MessageAtFault);
   draft.note.chop(1);
@@ -157,26 +160,25 @@ TEST_P(FileSending, whatIsMissingStopsBeforeAnyCallInThePagesOrder) {
 }
 
 TEST_P(FileSending, limitOfTheLocatorIsTheLargestLength) {
-  EXPECT_EQ(send(draftOf(write(QStringLiteral("full"), content(GetParam().limit)))), SendOutcome::Delivered);
+  EXPECT_EQ(send(draftOf(write(u"full"_s, content(GetParam().limit)))), SendOutcome::Delivered);
   EXPECT_EQ(simulator.messages().at(0).fileSize, GetParam().limit);
   notifier.shown.clear();
   state.gateway = {state.gateway.latestClientVersion, {}, 0, 0, 0, state.gateway.endpoint};
-  EXPECT_EQ(send(draftOf(write(QStringLiteral("byte"), "x"))), SendOutcome::FileAtFault);
+  EXPECT_EQ(send(draftOf(write(u"byte"_s, "x"))), SendOutcome::FileAtFault);
   EXPECT_THAT(notifier.takeTexts(), ElementsAre(GetParam().tooLarge));
-  EXPECT_EQ(send(draftOf(write(QStringLiteral("empty"), ""))), SendOutcome::NotSent);
+  EXPECT_EQ(send(draftOf(write(u"empty"_s, ""))), SendOutcome::NotSent);
   EXPECT_EQ(operations().back(), GetParam().operation) << "an empty file is the gateway's to judge";
 }
 
 TEST_P(FileSending, whatIsNoWritableFileCannotBeOpened) {
-  const QString link = folder.filePath(QStringLiteral("dangling"));
+  const QString link = folder.filePath(u"dangling"_s);
   QStringList paths;
   // Windows makes a file of its own kind where others make a link.
-  if (QFile::link(folder.filePath(QStringLiteral("nowhere")), link) && QFileInfo(link).isSymbolicLink())
-    paths << link;
-  const QString missing = folder.filePath(QStringLiteral("missing"));
+  if (QFile::link(folder.filePath(u"nowhere"_s), link) && QFileInfo(link).isSymbolicLink()) paths << link;
+  const QString missing = folder.filePath(u"missing"_s);
   // The system lets nobody, root included, write to a program that runs.
   const QString unwritable = QCoreApplication::applicationFilePath();
-  paths << missing << folder.path() << QStringLiteral("/dev/zero") << unwritable;
+  paths << missing << folder.path() << u"/dev/zero"_s << unwritable;
   for (const QString& path : paths) {
     EXPECT_EQ(send(draftOf(path)), SendOutcome::FileAtFault);
     EXPECT_EQ(notifier.shown.back().style, message_style::stop);
@@ -201,7 +203,7 @@ TEST_P(FileSending, fileThatChangesWhileItWaitsIsNotSentUnlessItIsOnlyRemoved) {
 }
 
 TEST_P(FileSending, lackOfMemoryIsToldAfterTheCallsBefore) {
-  const FileDraft draft = draftOf(write(QStringLiteral("big"), content(limitOfMobile)));
+  const FileDraft draft = draftOf(write(u"big"_s, content(limitOfMobile)));
   const auto outcome = [&] {
     const MemoryRefusal refusal(limitOfMobile);
     return send(draft);
@@ -226,7 +228,7 @@ class SlowFileSending : public FileSending {
     return options;
   }
 
-  const FileDraft draft_ = draftOf(write(QStringLiteral("long.tif"), content(700'000)));
+  const FileDraft draft_ = draftOf(write(u"long.tif"_s, content(700'000)));
 };
 
 TEST_P(SlowFileSending, transferIsFollowedWhileTheFileGoesOut) {

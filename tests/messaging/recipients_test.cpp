@@ -3,6 +3,9 @@
 #include <gtest/gtest.h>
 
 namespace parlexo {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 ContactRecord contact(const char* name, const char* phone, const char* fax = "") {
@@ -21,7 +24,7 @@ class RecipientsTest : public testing::Test {
 
   // Both lists in one readable line.
   [[nodiscard]] std::string lists() const {
-    return (recipients_.displayList() + QStringLiteral(" | ") + recipients_.numbersList()).toStdString();
+    return (recipients_.displayList() + u" | "_s + recipients_.numbersList()).toStdString();
   }
 
   Recipients recipients_;
@@ -52,7 +55,7 @@ TEST_F(RecipientsTest, clearAndTemplatesLeaveTheNumbers) {
   select(three_);
   recipients_.clearEntries();
   EXPECT_EQ(lists(), " | +1,+2,+1");
-  recipients_.setEntries(QStringLiteral("Lee, Bob [+2],Zoe [x] [+5],nonsense"));
+  recipients_.setEntries(u"Lee, Bob [+2],Zoe [x] [+5],nonsense"_s);
   ASSERT_EQ(recipients_.entries().size(), 3U);
   EXPECT_EQ(recipients_.entries()[0], (Recipient{"Lee, Bob", "+2"}));
   EXPECT_EQ(recipients_.entries()[1], (Recipient{"Zoe [x]", "+5"}));
@@ -65,7 +68,7 @@ TEST_F(RecipientsTest, clearAndTemplatesLeaveTheNumbers) {
 
 TEST_F(RecipientsTest, removalAfterATemplateTakesOnlyNumbersThatMatch) {
   select(three_);
-  recipients_.setEntries(QStringLiteral("Zoe [+5],Lee, Bob [+2]"));
+  recipients_.setEntries(u"Zoe [+5],Lee, Bob [+2]"_s);
   recipients_.remove({0});
   EXPECT_EQ(lists(), "Lee, Bob [+2] | +1,+2,+1");
   recipients_.remove({0});
@@ -76,10 +79,10 @@ TEST_F(RecipientsTest, repeatsGoFromBothListsAlike) {
   select({contact("Ann", "+1"), contact("Bob", "+2"), contact("Cy", "+1"), contact("Di", "+1"),
           contact("Ed", "+2"), contact("Flo", "+3")});
   EXPECT_EQ(recipients_.repeatedNumberCount(), 2);
-  recipients_.setEntries(QStringLiteral("Zoe [+5]"));
+  recipients_.setEntries(u"Zoe [+5]"_s);
   recipients_.removeRepeats();
   EXPECT_EQ(lists(), "Zoe [+5] | +1,+2,+1,+1,+2,+3") << "which entry would go with a number is unknown";
-  recipients_.setEntries(QStringLiteral("a [+6],b [+7],c [+8],d [+9],e [+10],f [+11]"));
+  recipients_.setEntries(u"a [+6],b [+7],c [+8],d [+9],e [+10],f [+11]"_s);
   recipients_.removeRepeats();
   EXPECT_EQ(lists(), "a [+6],b [+7],f [+11] | +1,+2,+3");
   EXPECT_EQ(recipients_.repeatedNumberCount(), 0);

@@ -8,6 +8,9 @@
 #include "tests/messaging/gateway_rig.h"
 
 namespace parlexo {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using simulator::FaultKind;
@@ -19,14 +22,14 @@ class SmsSending : public testing::Test, protected GatewayRig {
  protected:
   static SmsDraft draftTo(const QStringList& numbers) {
     SmsDraft draft;
-    draft.text = QStringLiteral("Hello");
-    draft.displayList = QStringLiteral("somebody");
+    draft.text = u"Hello"_s;
+    draft.displayList = u"somebody"_s;
     draft.numbersList = numbers.join(QChar(u','));
     return draft;
   }
   static SmsDraft scheduled(SmsDraft draft) {
     const QDateTime tomorrow = QDateTime::currentDateTimeUtc().addDays(1);
-    draft.schedule = {QStringLiteral("tomorrow"), tomorrow.toString(QStringLiteral("yyyy/MM/dd HH:mm:ss"))};
+    draft.schedule = {u"tomorrow"_s, tomorrow.toString(u"yyyy/MM/dd HH:mm:ss"_s)};
     return draft;
   }
   SendOutcome send(const SmsDraft& draft) { return SmsSendFlow(services()).send(draft); }
@@ -49,7 +52,7 @@ TEST_F(SmsSending, acceptedMessageIsLoggedSavedAndConfirmed) {
   EXPECT_EQ(entry.phone, "+61491570156");
   EXPECT_EQ(entry.status, "Delivered to Gateway");
   EXPECT_EQ(entry.type, "SMS");
-  const QDateTime logged = QDateTime::fromString(entry.date, QStringLiteral("dd/MM/yyyy HH:mm:ss"));
+  const QDateTime logged = QDateTime::fromString(entry.date, u"dd/MM/yyyy HH:mm:ss"_s);
   EXPECT_LT(std::abs(logged.secsTo(QDateTime::currentDateTime())), 60);
   EXPECT_FALSE(log.isModified());
   StatusLog readBack;
@@ -62,7 +65,7 @@ TEST_F(SmsSending, unicodeFlashScheduleAndSenderIdReachTheGateway) {
   draft.text = QString::fromUtf8("\u4F60 \U0001F600\n\u20AC");
   draft.charset = SmsCharset::Unicode;
   draft.flash = true;
-  state.senderId = QStringLiteral("+61491570999");
+  state.senderId = u"+61491570999"_s;
   EXPECT_EQ(send(draft), SendOutcome::Delivered);
   EXPECT_EQ(operations(),
             QStringList({"scheduleMessageDisable", "scheduleMessageEnable", "setSmsSenderId", "sendSms"}));
@@ -72,7 +75,7 @@ TEST_F(SmsSending, unicodeFlashScheduleAndSenderIdReachTheGateway) {
   EXPECT_TRUE(message.flash);
   EXPECT_EQ(message.senderId, state.senderId);
   ASSERT_TRUE(message.schedule.has_value());
-  EXPECT_EQ(message.schedule->toString(QStringLiteral("yyyy/MM/dd HH:mm:ss")), draft.schedule.value);
+  EXPECT_EQ(message.schedule->toString(u"yyyy/MM/dd HH:mm:ss"_s), draft.schedule.value);
 }
 
 TEST_F(SmsSending, failedNumbersAreListedAndLoggedToo) {
@@ -82,7 +85,7 @@ TEST_F(SmsSending, failedNumbersAreListedAndLoggedToo) {
                                    "numbers\n+61491570199\n+60312345699\n"));
   EXPECT_EQ(notifier.shown.back().style, message_style::information);
   ASSERT_THAT(log.entries(), SizeIs(2));  // both failed numbers have the receipt FAIL
-  EXPECT_EQ(log.entries().at(QStringLiteral("FAIL")).phone, "+60312345699");
+  EXPECT_EQ(log.entries().at(u"FAIL"_s).phone, "+60312345699");
 }
 
 TEST_F(SmsSending, whatIsMissingStopsBeforeAnyCall) {
@@ -95,10 +98,10 @@ TEST_F(SmsSending, whatIsMissingStopsBeforeAnyCall) {
     EXPECT_THAT(notifier.takeTexts(), ElementsAre(testing::StartsWith(message)));
   };
   expectRefusal("No SMS message has been provided. Enter a SMS message.", SendOutcome::MessageAtFault);
-  draft.text = QStringLiteral("x");
+  draft.text = u"x"_s;
   expectRefusal("The contacts list is blank. Select contacts to send message to.",
                 SendOutcome::RecipientsAtFault);
-  draft.displayList = QStringLiteral("Ann [+1]");
+  draft.displayList = u"Ann [+1]"_s;
   expectRefusal("Your account balance is zero.\r\nPlease go to ", SendOutcome::NotSent,
                 message_style::information);
   draft.charset = SmsCharset::Unicode;
@@ -138,14 +141,14 @@ TEST_F(SmsSending, failureIsToldOnceAndNeverSentTwice) {
   for (const auto& failure : failures) {
     SCOPED_TRACE(static_cast<int>(failure.kind));
     simulator.clearFaults();
-    misbehave(failure.kind, QStringLiteral("sendSms"), failure.number);
-    const auto sendsBefore = operations().count(QStringLiteral("sendSms"));
+    misbehave(failure.kind, u"sendSms"_s, failure.number);
+    const auto sendsBefore = operations().count(u"sendSms"_s);
     const std::size_t acceptedBefore = simulator.messages().size();
     journal.clear();
     EXPECT_EQ(send(draft_), failure.outcome);
     EXPECT_THAT(journal, ElementsAre("(box)", "(no box)", failure.message));
     EXPECT_EQ(notifier.shown.back().style, message_style::stop);
-    EXPECT_EQ(operations().count(QStringLiteral("sendSms")) - sendsBefore, 1);
+    EXPECT_EQ(operations().count(u"sendSms"_s) - sendsBefore, 1);
     EXPECT_THAT(simulator.messages(), SizeIs(acceptedBefore + failure.accepted));
   }
   EXPECT_THAT(log.entries(), IsEmpty());
@@ -153,7 +156,7 @@ TEST_F(SmsSending, failureIsToldOnceAndNeverSentTwice) {
 }
 
 TEST_F(SmsSending, gatewayThatTakesNoConnectionHasTakenNoMessage) {
-  misbehave(FaultKind::Refuse, QStringLiteral("any"));
+  misbehave(FaultKind::Refuse, u"any"_s);
   EXPECT_NE(send(draft_), SendOutcome::Delivered);
   simulator.stop();
   EXPECT_EQ(send(draft_), SendOutcome::NotSent);
@@ -176,7 +179,7 @@ TEST_F(SmsSending, refusedScheduleOrSenderIdGivesUpTheSend) {
        "enabled to "
        "set Any Sender ID? Error: 12"},
   };
-  state.senderId = QStringLiteral("+61491570999");
+  state.senderId = u"+61491570999"_s;
   for (const auto& sample : samples) {
     simulator.clearFaults();
     misbehave(sample.kind, QString::fromLatin1(sample.operation), sample.number);
@@ -184,7 +187,7 @@ TEST_F(SmsSending, refusedScheduleOrSenderIdGivesUpTheSend) {
     EXPECT_EQ(notifier.shown.back().style, message_style::stop);
     EXPECT_THAT(notifier.takeTexts(), ElementsAre(sample.message));
   }
-  EXPECT_FALSE(operations().contains(QStringLiteral("sendSms")));
+  EXPECT_FALSE(operations().contains(u"sendSms"_s));
 }
 
 TEST_F(SmsSending, cancellingAnyCallEndsTheSend) {
@@ -203,7 +206,7 @@ TEST_F(SmsSending, cancellingAnyCallEndsTheSend) {
       {3, "setSmsSenderId", unreachable, SendOutcome::NotSent, 0},
       {4, "sendSms", unreachable, SendOutcome::Unanswered, 1},
   };
-  state.senderId = QStringLiteral("+61491570999");
+  state.senderId = u"+61491570999"_s;
   for (const auto& sample : samples) {
     simulator.clearFaults();
     misbehave(FaultKind::Late, QString::fromLatin1(sample.operation), 900);
@@ -222,7 +225,7 @@ TEST_F(SmsSending, cancellingAnyCallEndsTheSend) {
 
 TEST_F(SmsSending, answerThatOutranTheCancelCounts) {
   runner.cancel(1, {});
-  misbehave(FaultKind::Late, QStringLiteral("scheduleMessageDisable"), 300);
+  misbehave(FaultKind::Late, u"scheduleMessageDisable"_s, 300);
   EXPECT_EQ(send(draft_), SendOutcome::NotSent);
   simulator.clearFaults();
   runner.cancel(2, std::chrono::milliseconds(500));
@@ -231,18 +234,18 @@ TEST_F(SmsSending, answerThatOutranTheCancelCounts) {
 }
 
 TEST_F(SmsSending, failureToCancelAnOldScheduleIsPassedOver) {
-  misbehave(FaultKind::SoapFault, QStringLiteral("scheduleMessageDisable"));
+  misbehave(FaultKind::SoapFault, u"scheduleMessageDisable"_s);
   EXPECT_EQ(send(draft_), SendOutcome::Delivered);
   EXPECT_THAT(simulator.messages(), SizeIs(1));
 }
 
 TEST_F(SmsSending, tenThousandRecipientsGoOutInOneCall) {
-  simulator.setBalance(QStringLiteral("demo"), 10'000);
+  simulator.setBalance(u"demo"_s, 10'000);
   QStringList numbers;
-  for (int i = 0; i < 10'000; ++i) numbers.append(QStringLiteral("+6149%1").arg(100'000'00 + 100 * i));
+  for (int i = 0; i < 10'000; ++i) numbers.append(u"+6149%1"_s.arg(100'000'00 + 100 * i));
   EXPECT_EQ(send(draftTo(numbers)), SendOutcome::Delivered);
   EXPECT_THAT(log.entries(), SizeIs(10'000));
-  EXPECT_EQ(operations().count(QStringLiteral("sendSms")), 1);
+  EXPECT_EQ(operations().count(u"sendSms"_s), 1);
 }
 
 }  // namespace

@@ -17,6 +17,9 @@
 #include "ui/picture_button.h"
 
 namespace parlexo {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using testing::ElementsAre;
@@ -63,7 +66,7 @@ TEST_F(SmsPage, charactersThatCountTwiceAreCutFromTheEnd) {
 }
 
 TEST_F(SmsPage, aPastedZeroCharacterDoesNotEndTheText) {
-  paste(QStringLiteral("one") + QChar(u'\0') + QStringLiteral("\r\ntwo"));
+  paste(u"one"_s + QChar(u'\0') + u"\r\ntwo"_s);
   EXPECT_EQ(page.draft().text, "one\ntwo");
   EXPECT_EQ(counters(), "1/753");
 }
@@ -73,7 +76,7 @@ TEST_F(SmsPage, textThatIsTooLongForUnicodeIsReportedAndDropped) {
   choose("unicodeCharset");
   EXPECT_EQ(counters(), "5/0");
   choose("standardCharset");
-  paste(QStringLiteral("y"));
+  paste(u"y"_s);
   choose("unicodeCharset");
   EXPECT_THAT(notifier.takeTexts(),
               ElementsAre("You have entered too much text for messaging. Clearing text to send"));
@@ -95,7 +98,7 @@ TEST_F(SmsPage, selectionFillsTheBoxAndOpensWithItsContactsTicked) {
   EXPECT_EQ(page.draft().numbersList, "+61491570156,+60312345678");
   inSelection([](CSelectContactsDlg& dialog) {
     EXPECT_EQ(dialog.selection().size(), 2U);
-    EXPECT_TRUE(dialog.selection().contains(QStringLiteral("Lee, Bob")));
+    EXPECT_TRUE(dialog.selection().contains(u"Lee, Bob"_s));
     EXPECT_EQ(dialog.findChild<QAbstractItemView*>("contactList")->model()->rowCount(),
               3);  // Mute has no SMS
     dialog.reject();
@@ -162,7 +165,7 @@ TEST_F(SmsPage, noticeOfAnUnansweredSendStandsUntilTheNextOneIsAnswered) {
   select({"Ann"});
   QTest::keyClicks(&editor(), "Hi");
   EXPECT_FALSE(notice.isVisible());
-  misbehave(simulator::FaultKind::Close, QStringLiteral("sendSms"));
+  misbehave(simulator::FaultKind::Close, u"sendSms"_s);
   press("sendButton");
   EXPECT_TRUE(notice.isVisible());
   EXPECT_THAT(notifier.takeTexts(), ElementsAre(unreachable));

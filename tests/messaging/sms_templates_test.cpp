@@ -8,6 +8,9 @@
 #include "tests/messaging/sms_page_rig.h"
 
 namespace parlexo {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using testing::ElementsAre;
@@ -57,8 +60,8 @@ TEST_F(SmsPage, standardTemplateThatUnicodeCantHoldChoosesStandard) {
   } samples[] = {{QString(335, QChar(u'x')), SmsCharset::Unicode, "5/0"},
                  {QString(336, QChar(u'x')), SmsCharset::Standard, "3/424"},
                  {QString(100'000, QChar(u'x')), SmsCharset::Standard, "5/0"},
-                 {QStringLiteral("%%UNICODE%%004"), SmsCharset::Unicode, "1/321"},
-                 {QStringLiteral("%%UNICODE%%00480000"), SmsCharset::Unicode, "1/334"}};
+                 {u"%%UNICODE%%004"_s, SmsCharset::Unicode, "1/321"},
+                 {u"%%UNICODE%%00480000"_s, SmsCharset::Unicode, "1/334"}};
   for (const auto& [text, charset, shown] : samples) {
     editor().clear();
     choose("unicodeCharset");

@@ -13,6 +13,9 @@
 #include "ui/picture_button.h"
 
 namespace parlexo {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using testing::ElementsAre;
@@ -23,7 +26,7 @@ class StatusPage : public testing::Test, protected GatewayRig {
   void logMessage(const char* receipt, const char* date, const char* type = "SMS") {
     log.add({"+61491570156", QString::fromLatin1(receipt), "Delivered to Gateway", QString::fromLatin1(type),
              QString::fromLatin1(date)});
-    simulator.rememberReceipt(QStringLiteral("demo"), QString::fromLatin1(receipt));
+    simulator.rememberReceipt(u"demo"_s, QString::fromLatin1(receipt));
   }
   void open() {
     page_ = std::make_unique<CStatusDlg>(services());
@@ -76,12 +79,12 @@ TEST_F(StatusPage, getStatusAsksForTheSelectedRowsInListOrder) {
   getStatus();
   EXPECT_THAT(column(3), ElementsAre("Delivered to handset", "Delivered to Gateway", "Delivered to handset"));
   EXPECT_EQ(list_->selectionModel()->selectedRows().size(), 2);
-  EXPECT_EQ(operations().count(QStringLiteral("getStatus")), 2);
+  EXPECT_EQ(operations().count(u"getStatus"_s), 2);
   list_->clearSelection();
   journal.clear();
   getStatus();
   EXPECT_THAT(journal, IsEmpty()) << "nothing selected, no box either";
-  EXPECT_EQ(operations().count(QStringLiteral("getStatus")), 2);
+  EXPECT_EQ(operations().count(u"getStatus"_s), 2);
   EXPECT_THAT(notifier.takeTexts(), IsEmpty());
 }
 
@@ -122,7 +125,7 @@ TEST_F(StatusPage, countLineSaysWhatIsShownAndWhatTheFileWillLose) {
   logMessage("R0", "01/01/2026 10:00:01");
   open();
   EXPECT_EQ(count(), "1 message of this type, 1 in all.");
-  for (int i = 1; i < 1000; ++i) logMessage(qPrintable(QStringLiteral("R%1").arg(i)), "", "Fax");
+  for (int i = 1; i < 1000; ++i) logMessage(qPrintable(u"R%1"_s.arg(i)), "", "Fax");
   page_->selectType("Fax");
   EXPECT_EQ(count(), "999 messages of this type, 1000 in all.");
   logMessage("R1000", "", "Fax");

@@ -11,6 +11,9 @@
 #include "tests/support/recording_notifier.h"
 
 namespace parlexo {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using testing::AllOf;
@@ -22,11 +25,9 @@ const QDateTime sendTime(QDate(2026, 3, 4), QTime(5, 6, 7));
 
 TEST(Receipts, thatDoNotPairWithTheNumbersAreNotLogged) {
   for (const char* receipts : {"", "+1:R1", "+1:R1,+2:R2,", "+1:R1,+2:R2,+3:R3"})
-    EXPECT_TRUE(statusEntries(QString::fromLatin1(receipts), QStringLiteral("+1,+2"), {}, sendTime).empty())
-        << receipts;
+    EXPECT_TRUE(statusEntries(QString::fromLatin1(receipts), u"+1,+2"_s, {}, sendTime).empty()) << receipts;
   EXPECT_TRUE(statusEntries({}, {}, {}, sendTime).empty());
-  EXPECT_EQ(statusEntries(QStringLiteral("+1"), QStringLiteral("+1"), {}, sendTime).front().receipt, "")
-      << "no colon, a number alone";
+  EXPECT_EQ(statusEntries(u"+1"_s, u"+1"_s, {}, sendTime).front().receipt, "") << "no colon, a number alone";
 }
 
 class StatusFileTest : public testing::Test {
@@ -37,19 +38,18 @@ class StatusFileTest : public testing::Test {
   }
 
   QTemporaryDir folder_;
-  QString path_ = folder_.filePath(QStringLiteral("Status.xml"));
+  QString path_ = folder_.filePath(u"Status.xml"_s);
   StatusFile file_{path_, {std::chrono::milliseconds(50), std::chrono::milliseconds(50)}};
   StatusLog log_;
   RecordingNotifier notifier_;
 };
 
-StatusEntry entry(const QString& receipt, const QString& status = QStringLiteral("Delivered to Gateway")) {
-  return {QStringLiteral("+61491570156"), receipt, status, QStringLiteral("SMS"),
-          QStringLiteral("21/11/2026 10:11:12")};
+StatusEntry entry(const QString& receipt, const QString& status = u"Delivered to Gateway"_s) {
+  return {u"+61491570156"_s, receipt, status, u"SMS"_s, u"21/11/2026 10:11:12"_s};
 }
 
 TEST_F(StatusFileTest, writtenFormIsExact) {
-  log_.add(entry(QStringLiteral("R1"), QString::fromUtf8("G\u00F6ne <\"&\">")));
+  log_.add(entry(u"R1"_s, QString::fromUtf8("G\u00F6ne <\"&\">")));
   ASSERT_TRUE(file_.save(log_));
   EXPECT_EQ(readBytes(path_).toStdString(),
             "<Status>\n"
@@ -65,7 +65,7 @@ TEST_F(StatusFileTest, onlyTheFirstThousandElementsAreRead) {
     bytes += "<Message Date=\"d\" Status=\"\xE2\x9C\x94\">" + QByteArray::number(i) + "</Message>\n";
   load(bytes + "</Status>");
   EXPECT_EQ(log_.entries().size(), 999U) << "an element of another name counts";
-  EXPECT_EQ(log_.entries().at(QStringLiteral("999")), (StatusEntry{{}, "999", u"\u2714"_qs, {}, "d"}));
+  EXPECT_EQ(log_.entries().at(u"999"_s), (StatusEntry{{}, "999", u"\u2714"_s, {}, "d"}));
   EXPECT_FALSE(log_.isModified());
   EXPECT_THAT(notifier_.takeTexts(), IsEmpty());
 }
@@ -80,11 +80,11 @@ TEST_F(StatusFileTest, ofTooManyEntriesTheNewestAreWritten) {
   EXPECT_EQ(readBytes(path_).count("<Message "), 1001);
   EXPECT_FALSE(readBytes(path_).contains("/01/2026")) << "the oldest month";
   file_.load(log_, notifier_);
-  EXPECT_TRUE(log_.entries().contains(QStringLiteral("857"))) << "the newest, 1199 days later";
+  EXPECT_TRUE(log_.entries().contains(u"857"_s)) << "the newest, 1199 days later";
 }
 
 TEST_F(StatusFileTest, missingFileIsAWarning) {
-  log_.add(entry(QStringLiteral("old")));
+  log_.add(entry(u"old"_s));
   file_.load(log_, notifier_);
   EXPECT_EQ(notifier_.shown.at(0).style, message_style::exclamation);
   EXPECT_THAT(notifier_.takeTexts(), ElementsAre("Could not locate the status file."));
@@ -141,7 +141,7 @@ TEST_F(StatusFileTest, tenRejectedFilesAreKeptAndOneThatCannotBeKeptIsNotReplace
   for (int i = 10; i < 20; ++i) {
     load(QByteArray::number(i));
     ASSERT_TRUE(file_.save(log_));
-    EXPECT_EQ(readBytes(path_ + QStringLiteral(".%1.bad").arg(i)), QByteArray::number(i));
+    EXPECT_EQ(readBytes(path_ + u".%1.bad"_s.arg(i)), QByteArray::number(i));
   }
   load("9\n1");
   ASSERT_TRUE(file_.save(log_));
@@ -154,7 +154,7 @@ TEST_F(StatusFileTest, tenRejectedFilesAreKeptAndOneThatCannotBeKeptIsNotReplace
   EXPECT_EQ(QDir(folder_.path()).entryList({"*.bad"}).size(), 11) << "ten and the user's own";
   QDir(folder_.path()).mkdir("Status.xml.21.bad");
   load("twenty");
-  log_.add(entry(QStringLiteral("R")));
+  log_.add(entry(u"R"_s));
   EXPECT_FALSE(file_.save(log_));
   EXPECT_EQ(readBytes(path_), "twenty");
   EXPECT_TRUE(log_.isModified());
@@ -168,8 +168,8 @@ TEST_F(StatusFileTest, aHugeFileIsRefusedAndRenamed) {
 }
 
 TEST_F(StatusFileTest, controlCharactersAreNeitherWrittenNorAReasonToRefuseAFile) {
-  const QString bad = QStringLiteral("a\x13") + QChar(0) + "\x1B\x7F\u0085\uFFFE" + QChar(0xD800) +
-                      "b\r\nc\td" + QString::fromUtf8("\U0001F600\u2013");
+  const QString bad = u"a\x13"_s + QChar(0) + "\x1B\x7F\u0085\uFFFE" + QChar(0xD800) + "b\r\nc\td" +
+                      QString::fromUtf8("\U0001F600\u2013");
   const QString clean = QString::fromUtf8("ab  c d\U0001F600\u2013");
   log_.add({bad, "1" + bad, bad, bad, bad});
   ASSERT_TRUE(log_.setStatus("1" + clean, bad));
@@ -243,8 +243,8 @@ TEST_F(StatusFileTest, whatMadeRoomForAnotherProgramsEntriesStaysInMemory) {
 }
 
 TEST_F(StatusFileTest, aFailedSaveLeavesTheLogModifiedAndAHeldLockDefersAllButTheLast) {
-  log_.add(entry(QStringLiteral("R")));
-  EXPECT_FALSE(StatusFile(folder_.filePath(QStringLiteral("missing/Status.xml"))).save(log_));
+  log_.add(entry(u"R"_s));
+  EXPECT_FALSE(StatusFile(folder_.filePath(u"missing/Status.xml"_s)).save(log_));
   SharedFile lock;
   ASSERT_EQ(lock.open(path_ + ".lock", SharedFile::Mode::Write), SharedFile::OpenResult::Opened);
   EXPECT_FALSE(file_.save(log_));
@@ -278,7 +278,7 @@ TEST(StatusOrder, onlyTheSecondsOfTheDifferenceCount) {
   EXPECT_EQ(compared("01/02/2026 10:01:05", "01/02/2026 10:00:10"), 55);
   EXPECT_EQ(compared("01/02/2026 10:00:00", "02/02/2026 10:00:59"), -59);
   EXPECT_EQ(compared("8/9/2026 8:09:08", "08/09/2026 08:09:09"), -1);
-  EXPECT_EQ(statusInstant(QStringLiteral("yesterday")), 0);
+  EXPECT_EQ(statusInstant(u"yesterday"_s), 0);
 }
 
 TEST(StatusOrder, mergesNeighboursFirstThoughTheOrderGoesInACircle) {

@@ -7,6 +7,9 @@
 #include "tests/messaging/gateway_rig.h"
 
 namespace parlexo {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using simulator::FaultKind;
@@ -18,9 +21,9 @@ class StatusQuery : public testing::Test, protected GatewayRig {
  protected:
   StatusQuery() {
     SmsDraft draft;
-    draft.text = QStringLiteral("Hello");
-    draft.displayList = QStringLiteral("somebody");
-    draft.numbersList = QStringLiteral("+61491570156,+60312345678,+861012345678");
+    draft.text = u"Hello"_s;
+    draft.displayList = u"somebody"_s;
+    draft.numbersList = u"+61491570156,+60312345678,+861012345678"_s;
     (void)SmsSendFlow(services()).send(draft);
     receipts_ = simulator.messages().at(0).receipts;
     journal.clear();
@@ -78,7 +81,7 @@ TEST_F(StatusQuery, aFailedReceiptIsSkippedAndReportedOnce) {
 }
 
 TEST_F(StatusQuery, aGatewayOutOfReachIsGivenUpAfterThreeReceipts) {
-  misbehave(FaultKind::SoapFault, QStringLiteral("getStatus"));
+  misbehave(FaultKind::SoapFault, u"getStatus"_s);
   query(receipts_ + receipts_);
   EXPECT_EQ(queries().size(), 3);
   EXPECT_THAT(notifier.takeTexts(), ElementsAre(unreachable));
@@ -87,7 +90,7 @@ TEST_F(StatusQuery, aGatewayOutOfReachIsGivenUpAfterThreeReceipts) {
 }
 
 TEST_F(StatusQuery, cancellingKeepsWhatWasReceivedAndShowsNoError) {
-  misbehave(FaultKind::Late, QStringLiteral("getStatus"), 150);
+  misbehave(FaultKind::Late, u"getStatus"_s, 150);
   runner.cancel(2, std::chrono::milliseconds(20));
   query(receipts_);
   EXPECT_EQ(status(0), "Queued at gateway");

@@ -10,6 +10,9 @@
 #include "tests/support/file_bytes.h"
 
 namespace parlexo {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using testing::ElementsAre;
@@ -57,8 +60,7 @@ TEST_F(TemplateStore, listsTemplateFilesAndRemovesThem) {
 }
 
 TEST_F(TemplateStore, refusesNamesThatNoFileCanHave) {
-  for (const QString& name : {QString(), QStringLiteral("../out"), QStringLiteral("a\\b"),
-                              QStringLiteral("a") + QChar(u'\0'), QString(300, u'x')})
+  for (const QString& name : {QString(), u"../out"_s, u"a\\b"_s, u"a"_s + QChar(u'\0'), QString(300, u'x')})
     EXPECT_FALSE(folder.save(name, {"", "Hi"})) << name.toStdString();
   EXPECT_THAT(folder.names(), IsEmpty());
   const TemplateFolder missing(directory.filePath("missing"));

@@ -18,14 +18,14 @@ QString cellWith(const protocol::Fields& fields) {
   QStringList names;
   for (const protocol::Field& field : fields) {
     EXPECT_EQ(field.name[0], "ssndbo"[static_cast<int>(field.type)]) << field.name;
-    names << u"`%1`"_qs.arg(QLatin1String(field.name));
+    names << u"`%1`"_s.arg(QLatin1String(field.name));
   }
-  return names.isEmpty() ? u"(none)"_qs : names.join(u", "_qs);
+  return names.isEmpty() ? u"(none)"_s : names.join(u", "_s);
 }
 
 TEST(Contract, isTheTableOfTheDocumentation) {
   const QString page = QString::fromUtf8(readBytes(QStringLiteral(GATEWAY_PAGE)));
-  static const QRegularExpression row(u"^\\| \\d+ \\| `\\w+` \\|.*`.*$"_qs,
+  static const QRegularExpression row(u"^\\| \\d+ \\| `\\w+` \\|.*`.*$"_s,
                                       QRegularExpression::MultilineOption);
   QStringList documented;
   for (const auto& match : row.globalMatch(page)) documented << match.captured();
@@ -34,7 +34,7 @@ TEST(Contract, isTheTableOfTheDocumentation) {
   protocol::forEachOperation([&found](const auto& operation) {
     typename std::remove_cvref_t<decltype(operation)>::Request request;
     typename std::remove_cvref_t<decltype(operation)>::Response response;
-    found << u"| %1 | `%2` | %3 | %4 |"_qs.arg(found.size() + 1)
+    found << u"| %1 | `%2` | %3 | %4 |"_s.arg(found.size() + 1)
                  .arg(QString::fromStdString(std::string(operation.name)),
                       cellWith(operation.fields(request)), cellWith(operation.fields(response)));
   });

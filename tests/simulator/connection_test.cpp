@@ -11,6 +11,8 @@
 
 namespace parlexo::simulator {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 Options impatientOptions() {
@@ -94,7 +96,7 @@ TEST_F(GatewayConnections, manyClientsAtOnceGetReceiptsOfTheirOwn) {
   for (const AcceptedMessage& message : simulator_.messages())
     for (const QString& receipt : message.receipts) receipts.insert(receipt);
   EXPECT_EQ(receipts.size(), clients * sends * 2);
-  EXPECT_EQ(simulator_.balance(QStringLiteral("demo")), 980.0);
+  EXPECT_EQ(simulator_.balance(u"demo"_s), 980.0);
 }
 
 }  // namespace

@@ -6,6 +6,8 @@
 
 namespace parlexo::simulator {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class GatewayFaults : public testing::Test {
@@ -49,7 +51,7 @@ TEST_F(GatewayFaults, textOfAnAnswerMayBeAnyUnicode) {
   // What the code page has travels as the character of its byte's number, the rest as itself.
   EXPECT_EQ(valueOf(client().call("getNews", {}), "sNews"), "\xC3\xA9\xC2\xA0");
   simulator_.clearFaults();
-  simulator_.setNews(QStringLiteral("\u20AC \u0100 \U0001F600"));
+  simulator_.setNews(u"\u20AC \u0100 \U0001F600"_s);
   EXPECT_EQ(valueOf(client().call("getNews", {}), "sNews"), "\xC2\x80 \xC4\x80 \xF0\x9F\x98\x80");
 }
 
@@ -81,12 +83,12 @@ TEST_F(GatewayFaults, lateAnswerHoldsUpNobodyElse) {
 }
 
 TEST_F(GatewayFaults, stoppedGatewayRefusesAndComesBackWithItsAccounts) {
-  simulator_.setBalance(QStringLiteral("demo"), 7.0);
+  simulator_.setBalance(u"demo"_s, 7.0);
   simulator_.stop();
   EXPECT_EQ(client().logIn(), "(none)");
   ASSERT_TRUE(simulator_.start());
   EXPECT_NE(client().logIn(), "(none)");
-  EXPECT_EQ(simulator_.balance(QStringLiteral("demo")), 7.0);
+  EXPECT_EQ(simulator_.balance(u"demo"_s), 7.0);
 
   Options taken;
   taken.port = simulator_.port();

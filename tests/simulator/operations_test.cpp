@@ -6,6 +6,8 @@
 
 namespace parlexo::simulator {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using std::chrono::seconds;
@@ -74,7 +76,7 @@ TEST_F(GatewayOperations, everyNumberGetsItsOwnReceiptInOrderAndNumbersEndingIn9
   EXPECT_EQ(pairs[2], "60312345678:FAIL");
   EXPECT_THAT(pairs[3].toStdString(), StartsWith("+861012345678:"));
   EXPECT_NE(pairs[0].split(':')[1], pairs[3].split(':')[1]);
-  EXPECT_EQ(simulator_.balance(QStringLiteral("demo")), 99.90) << "failed numbers cost nothing";
+  EXPECT_EQ(simulator_.balance(u"demo"_s), 99.90) << "failed numbers cost nothing";
 }
 
 TEST_F(GatewayOperations, deliveryAdvancesWithTime) {
@@ -86,7 +88,7 @@ TEST_F(GatewayOperations, deliveryAdvancesWithTime) {
   EXPECT_EQ(valueOf(statusOfReceipt(receipt), "sStatus"), "Delivered to handset");
   EXPECT_EQ(valueOf(statusOfReceipt("FAIL"), "sStatus"), "Not accepted by gateway");
   EXPECT_EQ(valueOf(statusOfReceipt("nonsense"), "nErrorCode"), "10");
-  simulator_.rememberReceipt(QStringLiteral("demo"), QStringLiteral("OLD-1"));
+  simulator_.rememberReceipt(u"demo"_s, u"OLD-1"_s);
   EXPECT_EQ(valueOf(statusOfReceipt("OLD-1"), "sStatus"), "Delivered to handset");
 }
 
@@ -147,11 +149,11 @@ TEST_F(GatewayOperations, refusesWhatCannotBeSentAndTakesNoMoneyForIt) {
   };
   for (const Case& each : cases)
     EXPECT_EQ(valueOf(sendSms(each.message, each.numbers), "nErrorCode"), each.code);
-  EXPECT_EQ(simulator_.balance(QStringLiteral("demo")), 99.75) << "five parts at 0.05";
+  EXPECT_EQ(simulator_.balance(u"demo"_s), 99.75) << "five parts at 0.05";
 
-  simulator_.setBalance(QStringLiteral("demo"), 0.09);
+  simulator_.setBalance(u"demo"_s, 0.09);
   EXPECT_EQ(valueOf(sendSms("Hello", "+61491570156,+60312345678"), "nErrorCode"), "5");
-  EXPECT_EQ(simulator_.balance(QStringLiteral("demo")), 0.09);
+  EXPECT_EQ(simulator_.balance(u"demo"_s), 0.09);
   EXPECT_EQ(simulator_.messages().size(), 1U);
 }
 
@@ -161,10 +163,10 @@ TEST_F(GatewayOperations, messagesAreKeptAndLoggedAsAPersonReadsThem) {
   (void)sendSms("two\n\x1B]", "+61491570156");
   const auto messages = simulator_.messages();
   ASSERT_EQ(messages.size(), 2U);
-  EXPECT_EQ(messages[0].text, QStringLiteral("Hi€"));
+  EXPECT_EQ(messages[0].text, u"Hi€"_s);
   EXPECT_TRUE(messages[0].unicode);
   EXPECT_EQ(messages[0].rawText, "%%UNICODE%%0048006920AC");
-  EXPECT_EQ(messages[0].senderId, QStringLiteral("Parlexo"));
+  EXPECT_EQ(messages[0].senderId, u"Parlexo"_s);
   EXPECT_TRUE(messages[1].senderId.isEmpty()) << "a sender ID holds for one message";
   EXPECT_THAT(log().toStdString(), HasSubstr("SMS from demo (Unicode, sender ID Parlexo, cost 0.05)"));
   EXPECT_THAT(log().toStdString(), HasSubstr("text: Hi€"));
@@ -183,7 +185,7 @@ TEST_F(GatewayOperations, fileArrivesWithItsNameSizeAndHash) {
   EXPECT_EQ(valueOf(sendMms(QByteArray(50 * 1024 + 1, 'x')), "nErrorCode"), "8");
 
   const AcceptedMessage message = simulator_.messages().front();
-  EXPECT_EQ(message.text, QStringLiteral("A picture"));
+  EXPECT_EQ(message.text, u"A picture"_s);
   EXPECT_EQ(message.fileSha256, QCryptographicHash::hash(content, QCryptographicHash::Sha256).toHex());
 }
 
@@ -203,7 +205,7 @@ TEST_F(GatewayOperations, passwordAndSenderIdAreJudged) {
   EXPECT_EQ(change("wrong", "better12"), "4");
   EXPECT_EQ(change("demo1234", "letters"), "11");
   EXPECT_EQ(change("demo1234", "better12"), "0");
-  EXPECT_TRUE(simulator_.hasPassword(QStringLiteral("demo"), QStringLiteral("better12")));
+  EXPECT_TRUE(simulator_.hasPassword(u"demo"_s, u"better12"_s));
 
   const auto setSender = [this](const QByteArray& senderId) {
     return codeOf("setSmsSenderId", text("sSenderId", senderId));
@@ -221,7 +223,7 @@ TEST_F(GatewayOperations, partnerKeepsUsersOfHisOwn) {
                                           "<dAmount xsi:type=\"xsd:double\">12.5</dAmount>" +
                                           text("sDescription", "first")),
             "0");
-  EXPECT_EQ(simulator_.balance(QStringLiteral("ann@demo")), 12.5);
+  EXPECT_EQ(simulator_.balance(u"ann@demo"_s), 12.5);
   EXPECT_EQ(codeOf("sessionStart", text("sUser", "ann@demo") + text("sPassword", "")), "4");
 
   const QByteArray opened =

@@ -8,13 +8,15 @@
 
 namespace parlexo::simulator {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using testing::HasSubstr;
 using testing::StartsWith;
 
 QString program() {
-  return QCoreApplication::applicationDirPath() + QStringLiteral("/parlexo-simulator");
+  return QCoreApplication::applicationDirPath() + u"/parlexo-simulator"_s;
 }
 
 TEST(CommandLine, saysWhatIsWrong) {
@@ -37,7 +39,7 @@ TEST(CommandLine, saysWhatIsWrong) {
 
 TEST(GatewayProgram, servesUntilItIsAskedToEnd) {
   QProcess process;
-  process.start(program(), {QStringLiteral("--port"), QStringLiteral("0")});
+  process.start(program(), {u"--port"_s, u"0"_s});
   ASSERT_TRUE(process.waitForReadyRead(10000));
   const QByteArray announcement = process.readLine();
   const qsizetype colon = announcement.lastIndexOf(':');
@@ -53,7 +55,7 @@ TEST(GatewayProgram, servesUntilItIsAskedToEnd) {
 
 TEST(GatewayProgram, badOptionEndsItWithAMessage) {
   QProcess process;
-  process.start(program(), {QStringLiteral("--prot")});
+  process.start(program(), {u"--prot"_s});
   ASSERT_TRUE(process.waitForFinished(10000));
   EXPECT_EQ(process.exitCode(), 2);
   EXPECT_THAT(process.readAllStandardError().toStdString(), StartsWith("parlexo-simulator: unknown option"));
@@ -83,7 +85,7 @@ TEST(MessageText, countsUnitsAndParts) {
 }
 
 TEST(MessageText, logLineHoldsNoControlCharacter) {
-  EXPECT_EQ(forLog(QStringLiteral("a\r\nb\nc\x1B[31m\r")), QStringLiteral("a⏎b⏎c\\x1b[31m\\x0d"));
+  EXPECT_EQ(forLog(u"a\r\nb\nc\x1B[31m\r"_s), u"a⏎b⏎c\\x1b[31m\\x0d"_s);
 }
 
 }  // namespace

@@ -37,9 +37,9 @@ struct SampleDialog {
 
   GradientDialog dialog;
   QLineEdit* edit = new QLineEdit;
-  PictureButton* plain = new PictureButton(QStringLiteral("&Plain"));
-  PictureButton* strong = new PictureButton(QStringLiteral("S&end >"));
-  PictureButton* off = new PictureButton(QStringLiteral("&Off"));
+  PictureButton* plain = new PictureButton(u"&Plain"_s);
+  PictureButton* strong = new PictureButton(u"S&end >"_s);
+  PictureButton* off = new PictureButton(u"&Off"_s);
   QSignalSpy plainClicks{plain, &QAbstractButton::clicked};
   QSignalSpy strongClicks{strong, &QAbstractButton::clicked};
   QSignalSpy offClicks{off, &QAbstractButton::clicked};
@@ -105,7 +105,7 @@ TEST(PictureButton, hiddenOrDisabledDefaultIsNotPressedUnseen) {
 TEST(GradientDialog, opensAsHighAsItsTextsNeed) {
   GradientDialog dialog;
   dialog.setMinimumWidth(300);
-  auto* words = new QLabel(QString(u"words "_qs).repeated(9), &dialog);
+  auto* words = new QLabel(QString(u"words "_s).repeated(9), &dialog);
   words->setWordWrap(true);
   auto* column = new QVBoxLayout(&dialog);
   column->addWidget(words);
@@ -116,16 +116,16 @@ TEST(GradientDialog, opensAsHighAsItsTextsNeed) {
 }
 
 TEST(ButtonAccessibility, assistiveToolsReadNameAndRoleAndCanPress) {
-  PictureButton button(QStringLiteral("Fish && &Chips"));
-  HyperlinkLabel link(QStringLiteral("About"));
+  PictureButton button(u"Fish && &Chips"_s);
+  HyperlinkLabel link(u"About"_s);
   struct Case {
     QAbstractButton* button;
     QAccessible::Role role;
     QString name;
     QString key;
   };
-  for (const Case& row : {Case{&button, QAccessible::Button, u"Fish & Chips"_qs, u"Alt+C"_qs},
-                          Case{&link, QAccessible::Link, u"About"_qs, {}}}) {
+  for (const Case& row : {Case{&button, QAccessible::Button, u"Fish & Chips"_s, u"Alt+C"_s},
+                          Case{&link, QAccessible::Link, u"About"_s, {}}}) {
     QSignalSpy clicks(row.button, &QAbstractButton::clicked);
     QAccessibleInterface* seen = QAccessible::queryAccessibleInterface(row.button);
     ASSERT_NE(seen, nullptr);
@@ -156,7 +156,7 @@ TEST(HyperlinkLabel, onlyWebAddressesReachTheBrowser) {
   };
   for (const Case& row : cases) {
     std::vector<QUrl> opened;
-    HyperlinkLabel link(QStringLiteral("link"), QUrl(QString::fromLatin1(row.address)));
+    HyperlinkLabel link(u"link"_s, QUrl(QString::fromLatin1(row.address)));
     link.setOpener([&](const QUrl& page) {
       opened.push_back(page);
       return true;

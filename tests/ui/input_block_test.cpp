@@ -14,6 +14,9 @@
 #include "ui/picture_button.h"
 
 namespace parlexo {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct SampleWindow {
@@ -40,7 +43,7 @@ struct SampleWindow {
   }
 
   GradientDialog window;
-  PictureButton* button = new PictureButton(QStringLiteral("&Send"));
+  PictureButton* button = new PictureButton(u"&Send"_s);
 };
 
 TEST(InputBlock, inputIsDroppedWhileItLivesAndWorksAgainAfter) {

@@ -81,7 +81,7 @@ class RecordTableTest : public testing::Test {
   Settings settings_{folder_.path()};
   Sheet sheet_{
       {{"10", "x", "ccc"}, {"b", "=1", "a"}, {"nan", "y", ""}, {"-2.5", "Z", "bb"}, {"A", "y", "d"}}};
-  RecordTable::Form form_{u"sheet"_qs, u"Sheet"_qs, {{60, {}}, {80, {}}, {100, {}}}};
+  RecordTable::Form form_{u"sheet"_s, u"Sheet"_s, {{60, {}}, {80, {}}, {100, {}}}};
   std::unique_ptr<RecordTable> table_;
 };
 
@@ -123,14 +123,13 @@ TEST_F(RecordTableTest, selectionCopyAndExportFollowWhatIsShown) {
   EXPECT_THAT(table_->selectedRecords(), ElementsAre(3, 1));
   sheet_.change(1, "b\r\nc\td");
   QTest::keySequence(table_.get(), QKeySequence::Copy);
-  EXPECT_EQ(QGuiApplication::clipboard()->text(), u"bb\t-2.5\tZ\na\tb  c d\t=1"_qs);
+  EXPECT_EQ(QGuiApplication::clipboard()->text(), u"bb\t-2.5\tZ\na\tb  c d\t=1"_s);
   EXPECT_EQ(table_->toCsv().bytes(),
             "\xEF\xBB\xBFNote,Key,Value\r\nbb,-2.5,Z\r\nccc,10,x\r\nd,A,y\r\n"
             "a,\"b\r\nc\td\",'=1\r\n,nan,y\r\n");
   table_->clearSelection();
   table_->copySelected();
-  EXPECT_TRUE(QGuiApplication::clipboard()->text().startsWith(u"bb"_qs))
-      << "nothing selected, nothing copied";
+  EXPECT_TRUE(QGuiApplication::clipboard()->text().startsWith(u"bb"_s)) << "nothing selected, nothing copied";
 }
 
 TEST_F(RecordTableTest, rowSelectedBeforeTheListIsShownIsInSight) {
@@ -150,7 +149,7 @@ TEST_F(RecordTableTest, widthsOfTheUserLastAndAllOthersFollowTheFont) {
   const int usual = table_->columnWidth(0);
   EXPECT_GE(usual, 60);
   table_->resize(700, 200);
-  EXPECT_EQ(settings_.columnWidths(u"sheet"_qs), QList<int>()) << "the last column follows the window";
+  EXPECT_EQ(settings_.columnWidths(u"sheet"_s), QList<int>()) << "the last column follows the window";
   table_->header()->resizeSection(1, 133);
   open();
   EXPECT_EQ(table_->columnWidth(1), 133);
@@ -164,7 +163,7 @@ TEST_F(RecordTableTest, exportWritesWhereTheUserSaysAndTellsWhyItCannot) {
   open();
   RecordingNotifier notifier;
   ExportButton button(*table_, notifier);
-  button.setSuggestedName(u"My list"_qs);
+  button.setSuggestedName(u"My list"_s);
   QString path;
   QString suggested;
   button.setPathAsker([&](QWidget*, const QString& name) {
@@ -172,12 +171,12 @@ TEST_F(RecordTableTest, exportWritesWhereTheUserSaysAndTellsWhyItCannot) {
     return path;
   });
   button.click();
-  EXPECT_EQ(suggested, u"My list"_qs);
-  path = folder_.filePath(u"list.csv"_qs);
+  EXPECT_EQ(suggested, u"My list"_s);
+  path = folder_.filePath(u"list.csv"_s);
   button.click();
   EXPECT_EQ(readBytes(path), table_->toCsv().bytes());
   EXPECT_TRUE(notifier.shown.empty());
-  path = folder_.filePath(u"nowhere/list.csv"_qs);
+  path = folder_.filePath(u"nowhere/list.csv"_s);
   button.click();
   ASSERT_EQ(notifier.shown.size(), 1U);
   EXPECT_TRUE(notifier.shown[0].text.contains(QDir::toNativeSeparators(path)));

@@ -4,6 +4,9 @@
 #include <gtest/gtest.h>
 
 namespace parlexo {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 TEST(UnsendableHint, tellsOfAllFieldsAndKeepsAPasswordToItself) {
@@ -17,15 +20,14 @@ TEST(UnsendableHint, tellsOfAllFieldsAndKeepsAPasswordToItself) {
     QString password;
     QString told;
   } cases[] = {
-      {QStringLiteral("Zo\u00EB \u20AC"), QStringLiteral("\u00E9"), {}},
-      {QStringLiteral("\u4F60"), {}, QStringLiteral("Will be sent as \"?\":  \u4F60")},
-      {{}, QStringLiteral("\u4F60"), QStringLiteral("Will be sent as \"?\":  characters of the password")},
-      {QStringLiteral("\u4F60\u597D"), QStringLiteral("\u0436"),
-       QStringLiteral("Will be sent as \"?\":  characters of the password  \u4F60  \u597D")},
-      {QStringLiteral("\u0430\u0431\u0432\u0433\u0434\u0435\u0436\u0437\u0438"),
+      {u"Zo\u00EB \u20AC"_s, u"\u00E9"_s, {}},
+      {u"\u4F60"_s, {}, u"Will be sent as \"?\":  \u4F60"_s},
+      {{}, u"\u4F60"_s, u"Will be sent as \"?\":  characters of the password"_s},
+      {u"\u4F60\u597D"_s, u"\u0436"_s,
+       u"Will be sent as \"?\":  characters of the password  \u4F60  \u597D"_s},
+      {u"\u0430\u0431\u0432\u0433\u0434\u0435\u0436\u0437\u0438"_s,
        {},
-       QStringLiteral(
-           "Will be sent as \"?\":  \u0430  \u0431  \u0432  \u0433  \u0434  \u0435  \u0436  \u0437  \u2026")},
+       u"Will be sent as \"?\":  \u0430  \u0431  \u0432  \u0433  \u0434  \u0435  \u0436  \u0437  \u2026"_s},
   };
   for (const auto& each : cases) {
     user.setText(each.user);

@@ -22,6 +22,8 @@
 #include "tools/contact_store_stress/verdict.h"
 #include "tools/contact_store_stress/worker.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using namespace parlexo::stress;
@@ -108,28 +110,21 @@ class Arena {
 };
 
 void describeOptions(QCommandLineParser& parser) {
-  parser.setApplicationDescription(QStringLiteral(
-      "Lets processes work in one contacts folder, kills some, and checks that nothing promised was lost."));
+  parser.setApplicationDescription(
+      u"Lets processes work in one contacts folder, kills some, and checks that nothing promised was lost."_s);
   parser.addHelpOption();
   parser.addOptions(
-      {{QStringLiteral("processes"), QStringLiteral("How many work at the same time."), QStringLiteral("N"),
-        QStringLiteral("4")},
-       {QStringLiteral("seconds"), QStringLiteral("How long they work."), QStringLiteral("S"),
-        QStringLiteral("5")},
-       {QStringLiteral("kill-within"),
-        QStringLiteral("The longest time until the next of them is killed, in milliseconds."),
-        QStringLiteral("MS"), QStringLiteral("100")},
-       {QStringLiteral("seed"), QStringLiteral("Seed of what they choose and when they die."),
-        QStringLiteral("K"), QStringLiteral("1")},
-       {QStringLiteral("folder"),
-        QStringLiteral("Where to work, and leave the files; a temporary folder without it. Given "
-                       "several times: ways to one folder, such as mounts of one share."),
-        QStringLiteral("DIR")},
-       {QStringLiteral("journals"),
-        QStringLiteral("Where the processes keep their journals; the first folder without it."),
-        QStringLiteral("DIR")},
-       {QStringLiteral("groups"),
-        QStringLiteral("Delete group files and make them anew under the others' hands.")}});
+      {{u"processes"_s, u"How many work at the same time."_s, u"N"_s, u"4"_s},
+       {u"seconds"_s, u"How long they work."_s, u"S"_s, u"5"_s},
+       {u"kill-within"_s, u"The longest time until the next of them is killed, in milliseconds."_s, u"MS"_s,
+        u"100"_s},
+       {u"seed"_s, u"Seed of what they choose and when they die."_s, u"K"_s, u"1"_s},
+       {u"folder"_s,
+        u"Where to work, and leave the files; a temporary folder without it. Given "
+        "several times: ways to one folder, such as mounts of one share."_s,
+        u"DIR"_s},
+       {u"journals"_s, u"Where the processes keep their journals; the first folder without it."_s, u"DIR"_s},
+       {u"groups"_s, u"Delete group files and make them anew under the others' hands."_s}});
 }
 
 RunOptions parseOptions(const QCoreApplication& application) {
@@ -140,13 +135,13 @@ RunOptions parseOptions(const QCoreApplication& application) {
   bool secondsOk = false;
   bool killWithinOk = false;
   bool seedOk = false;
-  RunOptions options = {parser.value(QStringLiteral("processes")).toInt(&processesOk),
-                        parser.value(QStringLiteral("seconds")).toInt(&secondsOk),
-                        parser.value(QStringLiteral("kill-within")).toInt(&killWithinOk),
-                        parser.value(QStringLiteral("seed")).toULongLong(&seedOk),
-                        parser.values(QStringLiteral("folder")),
-                        parser.value(QStringLiteral("journals")),
-                        parser.isSet(QStringLiteral("groups"))};
+  RunOptions options = {parser.value(u"processes"_s).toInt(&processesOk),
+                        parser.value(u"seconds"_s).toInt(&secondsOk),
+                        parser.value(u"kill-within"_s).toInt(&killWithinOk),
+                        parser.value(u"seed"_s).toULongLong(&seedOk),
+                        parser.values(u"folder"_s),
+                        parser.value(u"journals"_s),
+                        parser.isSet(u"groups"_s)};
   if (!processesOk || !secondsOk || !killWithinOk || !seedOk || options.processes < 1 ||
       options.seconds < 1 || options.killWithin < 1) {
     std::fputs("The numbers are whole ones, and all but the seed at least 1.\n", stderr);

@@ -9,6 +9,8 @@
 
 namespace parlexo::stress {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // FNV-1a; any hash that spreads would do.
@@ -25,8 +27,8 @@ ContactRecord contactFor(const std::string& key, const std::string& value) {
   contact.email = QString::fromStdString(value);
   contact.phone = digest(key, value, 0);
   contact.fax = digest(key, value, 1);
-  contact.supportsSms = QStringLiteral("Y");
-  contact.supportsMedia = QStringLiteral("N");
+  contact.supportsSms = u"Y"_s;
+  contact.supportsMedia = u"N"_s;
   for (std::size_t i = 0; i < contact.extra.size(); ++i)
     contact.extra[i] = digest(key, value, 2 + static_cast<int>(i));
   return contact;

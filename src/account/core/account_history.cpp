@@ -10,6 +10,9 @@
 #include "connection/client/gateway.h"
 
 namespace parlexo {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 HistoryRecord parseRecord(const QString& record) {
@@ -30,7 +33,7 @@ auto askForHistory(const AccountServices& services) {
 }  // namespace
 
 std::vector<HistoryRecord> parseHistory(const QString& text) {
-  const QString recordEnd = QStringLiteral("\r\n");
+  const QString recordEnd = u"\r\n"_s;
   std::vector<HistoryRecord> records;
   qsizetype begin = 0;
   for (qsizetype end = text.indexOf(recordEnd); end >= 0; end = text.indexOf(recordEnd, begin)) {
@@ -55,8 +58,8 @@ std::optional<double> historyDateOrder(QStringView date) {
 std::optional<std::vector<HistoryRecord>> AccountHistoryFlow::load() const {
   const auto reply = askForHistory(services_);
   if (reply.answered() && reply->nErrorCode == 0) return parseHistory(fromWire(reply->sXmlAccountHistory));
-  services_.notifier.error(withNumber(
-      QStringLiteral("Could not successfully obtain history details. Error: %i"), reply->nErrorCode));
+  services_.notifier.error(
+      withNumber(u"Could not successfully obtain history details. Error: %i"_s, reply->nErrorCode));
   return std::nullopt;
 }
 

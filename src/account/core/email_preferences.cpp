@@ -6,6 +6,9 @@
 #include "connection/client/gateway.h"
 
 namespace parlexo {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int badEmailSettingsCode = 2;
@@ -37,16 +40,15 @@ EmailSaveOutcome EmailPreferencesFlow::save(const EmailPreferences& preferences)
   const EmailSaveOutcome outcome = ask(preferences);
   switch (outcome) {
     case EmailSaveOutcome::Saved:
-      services_.notifier.information(QStringLiteral("Saved email messaging preferences"));
+      services_.notifier.information(u"Saved email messaging preferences"_s);
       break;
     case EmailSaveOutcome::Incomplete:
       services_.notifier.error(
-          QStringLiteral("Bad email messaging settings provided. You must provide an email code (and email "
-                         "addresses to filter if email filtering is enabled)"));
+          u"Bad email messaging settings provided. You must provide an email code (and email "
+          "addresses to filter if email filtering is enabled)"_s);
       break;
     case EmailSaveOutcome::Failed:
-      services_.notifier.error(
-          QStringLiteral("An error occured while trying to save your email messaging preferences"));
+      services_.notifier.error(u"An error occured while trying to save your email messaging preferences"_s);
       break;
   }
   return outcome;

@@ -5,10 +5,13 @@
 #include "connection/client/background_gateway.h"
 
 namespace parlexo {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QString showable(QString text) {
-  text.replace(QStringLiteral("\r\n"), QStringLiteral("\n")).replace(u'\r', u'\n');
+  text.replace(u"\r\n"_s, u"\n"_s).replace(u'\r', u'\n');
   text.removeIf([](QChar c) { return c.category() == QChar::Other_Control && c != u'\n' && c != u'\t'; });
   return text;
 }
@@ -18,7 +21,7 @@ QString withoutClosing(QString address) {
   while (!address.isEmpty()) {
     const QChar last = address.back();
     const bool closesOther = last == u')' && !address.contains(u'(');
-    if (!closesOther && !QStringLiteral(".,;:!?'").contains(last)) break;
+    if (!closesOther && !u".,;:!?'"_s.contains(last)) break;
     address.chop(1);
   }
   return address;
@@ -46,7 +49,7 @@ void fetchNews(const BackgroundGateway& gateway, QObject& context,
 }
 
 std::vector<NewsPart> newsParts(const QString& news) {
-  static const QRegularExpression addressLike(QStringLiteral(R"(\bhttps?://[^\s<>"]+)"),
+  static const QRegularExpression addressLike(uR"(\bhttps?://[^\s<>"]+)"_s,
                                               QRegularExpression::CaseInsensitiveOption);
   const QString text = showable(news);
   std::vector<NewsPart> parts;

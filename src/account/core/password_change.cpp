@@ -11,6 +11,9 @@
 #include "connection/client/gateway.h"
 
 namespace parlexo {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr std::size_t shortestPassword = 6;  // bytes
@@ -33,22 +36,22 @@ bool hasLetterAndDigit(const QString& password) {
 std::optional<PasswordProblem> problemWith(const PasswordDraft& draft) {
   const auto& [oldPassword, newPassword, retyped] = draft;
   if (!hasPasswordLength(oldPassword))
-    return {{QStringLiteral("No old password has been provided that is between 6 and 10 characters."),
-             PasswordField::Old}};
+    return {
+        {u"No old password has been provided that is between 6 and 10 characters."_s, PasswordField::Old}};
   if (!hasPasswordLength(newPassword))
-    return {{QStringLiteral("No new password has been provided that is between 6 and 10 characters."),
-             PasswordField::New}};
+    return {
+        {u"No new password has been provided that is between 6 and 10 characters."_s, PasswordField::New}};
   if (!hasLetterAndDigit(retyped))
     // Retyped as it was meant, it is the new password that has to be another one.
-    return {{QStringLiteral("Password must contain some characters and some numbers."),
+    return {{u"Password must contain some characters and some numbers."_s,
              retyped == newPassword ? PasswordField::New : PasswordField::Retyped}};
   if (!hasPasswordLength(retyped))
-    return {{QStringLiteral("No new retype password has been provided that is between 6 and 10 characters."),
+    return {{u"No new retype password has been provided that is between 6 and 10 characters."_s,
              PasswordField::Retyped}};
   if (newPassword != retyped)
     return {
-        {QStringLiteral("The new password and retyped password does not match. Please enter the passwords "
-                        "match."),
+        {u"The new password and retyped password does not match. Please enter the passwords "
+         "match."_s,
          PasswordField::Retyped}};
   return std::nullopt;
 }
@@ -60,11 +63,11 @@ std::optional<PasswordField> PasswordChangeFlow::change(const PasswordDraft& dra
   }
   const Answer answer = ask(draft);
   if (answer.answered && answer.code == 0) {
-    services_.notifier.information(QStringLiteral("Your password has successfully been updated!"));
+    services_.notifier.information(u"Your password has successfully been updated!"_s);
     return std::nullopt;
   }
   services_.notifier.error(
-      withNumber(QStringLiteral("Could not successfully set the new password. Error: %i"), answer.code));
+      withNumber(u"Could not successfully set the new password. Error: %i"_s, answer.code));
   return PasswordField::Old;
 }
 

@@ -14,15 +14,15 @@
 #include "ui/record_table.h"
 
 namespace parlexo {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 RecordTable::Form historyForm() {
-  return {QStringLiteral("historyList"),
-          QStringLiteral("Account History"),
-          {{40, QStringLiteral("0000000")},
-           {120, QStringLiteral("00/00/0000 00:00:00")},
-           {50, QStringLiteral("-00000.00")},
-           {500, QString()}},
+  return {u"historyList"_s,
+          u"Account History"_s,
+          {{40, u"0000000"_s}, {120, u"00/00/0000 00:00:00"_s}, {50, u"-00000.00"_s}, {500, QString()}},
           true};
 }
 
@@ -32,7 +32,7 @@ CAccountHistoryDlg::CAccountHistoryDlg(const AccountServices& services, QWidget*
     : GradientPage(parent),
       services_(services),
       list_(new RecordTable(model_, historyForm(), services.settings, this)) {
-  setObjectName(QStringLiteral("historyPage"));
+  setObjectName(u"historyPage"_s);
   createLayout();
   refresh();
 }
@@ -63,14 +63,14 @@ void CAccountHistoryDlg::createLayout() {
 }
 
 QHBoxLayout* CAccountHistoryDlg::createButtons() {
-  auto* explanation =
-      wrappedLabel(QStringLiteral("Displays the last 500 transactions for your account. (Prices "
-                                  "are in your account's base currency)"),
-                   this);
+  auto* explanation = wrappedLabel(
+      u"Displays the last 500 transactions for your account. (Prices "
+      "are in your account's base currency)"_s,
+      this);
   auto* exportButton = new ExportButton(*list_, services_.notifier, this);
-  exportButton->setSuggestedName(QStringLiteral("Account history"));
-  auto* refreshButton = new PictureButton(QStringLiteral("&Refresh"), this);
-  refreshButton->setObjectName(QStringLiteral("refreshButton"));
+  exportButton->setSuggestedName(u"Account history"_s);
+  auto* refreshButton = new PictureButton(u"&Refresh"_s, this);
+  refreshButton->setObjectName(u"refreshButton"_s);
   connect(refreshButton, &PictureButton::clicked, this, &CAccountHistoryDlg::refresh);
   auto* row = new QHBoxLayout;
   row->setSpacing(10);

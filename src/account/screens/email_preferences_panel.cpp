@@ -14,6 +14,9 @@
 #include "ui/unsendable_hint.h"
 
 namespace parlexo {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int filterColumn = 3;  // of the grid; the columns before it are for the switches and a gap
@@ -26,8 +29,8 @@ QString asSent(const QLineEdit& edit) {
 }  // namespace
 
 EmailPreferencesPanel::EmailPreferencesPanel(const AccountServices& services, QWidget* parent)
-    : QGroupBox(QStringLiteral("Email Messaging:"), parent), state_(services.state), flow_(services) {
-  setObjectName(QStringLiteral("emailPanel"));
+    : QGroupBox(u"Email Messaging:"_s, parent), state_(services.state), flow_(services) {
+  setObjectName(u"emailPanel"_s);
   auto* grid = new QGridLayout(this);
   grid->setColumnMinimumWidth(filterColumn - 1, 24);
   grid->setColumnStretch(1, 1);
@@ -64,24 +67,22 @@ QLineEdit* EmailPreferencesPanel::addEdit(QGridLayout& grid, int row, int column
 }
 
 void EmailPreferencesPanel::createSwitches(QGridLayout& grid) {
-  enabled_ = addCheckBox(grid, 0, 0, "emailEnabled", QStringLiteral("Enable Email Messaging:"));
+  enabled_ = addCheckBox(grid, 0, 0, "emailEnabled", u"Enable Email Messaging:"_s);
   connect(enabled_, &QCheckBox::toggled, this, &EmailPreferencesPanel::enableWhatCounts);
-  code_ = addEdit(grid, 1, 0, "identityCode", QStringLiteral("&Identity Code:"));
-  split_ = addCheckBox(grid, 2, 0, "splitLongSms", QStringLiteral("Split long SMS into several SMS"));
-  doubleLine_ =
-      addCheckBox(grid, 3, 0, "stopAtDoubleLine", QStringLiteral("Stop emails at blank double lines"));
-  endKeyword_ = addCheckBox(grid, 4, 0, "stopAtEndKeyword", QStringLiteral("Stop emails at ##END## keyword"));
+  code_ = addEdit(grid, 1, 0, "identityCode", u"&Identity Code:"_s);
+  split_ = addCheckBox(grid, 2, 0, "splitLongSms", u"Split long SMS into several SMS"_s);
+  doubleLine_ = addCheckBox(grid, 3, 0, "stopAtDoubleLine", u"Stop emails at blank double lines"_s);
+  endKeyword_ = addCheckBox(grid, 4, 0, "stopAtEndKeyword", u"Stop emails at ##END## keyword"_s);
 }
 
 void EmailPreferencesPanel::createFilter(QGridLayout& grid) {
-  filter_ =
-      addCheckBox(grid, 0, filterColumn, "emailFilter", QStringLiteral("Filter based on email addresses:"));
+  filter_ = addCheckBox(grid, 0, filterColumn, "emailFilter", u"Filter based on email addresses:"_s);
   connect(filter_, &QCheckBox::toggled, this, &EmailPreferencesPanel::enableWhatCounts);
-  addresses_ = {addEdit(grid, 1, filterColumn, "emailAddress1", QStringLiteral("Email address &1:")),
-                addEdit(grid, 2, filterColumn, "emailAddress2", QStringLiteral("Email address &2:")),
-                addEdit(grid, 3, filterColumn, "emailAddress3", QStringLiteral("Email address &3:"))};
-  auto* button = new PictureButton(QStringLiteral("&Save Changes"), this);
-  button->setObjectName(QStringLiteral("saveChangesButton"));
+  addresses_ = {addEdit(grid, 1, filterColumn, "emailAddress1", u"Email address &1:"_s),
+                addEdit(grid, 2, filterColumn, "emailAddress2", u"Email address &2:"_s),
+                addEdit(grid, 3, filterColumn, "emailAddress3", u"Email address &3:"_s)};
+  auto* button = new PictureButton(u"&Save Changes"_s, this);
+  button->setObjectName(u"saveChangesButton"_s);
   connect(button, &PictureButton::clicked, this, &EmailPreferencesPanel::save);
   grid.addWidget(button, 4, filterColumn, 1, 2, Qt::AlignRight);
 }

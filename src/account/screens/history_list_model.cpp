@@ -5,6 +5,9 @@
 #include <utility>
 
 namespace parlexo {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // In the order of the columns.
@@ -19,9 +22,7 @@ const QString& historyCell(const HistoryRecord& record, int column) {
 }  // namespace
 
 HistoryListModel::HistoryListModel(QObject* parent)
-    : RecordListModel({QStringLiteral("ID"), QStringLiteral("Date"), QStringLiteral("Amount"),
-                       QStringLiteral("Description")},
-                      parent) {}
+    : RecordListModel({u"ID"_s, u"Date"_s, u"Amount"_s, u"Description"_s}, parent) {}
 
 QString HistoryListModel::textAt(int row, int column) const {
   return historyCell(records_[static_cast<std::size_t>(row)], column);

@@ -15,6 +15,9 @@
 #include "ui/waiting/box_column.h"
 
 namespace parlexo {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QTextCharFormat formatOf(const NewsPart& part) {
@@ -29,8 +32,8 @@ QTextCharFormat formatOf(const NewsPart& part) {
 
 QTextBrowser* createBrowser(QWidget* parent) {
   auto* browser = new QTextBrowser(parent);
-  browser->setObjectName(QStringLiteral("news"));
-  browser->setAccessibleName(QStringLiteral("News"));
+  browser->setObjectName(u"news"_s);
+  browser->setAccessibleName(u"News"_s);
   browser->setOpenLinks(false);
   QPalette palette = browser->palette();
   palette.setColor(QPalette::Base, look::listBackground);
@@ -41,14 +44,14 @@ QTextBrowser* createBrowser(QWidget* parent) {
 }  // namespace
 
 CNewsDlg::CNewsDlg(const QString& news, QWidget* parent) : GradientDialog(parent) {
-  setObjectName(QStringLiteral("newsDialog"));
-  setWindowTitle(QStringLiteral("Parlexo(TM) : News"));
+  setObjectName(u"newsDialog"_s);
+  setWindowTitle(u"Parlexo(TM) : News"_s);
   text_ = createBrowser(this);
   connect(text_, &QTextBrowser::anchorClicked, this, &CNewsDlg::follow);
   fill(news);
   auto* row = new QHBoxLayout;
   row->addStretch();
-  auto* ok = addButton(*row, QStringLiteral("ok"), text(TextId::ButtonOk));
+  auto* ok = addButton(*row, u"ok"_s, text(TextId::ButtonOk));
   ok->setDefault(true);
   connect(ok, &PictureButton::clicked, this, &CNewsDlg::accept);
   auto* column = createColumn(*this);

@@ -10,15 +10,17 @@
 
 namespace parlexo {
 
+using namespace Qt::StringLiterals;
+
 PasswordPanel::PasswordPanel(const AccountServices& services, QWidget* parent)
-    : QGroupBox(QStringLiteral("Change Password:"), parent), flow_(services) {
-  setObjectName(QStringLiteral("passwordPanel"));
+    : QGroupBox(u"Change Password:"_s, parent), flow_(services) {
+  setObjectName(u"passwordPanel"_s);
   auto* form = new QFormLayout;
-  old_ = addEdit(*form, "oldPassword", QStringLiteral("&Old password:"));
-  new_ = addEdit(*form, "newPassword", QStringLiteral("&New Password:"));
-  retyped_ = addEdit(*form, "retypedPassword", QStringLiteral("&Retype New Password:"));
-  auto* button = new PictureButton(QStringLiteral("Change &Password"), this);
-  button->setObjectName(QStringLiteral("changePasswordButton"));
+  old_ = addEdit(*form, "oldPassword", u"&Old password:"_s);
+  new_ = addEdit(*form, "newPassword", u"&New Password:"_s);
+  retyped_ = addEdit(*form, "retypedPassword", u"&Retype New Password:"_s);
+  auto* button = new PictureButton(u"Change &Password"_s, this);
+  button->setObjectName(u"changePasswordButton"_s);
   connect(button, &PictureButton::clicked, this, &PasswordPanel::change);
   auto* column = new QVBoxLayout(this);
   column->addLayout(form);

@@ -13,27 +13,30 @@
 #include "ui/page_controls.h"
 
 namespace parlexo {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QString introductionFor(const QString& userName) {
   if (belongsToParent(userName))
-    return QStringLiteral(
-        "If your parent account has been assigned a dedicated number then it is possible for you to receive "
-        "replies to your SMS.\r\nEmail Parlexo for further information.");
-  return QStringLiteral(
-      "You can receive SMS (plain text and international character set text messages), MMS (sound, picture "
-      "and videos etc) and WAP SI messages sent from mobile phones and PDA devices for free. ");
+    return u"If your parent account has been assigned a dedicated number then it is possible for you to "
+           u"receive "
+           "replies to your SMS.\r\nEmail Parlexo for further information."_s;
+  return u"You can receive SMS (plain text and international character set text messages), MMS (sound, "
+         u"picture "
+         "and videos etc) and WAP SI messages sent from mobile phones and PDA devices for free. "_s;
 }
 
 }  // namespace
 
 CReceiveMessagesDlg::CReceiveMessagesDlg(const RunState& state, QWidget* parent)
     : GradientPage(parent), state_(state) {
-  setObjectName(QStringLiteral("receivePage"));
+  setObjectName(u"receivePage"_s);
   introduction_ = wrappedLabel({}, this);
-  introduction_->setObjectName(QStringLiteral("introduction"));
+  introduction_->setObjectName(u"introduction"_s);
   ownNumbers_ = new QWidget(this);
-  ownNumbers_->setObjectName(QStringLiteral("ownNumbers"));
+  ownNumbers_->setObjectName(u"ownNumbers"_s);
   auto* own = new QVBoxLayout(ownNumbers_);
   own->setContentsMargins({});
   own->setSpacing(14);
@@ -54,18 +57,18 @@ void CReceiveMessagesDlg::showEvent(QShowEvent* event) {
 }
 
 QWidget* CReceiveMessagesDlg::createNumbers() {
-  auto* group = new QGroupBox(QStringLiteral("Your Parlexo Allocated Number* is:"), ownNumbers_);
+  auto* group = new QGroupBox(u"Your Parlexo Allocated Number* is:"_s, ownNumbers_);
   auto* grid = new QGridLayout(group);
   for (std::size_t i = 0; i < receivingNumbers.size(); ++i) {
     const QString country = QLatin1String(receivingNumbers[i].country);
-    auto* number = readOnlyField(country.toLower() + QStringLiteral("Number"), group);
+    auto* number = readOnlyField(country.toLower() + u"Number"_s, group);
     number->setText(QLatin1String(receivingNumbers[i].number));
-    users_[i] = readOnlyField(country.toLower() + QStringLiteral("User"), group);
-    users_[i]->setAccessibleName(country + QStringLiteral(" User"));
+    users_[i] = readOnlyField(country.toLower() + u"User"_s, group);
+    users_[i]->setAccessibleName(country + u" User"_s);
     const int row = int(i);
-    grid->addWidget(labelFor(number, country + QStringLiteral(" Number:")), row, 0);
+    grid->addWidget(labelFor(number, country + u" Number:"_s), row, 0);
     grid->addWidget(number, row, 1);
-    grid->addWidget(new QLabel(QStringLiteral("@"), group), row, 2);
+    grid->addWidget(new QLabel(u"@"_s, group), row, 2);
     grid->addWidget(users_[i], row, 3);
   }
   grid->setColumnStretch(1, 1);
@@ -75,21 +78,21 @@ QWidget* CReceiveMessagesDlg::createNumbers() {
 
 QWidget* CReceiveMessagesDlg::createExplanation() {
   auto* texts = new QWidget(ownNumbers_);
-  const QString address = webPage(QStringLiteral("/receive.php"));
+  const QString address = webPage(u"/receive.php"_s);
   auto* link = new HyperlinkLabel(address, QUrl(address), texts);
-  link->setObjectName(QStringLiteral("receiveLink"));
+  link->setObjectName(u"receiveLink"_s);
   auto* column = new QVBoxLayout(texts);
   column->setContentsMargins({});
-  column->addWidget(wrappedLabel(
-      QStringLiteral("Receiving messages is for free. The sender will be charged at the usual rates set by "
-                     "their carrier they are subscribed to. To read more and see examples on how this works "
-                     "then click the below link:"),
-      texts));
+  column->addWidget(
+      wrappedLabel(u"Receiving messages is for free. The sender will be charged at the usual rates set by "
+                   "their carrier they are subscribed to. To read more and see examples on how this works "
+                   "then click the below link:"_s,
+                   texts));
   column->addWidget(link, 0, Qt::AlignLeft);
   column->addSpacing(12);
   column->addWidget(
-      wrappedLabel(QStringLiteral("*  If using messages for commercial use then please contact Parlexo to "
-                                  "obtain your own dedicated number."),
+      wrappedLabel(u"*  If using messages for commercial use then please contact Parlexo to "
+                   "obtain your own dedicated number."_s,
                    texts));
   return texts;
 }

@@ -8,9 +8,11 @@
 
 namespace parlexo {
 
+using namespace Qt::StringLiterals;
+
 CSettingsDlg::CSettingsDlg(const AccountServices& services, const FolderChooser& chooser, QWidget* parent)
     : GradientPage(parent) {
-  setObjectName(QStringLiteral("settingsPage"));
+  setObjectName(u"settingsPage"_s);
   email_ = new EmailPreferencesPanel(services, this);
   auto* lower = new QHBoxLayout;
   lower->setSpacing(14);

@@ -17,20 +17,19 @@
 #include "ui/picture_button.h"
 
 namespace parlexo {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QString promptFor(const QString& what) {
-  return QStringLiteral(
-             "Select the folder where your %1 will be stored. Store this on a network if you wish to share "
-             "with other users.")
-      .arg(what);
+  return u"Select the folder where your %1 will be stored. Store this on a network if you wish to share "
+         "with other users."_s.arg(what);
 }
 
 QString warningFor(const QString& what) {
-  return QStringLiteral(
-             "You have changed your storage directory for your %1. You must exit application and restart "
-             "application before using")
-      .arg(what);
+  return u"You have changed your storage directory for your %1. You must exit application and restart "
+         "application before using"_s.arg(what);
 }
 
 void showPath(QLineEdit& field, const QString& path) {
@@ -47,7 +46,7 @@ QString chooseFolder(QWidget* parent, const QString& prompt, const QString& star
   dialog.setOption(QFileDialog::ShowDirsOnly);
   // Too long for most title bars, but only where the dialog is Qt's own is there another place.
   if (auto* grid = qobject_cast<QGridLayout*>(dialog.layout())) {
-    dialog.setWindowTitle(QStringLiteral("Browse for Folder"));
+    dialog.setWindowTitle(u"Browse for Folder"_s);
     grid->addWidget(wrappedLabel(prompt, &dialog), grid->rowCount(), 0, 1, grid->columnCount());
   }
   return dialog.exec() == QDialog::Accepted ? QDir::toNativeSeparators(dialog.selectedFiles().value(0))
@@ -56,28 +55,28 @@ QString chooseFolder(QWidget* parent, const QString& prompt, const QString& star
 
 StorageFoldersPanel::StorageFoldersPanel(const AccountServices& services, FolderChooser chooser,
                                          QWidget* parent)
-    : QGroupBox(QStringLiteral("Storage Folders (Use Network Location to share between Users):"), parent),
+    : QGroupBox(u"Storage Folders (Use Network Location to share between Users):"_s, parent),
       services_(services),
       chooser_(std::move(chooser)) {
-  setObjectName(QStringLiteral("foldersPanel"));
+  setObjectName(u"foldersPanel"_s);
   auto* column = new QVBoxLayout(this);
   Settings& settings = services_.settings;
-  addFolder(*column, {QStringLiteral("Contacts"), QStringLiteral("&Contacts Folder: "),
-                      [&settings] { return settings.contactsFolder(); },
-                      [&settings](const QString& path) { settings.setContactsFolder(path); }});
-  addFolder(*column, {QStringLiteral("Templates"), QStringLiteral("&Templates Folder:"),
-                      [&settings] { return settings.templatesFolder(); },
-                      [&settings](const QString& path) { settings.setTemplatesFolder(path); }});
+  addFolder(*column,
+            {u"Contacts"_s, u"&Contacts Folder: "_s, [&settings] { return settings.contactsFolder(); },
+             [&settings](const QString& path) { settings.setContactsFolder(path); }});
+  addFolder(*column,
+            {u"Templates"_s, u"&Templates Folder:"_s, [&settings] { return settings.templatesFolder(); },
+             [&settings](const QString& path) { settings.setTemplatesFolder(path); }});
   column->addStretch(1);
 }
 
 void StorageFoldersPanel::addFolder(QVBoxLayout& column, const Folder& folder) {
-  auto* path = readOnlyField(folder.what.toLower() + QStringLiteral("Folder"), this);
+  auto* path = readOnlyField(folder.what.toLower() + u"Folder"_s, this);
   showPath(*path, folder.read());
-  auto* browse = new PictureButton(QStringLiteral("..."), this);
-  browse->setObjectName(folder.what.toLower() + QStringLiteral("BrowseButton"));
+  auto* browse = new PictureButton(u"..."_s, this);
+  browse->setObjectName(folder.what.toLower() + u"BrowseButton"_s);
   browse->setFixedWidth(dialogUnits(*this, 20, 14).width());
-  browse->setToolTip(QStringLiteral("Choose the folder for %1").arg(folder.what));
+  browse->setToolTip(u"Choose the folder for %1"_s.arg(folder.what));
   browse->setAccessibleName(browse->toolTip());
   connect(browse, &PictureButton::clicked, this, [this, folder, path] { choose(folder, *path); });
   column.addWidget(labelFor(path, folder.label));

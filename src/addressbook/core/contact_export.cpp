@@ -9,6 +9,8 @@
 
 namespace parlexo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr ImportField exportedFields[] = {
@@ -44,15 +46,15 @@ QString exportName(const ContactFolder& folder) {
     case ContactFolder::Kind::AllContacts:
       return QLatin1String(allContactsName);
     case ContactFolder::Kind::Letter:
-      return QStringLiteral("Contacts ") + folder.name;
+      return u"Contacts "_s + folder.name;
     case ContactFolder::Kind::Other:
-      return QStringLiteral("Contacts Other");
+      return u"Contacts Other"_s;
     case ContactFolder::Kind::Group:
       break;
   }
   QString name = shownName(folder.name);
   for (QChar& character : name)
-    if (QStringLiteral("\\/:*?\"<>|").contains(character)) character = u'_';
+    if (u"\\/:*?\"<>|"_s.contains(character)) character = u'_';
   return name;
 }
 

@@ -10,6 +10,8 @@
 
 namespace parlexo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using Field = ContactProblem::Field;
@@ -21,7 +23,7 @@ bool matchesWhole(const QString& value, const QRegularExpression& pattern) {
 }
 
 bool isInternationalNumber(const QString& value) {
-  static const QRegularExpression pattern(QStringLiteral(R"(\+\d{1,30})"));
+  static const QRegularExpression pattern(uR"(\+\d{1,30})"_s);
   return matchesWhole(value, pattern);
 }
 
@@ -35,7 +37,7 @@ QString asContactText(const QString& typed) {
 }
 
 bool isEmailAddress(const QString& value) {
-  static const QRegularExpression pattern(QStringLiteral(R"(^[^@]+@([-\w]+\.)+[A-Za-z]{2,4}$)"));
+  static const QRegularExpression pattern(uR"(^[^@]+@([-\w]+\.)+[A-Za-z]{2,4}$)"_s);
   return matchesWhole(value, pattern);
 }
 
@@ -56,7 +58,7 @@ std::optional<ContactProblem> ContactForm::take(const ContactRecord& typed) {
   contact_.supportsMedia = typed.supportsMedia;
   contact_.supportsSms = typed.supportsSms;
   if (isNew_ && isNameTaken_(contact_.name))
-    return ContactProblem{Field::Name, QStringLiteral("A contact with this name already exists")};
+    return ContactProblem{Field::Name, u"A contact with this name already exists"_s};
   return {};
 }
 
@@ -69,18 +71,17 @@ void ContactForm::takeTexts(const ContactRecord& typed) {
 }
 
 std::optional<ContactProblem> ContactForm::firstBadValue() const {
-  if (contact_.name.isEmpty())
-    return ContactProblem{Field::Name, QStringLiteral("No contact name was given.")};
+  if (contact_.name.isEmpty()) return ContactProblem{Field::Name, u"No contact name was given."_s};
   if (!contact_.email.isEmpty() && !isEmailAddress(contact_.email))
-    return ContactProblem{Field::Email, QStringLiteral("Invalid Email Address")};
+    return ContactProblem{Field::Email, u"Invalid Email Address"_s};
   if (!contact_.phone.isEmpty() && !isInternationalNumber(contact_.phone))
-    return ContactProblem{Field::Phone, QStringLiteral("Invalid Phone Number. Ensure that the phone number "
-                                                       "is in an International format.")};
-  if (!contact_.fax.isEmpty() && !isInternationalNumber(contact_.fax))
-    return ContactProblem{Field::Fax, QStringLiteral("Invalid Fax Number")};
-  if (contact_.phone.isEmpty() && contact_.fax.isEmpty())
     return ContactProblem{Field::Phone,
-                          QStringLiteral("You must provide a valid phone number or valid fax number. ")};
+                          u"Invalid Phone Number. Ensure that the phone number "
+                          "is in an International format."_s};
+  if (!contact_.fax.isEmpty() && !isInternationalNumber(contact_.fax))
+    return ContactProblem{Field::Fax, u"Invalid Fax Number"_s};
+  if (contact_.phone.isEmpty() && contact_.fax.isEmpty())
+    return ContactProblem{Field::Phone, u"You must provide a valid phone number or valid fax number. "_s};
   return {};
 }
 

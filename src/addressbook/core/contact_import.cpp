@@ -10,6 +10,8 @@
 
 namespace parlexo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 int contactRows(const Sheet& sheet, const ImportPlan& plan) {
@@ -126,24 +128,22 @@ QString beginningOf(const ImportOutcome& outcome) {
   const int row = outcome.lastRow + 1;
   switch (outcome.end) {
     case ImportOutcome::End::Complete:
-      return QStringLiteral("The import is complete.");
+      return u"The import is complete."_s;
     case ImportOutcome::End::Cancelled:
-      return QStringLiteral("The import was cancelled. What was imported before stays.");
+      return u"The import was cancelled. What was imported before stays."_s;
     case ImportOutcome::End::WriteFailed:
-      return QStringLiteral("The import was stopped at row %L1, as its contact could not be saved.").arg(row);
+      return u"The import was stopped at row %L1, as its contact could not be saved."_s.arg(row);
     case ImportOutcome::End::JoinFailed:
-      return QStringLiteral(
-                 "The import was stopped at row %L1, as its contact could not be put into the group.")
-          .arg(row);
+      return u"The import was stopped at row %L1, as its contact could not be put into the group."_s.arg(row);
   }
   Q_UNREACHABLE();
 }
 
 QString endingOf(const ImportOutcome& outcome) {
-  QString left = QStringLiteral("\nNot dealt with: %L1").arg(outcome.left);
-  const QString again = QStringLiteral(
-      "\n\nOnce the contacts folder can be written again, import the file anew. No contact is doubled by "
-      "that");
+  QString left = u"\nNot dealt with: %L1"_s.arg(outcome.left);
+  const QString again =
+      u"\n\nOnce the contacts folder can be written again, import the file anew. No contact is doubled by "
+      "that"_s;
   switch (outcome.end) {
     case ImportOutcome::End::Complete:
       return {};
@@ -152,7 +152,7 @@ QString endingOf(const ImportOutcome& outcome) {
     case ImportOutcome::End::WriteFailed:
       return left + again + u'.';
     case ImportOutcome::End::JoinFailed:
-      return left + again + QStringLiteral(", and one that is overwritten joins the group.");
+      return left + again + u", and one that is overwritten joins the group."_s;
   }
   Q_UNREACHABLE();
 }
@@ -168,9 +168,9 @@ QStringList cellsOf(const Sheet& sheet, int row) {
 
 QString planProblem(const ImportPlan& plan) {
   if (!plan.maps(ImportField::Name) && !plan.maps(ImportField::FirstName) && !plan.maps(ImportField::Surname))
-    return QStringLiteral("Choose the column that holds the names.");
+    return u"Choose the column that holds the names."_s;
   if (!plan.maps(ImportField::Phone) && !plan.maps(ImportField::Fax))
-    return QStringLiteral("Choose the column that holds the phone numbers.");
+    return u"Choose the column that holds the phone numbers."_s;
   return {};
 }
 
@@ -180,24 +180,22 @@ ImportOutcome importContacts(const Sheet& sheet, const ImportPlan& plan, Address
 }
 
 QString importProgressText(int done, int total) {
-  return withNumber(withNumber(QStringLiteral("Importing contacts (%i / %i). Please wait..."), done), total);
+  return withNumber(withNumber(u"Importing contacts (%i / %i). Please wait..."_s, done), total);
 }
 
 QString summaryText(const ImportOutcome& outcome) {
-  return QStringLiteral("%1\n\nImported: %L2\nUpdated: %L3\nSkipped: %L4\nRefused: %L5")
-             .arg(beginningOf(outcome))
+  return u"%1\n\nImported: %L2\nUpdated: %L3\nSkipped: %L4\nRefused: %L5"_s.arg(beginningOf(outcome))
              .arg(outcome.imported)
              .arg(outcome.updated)
              .arg(outcome.skipped)
              .arg(outcome.refused.size()) +
-         (outcome.remarks.empty() ? QString()
-                                  : QStringLiteral("\nImported in part: %L1").arg(outcome.remarks.size())) +
+         (outcome.remarks.empty() ? QString() : u"\nImported in part: %L1"_s.arg(outcome.remarks.size())) +
          endingOf(outcome);
 }
 
 void writeRefusedRows(const Sheet& sheet, const ImportPlan& plan, const ImportOutcome& outcome,
                       CsvWriter& file) {
-  const QString reasonHeading = QStringLiteral("Reason");
+  const QString reasonHeading = u"Reason"_s;
   if (plan.headingRow && sheet.rowCount() > *plan.headingRow)
     file.addRow(cellsOf(sheet, *plan.headingRow) << reasonHeading);
   for (const ImportOutcome::Refused& refused : outcome.refused)

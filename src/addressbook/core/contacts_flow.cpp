@@ -8,21 +8,21 @@
 
 namespace parlexo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QString membershipText() {
-  return QStringLiteral("Adding/removing contacts in Group...");
+  return u"Adding/removing contacts in Group..."_s;
 }
 
 QString deletionQuestion(const ContactFolder& folder, int count) {
-  QString question =
-      folder.isGroup()
-          ? QStringLiteral("Are you sure you want to remove this contact from the selected Group?")
-          : QStringLiteral(
-                "Are you sure you want to delete this contact completely from your Address Book "
-                "and all groups?");
+  QString question = folder.isGroup()
+                         ? u"Are you sure you want to remove this contact from the selected Group?"_s
+                         : u"Are you sure you want to delete this contact completely from your Address Book "
+                           "and all groups?"_s;
   if (count == 1) return question;
-  return question + QStringLiteral("\n\n(%1 contacts are selected.)").arg(count);
+  return question + u"\n\n(%1 contacts are selected.)"_s.arg(count);
 }
 
 bool canBeDeleted(const ContactFolder& folder) {
@@ -34,22 +34,22 @@ bool canBeDeleted(const ContactFolder& folder) {
 bool ContactsFlow::acceptsNewContact(const ContactFolder& folder) const {
   if (folder.isGroup()) return true;
   services_.notifier.error(
-      QStringLiteral("You must select a \"Group\" or \"My Personal Contacts\" Folder. Contacts can only be "
-                     "added into these Folders."));
+      u"You must select a \"Group\" or \"My Personal Contacts\" Folder. Contacts can only be "
+      "added into these Folders."_s);
   return false;
 }
 
 bool ContactsFlow::acceptsImport(const ContactFolder& folder) const {
   if (folder.isGroup()) return true;
   services_.notifier.error(
-      QStringLiteral("You must select a \"Group\" or \"My Personal Contacts\" Folder. Contacts can only be "
-                     "imported into these Folders."));
+      u"You must select a \"Group\" or \"My Personal Contacts\" Folder. Contacts can only be "
+      "imported into these Folders."_s);
   return false;
 }
 
 bool ContactsFlow::hasProperties(const ContactFolder& folder) const {
   if (folder.isGroup()) return true;
-  services_.notifier.information(QStringLiteral("Can only get properties on \"Group\" folders."));
+  services_.notifier.information(u"Can only get properties on \"Group\" folders."_s);
   return false;
 }
 
@@ -67,7 +67,7 @@ void ContactsFlow::changeContact(const QString& oldName, const ContactRecord& co
 void ContactsFlow::saveGroup(const GroupChanges& changes) const {
   const AddressBook::MessagesOnce once(services_.book);
   if (changes.isNew) {
-    const ProgressScope progress(services_.progress, QStringLiteral("Creating the Group..."));
+    const ProgressScope progress(services_.progress, u"Creating the Group..."_s);
     saveContacts(changes);
     services_.book.createGroup(changes.group);
     changeMembers(changes);
@@ -113,7 +113,7 @@ void ContactsFlow::deleteContacts(const ContactFolder& folder, const QStringList
     changeMembers({folder.name, false, {}, {}, names});
     return;
   }
-  const ProgressScope progress(services_.progress, QStringLiteral("Deleting the contacts..."));
+  const ProgressScope progress(services_.progress, u"Deleting the contacts..."_s);
   for (const QString& name : names) {
     keepAlive();
     services_.book.deleteContact(name);
@@ -123,16 +123,15 @@ void ContactsFlow::deleteContacts(const ContactFolder& folder, const QStringList
 bool ContactsFlow::confirmGroupDeletion(const ContactFolder& folder) const {
   if (!canBeDeleted(folder)) {
     services_.notifier.error(
-        QStringLiteral("Select a \"Group\" Folder that you wish to delete. You can only delete Groups that "
-                       "you created."));
+        u"Select a \"Group\" Folder that you wish to delete. You can only delete Groups that "
+        "you created."_s);
     return false;
   }
-  return services_.notifier.confirm(
-      QStringLiteral("Are you sure you want to delete this group from your Address Book?"));
+  return services_.notifier.confirm(u"Are you sure you want to delete this group from your Address Book?"_s);
 }
 
 void ContactsFlow::deleteGroup(const QString& group) const {
-  const ProgressScope progress(services_.progress, QStringLiteral("Deleting the Group..."));
+  const ProgressScope progress(services_.progress, u"Deleting the Group..."_s);
   services_.book.deleteGroup(group);
 }
 

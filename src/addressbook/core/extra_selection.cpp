@@ -8,6 +8,8 @@
 
 namespace parlexo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// Collects the values of one Extra field.
@@ -70,8 +72,7 @@ ContactSelection::Contacts contactsMatching(const AddressBook& book, const Extra
 }
 
 QString nothingChosenText() {
-  return QStringLiteral(
-      "You have not selected one or more Extra properties you would like to filter your Contacts on.");
+  return u"You have not selected one or more Extra properties you would like to filter your Contacts on."_s;
 }
 
 }  // namespace parlexo

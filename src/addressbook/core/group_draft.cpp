@@ -12,6 +12,8 @@
 
 namespace parlexo {
 
+using namespace Qt::StringLiterals;
+
 GroupDraft::GroupDraft(const AddressBook& book, const std::optional<QString>& name)
     : book_(book), isNew_(!name), name_(name.value_or(QString())) {
   const GroupFile* group = isNew_ ? nullptr : book.findGroup(name_);
@@ -76,8 +78,8 @@ void GroupDraft::putNameless(const ContactRecord& contact) {
 QString GroupDraft::takeName(const QString& typed) {
   if (!isNew_) return {};
   name_ = typed.trimmed();
-  if (name_.isEmpty()) return QStringLiteral("Group name cannot be blank");
-  if (isNameInUse(name_)) return QStringLiteral("A group with this name already exists.");
+  if (name_.isEmpty()) return u"Group name cannot be blank"_s;
+  if (isNameInUse(name_)) return u"A group with this name already exists."_s;
   return {};
 }
 

@@ -9,6 +9,8 @@
 
 namespace parlexo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// Letters and digits in lower case: "E-Mail " and "e_mail" are the same heading.
@@ -119,37 +121,37 @@ const std::vector<ImportField>& importFields() {
 QString fieldLabel(ImportField field) {
   switch (field) {
     case ImportField::Nothing:
-      return QStringLiteral("(not imported)");
+      return u"(not imported)"_s;
     case ImportField::Name:
-      return QStringLiteral("Name");
+      return u"Name"_s;
     case ImportField::FirstName:
-      return QStringLiteral("First Name");
+      return u"First Name"_s;
     case ImportField::Surname:
-      return QStringLiteral("Surname");
+      return u"Surname"_s;
     case ImportField::ClientId:
-      return QStringLiteral("Client Id.");
+      return u"Client Id."_s;
     case ImportField::Phone:
-      return QStringLiteral("Phone Number");
+      return u"Phone Number"_s;
     case ImportField::Extra1:
-      return QStringLiteral("Extra 1");
+      return u"Extra 1"_s;
     case ImportField::Extra2:
-      return QStringLiteral("Extra 2");
+      return u"Extra 2"_s;
     case ImportField::Extra3:
-      return QStringLiteral("Extra 3");
+      return u"Extra 3"_s;
     case ImportField::Extra4:
-      return QStringLiteral("Extra 4");
+      return u"Extra 4"_s;
     case ImportField::Extra5:
-      return QStringLiteral("Extra 5");
+      return u"Extra 5"_s;
     case ImportField::Extra6:
-      return QStringLiteral("Extra 6");
+      return u"Extra 6"_s;
     case ImportField::Fax:
-      return QStringLiteral("Fax");
+      return u"Fax"_s;
     case ImportField::Email:
-      return QStringLiteral("Email");
+      return u"Email"_s;
     case ImportField::SupportsSms:
-      return QStringLiteral("Supports SMS");
+      return u"Supports SMS"_s;
     case ImportField::SupportsMedia:
-      return QStringLiteral("Supports Media");
+      return u"Supports Media"_s;
   }
   Q_UNREACHABLE();
 }

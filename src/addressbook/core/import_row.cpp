@@ -12,6 +12,8 @@
 
 namespace parlexo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// A cell as a field of a contact can hold it: one line of composed characters. Invisible marks, blanks and
@@ -61,35 +63,33 @@ QString nameOf(const RowTexts& texts, const ImportPlan& plan) {
     name += texts[ImportField::Surname];
   }
   if (!name.isEmpty() && !texts[ImportField::ClientId].isEmpty())
-    name += QStringLiteral(" (") + texts[ImportField::ClientId] + u')';
+    name += u" ("_s + texts[ImportField::ClientId] + u')';
   return name;
 }
 
 /// "Y" or "N" where the cell says it, else empty.
 QString flagOf(const QString& text) {
   for (const char* yes : {"y", "yes", "true", "1", "x"})
-    if (text.compare(QLatin1String(yes), Qt::CaseInsensitive) == 0) return QStringLiteral("Y");
+    if (text.compare(QLatin1String(yes), Qt::CaseInsensitive) == 0) return u"Y"_s;
   for (const char* no : {"n", "no", "false", "0"})
-    if (text.compare(QLatin1String(no), Qt::CaseInsensitive) == 0) return QStringLiteral("N");
+    if (text.compare(QLatin1String(no), Qt::CaseInsensitive) == 0) return u"N"_s;
   return {};
 }
 
 QString nameRefusal(const QString& name) {
-  if (name.isEmpty()) return QStringLiteral("The row has no name.");
-  if (!fitsCodePage(name))
-    return QStringLiteral("The name \"%1\" has characters that can't be stored.").arg(name);
+  if (name.isEmpty()) return u"The row has no name."_s;
+  if (!fitsCodePage(name)) return u"The name \"%1\" has characters that can't be stored."_s.arg(name);
   // Another program has lost them already: such names would all look alike.
   if (name.contains(u'?') &&
       std::none_of(name.begin(), name.end(), [](QChar c) { return c.isLetterOrNumber(); }))
-    return QStringLiteral("The name has no letter or digit that the address book can keep.");
-  if (toCodePage(name).size() > nameWidth)
-    return QStringLiteral("The name is longer than %1 characters.").arg(nameWidth);
+    return u"The name has no letter or digit that the address book can keep."_s;
+  if (toCodePage(name).size() > nameWidth) return u"The name is longer than %1 characters."_s.arg(nameWidth);
   return {};
 }
 
 QString refusalOf(const ContactRecord& contact, const PhoneNumber& phone, const PhoneNumber& fax) {
   if (QString refusal = nameRefusal(contact.name); !refusal.isEmpty()) return refusal;
-  if (contact.phone.isEmpty() && contact.fax.isEmpty()) return QStringLiteral("The row has no number.");
+  if (contact.phone.isEmpty() && contact.fax.isEmpty()) return u"The row has no number."_s;
   for (const PhoneNumber& number : {phone, fax})
     if (!number.problemText().isEmpty()) return number.problemText();
   // Beyond that, what holds for contacts that are typed.
@@ -102,10 +102,9 @@ QString checkEmail(QString& email) {
   if (email.isEmpty()) return {};
   QString remark;
   if (!isEmailAddress(email))
-    remark = QStringLiteral("The invalid e-mail address \"%1\" is left out.").arg(email);
+    remark = u"The invalid e-mail address \"%1\" is left out."_s.arg(email);
   else if (toCodePage(email).size() > emailWidth)
-    remark =
-        QStringLiteral("The e-mail address is longer than %1 characters and is left out.").arg(emailWidth);
+    remark = u"The e-mail address is longer than %1 characters and is left out."_s.arg(emailWidth);
   if (!remark.isEmpty()) email.clear();
   return remark;
 }
@@ -119,16 +118,16 @@ QString checkExtra(QString& value, std::size_t number) {
   if (toCodePage(value).size() <= extraWidth) return {};
   value.truncate(extraWidth);  // a character has at least one byte
   while (toCodePage(value).size() > extraWidth || value.back().isHighSurrogate()) value.chop(1);
-  return QStringLiteral("%1 is cut to %2 characters.").arg(fieldLabel(extraField(number))).arg(extraWidth);
+  return u"%1 is cut to %2 characters."_s.arg(fieldLabel(extraField(number))).arg(extraWidth);
 }
 
 /// A fax machine alone gets no SMS, even when the other contacts of the import do.
 void withdrawSmsWithoutPhone(ContactRecord& contact) {
-  if (contact.phone.isEmpty()) contact.supportsSms = QStringLiteral("N");
+  if (contact.phone.isEmpty()) contact.supportsSms = u"N"_s;
 }
 
 QString yesOrNo(bool yes) {
-  return yes ? QStringLiteral("Y") : QStringLiteral("N");
+  return yes ? u"Y"_s : u"N"_s;
 }
 
 }  // namespace

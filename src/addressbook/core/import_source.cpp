@@ -9,6 +9,8 @@
 
 namespace parlexo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int untilBox = 200;  // milliseconds; sooner than the runner's own box, which speaks of the gateway
@@ -19,7 +21,7 @@ class LateBox {
   explicit LateBox(Progress& progress) : progress_(progress) {
     timer_.setSingleShot(true);
     QObject::connect(&timer_, &QTimer::timeout, &timer_, [this] {
-      progress_.show(QStringLiteral("Reading the file. Please wait..."));
+      progress_.show(u"Reading the file. Please wait..."_s);
       isShown_ = true;
     });
     timer_.start(untilBox);
@@ -59,9 +61,9 @@ struct ImportSource::Opening {
       text = readDelimited(path, format, limits, cancel, rowsToShow);
       problem = text.problem;
       // It has bytes, but no more than a byte order mark.
-      if (problem.isEmpty() && text.sheet.rowCount() == 0) problem = QStringLiteral("The file is empty.");
+      if (problem.isEmpty() && text.sheet.rowCount() == 0) problem = u"The file is empty."_s;
     }
-    if (cancel.isRaised()) problem = QStringLiteral("The reading was cancelled.");
+    if (cancel.isRaised()) problem = u"The reading was cancelled."_s;
   }
 };
 
@@ -117,7 +119,7 @@ void ImportSource::readText(int maxRows) {
   run([reading, maxRows, path = path_, format = format_, limits = limits_](const CancelFlag& cancel) {
     reading->problem = fileProblem(path, limits);
     if (reading->problem.isEmpty()) *reading = readDelimited(path, format, limits, cancel, maxRows);
-    if (cancel.isRaised()) reading->problem = QStringLiteral("The reading was cancelled.");
+    if (cancel.isRaised()) reading->problem = u"The reading was cancelled."_s;
   });
   if (!problem_.isEmpty()) return;
   problem_ = reading->problem;
@@ -127,7 +129,7 @@ void ImportSource::readText(int maxRows) {
 void ImportSource::run(const CallRunner::Exchange& reading) {
   problem_.clear();
   const LateBox box(progress_);
-  if (!runner_.run(reading)) problem_ = QStringLiteral("The file could not be read.");
+  if (!runner_.run(reading)) problem_ = u"The file could not be read."_s;
 }
 
 }  // namespace parlexo

@@ -9,6 +9,8 @@
 
 namespace parlexo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 std::optional<QStringList> addContact(const AddressBookServices& services, QWidget* window) {
@@ -29,9 +31,9 @@ std::optional<QStringList> importContacts(const AddressBookServices& services, Q
 
 std::optional<QStringList> addOrImportContacts(const AddressBookServices& services, QWidget& button) {
   QMenu menu(&button);
-  menu.setObjectName(QStringLiteral("addContactsMenu"));
-  const QAction* add = menu.addAction(QStringLiteral("&New Contact..."));
-  const QAction* import = menu.addAction(QStringLiteral("&Import..."));
+  menu.setObjectName(u"addContactsMenu"_s);
+  const QAction* add = menu.addAction(u"&New Contact..."_s);
+  const QAction* import = menu.addAction(u"&Import..."_s);
   const QAction* chosen = menu.exec(button.mapToGlobal(button.rect().bottomLeft()));
   if (chosen == add) return addContact(services, button.window());
   if (chosen == import) return importContacts(services, button.window());

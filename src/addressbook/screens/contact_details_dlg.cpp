@@ -22,12 +22,14 @@
 
 namespace parlexo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int extraRows = ContactRecord::extraCount / 2;
 
 QString flagOf(const QCheckBox& box) {
-  return box.isChecked() ? QStringLiteral("Y") : QStringLiteral("N");
+  return box.isChecked() ? u"Y"_s : u"N"_s;
 }
 
 QCheckBox* flagBox(const char* name, const QString& text, bool isChecked, QWidget* parent) {
@@ -38,9 +40,9 @@ QCheckBox* flagBox(const char* name, const QString& text, bool isChecked, QWidge
 }
 
 HyperlinkLabel* formatLink(QWidget* parent) {
-  auto* link = new HyperlinkLabel(QStringLiteral("Country and area codes, phone number formats"),
-                                  QUrl(webPage(QStringLiteral("/phonenumbers.php"))), parent);
-  link->setObjectName(QStringLiteral("numberFormatLink"));
+  auto* link = new HyperlinkLabel(u"Country and area codes, phone number formats"_s,
+                                  QUrl(webPage(u"/phonenumbers.php"_s)), parent);
+  link->setObjectName(u"numberFormatLink"_s);
   return link;
 }
 
@@ -49,8 +51,8 @@ HyperlinkLabel* formatLink(QWidget* parent) {
 CContactDetailsDlg::CContactDetailsDlg(const ContactRecord& contact, ContactForm::NameTest isNameTaken,
                                        Notifier& notifier, QWidget* parent)
     : GradientDialog(parent), form_(contact, std::move(isNameTaken)), notifier_(notifier) {
-  setObjectName(QStringLiteral("contactDetailsDialog"));
-  setWindowTitle(QStringLiteral("Parlexo(TM) : Contact Details"));
+  setObjectName(u"contactDetailsDialog"_s);
+  setWindowTitle(u"Parlexo(TM) : Contact Details"_s);
   createEdits();
   createLayout();
   (form_.isNew() ? name_ : email_)->setFocus(Qt::OtherFocusReason);
@@ -68,7 +70,7 @@ void CContactDetailsDlg::createEdits() {
   if (form_.isNew()) {
     name_ = createEdit("nameEdit", {});
   } else {
-    name_ = readOnlyField(QStringLiteral("nameEdit"), this);
+    name_ = readOnlyField(u"nameEdit"_s, this);
     name_->setText(contact.name);
   }
   email_ = createEdit("emailEdit", contact.email);
@@ -94,16 +96,15 @@ QLayout* CContactDetailsDlg::addressRows() {
     grid->addWidget(labelFor(edit, label), row, column);
     grid->addWidget(edit, row, column + 1);
   };
-  add(0, 0, QStringLiteral("&Name:"), name_);
-  add(0, 2, QStringLiteral("&Email:"), email_);
-  add(1, 0, QStringLiteral("&Phone:"), phone_);
-  add(1, 2, QStringLiteral("&Fax:"), fax_);
-  grid->addWidget(
-      wrappedLabel(QStringLiteral("All phone and fax numbers must be entered in the international format, "
-                                  "for example +61491570156. Follow the link to find country and area "
-                                  "codes."),
-                   this),
-      2, 0, 1, 4);
+  add(0, 0, u"&Name:"_s, name_);
+  add(0, 2, u"&Email:"_s, email_);
+  add(1, 0, u"&Phone:"_s, phone_);
+  add(1, 2, u"&Fax:"_s, fax_);
+  grid->addWidget(wrappedLabel(u"All phone and fax numbers must be entered in the international format, "
+                               "for example +61491570156. Follow the link to find country and area "
+                               "codes."_s,
+                               this),
+                  2, 0, 1, 4);
   grid->addWidget(formatLink(this), 3, 0, 1, 4, Qt::AlignLeft);
   grid->setColumnStretch(1, 1);
   grid->setColumnStretch(3, 1);
@@ -111,42 +112,40 @@ QLayout* CContactDetailsDlg::addressRows() {
 }
 
 QLayout* CContactDetailsDlg::flagRows() {
-  sms_ = flagBox("smsBox", QStringLiteral("Supports &SMS"), form_.supportsSms(), this);
-  media_ =
-      flagBox("mediaBox", QStringLiteral("Supports &Media (WAP and/or MMS)"), form_.supportsMedia(), this);
+  sms_ = flagBox("smsBox", u"Supports &SMS"_s, form_.supportsSms(), this);
+  media_ = flagBox("mediaBox", u"Supports &Media (WAP and/or MMS)"_s, form_.supportsMedia(), this);
   auto* boxes = new QHBoxLayout;
   boxes->setSpacing(24);
   boxes->addWidget(sms_);
   boxes->addWidget(media_);
   boxes->addStretch(1);
   auto* column = new QVBoxLayout;
-  column->addWidget(wrappedLabel(
-      QStringLiteral("Select the SMS checkbox if the number supports SMS messaging and select the Media "
-                     "checkbox if the number supports WAP and/or MMS. If you do not correctly set the check "
-                     "boxes, then you will not be able to select your contact when sending SMS, WAP and/or "
-                     "MMS."),
-      this));
+  column->addWidget(
+      wrappedLabel(u"Select the SMS checkbox if the number supports SMS messaging and select the Media "
+                   "checkbox if the number supports WAP and/or MMS. If you do not correctly set the check "
+                   "boxes, then you will not be able to select your contact when sending SMS, WAP and/or "
+                   "MMS."_s,
+                   this));
   column->addLayout(boxes);
   return column;
 }
 
 QGroupBox* CContactDetailsDlg::extraBox() {
-  auto* box = new QGroupBox(QStringLiteral("Extra fields"), this);
+  auto* box = new QGroupBox(u"Extra fields"_s, this);
   auto* grid = new QGridLayout(box);
-  grid->addWidget(
-      wrappedLabel(QStringLiteral("Use the Extra fields to assign attributes to your contacts. These can be "
-                                  "used for selecting contact for messaging. For example: the Extra 1 field "
-                                  "can be state/province/area, Extra 2 can be employer name etc."),
-                   box),
-      0, 0, 1, 4);
+  grid->addWidget(wrappedLabel(u"Use the Extra fields to assign attributes to your contacts. These can be "
+                               "used for selecting contact for messaging. For example: the Extra 1 field "
+                               "can be state/province/area, Extra 2 can be employer name etc."_s,
+                               box),
+                  0, 0, 1, 4);
   for (int field = 0; field < ContactRecord::extraCount; ++field) {
     const auto place = static_cast<std::size_t>(field);
     const QString number = QString::number(field + 1);
     extra_[place] = createEdit("", form_.contact().extra[place]);
-    extra_[place]->setObjectName(QStringLiteral("extra%1Edit").arg(number));
+    extra_[place]->setObjectName(u"extra%1Edit"_s.arg(number));
     const int row = 1 + field % extraRows;
     const int column = 2 * (field / extraRows);
-    grid->addWidget(labelFor(extra_[place], QStringLiteral("Extra &%1:").arg(number)), row, column);
+    grid->addWidget(labelFor(extra_[place], u"Extra &%1:"_s.arg(number)), row, column);
     grid->addWidget(extra_[place], row, column + 1);
   }
   grid->setColumnStretch(1, 1);

@@ -5,9 +5,10 @@
 
 namespace parlexo {
 
+using namespace Qt::StringLiterals;
+
 ContactListModel::ContactListModel(SelectionLists& lists, const QString& mode, QObject* parent)
-    : CheckListModel({QStringLiteral("Select"), QStringLiteral("Name"), QStringLiteral("Phone")},
-                     lists.contactCount(), parent),
+    : CheckListModel({u"Select"_s, u"Name"_s, u"Phone"_s}, lists.contactCount(), parent),
       lists_(lists),
       showsFax_(showsFaxNumbers(mode)) {}
 

@@ -6,6 +6,8 @@
 
 namespace parlexo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using Column = ContactRowsModel::Column;
@@ -13,15 +15,15 @@ using Column = ContactRowsModel::Column;
 QString headingOf(Column column) {
   switch (column) {
     case Column::NameColumn:
-      return QStringLiteral("Name");
+      return u"Name"_s;
     case Column::PhoneColumn:
-      return QStringLiteral("Phone");
+      return u"Phone"_s;
     case Column::SmsColumn:
-      return QStringLiteral("SMS");
+      return u"SMS"_s;
     case Column::MediaColumn:
-      return QStringLiteral("Media");
+      return u"Media"_s;
     case Column::FaxColumn:
-      return QStringLiteral("Fax");
+      return u"Fax"_s;
     case Column::columnTotal:
       break;
   }
@@ -29,7 +31,7 @@ QString headingOf(Column column) {
 }
 
 QString yesOrNo(const ContactRecord& contact, QStringView mode) {
-  return eligibilityFor(mode)(contact) ? QStringLiteral("yes") : QStringLiteral("no");
+  return eligibilityFor(mode)(contact) ? u"yes"_s : u"no"_s;
 }
 
 QString cellOf(const ContactRecord& contact, Column column) {

@@ -35,15 +35,16 @@
 
 namespace parlexo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QString informationOn(const ContactFolder& folder) {
   const QString lower(8, u'\n');
-  if (folder.kind == ContactFolder::Kind::Root)
-    return lower + QStringLiteral("Your Address Book for all your Contacts");
-  return lower + QStringLiteral(
-                     "All your contacts sorted in Alphabetic order. You cannot create contacts\n"
-                     "under these folders as they are READONLY. Deleting or modifying is permitted");
+  if (folder.kind == ContactFolder::Kind::Root) return lower + u"Your Address Book for all your Contacts"_s;
+  return lower +
+         u"All your contacts sorted in Alphabetic order. You cannot create contacts\n"
+         "under these folders as they are READONLY. Deleting or modifying is permitted"_s;
 }
 
 bool hasList(const ContactFolder& folder) {
@@ -66,16 +67,16 @@ void onKey(QWidget* widget, const QKeySequence& key, const std::function<void()>
 }
 
 QString countText(int count, int selected, bool isSearching) {
-  QString text = count == 1 ? QStringLiteral("1 contact") : QStringLiteral("%1 contacts").arg(count);
-  if (isSearching) text += QStringLiteral(" found in the whole address book");
-  return selected < 2 ? text : text + QStringLiteral(", %1 selected").arg(selected);
+  QString text = count == 1 ? u"1 contact"_s : u"%1 contacts"_s.arg(count);
+  if (isSearching) text += u" found in the whole address book"_s;
+  return selected < 2 ? text : text + u", %1 selected"_s.arg(selected);
 }
 
 }  // namespace
 
 CContactsPage::CContactsPage(const AddressBookServices& services, QWidget* parent)
     : GradientPage(parent), services_(services), flow_(services), index_(services.book) {
-  setObjectName(QStringLiteral("contactsPage"));
+  setObjectName(u"contactsPage"_s);
   createTree();
   createList();
   createSearch();
@@ -105,10 +106,10 @@ void CContactsPage::createTree() {
 
 void CContactsPage::createList() {
   list_ = new RowListView(
-      model_, [this](int row) { return model_.contact(row).name; }, QStringLiteral("Contacts"), this);
-  list_->setObjectName(QStringLiteral("contactList"));
+      model_, [this](int row) { return model_.contact(row).name; }, u"Contacts"_s, this);
+  list_->setObjectName(u"contactList"_s);
   // The longest international number has 15 digits.
-  const int numberWidth = fittingColumnWidth(*list_, 120, QStringLiteral("+000000000000000"));
+  const int numberWidth = fittingColumnWidth(*list_, 120, u"+000000000000000"_s);
   list_->setColumnWidths({150, numberWidth, 40, 40, numberWidth});
   connect(list_, &QAbstractItemView::doubleClicked, this, &CContactsPage::edit);
   for (const auto key : {Qt::Key_Return, Qt::Key_Enter}) onKey(list_, QKeySequence(key), [this] { edit(); });
@@ -119,8 +120,8 @@ void CContactsPage::createList() {
           [this](const QPoint& where) { openMenu(*list_->viewport(), where); });
 
   information_ = new QPlainTextEdit(this);
-  information_->setObjectName(QStringLiteral("informationPanel"));
-  information_->setAccessibleName(QStringLiteral("Information"));
+  information_->setObjectName(u"informationPanel"_s);
+  information_->setAccessibleName(u"Information"_s);
   information_->setReadOnly(true);
   information_->setTabChangesFocus(true);
   QPalette palette = information_->palette();
@@ -129,8 +130,8 @@ void CContactsPage::createList() {
 }
 
 void CContactsPage::createSearch() {
-  search_ = new SearchField(QStringLiteral("Search all contacts: name, number or Extra"), *list_, this);
-  search_->setObjectName(QStringLiteral("contactSearch"));
+  search_ = new SearchField(u"Search all contacts: name, number or Extra"_s, *list_, this);
+  search_->setObjectName(u"contactSearch"_s);
   connect(search_, &QLineEdit::textChanged, this, &CContactsPage::showFresh);
   auto* find = new QShortcut(QKeySequence(QKeySequence::Find), this);
   connect(find, &QShortcut::activated, this, [this] {
@@ -138,20 +139,20 @@ void CContactsPage::createSearch() {
     search_->selectAll();
   });
   count_ = new QLabel(this);
-  count_->setObjectName(QStringLiteral("countLine"));
+  count_->setObjectName(u"countLine"_s);
 }
 
 void CContactsPage::createMenu() {
   menu_ = new QMenu(this);
-  menu_->setObjectName(QStringLiteral("contactsMenu"));
+  menu_->setObjectName(u"contactsMenu"_s);
   const auto add = [this](const QString& text, void (CContactsPage::*action)()) {
     connect(menu_->addAction(text), &QAction::triggered, this, action);
   };
-  add(QStringLiteral("New Contact..."), &CContactsPage::newContact);
-  add(QStringLiteral("New Group..."), &CContactsPage::newGroup);
+  add(u"New Contact..."_s, &CContactsPage::newContact);
+  add(u"New Group..."_s, &CContactsPage::newGroup);
   menu_->addSeparator();
-  add(QStringLiteral("Edit..."), &CContactsPage::edit);
-  add(QStringLiteral("Delete"), &CContactsPage::remove);
+  add(u"Edit..."_s, &CContactsPage::edit);
+  add(u"Delete"_s, &CContactsPage::remove);
 }
 
 void CContactsPage::openMenu(QWidget& at, const QPoint& where) {
@@ -185,7 +186,7 @@ QLayout* CContactsPage::contactsColumn() {
   auto* column = new QVBoxLayout;
   column->setContentsMargins({});
   column->setSpacing(6);
-  column->addLayout(searchRow(QStringLiteral("&Find:"), *search_));
+  column->addLayout(searchRow(u"&Find:"_s, *search_));
   column->addWidget(stack_, 1);
   column->addWidget(count_);
   return column;
@@ -198,14 +199,14 @@ QLayout* CContactsPage::buttonRow() {
     connect(button, &PictureButton::clicked, this, action);
     return button;
   };
-  add(QStringLiteral("newContactButton"), QStringLiteral("&New Contact..."), &CContactsPage::newContact);
-  add(QStringLiteral("newGroupButton"), QStringLiteral("New &Group..."), &CContactsPage::newGroup);
-  add(QStringLiteral("importButton"), QStringLiteral("&Import..."), &CContactsPage::importContacts);
-  add(QStringLiteral("exportButton"), QStringLiteral("E&xport..."), &CContactsPage::exportContacts);
+  add(u"newContactButton"_s, u"&New Contact..."_s, &CContactsPage::newContact);
+  add(u"newGroupButton"_s, u"New &Group..."_s, &CContactsPage::newGroup);
+  add(u"importButton"_s, u"&Import..."_s, &CContactsPage::importContacts);
+  add(u"exportButton"_s, u"E&xport..."_s, &CContactsPage::exportContacts);
   row->addStretch(1);
-  add(QStringLiteral("editButton"), QStringLiteral("&Edit..."), &CContactsPage::edit);
-  add(QStringLiteral("deleteButton"), QStringLiteral("&Delete"), &CContactsPage::remove);
-  auto* details = add(QStringLiteral("detailsButton"), QStringLiteral("D&etails"), &CContactsPage::edit);
+  add(u"editButton"_s, u"&Edit..."_s, &CContactsPage::edit);
+  add(u"deleteButton"_s, u"&Delete"_s, &CContactsPage::remove);
+  auto* details = add(u"detailsButton"_s, u"D&etails"_s, &CContactsPage::edit);
   // "&Edit..." does the same under the same key; with two to claim it, the key would only move the focus.
   details->setShortcut({});
   return row;
@@ -307,8 +308,7 @@ void CContactsPage::importContacts() {
 }
 
 void CContactsPage::exportContacts() {
-  const QString path =
-      askForPath_(this, isSearching() ? QStringLiteral("Contacts found") : exportName(shownFolder()));
+  const QString path = askForPath_(this, isSearching() ? u"Contacts found"_s : exportName(shownFolder()));
   if (path.isEmpty()) return;
   const ContactIndex::Contacts contacts =
       isSearching() ? model_.contacts() : index_.contactsIn(shownFolder());

@@ -10,6 +10,8 @@
 
 namespace parlexo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int kindRole = Qt::UserRole;
@@ -31,8 +33,8 @@ QTreeWidgetItem* folderItem(const QString& text, const ContactFolder& folder) {
 }  // namespace
 
 FolderTree::FolderTree(QWidget* parent) : QTreeWidget(parent) {
-  setObjectName(QStringLiteral("folderTree"));
-  setAccessibleName(QStringLiteral("Folders"));
+  setObjectName(u"folderTree"_s);
+  setAccessibleName(u"Folders"_s);
   setColumnCount(1);
   setHeaderHidden(true);
   styleList(*this);
@@ -42,7 +44,7 @@ FolderTree::FolderTree(QWidget* parent) : QTreeWidget(parent) {
 }
 
 void FolderTree::addFixedFolders() {
-  root_ = folderItem(QStringLiteral("Address Book"), {ContactFolder::Kind::Root, {}});
+  root_ = folderItem(u"Address Book"_s, {ContactFolder::Kind::Root, {}});
   addTopLevelItem(root_);
   allContacts_ = folderItem(QLatin1String(allContactsName), {ContactFolder::Kind::AllContacts, {}});
   root_->addChild(allContacts_);
@@ -50,7 +52,7 @@ void FolderTree::addFixedFolders() {
     const QString name{QLatin1Char(letter)};
     allContacts_->addChild(folderItem(name, {ContactFolder::Kind::Letter, name}));
   }
-  allContacts_->addChild(folderItem(QStringLiteral("Other"), {ContactFolder::Kind::Other, {}}));
+  allContacts_->addChild(folderItem(u"Other"_s, {ContactFolder::Kind::Other, {}}));
   root_->setExpanded(true);
 }
 

@@ -26,12 +26,14 @@
 
 namespace parlexo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // The name, or of a long one the part around its character number `place`.
 QString quoted(const QString& name, qsizetype place) {
   constexpr qsizetype longest = 40;
-  const QString dots = QStringLiteral("...");
+  const QString dots = u"..."_s;
   const qsizetype start =
       std::clamp<qsizetype>(place - longest / 2, 0, std::max<qsizetype>(0, name.size() - longest));
   QString shown = name.mid(start, longest);
@@ -45,8 +47,8 @@ QString quoted(const QString& name, qsizetype place) {
 CGroupDetailsDlg::CGroupDetailsDlg(const AddressBookServices& services, const std::optional<QString>& group,
                                    QWidget* parent)
     : GradientDialog(parent), services_(services), draft_(services.book, group) {
-  setObjectName(QStringLiteral("groupDetailsDialog"));
-  setWindowTitle(QStringLiteral("Parlexo(TM) : Group Details"));
+  setObjectName(u"groupDetailsDialog"_s);
+  setWindowTitle(u"Parlexo(TM) : Group Details"_s);
   createControls();
   createLayout();
   showMembers({});
@@ -61,18 +63,18 @@ CGroupDetailsDlg::CGroupDetailsDlg(const AddressBookServices& services, const st
 void CGroupDetailsDlg::createControls() {
   if (draft_.isNew()) {
     name_ = new QLineEdit(this);
-    name_->setObjectName(QStringLiteral("groupNameEdit"));
+    name_->setObjectName(u"groupNameEdit"_s);
     name_->setValidator(new ContactTextValidator(name_));
     connect(name_, &QLineEdit::textChanged, this, &CGroupDetailsDlg::checkName);
   } else {
-    name_ = readOnlyField(QStringLiteral("groupNameEdit"), this);
+    name_ = readOnlyField(u"groupNameEdit"_s, this);
     name_->setText(shownName(draft_.name()));
   }
   list_ = new RowListView(
-      model_, [this](int row) { return model_.contact(row).name; }, QStringLiteral("Group Members:"), this);
-  list_->setObjectName(QStringLiteral("memberList"));
+      model_, [this](int row) { return model_.contact(row).name; }, u"Group Members:"_s, this);
+  list_->setObjectName(u"memberList"_s);
   // The longest international number has 15 digits.
-  const int numberWidth = fittingColumnWidth(*list_, 100, QStringLiteral("+000000000000000"));
+  const int numberWidth = fittingColumnWidth(*list_, 100, u"+000000000000000"_s);
   list_->setColumnWidths({120, numberWidth, 40, 40, numberWidth});
   list_->setMinimumSize(list_->fittingWidth(), dialogUnits(*this, 0, 90).height());
   connect(list_, &QAbstractItemView::doubleClicked, this, &CGroupDetailsDlg::showProperties);
@@ -86,7 +88,7 @@ void CGroupDetailsDlg::createControls() {
 void CGroupDetailsDlg::createLayout() {
   auto* list = new QVBoxLayout;
   list->setSpacing(4);
-  list->addWidget(labelFor(list_, QStringLiteral("Group &Members:")));
+  list->addWidget(labelFor(list_, u"Group &Members:"_s));
   list->addWidget(list_, 1);
   auto* middle = new QHBoxLayout;
   middle->setSpacing(12);
@@ -99,7 +101,7 @@ void CGroupDetailsDlg::createLayout() {
   layout->addLayout(nameRows());
   layout->addLayout(middle, 1);
   layout->addLayout(okAndCancelRow(*this));
-  ok_ = findChild<PictureButton*>(QStringLiteral("okButton"));
+  ok_ = findChild<PictureButton*>(u"okButton"_s);
   setTabOrder(name_, useSuggestion_);
   setTabOrder(useSuggestion_, list_);
   resize(sizeHint().expandedTo(dialogUnits(*this, 360, 210)));
@@ -107,20 +109,20 @@ void CGroupDetailsDlg::createLayout() {
 
 QLayout* CGroupDetailsDlg::nameRows() {
   nameWarning_ = wrappedLabel({}, this);
-  nameWarning_->setObjectName(QStringLiteral("groupNameWarning"));
+  nameWarning_->setObjectName(u"groupNameWarning"_s);
   nameWarning_->setTextFormat(Qt::PlainText);
   QPalette palette = nameWarning_->palette();
   palette.setColor(QPalette::WindowText, look::problemText);
   nameWarning_->setPalette(palette);
   useSuggestion_ = new HyperlinkLabel({}, {}, this);
-  useSuggestion_->setObjectName(QStringLiteral("useSuggestedNameLink"));
+  useSuggestion_->setObjectName(u"useSuggestedNameLink"_s);
   connect(useSuggestion_, &HyperlinkLabel::clicked, this, [this] {
     name_->setFocus(Qt::OtherFocusReason);
     if (const auto unstable = draft_.unstableName(name_->text())) name_->setText(unstable->suggestion);
   });
   auto* rows = new QGridLayout;
   rows->setVerticalSpacing(2);
-  rows->addWidget(labelFor(name_, QStringLiteral("&Group Name:")), 0, 0);
+  rows->addWidget(labelFor(name_, u"&Group Name:"_s), 0, 0);
   rows->addWidget(name_, 0, 1);
   rows->addWidget(nameWarning_, 1, 1);
   rows->addWidget(useSuggestion_, 2, 1);
@@ -136,12 +138,12 @@ void CGroupDetailsDlg::checkName() {
   useSuggestion_->setVisible(unstable.has_value());
   name_->setAccessibleDescription({});
   if (!unstable) return;
-  const QString warning = QStringLiteral("After a restart this name would read %1.")
-                              .arg(quoted(unstable->afterRestart, unstable->place));
+  const QString warning =
+      u"After a restart this name would read %1."_s.arg(quoted(unstable->afterRestart, unstable->place));
   nameWarning_->setText(warning);
   name_->setAccessibleDescription(warning);
-  const QString use = QStringLiteral("Use ") + quoted(unstable->suggestion, unstable->place);
-  useSuggestion_->setText(QString(use).replace(u'&', QStringLiteral("&&")));
+  const QString use = u"Use "_s + quoted(unstable->suggestion, unstable->place);
+  useSuggestion_->setText(QString(use).replace(u'&', u"&&"_s));
   useSuggestion_->updateGeometry();
 }
 
@@ -153,19 +155,16 @@ QLayout* CGroupDetailsDlg::buttonColumn() {
     connect(button, &PictureButton::clicked, this, action);
     return button;
   };
-  add(QStringLiteral("selectButton"), QStringLiteral("&Select..."), &CGroupDetailsDlg::select);
-  removeButton_ = add(QStringLiteral("removeButton"), QStringLiteral("&Remove"), &CGroupDetailsDlg::remove);
-  add(QStringLiteral("newContactButton"), QStringLiteral("&New Contact..."),
-      [this] { editContact(nullptr); });
-  propertiesButton_ = add(QStringLiteral("propertiesButton"), QStringLiteral("&Properties..."),
-                          &CGroupDetailsDlg::showProperties);
+  add(u"selectButton"_s, u"&Select..."_s, &CGroupDetailsDlg::select);
+  removeButton_ = add(u"removeButton"_s, u"&Remove"_s, &CGroupDetailsDlg::remove);
+  add(u"newContactButton"_s, u"&New Contact..."_s, [this] { editContact(nullptr); });
+  propertiesButton_ = add(u"propertiesButton"_s, u"&Properties..."_s, &CGroupDetailsDlg::showProperties);
   column->addStretch(1);
   return column;
 }
 
 void CGroupDetailsDlg::select() {
-  CSelectContactsDlg dialog(services_.book, QStringLiteral("All"), draft_.selection(), services_.notifier,
-                            this);
+  CSelectContactsDlg dialog(services_.book, u"All"_s, draft_.selection(), services_.notifier, this);
   if (dialog.exec() != QDialog::Accepted) return;
   const QStringList selected = list_->selectedNames();
   draft_.setSelection(dialog.selection());
@@ -175,8 +174,8 @@ void CGroupDetailsDlg::select() {
 void CGroupDetailsDlg::remove() {
   const QStringList names = list_->selectedNames();
   if (names.isEmpty()) return;
-  QString question = QStringLiteral("Are you sure you want to remove this contact from the group?");
-  if (names.size() > 1) question += QStringLiteral("\n\n(%1 contacts are selected.)").arg(names.size());
+  QString question = u"Are you sure you want to remove this contact from the group?"_s;
+  if (names.size() > 1) question += u"\n\n(%1 contacts are selected.)"_s.arg(names.size());
   if (!services_.notifier.confirm(question)) return;
   model_.setContacts({});
   draft_.remove(names);

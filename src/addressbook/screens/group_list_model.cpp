@@ -5,9 +5,10 @@
 
 namespace parlexo {
 
+using namespace Qt::StringLiterals;
+
 GroupListModel::GroupListModel(SelectionLists& lists, QObject* parent)
-    : CheckListModel({QStringLiteral("Select"), QStringLiteral("Name")}, lists.groupCount(), parent),
-      lists_(lists) {}
+    : CheckListModel({u"Select"_s, u"Name"_s}, lists.groupCount(), parent), lists_(lists) {}
 
 QString GroupListModel::entryCell(int entry, int column) const {
   return column == NameColumn ? shownName(lists_.group(entry).name()) : QString();

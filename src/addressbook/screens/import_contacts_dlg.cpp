@@ -32,6 +32,8 @@
 
 namespace parlexo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr qint64 repaintPause = 30;  // milliseconds
@@ -39,13 +41,13 @@ constexpr qint64 repaintPause = 30;  // milliseconds
 QString delimiterName(QChar delimiter) {
   switch (delimiter.unicode()) {
     case u',':
-      return QStringLiteral("Comma");
+      return u"Comma"_s;
     case u';':
-      return QStringLiteral("Semicolon");
+      return u"Semicolon"_s;
     case u'\t':
-      return QStringLiteral("Tab");
+      return u"Tab"_s;
     default:
-      return QStringLiteral("Vertical bar");
+      return u"Vertical bar"_s;
   }
 }
 
@@ -84,8 +86,8 @@ CImportContactsDlg::CImportContactsDlg(const AddressBookServices& services, cons
       services_(services),
       group_(selectedGroup),
       source_(services.runner, services.progress) {
-  setObjectName(QStringLiteral("importContactsDialog"));
-  setWindowTitle(QStringLiteral("Parlexo(TM) : Import Contacts"));
+  setObjectName(u"importContactsDialog"_s);
+  setWindowTitle(u"Parlexo(TM) : Import Contacts"_s);
   createFileControls();
   createPlanControls();
   createBottom();
@@ -96,27 +98,26 @@ CImportContactsDlg::CImportContactsDlg(const AddressBookServices& services, cons
 }
 
 void CImportContactsDlg::createFileControls() {
-  file_ = readOnlyField(QStringLiteral("fileField"), this);
-  file_->setPlaceholderText(QStringLiteral("A .csv, .txt, .tsv, .xls, .xlsx or .ods file"));
-  browse_ = new PictureButton(QStringLiteral("&Browse..."), this);
-  browse_->setObjectName(QStringLiteral("browseButton"));
+  file_ = readOnlyField(u"fileField"_s, this);
+  file_->setPlaceholderText(u"A .csv, .txt, .tsv, .xls, .xlsx or .ods file"_s);
+  browse_ = new PictureButton(u"&Browse..."_s, this);
+  browse_->setObjectName(u"browseButton"_s);
   connect(browse_, &PictureButton::clicked, this, &CImportContactsDlg::browse);
 
   workbookRow_ = new QWidget(this);
   auto* workbook = new QHBoxLayout(workbookRow_);
   workbook->setContentsMargins({});
-  sheet_ = createChoice(QStringLiteral("sheetChoice"), QStringLiteral("S&heet:"), *workbook);
+  sheet_ = createChoice(u"sheetChoice"_s, u"S&heet:"_s, *workbook);
   textRow_ = new QWidget(this);
   auto* text = new QHBoxLayout(textRow_);
   text->setContentsMargins({});
-  encoding_ = createChoice(QStringLiteral("encodingChoice"), QStringLiteral("&Encoding:"), *text);
-  delimiter_ = createChoice(QStringLiteral("delimiterChoice"), QStringLiteral("&Delimiter:"), *text);
+  encoding_ = createChoice(u"encodingChoice"_s, u"&Encoding:"_s, *text);
+  delimiter_ = createChoice(u"delimiterChoice"_s, u"&Delimiter:"_s, *text);
 
-  encoding_->addItem(QStringLiteral("UTF-8"), static_cast<int>(TextEncoding::Utf8));
-  encoding_->addItem(QStringLiteral("UTF-16, little end first"),
-                     static_cast<int>(TextEncoding::Utf16LittleEndian));
-  encoding_->addItem(QStringLiteral("UTF-16, big end first"), static_cast<int>(TextEncoding::Utf16BigEndian));
-  encoding_->addItem(QStringLiteral("Code page of the system"), static_cast<int>(TextEncoding::CodePage));
+  encoding_->addItem(u"UTF-8"_s, static_cast<int>(TextEncoding::Utf8));
+  encoding_->addItem(u"UTF-16, little end first"_s, static_cast<int>(TextEncoding::Utf16LittleEndian));
+  encoding_->addItem(u"UTF-16, big end first"_s, static_cast<int>(TextEncoding::Utf16BigEndian));
+  encoding_->addItem(u"Code page of the system"_s, static_cast<int>(TextEncoding::CodePage));
   for (const QChar known : knownDelimiters) delimiter_->addItem(delimiterName(known), known);
   for (QComboBox* choice : {encoding_, delimiter_})
     connect(choice, &QComboBox::currentIndexChanged, this, &CImportContactsDlg::changeFormat);
@@ -137,44 +138,42 @@ QComboBox* CImportContactsDlg::createChoice(const QString& objectName, const QSt
 }
 
 void CImportContactsDlg::createPlanControls() {
-  headings_ = checkBox(QString(), QStringLiteral("headingsBox"), this);
+  headings_ = checkBox(QString(), u"headingsBox"_s, this);
   showHeadingRow();
   connect(headings_, &QCheckBox::toggled, this, &CImportContactsDlg::showPreview);
   preview_ = new ImportPreview(this);
   connect(preview_, &ImportPreview::columnsChanged, this, &CImportContactsDlg::judgeRows);
   problem_ = wrappedLabel(QString(), this);
-  problem_->setObjectName(QStringLiteral("problemLine"));
+  problem_->setObjectName(u"problemLine"_s);
   problem_->setTextFormat(Qt::PlainText);
 
   countryCode_ = new QLineEdit(this);
-  countryCode_->setObjectName(QStringLiteral("countryCode"));
-  countryCode_->setPlaceholderText(QStringLiteral("+61"));
-  countryCode_->setMaximumWidth(countryCode_->fontMetrics().horizontalAdvance(QStringLiteral("+0000000")) +
-                                16);
+  countryCode_->setObjectName(u"countryCode"_s);
+  countryCode_->setPlaceholderText(u"+61"_s);
+  countryCode_->setMaximumWidth(countryCode_->fontMetrics().horizontalAdvance(u"+0000000"_s) + 16);
   connect(countryCode_, &QLineEdit::textChanged, this, &CImportContactsDlg::judgeRows);
-  supportsSms_ = checkBox(QStringLiteral("Supports &SMS"), QStringLiteral("supportsSmsBox"), this);
+  supportsSms_ = checkBox(u"Supports &SMS"_s, u"supportsSmsBox"_s, this);
   supportsSms_->setChecked(true);
-  supportsMedia_ =
-      checkBox(QStringLiteral("Supports &Media (WAP and/or MMS)"), QStringLiteral("supportsMediaBox"), this);
+  supportsMedia_ = checkBox(u"Supports &Media (WAP and/or MMS)"_s, u"supportsMediaBox"_s, this);
 }
 
 void CImportContactsDlg::createBottom() {
   progressText_ = new QLabel(this);
-  progressText_->setObjectName(QStringLiteral("progressText"));
+  progressText_->setObjectName(u"progressText"_s);
   progressBar_ = new QProgressBar(this);
-  progressBar_->setObjectName(QStringLiteral("progressBar"));
-  progressBar_->setAccessibleName(QStringLiteral("Importing contacts"));
+  progressBar_->setObjectName(u"progressBar"_s);
+  progressBar_->setAccessibleName(u"Importing contacts"_s);
   progressBar_->setTextVisible(false);
   progressBar_->hide();
-  import_ = new PictureButton(QStringLiteral("&Import"), this);
-  import_->setObjectName(QStringLiteral("importButton"));
+  import_ = new PictureButton(u"&Import"_s, this);
+  import_->setObjectName(u"importButton"_s);
   import_->setDefault(true);
   connect(import_, &PictureButton::clicked, this, &CImportContactsDlg::startImport);
 }
 
 void CImportContactsDlg::createLayout(const QString& group) {
   auto* fileRow = new QHBoxLayout;
-  fileRow->addWidget(labelFor(file_, QStringLiteral("&File:")));
+  fileRow->addWidget(labelFor(file_, u"&File:"_s));
   fileRow->addWidget(file_, 1);
   fileRow->addWidget(browse_);
   auto* formatRow = new QHBoxLayout;
@@ -183,7 +182,7 @@ void CImportContactsDlg::createLayout(const QString& group) {
   formatRow->addWidget(headings_);
   formatRow->addStretch(1);
   auto* planRow = new QHBoxLayout;
-  planRow->addWidget(labelFor(countryCode_, QStringLiteral("&Country code for numbers without one:")));
+  planRow->addWidget(labelFor(countryCode_, u"&Country code for numbers without one:"_s));
   planRow->addWidget(countryCode_);
   planRow->addSpacing(12);
   planRow->addWidget(supportsSms_);
@@ -195,19 +194,17 @@ void CImportContactsDlg::createLayout(const QString& group) {
   options->setContentsMargins({});
   options->addLayout(fileRow);
   options->addLayout(formatRow);
-  options->addWidget(
-      labelFor(preview_->table(), QStringLiteral("First &rows, and what each column becomes:")));
+  options->addWidget(labelFor(preview_->table(), u"First &rows, and what each column becomes:"_s));
   options->addWidget(preview_, 1);
   options->addWidget(problem_);
   options->addLayout(planRow);
   if (!group.isEmpty()) {
-    auto* joined =
-        wrappedLabel(QStringLiteral("The contacts join the group \"%1\".").arg(shownName(group)), options_);
+    auto* joined = wrappedLabel(u"The contacts join the group \"%1\"."_s.arg(shownName(group)), options_);
     joined->setTextFormat(Qt::PlainText);
     options->addWidget(joined);
   }
-  auto* cancel = new PictureButton(QStringLiteral("Cancel"), this);
-  cancel->setObjectName(QStringLiteral("cancelButton"));
+  auto* cancel = new PictureButton(u"Cancel"_s, this);
+  cancel->setObjectName(u"cancelButton"_s);
   connect(cancel, &PictureButton::clicked, this, &CImportContactsDlg::reject);
   auto* bottom = new QHBoxLayout;
   bottom->addWidget(progressText_);
@@ -227,9 +224,9 @@ void CImportContactsDlg::browse() {
   const QString folder = !source_.path().isEmpty()      ? source_.path()
                          : QFileInfo::exists(documents) ? documents
                                                         : QDir::homePath();
-  const QString path = QFileDialog::getOpenFileName(
-      this, QStringLiteral("Import Contacts"), folder,
-      QStringLiteral("Contacts (*.csv *.txt *.tsv *.xls *.xlsx *.ods);;All files (*)"));
+  const QString path =
+      QFileDialog::getOpenFileName(this, u"Import Contacts"_s, folder,
+                                   u"Contacts (*.csv *.txt *.tsv *.xls *.xlsx *.ods);;All files (*)"_s);
   if (!path.isEmpty()) openFile(path);
 }
 
@@ -272,8 +269,8 @@ void CImportContactsDlg::suggestPlan() {
 }
 
 void CImportContactsDlg::showHeadingRow() {
-  headings_->setText(headingRow_ == 0 ? QStringLiteral("The first row &names the columns")
-                                      : QStringLiteral("Row %1 &names the columns").arg(headingRow_ + 1));
+  headings_->setText(headingRow_ == 0 ? u"The first row &names the columns"_s
+                                      : u"Row %1 &names the columns"_s.arg(headingRow_ + 1));
 }
 
 void CImportContactsDlg::showPreview() {
@@ -314,9 +311,9 @@ ImportPlan CImportContactsDlg::plan() const {
 
 QString CImportContactsDlg::problemOfPlan() const {
   const std::optional<QString> code = PhoneNumber::parseCallingCode(countryCode_->text());
-  if (!code) return QStringLiteral("The country code is a plus sign and one to four digits, as in +61.");
+  if (!code) return u"The country code is a plus sign and one to four digits, as in +61."_s;
   if (!code->isEmpty() && !PhoneNumber::isCallingCodeInUse(*code))
-    return QStringLiteral("The country code %1 is not in use.").arg(*code);
+    return u"The country code %1 is not in use."_s.arg(*code);
   return planProblem(plan());
 }
 

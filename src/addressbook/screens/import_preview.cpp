@@ -17,6 +17,8 @@
 
 namespace parlexo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // A file may have a thousand columns, of which a contact can take fourteen.
@@ -37,10 +39,10 @@ QTableWidgetItem* cellItem(const QString& text) {
 /// The contact that a row becomes, or why it is refused; in red what is lost.
 QTableWidgetItem* resultItem(const ImportRow& row) {
   const QString number = row.contact.phone.isEmpty() ? row.contact.fax : row.contact.phone;
-  const QString contact = QStringLiteral("%1 [%2]").arg(row.contact.name, number);
-  auto* item = cellItem(!row.refusal.isEmpty() ? QStringLiteral("Refused: ") + row.refusal
+  const QString contact = u"%1 [%2]"_s.arg(row.contact.name, number);
+  auto* item = cellItem(!row.refusal.isEmpty() ? u"Refused: "_s + row.refusal
                         : row.remark.isEmpty() ? contact
-                                               : contact + QStringLiteral(". ") + row.remark);
+                                               : contact + u". "_s + row.remark);
   if (!row.refusal.isEmpty() || !row.remark.isEmpty()) item->setForeground(look::problemText);
   return item;
 }
@@ -48,7 +50,7 @@ QTableWidgetItem* resultItem(const ImportRow& row) {
 QString headingOf(const Sheet& sheet, int column, std::optional<int> headingRow) {
   const QString heading =
       headingRow ? sheet.cell(*headingRow, column).toString().simplified().left(longestShown) : QString();
-  return heading.isEmpty() ? QStringLiteral("Column %1").arg(column + 1) : heading;
+  return heading.isEmpty() ? u"Column %1"_s.arg(column + 1) : heading;
 }
 
 }  // namespace
@@ -56,8 +58,8 @@ QString headingOf(const Sheet& sheet, int column, std::optional<int> headingRow)
 ImportPreview::ImportPreview(QWidget* parent)
     : QWidget(parent), strip_(new QWidget(this)), table_(new QTableWidget(this)) {
   styleList(*table_);
-  table_->setObjectName(QStringLiteral("preview"));
-  table_->setAccessibleName(QStringLiteral("First rows, and what each column becomes:"));
+  table_->setObjectName(u"preview"_s);
+  table_->setAccessibleName(u"First rows, and what each column becomes:"_s);
   table_->setEditTriggers(QAbstractItemView::NoEditTriggers);
   table_->setSelectionMode(QAbstractItemView::NoSelection);
   table_->setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
@@ -87,7 +89,7 @@ void ImportPreview::show(const Sheet& sheet, const ImportPlan& plan) {
     if (!sheet.isBlank(row)) rows_.push_back(row);
   table_->setColumnCount(columns == 0 ? 0 : firstFileColumn + columns);
   table_->setRowCount(columns == 0 ? 0 : static_cast<int>(rows_.size()));
-  QStringList headings = {QStringLiteral("Contact")};
+  QStringList headings = {u"Contact"_s};
   for (int column = 0; column < columns; ++column) headings << headingOf(sheet, column, plan.headingRow);
   table_->setHorizontalHeaderLabels(headings);
   for (int column = 0; column < columns; ++column)
@@ -99,8 +101,8 @@ void ImportPreview::show(const Sheet& sheet, const ImportPlan& plan) {
 
 void ImportPreview::addChoice(int column, ImportField field) {
   auto* choice = new QComboBox(strip_);
-  choice->setObjectName(QStringLiteral("column%1Choice").arg(column + 1));
-  const QString purpose = QStringLiteral("What column %1 becomes").arg(column + 1);
+  choice->setObjectName(u"column%1Choice"_s.arg(column + 1));
+  const QString purpose = u"What column %1 becomes"_s.arg(column + 1);
   choice->setAccessibleName(purpose);
   choice->setAccessibleDescription(purpose);  // Qt on Unix names a combo box by its value
   for (const ImportField offered : importFields())

@@ -11,23 +11,22 @@
 
 namespace parlexo {
 
+using namespace Qt::StringLiterals;
+
 CImportQuestionDlg::CImportQuestionDlg(const QString& contactName, QWidget* parent)
-    : GradientDialog(parent),
-      forAll_(new QCheckBox(QStringLiteral("&Do this for all contacts that exist"), this)) {
+    : GradientDialog(parent), forAll_(new QCheckBox(u"&Do this for all contacts that exist"_s, this)) {
   constexpr int widthUnits = 230;
-  setObjectName(QStringLiteral("importQuestionDialog"));
-  setWindowTitle(QStringLiteral("Parlexo(TM) : Import Contacts"));
+  setObjectName(u"importQuestionDialog"_s);
+  setWindowTitle(u"Parlexo(TM) : Import Contacts"_s);
   auto* question = new QLabel(
-      QStringLiteral(
-          "A contact with the name \"%1\" already exists. Do you want to overwrite it?\n\nFields that "
-          "the file does not have keep their values.")
-          .arg(contactName),
+      u"A contact with the name \"%1\" already exists. Do you want to overwrite it?\n\nFields that "
+      "the file does not have keep their values."_s.arg(contactName),
       this);
-  question->setObjectName(QStringLiteral("question"));
+  question->setObjectName(u"question"_s);
   question->setTextFormat(Qt::PlainText);
   question->setWordWrap(true);
   question->setMinimumWidth(dialogUnits(*this, widthUnits, 0).width());
-  forAll_->setObjectName(QStringLiteral("forAllBox"));
+  forAll_->setObjectName(u"forAllBox"_s);
   auto* row = new QHBoxLayout;
   row->addStretch(1);
   const auto addButton = [&](TextId text, const QString& name, ImportUser::Choice choice) {
@@ -40,9 +39,9 @@ CImportQuestionDlg::CImportQuestionDlg(const QString& contactName, QWidget* pare
     row->addWidget(button);
     return button;
   };
-  addButton(TextId::ButtonYes, QStringLiteral("yesButton"), ImportUser::Choice::Overwrite);
-  auto* no = addButton(TextId::ButtonNo, QStringLiteral("noButton"), ImportUser::Choice::Skip);
-  addButton(TextId::ButtonCancel, QStringLiteral("cancelButton"), ImportUser::Choice::Cancel);
+  addButton(TextId::ButtonYes, u"yesButton"_s, ImportUser::Choice::Overwrite);
+  auto* no = addButton(TextId::ButtonNo, u"noButton"_s, ImportUser::Choice::Skip);
+  addButton(TextId::ButtonCancel, u"cancelButton"_s, ImportUser::Choice::Cancel);
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(16, 14, 16, 14);
   layout->setSpacing(12);

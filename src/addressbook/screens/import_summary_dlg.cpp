@@ -15,16 +15,18 @@
 
 namespace parlexo {
 
+using namespace Qt::StringLiterals;
+
 CImportSummaryDlg::CImportSummaryDlg(const Sheet& sheet, const ImportPlan& plan, const ImportOutcome& outcome,
                                      Notifier& notifier, QWidget* parent)
     : GradientDialog(parent), sheet_(sheet), plan_(plan), outcome_(outcome), notifier_(notifier) {
-  setObjectName(QStringLiteral("importSummaryDialog"));
-  setWindowTitle(QStringLiteral("Parlexo(TM) : Import Contacts"));
+  setObjectName(u"importSummaryDialog"_s);
+  setWindowTitle(u"Parlexo(TM) : Import Contacts"_s);
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(16, 14, 16, 14);
   layout->setSpacing(10);
   auto* summary = new QLabel(summaryText(outcome), this);
-  summary->setObjectName(QStringLiteral("summary"));
+  summary->setObjectName(u"summary"_s);
   summary->setMinimumWidth(dialogUnits(*this, 170, 0).width());  // the title is read whole
   layout->addWidget(summary);
   if (!outcome.refused.empty() || !outcome.remarks.empty()) addRows(*layout);
@@ -34,24 +36,24 @@ CImportSummaryDlg::CImportSummaryDlg(const Sheet& sheet, const ImportPlan& plan,
 QStringList CImportSummaryDlg::rowTexts() const {
   QStringList texts;
   for (const ImportOutcome::Refused& refused : outcome_.refused)
-    texts << QStringLiteral("Row %1: %2").arg(refused.row + 1).arg(refused.reason);
+    texts << u"Row %1: %2"_s.arg(refused.row + 1).arg(refused.reason);
   for (const ImportOutcome::Remark& remark : outcome_.remarks)
-    texts << QStringLiteral("Row %1 is imported in part: %2").arg(remark.row + 1).arg(remark.text);
+    texts << u"Row %1 is imported in part: %2"_s.arg(remark.row + 1).arg(remark.text);
   return texts;
 }
 
 void CImportSummaryDlg::addRows(QVBoxLayout& layout) {
   constexpr qsizetype mostShown = 1000;
-  const QString caption = outcome_.remarks.empty()   ? QStringLiteral("&Refused rows:")
-                          : outcome_.refused.empty() ? QStringLiteral("&Rows imported in part:")
-                                                     : QStringLiteral("&Rows refused or imported in part:");
+  const QString caption = outcome_.remarks.empty()   ? u"&Refused rows:"_s
+                          : outcome_.refused.empty() ? u"&Rows imported in part:"_s
+                                                     : u"&Rows refused or imported in part:"_s;
   auto* list = new QListWidget(this);
-  list->setObjectName(QStringLiteral("refusedList"));
+  list->setObjectName(u"refusedList"_s);
   list->setAccessibleName(QString(caption).remove(u'&'));
   styleList(*list);
   const QStringList texts = rowTexts();
   list->addItems(texts.mid(0, mostShown));
-  if (texts.size() > mostShown) list->addItem(QStringLiteral("and %L1 more").arg(texts.size() - mostShown));
+  if (texts.size() > mostShown) list->addItem(u"and %L1 more"_s.arg(texts.size() - mostShown));
   list->setMinimumSize(dialogUnits(*this, 250, 80));
   auto* label = new QLabel(caption, this);
   label->setBuddy(list);
@@ -63,13 +65,13 @@ void CImportSummaryDlg::addButtons(QVBoxLayout& layout) {
   auto* row = new QHBoxLayout;
   row->addStretch(1);
   if (!outcome_.refused.empty()) {
-    auto* save = new PictureButton(QStringLiteral("&Save refused rows..."), this);
-    save->setObjectName(QStringLiteral("saveRefusedButton"));
+    auto* save = new PictureButton(u"&Save refused rows..."_s, this);
+    save->setObjectName(u"saveRefusedButton"_s);
     connect(save, &PictureButton::clicked, this, &CImportSummaryDlg::saveRefused);
     row->addWidget(save);
   }
   auto* ok = new PictureButton(text(TextId::ButtonOk), this);
-  ok->setObjectName(QStringLiteral("okButton"));
+  ok->setObjectName(u"okButton"_s);
   ok->setDefault(true);
   connect(ok, &PictureButton::clicked, this, &QDialog::accept);
   row->addWidget(ok);
@@ -78,7 +80,7 @@ void CImportSummaryDlg::addButtons(QVBoxLayout& layout) {
 }
 
 void CImportSummaryDlg::saveRefused() {
-  const QString path = askForCsvPath(this, QStringLiteral("refused rows"));
+  const QString path = askForCsvPath(this, u"refused rows"_s);
   if (!path.isEmpty()) saveRefusedTo(path);
 }
 

@@ -4,9 +4,10 @@
 
 namespace parlexo {
 
+using namespace Qt::StringLiterals;
+
 QLayout* okAndCancelRow(QDialog& dialog) {
-  return dialogButtonRow(dialog, {QStringLiteral("okButton"), QStringLiteral("&OK")},
-                         {QStringLiteral("cancelButton"), QStringLiteral("&Cancel")});
+  return dialogButtonRow(dialog, {u"okButton"_s, u"&OK"_s}, {u"cancelButton"_s, u"&Cancel"_s});
 }
 
 }  // namespace parlexo

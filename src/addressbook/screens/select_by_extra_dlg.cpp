@@ -13,6 +13,8 @@
 
 namespace parlexo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int boxesPerRow = 3;
@@ -21,28 +23,26 @@ constexpr int boxHeightUnits = 75;
 
 QLabel* explanation(QWidget* parent) {
   auto* label = new QLabel(
-      QStringLiteral("Use this to select your contacts based on the Extra attributes assigned. Simply just "
-                     "select the attributes you want in the listbox. Multiple attributes is permitted."),
+      u"Use this to select your contacts based on the Extra attributes assigned. Simply just "
+      "select the attributes you want in the listbox. Multiple attributes is permitted."_s,
       parent);
-  label->setObjectName(QStringLiteral("explanation"));
+  label->setObjectName(u"explanation"_s);
   label->setWordWrap(true);
   return label;
 }
 
 QString valueCountText(qsizetype values, std::size_t contacts) {
-  QString chosen =
-      values == 1 ? QStringLiteral("1 value selected") : QStringLiteral("%1 values selected").arg(values);
+  QString chosen = values == 1 ? u"1 value selected"_s : u"%1 values selected"_s.arg(values);
   if (values == 0) return chosen;
-  return chosen + (contacts == 1 ? QStringLiteral(", 1 contact matches")
-                                 : QStringLiteral(", %1 contacts match").arg(contacts));
+  return chosen + (contacts == 1 ? u", 1 contact matches"_s : u", %1 contacts match"_s.arg(contacts));
 }
 
 }  // namespace
 
 CSelectByExtraDlg::CSelectByExtraDlg(const AddressBook& book, Notifier& notifier, QWidget* parent)
     : GradientDialog(parent), book_(book), notifier_(notifier) {
-  setWindowTitle(QStringLiteral("Parlexo(TM) : Contact Details"));
-  setObjectName(QStringLiteral("selectByExtraDialog"));
+  setWindowTitle(u"Parlexo(TM) : Contact Details"_s);
+  setObjectName(u"selectByExtraDialog"_s);
   auto* grid = new QGridLayout(this);
   grid->addWidget(explanation(this), 0, 0, 1, boxesPerRow);
   const ExtraValues values = distinctExtraValues(book);
@@ -54,30 +54,30 @@ CSelectByExtraDlg::CSelectByExtraDlg(const AddressBook& book, Notifier& notifier
 
 void CSelectByExtraDlg::addField(QGridLayout& grid, int field, const QStringList& values) {
   const int number = field + 1;
-  auto* box = new ExtraValueBox(values, QStringLiteral("Extra %1:").arg(number), this);
-  box->setObjectName(QStringLiteral("extra%1List").arg(number));
+  auto* box = new ExtraValueBox(values, u"Extra %1:"_s.arg(number), this);
+  box->setObjectName(u"extra%1List"_s.arg(number));
   box->setMinimumSize(dialogUnits(*this, boxWidthUnits, boxHeightUnits));
   connect(box, &ExtraValueBox::chosenChanged, this, &CSelectByExtraDlg::showCount);
-  auto* search = new SearchField(QStringLiteral("Search Extra %1").arg(number), *box, this);
-  search->setObjectName(QStringLiteral("extra%1Search").arg(number));
+  auto* search = new SearchField(u"Search Extra %1"_s.arg(number), *box, this);
+  search->setObjectName(u"extra%1Search"_s.arg(number));
   connect(search, &QLineEdit::textChanged, box, &ExtraValueBox::search);
   const int row = 1 + 2 * (field / boxesPerRow);
   const int column = field % boxesPerRow;
-  grid.addLayout(searchRow(QStringLiteral("Extra &%1:").arg(number), *search), row, column);
+  grid.addLayout(searchRow(u"Extra &%1:"_s.arg(number), *search), row, column);
   grid.addWidget(box, row + 1, column);
   boxes_[field] = box;
 }
 
 void CSelectByExtraDlg::addBottomRow(QGridLayout& grid, int row) {
   count_ = new QLabel(this);
-  count_->setObjectName(QStringLiteral("countLine"));
+  count_->setObjectName(u"countLine"_s);
   auto* buttons = new QHBoxLayout;
   buttons->setContentsMargins(0, 6, 0, 0);
   buttons->addWidget(count_, 1);
-  auto* select = addButton(*buttons, QStringLiteral("selectButton"), QStringLiteral("&Select"));
+  auto* select = addButton(*buttons, u"selectButton"_s, u"&Select"_s);
   select->setDefault(true);
   connect(select, &PictureButton::clicked, this, &QDialog::accept);
-  auto* cancel = addButton(*buttons, QStringLiteral("cancelButton"), QStringLiteral("&Cancel"));
+  auto* cancel = addButton(*buttons, u"cancelButton"_s, u"&Cancel"_s);
   connect(cancel, &PictureButton::clicked, this, &QDialog::reject);
   grid.addLayout(buttons, row, 0, 1, boxesPerRow);
 }

@@ -15,6 +15,8 @@
 
 namespace parlexo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int checkWidth = 30;
@@ -23,9 +25,9 @@ constexpr int numberWidth = 100;
 constexpr int listHeightUnits = 190;
 
 QString contactCountText(int ticked, int all, int tickedAndShown) {
-  QString count = QStringLiteral("%1 of %2 contacts selected").arg(ticked).arg(all);
+  QString count = u"%1 of %2 contacts selected"_s.arg(ticked).arg(all);
   if (ticked == tickedAndShown) return count;
-  return count + QStringLiteral(", %1 hidden by the search").arg(ticked - tickedAndShown);
+  return count + u", %1 hidden by the search"_s.arg(ticked - tickedAndShown);
 }
 
 }  // namespace
@@ -39,8 +41,8 @@ CSelectContactsDlg::CSelectContactsDlg(const AddressBook& book, const QString& m
       lists_(book, mode, initial),
       groups_(lists_),
       contacts_(lists_, mode) {
-  setWindowTitle(QStringLiteral("Parlexo(TM) : Contacts"));
-  setObjectName(QStringLiteral("selectContactsDialog"));
+  setWindowTitle(u"Parlexo(TM) : Contacts"_s);
+  setObjectName(u"selectContactsDialog"_s);
   createLists();
   createSearches();
   createButtons();
@@ -52,14 +54,13 @@ CSelectContactsDlg::CSelectContactsDlg(const AddressBook& book, const QString& m
 }
 
 void CSelectContactsDlg::createLists() {
-  groupView_ = new CheckListView(groups_, QStringLiteral("Groups:"), this);
-  groupView_->setObjectName(QStringLiteral("groupList"));
+  groupView_ = new CheckListView(groups_, u"Groups:"_s, this);
+  groupView_->setObjectName(u"groupList"_s);
   groupView_->setColumnWidths({checkWidth, nameWidth});
-  contactView_ = new CheckListView(contacts_, QStringLiteral("Contacts:"), this);
-  contactView_->setObjectName(QStringLiteral("contactList"));
+  contactView_ = new CheckListView(contacts_, u"Contacts:"_s, this);
+  contactView_->setObjectName(u"contactList"_s);
   // The longest international number has 15 digits.
-  const int fittingNumberWidth =
-      fittingColumnWidth(*contactView_, numberWidth, QStringLiteral("+000000000000000"));
+  const int fittingNumberWidth = fittingColumnWidth(*contactView_, numberWidth, u"+000000000000000"_s);
   contactView_->setColumnWidths({checkWidth, nameWidth, fittingNumberWidth});
   for (CheckListView* view : {groupView_, contactView_}) {
     view->setMinimumWidth(view->fittingWidth());
@@ -69,14 +70,14 @@ void CSelectContactsDlg::createLists() {
 }
 
 void CSelectContactsDlg::createSearches() {
-  groupSearch_ = new SearchField(QStringLiteral("Search groups"), *groupView_, this);
-  groupSearch_->setObjectName(QStringLiteral("groupSearch"));
+  groupSearch_ = new SearchField(u"Search groups"_s, *groupView_, this);
+  groupSearch_->setObjectName(u"groupSearch"_s);
   connect(groupSearch_, &QLineEdit::textChanged, &groups_, &CheckListModel::search);
-  contactSearch_ = new SearchField(QStringLiteral("Search name, number or Extra"), *contactView_, this);
-  contactSearch_->setObjectName(QStringLiteral("contactSearch"));
+  contactSearch_ = new SearchField(u"Search name, number or Extra"_s, *contactView_, this);
+  contactSearch_->setObjectName(u"contactSearch"_s);
   connect(contactSearch_, &QLineEdit::textChanged, &contacts_, &CheckListModel::search);
   count_ = new QLabel(this);
-  count_->setObjectName(QStringLiteral("countLine"));
+  count_->setObjectName(u"countLine"_s);
   connect(&contacts_, &CheckListModel::ticksChanged, this, &CSelectContactsDlg::showCount);
   connect(&contacts_, &CheckListModel::modelReset, this, &CSelectContactsDlg::showCount);
 }
@@ -88,19 +89,18 @@ void CSelectContactsDlg::createButtons() {
     connect(created, &PictureButton::clicked, this, action);
     return created;
   };
-  extraButton_ = button(QStringLiteral("Select by E&xtra..."), QStringLiteral("selectByExtraButton"),
-                        &CSelectContactsDlg::selectByExtra);
-  selectButton_ = button(QStringLiteral("&Select"), QStringLiteral("selectButton"), &QDialog::accept);
-  clearButton_ = button(QStringLiteral("&Clear All Selection"), QStringLiteral("clearAllButton"),
-                        &CSelectContactsDlg::clearTicks);
-  cancelButton_ = button(QStringLiteral("&Cancel"), QStringLiteral("cancelButton"), &QDialog::reject);
+  extraButton_ =
+      button(u"Select by E&xtra..."_s, u"selectByExtraButton"_s, &CSelectContactsDlg::selectByExtra);
+  selectButton_ = button(u"&Select"_s, u"selectButton"_s, &QDialog::accept);
+  clearButton_ = button(u"&Clear All Selection"_s, u"clearAllButton"_s, &CSelectContactsDlg::clearTicks);
+  cancelButton_ = button(u"&Cancel"_s, u"cancelButton"_s, &QDialog::reject);
   selectButton_->setDefault(true);
 }
 
 void CSelectContactsDlg::createLayout() {
   auto* lists = new QGridLayout;
-  lists->addLayout(searchRow(QStringLiteral("&Groups:"), *groupSearch_), 0, 0);
-  lists->addLayout(searchRow(QStringLiteral("C&ontacts:"), *contactSearch_), 0, 1);
+  lists->addLayout(searchRow(u"&Groups:"_s, *groupSearch_), 0, 0);
+  lists->addLayout(searchRow(u"C&ontacts:"_s, *contactSearch_), 0, 1);
   lists->addWidget(groupView_, 1, 0);
   lists->addWidget(contactView_, 1, 1);
   lists->addWidget(count_, 2, 1);

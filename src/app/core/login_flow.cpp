@@ -5,6 +5,8 @@
 
 namespace parlexo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 constexpr int wrongCredentials = 4;
 }
@@ -29,10 +31,9 @@ LoginOutcome LoginFlow::attempt(const QString& user, const QString& password) {
 
 void LoginFlow::showRefusal(int errorCode) {
   if (errorCode == wrongCredentials)
-    notifier_.error(QStringLiteral("Invalid Username or Password. Passwords are case sensitive"));
+    notifier_.error(u"Invalid Username or Password. Passwords are case sensitive"_s);
   else
-    notifier_.error(
-        withNumber(QStringLiteral("An error occured while logging on. Error code: %d"), errorCode));
+    notifier_.error(withNumber(u"An error occured while logging on. Error code: %d"_s, errorCode));
 }
 
 void LoginFlow::keepSession(const QString& session, const QString& user) {

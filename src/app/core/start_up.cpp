@@ -5,6 +5,8 @@
 
 namespace parlexo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 constexpr int contactsUnreadable = -1;
 constexpr int finished = 0;
@@ -26,7 +28,7 @@ bool StartUp::loadStores() {
     parts_.notifier.error(withNumber(TextId::ModulePathFailed, error));
   makeFolderPath(parts_.settings.contactsFolder());
   makeFolderPath(parts_.settings.templatesFolder());
-  parts_.progress.show(QStringLiteral("Loading Contacts from Database..."));
+  parts_.progress.show(u"Loading Contacts from Database..."_s);
   if (!parts_.stores.loadContacts()) return false;
   parts_.stores.loadStatusLog();
   return true;

@@ -9,6 +9,8 @@
 
 namespace parlexo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// Reads a line from left to right against the expected text, the way a scanning pattern does.
@@ -56,8 +58,8 @@ std::optional<GatewayLocation> parseServerLine(const QByteArray& line) {
   location.port = leadingNumber(*port);
   location.maxFileSize = leadingNumber(*size);
   location.maxFileSizeMobile = leadingNumber(*sizeMobile);
-  location.endpoint = QStringLiteral("http://%1:%2/ccx/onlineCommunication")
-                          .arg(location.host, QString::number(location.port));
+  location.endpoint =
+      u"http://%1:%2/ccx/onlineCommunication"_s.arg(location.host, QString::number(location.port));
   return location;
 }
 

@@ -12,6 +12,8 @@
 
 namespace parlexo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr DownloadLimits scriptLimits{
@@ -36,7 +38,7 @@ QString askScript(const ProxySystem& system, const QUrl& address, const CancelFl
   if (!place.isValid()) return {};
   const QByteArray script = downloadScript(place, cancel);
   const QTemporaryDir folder;
-  QFile file(folder.filePath(QStringLiteral("proxy.pac")));
+  QFile file(folder.filePath(u"proxy.pac"_s));
   if (script.isEmpty() || !file.open(QIODevice::WriteOnly) || file.write(script) != script.size()) return {};
   // Who runs it may want to have the file alone.
   file.close();

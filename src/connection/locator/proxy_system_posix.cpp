@@ -7,6 +7,8 @@
 
 namespace parlexo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int pollMilliseconds = 50;
@@ -29,7 +31,7 @@ bool endsWell(QProcess& process, std::chrono::milliseconds patience, const Cance
 
 QString encoded(const QUrl& address) {
   // The script engine sets the address between single quotes.
-  return QString::fromLatin1(address.toEncoded()).replace(u'\'', QStringLiteral("%27"));
+  return QString::fromLatin1(address.toEncoded()).replace(u'\'', u"%27"_s);
 }
 
 /// Asks a helper process for everything that may block.
@@ -38,29 +40,28 @@ class PosixProxySystem final : public ProxySystem {
   explicit PosixProxySystem(std::chrono::milliseconds patience) : patience_(patience) {}
 
   [[nodiscard]] QString configuredProxy(const QUrl& address, const CancelFlag& cancel) const override {
-    const QStringList answers = ask({QStringLiteral("setting"), encoded(address)}, cancel);
+    const QStringList answers = ask({u"setting"_s, encoded(address)}, cancel);
     if (answers.isEmpty()) return {};
     // The first is the one to use. Of the other kinds, "direct" is no proxy and SOCKS none for HTTP.
     const QUrl proxy(answers.first());
     if (proxy.scheme() != QLatin1String("http") || proxy.host().isEmpty()) return {};
-    return QStringLiteral("%1:%2").arg(proxy.host()).arg(proxy.port(defaultHttpPort));
+    return u"%1:%2"_s.arg(proxy.host()).arg(proxy.port(defaultHttpPort));
   }
 
   [[nodiscard]] QUrl scriptAddress(const CancelFlag& cancel) const override {
-    return QUrl(ask({QStringLiteral("detect")}, cancel).value(0));
+    return QUrl(ask({u"detect"_s}, cancel).value(0));
   }
 
   [[nodiscard]] QString scriptAnswer(const QString& file, const QUrl& address,
                                      const CancelFlag& cancel) const override {
-    return ask({QStringLiteral("script"), file, encoded(address), address.host(QUrl::FullyEncoded)}, cancel)
-        .value(0);
+    return ask({u"script"_s, file, encoded(address), address.host(QUrl::FullyEncoded)}, cancel).value(0);
   }
 
  private:
   /// Runs the helper, which bounds its own output, and returns the lines it wrote. A process of its own can
   /// be killed whatever the network or a script does in it.
   [[nodiscard]] QStringList ask(const QStringList& question, const CancelFlag& cancel) const {
-    const QString program = helperProgram(QStringLiteral("parlexo-proxy-finder"));
+    const QString program = helperProgram(u"parlexo-proxy-finder"_s);
     if (program.isEmpty()) return {};
     QProcess finder;
     finder.setStandardInputFile(QProcess::nullDevice());

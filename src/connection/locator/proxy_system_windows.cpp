@@ -19,6 +19,8 @@
 
 namespace parlexo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr DWORD settingSize = 4096;
@@ -94,7 +96,7 @@ ProxySetting proxySetting() {
 /// Whether `host` is one of `exceptions`: patterns such as "*.inside.example", and "<local>" for all names
 /// without a dot.
 bool isExcepted(const QString& host, const QString& exceptions) {
-  static const QRegularExpression separators(QStringLiteral("[;\\s]+"));
+  static const QRegularExpression separators(u"[;\\s]+"_s);
   const QStringList patterns = exceptions.split(separators, Qt::SkipEmptyParts);
   return std::any_of(patterns.begin(), patterns.end(), [&host](const QString& pattern) {
     if (pattern == QLatin1String("<local>")) return !host.contains(u'.');
@@ -107,7 +109,7 @@ QString scriptedProxy(const QUrl& address) {
   const auto proxies = QNetworkProxyFactory::systemProxyForQuery(QNetworkProxyQuery(address));
   const QNetworkProxy first = proxies.value(0);
   if (first.type() != QNetworkProxy::HttpProxy) return {};
-  return QStringLiteral("%1:%2").arg(first.hostName()).arg(first.port());
+  return u"%1:%2"_s.arg(first.hostName()).arg(first.port());
 }
 
 /// Asks WinINet. Its calls can't be interrupted: a cancelled one is left to end by itself.

@@ -10,6 +10,8 @@
 
 namespace parlexo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 int firstNumber(const QString& text) {
@@ -19,7 +21,7 @@ int firstNumber(const QString& text) {
 
 ProxyAddress httpProxy(const QString& entry) {
   constexpr int defaultPort = 80;
-  const QString address = entry.contains(QLatin1String("://")) ? entry : QStringLiteral("http://") + entry;
+  const QString address = entry.contains(QLatin1String("://")) ? entry : u"http://"_s + entry;
   const QUrl proxy(address, QUrl::StrictMode);
   const int port = proxy.port(defaultPort);
   const bool isHttp = proxy.isValid() && proxy.scheme() == QLatin1String("http");
@@ -37,7 +39,7 @@ ProxyAddress parseProxyText(const QString& text) {
 }
 
 ProxyAddress httpProxyIn(const QString& list, const QString& scheme) {
-  static const QRegularExpression separators(QStringLiteral("[;\\s]+"));
+  static const QRegularExpression separators(u"[;\\s]+"_s);
   ProxyAddress forAllSchemes;
   for (const QString& entry : list.split(separators, Qt::SkipEmptyParts)) {
     const qsizetype equals = entry.indexOf(u'=');

@@ -14,6 +14,8 @@
 
 namespace parlexo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int statusOk = 200;
@@ -105,7 +107,7 @@ ServerLocator::ServerLocator(const QUrl& site, const LocatorLimits& limits) : si
 Download ServerLocator::attempt(const ProxySettings& login, const ProxyAddress& preconfigured,
                                 const QDeadlineTimer& deadline, const CancelFlag& cancel) const {
   QUrl address(site_);
-  address.setPath(QStringLiteral("/WSDLServerLocator.xml"));
+  address.setPath(u"/WSDLServerLocator.xml"_s);
   for (int redirects = 0;; ++redirects) {
     Download reply = download(requestFor(address, login), proxyFor(address, login, preconfigured),
                               {.silence = limits_.transfer,

@@ -13,12 +13,13 @@
 
 namespace parlexo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QString proxyExplanation() {
-  return QStringLiteral(
-      "You connect to the internet via the proxy. You must provide the proxy user name and the proxy "
-      "password (usually your windows login details).");
+  return u"You connect to the internet via the proxy. You must provide the proxy user name and the proxy "
+         "password (usually your windows login details)."_s;
 }
 
 QLineEdit* addRow(QGridLayout& grid, const char* name, const QString& text) {
@@ -34,16 +35,15 @@ QLineEdit* addRow(QGridLayout& grid, const char* name, const QString& text) {
 
 CProxyLoginDlg::CProxyLoginDlg(const ProxyDiscovery& discovery, QWidget* parent) : GradientDialog(parent) {
   const ProxyAddress proxy = discovery.discover();
-  setObjectName(QStringLiteral("proxyLoginDlg"));
-  setWindowTitle(QStringLiteral("Parlexo(TM) : Proxy Login"));
+  setObjectName(u"proxyLoginDlg"_s);
+  setWindowTitle(u"Parlexo(TM) : Proxy Login"_s);
   QVBoxLayout* column = createColumn(*this);
   addFields(*column, proxy);
   QLabel* explanation = wrappedLabel(proxyExplanation(), this);
-  explanation->setObjectName(QStringLiteral("explanation"));
+  explanation->setObjectName(u"explanation"_s);
   column->addWidget(explanation);
   column->addStretch();
-  column->addLayout(dialogButtonRow(*this, {QStringLiteral("ok"), QStringLiteral("OK")},
-                                    {QStringLiteral("cancel"), QStringLiteral("Cancel")}));
+  column->addLayout(dialogButtonRow(*this, {u"ok"_s, u"OK"_s}, {u"cancel"_s, u"Cancel"_s}));
   setMinimumSize(dialogUnits(*this, 220, 139));
 }
 
@@ -53,11 +53,11 @@ CProxyLoginDlg::~CProxyLoginDlg() {
 
 void CProxyLoginDlg::addFields(QVBoxLayout& column, const ProxyAddress& proxy) {
   auto* grid = new QGridLayout;
-  user_ = addRow(*grid, "proxyUser", QStringLiteral("Proxy User Name:"));
-  password_ = addRow(*grid, "proxyPassword", QStringLiteral("Proxy Password:"));
+  user_ = addRow(*grid, "proxyUser", u"Proxy User Name:"_s);
+  password_ = addRow(*grid, "proxyPassword", u"Proxy Password:"_s);
   password_->setEchoMode(QLineEdit::Password);
-  host_ = addRow(*grid, "proxyHost", QStringLiteral("Proxy Host / Address:"));
-  port_ = addRow(*grid, "proxyPort", QStringLiteral("Proxy Port:"));
+  host_ = addRow(*grid, "proxyHost", u"Proxy Host / Address:"_s);
+  port_ = addRow(*grid, "proxyPort", u"Proxy Port:"_s);
   column.addLayout(grid);
   auto* hint = new UnsendableHint(this);
   hint->watch({user_, password_});

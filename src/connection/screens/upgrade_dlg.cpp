@@ -13,21 +13,22 @@
 
 namespace parlexo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QString announcement(const QString& version) {
   if (version.isEmpty()) return {};
-  return QStringLiteral("A new version %1 is now available!").arg(version);
+  return u"A new version %1 is now available!"_s.arg(version);
 }
 
 QString warning() {
-  return QStringLiteral("Product software version mismatch. You MUST upgrade your software!");
+  return u"Product software version mismatch. You MUST upgrade your software!"_s;
 }
 
 QString explanation() {
-  return QStringLiteral(
-      "The version of the client software you are using is out of date.\nPress the Download button to "
-      "download the latest version  of the program. Get the latest fixes and new features...");
+  return u"The version of the client software you are using is out of date.\nPress the Download button to "
+         "download the latest version  of the program. Get the latest fixes and new features..."_s;
 }
 
 QLabel* addLabel(QBoxLayout& column, const char* name, const QString& text) {
@@ -48,8 +49,8 @@ void makeBold(QWidget& widget) {
 
 CUpgradeDlg::CUpgradeDlg(const QString& latestVersion, QWidget* parent, WebOpener opener)
     : GradientDialog(parent) {
-  setObjectName(QStringLiteral("upgradeDlg"));
-  setWindowTitle(QStringLiteral("Parlexo(TM) : Product UPGRADE"));
+  setObjectName(u"upgradeDlg"_s);
+  setWindowTitle(u"Parlexo(TM) : Product UPGRADE"_s);
   QVBoxLayout* column = createColumn(*this);
   makeBold(*addLabel(*column, "warning", warning()));
   QLabel* news = addLabel(*column, "announcement", announcement(latestVersion));
@@ -59,13 +60,13 @@ CUpgradeDlg::CUpgradeDlg(const QString& latestVersion, QWidget* parent, WebOpene
 
   auto* buttons = new QHBoxLayout;
   buttons->addStretch();
-  auto* download = addButton(*buttons, QStringLiteral("download"), QStringLiteral("&Download"));
+  auto* download = addButton(*buttons, u"download"_s, u"&Download"_s);
   download->setDefault(true);
-  auto* cancel = addButton(*buttons, QStringLiteral("cancel"), QStringLiteral("&Cancel"));
+  auto* cancel = addButton(*buttons, u"cancel"_s, u"&Cancel"_s);
   column->addLayout(buttons);
   download->setFocus();
   connect(download, &PictureButton::clicked, this,
-          [opener = std::move(opener)] { opener(QUrl(webPage(QStringLiteral("/messagingclient.php")))); });
+          [opener = std::move(opener)] { opener(QUrl(webPage(u"/messagingclient.php"_s))); });
   connect(cancel, &PictureButton::clicked, this, &QDialog::reject);
 }
 

@@ -14,6 +14,8 @@
 
 namespace parlexo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class Workbook {
@@ -92,7 +94,7 @@ QString readBinaryWorkbook(const QString& path, const ImportLimits& limits, cons
                            NamedSheets& sheets) {
   const Workbook book(path);
   if (!book.isOpen() || book.info(FREEXL_BIFF_PASSWORD) == FREEXL_BIFF_OBFUSCATED)
-    return QStringLiteral("The workbook can't be read. It is damaged or protected by a password.");
+    return u"The workbook can't be read. It is damaged or protected by a password."_s;
   WorkbookBuilder builder(limits, cancel);
   const std::vector<BinarySheet> properties = sheetsOf(path);
   const unsigned count = book.info(FREEXL_BIFF_SHEET_COUNT);

@@ -4,10 +4,11 @@
 
 namespace parlexo {
 
+using namespace Qt::StringLiterals;
+
 QString readBinaryWorkbook(const QString& /*path*/, const ImportLimits& /*limits*/,
                            const CancelFlag& /*cancel*/, NamedSheets& /*sheets*/) {
-  return QStringLiteral(
-      "This program was built without the reader of .xls workbooks. Save the sheet as CSV.");
+  return u"This program was built without the reader of .xls workbooks. Save the sheet as CSV."_s;
 }
 
 }  // namespace parlexo

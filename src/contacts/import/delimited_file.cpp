@@ -17,6 +17,8 @@
 
 namespace parlexo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr qint64 chunkBytes = 1 << 18;
@@ -105,7 +107,7 @@ struct SeparatorLine {
 };
 
 SeparatorLine findSeparatorLine(const QString& text) {
-  static const QRegularExpression pattern(QStringLiteral("^\"?sep=(.)\"?(\r\n|\r|\n|$)"),
+  static const QRegularExpression pattern(u"^\"?sep=(.)\"?(\r\n|\r|\n|$)"_s,
                                           QRegularExpression::CaseInsensitiveOption);
   const QRegularExpressionMatch match = pattern.match(text);
   return match.hasMatch() ? SeparatorLine{match.captured(1).front(), match.capturedLength()}
@@ -141,17 +143,15 @@ QChar detectDelimiter(const QString& path, TextEncoding encoding, const ImportLi
 
 QString fileProblem(const QString& path, const ImportLimits& limits) {
   const QFileInfo info(path);
-  if (!info.exists()) return QStringLiteral("There is no such file: ") + path;
+  if (!info.exists()) return u"There is no such file: "_s + path;
   // A pipe or a device might never come to its end.
-  if (!info.isFile()) return QStringLiteral("This is not a file: ") + path;
+  if (!info.isFile()) return u"This is not a file: "_s + path;
   if (info.size() > limits.fileBytes)
-    return QStringLiteral("The file has %L1 MB. Files of more than %L2 MB can't be imported.")
-        .arg(info.size() >> 20)
+    return u"The file has %L1 MB. Files of more than %L2 MB can't be imported."_s.arg(info.size() >> 20)
         .arg(limits.fileBytes >> 20);
-  if (info.size() == 0) return QStringLiteral("The file is empty.");
+  if (info.size() == 0) return u"The file is empty."_s;
   QFile file(path);
-  if (!file.open(QIODevice::ReadOnly))
-    return QStringLiteral("The file can't be opened: ") + file.errorString();
+  if (!file.open(QIODevice::ReadOnly)) return u"The file can't be opened: "_s + file.errorString();
   return {};
 }
 
@@ -167,7 +167,7 @@ SheetReading readDelimited(const QString& path, const DelimitedFormat& format, c
   SheetReading reading;
   QFile file(path);
   if (!file.open(QIODevice::ReadOnly)) {
-    reading.problem = QStringLiteral("The file can't be opened: ") + file.errorString();
+    reading.problem = u"The file can't be opened: "_s + file.errorString();
     return reading;
   }
   TextDecoder decoder(format.encoding);
@@ -183,9 +183,8 @@ SheetReading readDelimited(const QString& path, const DelimitedFormat& format, c
   }
   if (cancel.isRaised()) return reading;
   parser.finish();
-  reading.problem = file.error() == QFileDevice::NoError
-                        ? parser.problem()
-                        : QStringLiteral("The file can't be read: ") + file.errorString();
+  reading.problem = file.error() == QFileDevice::NoError ? parser.problem()
+                                                         : u"The file can't be read: "_s + file.errorString();
   return reading;
 }
 

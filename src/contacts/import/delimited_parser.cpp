@@ -4,6 +4,8 @@
 
 namespace parlexo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 constexpr QChar quote = u'"';
 constexpr QChar carriageReturn = u'\r';
@@ -23,15 +25,14 @@ bool DelimitedParser::feed(QStringView piece) {
 
 void DelimitedParser::finish() {
   if (state_ == State::Quoted)
-    fail(QStringLiteral("the quotation mark that opens a cell there is never closed."), quoteLine_);
+    fail(u"the quotation mark that opens a cell there is never closed."_s, quoteLine_);
   else if (state_ != State::Done && (state_ != State::CellStart || sheet_.openRowCells() > 0))
     endRow();
 }
 
 void DelimitedParser::take(QChar character) {
   if (character.isNull()) {
-    fail(QStringLiteral("there is a zero character. The file is no text, or its encoding is another one."),
-         line_);
+    fail(u"there is a zero character. The file is no text, or its encoding is another one."_s, line_);
     return;
   }
   const bool endsPair = afterReturn_ && character == lineFeed;
@@ -83,25 +84,25 @@ void DelimitedParser::takeAfterQuote(QChar character) {
   } else if (character == carriageReturn || character == lineFeed) {
     endRow();
   } else if (character != u' ') {
-    fail(QStringLiteral("a quotation mark inside a quoted cell is not doubled."), line_);
+    fail(u"a quotation mark inside a quoted cell is not doubled."_s, line_);
   }
 }
 
 void DelimitedParser::takeText(QChar character) {
   sheet_.append(character);
   if (sheet_.openCellLength() > limits_.cellLength)
-    fail(QStringLiteral("a cell has more than %L1 characters. Perhaps a quotation mark is not closed.")
-             .arg(limits_.cellLength),
+    fail(u"a cell has more than %L1 characters. Perhaps a quotation mark is not closed."_s.arg(
+             limits_.cellLength),
          state_ == State::Quoted ? quoteLine_ : line_);
   else if (sheet_.textLength() > limits_.textLength)
-    fail(QStringLiteral("the file has too much text."), line_);
+    fail(u"the file has too much text."_s, line_);
 }
 
 void DelimitedParser::endCell() {
   sheet_.endCell();
   state_ = State::CellStart;
   if (sheet_.openRowCells() >= limits_.columns)
-    fail(QStringLiteral("there are more than %L1 columns.").arg(limits_.columns), line_);
+    fail(u"there are more than %L1 columns."_s.arg(limits_.columns), line_);
 }
 
 void DelimitedParser::endRow() {
@@ -109,13 +110,12 @@ void DelimitedParser::endRow() {
   sheet_.endRow();
   state_ = State::CellStart;
   if (sheet_.rowCount() >= std::min(maxRows_, limits_.rows + 1)) state_ = State::Done;
-  if (sheet_.rowCount() > limits_.rows)
-    fail(QStringLiteral("there are more than %L1 rows.").arg(limits_.rows), line_);
+  if (sheet_.rowCount() > limits_.rows) fail(u"there are more than %L1 rows."_s.arg(limits_.rows), line_);
 }
 
 void DelimitedParser::fail(const QString& problem, int line) {
   state_ = State::Done;
-  problem_ = QStringLiteral("Line %1: ").arg(line) + problem;
+  problem_ = u"Line %1: "_s.arg(line) + problem;
 }
 
 }  // namespace parlexo

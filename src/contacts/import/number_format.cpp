@@ -7,6 +7,8 @@
 
 namespace parlexo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // Up to here every whole number is a double of its own.
@@ -57,8 +59,8 @@ QString dateText(double serial, bool since1904) {
   const int seconds = static_cast<int>(std::lround((serial - days) * secondsPerDay));
   const QDateTime moment =
       QDateTime(begin.addDays(static_cast<qint64>(days)), QTime(0, 0), Qt::UTC).addSecs(seconds);
-  if (seconds == 0) return moment.toString(QStringLiteral("yyyy-MM-dd"));
-  return moment.toString(days == 0 ? QStringLiteral("HH:mm:ss") : QStringLiteral("yyyy-MM-dd HH:mm:ss"));
+  if (seconds == 0) return moment.toString(u"yyyy-MM-dd"_s);
+  return moment.toString(days == 0 ? u"HH:mm:ss"_s : u"yyyy-MM-dd HH:mm:ss"_s);
 }
 
 bool looksLikePhoneNumber(QStringView cell) {

@@ -9,6 +9,8 @@
 
 namespace parlexo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QStringView odsAttribute(const WorkbookXml& xml, QStringView name) {
@@ -71,7 +73,7 @@ QString valueText(const WorkbookXml& xml) {
 }  // namespace
 
 bool OdsReader::read() {
-  const std::unique_ptr<QIODevice> part = archive_.openPart(QStringLiteral("content.xml"));
+  const std::unique_ptr<QIODevice> part = archive_.openPart(u"content.xml"_s);
   if (!part) return false;
   WorkbookXml xml(part.get());
   while (!xml.atEnd() && builder_.isOpen()) {

@@ -8,10 +8,12 @@
 
 namespace parlexo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 bool readParts(ZipArchive& archive, WorkbookBuilder& builder) {
-  if (archive.openPart(QStringLiteral("content.xml"))) return OdsReader(archive, builder).read();
+  if (archive.openPart(u"content.xml"_s)) return OdsReader(archive, builder).read();
   return XlsxReader(archive, builder).read();
 }
 
@@ -23,14 +25,12 @@ QString readPackedWorkbook(const QString& path, const ImportLimits& limits, cons
   WorkbookBuilder builder(limits, cancel);
   const bool isRead = archive.isOpen() && readParts(archive, builder);
   if (archive.isTooLarge())
-    return QStringLiteral(
-               "The workbook has more than %L1 MB once it is unpacked. That much can't be imported.")
-        .arg(limits.unpackedBytes >> 20);
+    return u"The workbook has more than %L1 MB once it is unpacked. That much can't be imported."_s.arg(
+        limits.unpackedBytes >> 20);
   if (!builder.problem().isEmpty() || cancel.isRaised()) return builder.problem();
   if (!isRead)
-    return QStringLiteral(
-        "The workbook can't be read. It is damaged, protected by a password, or no .xlsx or "
-        ".ods workbook.");
+    return u"The workbook can't be read. It is damaged, protected by a password, or no .xlsx or "
+           ".ods workbook."_s;
   sheets = builder.build();
   return builder.problem();
 }

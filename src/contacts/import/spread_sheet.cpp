@@ -8,6 +8,8 @@
 
 namespace parlexo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 enum class WorkbookKind { None, Packed, Binary };
@@ -27,9 +29,8 @@ WorkbookKind kindOf(const QString& path) {
 }  // namespace
 
 QString unreadFormulasText() {
-  return QStringLiteral(
-      "The formulas of this workbook can't be read, so their cells are empty here. "
-      "Save it as .xlsx and import that file.");
+  return u"The formulas of this workbook can't be read, so their cells are empty here. "
+         "Save it as .xlsx and import that file."_s;
 }
 
 bool CSpreadSheet::isWorkbook(const QString& path) {
@@ -47,14 +48,14 @@ QString CSpreadSheet::read(const QString& path, const ImportLimits& limits, cons
       problem = readBinaryWorkbook(path, limits, cancel, sheets_);
       break;
     case WorkbookKind::None:
-      return QStringLiteral("The file is not a workbook.");
+      return u"The file is not a workbook."_s;
   }
   std::stable_partition(sheets_.begin(), sheets_.end(),
                         [](const NamedSheet& sheet) { return !sheet.isHidden; });
   for (NamedSheet& sheet : sheets_)
     if (sheet.isHidden) sheet.name += QLatin1String(" (hidden)");
   if (problem.isEmpty() && sheets_.empty() && !cancel.isRaised())
-    problem = QStringLiteral("The workbook has no sheet with a cell in it.");
+    problem = u"The workbook has no sheet with a cell in it."_s;
   return problem;
 }
 

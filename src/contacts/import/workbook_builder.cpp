@@ -5,21 +5,23 @@
 
 namespace parlexo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QString textLimitProblem() {
-  return QStringLiteral("The file has too much text.");
+  return u"The file has too much text."_s;
 }
 
 QString cellLimitProblem(const ImportLimits& limits) {
-  return QStringLiteral("The file has more than %L1 cells.").arg(limits.cells);
+  return u"The file has more than %L1 cells."_s.arg(limits.cells);
 }
 
 }  // namespace
 
 std::size_t WorkbookBuilder::addSheet(const QString& name, bool isHidden) {
   if (sheets_.size() >= static_cast<std::size_t>(limits_.sheets))
-    problem_ = QStringLiteral("The file has more than %L1 sheets.").arg(limits_.sheets);
+    problem_ = u"The file has more than %L1 sheets."_s.arg(limits_.sheets);
   else
     sheets_.push_back({.name = name, .isHidden = isHidden, .cells = {}});
   return sheets_.size() - 1;
@@ -43,9 +45,9 @@ std::size_t WorkbookBuilder::addText(const QString& text) {
 bool WorkbookBuilder::takes(int row, int column) {
   if (!isOpen() || row < 0 || column < 0) return false;
   if (column >= limits_.columns)
-    problem_ = QStringLiteral("The file has more than %L1 columns.").arg(limits_.columns);
+    problem_ = u"The file has more than %L1 columns."_s.arg(limits_.columns);
   else if (row >= limits_.rows)
-    problem_ = QStringLiteral("The file has more than %L1 rows.").arg(limits_.rows);
+    problem_ = u"The file has more than %L1 rows."_s.arg(limits_.rows);
   else
     countCell();
   return problem_.isEmpty();

@@ -10,6 +10,8 @@
 
 namespace parlexo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // Beyond any limit, whatever is made of it.
@@ -63,7 +65,7 @@ bool isBuiltInDateFormat(int id) {
 }  // namespace
 
 bool XlsxReader::read() {
-  QString workbook = QStringLiteral("xl/workbook.xml");
+  QString workbook = u"xl/workbook.xml"_s;
   for (const Relation& relation : readRelations(QString()))
     if (relation.type == u"officeDocument") workbook = relation.part;
   if (!readWorkbook(workbook)) return false;
@@ -84,8 +86,8 @@ bool XlsxReader::read() {
 
 std::vector<XlsxReader::Relation> XlsxReader::readRelations(const QString& ofPart) {
   const QString folder = folderOf(ofPart);
-  const std::unique_ptr<QIODevice> part = archive_.openPart(
-      folder + QStringLiteral("_rels/") + ofPart.sliced(folder.size()) + QStringLiteral(".rels"));
+  const std::unique_ptr<QIODevice> part =
+      archive_.openPart(folder + u"_rels/"_s + ofPart.sliced(folder.size()) + u".rels"_s);
   std::vector<Relation> relations;
   if (!part) return relations;
   WorkbookXml xml(part.get());
@@ -185,8 +187,7 @@ void XlsxReader::readCell(WorkbookXml& xml, std::size_t sheet, Place place) {
     if (const std::size_t number = value.toUInt(); number < textCount_)
       builder_.setText(sheet, place.row, place.column, firstText_ + number);
   } else if (type == u"b") {
-    builder_.setCell(sheet, place.row, place.column,
-                     value == u"1" ? QStringLiteral("TRUE") : QStringLiteral("FALSE"));
+    builder_.setCell(sheet, place.row, place.column, value == u"1" ? u"TRUE"_s : u"FALSE"_s);
   } else if (type.isEmpty() || type == u"n") {
     setNumber(sheet, place, value, style);
   } else {

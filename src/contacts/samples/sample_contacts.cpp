@@ -16,6 +16,8 @@
 
 namespace parlexo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr std::array firstNames = {"Amelia", "Ben",    "Chloe",  "Daniel", "Elena", "Farid", "Grace",
@@ -64,7 +66,7 @@ QString nameOf(int index) {
 
 // A thousand numbers that look like any other, then numbers under a country code that is not in use.
 QString numberOf(int index, const QString& fictionPrefix, int unusedStart) {
-  if (index >= fictionNumbers) return QStringLiteral("+999") + digits(unusedStart + index, 9);
+  if (index >= fictionNumbers) return u"+999"_s + digits(unusedStart + index, 9);
   constexpr int step = 37;
   constexpr int start = 100;
   return fictionPrefix + digits((index * step + start) % fictionNumbers, 3);
@@ -77,18 +79,17 @@ QString mailOf(const QString& name) {
       mailbox += character;
     else if (character == u' ')
       mailbox += u'.';
-  return mailbox + QStringLiteral("@parlexo.example");
+  return mailbox + u"@parlexo.example"_s;
 }
 
 ContactRecord sampleContact(int index) {
   const bool faxOnly = index % faxOnlyEvery == faxOnlyEvery - 1;
   ContactRecord contact;
   contact.name = nameOf(index);
-  if (!faxOnly) contact.phone = numberOf(index, QStringLiteral("+447700900"), 0);
-  if (faxOnly || index % faxEvery == 0)
-    contact.fax = numberOf(index, QStringLiteral("+442079460"), 500'000'000);
-  contact.supportsSms = faxOnly ? QStringLiteral("N") : QStringLiteral("Y");
-  contact.supportsMedia = faxOnly || index % 3 == 2 ? QStringLiteral("N") : QStringLiteral("Y");
+  if (!faxOnly) contact.phone = numberOf(index, u"+447700900"_s, 0);
+  if (faxOnly || index % faxEvery == 0) contact.fax = numberOf(index, u"+442079460"_s, 500'000'000);
+  contact.supportsSms = faxOnly ? u"N"_s : u"Y"_s;
+  contact.supportsMedia = faxOnly || index % 3 == 2 ? u"N"_s : u"Y"_s;
   contact.email = mailOf(contact.name);
   contact.extra[0] = pick(towns, index);
   contact.extra[1] = pick(roles, index / 3);
@@ -108,11 +109,11 @@ QStringList membersOf(int group, const std::vector<ContactRecord>& contacts) {
 
 QString groupName(int group) {
   if (group < static_cast<int>(groupNames.size())) return pick(groupNames, group);
-  return QStringLiteral("Group ") + QString::number(group + 1);
+  return u"Group "_s + QString::number(group + 1);
 }
 
 bool holdsAddressBook(const QDir& folder) {
-  const QStringList patterns = {QStringLiteral("*.grp"), QStringLiteral("*.all_grp")};
+  const QStringList patterns = {u"*.grp"_s, u"*.all_grp"_s};
   const QFileInfoList files = folder.entryInfoList(patterns, QDir::Files | QDir::Hidden);
   return std::any_of(files.begin(), files.end(), [](const QFileInfo& file) { return file.size() > 0; });
 }
@@ -121,7 +122,7 @@ bool holdsAddressBook(const QDir& folder) {
 QString writeFile(const QString& path, const QByteArray& records) {
   QFile file(path);
   if (file.open(QIODevice::WriteOnly) && file.write(records) == records.size() && file.flush()) return {};
-  return QStringLiteral("Can't write %1: %2").arg(path, file.errorString());
+  return u"Can't write %1: %2"_s.arg(path, file.errorString());
 }
 
 QByteArray contactRecords(const std::vector<ContactRecord>& contacts) {
@@ -159,8 +160,8 @@ std::vector<SampleGroup> sampleGroups(int count, const std::vector<ContactRecord
 
 QString writeSampleFolder(const QString& folder, int contactCount, int groupCount) {
   const QDir dir(folder);
-  if (!dir.mkpath(QStringLiteral("."))) return QStringLiteral("Can't make the folder %1").arg(folder);
-  if (holdsAddressBook(dir)) return QStringLiteral("%1 holds an address book already").arg(folder);
+  if (!dir.mkpath(u"."_s)) return u"Can't make the folder %1"_s.arg(folder);
+  if (holdsAddressBook(dir)) return u"%1 holds an address book already"_s.arg(folder);
   const std::vector<ContactRecord> contacts = sampleContacts(contactCount);
   const auto pathOf = [&](const QString& name, const char* extension) {
     return dir.filePath(encodeGroupFileName(name, QLatin1String(extension)));

@@ -6,6 +6,9 @@
 #include "base/data_size.h"
 
 namespace parlexo {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 FileFacts::State stateOf(const QFileInfo& file, qint64 limit) {
@@ -20,12 +23,12 @@ FileFacts::State stateOf(const QFileInfo& file, qint64 limit) {
 // The name travels with the file.
 QString sentNameText(const QString& name) {
   if (fitsCodePage(name)) return {};
-  return QStringLiteral(", will be sent as \"%1\"").arg(throughCodePage(name));
+  return u", will be sent as \"%1\""_s.arg(throughCodePage(name));
 }
 
 QString pagesText(const std::optional<int>& pages) {
   if (!pages) return {};
-  return *pages == 1 ? QStringLiteral(", 1 page") : QStringLiteral(", %1 pages").arg(*pages);
+  return *pages == 1 ? u", 1 page"_s : u", %1 pages"_s.arg(*pages);
 }
 
 }  // namespace
@@ -38,20 +41,18 @@ FileFacts fileFacts(const QString& path, qint64 limit) {
 QString FileFacts::text() const {
   switch (state) {
     case State::Missing:
-      return QStringLiteral("There is no such file.");
+      return u"There is no such file."_s;
     case State::NoFile:
-      return QStringLiteral("This is a folder or a device, not a file.");
+      return u"This is a folder or a device, not a file."_s;
     case State::Unwritable:
-      return name + QStringLiteral(": can't be sent, as that needs the right to read and to write it");
+      return name + u": can't be sent, as that needs the right to read and to write it"_s;
     case State::Empty:
-      return name + QStringLiteral(": empty");
+      return name + u": empty"_s;
     case State::TooLarge:
-      return name + QStringLiteral(": %1%2, but at most %3 can be sent")
-                        .arg(exactSizeText(size), pagesText(pages), exactSizeText(limit));
+      return name + u": %1%2, but at most %3 can be sent"_s.arg(exactSizeText(size), pagesText(pages),
+                                                                exactSizeText(limit));
     case State::Sendable:
-      return name +
-             QStringLiteral(": %1 of at most %2%3")
-                 .arg(dataSizeText(size), dataSizeText(limit), pagesText(pages)) +
+      return name + u": %1 of at most %2%3"_s.arg(dataSizeText(size), dataSizeText(limit), pagesText(pages)) +
              sentNameText(name);
   }
   Q_UNREACHABLE();

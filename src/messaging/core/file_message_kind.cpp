@@ -1,6 +1,9 @@
 #include "messaging/core/file_message_kind.h"
 
 namespace parlexo {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 template <class Response>
@@ -37,35 +40,33 @@ SendReply sendWap(const Gateway& gateway, const FileParcel& parcel) {
 }  // namespace
 
 const FileMessageKind& fileMessageKind(FileKind kind) {
-  static const FileMessageKind fax = {{QStringLiteral("Fax"), SenderIdUse::Set, TextId::FaxTransport,
-                                       TextId::FaxError, TextId::FaxWarning, TextId::FaxSuccess},
-                                      QStringLiteral("No fax file has been selected. Select a fax file."),
+  static const FileMessageKind fax = {{u"Fax"_s, SenderIdUse::Set, TextId::FaxTransport, TextId::FaxError,
+                                       TextId::FaxWarning, TextId::FaxSuccess},
+                                      u"No fax file has been selected. Select a fax file."_s,
                                       TextId::FaxOpen,
                                       TextId::FaxTooLarge,
                                       TextId::FaxMemory,
                                       &GatewayLocation::maxFileSize,
                                       false,
                                       sendFax};
-  static const FileMessageKind mms = {
-      {QStringLiteral("MMS"), SenderIdUse::Set, TextId::GatewayUnreachable, TextId::MmsError,
-       TextId::MmsWarning, TextId::MmsSuccess},
-      QStringLiteral("No MMS media file has been selected. Select a MMS media file."),
-      TextId::MmsOpen,
-      TextId::MmsTooLarge,
-      TextId::MmsMemory,
-      &GatewayLocation::maxFileSizeMobile,
-      true,
-      sendMms};
-  static const FileMessageKind wap = {
-      {QStringLiteral("WAP"), SenderIdUse::Leave, TextId::GatewayUnreachable, TextId::WapError,
-       TextId::WapWarning, TextId::WapSuccess},
-      QStringLiteral("No WAP media file has been selected. Select a WAP media file."),
-      TextId::WapOpen,
-      TextId::WapTooLarge,
-      TextId::WapMemory,
-      &GatewayLocation::maxFileSizeMobile,
-      false,
-      sendWap};
+  static const FileMessageKind mms = {{u"MMS"_s, SenderIdUse::Set, TextId::GatewayUnreachable,
+                                       TextId::MmsError, TextId::MmsWarning, TextId::MmsSuccess},
+                                      u"No MMS media file has been selected. Select a MMS media file."_s,
+                                      TextId::MmsOpen,
+                                      TextId::MmsTooLarge,
+                                      TextId::MmsMemory,
+                                      &GatewayLocation::maxFileSizeMobile,
+                                      true,
+                                      sendMms};
+  static const FileMessageKind wap = {{u"WAP"_s, SenderIdUse::Leave, TextId::GatewayUnreachable,
+                                       TextId::WapError, TextId::WapWarning, TextId::WapSuccess},
+                                      u"No WAP media file has been selected. Select a WAP media file."_s,
+                                      TextId::WapOpen,
+                                      TextId::WapTooLarge,
+                                      TextId::WapMemory,
+                                      &GatewayLocation::maxFileSizeMobile,
+                                      false,
+                                      sendWap};
   switch (kind) {
     case FileKind::Fax:
       return fax;

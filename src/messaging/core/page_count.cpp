@@ -10,6 +10,9 @@
 #include "base/timeouts.h"
 
 namespace parlexo {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr qint64 largestDocument = 64 << 20;  // bytes
@@ -19,9 +22,9 @@ constexpr std::chrono::milliseconds patience = timeouts::pageCount;
 /// What the page counter calls the kind of document that begins with `start`; empty for what it doesn't know.
 QString documentKind(const QByteArray& start) {
   for (const char* mark : {"II*", "II+", "MM"}) {
-    if (start.startsWith(mark)) return QStringLiteral("tiff");
+    if (start.startsWith(mark)) return u"tiff"_s;
   }
-  return start.contains("%PDF-") ? QStringLiteral("pdf") : QString();
+  return start.contains("%PDF-") ? u"pdf"_s : QString();
 }
 
 QString documentKindAt(const QString& path) {
@@ -46,7 +49,7 @@ std::optional<int> answerOf(QProcess& counter) {
 
 std::optional<int> pageCount(const QString& path) {
   const QString kind = documentKindAt(path);
-  const QString program = helperProgram(QStringLiteral("parlexo-page-counter"));
+  const QString program = helperProgram(u"parlexo-page-counter"_s);
   if (kind.isEmpty() || program.isEmpty()) return std::nullopt;
   QProcess counter;
   counter.setStandardInputFile(path);

@@ -1,10 +1,13 @@
 #include "messaging/core/receipts.h"
 
 namespace parlexo {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QString failMark() {
-  return QStringLiteral("FAIL");
+  return u"FAIL"_s;
 }
 
 QStringList elementsOf(const QString& list) {
@@ -26,7 +29,7 @@ std::vector<StatusEntry> statusEntries(const QString& receipts, const QString& n
   const QStringList elements = elementsOf(receipts);
   std::vector<StatusEntry> entries;
   if (elements.size() != elementsOf(numbersSent).size()) return entries;
-  const QString date = now.toString(QStringLiteral("dd/MM/yyyy HH:mm:ss"));
+  const QString date = now.toString(u"dd/MM/yyyy HH:mm:ss"_s);
   entries.reserve(static_cast<std::size_t>(elements.size()));
   for (const QString& element : elements)
     entries.push_back({beforeColon(element), behindColon(element), deliveredToGateway(), typeWord, date});

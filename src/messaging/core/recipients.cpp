@@ -6,6 +6,9 @@
 #include <QSet>
 
 namespace parlexo {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 const QString& numberOf(const ContactRecord& contact, RecipientNumber which) {
@@ -19,7 +22,7 @@ const QString& numberOf(const ContactRecord& contact, RecipientNumber which) {
 }
 
 Recipient parseEntry(const QString& text) {
-  const qsizetype bracket = text.lastIndexOf(QStringLiteral(" [+"));
+  const qsizetype bracket = text.lastIndexOf(u" [+"_s);
   if (bracket < 0 || !text.endsWith(QChar(u']'))) return {text, {}};
   return {text.left(bracket), text.mid(bracket + 2, text.size() - bracket - 3)};
 }
@@ -98,8 +101,8 @@ void Recipients::setEntries(const QString& displayList) {
   entries_.clear();
   qsizetype begin = 0;
   while (begin < displayList.size()) {
-    const qsizetype number = displayList.indexOf(QStringLiteral(" [+"), begin);
-    const qsizetype bracket = number < 0 ? -1 : displayList.indexOf(QStringLiteral("],"), number);
+    const qsizetype number = displayList.indexOf(u" [+"_s, begin);
+    const qsizetype bracket = number < 0 ? -1 : displayList.indexOf(u"],"_s, number);
     const qsizetype end = bracket < 0 ? displayList.size() : bracket + 1;
     entries_.push_back(parseEntry(displayList.mid(begin, end - begin)));
     begin = end + 1;

@@ -3,6 +3,9 @@
 #include <algorithm>
 
 namespace parlexo {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr qint64 secondsPerDay = 24 * 60 * 60;
@@ -12,7 +15,7 @@ QDateTime localInstant(qint64 seconds) {
 }
 
 QString timeText(const QDateTime& time) {
-  return time.toString(QStringLiteral("yyyy/MM/dd HH:mm:ss"));
+  return time.toString(u"yyyy/MM/dd HH:mm:ss"_s);
 }
 
 }  // namespace

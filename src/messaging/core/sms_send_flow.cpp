@@ -5,11 +5,14 @@
 #include "messaging/core/messaging_texts.h"
 
 namespace parlexo {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 SendKind smsKind() {
-  return {QStringLiteral("SMS"), SenderIdUse::Set,   TextId::GatewayUnreachable,
-          TextId::SmsError,      TextId::SmsWarning, TextId::SmsSuccess};
+  return {u"SMS"_s,         SenderIdUse::Set,   TextId::GatewayUnreachable,
+          TextId::SmsError, TextId::SmsWarning, TextId::SmsSuccess};
 }
 
 SendReply sendSms(const Gateway& gateway, const QString& session, const QString& message,

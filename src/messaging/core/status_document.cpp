@@ -9,6 +9,9 @@
 #include <QXmlStreamReader>
 
 namespace parlexo {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr char16_t entryElement[] = u"Message";
@@ -38,7 +41,7 @@ QString readTextOfElement(QXmlStreamReader& xml) {
     if (xml.isStartElement()) ++depth;
     if (xml.isEndElement()) --depth;
     if (xml.isCharacters() || xml.isEntityReference()) text += xml.text();
-    if (depth > deepestElement) xml.raiseError(QStringLiteral("The elements are nested too deeply."));
+    if (depth > deepestElement) xml.raiseError(u"The elements are nested too deeply."_s);
   }
   return text;
 }
@@ -72,8 +75,8 @@ std::vector<StatusEntry> entriesOfRoot(QXmlStreamReader& xml, int mostElements) 
 }
 
 QString faultOf(const QXmlStreamReader& xml) {
-  return QStringLiteral("%1 (line %2, column %3)")
-      .arg(xml.errorString(), QString::number(xml.lineNumber()), QString::number(xml.columnNumber()));
+  return u"%1 (line %2, column %3)"_s.arg(xml.errorString(), QString::number(xml.lineNumber()),
+                                          QString::number(xml.columnNumber()));
 }
 
 struct DecodedText {

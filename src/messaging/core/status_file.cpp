@@ -27,6 +27,9 @@
 #include "messaging/core/status_order.h"
 
 namespace parlexo {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using namespace std::chrono_literals;
@@ -39,7 +42,7 @@ constexpr std::size_t keptBadFiles = 10;
 bool acquireLock(SharedFile& lock, const QString& path, std::chrono::milliseconds atMost) {
   const auto deadline = std::chrono::steady_clock::now() + atMost;
   for (;;) {
-    const auto result = lock.open(path + QStringLiteral(".lock"), SharedFile::Mode::Write);
+    const auto result = lock.open(path + u".lock"_s, SharedFile::Mode::Write);
     if (result != SharedFile::OpenResult::SharingViolation) return true;
     if (std::chrono::steady_clock::now() >= deadline) return false;
     std::this_thread::sleep_for(lockRetryPause);
@@ -50,7 +53,7 @@ bool acquireLock(SharedFile& lock, const QString& path, std::chrono::millisecond
 // oldest.
 std::map<int, QString> badFiles(const QFileInfo& file) {
   const QRegularExpression form(
-      QStringLiteral("^%1(?:\\.([0-9]{1,9}))?\\.bad$").arg(QRegularExpression::escape(file.fileName())));
+      u"^%1(?:\\.([0-9]{1,9}))?\\.bad$"_s.arg(QRegularExpression::escape(file.fileName())));
   std::map<int, QString> found;
   for (const QString& name : file.dir().entryList(QDir::Files | QDir::Hidden | QDir::System)) {
     const QRegularExpressionMatch match = form.match(name);
@@ -85,7 +88,7 @@ bool keepAsBad(const QString& path, const StatusFile::FileContent& content) {
   std::map<int, QString> files = badFiles(file);
   if (isRead && !files.empty() && holdsSameLines(files.rbegin()->second, content.bytes)) return true;
   const int number = files.empty() ? 1 : files.rbegin()->first + 1;
-  const QString kept = QStringLiteral("%1.%2.bad").arg(path).arg(number);
+  const QString kept = u"%1.%2.bad"_s.arg(path).arg(number);
   if (!(isRead ? QFile::copy(path, kept) : QFile::rename(path, kept))) return false;
   files.emplace(number, kept);
   removeOldest(std::move(files));
@@ -93,12 +96,11 @@ bool keepAsBad(const QString& path, const StatusFile::FileContent& content) {
 }
 
 QString faultText(const QString& path, const QString& fault) {
-  return QStringLiteral("The status file %1 cannot be read: %2").arg(path, fault);
+  return u"The status file %1 cannot be read: %2"_s.arg(path, fault);
 }
 
 QString recoveryText(std::size_t count) {
-  return count == 1 ? QStringLiteral("1 entry was brought back.")
-                    : QStringLiteral("%1 entries were brought back.").arg(count);
+  return count == 1 ? u"1 entry was brought back."_s : u"%1 entries were brought back."_s.arg(count);
 }
 
 // Orders entries by age. Those of the same second go by receipt, so that all programs choose the same.
@@ -147,11 +149,10 @@ std::vector<StatusEntry> entriesToWrite(const StatusLog& log) {
 std::optional<StatusFile::FileContent> readContent(const QString& path) {
   const QFileInfo info(path);
   if (!info.exists()) return std::nullopt;
-  if (!info.isFile()) return StatusFile::FileContent{{}, QStringLiteral("It is not a file.")};
+  if (!info.isFile()) return StatusFile::FileContent{{}, u"It is not a file."_s};
   QFile file(path);
   if (!file.open(QIODevice::ReadOnly)) return StatusFile::FileContent{{}, file.errorString()};
-  if (file.size() > StatusFile::mostBytes)
-    return StatusFile::FileContent{{}, QStringLiteral("It is larger than 32 MB.")};
+  if (file.size() > StatusFile::mostBytes) return StatusFile::FileContent{{}, u"It is larger than 32 MB."_s};
   const QByteArray bytes = file.readAll();
   if (file.error() != QFileDevice::NoError) return StatusFile::FileContent{{}, file.errorString()};
   return StatusFile::FileContent{bytes, {}};
@@ -200,7 +201,7 @@ void StatusFile::load(StatusLog& log, Notifier& notifier) {
   log.load(std::move(document.entries));
   if (document.fault.isEmpty()) return;
   rejected_ = content->bytes;
-  notifier.error(faultText(path_, document.fault) + QStringLiteral("\n\n") + recoveryText(count));
+  notifier.error(faultText(path_, document.fault) + u"\n\n"_s + recoveryText(count));
 }
 
 bool StatusFile::save(StatusLog& log, IfLocked ifLocked) {

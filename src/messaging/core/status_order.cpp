@@ -6,6 +6,9 @@
 #include <QRegularExpression>
 
 namespace parlexo {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // The instant is worked out once per entry, not once per comparison.
@@ -39,8 +42,8 @@ void mergeSort(std::vector<Row>& rows) {
 
 std::time_t statusInstant(const QString& date) {
   static const QRegularExpression form(
-      QStringLiteral("^\\s*([0-9]{1,4})/\\s*([0-9]{1,4})/"
-                     "\\s*([0-9]{1,4})\\s*([0-9]{1,4}):\\s*([0-9]{1,4}):\\s*([0-9]{1,4})"));
+      u"^\\s*([0-9]{1,4})/\\s*([0-9]{1,4})/"
+      "\\s*([0-9]{1,4})\\s*([0-9]{1,4}):\\s*([0-9]{1,4}):\\s*([0-9]{1,4})"_s);
   const QRegularExpressionMatch match = form.match(date);
   if (!match.hasMatch()) return 0;
   std::tm fields{};

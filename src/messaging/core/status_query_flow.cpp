@@ -14,6 +14,9 @@
 #include "messaging/core/status_file.h"
 
 namespace parlexo {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // A gateway that can't be reached takes the whole connect time-out for each attempt.
@@ -27,7 +30,7 @@ QStringList withoutFailedSends(const QStringList& receipts) {
 }
 
 QString queryProgressText(qsizetype number, qsizetype count) {
-  return QStringLiteral("Getting the status (%1 of %2)\u2026").arg(number).arg(count);
+  return u"Getting the status (%1 of %2)\u2026"_s.arg(number).arg(count);
 }
 
 }  // namespace
@@ -112,13 +115,11 @@ void StatusQueryFlow::report(const Answer& failure) const {
 
 QString statusQueryText(const StatusQueryOutcome& outcome) {
   QStringList remarks;
-  if (outcome.undetermined > 0)
-    remarks += QStringLiteral("%1 could not be determined.").arg(outcome.undetermined);
-  if (outcome.notAsked > 0) remarks += QStringLiteral("Cancelled: %1 not asked for.").arg(outcome.notAsked);
+  if (outcome.undetermined > 0) remarks += u"%1 could not be determined."_s.arg(outcome.undetermined);
+  if (outcome.notAsked > 0) remarks += u"Cancelled: %1 not asked for."_s.arg(outcome.notAsked);
   if (outcome.failedSends > 0)
-    remarks += outcome.failedSends == 1
-                   ? QStringLiteral("1 failed message was left out.")
-                   : QStringLiteral("%1 failed messages were left out.").arg(outcome.failedSends);
+    remarks += outcome.failedSends == 1 ? u"1 failed message was left out."_s
+                                        : u"%1 failed messages were left out."_s.arg(outcome.failedSends);
   return remarks.join(u' ');
 }
 

@@ -9,13 +9,16 @@
 #include "base/code_page.h"
 
 namespace parlexo {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr char templateSeparator[] = "{|/SEP/|}";
 constexpr qint64 largestTemplate = 64 * 1024 * 1024;  // bytes; more than a million recipients
 
 QString templateSuffix() {
-  return QStringLiteral(".tpl");
+  return u".tpl"_s;
 }
 
 // File names differ by case except on Windows, where the file system finds "X.TPL" by the name "X.tpl".

@@ -11,6 +11,9 @@
 #include "ui/picture_button.h"
 
 namespace parlexo {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int fieldMargins = 16;
@@ -19,15 +22,14 @@ constexpr int fieldMargins = 16;
 
 DeliveryPanel::DeliveryPanel(QString& senderId, SenderIdUse use, QWidget* parent)
     : QWidget(parent), senderId_(senderId) {
-  setObjectName(QStringLiteral("deliveryPanel"));
-  text_ = readOnlyField(QStringLiteral("scheduleText"), this);
-  auto* dateTime = new PictureButton(QStringLiteral("Set Date/Time"), this);
-  dateTime->setObjectName(QStringLiteral("setDateTimeButton"));
+  setObjectName(u"deliveryPanel"_s);
+  text_ = readOnlyField(u"scheduleText"_s, this);
+  auto* dateTime = new PictureButton(u"Set Date/Time"_s, this);
+  dateTime->setObjectName(u"setDateTimeButton"_s);
   connect(dateTime, &PictureButton::clicked, this, &DeliveryPanel::setDateTime);
 
   // The label stands above, so that a narrow window has room for the whole time.
-  text_->setMinimumWidth(text_->fontMetrics().horizontalAdvance(QStringLiteral("0000/00/00 00:00:00")) +
-                         fieldMargins);
+  text_->setMinimumWidth(text_->fontMetrics().horizontalAdvance(u"0000/00/00 00:00:00"_s) + fieldMargins);
   auto* row = new QHBoxLayout;
   row->addWidget(text_, 1);
   row->addWidget(dateTime);
@@ -35,14 +37,14 @@ DeliveryPanel::DeliveryPanel(QString& senderId, SenderIdUse use, QWidget* parent
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins({});
   layout->setSpacing(4);
-  layout->addWidget(labelFor(text_, QStringLiteral("Sc&hedule messages to be sent at:")));
+  layout->addWidget(labelFor(text_, u"Sc&hedule messages to be sent at:"_s));
   layout->addLayout(row);
   showSchedule();
 }
 
 PictureButton* DeliveryPanel::senderButton() {
-  auto* created = new PictureButton(QStringLiteral("Sender ID"), this);
-  created->setObjectName(QStringLiteral("senderIdButton"));
+  auto* created = new PictureButton(u"Sender ID"_s, this);
+  created->setObjectName(u"senderIdButton"_s);
   connect(created, &PictureButton::clicked, this, &DeliveryPanel::setSenderId);
   return created;
 }

@@ -18,6 +18,9 @@
 #include "ui/unsendable_hint.h"
 
 namespace parlexo {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // What a multi-line edit takes by default where most of our users are. More than may be sent, so that whoever
@@ -28,7 +31,7 @@ constexpr int fewestNoteLines = 3;  // on the smallest screen
 constexpr int noteMargins = 12;     // above and below the lines together
 
 QString mediaMode() {
-  return QStringLiteral("Media");
+  return u"Media"_s;
 }
 
 }  // namespace
@@ -48,29 +51,22 @@ struct FilePage::Kind {
 
 const FilePage::Kind& FilePage::kindOf(FileKind kind) {
   // A contact's fax has a number of its own, and many a contact has nothing but that.
-  static const Kind fax = {QStringLiteral("faxPage"),
-                           QStringLiteral("Fax"),
-                           RecipientNumber::Fax,
-                           QStringLiteral("Fax &file:"),
-                           {},
-                           0,
-                           false,
-                           true,
-                           false};
-  static const Kind mms = {QStringLiteral("mmsPage"),
+  static const Kind fax = {u"faxPage"_s, u"Fax"_s, RecipientNumber::Fax, u"Fax &file:"_s, {}, 0, false,
+                           true,         false};
+  static const Kind mms = {u"mmsPage"_s,
                            mediaMode(),
                            RecipientNumber::Phone,
-                           QStringLiteral("Media &file:"),
-                           QStringLiteral("&Description:"),
+                           u"Media &file:"_s,
+                           u"&Description:"_s,
                            longestTypedDescription,
                            false,
                            false,
                            true};
-  static const Kind wap = {QStringLiteral("wapPage"),
+  static const Kind wap = {u"wapPage"_s,
                            mediaMode(),
                            RecipientNumber::Phone,
-                           QStringLiteral("WAP &file:"),
-                           QStringLiteral("Sender &Note:"),
+                           u"WAP &file:"_s,
+                           u"Sender &Note:"_s,
                            longestWapNote,
                            true,
                            false,
@@ -121,7 +117,7 @@ QLayout* FilePage::messageArea() {
 
 QLayout* FilePage::noteArea() {
   note_ = new MessageEdit(this);
-  note_->setObjectName(QStringLiteral("noteEdit"));
+  note_->setObjectName(u"noteEdit"_s);
   note_->setTextLimit(kind_.noteLimit);
   // The edit's own wish for height would leave the recipients hardly a line on a small screen.
   note_->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
@@ -151,12 +147,12 @@ QLayout* FilePage::noteHeading() {
 void FilePage::addPreview(QGridLayout& area) {
   preview_ = new PicturePreview(this);
   connect(file_, &FilePanel::looked, this, &FilePage::showPicture);
-  area.addWidget(labelFor(preview_, QStringLiteral("Preview:")), 0, 1);
+  area.addWidget(labelFor(preview_, u"Preview:"_s), 0, 1);
   area.addWidget(preview_, 1, 1);
 }
 
 QLayout* FilePage::counterRow() {
-  remaining_ = readOnlyField(QStringLiteral("charactersRemaining"), this);
+  remaining_ = readOnlyField(u"charactersRemaining"_s, this);
   remaining_->setFocusPolicy(Qt::ClickFocus);
   remaining_->setAlignment(Qt::AlignRight);
   remaining_->setFixedWidth(remaining_->fontMetrics().averageCharWidth() * counterDigits + 16);
@@ -164,7 +160,7 @@ QLayout* FilePage::counterRow() {
   recount();
   auto* row = new QHBoxLayout;
   row->setSpacing(6);
-  row->addWidget(labelFor(remaining_, QStringLiteral("Characters remaining:")));
+  row->addWidget(labelFor(remaining_, u"Characters remaining:"_s));
   row->addWidget(remaining_);
   row->addStretch(1);
   return row;
@@ -211,7 +207,7 @@ void FilePage::recount() {
 
 void FilePage::showPicture(const FileLook& look) {
   const bool isKnown = !file_->path().isEmpty() && !look.facts.name.isEmpty();
-  preview_->display(look.picture, isKnown ? QStringLiteral("No preview") : QString());
+  preview_->display(look.picture, isKnown ? u"No preview"_s : QString());
 }
 
 }  // namespace parlexo

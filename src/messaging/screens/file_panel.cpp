@@ -21,6 +21,9 @@
 #include "ui/picture_button.h"
 
 namespace parlexo {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // While somebody types a path, not every letter sets the disk going.
@@ -45,16 +48,16 @@ QString pathOf(const QString& entered) {
 
 FilePanel::FilePanel(const QString& label, Settings& settings, QWidget* parent)
     : QWidget(parent), settings_(settings) {
-  setObjectName(QStringLiteral("filePanel"));
+  setObjectName(u"filePanel"_s);
   path_ = new QLineEdit(this);
-  path_->setObjectName(QStringLiteral("filePath"));
+  path_->setObjectName(u"filePath"_s);
   path_->setAcceptDrops(false);  // the page takes files, everywhere
   connect(path_, &QLineEdit::textChanged, this, &FilePanel::pathChanged);
-  auto* browseButton = new PictureButton(QStringLiteral("&Browse..."), this);
-  browseButton->setObjectName(QStringLiteral("browseButton"));
+  auto* browseButton = new PictureButton(u"&Browse..."_s, this);
+  browseButton->setObjectName(u"browseButton"_s);
   connect(browseButton, &PictureButton::clicked, this, &FilePanel::browse);
   facts_ = new QLabel(this);
-  facts_->setObjectName(QStringLiteral("fileFacts"));
+  facts_->setObjectName(u"fileFacts"_s);
   facts_->setTextFormat(Qt::PlainText);
   facts_->setWordWrap(true);
 
@@ -85,10 +88,10 @@ void FilePanel::clear() {
 }
 
 void FilePanel::browse() {
-  QFileDialog dialog(this, QStringLiteral("Open"), startFolder());
+  QFileDialog dialog(this, u"Open"_s, startFolder());
   dialog.setFileMode(QFileDialog::ExistingFile);
   // The details in the last brackets are what counts: "*.*" would leave out names without a dot.
-  dialog.setNameFilter(QStringLiteral("All Files (*.*) (*)"));
+  dialog.setNameFilter(u"All Files (*.*) (*)"_s);
   dialog.setOption(QFileDialog::HideNameFilterDetails);
   if (dialog.exec() == QDialog::Accepted) choose(dialog.selectedFiles().constFirst());
 }
@@ -142,9 +145,9 @@ void FilePanel::display(const FileLook& look) {
 
 QString FilePanel::lineFor(const FileLook& look) const {
   if (path().isEmpty())
-    return QStringLiteral("Choose a file of at most %1, or drop one here.").arg(dataSizeText(wishes_.limit));
+    return u"Choose a file of at most %1, or drop one here."_s.arg(dataSizeText(wishes_.limit));
   // A blank keeps the line's place, so that nothing jumps.
-  return look.facts.name.isEmpty() ? QStringLiteral(" ") : factsText(look.facts, facts_->fontMetrics());
+  return look.facts.name.isEmpty() ? u" "_s : factsText(look.facts, facts_->fontMetrics());
 }
 
 }  // namespace parlexo

@@ -19,10 +19,13 @@
 #include "ui/waiting/box_column.h"
 
 namespace parlexo {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QString listCaption() {
-  return QStringLiteral("Select the Template you wish to Load or  Delete:");
+  return u"Select the Template you wish to Load or  Delete:"_s;
 }
 
 /// A list in which nothing is current until the user picks something, so that the first Down key leads to the
@@ -43,8 +46,8 @@ class TemplateList final : public QListWidget {
 
 CLoadTemplateDlg::CLoadTemplateDlg(const TemplateFolder& folder, Notifier& notifier, QWidget* parent)
     : GradientDialog(parent), folder_(folder), notifier_(notifier) {
-  setObjectName(QStringLiteral("loadTemplateDialog"));
-  setWindowTitle(QStringLiteral("Parlexo(TM) : Load or Delete Template"));
+  setObjectName(u"loadTemplateDialog"_s);
+  setWindowTitle(u"Parlexo(TM) : Load or Delete Template"_s);
   createList();
   createLayout();
   resize(dialogUnits(*this, 210, 150).expandedTo(sizeHint()));
@@ -53,7 +56,7 @@ CLoadTemplateDlg::CLoadTemplateDlg(const TemplateFolder& folder, Notifier& notif
 
 void CLoadTemplateDlg::createList() {
   names_ = new TemplateList(this);
-  names_->setObjectName(QStringLiteral("templateList"));
+  names_->setObjectName(u"templateList"_s);
   names_->setAccessibleName(listCaption());
   names_->setUniformItemSizes(true);
   styleList(*names_);
@@ -80,9 +83,9 @@ QLayout* CLoadTemplateDlg::createButtons() {
     connect(created, &PictureButton::clicked, this, action);
     return created;
   };
-  button(QStringLiteral("&Load"), QStringLiteral("loadButton"), &QDialog::accept)->setDefault(true);
-  button(QStringLiteral("&Delete"), QStringLiteral("deleteButton"), &CLoadTemplateDlg::deleteSelected);
-  button(QStringLiteral("&Cancel"), QStringLiteral("cancelButton"), &QDialog::reject);
+  button(u"&Load"_s, u"loadButton"_s, &QDialog::accept)->setDefault(true);
+  button(u"&Delete"_s, u"deleteButton"_s, &CLoadTemplateDlg::deleteSelected);
+  button(u"&Cancel"_s, u"cancelButton"_s, &QDialog::reject);
   return row;
 }
 

@@ -11,6 +11,9 @@
 #include <QUrl>
 
 namespace parlexo {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // How much of `text` fits into `room` units without parting a surrogate pair.
@@ -77,7 +80,7 @@ bool MessageEdit::canInsertFromMimeData(const QMimeData* source) const {
 void MessageEdit::insertFromMimeData(const QMimeData* source) {
   // Cut before it is inserted: laying out a text of megabytes only to drop it again would take seconds.
   QString pasted = withoutZeros(source->text());
-  pasted.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
+  pasted.replace(u"\r\n"_s, u"\n"_s);
   // An edit block of its own, or undo would take away what was typed just before as well.
   QTextCursor cursor = textCursor();
   cursor.beginEditBlock();

@@ -9,9 +9,11 @@
 
 namespace parlexo {
 
+using namespace Qt::StringLiterals;
+
 PicturePreview::PicturePreview(QWidget* parent) : QLabel(parent) {
-  setObjectName(QStringLiteral("picturePreview"));
-  setAccessibleName(QStringLiteral("Preview"));
+  setObjectName(u"picturePreview"_s);
+  setAccessibleName(u"Preview"_s);
   setAlignment(Qt::AlignCenter);
   setTextFormat(Qt::PlainText);
   setWordWrap(true);

@@ -21,22 +21,24 @@
 #include "ui/picture_button.h"
 
 namespace parlexo {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QString recipientsSummary(const Recipients& recipients, int repeated) {
   const std::size_t shown = recipients.entries().size();
-  if (shown == 0) return QStringLiteral("No recipients");
-  QString text = shown == 1 ? QStringLiteral("1 recipient") : QStringLiteral("%1 recipients").arg(shown);
+  if (shown == 0) return u"No recipients"_s;
+  QString text = shown == 1 ? u"1 recipient"_s : u"%1 recipients"_s.arg(shown);
   // Behind a template the box may show others than those who get the message; nobody should miss that.
   if (!recipients.listsAgree()) {
-    text +=
-        recipients.numbers().isEmpty()
-            ? QStringLiteral(" shown, but none selected to send to")
-            : QStringLiteral(" shown, sending to the %1 selected before").arg(recipients.numbers().size());
+    text += recipients.numbers().isEmpty()
+                ? u" shown, but none selected to send to"_s
+                : u" shown, sending to the %1 selected before"_s.arg(recipients.numbers().size());
   }
   if (repeated == 0) return text;
-  return text + (repeated == 1 ? QStringLiteral(", 1 number occurs more than once")
-                               : QStringLiteral(", %1 numbers occur more than once").arg(repeated));
+  return text + (repeated == 1 ? u", 1 number occurs more than once"_s
+                               : u", %1 numbers occur more than once"_s.arg(repeated));
 }
 
 }  // namespace
@@ -53,7 +55,7 @@ QVariant RecipientsModel::data(const QModelIndex& index, int role) const {
 RecipientsPanel::RecipientsPanel(const AddressBook& book, Notifier& notifier, QString mode,
                                  RecipientNumber number, QWidget* parent)
     : QWidget(parent), book_(book), notifier_(notifier), mode_(std::move(mode)), number_(number) {
-  setObjectName(QStringLiteral("recipientsPanel"));
+  setObjectName(u"recipientsPanel"_s);
   auto* layout = new QHBoxLayout(this);
   layout->setContentsMargins({});
   layout->addWidget(createBox(), 1);
@@ -63,8 +65,8 @@ RecipientsPanel::RecipientsPanel(const AddressBook& book, Notifier& notifier, QS
 QWidget* RecipientsPanel::createBox() {
   auto* area = new QWidget(this);
   box_ = new QListView(area);
-  box_->setObjectName(QStringLiteral("contactsBox"));
-  box_->setAccessibleName(QStringLiteral("Contacts"));
+  box_->setObjectName(u"contactsBox"_s);
+  box_->setAccessibleName(u"Contacts"_s);
   box_->setModel(&model_);
   box_->setSelectionMode(QAbstractItemView::ExtendedSelection);
   box_->setEditTriggers(QAbstractItemView::NoEditTriggers);
@@ -74,7 +76,7 @@ QWidget* RecipientsPanel::createBox() {
   removal->setContext(Qt::WidgetShortcut);
   connect(removal, &QShortcut::activated, this, &RecipientsPanel::removeHighlighted);
 
-  auto* label = new QLabel(QStringLiteral("&Contacts"), area);
+  auto* label = new QLabel(u"&Contacts"_s, area);
   label->setBuddy(box_);
   auto* layout = new QVBoxLayout(area);
   layout->setContentsMargins({});
@@ -86,9 +88,9 @@ QWidget* RecipientsPanel::createBox() {
 
 QLayout* RecipientsPanel::createCountLine(QWidget* area) {
   count_ = new QLabel(area);
-  count_->setObjectName(QStringLiteral("recipientCount"));
-  repeats_ = new HyperlinkLabel(QStringLiteral("Remove repeats"), {}, area);
-  repeats_->setObjectName(QStringLiteral("removeRepeats"));
+  count_->setObjectName(u"recipientCount"_s);
+  repeats_ = new HyperlinkLabel(u"Remove repeats"_s, {}, area);
+  repeats_->setObjectName(u"removeRepeats"_s);
   connect(repeats_, &HyperlinkLabel::clicked, this, &RecipientsPanel::removeRepeats);
   connect(&model_, &RecipientsModel::modelReset, this, &RecipientsPanel::showCount);
   showCount();
@@ -107,11 +109,10 @@ QWidget* RecipientsPanel::createButtons() {
     layout->addWidget(created);
     return created;
   };
-  auto* add = button(QStringLiteral("&Add / Import Contacts"), QStringLiteral("addContactsButton"), [] {});
+  auto* add = button(u"&Add / Import Contacts"_s, u"addContactsButton"_s, [] {});
   connect(add, &PictureButton::clicked, this, [this, add] { Q_EMIT contactsToAdd(*add); });
-  select_ = button(QStringLiteral("&Select Contacts..."), QStringLiteral("selectContactsButton"),
-                   [this] { selectContacts(); });
-  button(QStringLiteral("Clear"), QStringLiteral("clearContactsButton"), &RecipientsPanel::clearEntries);
+  select_ = button(u"&Select Contacts..."_s, u"selectContactsButton"_s, [this] { selectContacts(); });
+  button(u"Clear"_s, u"clearContactsButton"_s, &RecipientsPanel::clearEntries);
   layout->addStretch(1);
   return area;
 }
@@ -169,7 +170,7 @@ void RecipientsPanel::take(const ContactSelection& selection) {
   QStringList rejected;
   model_.update([&](Recipients& recipients) { rejected = recipients.select(contacts, number_); });
   if (rejected.isEmpty()) return;
-  notifier_.error(messaging_texts::badNumbersRemoved() + rejected.join(QStringLiteral(", ")));
+  notifier_.error(messaging_texts::badNumbersRemoved() + rejected.join(u", "_s));
 }
 
 }  // namespace parlexo

@@ -14,20 +14,21 @@
 
 namespace parlexo {
 
+using namespace Qt::StringLiterals;
+
 CSaveTemplateDlg::CSaveTemplateDlg(const TemplateFolder& folder, Template content, Notifier& notifier,
                                    QWidget* parent)
     : GradientDialog(parent), folder_(folder), content_(std::move(content)), notifier_(notifier) {
-  setObjectName(QStringLiteral("saveTemplateDialog"));
-  setWindowTitle(QStringLiteral("Parlexo(TM) : Save Template"));
+  setObjectName(u"saveTemplateDialog"_s);
+  setWindowTitle(u"Parlexo(TM) : Save Template"_s);
   name_ = new QLineEdit(this);
-  name_->setObjectName(QStringLiteral("templateName"));
+  name_->setObjectName(u"templateName"_s);
   QVBoxLayout* layout = createColumn(*this);
-  layout->addWidget(labelFor(name_, QStringLiteral("&Template Name:")));
+  layout->addWidget(labelFor(name_, u"&Template Name:"_s));
   layout->addWidget(name_);
   layout->addStretch(1);
   layout->addSpacing(8);
-  layout->addLayout(dialogButtonRow(*this, {QStringLiteral("saveButton"), QStringLiteral("&Save")},
-                                    {QStringLiteral("cancelButton"), QStringLiteral("&Cancel")}));
+  layout->addLayout(dialogButtonRow(*this, {u"saveButton"_s, u"&Save"_s}, {u"cancelButton"_s, u"&Cancel"_s}));
   setMinimumSize(dialogUnits(*this, 190, 60));
   name_->setFocus(Qt::OtherFocusReason);
 }

@@ -20,15 +20,17 @@
 
 namespace parlexo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // Qt leaves these parts of its calendar without a name; the object names are Qt's own.
 void nameForAssistiveTools(QCalendarWidget& calendar) {
   const std::pair<const char*, QString> parts[] = {
-      {"qt_calendar_prevmonth", QStringLiteral("Previous month")},
-      {"qt_calendar_nextmonth", QStringLiteral("Next month")},
-      {"qt_calendar_yearedit", QStringLiteral("Year")},
-      {"qt_calendar_calendarview", QStringLiteral("Days")},
+      {"qt_calendar_prevmonth", u"Previous month"_s},
+      {"qt_calendar_nextmonth", u"Next month"_s},
+      {"qt_calendar_yearedit", u"Year"_s},
+      {"qt_calendar_calendarview", u"Days"_s},
   };
   for (const auto& [objectName, name] : parts)
     if (auto* part = calendar.findChild<QWidget*>(QLatin1String(objectName))) part->setAccessibleName(name);
@@ -37,8 +39,8 @@ void nameForAssistiveTools(QCalendarWidget& calendar) {
 }  // namespace
 
 CScheduleDlg::CScheduleDlg(QWidget* parent, Clock clock) : GradientDialog(parent), clock_(std::move(clock)) {
-  setObjectName(QStringLiteral("scheduleDialog"));
-  setWindowTitle(QStringLiteral("Parlexo(TM) : Schedule Messages"));
+  setObjectName(u"scheduleDialog"_s);
+  setWindowTitle(u"Parlexo(TM) : Schedule Messages"_s);
   createControls();
   createLayout();
   chooseCurrentTime();
@@ -49,8 +51,8 @@ CScheduleDlg::CScheduleDlg(QWidget* parent, Clock clock) : GradientDialog(parent
 
 void CScheduleDlg::createControls() {
   calendar_ = new QCalendarWidget(this);
-  calendar_->setObjectName(QStringLiteral("calendar"));
-  calendar_->setAccessibleName(QStringLiteral("Date:"));
+  calendar_->setObjectName(u"calendar"_s);
+  calendar_->setAccessibleName(u"Date:"_s);
   nameForAssistiveTools(*calendar_);
   // It has the keyboard in the place of the calendar.
   calendar_->focusProxy()->installEventFilter(this);
@@ -60,22 +62,21 @@ void CScheduleDlg::createControls() {
   for (const Qt::DayOfWeek day : {Qt::Saturday, Qt::Sunday})
     calendar_->setWeekdayTextFormat(day, likeOtherDays);
   time_ = new QTimeEdit(this);
-  time_->setObjectName(QStringLiteral("timeEdit"));
-  time_->setDisplayFormat(QStringLiteral("HH:mm:ss"));
-  today_ = new PictureButton(QStringLiteral("Today's Date/Time"), this);
-  today_->setObjectName(QStringLiteral("todayButton"));
+  time_->setObjectName(u"timeEdit"_s);
+  time_->setDisplayFormat(u"HH:mm:ss"_s);
+  today_ = new PictureButton(u"Today's Date/Time"_s, this);
+  today_->setObjectName(u"todayButton"_s);
   connect(today_, &PictureButton::clicked, this, &CScheduleDlg::chooseCurrentTime);
-  localField_ = readOnlyField(QStringLiteral("localField"), this);
-  gmtField_ = readOnlyField(QStringLiteral("gmtField"), this);
+  localField_ = readOnlyField(u"localField"_s, this);
+  gmtField_ = readOnlyField(u"gmtField"_s, this);
   for (QLineEdit* field : {localField_, gmtField_})
-    field->setMinimumWidth(field->fontMetrics().horizontalAdvance(QStringLiteral("0000/00/00 00:00:00")) +
-                           20);
+    field->setMinimumWidth(field->fontMetrics().horizontalAdvance(u"0000/00/00 00:00:00"_s) + 20);
 }
 
 void CScheduleDlg::createLayout() {
   auto* date = new QVBoxLayout;
   date->setSpacing(4);
-  date->addWidget(labelFor(calendar_, QStringLiteral("&Date:")));
+  date->addWidget(labelFor(calendar_, u"&Date:"_s));
   date->addWidget(calendar_);
   date->addStretch(1);
   auto* choice = new QHBoxLayout;
@@ -86,20 +87,20 @@ void CScheduleDlg::createLayout() {
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(16, 14, 16, 14);
   layout->setSpacing(10);
-  layout->addWidget(new QLabel(
-      QStringLiteral("You can schedule your messages to be sent at the given date and time:"), this));
+  layout->addWidget(
+      new QLabel(u"You can schedule your messages to be sent at the given date and time:"_s, this));
   layout->addLayout(choice, 1);
   layout->addLayout(buttonRow());
 }
 
 QLayout* CScheduleDlg::timeColumn() {
-  auto* fields = new QGroupBox(QStringLiteral("Send message on:"), this);
+  auto* fields = new QGroupBox(u"Send message on:"_s, this);
   auto* rows = new QFormLayout(fields);
-  rows->addRow(QStringLiteral("&local time"), localField_);
-  rows->addRow(QStringLiteral("&GMT"), gmtField_);
+  rows->addRow(u"&local time"_s, localField_);
+  rows->addRow(u"&GMT"_s, gmtField_);
   auto* column = new QVBoxLayout;
   column->setSpacing(4);
-  column->addWidget(labelFor(time_, QStringLiteral("&Time:")));
+  column->addWidget(labelFor(time_, u"&Time:"_s));
   column->addWidget(time_);
   column->addWidget(today_);
   column->addSpacing(10);
@@ -111,10 +112,10 @@ QLayout* CScheduleDlg::timeColumn() {
 QLayout* CScheduleDlg::buttonRow() {
   auto* row = new QHBoxLayout;
   row->addStretch(1);
-  auto* select = addButton(*row, QStringLiteral("selectButton"), QStringLiteral("&Select Date/Time"));
+  auto* select = addButton(*row, u"selectButton"_s, u"&Select Date/Time"_s);
   select->setDefault(true);
   connect(select, &PictureButton::clicked, this, &QDialog::accept);
-  auto* cancel = addButton(*row, QStringLiteral("cancelButton"), QStringLiteral("&Cancel"));
+  auto* cancel = addButton(*row, u"cancelButton"_s, u"&Cancel"_s);
   connect(cancel, &PictureButton::clicked, this, &QDialog::reject);
   return row;
 }

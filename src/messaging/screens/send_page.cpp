@@ -14,6 +14,8 @@
 
 namespace parlexo {
 
+using namespace Qt::StringLiterals;
+
 SendPage::SendPage(const MessagingServices& services, SendPageKind kind, QWidget* parent)
     : GradientPage(parent), services_(services), kind_(std::move(kind)) {}
 
@@ -34,9 +36,9 @@ void SendPage::layOut(QLayout* message, int stretch) {
 }
 
 void SendPage::addBottomRow(QVBoxLayout& layout) {
-  auto* status = button(QStringLiteral("&Get Status"), QStringLiteral("getStatusButton"));
+  auto* status = button(u"&Get Status"_s, u"getStatusButton"_s);
   connect(status, &PictureButton::clicked, this, [this] { Q_EMIT statusRequested(kind_.typeWord); });
-  auto* sendButton = button(QStringLiteral("S&end >"), QStringLiteral("sendButton"));
+  auto* sendButton = button(u"S&end >"_s, u"sendButton"_s);
   connect(sendButton, &PictureButton::clicked, this, &SendPage::send);
   sendButton->setDefault(true);
 

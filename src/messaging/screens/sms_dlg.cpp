@@ -24,6 +24,9 @@
 #include "ui/picture_button.h"
 
 namespace parlexo {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // Set while a recount runs: the texts that it puts back must not count again. One flag for the program, so
@@ -34,7 +37,7 @@ constexpr int counterCharacters = 5;
 constexpr int controlSpacing = 6;
 
 QString smsWord() {
-  return QStringLiteral("SMS");
+  return u"SMS"_s;
 }
 
 struct Choice {
@@ -63,7 +66,7 @@ QGroupBox* choiceBox(const QString& title, const QString& groupName, const Choic
 
 CQuillonSMSDlg::CQuillonSMSDlg(const MessagingServices& services, QWidget* parent)
     : SendPage(services, {smsWord(), smsWord()}, parent), flow_(services) {
-  setObjectName(QStringLiteral("smsPage"));
+  setObjectName(u"smsPage"_s);
   // Everything is created in reading order, which makes it the order of the Tab key too.
   auto* message = new QHBoxLayout;
   message->setSpacing(14);
@@ -87,12 +90,12 @@ SmsDraft CQuillonSMSDlg::draft() const {
 
 QLayout* CQuillonSMSDlg::messageColumn() {
   editor_ = new MessageEdit(this);
-  editor_->setObjectName(QStringLiteral("messageEdit"));
+  editor_->setObjectName(u"messageEdit"_s);
   connect(editor_, &MessageEdit::textChanged, this, &CQuillonSMSDlg::recount);
   connect(editor_, &MessageEdit::cursorPositionChanged, this, &CQuillonSMSDlg::showPart);
   auto* column = new QVBoxLayout;
   column->setSpacing(controlSpacing);
-  column->addWidget(labelFor(editor_, QStringLiteral("&Message")));
+  column->addWidget(labelFor(editor_, u"&Message"_s));
   column->addWidget(editor_, 1);
   column->addLayout(counterRow());
   unsendable_ = new UnsendableLine(this);
@@ -102,20 +105,20 @@ QLayout* CQuillonSMSDlg::messageColumn() {
 }
 
 QLayout* CQuillonSMSDlg::counterRow() {
-  totalSms_ = readOnlyField(QStringLiteral("totalSms"), this);
-  remaining_ = readOnlyField(QStringLiteral("charactersRemaining"), this);
+  totalSms_ = readOnlyField(u"totalSms"_s, this);
+  remaining_ = readOnlyField(u"charactersRemaining"_s, this);
   for (QLineEdit* counter : {totalSms_, remaining_}) {
     counter->setFocusPolicy(Qt::ClickFocus);
     counter->setAlignment(Qt::AlignRight);
     counter->setFixedWidth(counter->fontMetrics().averageCharWidth() * counterCharacters + 16);
   }
   part_ = new QLabel(this);
-  part_->setObjectName(QStringLiteral("messagePart"));
+  part_->setObjectName(u"messagePart"_s);
   auto* row = new QHBoxLayout;
-  row->addWidget(labelFor(totalSms_, QStringLiteral("Total SMS:")));
+  row->addWidget(labelFor(totalSms_, u"Total SMS:"_s));
   row->addWidget(totalSms_);
   row->addSpacing(14);
-  row->addWidget(labelFor(remaining_, QStringLiteral("Characters remaining:")));
+  row->addWidget(labelFor(remaining_, u"Characters remaining:"_s));
   row->addWidget(remaining_);
   row->addStretch(1);
   row->addWidget(part_);
@@ -124,15 +127,13 @@ QLayout* CQuillonSMSDlg::counterRow() {
 
 QLayout* CQuillonSMSDlg::choiceColumn() {
   auto* charsets =
-      choiceBox(QStringLiteral("Character set"), QStringLiteral("GroupEncoding"),
-                {QStringLiteral("Standard character set"), QStringLiteral("standardCharset")},
-                {QStringLiteral("Unicode (Languages support)"), QStringLiteral("unicodeCharset")}, this);
-  standardCharset_ = charsets->findChild<QRadioButton*>(QStringLiteral("standardCharset"));
-  unicodeCharset_ = charsets->findChild<QRadioButton*>(QStringLiteral("unicodeCharset"));
-  auto* types = choiceBox(QStringLiteral("Message type"), QStringLiteral("GroupType"),
-                          {QStringLiteral("Standard"), QStringLiteral("standardType")},
-                          {QStringLiteral("Flash"), QStringLiteral("flashType")}, this);
-  standardType_ = types->findChild<QRadioButton*>(QStringLiteral("standardType"));
+      choiceBox(u"Character set"_s, u"GroupEncoding"_s, {u"Standard character set"_s, u"standardCharset"_s},
+                {u"Unicode (Languages support)"_s, u"unicodeCharset"_s}, this);
+  standardCharset_ = charsets->findChild<QRadioButton*>(u"standardCharset"_s);
+  unicodeCharset_ = charsets->findChild<QRadioButton*>(u"unicodeCharset"_s);
+  auto* types = choiceBox(u"Message type"_s, u"GroupType"_s, {u"Standard"_s, u"standardType"_s},
+                          {u"Flash"_s, u"flashType"_s}, this);
+  standardType_ = types->findChild<QRadioButton*>(u"standardType"_s);
   auto* column = new QVBoxLayout;
   column->setSpacing(controlSpacing);
   column->addWidget(charsets);
@@ -150,10 +151,10 @@ QLayout* CQuillonSMSDlg::templateRow() {
     row->addWidget(created);
     return created;
   };
-  add(QStringLiteral("Load Template"), "loadTemplateButton", &CQuillonSMSDlg::loadTemplate);
-  add(QStringLiteral("Save Template"), "saveTemplateButton", &CQuillonSMSDlg::saveTemplate);
-  add(QStringLiteral("?"), "templatesTipButton", &CQuillonSMSDlg::showTemplatesTip)
-      ->setAccessibleName(QStringLiteral("About templates"));
+  add(u"Load Template"_s, "loadTemplateButton", &CQuillonSMSDlg::loadTemplate);
+  add(u"Save Template"_s, "saveTemplateButton", &CQuillonSMSDlg::saveTemplate);
+  add(u"?"_s, "templatesTipButton", &CQuillonSMSDlg::showTemplatesTip)
+      ->setAccessibleName(u"About templates"_s);
   return row;
 }
 
@@ -184,7 +185,7 @@ void CQuillonSMSDlg::recount() {
 
 void CQuillonSMSDlg::showPart() {
   const SmsPart part = partAt(editor_->text(), charset(), editor_->textCursor().position());
-  part_->setText(QStringLiteral("Cursor in part %1 of %2").arg(part.number).arg(part.total));
+  part_->setText(u"Cursor in part %1 of %2"_s.arg(part.number).arg(part.total));
 }
 
 void CQuillonSMSDlg::switchToUnicode() {

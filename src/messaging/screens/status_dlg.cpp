@@ -18,31 +18,32 @@
 #include "ui/record_table.h"
 
 namespace parlexo {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // The longest international number has 15 digits.
 RecordTable::Form statusForm() {
-  return {QStringLiteral("statusList"),
-          QStringLiteral("Status"),
-          {{120, QStringLiteral("00/00/0000 00:00:00")},
-           {200, QString()},
-           {100, QStringLiteral("+000000000000000")},
-           {300, QString()}}};
+  return {
+      u"statusList"_s,
+      u"Status"_s,
+      {{120, u"00/00/0000 00:00:00"_s}, {200, QString()}, {100, u"+000000000000000"_s}, {300, QString()}}};
 }
 
 }  // namespace
 
 CStatusDlg::CStatusDlg(const MessagingServices& services, QWidget* parent)
     : GradientPage(parent), services_(services) {
-  setObjectName(QStringLiteral("statusPage"));
+  setObjectName(u"statusPage"_s);
   createTypeBox();
   createList();
   createMenu();
-  getStatusButton_ = new PictureButton(QStringLiteral("Get &Status"), this);
-  getStatusButton_->setObjectName(QStringLiteral("getStatusButton"));
+  getStatusButton_ = new PictureButton(u"Get &Status"_s, this);
+  getStatusButton_->setObjectName(u"getStatusButton"_s);
   connect(getStatusButton_, &PictureButton::clicked, this, &CStatusDlg::getStatus);
   createLayout();
-  selectType(QStringLiteral("SMS"));
+  selectType(u"SMS"_s);
 }
 
 void CStatusDlg::selectType(const QString& typeWord) {
@@ -61,9 +62,8 @@ void CStatusDlg::showEvent(QShowEvent* event) {
 
 void CStatusDlg::createTypeBox() {
   type_ = new QComboBox(this);
-  type_->setObjectName(QStringLiteral("messageType"));
-  type_->addItems({QStringLiteral("Fax"), QStringLiteral("MMS"), QStringLiteral("SMS"),
-                   QStringLiteral("Voice"), QStringLiteral("WAP")});
+  type_->setObjectName(u"messageType"_s);
+  type_->addItems({u"Fax"_s, u"MMS"_s, u"SMS"_s, u"Voice"_s, u"WAP"_s});
   connect(type_, &QComboBox::currentIndexChanged, this, &CStatusDlg::fill);
 }
 
@@ -72,14 +72,14 @@ void CStatusDlg::createList() {
   list_->header()->setSectionsMovable(true);
   list_->header()->setFirstSectionMovable(true);
   count_ = wrappedLabel({}, this);
-  count_->setObjectName(QStringLiteral("statusCount"));
+  count_->setObjectName(u"statusCount"_s);
   exportButton_ = new ExportButton(*list_, services_.notifier, this);
 }
 
 void CStatusDlg::createMenu() {
   menu_ = new QMenu(this);
-  menu_->setObjectName(QStringLiteral("statusMenu"));
-  connect(menu_->addAction(QStringLiteral("Status")), &QAction::triggered, this, &CStatusDlg::getStatus);
+  menu_->setObjectName(u"statusMenu"_s);
+  connect(menu_->addAction(u"Status"_s), &QAction::triggered, this, &CStatusDlg::getStatus);
   list_->setContextMenuPolicy(Qt::CustomContextMenu);
   connect(list_, &QWidget::customContextMenuRequested, this,
           [this](const QPoint& where) { menu_->popup(list_->viewport()->mapToGlobal(where)); });
@@ -87,7 +87,7 @@ void CStatusDlg::createMenu() {
 
 void CStatusDlg::createLayout() {
   auto* top = new QHBoxLayout;
-  top->addWidget(labelFor(type_, QStringLiteral("Message &Type:")));
+  top->addWidget(labelFor(type_, u"Message &Type:"_s));
   top->addWidget(type_);
   top->addStretch(1);
   auto* bottom = new QHBoxLayout;
@@ -107,7 +107,7 @@ void CStatusDlg::fill() {
   model_.fill(services_.statusLog, type_->currentText());
   shownRevision_ = services_.statusLog.revision();
   showCount({});
-  exportButton_->setSuggestedName(type_->currentText() + QStringLiteral(" status"));
+  exportButton_->setSuggestedName(type_->currentText() + u" status"_s);
   list_->setCurrentIndex(list_->model()->index(0, 0));
 }
 

@@ -7,6 +7,9 @@
 #include "messaging/core/status_order.h"
 
 namespace parlexo {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // In the order of the columns.
@@ -22,9 +25,7 @@ const QString& statusCell(const StatusEntry& entry, int column) {
 }  // namespace
 
 StatusListModel::StatusListModel(QObject* parent)
-    : RecordListModel({QStringLiteral("Date"), QStringLiteral("Receipt"), QStringLiteral("Phone"),
-                       QStringLiteral("Status")},
-                      parent) {}
+    : RecordListModel({u"Date"_s, u"Receipt"_s, u"Phone"_s, u"Status"_s}, parent) {}
 
 QString StatusListModel::textAt(int row, int column) const {
   return statusCell(entryAt(row), column);

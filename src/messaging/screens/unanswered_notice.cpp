@@ -2,12 +2,14 @@
 
 namespace parlexo {
 
+using namespace Qt::StringLiterals;
+
 UnansweredNotice::UnansweredNotice(QWidget* parent) : QLabel(parent) {
-  setObjectName(QStringLiteral("unansweredNotice"));
+  setObjectName(u"unansweredNotice"_s);
   setTextFormat(Qt::PlainText);
-  setText(QStringLiteral(
-      "No answer came to your last message, so it may have been accepted. Look into the account history "
-      "before you send it again."));
+  setText(
+      u"No answer came to your last message, so it may have been accepted. Look into the account history "
+      "before you send it again."_s);
   setWordWrap(true);
   setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
   setFocusPolicy(Qt::ClickFocus);

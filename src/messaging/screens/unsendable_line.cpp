@@ -8,11 +8,13 @@
 
 namespace parlexo {
 
+using namespace Qt::StringLiterals;
+
 UnsendableLine::UnsendableLine(QWidget* parent) : QWidget(parent) {
-  setObjectName(QStringLiteral("unsendableLine"));
+  setObjectName(u"unsendableLine"_s);
   hint_ = new UnsendableHint(this);
-  switch_ = new HyperlinkLabel(QStringLiteral("Switch to Unicode"), {}, this);
-  switch_->setObjectName(QStringLiteral("switchToUnicode"));
+  switch_ = new HyperlinkLabel(u"Switch to Unicode"_s, {}, this);
+  switch_->setObjectName(u"switchToUnicode"_s);
   connect(switch_, &HyperlinkLabel::clicked, this, &UnsendableLine::unicodeRequested);
   QLayout* line = lineWithLink(*hint_, *switch_);
   line->setContentsMargins({});

@@ -12,6 +12,8 @@ static void loadResources() {
 
 namespace parlexo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QByteArray contentOf(const QString& path) {
@@ -20,7 +22,7 @@ QByteArray contentOf(const QString& path) {
 }
 
 QString doubledName(QString path) {
-  return path.insert(path.lastIndexOf(u'.'), QStringLiteral("@2x"));
+  return path.insert(path.lastIndexOf(u'.'), u"@2x"_s);
 }
 
 }  // namespace
@@ -94,7 +96,7 @@ void CAnimatedPicture::paintEvent(QPaintEvent*) {
 
 CAnimatedPicture* createConnectingAnimation(QWidget* parent) {
   auto* animation = new CAnimatedPicture(parent);
-  animation->setObjectName(QStringLiteral("animation"));
+  animation->setObjectName(u"animation"_s);
   animation->loadFromResource(QLatin1String(connectingAnimation));
   animation->start();
   return animation;

@@ -12,19 +12,21 @@
 
 namespace parlexo {
 
+using namespace Qt::StringLiterals;
+
 CConnectingDlg::CConnectingDlg(QWidget* parent) : GradientDialog(parent) {
-  setObjectName(QStringLiteral("connectingDlg"));
+  setObjectName(u"connectingDlg"_s);
   setWindowFlag(Qt::FramelessWindowHint);
   setWindowModality(Qt::ApplicationModal);
   label_ = new QLabel(defaultText(), this);
-  label_->setObjectName(QStringLiteral("text"));
+  label_->setObjectName(u"text"_s);
   label_->setTextFormat(Qt::PlainText);
   detail_ = new QLabel(this);
-  detail_->setObjectName(QStringLiteral("detail"));
+  detail_->setObjectName(u"detail"_s);
   detail_->setTextFormat(Qt::PlainText);
   detail_->hide();
-  cancel_ = new PictureButton(QStringLiteral("Cancel"), this);
-  cancel_->setObjectName(QStringLiteral("cancel"));
+  cancel_ = new PictureButton(u"Cancel"_s, this);
+  cancel_->setObjectName(u"cancel"_s);
   cancel_->hide();
   connect(cancel_, &PictureButton::clicked, this, &CConnectingDlg::cancel);
   // One layout, as a box within a box would learn too late that a text has grown.
@@ -44,7 +46,7 @@ CConnectingDlg::CConnectingDlg(QWidget* parent) : GradientDialog(parent) {
 }
 
 QString CConnectingDlg::defaultText() {
-  return QStringLiteral("Connecting to the Parlexo gateway.");
+  return u"Connecting to the Parlexo gateway."_s;
 }
 
 QString CConnectingDlg::text() const {

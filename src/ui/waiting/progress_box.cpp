@@ -11,6 +11,8 @@
 
 namespace parlexo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr qint64 repaintPause = 30;  // milliseconds
@@ -68,8 +70,7 @@ void ProgressBox::follow(const Transfer& transfer) {
 }
 
 void ProgressBox::showTransfer(const Transfer& transfer) {
-  box_->setDetail(
-      QStringLiteral("%1 of %2 sent").arg(dataSizeText(transfer.done()), dataSizeText(transfer.total())));
+  box_->setDetail(u"%1 of %2 sent"_s.arg(dataSizeText(transfer.done()), dataSizeText(transfer.total())));
 }
 
 void ProgressBox::offerCancelAfter(std::chrono::milliseconds wait) {

@@ -22,6 +22,9 @@
 #include "tests/support/stepping_worker.h"
 
 namespace parlexo {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using namespace std::chrono_literals;
@@ -165,8 +168,8 @@ class BackgroundGatewayTest : public ::testing::Test {
  protected:
   BackgroundGatewayTest() {
     state_.gateway.endpoint = QString::fromStdString(server_.endpoint());
-    state_.session = QStringLiteral("first");
-    state_.userName = QStringLiteral("ann");
+    state_.session = u"first"_s;
+    state_.userName = u"ann"_s;
   }
 
   template <class Response, class Operation>

@@ -72,7 +72,7 @@ TEST(LocatorDocument, readsNumbersAsFarAsTheyGo) {
         parseLocatorDocument(QByteArray::fromStdString(lines({xmlHead, server, versionLine})));
     ASSERT_TRUE(location) << each.port;
     EXPECT_EQ(location->port, each.read) << each.port;
-    EXPECT_EQ(location->endpoint, QStringLiteral("http://h:%1/ccx/onlineCommunication").arg(each.read));
+    EXPECT_EQ(location->endpoint, u"http://h:%1/ccx/onlineCommunication"_s.arg(each.read));
   }
 }
 
@@ -109,7 +109,7 @@ Outcome locate(const std::string& site, RunState& state) {
 
 /// The lines of a request's head, without the language, which is that of the machine.
 QStringList headOf(const std::string& request) {
-  QStringList lines = QString::fromStdString(request).split(QStringLiteral("\r\n"), Qt::SkipEmptyParts);
+  QStringList lines = QString::fromStdString(request).split(u"\r\n"_s, Qt::SkipEmptyParts);
   lines.removeIf([](const QString& line) { return line.startsWith(u"Accept-Language: "); });
   return lines;
 }
@@ -117,17 +117,17 @@ QStringList headOf(const std::string& request) {
 TEST(ServerLocator, sendsItsTwoHeadersAndNothingOfTheUser) {
   FakeGateway site(httpReply(locatorText));
   RunState state;
-  state.proxy.user = QStringLiteral("proxy user without a proxy");
-  state.proxy.password = QStringLiteral("secret");
+  state.proxy.user = u"proxy user without a proxy"_s;
+  state.proxy.password = u"secret"_s;
   EXPECT_EQ(locate(site.base(), state), Outcome::Located);
   EXPECT_EQ(state.gateway.host, "10.0.0.7");
-  const QString host = QStringLiteral("Host: 127.0.0.1:%1").arg(site.port());
-  EXPECT_THAT(headOf(site.lastRequest()),
-              UnorderedElementsAre(u"GET /WSDLServerLocator.xml HTTP/1.1"_qs, host,
-                                   u"Accept: text/plain, text/html, text/htm, text/xml"_qs,
-                                   u"User-Agent: Parlexo/1.0"_qs, u"Accept-Encoding: identity"_qs,
-                                   u"Connection: Keep-Alive"_qs, u"Cache-Control: no-cache"_qs,
-                                   u"Pragma: no-cache"_qs));
+  const QString host = u"Host: 127.0.0.1:%1"_s.arg(site.port());
+  EXPECT_THAT(
+      headOf(site.lastRequest()),
+      UnorderedElementsAre(u"GET /WSDLServerLocator.xml HTTP/1.1"_s, host,
+                           u"Accept: text/plain, text/html, text/htm, text/xml"_s,
+                           u"User-Agent: Parlexo/1.0"_s, u"Accept-Encoding: identity"_s,
+                           u"Connection: Keep-Alive"_s, u"Cache-Control: no-cache"_s, u"Pragma: no-cache"_s));
 }
 
 TEST(ServerLocator, otherAnswersLocateNothingAndKeepNothing) {
@@ -169,7 +169,7 @@ TEST(ServerLocator, followsUpToFiveRedirects) {
   }
   RunState state;
   EXPECT_EQ(locate(chain.back().base(), state), Outcome::NotLocated);
-  EXPECT_EQ(headOf(chain.front().lastRequest()).value(0), u"GET /elsewhere?a=b HTTP/1.1"_qs);
+  EXPECT_EQ(headOf(chain.front().lastRequest()).value(0), u"GET /elsewhere?a=b HTTP/1.1"_s);
 
   FakeGateway loop(redirectTo("/WSDLServerLocator.xml"));
   EXPECT_EQ(locate(loop.base(), state), Outcome::NotLocated);
@@ -177,14 +177,14 @@ TEST(ServerLocator, followsUpToFiveRedirects) {
 }
 
 TEST(ServerLocator, redirectsNeverLeadToLessSafety) {
-  const QUrl open(u"http://a.test/x/y"_qs);
-  const QUrl encrypted(u"https://a.test/x/y"_qs);
+  const QUrl open(u"http://a.test/x/y"_s);
+  const QUrl encrypted(u"https://a.test/x/y"_s);
   const auto target = [](const QUrl& from, const char* to) {
     return redirectTarget(from, QUrl(QLatin1String(to))).toString();
   };
-  EXPECT_EQ(target(open, "https://b.test/z"), u"https://b.test/z"_qs);
-  EXPECT_EQ(target(encrypted, "../z"), u"https://a.test/z"_qs);
-  EXPECT_EQ(target(encrypted, "//b.test/"), u"https://b.test/"_qs);
+  EXPECT_EQ(target(open, "https://b.test/z"), u"https://b.test/z"_s);
+  EXPECT_EQ(target(encrypted, "../z"), u"https://a.test/z"_s);
+  EXPECT_EQ(target(encrypted, "//b.test/"), u"https://b.test/"_s);
   for (const char* to : {"http://a.test/x/z", "ftp://a.test/", "file:///etc/passwd", "https:///z", ""})
     EXPECT_EQ(target(encrypted, to), QString()) << to;
 }
@@ -255,7 +255,7 @@ TEST(ServerLocator, connectsOnceMoreAfterTheDelay) {
   });
   QTimer::singleShot(100ms, &late, [&] { late.listen(QHostAddress::LocalHost, static_cast<quint16>(port)); });
   RunState state;
-  const QUrl address(QStringLiteral("http://127.0.0.1:%1").arg(port));
+  const QUrl address(u"http://127.0.0.1:%1"_s.arg(port));
   LocatorLimits limits = quickLimits();
   limits.retryDelay = 400ms;
   EXPECT_EQ(ServerLocator(address, limits).locate(state), Outcome::Located);
@@ -274,7 +274,7 @@ TEST(ServerLocator, proxyPortOutOfRangeIsNotBentIntoAnother) {
   FakeGateway proxy(httpReply(locatorText));
   for (const int port : {0, -1, 65536 + proxy.port()}) {
     RunState state;
-    state.proxy = {.password = {}, .user = {}, .host = u"127.0.0.1"_qs, .port = port};
+    state.proxy = {.password = {}, .user = {}, .host = u"127.0.0.1"_s, .port = port};
     EXPECT_EQ(locate(proxy.base(), state), Outcome::NotLocated) << port;
   }
   EXPECT_EQ(proxy.requestCount(), 0);

@@ -12,9 +12,12 @@
 #include "connection/locator/proxy_text.h"
 
 namespace parlexo {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
-const QUrl address(QStringLiteral("http://gateway.test/WSDLServerLocator.xml"));
+const QUrl address(u"http://gateway.test/WSDLServerLocator.xml"_s);
 constexpr wchar_t internetSettings[] = L"Software\\Microsoft\\Windows\\CurrentVersion\\Internet Settings";
 
 QString textOfUser(const wchar_t* name) {
@@ -36,17 +39,16 @@ TEST(WindowsProxySystem, tellsTheProxyOfTheUsersSettings) {
   const CancelFlag cancel;
   EXPECT_EQ(makeProxySystem()->configuredProxy(address, cancel), proxyOfUser());
   for (const char* host : {"news.inside.test", "intranet"}) {
-    const bool isExcepted = textOfUser(L"ProxyOverride") == QStringLiteral("*.inside.test;<local>");
-    EXPECT_EQ(
-        makeProxySystem()->configuredProxy(QUrl(QStringLiteral("http://") + QLatin1String(host)), cancel),
-        isExcepted ? QString() : proxyOfUser())
+    const bool isExcepted = textOfUser(L"ProxyOverride") == u"*.inside.test;<local>"_s;
+    EXPECT_EQ(makeProxySystem()->configuredProxy(QUrl(u"http://"_s + QLatin1String(host)), cancel),
+              isExcepted ? QString() : proxyOfUser())
         << host;
   }
 }
 
 TEST(WindowsProxySystem, letsTheSystemReadAConfigurationScript) {
   const QTemporaryDir folder;
-  const QString script = folder.filePath(QStringLiteral("proxy.pac"));
+  const QString script = folder.filePath(u"proxy.pac"_s);
   const auto answer = [&](const QByteArray& text) {
     QFile file(script);
     EXPECT_TRUE(file.open(QIODevice::WriteOnly) && file.write(text) == text.size());
@@ -56,7 +58,7 @@ TEST(WindowsProxySystem, letsTheSystemReadAConfigurationScript) {
   };
   EXPECT_EQ(answer("function FindProxyForURL(url, host) {\n"
                    "  return host == 'gateway.test' ? 'PROXY proxy.test:8080' : 'DIRECT';\n}\n"),
-            QStringLiteral("PROXY proxy.test:8080"));
+            u"PROXY proxy.test:8080"_s);
   EXPECT_EQ(answer("this is no script ("), QString());
 }
 

@@ -22,7 +22,7 @@ class ProxyLoginDlgTest : public ::testing::Test {
 
   DirectCallRunner runner;
   std::shared_ptr<FakeProxySystem> system = std::make_shared<FakeProxySystem>();
-  ProxyDiscovery discovery{QUrl(u"http://www.parlexo.invalid"_qs), runner, system};
+  ProxyDiscovery discovery{QUrl(u"http://www.parlexo.invalid"_s), runner, system};
 };
 
 TEST_F(ProxyLoginDlgTest, isEmptyWhenNoneWasFoundAndTabsInReadingOrder) {
@@ -36,8 +36,8 @@ TEST_F(ProxyLoginDlgTest, isEmptyWhenNoneWasFoundAndTabsInReadingOrder) {
     order << dialog.focusWidget()->objectName();
     QTest::keyClick(dialog.focusWidget(), Qt::Key_Tab);
   }
-  EXPECT_EQ(order, QStringList({u"proxyUser"_qs, u"proxyPassword"_qs, u"proxyHost"_qs, u"proxyPort"_qs,
-                                u"ok"_qs, u"cancel"_qs}));
+  EXPECT_EQ(order, QStringList({u"proxyUser"_s, u"proxyPassword"_s, u"proxyHost"_s, u"proxyPort"_s, u"ok"_s,
+                                u"cancel"_s}));
 }
 
 TEST_F(ProxyLoginDlgTest, okHandsOutWhatWasTyped) {
@@ -45,15 +45,15 @@ TEST_F(ProxyLoginDlgTest, okHandsOutWhatWasTyped) {
     QString port;
     int number;
   };
-  for (const Case& each : {Case{u"8080"_qs, 8080}, {u" 81 or so"_qs, 81}, {u"abc"_qs, 0}, {u"-3"_qs, -3}}) {
+  for (const Case& each : {Case{u"8080"_s, 8080}, {u" 81 or so"_s, 81}, {u"abc"_s, 0}, {u"-3"_s, -3}}) {
     CProxyLoginDlg dialog(discovery);
     dialog.show();
-    QTest::keyClicks(&field(dialog, u"proxyUser"_qs), u"mary"_qs);
-    QTest::keyClicks(&field(dialog, u"proxyPassword"_qs), u" s3cret "_qs);
-    QTest::keyClicks(&field(dialog, u"proxyHost"_qs), u" proxy.local "_qs);
-    QTest::keyClicks(&field(dialog, u"proxyPort"_qs), each.port);
-    EXPECT_EQ(field(dialog, u"proxyPassword"_qs).displayText().count(u's'), 0);
-    QTest::keyClick(&field(dialog, u"proxyPort"_qs), Qt::Key_Return);
+    QTest::keyClicks(&field(dialog, u"proxyUser"_s), u"mary"_s);
+    QTest::keyClicks(&field(dialog, u"proxyPassword"_s), u" s3cret "_s);
+    QTest::keyClicks(&field(dialog, u"proxyHost"_s), u" proxy.local "_s);
+    QTest::keyClicks(&field(dialog, u"proxyPort"_s), each.port);
+    EXPECT_EQ(field(dialog, u"proxyPassword"_s).displayText().count(u's'), 0);
+    QTest::keyClick(&field(dialog, u"proxyPort"_s), Qt::Key_Return);
     EXPECT_EQ(dialog.result(), QDialog::Accepted);
     const ProxySettings settings = dialog.settings();
     EXPECT_EQ(settings.user, "mary");
@@ -64,7 +64,7 @@ TEST_F(ProxyLoginDlgTest, okHandsOutWhatWasTyped) {
 }
 
 TEST_F(ProxyLoginDlgTest, boxTellsCancelFromOk) {
-  system->configured = u"proxy.local:8080"_qs;
+  system->configured = u"proxy.local:8080"_s;
   const auto answerWith = [this](const QString& button) {
     QTimer::singleShot(0, [button] {
       QWidget* dialog = QApplication::activeModalWidget();
@@ -73,8 +73,8 @@ TEST_F(ProxyLoginDlgTest, boxTellsCancelFromOk) {
     });
     return ProxyLoginBox(discovery).ask();
   };
-  EXPECT_FALSE(answerWith(u"cancel"_qs));
-  const auto entered = answerWith(u"ok"_qs);
+  EXPECT_FALSE(answerWith(u"cancel"_s));
+  const auto entered = answerWith(u"ok"_s);
   ASSERT_TRUE(entered);
   EXPECT_EQ(entered->host, "proxy.local");
   EXPECT_EQ(entered->port, 8080);

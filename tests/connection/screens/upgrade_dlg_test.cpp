@@ -5,6 +5,9 @@
 #include <gmock/gmock.h>
 
 namespace parlexo {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QStringList visibleTexts(const CUpgradeDlg& dialog) {
@@ -17,22 +20,21 @@ QStringList visibleTexts(const CUpgradeDlg& dialog) {
 
 TEST(UpgradeDialog, tellsTheNewVersionOnlyWhenItIsKnown) {
   EXPECT_EQ(visibleTexts(CUpgradeDlg(QString())).size(), 2);
-  EXPECT_EQ(visibleTexts(CUpgradeDlg(QStringLiteral("2.30%1"))).value(1),
-            QStringLiteral("A new version 2.30%1 is now available!"));
+  EXPECT_EQ(visibleTexts(CUpgradeDlg(u"2.30%1"_s)).value(1), u"A new version 2.30%1 is now available!"_s);
 }
 
 TEST(UpgradeDialog, downloadOpensThePageAndCancelCloses) {
   std::vector<QUrl> opened;
-  CUpgradeDlg dialog(QStringLiteral("2.30"), nullptr, [&](const QUrl& page) {
+  CUpgradeDlg dialog(u"2.30"_s, nullptr, [&](const QUrl& page) {
     opened.push_back(page);
     return true;
   });
   dialog.show();
   QTest::keyClick(&dialog, Qt::Key_Return);
   ASSERT_EQ(opened.size(), 1U);
-  EXPECT_EQ(opened[0], QUrl(QStringLiteral("https://www.parlexo.example/messagingclient.php")));
+  EXPECT_EQ(opened[0], QUrl(u"https://www.parlexo.example/messagingclient.php"_s));
   EXPECT_TRUE(dialog.isVisible());
-  QTest::mouseClick(dialog.findChild<QWidget*>(QStringLiteral("cancel")), Qt::LeftButton);
+  QTest::mouseClick(dialog.findChild<QWidget*>(u"cancel"_s), Qt::LeftButton);
   EXPECT_FALSE(dialog.isVisible());
 }
 

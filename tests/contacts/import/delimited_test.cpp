@@ -12,6 +12,9 @@
 #include "tests/support/file_bytes.h"
 
 namespace parlexo {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using testing::HasSubstr;
@@ -25,7 +28,7 @@ std::string rowsOf(const Sheet& sheet) {
     if (all.endsWith(u'|')) all.chop(1);
     all += u'/';
   }
-  return all.replace(u'\n', QStringLiteral("\\n")).toStdString();
+  return all.replace(u'\n', u"\\n"_s).toStdString();
 }
 
 struct Parsed {
@@ -128,7 +131,7 @@ TEST_F(DelimitedFileTest, judgesTheEncodingByTheWholeFile) {
 TEST_F(DelimitedFileTest, turnsAwayWhatCanNotBeImported) {
   ImportLimits small;
   small.fileBytes = 3 << 20;
-  QFile large(folder_.filePath(QStringLiteral("large.csv")));
+  QFile large(folder_.filePath(u"large.csv"_s));
   ASSERT_TRUE(large.open(QIODevice::WriteOnly) && large.resize(1LL << 30));
   EXPECT_EQ(fileProblem(large.fileName(), small).toStdString(),
             "The file has 1,024 MB. Files of more than 3 MB can't be imported.");

@@ -8,21 +8,24 @@
 #include "tests/ui/waiting/sample_page.h"
 
 namespace parlexo {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
-const QString defaultLabel = QStringLiteral("Connecting to the Parlexo gateway.");
+const QString defaultLabel = u"Connecting to the Parlexo gateway."_s;
 
 TEST(ProgressBox, labelComesFromTheFirstShowOrFromSetText) {
   ProgressBox progress;
-  progress.setText(QStringLiteral("nothing shows"));
+  progress.setText(u"nothing shows"_s);
   EXPECT_TRUE(boxes().isEmpty());
   progress.show();
   EXPECT_EQ(progress.text(), defaultLabel);
   progress.hide();
-  progress.show(QStringLiteral("Loading Contacts from Database..."));
-  EXPECT_EQ(progress.text(), QStringLiteral("Loading Contacts from Database..."));
-  progress.show(QStringLiteral("other"));
-  EXPECT_EQ(progress.text(), QStringLiteral("Loading Contacts from Database..."));
+  progress.show(u"Loading Contacts from Database..."_s);
+  EXPECT_EQ(progress.text(), u"Loading Contacts from Database..."_s);
+  progress.show(u"other"_s);
+  EXPECT_EQ(progress.text(), u"Loading Contacts from Database..."_s);
   progress.setText({});
   EXPECT_EQ(progress.text(), defaultLabel);
   progress.hide();
@@ -40,7 +43,7 @@ TEST(ProgressBox, fitsItsTextAndCannotBeClosedByTheUser) {
   EXPECT_GE(box->findChild<QLabel*>()->width(),
             box->fontMetrics().horizontalAdvance(QString(80, QLatin1Char('M'))));
   const int wide = box->width();
-  progress.setText(QStringLiteral("short"));
+  progress.setText(u"short"_s);
   EXPECT_EQ(box->width(), wide);
   QTest::keyClick(box, Qt::Key_Escape);
   box->close();
@@ -75,7 +78,7 @@ TEST(ProgressBox, clicksDuringBlockingWorkAreDroppedNotKept) {
   progress.show();
   page.queueClick();
   QThread::msleep(40);
-  progress.setText(QStringLiteral("half way"));
+  progress.setText(u"half way"_s);
   page.queueClick();
   progress.hide();
   QCoreApplication::processEvents();
@@ -108,7 +111,7 @@ TEST(ProgressBox, transferIsFollowedBelowTheTextUntilTheBoxGoes) {
   const Transfer transfer(2 << 20);
   progress.follow(transfer);
   progress.show();
-  const auto detail = [] { return boxes().front()->findChild<QLabel*>(QStringLiteral("detail")); };
+  const auto detail = [] { return boxes().front()->findChild<QLabel*>(u"detail"_s); };
   EXPECT_TRUE(detail()->isHidden());
   progress.follow(transfer);
   for (const auto& [done, shown] :

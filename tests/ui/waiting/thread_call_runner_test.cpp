@@ -13,6 +13,9 @@
 #include "ui/waiting/progress_box.h"
 
 namespace parlexo {
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using namespace std::chrono_literals;
@@ -47,9 +50,9 @@ TEST_F(ThreadCallRunnerTest, boxAppearsOnlyWhenTheExchangeLasts) {
     EXPECT_EQ(shown, row.shows);
     EXPECT_FALSE(progress_.isShowing());
   }
-  progress_.show(QStringLiteral("Sending"));
+  progress_.show(u"Sending"_s);
   EXPECT_TRUE(runner_.run(lasting(120ms)));
-  EXPECT_EQ(progress_.text(), QStringLiteral("Sending")) << "the caller's box stays and keeps its label";
+  EXPECT_EQ(progress_.text(), u"Sending"_s) << "the caller's box stays and keeps its label";
 }
 
 TEST_F(ThreadCallRunnerTest, inputIsDroppedBeforeAndUnderTheBox) {
@@ -144,7 +147,7 @@ TEST_F(CancelOffer, comesLateAndEndsTheExchangeByMouseOrKeys) {
        }}};
   for (const bool callersBox : {false, true}) {
     for (const auto& [name, way] : ways) {
-      if (callersBox) progress_.show(QStringLiteral("Sending"));
+      if (callersBox) progress_.show(u"Sending"_s);
       EXPECT_TRUE(isCancelled(way)) << name;
       EXPECT_GE(offeredAfter_, 200) << name;
       progress_.hide();
