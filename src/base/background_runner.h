@@ -10,8 +10,8 @@ namespace parlexo {
 struct BackgroundTask {
   /// Does the work, on another thread. Must own everything it uses, should end soon after its cancel flag is
   /// raised, and must be safe to repeat.
-  CallRunner::Exchange exchange;
-  /// Called once on the interface thread after the exchange has ended, also when it threw.
+  CallRunner::Task task;
+  /// Called once on the interface thread after the task has ended, also when it threw.
   std::function<void()> deliver;
   /// Asked on the interface thread before each run and before delivery; the task is dropped when it returns
   /// false. Checks that the receiver still exists and that the result still applies.

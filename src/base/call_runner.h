@@ -16,19 +16,19 @@ class CancelFlag {
   std::shared_ptr<std::atomic<bool>> raised_ = std::make_shared<std::atomic<bool>>(false);
 };
 
-/// Runs one blocking exchange to its end while the program stays alive. To the caller it is a synchronous
+/// Runs one blocking task to its end while the program stays alive. To the caller it is a synchronous
 /// call, whatever the runner does meanwhile.
 class CallRunner {
  public:
-  using Exchange = std::function<void(const CancelFlag& cancel)>;
+  using Task = std::function<void(const CancelFlag& cancel)>;
 
   virtual ~CallRunner() = default;
 
-  /// Runs `exchange`, possibly on another thread. The exchange must own all that it uses, because one
+  /// Runs `task`, possibly on another thread. The task must own all that it uses, because one
   /// that is cancelled and does not come back is left behind. It should end soon once `cancel` is raised.
-  /// Returns true when the exchange has ended and its results may be read, false when it was left
+  /// Returns true when the task has ended and its results may be read, false when it was left
   /// behind or could not do its work (it threw, or no thread was to be had).
-  [[nodiscard]] virtual bool run(Exchange exchange) = 0;
+  [[nodiscard]] virtual bool run(Task task) = 0;
 
  protected:
   CallRunner() = default;
@@ -36,11 +36,11 @@ class CallRunner {
   CallRunner& operator=(const CallRunner&) = default;
 };
 
-/// Runs the exchange on the calling thread: for tests and command-line tools.
+/// Runs the task on the calling thread: for tests and command-line tools.
 class DirectCallRunner final : public CallRunner {
  public:
-  [[nodiscard]] bool run(Exchange exchange) override {
-    exchange(CancelFlag());
+  [[nodiscard]] bool run(Task task) override {
+    task(CancelFlag());
     return true;
   }
 };

@@ -21,7 +21,7 @@ class Progress {
   virtual void setText(const QString& text) = 0;
   /// Shows below the label how far `transfer` has come, until the box goes. Without a box nothing happens.
   virtual void follow(const Transfer& /*transfer*/) {}
-  /// Lets the box offer Cancel once the exchanges under it have taken `wait` in all, instead of the longer
+  /// Lets the box offer Cancel once the tasks under it have taken `wait` in all, instead of the longer
   /// default. Without a box nothing happens.
   virtual void offerCancelAfter(std::chrono::milliseconds /*wait*/) {}
   /// Removes the box; harmless when there is none.

@@ -33,15 +33,14 @@ void wipe(QString& text) {
   wipeUnshared(text);
 }
 
-std::shared_ptr<const std::string> secretToWire(const QString& text) {
+Secret::Secret(const QString& text) {
   QByteArray bytes = toCodePage(text);
-  std::shared_ptr<std::string> secret(
+  bytes_ = std::shared_ptr<std::string>(
       new std::string(bytes.constData(), static_cast<std::size_t>(bytes.size())), [](std::string* owned) {
         wipe(*owned);
         delete owned;
       });
   wipe(bytes);
-  return secret;
 }
 
 }  // namespace parlexo

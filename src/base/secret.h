@@ -20,7 +20,14 @@ void wipe(std::string& text);
 void wipe(QByteArray& bytes);
 void wipe(QString& text);
 
-/// The bytes of `text` in the code page; all owners share them, and the last one wipes them.
-[[nodiscard]] std::shared_ptr<const std::string> secretToWire(const QString& text);
+/// A password in the bytes of the code page. Copies share the bytes; the last one wipes them.
+class Secret {
+ public:
+  explicit Secret(const QString& text);
+  operator const std::string&() const { return *bytes_; }
+
+ private:
+  std::shared_ptr<const std::string> bytes_;
+};
 
 }  // namespace parlexo

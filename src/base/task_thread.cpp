@@ -14,21 +14,21 @@ namespace parlexo {
 
 namespace {
 
-bool succeeds(const CallRunner::Exchange& exchange, const CancelFlag& cancel) {
+bool succeeds(const CallRunner::Task& task, const CancelFlag& cancel) {
   try {
-    exchange(cancel);
+    task(cancel);
     return true;
   } catch (const std::exception& error) {
-    qWarning("An exchange failed: %s", error.what());
+    qWarning("A task failed: %s", error.what());
   } catch (...) {
-    qWarning("An exchange failed.");
+    qWarning("A task failed.");
   }
   return false;
 }
 
 }  // namespace
 
-/// Owned by both threads, so that it outlives an exchange that is left behind.
+/// Owned by both threads, so that it outlives a task that is left behind.
 class TaskThread::Shared {
  public:
   explicit Shared(std::function<void()> onEnd) : onEnd_(std::move(onEnd)) {}
@@ -65,16 +65,16 @@ class TaskThread::Shared {
   bool hasSucceeded_ = false;
 };
 
-TaskThread::TaskThread(CallRunner::Exchange exchange, std::function<void()> onEnd, CancelFlag cancel)
+TaskThread::TaskThread(CallRunner::Task task, std::function<void()> onEnd, CancelFlag cancel)
     : cancel_(std::move(cancel)), shared_(std::make_shared<Shared>(std::move(onEnd))) {
   try {
-    thread_ = std::thread([shared = shared_, cancel = cancel_, work = std::move(exchange)]() mutable {
+    thread_ = std::thread([shared = shared_, cancel = cancel_, work = std::move(task)]() mutable {
       const bool succeeded = succeeds(work, cancel);
       work = nullptr;  // what it owns is given back before its end is reported
       shared->end(succeeded);
     });
   } catch (const std::system_error& error) {
-    qWarning("No thread for an exchange: %s", error.what());
+    qWarning("No thread for a task: %s", error.what());
     shared_->end(false);
   }
 }

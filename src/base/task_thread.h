@@ -9,28 +9,27 @@
 
 namespace parlexo {
 
-/// Runs one exchange on a separate thread. An exchange that does not end is left behind with everything it
+/// Runs one task on a separate thread. A task that does not end is left behind with everything it
 /// owns: a blocked name lookup cannot be interrupted.
 class TaskThread {
  public:
-  /// Starts `exchange`. `onEnd` is called when it has ended, also when it threw, on its thread; or at once on
-  /// the calling thread when no thread could be started. The exchange polls `cancel`, which may be raised
+  /// Starts `task`. `onEnd` is called when it has ended, also when it threw, on its thread; or at once on
+  /// the calling thread when no thread could be started. The task polls `cancel`, which may be raised
   /// already.
-  explicit TaskThread(CallRunner::Exchange exchange, std::function<void()> onEnd = {},
-                      CancelFlag cancel = {});
-  /// Cancels the exchange and waits up to 500 ms for its end, then leaves it behind. `onEnd` is not called
+  explicit TaskThread(CallRunner::Task task, std::function<void()> onEnd = {}, CancelFlag cancel = {});
+  /// Cancels the task and waits up to 500 ms for its end, then leaves it behind. `onEnd` is not called
   /// after this has returned.
   ~TaskThread();
   TaskThread(const TaskThread&) = delete;
   TaskThread& operator=(const TaskThread&) = delete;
 
   void cancel() const { cancel_.raise(); }
-  /// Cancels the exchange and leaves it behind without a wait.
+  /// Cancels the task and leaves it behind without a wait.
   void leaveBehind();
-  /// True when the exchange has ended within `limit`.
+  /// True when the task has ended within `limit`.
   [[nodiscard]] bool waitFor(std::chrono::milliseconds limit) const;
   [[nodiscard]] bool hasEnded() const { return waitFor(std::chrono::milliseconds::zero()); }
-  /// Whether the exchange has ended without an exception.
+  /// Whether the task has ended without an exception.
   [[nodiscard]] bool hasSucceeded() const;
 
  private:

@@ -16,20 +16,19 @@ constexpr char actionPrefix[] = "capeconnect:onlineCommunication:onlineCommunica
 /// place of the response.
 constexpr unsigned bodyLevel = 2;
 
-int sendRequest(::soap& context, const Exchange& exchange) {
-  const std::string element = requestElement(exchange.operation);
-  const std::string action =
-      exchange.action ? exchange.action : actionPrefix + std::string(exchange.operation);
+int sendRequest(::soap& context, const SoapCall& call) {
+  const std::string element = requestElement(call.operation);
+  const std::string action = call.action ? call.action : actionPrefix + std::string(call.operation);
   setEncodingStyle(context);
   soap_begin(&context);
   if (soap_begin_count(&context)) return context.error;
-  if ((context.mode & SOAP_IO_LENGTH) != 0 && writeEnvelope(context, element, exchange.request)) {
+  if ((context.mode & SOAP_IO_LENGTH) != 0 && writeEnvelope(context, element, call.request)) {
     return context.error;
   }
   if (soap_end_count(&context)) return context.error;
-  if (exchange.requestLength) *exchange.requestLength = context.count;
-  if (soap_connect(&context, exchange.endpoint ? exchange.endpoint : defaultEndpoint, action.c_str()) ||
-      writeEnvelope(context, element, exchange.request) || soap_end_send(&context)) {
+  if (call.requestLength) *call.requestLength = context.count;
+  if (soap_connect(&context, call.endpoint ? call.endpoint : defaultEndpoint, action.c_str()) ||
+      writeEnvelope(context, element, call.request) || soap_end_send(&context)) {
     return context.error;
   }
   return SOAP_OK;
@@ -52,9 +51,9 @@ bool tellsTheOutcome(const ::soap& context, int result) {
   return result == SOAP_OK || isFault(result) || (httpVerdict(context) != SOAP_OK && !isProxysError);
 }
 
-int receiveResponse(::soap& context, const Exchange& exchange) {
+int receiveResponse(::soap& context, const SoapCall& call) {
   if (readToBody(context)) return context.error;
-  if (readRecord(context, responseElement(exchange.operation), exchange.response) == SOAP_OK) {
+  if (readRecord(context, responseElement(call.operation), call.response) == SOAP_OK) {
     return httpVerdict(context);
   }
   if (context.error == SOAP_TAG_MISMATCH && context.level == bodyLevel) soap_recv_fault(&context, 0);
@@ -63,12 +62,12 @@ int receiveResponse(::soap& context, const Exchange& exchange) {
 
 }  // namespace
 
-int runExchange(::soap* context, const Exchange& exchange) {
-  int result = sendRequest(*context, exchange);
+int runSoapCall(::soap* context, const SoapCall& call) {
+  int result = sendRequest(*context, call);
   if (result == SOAP_OK) {
-    if (exchange.outcomeIsOpen) *exchange.outcomeIsOpen = true;
-    result = receiveResponse(*context, exchange);
-    if (exchange.outcomeIsOpen) *exchange.outcomeIsOpen = !tellsTheOutcome(*context, result);
+    if (call.outcomeUnknown) *call.outcomeUnknown = true;
+    result = receiveResponse(*context, call);
+    if (call.outcomeUnknown) *call.outcomeUnknown = !tellsTheOutcome(*context, result);
   }
   // Closing may report an error of its own; the first one is the one that tells.
   soap_closesock(context);

@@ -12,8 +12,8 @@ struct soap;
 
 namespace parlexo::protocol {
 
-/// One exchange with the gateway, without the types of its records.
-struct Exchange {
+/// One call with the gateway, without the types of its records.
+struct SoapCall {
   const char* endpoint = nullptr;  ///< null: the service's default endpoint
   const char* action = nullptr;    ///< the SOAPAction; null: the operation's own
   std::string_view operation;
@@ -21,7 +21,7 @@ struct Exchange {
   Fields response;
   /// True from the moment that the system has taken the whole request until a reply tells what became of it:
   /// in between, and for good when none comes, the gateway may carry it out without our knowing. May be null.
-  std::atomic<bool>* outcomeIsOpen = nullptr;
+  std::atomic<bool>* outcomeUnknown = nullptr;
   /// Set before the first byte goes out: the bytes of the request without its HTTP header. May be null.
   std::size_t* requestLength = nullptr;
 };
@@ -30,22 +30,22 @@ struct Exchange {
 /// 0 when a whole, well-formed response with its code was read; otherwise the runtime's error: no connection
 /// (28), nothing or too little read (-1), an HTTP status, a fault (1, 2 or 12), a malformed reply (other
 /// small numbers).
-[[nodiscard]] int runExchange(::soap* context, const Exchange& exchange);
+[[nodiscard]] int runSoapCall(::soap* context, const SoapCall& call);
 
 /// The same with records: calls the operation that `Request` names. `response` is cleared first and stays
 /// cleared on failure; its strings live as long as the context. `request` is only read.
 template <class Request, class Response>
 [[nodiscard]] int call(::soap* context, const char* endpoint, Request& request, Response& response,
-                       std::atomic<bool>* outcomeIsOpen = nullptr, std::size_t* requestLength = nullptr) {
+                       std::atomic<bool>* outcomeUnknown = nullptr, std::size_t* requestLength = nullptr) {
   const auto& operation = operationWith<Request>();
   static_assert(std::is_same_v<typename std::remove_cvref_t<decltype(operation)>::Response, Response>,
                 "the response record belongs to another operation");
   response = Response{};
-  const int result = runExchange(context, {.endpoint = endpoint,
+  const int result = runSoapCall(context, {.endpoint = endpoint,
                                            .operation = operation.name,
                                            .request = operation.fields(request),
                                            .response = operation.fields(response),
-                                           .outcomeIsOpen = outcomeIsOpen,
+                                           .outcomeUnknown = outcomeUnknown,
                                            .requestLength = requestLength});
   if (result != 0) response = Response{};
   return result;

@@ -8,12 +8,9 @@
 #include <QString>
 #include <QStringList>
 
+#include "base/message_type.h"
+
 namespace parlexo::simulator {
-
-enum class MessageType { Sms, Mms, Fax, Wap, Voice };
-
-/// The word for a type in logs and histories, as the client writes it.
-[[nodiscard]] QString wordFor(MessageType type);
 
 /// A message that the gateway has taken for delivery.
 struct AcceptedMessage {

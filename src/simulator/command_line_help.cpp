@@ -1,5 +1,5 @@
+#include "protocol/result_code.h"
 #include "simulator/command_line.h"
-#include "simulator/result_code.h"
 
 namespace parlexo::simulator {
 
@@ -62,9 +62,9 @@ Error codes
 
 QString helpText() {
   QString text = QString::fromLatin1(usage);
-  for (int number = 0; number <= static_cast<int>(ResultCode::MessageTooLong); ++number)
-    text +=
-        u"  %1  %2\n"_s.arg(number, 2).arg(QString::fromLatin1(meaningOf(static_cast<ResultCode>(number))));
+  for (int number = 0; number <= static_cast<int>(protocol::ResultCode::MessageTooLong); ++number)
+    text += u"  %1  %2\n"_s.arg(number, 2).arg(
+        QString::fromLatin1(protocol::meaningOf(static_cast<protocol::ResultCode>(number))));
   return text;
 }
 

@@ -2,12 +2,12 @@
 
 #include <string_view>
 
+#include "protocol/result_code.h"
 #include "server/locator_document.h"
 #include "server/soap_dispatch.h"
 #include "simulator/fault_reply.h"
 #include "simulator/message_text.h"
 #include "simulator/operations.h"
-#include "simulator/result_code.h"
 
 namespace parlexo::simulator {
 
@@ -38,7 +38,7 @@ QString sessionForLog(const QString& session) {
 template <class Response>
 QString outcomeForLog(const Response& response) {
   if constexpr (requires { response.nErrorCode; }) {
-    const char* meaning = meaningOf(static_cast<ResultCode>(response.nErrorCode));
+    const char* meaning = protocol::meaningOf(static_cast<protocol::ResultCode>(response.nErrorCode));
     return u"code %1, %2"_s.arg(response.nErrorCode).arg(QString::fromLatin1(meaning));
   } else {
     return u"version %1"_s.arg(response.nVersion);

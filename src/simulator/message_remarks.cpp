@@ -41,7 +41,7 @@ QStringList remarksOn(const AcceptedMessage& message) {
   traits.append(u"cost %1"_s.arg(toAmount(message.costCents), 0, 'f', 2));
 
   QStringList lines;
-  lines.append(u"  %1 from %2 (%3)"_s.arg(wordFor(message.type), forLog(message.user), traits.join(u", "_s)));
+  lines.append(u"  %1 from %2 (%3)"_s.arg(toWord(message.type), forLog(message.user), traits.join(u", "_s)));
   lines.append(u"  to %1"_s.arg(recipientsForLog(message)));
   if (!message.text.isEmpty()) lines.append(u"  text: %1"_s.arg(forLog(message.text)));
   if (!message.fileName.isEmpty())

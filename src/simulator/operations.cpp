@@ -34,20 +34,20 @@ const char* Operations::keep(const QString& text) {
   return kept_.emplace_back(wire.toUtf8()).constData();
 }
 
-ResultCode Operations::endSession(const std::string& token) {
+protocol::ResultCode Operations::endSession(const std::string& token) {
   const bool closed = state_.sessions.close(textOf(token), state_.now());
-  return closed ? ResultCode::Success : ResultCode::SessionExpired;
+  return closed ? protocol::ResultCode::Success : protocol::ResultCode::SessionExpired;
 }
 
 void Operations::handle(const protocol::sessionStart& request, protocol::sessionStartResponse& response) {
   if (const Account* owner = accountWithPassword(request.sUser, request.sPassword))
     response.sSession = keep(state_.sessions.open(owner->user, state_.now()));
   else
-    response.nErrorCode = numberOf(ResultCode::WrongCredentials);
+    response.nErrorCode = toNumber(protocol::ResultCode::WrongCredentials);
 }
 
 void Operations::handle(const protocol::sessionEnd& request, protocol::sessionEndResponse& response) {
-  response.nErrorCode = numberOf(endSession(request.sSession));
+  response.nErrorCode = toNumber(endSession(request.sSession));
 }
 
 void Operations::handle(const protocol::getVersion&, protocol::getVersionResponse& response) {

@@ -9,9 +9,9 @@
 #include <QStringList>
 
 #include "protocol/records.h"
+#include "protocol/result_code.h"
 #include "simulator/accepted_message.h"
 #include "simulator/gateway_state.h"
-#include "simulator/result_code.h"
 #include "simulator/simulator_options.h"
 
 namespace parlexo::simulator {
@@ -74,7 +74,7 @@ class Operations {
 
  private:
   struct Sending {
-    ResultCode code = ResultCode::Success;
+    protocol::ResultCode code = protocol::ResultCode::Success;
     QString receipts;
   };
 
@@ -84,10 +84,10 @@ class Operations {
                                                    const std::string& password) const;
   /// The account `user` when it belongs to the one of the session.
   [[nodiscard]] Account* subAccount(const Account& parent, const std::string& user);
-  [[nodiscard]] ResultCode check(const AcceptedMessage& message) const;
+  [[nodiscard]] protocol::ResultCode check(const AcceptedMessage& message) const;
   [[nodiscard]] Sending send(const std::string& token, AcceptedMessage message, const std::string& numbers);
   [[nodiscard]] std::int64_t costOf(const AcceptedMessage& message) const;
-  [[nodiscard]] ResultCode endSession(const std::string& token);
+  [[nodiscard]] protocol::ResultCode endSession(const std::string& token);
 
   GatewayState& state_;
   std::deque<QByteArray> kept_;
@@ -96,11 +96,6 @@ class Operations {
 
 /// Text of a request as characters.
 [[nodiscard]] QString textOf(const std::string& wire);
-
-/// The number that stands for `code` on the wire.
-[[nodiscard]] constexpr std::int32_t numberOf(ResultCode code) {
-  return static_cast<std::int32_t>(code);
-}
 
 /// Reads "YYYY/MM/DD hh:mm:ss" as a moment of GMT; invalid when it is anything else.
 [[nodiscard]] QDateTime readSchedule(const QString& text);

@@ -8,7 +8,7 @@ void Operations::handle(const protocol::getAccountBalance& request,
   if (const Account* owner = account(request.sSession))
     response.dValue = toAmount(owner->balanceCents);
   else
-    response.nErrorCode = numberOf(ResultCode::SessionExpired);
+    response.nErrorCode = toNumber(protocol::ResultCode::SessionExpired);
 }
 
 void Operations::handle(const protocol::getAccountHistory& request,
@@ -16,7 +16,7 @@ void Operations::handle(const protocol::getAccountHistory& request,
   if (const Account* owner = account(request.sSession))
     response.sXmlAccountHistory = keep(historyText(*owner));
   else
-    response.nErrorCode = numberOf(ResultCode::SessionExpired);
+    response.nErrorCode = toNumber(protocol::ResultCode::SessionExpired);
 }
 
 void Operations::handle(const protocol::setAccountPassword& request,
@@ -24,11 +24,11 @@ void Operations::handle(const protocol::setAccountPassword& request,
   Account* owner = account(request.sSession);
   const QString wanted = textOf(request.sNewPassword);
   if (!owner)
-    response.nErrorCode = numberOf(ResultCode::SessionExpired);
+    response.nErrorCode = toNumber(protocol::ResultCode::SessionExpired);
   else if (owner->password != textOf(request.sOldPassword))
-    response.nErrorCode = numberOf(ResultCode::WrongCredentials);
+    response.nErrorCode = toNumber(protocol::ResultCode::WrongCredentials);
   else if (!isAcceptablePassword(wanted))
-    response.nErrorCode = numberOf(ResultCode::WeakPassword);
+    response.nErrorCode = toNumber(protocol::ResultCode::WeakPassword);
   else
     owner->password = wanted;
 }
@@ -38,7 +38,7 @@ void Operations::handle(const protocol::getEmailMessaging& request,
   if (const Account* owner = account(request.sSession))
     writePreferences(owner->emailPreferences, response, *this);
   else
-    response.nErrorCode = numberOf(ResultCode::SessionExpired);
+    response.nErrorCode = toNumber(protocol::ResultCode::SessionExpired);
 }
 
 void Operations::handle(const protocol::editEmailMessaging& request,
@@ -47,9 +47,9 @@ void Operations::handle(const protocol::editEmailMessaging& request,
   EmailPreferences wanted = readPreferences(request);
   wanted.endAtDoubleLine = request.bEmailDoubleLine;
   if (!owner)
-    response.nErrorCode = numberOf(ResultCode::SessionExpired);
+    response.nErrorCode = toNumber(protocol::ResultCode::SessionExpired);
   else if (!areAcceptable(wanted))
-    response.nErrorCode = numberOf(ResultCode::BadEmailSettings);
+    response.nErrorCode = toNumber(protocol::ResultCode::BadEmailSettings);
   else
     owner->emailPreferences = wanted;
 }

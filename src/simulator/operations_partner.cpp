@@ -26,7 +26,7 @@ std::optional<MessageType> serviceNamed(const QString& word) {
   constexpr std::array types = {MessageType::Sms, MessageType::Mms, MessageType::Fax, MessageType::Wap,
                                 MessageType::Voice};
   const auto* found = std::find_if(types.begin(), types.end(), [&word](MessageType type) {
-    return wordFor(type).compare(word, Qt::CaseInsensitive) == 0;
+    return toWord(type).compare(word, Qt::CaseInsensitive) == 0;
   });
   return found == types.end() ? std::nullopt : std::optional<MessageType>(*found);
 }
@@ -56,10 +56,10 @@ void Operations::handle(const protocol::partnerAddUser& request, protocol::partn
   const Account* partner = account(request.sSession);
   const QString user = textOf(request.sUser);
   if (!partner)
-    response.nErrorCode = numberOf(ResultCode::SessionExpired);
+    response.nErrorCode = toNumber(protocol::ResultCode::SessionExpired);
   else if (!partner->parent.isEmpty() || !isUserName(user) ||
            !state_.accounts.addBelow(*partner, user, textOf(request.sEmail)))
-    response.nErrorCode = numberOf(ResultCode::BadUser);
+    response.nErrorCode = toNumber(protocol::ResultCode::BadUser);
 }
 
 void Operations::handle(const protocol::partnerEditUser& request,
@@ -67,9 +67,9 @@ void Operations::handle(const protocol::partnerEditUser& request,
   const Account* partner = account(request.sSession);
   Account* user = partner ? subAccount(*partner, request.sUser) : nullptr;
   if (!partner)
-    response.nErrorCode = numberOf(ResultCode::SessionExpired);
+    response.nErrorCode = toNumber(protocol::ResultCode::SessionExpired);
   else if (!user)
-    response.nErrorCode = numberOf(ResultCode::BadUser);
+    response.nErrorCode = toNumber(protocol::ResultCode::BadUser);
   else
     user->email = textOf(request.sEmail);
 }
@@ -79,9 +79,9 @@ void Operations::handle(const protocol::partnerAddEvent& request,
   const Account* partner = account(request.sSession);
   Account* user = partner ? subAccount(*partner, request.sUser) : nullptr;
   if (!partner) {
-    response.nErrorCode = numberOf(ResultCode::SessionExpired);
+    response.nErrorCode = toNumber(protocol::ResultCode::SessionExpired);
   } else if (!user) {
-    response.nErrorCode = numberOf(ResultCode::BadUser);
+    response.nErrorCode = toNumber(protocol::ResultCode::BadUser);
   } else {
     const QString description = u"%1 %2: %3"_s.arg(textOf(request.sEventType), textOf(request.sPackageType),
                                                    textOf(request.sDescription));
@@ -92,10 +92,10 @@ void Operations::handle(const protocol::partnerAddEvent& request,
 void Operations::handle(const protocol::partnerGetCostByCountry& request,
                         protocol::partnerGetCostByCountryResponse& response) {
   if (!account(request.sSession))
-    response.nErrorCode = numberOf(ResultCode::SessionExpired);
+    response.nErrorCode = toNumber(protocol::ResultCode::SessionExpired);
   else if (!countryNamed(textOf(request.sCountry)) ||
            !fillCosts(state_.options.tariff, request.sServiceType, response))
-    response.nErrorCode = numberOf(ResultCode::UnknownTariff);
+    response.nErrorCode = toNumber(protocol::ResultCode::UnknownTariff);
   else
     response.sNetworks = request.bMobileNumber ? "All mobile networks" : "All fixed networks";
 }
@@ -104,9 +104,9 @@ void Operations::handle(const protocol::partnerGetCostByPhoneNumber& request,
                         protocol::partnerGetCostByPhoneNumberResponse& response) {
   const std::optional<Country> country = countryOf(textOf(request.sPhoneNumber));
   if (!account(request.sSession)) {
-    response.nErrorCode = numberOf(ResultCode::SessionExpired);
+    response.nErrorCode = toNumber(protocol::ResultCode::SessionExpired);
   } else if (!country || !fillCosts(state_.options.tariff, request.sServiceType, response)) {
-    response.nErrorCode = numberOf(ResultCode::UnknownTariff);
+    response.nErrorCode = toNumber(protocol::ResultCode::UnknownTariff);
   } else {
     response.sCountry = keep(country->name);
     response.sNetworks = "All networks";
@@ -118,9 +118,9 @@ void Operations::handle(const protocol::partnerGetEmailMessaging& request,
   const Account* partner = account(request.sSession);
   const Account* user = partner ? subAccount(*partner, request.sUser) : nullptr;
   if (!partner)
-    response.nErrorCode = numberOf(ResultCode::SessionExpired);
+    response.nErrorCode = toNumber(protocol::ResultCode::SessionExpired);
   else if (!user)
-    response.nErrorCode = numberOf(ResultCode::BadUser);
+    response.nErrorCode = toNumber(protocol::ResultCode::BadUser);
   else
     writePreferences(user->emailPreferences, response, *this);
 }
@@ -132,11 +132,11 @@ void Operations::handle(const protocol::partnerEditEmailMessaging& request,
   EmailPreferences wanted = readPreferences(request);
   wanted.endAtDoubleLine = request.bEmailEndDoubleLine;
   if (!partner)
-    response.nErrorCode = numberOf(ResultCode::SessionExpired);
+    response.nErrorCode = toNumber(protocol::ResultCode::SessionExpired);
   else if (!user)
-    response.nErrorCode = numberOf(ResultCode::BadUser);
+    response.nErrorCode = toNumber(protocol::ResultCode::BadUser);
   else if (!areAcceptable(wanted))
-    response.nErrorCode = numberOf(ResultCode::BadEmailSettings);
+    response.nErrorCode = toNumber(protocol::ResultCode::BadEmailSettings);
   else
     user->emailPreferences = wanted;
 }
@@ -146,16 +146,16 @@ void Operations::handle(const protocol::partnerStartSessionForSubUser& request,
   const Account* partner = accountWithPassword(request.sUser, request.sPassword);
   const Account* user = partner ? subAccount(*partner, request.sSubUser) : nullptr;
   if (!partner)
-    response.nErrorCode = numberOf(ResultCode::WrongCredentials);
+    response.nErrorCode = toNumber(protocol::ResultCode::WrongCredentials);
   else if (!user)
-    response.nErrorCode = numberOf(ResultCode::BadUser);
+    response.nErrorCode = toNumber(protocol::ResultCode::BadUser);
   else
     response.sSession = keep(state_.sessions.open(user->user, state_.now()));
 }
 
 void Operations::handle(const protocol::partnerEndSessionForSubUser& request,
                         protocol::partnerEndSessionForSubUserResponse& response) {
-  response.nErrorCode = numberOf(endSession(request.sSession));
+  response.nErrorCode = toNumber(endSession(request.sSession));
 }
 
 }  // namespace parlexo::simulator

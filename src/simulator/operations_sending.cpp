@@ -53,7 +53,7 @@ QString joinReceipts(const AcceptedMessage& message) {
 QString historyNote(const AcceptedMessage& message) {
   const qsizetype count = message.numbers.size();
   const QString form = count == 1 ? u"%1 to %2 number"_s : u"%1 to %2 numbers"_s;
-  return form.arg(wordFor(message.type)).arg(count);
+  return form.arg(toWord(message.type)).arg(count);
 }
 
 bool needsText(MessageType type, bool hasFile) {
@@ -127,26 +127,26 @@ std::int64_t Operations::costOf(const AcceptedMessage& message) const {
   return priceOf(state_.options.tariff, message.type) * message.parts * delivered;
 }
 
-ResultCode Operations::check(const AcceptedMessage& message) const {
+protocol::ResultCode Operations::check(const AcceptedMessage& message) const {
   const bool hasFile = needsFile(message);
-  if (!hasFile && message.text.isEmpty()) return ResultCode::EmptyMessage;
-  if (isTextTooLong(message)) return ResultCode::MessageTooLong;
+  if (!hasFile && message.text.isEmpty()) return protocol::ResultCode::EmptyMessage;
+  if (isTextTooLong(message)) return protocol::ResultCode::MessageTooLong;
   const bool goodFile = !message.fileName.isEmpty() && message.fileSize > 0 &&
                         message.fileSize <= fileLimit(state_.options, message.type);
-  if (hasFile && !goodFile) return ResultCode::BadFile;
-  return message.numbers.isEmpty() ? ResultCode::NoRecipients : ResultCode::Success;
+  if (hasFile && !goodFile) return protocol::ResultCode::BadFile;
+  return message.numbers.isEmpty() ? protocol::ResultCode::NoRecipients : protocol::ResultCode::Success;
 }
 
 Operations::Sending Operations::send(const std::string& token, AcceptedMessage message,
                                      const std::string& numbers) {
   Session* open = session(token);
   Account* account = open ? state_.accounts.find(open->user) : nullptr;
-  if (!account) return {ResultCode::SessionExpired, {}};
+  if (!account) return {protocol::ResultCode::SessionExpired, {}};
   message.numbers = splitNumbers(numbers);
-  const ResultCode checked = check(message);
-  if (checked != ResultCode::Success) return {checked, {}};
+  const protocol::ResultCode checked = check(message);
+  if (checked != protocol::ResultCode::Success) return {checked, {}};
   message.costCents = costOf(message);
-  if (message.costCents > account->balanceCents) return {ResultCode::BalanceTooLow, {}};
+  if (message.costCents > account->balanceCents) return {protocol::ResultCode::BalanceTooLow, {}};
 
   message.user = account->user;
   message.time = state_.now();
@@ -155,14 +155,14 @@ Operations::Sending Operations::send(const std::string& token, AcceptedMessage m
   const AcceptedMessage& taken = state_.outbox.take(std::move(message), isUndeliverable);
   state_.accounts.post(*account, -taken.costCents, taken.time, historyNote(taken));
   remarks_ = remarksOn(taken);
-  return {ResultCode::Success, joinReceipts(taken)};
+  return {protocol::ResultCode::Success, joinReceipts(taken)};
 }
 
 namespace {
 
 template <class Sending, class Response>
 void report(const Sending& sending, Response& response, const char* receipts) {
-  response.nErrorCode = numberOf(sending.code);
+  response.nErrorCode = toNumber(sending.code);
   response.sListReciepts = receipts;
 }
 
@@ -216,27 +216,27 @@ void Operations::handle(const protocol::sendVoice_File& request, protocol::sendV
 void Operations::handle(const protocol::getStatus& request, protocol::getStatusResponse& response) {
   const Account* owner = account(request.sSession);
   if (!owner) {
-    response.nErrorCode = numberOf(ResultCode::SessionExpired);
+    response.nErrorCode = toNumber(protocol::ResultCode::SessionExpired);
     return;
   }
   const auto state = state_.outbox.state(owner->user, textOf(request.sReciept), state_.now());
   if (state)
     response.sStatus = keep(*state);
   else
-    response.nErrorCode = numberOf(ResultCode::UnknownReceipt);
+    response.nErrorCode = toNumber(protocol::ResultCode::UnknownReceipt);
 }
 
 void Operations::handle(const protocol::scheduleMessageEnable& request,
                         protocol::scheduleMessageEnableResponse& response) {
   Session* open = session(request.sSession);
   if (!open) {
-    response.nErrorCode = numberOf(ResultCode::SessionExpired);
+    response.nErrorCode = toNumber(protocol::ResultCode::SessionExpired);
     return;
   }
   const QDateTime time = readSchedule(textOf(request.sDateTimeGmt));
   const QDateTime latest = state_.now().addDays(state_.options.scheduleDaysAhead);
   if (!time.isValid() || time > latest) {
-    response.nErrorCode = numberOf(ResultCode::BadSchedule);
+    response.nErrorCode = toNumber(protocol::ResultCode::BadSchedule);
     return;
   }
   open->schedule = time;
@@ -248,7 +248,7 @@ void Operations::handle(const protocol::scheduleMessageDisable& request,
   if (open)
     open->schedule.reset();
   else
-    response.nErrorCode = numberOf(ResultCode::SessionExpired);
+    response.nErrorCode = toNumber(protocol::ResultCode::SessionExpired);
 }
 
 void Operations::handle(const protocol::setSmsSenderId& request, protocol::setSmsSenderIdResponse& response) {
@@ -256,9 +256,9 @@ void Operations::handle(const protocol::setSmsSenderId& request, protocol::setSm
   const Account* owner = open ? state_.accounts.find(open->user) : nullptr;
   const QString senderId = textOf(request.sSenderId);
   if (!owner)
-    response.nErrorCode = numberOf(ResultCode::SessionExpired);
+    response.nErrorCode = toNumber(protocol::ResultCode::SessionExpired);
   else if (!owner->maySetSenderId || !isSenderId(senderId))
-    response.nErrorCode = numberOf(ResultCode::SenderIdRefused);
+    response.nErrorCode = toNumber(protocol::ResultCode::SenderIdRefused);
   else
     open->senderId = senderId;
 }

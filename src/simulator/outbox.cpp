@@ -16,22 +16,6 @@ const QString delivered = u"Delivered to handset"_s;
 
 }  // namespace
 
-QString wordFor(MessageType type) {
-  switch (type) {
-    case MessageType::Sms:
-      return u"SMS"_s;
-    case MessageType::Mms:
-      return u"MMS"_s;
-    case MessageType::Fax:
-      return u"Fax"_s;
-    case MessageType::Wap:
-      return u"WAP"_s;
-    case MessageType::Voice:
-      return u"Voice"_s;
-  }
-  return {};
-}
-
 Outbox::Outbox(std::chrono::milliseconds deliveryStep, const QDateTime& started)
     : deliveryStep_(deliveryStep),
       receiptPrefix_(QString::number(started.toSecsSinceEpoch(), 16).toUpper()) {}

@@ -192,10 +192,7 @@ TEST_F(ProxiedRun, proxyWithoutALoginCarriesTheCallsThatTheSettingsSendThroughIt
     EXPECT_EQ(state.proxy.host.isEmpty(), !excepted.isEmpty());
     open.setAnswer(testing::httpReply(
         testing::envelope("<m:getVersionResponse><nVersion>103</nVersion></m:getVersionResponse>")));
-    const auto reply = gateway.call<protocol::getVersionResponse>(
-        [](GatewayClient& client, protocol::getVersionResponse& response) {
-          return client.getVersion(response);
-        });
+    const auto reply = gateway.call<&GatewayClient::getVersion>();
     EXPECT_EQ(reply.answered(), excepted.isEmpty());
     const std::string call = "POST http://gateway.invalid:8080/ccx/onlineCommunication HTTP/1.1\r\n";
     EXPECT_EQ(open.lastRequest().starts_with(call), excepted.isEmpty());
@@ -209,10 +206,7 @@ TEST_F(ProxiedRun, proxyThatIsGoneFailsTheSearchAndEveryCall) {
   proxy.stop();
   EXPECT_FALSE(search());
   EXPECT_EQ(journal, asked);
-  const auto reply = gateway.call<protocol::getVersionResponse>(
-      [](GatewayClient& client, protocol::getVersionResponse& response) {
-        return client.getVersion(response);
-      });
+  const auto reply = gateway.call<&GatewayClient::getVersion>();
   EXPECT_FALSE(reply.answered());
   EXPECT_THAT(simulator.calledOperations(), ElementsAre(u"locator"_s));
 }

@@ -91,7 +91,7 @@ TYPED_TEST(FilePages, clearThemselvesAfterASendThatSucceededAndOnlyThen) {
   EXPECT_EQ(this->page.draft().path, "");
   EXPECT_EQ(this->page.draft().note, "");
   EXPECT_EQ(this->page.draft().displayList, "");
-  EXPECT_EQ(wordFor(this->simulator.messages().at(0).type), this->page.typeWord());
+  EXPECT_EQ(toWord(this->simulator.messages().at(0).type), this->page.typeWord());
 }
 
 TYPED_TEST(FilePages, aRefusalLeadsToItsField) {

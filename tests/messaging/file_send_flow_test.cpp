@@ -109,7 +109,7 @@ TEST_P(FileSending, acceptedFileArrivesByteForByteAndIsLogged) {
   EXPECT_EQ(operations(), expected);
 
   const simulator::AcceptedMessage message = simulator.messages().at(0);
-  EXPECT_EQ(wordFor(message.type), GetParam().typeWord);
+  EXPECT_EQ(toWord(message.type), GetParam().typeWord);
   EXPECT_EQ(message.fileName, QString::fromUtf8("Gr\u00FC\u00DFe ?.jpg"));
   EXPECT_EQ(message.fileSha256, QCryptographicHash::hash(bytes, QCryptographicHash::Sha256).toHex());
   EXPECT_EQ(message.text, GetParam().kind == FileKind::Fax ? QString() : draft.note);
@@ -127,7 +127,7 @@ TEST_P(FileSending, messagesAfterTheSendAreTheKindsOwn) {
   EXPECT_EQ(send(draft), SendOutcome::NotSent);
   simulator.clearFaults();
   misbehave(FaultKind::Close, QString::fromLatin1(GetParam().operation));
-  EXPECT_EQ(send(draft), SendOutcome::Unanswered);
+  EXPECT_EQ(send(draft), SendOutcome::OutcomeUnknown);
   EXPECT_THAT(notifier.takeTexts(),
               ElementsAre(GetParam().warning, GetParam().refused, GetParam().unreached));
   EXPECT_EQ(operations().count(QString::fromLatin1(GetParam().operation)), 3);

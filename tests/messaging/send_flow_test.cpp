@@ -129,11 +129,11 @@ TEST_F(SmsSending, failureIsToldOnceAndNeverSentTwice) {
     SendOutcome outcome;
     const char* message;
   } failures[] = {
-      {FaultKind::Close, 0, 1, SendOutcome::Unanswered, unreachable},
-      {FaultKind::Cut, 0, 1, SendOutcome::Unanswered, unreachable},
-      {FaultKind::Late, 2500, 1, SendOutcome::Unanswered, unreachable},
+      {FaultKind::Close, 0, 1, SendOutcome::OutcomeUnknown, unreachable},
+      {FaultKind::Cut, 0, 1, SendOutcome::OutcomeUnknown, unreachable},
+      {FaultKind::Late, 2500, 1, SendOutcome::OutcomeUnknown, unreachable},
       {FaultKind::HttpError, 0, 0, SendOutcome::NotSent, unreachable},
-      {FaultKind::NotXml, 0, 0, SendOutcome::Unanswered, unreachable},
+      {FaultKind::NotXml, 0, 0, SendOutcome::OutcomeUnknown, unreachable},
       {FaultKind::SoapFault, 0, 0, SendOutcome::NotSent, unreachable},
       {FaultKind::Code, 12, 0, SendOutcome::NotSent,
        "An error occured while sending your message.\r\nError code: 12"},
@@ -204,7 +204,7 @@ TEST_F(SmsSending, cancellingAnyCallEndsTheSend) {
        "0",
        SendOutcome::NotSent, 0},
       {3, "setSmsSenderId", unreachable, SendOutcome::NotSent, 0},
-      {4, "sendSms", unreachable, SendOutcome::Unanswered, 1},
+      {4, "sendSms", unreachable, SendOutcome::OutcomeUnknown, 1},
   };
   state.senderId = u"+61491570999"_s;
   for (const auto& sample : samples) {

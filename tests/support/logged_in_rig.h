@@ -33,7 +33,7 @@ class ImpatientRunner final : public CallRunner {
     after_ = after;
   }
 
-  [[nodiscard]] bool run(Exchange exchange) override {
+  [[nodiscard]] bool run(Task task) override {
     if (onRun) onRun();
     const CancelFlag flag;
     std::thread user;
@@ -43,7 +43,7 @@ class ImpatientRunner final : public CallRunner {
         flag.raise();
       });
     }
-    exchange(flag);
+    task(flag);
     if (user.joinable()) user.join();
     return true;
   }
@@ -67,10 +67,8 @@ class LoggedInRig {
   }
 
   void logIn() {
-    const auto reply = gateway.call<protocol::sessionStartResponse>(
-        [](GatewayClient& client, protocol::sessionStartResponse& response) {
-          return client.sessionStart("demo", "demo1234", response);
-        });
+    const auto reply =
+        gateway.call<&GatewayClient::sessionStart>(std::string("demo"), std::string("demo1234"));
     if (!reply.answered() || reply->nErrorCode != 0) qFatal("the simulator refuses the log-in");
     state.session = fromWire(reply->sSession);
   }

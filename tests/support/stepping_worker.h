@@ -9,7 +9,7 @@ namespace parlexo {
 /// Runs an exchange only when the test says so, on the calling thread.
 class SteppingWorker final : public BackgroundWorker {
  public:
-  void start(CallRunner::Exchange exchange, std::function<void()> onEnd) override {
+  void start(CallRunner::Task exchange, std::function<void()> onEnd) override {
     exchange_ = std::move(exchange);
     onEnd_ = std::move(onEnd);
     cancel_ = CancelFlag();
@@ -26,7 +26,7 @@ class SteppingWorker final : public BackgroundWorker {
   }
 
  private:
-  CallRunner::Exchange exchange_;
+  CallRunner::Task exchange_;
   std::function<void()> onEnd_;
   CancelFlag cancel_;
 };

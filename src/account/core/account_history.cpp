@@ -23,11 +23,7 @@ HistoryRecord parseRecord(const QString& record) {
 
 auto askForHistory(const AccountServices& services) {
   const ProgressScope box(services.progress);
-  return services.gateway.call<protocol::getAccountHistoryResponse>(
-      [session = toWire(services.state.session)](GatewayClient& client,
-                                                 protocol::getAccountHistoryResponse& response) {
-        return client.getAccountHistory(session, response);
-      });
+  return services.gateway.call<&GatewayClient::getAccountHistory>(services.state.session);
 }
 
 }  // namespace

@@ -4,14 +4,13 @@
 #include "base/progress.h"
 #include "base/run_state.h"
 #include "connection/client/gateway.h"
+#include "protocol/result_code.h"
 
 namespace parlexo {
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-constexpr int badEmailSettingsCode = 2;
 
 EmailPreferences fromResponse(const protocol::getEmailMessagingResponse& response) {
   return {.isEnabled = response.bEmailEnable,
@@ -27,11 +26,7 @@ EmailPreferences fromResponse(const protocol::getEmailMessagingResponse& respons
 }  // namespace
 
 std::optional<EmailPreferences> EmailPreferencesFlow::load() const {
-  const auto reply = services_.gateway.call<protocol::getEmailMessagingResponse>(
-      [session = toWire(services_.state.session)](GatewayClient& client,
-                                                  protocol::getEmailMessagingResponse& response) {
-        return client.getEmailMessaging(session, response);
-      });
+  const auto reply = services_.gateway.call<&GatewayClient::getEmailMessaging>(services_.state.session);
   if (!reply.answered() || reply->nErrorCode != 0) return std::nullopt;
   return fromResponse(*reply);
 }
@@ -56,17 +51,12 @@ EmailSaveOutcome EmailPreferencesFlow::save(const EmailPreferences& preferences)
 
 EmailSaveOutcome EmailPreferencesFlow::ask(const EmailPreferences& preferences) const {
   const ProgressScope box(services_.progress);
-  const auto reply = services_.gateway.call<protocol::editEmailMessagingResponse>(
-      [session = toWire(services_.state.session), wanted = preferences](
-          GatewayClient& client, protocol::editEmailMessagingResponse& response) {
-        const auto& [first, second, third] = wanted.addresses;
-        return client.editEmailMessaging(session, wanted.isEnabled, toWire(wanted.identityCode),
-                                         wanted.isFiltered, toWire(first), toWire(second), toWire(third),
-                                         wanted.splitsLongSms, wanted.stopsAtEndKeyword,
-                                         wanted.stopsAtDoubleLine, response);
-      });
+  const auto& [first, second, third] = preferences.addresses;
+  const auto reply = services_.gateway.call<&GatewayClient::editEmailMessaging>(
+      services_.state.session, preferences.isEnabled, preferences.identityCode, preferences.isFiltered, first,
+      second, third, preferences.splitsLongSms, preferences.stopsAtEndKeyword, preferences.stopsAtDoubleLine);
   if (!reply.answered()) return EmailSaveOutcome::Failed;
-  if (reply->nErrorCode == badEmailSettingsCode) return EmailSaveOutcome::Incomplete;
+  if (reply->nErrorCode == protocol::ResultCode::BadEmailSettings) return EmailSaveOutcome::Incomplete;
   return reply->nErrorCode == 0 ? EmailSaveOutcome::Saved : EmailSaveOutcome::Failed;
 }
 

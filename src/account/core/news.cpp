@@ -40,10 +40,8 @@ void append(std::vector<NewsPart>& parts, const QString& text, const QUrl& page 
 
 void fetchNews(const BackgroundGateway& gateway, QObject& context,
                std::function<void(const QString& news)> show) {
-  gateway.call<protocol::getNewsResponse>(
-      context,
-      [](GatewayClient& client, protocol::getNewsResponse& response) { return client.getNews(response); },
-      [show = std::move(show)](const Reply<protocol::getNewsResponse>& reply) {
+  gateway.call<&GatewayClient::getNews>(
+      context, [show = std::move(show)](const Reply<protocol::getNewsResponse>& reply) {
         if (reply.answered() && reply->nErrorCode == 0) show(fromWire(reply->sNews));
       });
 }

@@ -20,8 +20,9 @@ constexpr std::size_t shortestPassword = 6;  // bytes
 constexpr std::size_t longestPassword = 10;
 
 bool hasPasswordLength(const QString& password) {
-  const auto bytes = secretToWire(password);
-  return bytes->size() >= shortestPassword && bytes->size() <= longestPassword;
+  const Secret secret(password);
+  const std::string& bytes = secret;
+  return bytes.size() >= shortestPassword && bytes.size() <= longestPassword;
 }
 
 bool hasLetterAndDigit(const QString& password) {
@@ -73,12 +74,8 @@ std::optional<PasswordField> PasswordChangeFlow::change(const PasswordDraft& dra
 
 PasswordChangeFlow::Answer PasswordChangeFlow::ask(const PasswordDraft& draft) const {
   const ProgressScope box(services_.progress);
-  const auto reply = services_.gateway.call<protocol::setAccountPasswordResponse>(
-      [session = toWire(services_.state.session), oldPassword = secretToWire(draft.oldPassword),
-       newPassword = secretToWire(draft.newPassword)](GatewayClient& client,
-                                                      protocol::setAccountPasswordResponse& response) {
-        return client.setAccountPassword(session, *oldPassword, *newPassword, response);
-      });
+  const auto reply = services_.gateway.call<&GatewayClient::setAccountPassword>(
+      services_.state.session, Secret(draft.oldPassword), Secret(draft.newPassword));
   return {reply.answered(), reply->nErrorCode};
 }
 

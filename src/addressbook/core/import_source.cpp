@@ -126,7 +126,7 @@ void ImportSource::readText(int maxRows) {
   text_ = std::move(reading->sheet);
 }
 
-void ImportSource::run(const CallRunner::Exchange& reading) {
+void ImportSource::run(const CallRunner::Task& reading) {
   problem_.clear();
   const LateBox box(progress_);
   if (!runner_.run(reading)) problem_ = u"The file could not be read."_s;

@@ -51,7 +51,7 @@ class ImportSource {
   struct Opening;
 
   void readText(int maxRows);
-  void run(const CallRunner::Exchange& reading);
+  void run(const CallRunner::Task& reading);
 
   CallRunner& runner_;
   Progress& progress_;

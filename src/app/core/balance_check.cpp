@@ -38,11 +38,7 @@ QString BalanceCheck::take(double balance) {
 }
 
 std::optional<double> BalanceCheck::query() {
-  const auto reply = gateway_.call<protocol::getAccountBalanceResponse>(
-      [session = toWire(state_.session)](GatewayClient& client,
-                                         protocol::getAccountBalanceResponse& response) {
-        return client.getAccountBalance(session, response);
-      });
+  const auto reply = gateway_.call<&GatewayClient::getAccountBalance>(state_.session);
   if (!reply.answered()) {
     progress_.hide();
     notifier_.error(text(TextId::GatewayUnreachable));

@@ -9,9 +9,9 @@ namespace parlexo {
 
 /// What the user asked for on the command line.
 struct ProgramOptions {
-  bool demo = false;   ///< run against a gateway simulator inside the process
-  QString site;        ///< "http://HOST:PORT" of the locator's document; empty for the service's own
-  QString dataDir;     ///< absolute folder for all files of this run; empty for the user's own
+  bool demo = false;  ///< run against a gateway simulator inside the process
+  QString site;       ///< "http://HOST:PORT" of the locator's document; empty for the service's own
+  QString dataDir;    ///< absolute folder for all files of this run; empty for the user's own
 };
 
 /// The program ends at once: with `output` on standard output when `exitCode` is 0, on standard error

@@ -2,21 +2,14 @@
 
 #include "base/message_texts.h"
 #include "base/secret.h"
+#include "protocol/result_code.h"
 
 namespace parlexo {
 
 using namespace Qt::StringLiterals;
 
-namespace {
-constexpr int wrongCredentials = 4;
-}
-
 LoginOutcome LoginFlow::attempt(const QString& user, const QString& password) {
-  const auto reply = gateway_.call<protocol::sessionStartResponse>(
-      [user = toWire(user), password = secretToWire(password)](GatewayClient& client,
-                                                               protocol::sessionStartResponse& response) {
-        return client.sessionStart(user, *password, response);
-      });
+  const auto reply = gateway_.call<&GatewayClient::sessionStart>(user, Secret(password));
   if (!reply.answered()) {
     notifier_.error(text(TextId::GatewayUnreachable));
     return LoginOutcome::Refused;
@@ -30,7 +23,7 @@ LoginOutcome LoginFlow::attempt(const QString& user, const QString& password) {
 }
 
 void LoginFlow::showRefusal(int errorCode) {
-  if (errorCode == wrongCredentials)
+  if (errorCode == protocol::ResultCode::WrongCredentials)
     notifier_.error(u"Invalid Username or Password. Passwords are case sensitive"_s);
   else
     notifier_.error(withNumber(u"An error occured while logging on. Error code: %d"_s, errorCode));

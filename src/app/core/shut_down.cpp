@@ -20,10 +20,7 @@ void endSession(const RunState& state, CallRunner& runner) {
   RunState direct = state;
   direct.proxy = {};
   const Gateway gateway(direct, runner, atExit);
-  (void)gateway.call<protocol::sessionEndResponse>(
-      [session = toWire(state.session)](GatewayClient& client, protocol::sessionEndResponse& response) {
-        return client.sessionEnd(session, response);
-      });
+  (void)gateway.call<&GatewayClient::sessionEnd>(state.session);
 }
 
 }  // namespace parlexo

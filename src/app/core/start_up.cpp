@@ -43,10 +43,7 @@ bool StartUp::reachGateway() {
 }
 
 bool StartUp::gatewaySpeaksOurProtocol() {
-  const auto reply = parts_.gateway.call<protocol::getVersionResponse>(
-      [](GatewayClient& client, protocol::getVersionResponse& response) {
-        return client.getVersion(response);
-      });
+  const auto reply = parts_.gateway.call<&GatewayClient::getVersion>();
   if (reply.answered() && reply->nVersion == protocolVersion) return true;
   parts_.progress.hide();
   if (reply.answered())

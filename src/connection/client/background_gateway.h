@@ -40,20 +40,21 @@ class BackgroundGateway {
                     const GatewayTimeouts& timeouts = {.whole = timeouts::background})
       : state_(state), runner_(runner), timeouts_(timeouts) {}
 
-  /// Queues `operation(client, response)`, which calls one method of the client and returns its result. It
-  /// may run several times, on another thread, and must own what it captures. `receive(reply)` is called on
-  /// the interface thread, with failures too: nothing is shown for them here, and a code 7 must not open the
+  /// Queues a call of `method` of GatewayClient with `arguments`, its parameters without the response; text
+  /// may be given as QString. It may run several times, on another thread. `receive(reply)` is called on the
+  /// interface thread, with failures too: nothing is shown for them here, and a code 7 must not open the
   /// login. It is not called after `context` was destroyed, nor for an answer that belongs to a session when
   /// user or session have changed since.
-  template <class Response, class Operation, class Receive>
-  void call(QObject& context, Operation operation, Receive receive) const {
+  template <auto method, class Receive, class... Arguments>
+  void call(QObject& context, Receive receive, const Arguments&... arguments) const {
+    using Response = ResponseOf<method>;
     auto reply = std::make_shared<Reply<Response>>();
     // Each run works on a copy of the state, because the interface thread may change the original.
-    auto exchange = [reply, operation, state = state_, timeouts = timeouts_](const CancelFlag& cancel) {
+    auto task = [reply, state = state_, timeouts = timeouts_, arguments...](const CancelFlag& cancel) {
       OnThisThread runner(cancel);
-      *reply = Gateway(state, runner, timeouts).template call<Response>(operation);
+      *reply = Gateway(state, runner, timeouts).template call<method>(arguments...);
     };
-    runner_.add({std::move(exchange), [reply, receive] { receive(std::as_const(*reply)); },
+    runner_.add({std::move(task), [reply, receive] { receive(std::as_const(*reply)); },
                  stillApplies(context, BackgroundQuery<Response>::needsSession)});
   }
 
@@ -62,8 +63,8 @@ class BackgroundGateway {
    public:
     explicit OnThisThread(const CancelFlag& cancel) : cancel_(cancel) {}
 
-    [[nodiscard]] bool run(Exchange exchange) override {
-      exchange(cancel_);
+    [[nodiscard]] bool run(Task task) override {
+      task(cancel_);
       return true;
     }
 

@@ -13,12 +13,12 @@ constexpr int maxRepeats = 3;
 ThreadBackgroundWorker::ThreadBackgroundWorker() = default;
 ThreadBackgroundWorker::~ThreadBackgroundWorker() = default;
 
-void ThreadBackgroundWorker::start(CallRunner::Exchange exchange, std::function<void()> onEnd) {
+void ThreadBackgroundWorker::start(CallRunner::Task task, std::function<void()> onEnd) {
   // Destroying the thread object stops it from posting, destroying the receiver drops what was posted.
   const auto post = [this, onEnd = std::move(onEnd)] {
     QMetaObject::invokeMethod(&receiver_, onEnd, Qt::QueuedConnection);
   };
-  thread_ = std::make_unique<TaskThread>(std::move(exchange), post);
+  thread_ = std::make_unique<TaskThread>(std::move(task), post);
 }
 
 void ThreadBackgroundWorker::cancel() {
@@ -61,7 +61,7 @@ void BackgroundQueue::startNext() {
   while (!entries_.empty() && !entries_.front().task.isWanted()) entries_.pop_front();
   if (entries_.empty()) return;
   front_ = Front::Running;
-  worker_->start(entries_.front().task.exchange, [this] { finish(); });
+  worker_->start(entries_.front().task.task, [this] { finish(); });
 }
 
 void BackgroundQueue::finish() {

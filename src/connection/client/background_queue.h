@@ -15,15 +15,15 @@ namespace parlexo {
 
 class TaskThread;
 
-/// Runs one exchange at a time for a BackgroundQueue. All functions belong to the interface thread.
+/// Runs one task at a time for a BackgroundQueue. All functions belong to the interface thread.
 class BackgroundWorker {
  public:
   virtual ~BackgroundWorker() = default;
 
-  /// Starts `exchange`; there is none under way. `onEnd` is called once on the interface thread, from the
-  /// event loop, after the exchange has ended, unless the worker is destroyed first.
-  virtual void start(CallRunner::Exchange exchange, std::function<void()> onEnd) = 0;
-  /// Raises the cancel flag of the exchange under way.
+  /// Starts `task`; there is none under way. `onEnd` is called once on the interface thread, from the
+  /// event loop, after the task has ended, unless the worker is destroyed first.
+  virtual void start(CallRunner::Task task, std::function<void()> onEnd) = 0;
+  /// Raises the cancel flag of the task under way.
   virtual void cancel() = 0;
 
  protected:
@@ -32,13 +32,13 @@ class BackgroundWorker {
   BackgroundWorker& operator=(const BackgroundWorker&) = default;
 };
 
-/// Runs each exchange on a new thread. Its destructor cancels the one under way and waits at most 500 ms.
+/// Runs each task on a new thread. Its destructor cancels the one under way and waits at most 500 ms.
 class ThreadBackgroundWorker final : public BackgroundWorker {
  public:
   ThreadBackgroundWorker();
   ~ThreadBackgroundWorker() override;
 
-  void start(CallRunner::Exchange exchange, std::function<void()> onEnd) override;
+  void start(CallRunner::Task task, std::function<void()> onEnd) override;
   void cancel() override;
 
  private:

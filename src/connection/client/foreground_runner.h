@@ -14,9 +14,9 @@ class ForegroundRunner final : public CallRunner {
   ForegroundRunner(CallRunner& runner, BackgroundRunner& background)
       : runner_(runner), background_(background) {}
 
-  [[nodiscard]] bool run(Exchange exchange) override {
+  [[nodiscard]] bool run(Task task) override {
     const Pause pause(background_);
-    return runner_.run(std::move(exchange));
+    return runner_.run(std::move(task));
   }
 
  private:

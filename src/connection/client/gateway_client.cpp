@@ -68,7 +68,7 @@ int GatewayClient::call(Request&& request, Response& response) {
   response = Response{};
   if (!soap) return noContext;
   if (whole_) patience_.deadline = std::chrono::steady_clock::now() + *whole_;
-  return protocol::call(soap, endpoint, request, response, &isOutcomeOpen_, &requestLength_);
+  return protocol::call(soap, endpoint, request, response, &outcomeUnknown_, &requestLength_);
 }
 
 int GatewayClient::sessionStart(const std::string& sUser, const std::string& sPassword,

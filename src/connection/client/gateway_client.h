@@ -35,7 +35,7 @@ class GatewayClient {
 
   /// Whether a request has gone out whole and no reply has told what became of it: the gateway may have
   /// carried it out. Any thread may ask, also during a call.
-  [[nodiscard]] bool isOutcomeOpen() const { return isOutcomeOpen_; }
+  [[nodiscard]] bool outcomeUnknown() const { return outcomeUnknown_; }
 
   // One method per operation, in the contract's order: the request's fields, then the response. Each returns
   // the runtime's result: 0 when a well-formed response was read, 16 when there is no context (nothing is
@@ -122,7 +122,7 @@ class GatewayClient {
 
   protocol::IoPatience patience_;
   std::optional<std::chrono::milliseconds> whole_;
-  std::atomic<bool> isOutcomeOpen_ = false;
+  std::atomic<bool> outcomeUnknown_ = false;
   std::size_t requestLength_ = 0;
 };
 

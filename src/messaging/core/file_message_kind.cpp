@@ -6,35 +6,23 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-template <class Response>
-SendReply callWithFile(const Gateway& gateway, const FileParcel& parcel,
-                       int (*operation)(GatewayClient&, const FileParcel&, Response&)) {
-  const auto reply = gateway.call<Response>([parcel, operation](GatewayClient& client, Response& response) {
-    client.follow(parcel.transfer);
-    return operation(client, parcel, response);
-  });
-  return {reply.answered(), reply->nErrorCode, fromWire(reply->sListReciepts), reply.leftInTheDark()};
+SendReply toSendReply(const auto& reply) {
+  return {reply.answered(), reply->nErrorCode, fromWire(reply->sListReciepts), reply.outcomeUnknown()};
 }
 
-SendReply sendFax(const Gateway& gateway, const FileParcel& parcel) {
-  return callWithFile<protocol::sendFaxResponse>(
-      gateway, parcel, [](GatewayClient& client, const FileParcel& fax, protocol::sendFaxResponse& response) {
-        return client.sendFax(fax.session, fax.fileName, fax.data(), fax.numbers, response);
-      });
+SendReply sendFax(const Gateway& gateway, const FileParcel& fax) {
+  return toSendReply(
+      gateway.call<&GatewayClient::sendFax>(fax.session, fax.fileName, fax.upload, fax.numbers));
 }
 
-SendReply sendMms(const Gateway& gateway, const FileParcel& parcel) {
-  return callWithFile<protocol::sendMmsResponse>(
-      gateway, parcel, [](GatewayClient& client, const FileParcel& mms, protocol::sendMmsResponse& response) {
-        return client.sendMms(mms.session, mms.note, mms.fileName, mms.data(), mms.numbers, response);
-      });
+SendReply sendMms(const Gateway& gateway, const FileParcel& mms) {
+  return toSendReply(
+      gateway.call<&GatewayClient::sendMms>(mms.session, mms.note, mms.fileName, mms.upload, mms.numbers));
 }
 
-SendReply sendWap(const Gateway& gateway, const FileParcel& parcel) {
-  return callWithFile<protocol::sendWapResponse>(
-      gateway, parcel, [](GatewayClient& client, const FileParcel& wap, protocol::sendWapResponse& response) {
-        return client.sendWap(wap.session, wap.note, wap.fileName, wap.data(), wap.numbers, response);
-      });
+SendReply sendWap(const Gateway& gateway, const FileParcel& wap) {
+  return toSendReply(
+      gateway.call<&GatewayClient::sendWap>(wap.session, wap.note, wap.fileName, wap.upload, wap.numbers));
 }
 
 }  // namespace

@@ -20,18 +20,13 @@ enum class FileKind { Fax, Mms, Wap };
 inline constexpr int longestWapNote = 120;
 inline constexpr int longestMmsDescription = 10240;
 
-/// What a send operation takes, in the bytes of the wire.
+/// What a send operation takes.
 struct FileParcel {
-  std::string session;
-  std::string note;  ///< the description of an MMS, the note of a WAP push
-  std::string fileName;
-  FileBytes bytes;
-  std::string numbers;
-  Transfer transfer;  ///< follows the file on its way out
-
-  [[nodiscard]] protocol::BinaryData data() const {
-    return {reinterpret_cast<const unsigned char*>(bytes->data()), static_cast<std::int32_t>(bytes->size())};
-  }
+  QString session;
+  QString note;  ///< the description of an MMS, the note of a WAP push
+  QString fileName;
+  FileUpload upload;
+  QString numbers;
 };
 
 /// In what the kinds differ on their way out.

@@ -20,8 +20,8 @@ SendOutcome FileSendFlow::send(const FileDraft& draft) const {
   return flow_.deliver(draft.numbersList, [&](const QString& session) {
     const Transfer transfer(file.length());
     services_.progress.follow(transfer);
-    return kind_.operation(services_.gateway, {toWire(session), toWire(draft.note), toWire(file.name()),
-                                               bytes, toWire(draft.numbersList), transfer});
+    return kind_.operation(services_.gateway,
+                           {session, draft.note, file.name(), {bytes, transfer}, draft.numbersList});
   });
 }
 

@@ -10,11 +10,7 @@ namespace parlexo {
 namespace {
 
 bool cancelSchedule(const MessagingServices& services) {
-  const auto reply = services.gateway.call<protocol::scheduleMessageDisableResponse>(
-      [session = toWire(services.state.session)](GatewayClient& client,
-                                                 protocol::scheduleMessageDisableResponse& response) {
-        return client.scheduleMessageDisable(session, response);
-      });
+  const auto reply = services.gateway.call<&GatewayClient::scheduleMessageDisable>(services.state.session);
   // Whatever comes back: if the gateway is out of reach or the session over, the send itself will say so.
   // Only the user's own wish to stop is not for the send to find out.
   if (!reply.cancelled()) return true;
@@ -23,22 +19,16 @@ bool cancelSchedule(const MessagingServices& services) {
 }
 
 bool setSchedule(const MessagingServices& services, const QString& value) {
-  const auto reply = services.gateway.call<protocol::scheduleMessageEnableResponse>(
-      [session = toWire(services.state.session), value = toWire(value)](
-          GatewayClient& client, protocol::scheduleMessageEnableResponse& response) {
-        return client.scheduleMessageEnable(value, session, response);
-      });
+  const auto reply =
+      services.gateway.call<&GatewayClient::scheduleMessageEnable>(value, services.state.session);
   if (reply.answered() && reply->nErrorCode == 0 && !reply.cancelled()) return true;
   services.notifier.error(withNumber(messaging_texts::scheduleRefused(), reply->nErrorCode));
   return false;
 }
 
 bool setSenderId(const MessagingServices& services) {
-  const auto reply = services.gateway.call<protocol::setSmsSenderIdResponse>(
-      [session = toWire(services.state.session), senderId = toWire(services.state.senderId)](
-          GatewayClient& client, protocol::setSmsSenderIdResponse& response) {
-        return client.setSmsSenderId(session, senderId, response);
-      });
+  const auto reply =
+      services.gateway.call<&GatewayClient::setSmsSenderId>(services.state.session, services.state.senderId);
   if (!reply.answered() || reply.cancelled())
     services.notifier.error(text(TextId::GatewayUnreachable));
   else if (reply->nErrorCode != 0)

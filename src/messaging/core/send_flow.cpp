@@ -6,6 +6,7 @@
 #include "messaging/core/receipts.h"
 #include "messaging/core/session_expiry.h"
 #include "messaging/core/status_file.h"
+#include "protocol/result_code.h"
 
 namespace parlexo {
 
@@ -27,7 +28,7 @@ bool SendFlow::announce(const Schedule& schedule) const {
 
 SendOutcome SendFlow::deliver(const QString& numbers, const Operation& operation) const {
   const SendReply reply = callUnderProgress(operation);
-  if (!accepted(reply)) return reply.leftInTheDark ? SendOutcome::Unanswered : SendOutcome::NotSent;
+  if (!accepted(reply)) return reply.outcomeUnknown ? SendOutcome::OutcomeUnknown : SendOutcome::NotSent;
   record(reply.receipts, numbers);
   if (hasFailures(reply.receipts)) {
     services_.notifier.information(failureWarning(text(kind_.someFailed), reply.receipts));
@@ -45,7 +46,7 @@ SendReply SendFlow::callUnderProgress(const Operation& operation) const {
 bool SendFlow::accepted(const SendReply& reply) const {
   if (!reply.answered)
     services_.notifier.error(text(kind_.unreachable));
-  else if (reply.code == sessionExpiredCode)
+  else if (reply.code == protocol::ResultCode::SessionExpired)
     renewSession(services_.notifier, services_.renewal);
   else if (reply.code != 0)
     services_.notifier.error(withNumber(kind_.refused, reply.code));

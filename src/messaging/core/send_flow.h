@@ -16,7 +16,7 @@ enum class SendOutcome {
   FileAtFault,        ///< the same for its file
   RecipientsAtFault,  ///< the same for its recipients
   NotSent,            ///< refused or failed for other reasons, which the user knows: the form stays
-  Unanswered,         ///< sent, but no answer came: perhaps accepted, which the page says; the form stays
+  OutcomeUnknown,     ///< sent, but no answer came: perhaps accepted, which the page says; the form stays
   PartlyFailed,       ///< accepted, but not for every number: the form stays
   Delivered,          ///< accepted for every number: the form is cleared
 };
@@ -36,7 +36,7 @@ struct SendReply {
   bool answered = false;
   int code = 0;
   QString receipts;
-  bool leftInTheDark = false;  ///< the gateway may have accepted the message without our knowing
+  bool outcomeUnknown = false;  ///< the gateway may have accepted the message without our knowing
 };
 
 /// The way that every kind of message takes, in the steps that a kind may put checks of its own between.

@@ -6,9 +6,6 @@
 
 namespace parlexo {
 
-/// The gateway's code for a session that is over.
-inline constexpr int sessionExpiredCode = 7;
-
 /// Tells the user that the session is over and lets them log in again. What failed is not repeated.
 inline void renewSession(Notifier& notifier, SessionRenewal& renewal) {
   notifier.error(text(TextId::SessionExpired));

@@ -17,12 +17,8 @@ SendKind smsKind() {
 
 SendReply sendSms(const Gateway& gateway, const QString& session, const QString& message,
                   const SmsDraft& draft) {
-  const auto reply = gateway.call<protocol::sendSmsResponse>(
-      [session = toWire(session), message = toWire(message), flash = draft.flash,
-       numbers = toWire(draft.numbersList)](GatewayClient& client, protocol::sendSmsResponse& response) {
-        return client.sendSms(session, message, flash, numbers, response);
-      });
-  return {reply.answered(), reply->nErrorCode, fromWire(reply->sListReciepts), reply.leftInTheDark()};
+  const auto reply = gateway.call<&GatewayClient::sendSms>(session, message, draft.flash, draft.numbersList);
+  return {reply.answered(), reply->nErrorCode, fromWire(reply->sListReciepts), reply.outcomeUnknown()};
 }
 
 }  // namespace

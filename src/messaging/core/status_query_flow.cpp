@@ -12,6 +12,7 @@
 #include "messaging/core/receipts.h"
 #include "messaging/core/session_expiry.h"
 #include "messaging/core/status_file.h"
+#include "protocol/result_code.h"
 
 namespace parlexo {
 
@@ -47,7 +48,7 @@ class StatusQueryFlow::Run {
       ++failed_;
     transportFailures_ = answer.answered ? 0 : transportFailures_ + 1;
     isCancelled_ = answer.cancelled;
-    const bool isExpired = answer.answered && answer.code == sessionExpiredCode;
+    const bool isExpired = answer.answered && answer.code == protocol::ResultCode::SessionExpired;
     isOver_ = isCancelled_ || isExpired || transportFailures_ == mostTransportFailures;
     // An exchange that ends because it was cancelled is no failure.
     if (!answer.isGood() && !isCancelled_ && (!failure_ || isExpired)) failure_ = answer;
@@ -96,18 +97,14 @@ void StatusQueryFlow::askAll(const QStringList& receipts, Run& run, const Update
 }
 
 StatusQueryFlow::Answer StatusQueryFlow::ask(const QString& receipt) const {
-  const auto reply = services_.gateway.call<protocol::getStatusResponse>(
-      [session = toWire(services_.state.session), receipt = toWire(receipt)](
-          GatewayClient& client, protocol::getStatusResponse& response) {
-        return client.getStatus(session, receipt, response);
-      });
+  const auto reply = services_.gateway.call<&GatewayClient::getStatus>(services_.state.session, receipt);
   return {reply.answered(), reply.cancelled(), reply->nErrorCode, fromWire(reply->sStatus)};
 }
 
 void StatusQueryFlow::report(const Answer& failure) const {
   if (!failure.answered)
     services_.notifier.error(text(TextId::GatewayUnreachable));
-  else if (failure.code == sessionExpiredCode)
+  else if (failure.code == protocol::ResultCode::SessionExpired)
     renewSession(services_.notifier, services_.renewal);
   else
     services_.notifier.error(withNumber(TextId::StatusQueryError, failure.code));

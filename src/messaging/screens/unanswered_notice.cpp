@@ -18,7 +18,7 @@ UnansweredNotice::UnansweredNotice(QWidget* parent) : QLabel(parent) {
 
 void UnansweredNotice::follow(SendOutcome outcome) {
   switch (outcome) {
-    case SendOutcome::Unanswered:
+    case SendOutcome::OutcomeUnknown:
       show();
       return;
     case SendOutcome::PartlyFailed:

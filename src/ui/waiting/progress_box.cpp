@@ -98,7 +98,7 @@ void ProgressBox::offerCancel(std::function<void()> cancel) {
   box_->offerCancel();
 }
 
-std::chrono::milliseconds ProgressBox::sinceFirstExchange() {
+std::chrono::milliseconds ProgressBox::sinceFirstTask() {
   if (!exchanging_.isValid()) exchanging_.start();
   return std::chrono::milliseconds(exchanging_.elapsed());
 }

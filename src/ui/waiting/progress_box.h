@@ -36,9 +36,9 @@ class ProgressBox final : public Progress {
   void offerCancel(std::function<void()> cancel);
   /// Whether the user has pressed the Cancel of the box that is showing.
   [[nodiscard]] bool isCancelled() const { return box_ && isCancelled_; }
-  /// How long exchanges have been under way under the box that is showing: zero at the first call for a box,
+  /// How long tasks have been under way under the box that is showing: zero at the first call for a box,
   /// the time since then later.
-  [[nodiscard]] std::chrono::milliseconds sinceFirstExchange();
+  [[nodiscard]] std::chrono::milliseconds sinceFirstTask();
   /// What offerCancelAfter() has set for the box that is showing, otherwise `standard`.
   [[nodiscard]] std::chrono::milliseconds untilCancel(std::chrono::milliseconds standard) const;
 

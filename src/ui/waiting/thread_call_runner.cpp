@@ -2,8 +2,8 @@
 
 #include <utility>
 
-#include "ui/waiting/exchange_wait.h"
 #include "ui/waiting/progress_box.h"
+#include "ui/waiting/task_wait.h"
 
 namespace parlexo {
 
@@ -12,17 +12,17 @@ ThreadCallRunner::ThreadCallRunner(ProgressBox& progress) : ThreadCallRunner(pro
 ThreadCallRunner::ThreadCallRunner(ProgressBox& progress, Timing timing)
     : progress_(progress), timing_(timing) {}
 
-bool ThreadCallRunner::run(Exchange exchange) {
-  ExchangeWait wait(progress_, timing_.untilBox, timing_.untilCancel, [this] { cancel(); });
+bool ThreadCallRunner::run(Task task) {
+  TaskWait wait(progress_, timing_.untilBox, timing_.untilCancel, [this] { cancel(); });
   waits_.push_back(&wait);
   if (progress_.isCancelled()) wait.cancel(timing_.afterCancel);
-  const bool ended = wait.run(std::move(exchange));
+  const bool ended = wait.run(std::move(task));
   std::erase(waits_, &wait);
   return ended;
 }
 
 void ThreadCallRunner::cancel() {
-  for (ExchangeWait* wait : waits_) wait->cancel(timing_.afterCancel);
+  for (TaskWait* wait : waits_) wait->cancel(timing_.afterCancel);
 }
 
 }  // namespace parlexo

@@ -125,7 +125,7 @@ TEST_F(BackgroundQueueTest, deliveryMayWaitWhileFurtherTasksEnd) {
 
 class BackgroundThreadTest : public ::testing::Test {
  protected:
-  void add(CallRunner::Exchange exchange) {
+  void add(CallRunner::Task exchange) {
     queue_->add({std::move(exchange), [this] { ++delivered_; }, [] { return true; }});
   }
 
@@ -172,20 +172,12 @@ class BackgroundGatewayTest : public ::testing::Test {
     state_.userName = u"ann"_s;
   }
 
-  template <class Response, class Operation>
-  void query(Operation operation) {
-    gateway_.call<Response>(*context_, operation,
-                            [this](const Reply<Response>& reply) { results_.push_back(reply.result()); });
+  auto recordResult() {
+    return [this](const auto& reply) { results_.push_back(reply.result()); };
   }
-  void queryNews() {
-    query<protocol::getNewsResponse>(
-        [](GatewayClient& client, protocol::getNewsResponse& response) { return client.getNews(response); });
-  }
+  void queryNews() { gateway_.call<&GatewayClient::getNews>(*context_, recordResult()); }
   void queryBalance() {
-    query<protocol::getAccountBalanceResponse>(
-        [](GatewayClient& client, protocol::getAccountBalanceResponse& response) {
-          return client.getAccountBalance("first", response);
-        });
+    gateway_.call<&GatewayClient::getAccountBalance>(*context_, recordResult(), u"first"_s);
   }
 
   /// Until everything that was queued before has been delivered or dropped.

@@ -133,11 +133,11 @@ TEST_F(ProxyDiscoveryTest, programsOfThisMachineNeedNoConfiguredProxy) {
 /// Leaves the exchange behind, as a runner does after a cancel.
 class LeavingRunner final : public CallRunner {
  public:
-  bool run(Exchange exchange) override {
-    left = std::move(exchange);
+  bool run(Task task) override {
+    left = std::move(task);
     return false;
   }
-  Exchange left;
+  Task left;
 };
 
 TEST_F(ProxyDiscoveryTest, leftBehindSearchFindsNothingAndOwnsWhatItUses) {

@@ -20,7 +20,7 @@ namespace {
 
 using namespace std::chrono_literals;
 
-CallRunner::Exchange lasting(std::chrono::milliseconds time) {
+CallRunner::Task lasting(std::chrono::milliseconds time) {
   return [time](const CancelFlag&) { std::this_thread::sleep_for(time); };
 }
 

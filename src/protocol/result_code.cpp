@@ -1,6 +1,6 @@
-#include "simulator/result_code.h"
+#include "protocol/result_code.h"
 
-namespace parlexo::simulator {
+namespace parlexo::protocol {
 
 const char* meaningOf(ResultCode code) {
   switch (code) {
@@ -40,4 +40,4 @@ const char* meaningOf(ResultCode code) {
   return "unknown";
 }
 
-}  // namespace parlexo::simulator
+}  // namespace parlexo::protocol

@@ -1,4 +1,4 @@
-#include "ui/waiting/exchange_wait.h"
+#include "ui/waiting/task_wait.h"
 
 #include <utility>
 
@@ -11,10 +11,10 @@
 
 namespace parlexo {
 
-ExchangeWait::ExchangeWait(ProgressBox& progress, std::chrono::milliseconds untilBox,
-                           std::chrono::milliseconds untilCancel, std::function<void()> onCancel)
+TaskWait::TaskWait(ProgressBox& progress, std::chrono::milliseconds untilBox,
+                   std::chrono::milliseconds untilCancel, std::function<void()> onCancel)
     : progress_(progress), untilCancel_(untilCancel), onCancel_(std::move(onCancel)) {
-  // Not only by the timer: of many short exchanges under one box none may live to see it.
+  // Not only by the timer: of many short tasks under one box none may live to see it.
   if (progress_.isShowing()) offerCancelWhenDue();
   QObject::connect(&boxTimer_, &QTimer::timeout, &boxTimer_, [this] { look(); });
   graceTimer_.setSingleShot(true);
@@ -22,15 +22,15 @@ ExchangeWait::ExchangeWait(ProgressBox& progress, std::chrono::milliseconds unti
   boxTimer_.start(untilBox);
 }
 
-ExchangeWait::~ExchangeWait() {
+TaskWait::~TaskWait() {
   boxTimer_.stop();
   if (showedBox_) progress_.hide();
 }
 
-bool ExchangeWait::run(CallRunner::Exchange exchange) {
+bool TaskWait::run(CallRunner::Task task) {
   const InputBlock block(InputBlock::CloseRequests::Dropped);
   const auto wakeUp = [waiter = QAbstractEventDispatcher::instance()] { waiter->wakeUp(); };
-  TaskThread thread(std::move(exchange), wakeUp, cancelFlag_);
+  TaskThread thread(std::move(task), wakeUp, cancelFlag_);
   // Not exec(): a quit() of the application would end that while the worker still runs.
   QEventLoop loop;
   while (!thread.hasEnded() && !givenUp_) loop.processEvents(QEventLoop::WaitForMoreEvents);
@@ -38,22 +38,22 @@ bool ExchangeWait::run(CallRunner::Exchange exchange) {
   return thread.hasSucceeded();
 }
 
-void ExchangeWait::cancel(std::chrono::milliseconds grace) {
+void TaskWait::cancel(std::chrono::milliseconds grace) {
   cancelFlag_.raise();
   if (!graceTimer_.isActive()) graceTimer_.start(grace);
 }
 
-// Again and again: the box of an exchange inside this one may have come and gone meanwhile.
-void ExchangeWait::look() {
+// Again and again: the box of a task inside this one may have come and gone meanwhile.
+void TaskWait::look() {
   if (!progress_.isShowing()) showBox();
   offerCancelWhenDue();
 }
 
-void ExchangeWait::offerCancelWhenDue() {
-  if (progress_.sinceFirstExchange() >= progress_.untilCancel(untilCancel_)) progress_.offerCancel(onCancel_);
+void TaskWait::offerCancelWhenDue() {
+  if (progress_.sinceFirstTask() >= progress_.untilCancel(untilCancel_)) progress_.offerCancel(onCancel_);
 }
 
-void ExchangeWait::showBox() {
+void TaskWait::showBox() {
   showedBox_ = true;
   progress_.show();
 }

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <QString>
+
+namespace parlexo {
+
+/// What a message is sent as. No page of the client sends voice messages.
+enum class MessageType { Sms, Mms, Fax, Wap, Voice };
+
+/// The word for a type in the status file, in logs and in an account's history: "SMS", "MMS", "Fax", "WAP" or
+/// "Voice".
+[[nodiscard]] QString toWord(MessageType type);
+
+}  // namespace parlexo
