@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What the contact store costs as it grows, beside an SQLite database that does the same work on the same
 // disk, and beside the bare system calls without which no durable write is possible.
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // How long the user of the contacts page waits when the address book has 100,000 contacts.
 
 #include <QAbstractItemView>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What the user of the send and status pages waits for: a keystroke or a paste being counted, 10,000
 // recipients taken over and halved, 10,000 entries put into the order of the status page, and
 // the status log being saved, which happens on the interface thread after every send.

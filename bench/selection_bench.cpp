@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // How long the user waits for the contact selection dialog when the address book has 100,000 contacts.
 
 #include <QCoreApplication>

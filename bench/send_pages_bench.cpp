@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What the user waits for around a message to 10,000 recipients, over a real connection to a simulator: the
 // selection, the send itself, and the status page with one entry for each recipient. The counter "blocked"
 // is the longest time, in milliseconds, for which the windows neither painted nor listened.

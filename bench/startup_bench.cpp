@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // How long the user waits at the start of the program while an address book is read: with the moving
 // progress box and its counts, and without, to see what the box costs.
 

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 # What every target of the project shares: language, warnings, sanitizers, folders, and the functions
 # that declare a room's library, a program and a test.
 

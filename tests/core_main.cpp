@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Runs the tests that open no window. Downloads and servers wait in event loops, which need an application.
 
 #include <QCoreApplication>

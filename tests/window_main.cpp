@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Runs the tests that open windows: on no display unless the environment names one, in the program's look.
 
 #include <QApplication>

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 """Smooth shapes on a small canvas, with nothing but the standard library.
 
 A shape is a function that tells how far a point lies outside its edge (negative inside), in the units of

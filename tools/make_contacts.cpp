@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // make-contacts: writes a made-up address book of any size into a folder.
 
 #include <cstdio>

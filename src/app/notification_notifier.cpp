@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/notification_notifier.h"
 
 #include "app/core/notification_results.h"

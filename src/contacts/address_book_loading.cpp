@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Reading the whole address book at the start of the program.
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "contacts/contact_file_format.h"
 
 #include <algorithm>

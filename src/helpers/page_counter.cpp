@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The program parlexo-page-counter: counts the pages of the document on its standard input. A document may be
 // damaged or made to do harm, so that whatever reading it leads to happens in a process of its own.
 //   tiff   the pages of a TIFF, without the reduced pictures of them

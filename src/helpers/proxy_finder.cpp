@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The program parlexo-proxy-finder: answers the questions about proxies that may block or run foreign code,
 // so that the client can kill it whenever it likes. The answer goes to the standard output, a line each:
 //   setting ADDRESS            the proxies that libproxy names for the address, first the best

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What the runtime expects of a program that does not use its code generator: the namespace table, and hooks
 // for headers, faults and referenced elements. Their names, and the namespace they stand in, are the
 // runtime's.

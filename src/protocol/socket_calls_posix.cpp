@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include <netinet/in.h>
 #include <netinet/tcp.h>
 #include <poll.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "protocol/result_code.h"
 #include "simulator/command_line.h"
 

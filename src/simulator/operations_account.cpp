@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "simulator/email_preferences_fields.h"
 #include "simulator/operations.h"
 

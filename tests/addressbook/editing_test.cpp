@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Entering contacts and groups, and what is written of them.
 
 #include <optional>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Settings held against the registry itself, in a hive of the test's own.
 
 #include <windows.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The address book on disks that fail and under names that file systems find hard. Everything here stops
 // the superuser too, as which tests may run.
 

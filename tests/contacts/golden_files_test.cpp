@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Files that a program sharing no code with this one has written (tools/make-golden-contacts): they are
 // read as meant, and the store writes the very same bytes.
 

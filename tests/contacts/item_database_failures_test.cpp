@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Every failure that a disk or a system can bring: its message, and a file that is as it was.
 
 #include <cerrno>

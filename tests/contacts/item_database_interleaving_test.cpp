@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Files that another program has changed, damaged or locked. Two databases with an index each are two
 // programs.
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What happens when other users hold the file.
 
 #include <sys/file.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "contacts/samples/sample_contacts.h"
 
 #include "tests/contacts/store_fixture.h"

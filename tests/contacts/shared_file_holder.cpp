@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // shared-file-holder PATH MODE: opens a file as the contact store does, says "held" or "refused", and keeps
 // it until its input ends. The other user in tests of share modes.
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "tests/messaging/memory_refusal.h"
 
 #include <atomic>

@@ -1,4 +1,5 @@
 #!/usr/bin/env python3
+# SPDX-License-Identifier: GPL-3.0-or-later
 """tools/check-layers must find every kind of breach; a check that finds nothing would be worth nothing."""
 
 import pathlib

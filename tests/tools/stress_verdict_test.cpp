@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The stress program is only worth something if it finds a store that breaks its promises.
 
 #include <fstream>

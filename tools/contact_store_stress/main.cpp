@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // contact-store-stress: many processes write, delete and read in one contacts folder and are killed at
 // random moments; afterwards the files are held against what each of them had been told.
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "tools/contact_store_stress/verdict.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 /* What libfreexl needs of iconv(), by the system's own code pages. Only conversions to UTF-8. */
 #pragma once
 

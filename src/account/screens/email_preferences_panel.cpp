@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "account/screens/email_preferences_panel.h"
 
 #include <utility>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "addressbook/core/contacts_flow.h"
 
 #include <QLatin1String>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "addressbook/screens/add_contacts_menu.h"
 
 #include <QMenu>

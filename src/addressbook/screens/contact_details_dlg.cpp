@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "addressbook/screens/contact_details_dlg.h"
 
 #include <cstddef>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "addressbook/screens/extra_value_box.h"
 
 #include <QItemSelection>

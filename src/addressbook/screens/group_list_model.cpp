@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "addressbook/screens/group_list_model.h"
 
 #include "addressbook/core/name_order.h"

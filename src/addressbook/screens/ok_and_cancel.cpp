@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "addressbook/screens/ok_and_cancel.h"
 
 #include "ui/page_controls.h"

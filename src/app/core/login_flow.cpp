@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/core/login_flow.h"
 
 #include "base/message_texts.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // wininet.h needs what windows.h declares.
 #include <windows.h>
 // clang-format off

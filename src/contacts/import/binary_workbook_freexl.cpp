@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Workbooks of the older binary format, through libfreexl.
 
 #include <freexl.h>

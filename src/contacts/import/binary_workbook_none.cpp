@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Stands in for the reader of .xls in builds without libfreexl.
 
 #include "contacts/import/workbook_readers.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "contacts/import/compound_file.h"
 
 #include <algorithm>

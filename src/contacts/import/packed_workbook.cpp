@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Workbooks that are XML packed in a zip archive: .xlsx and .ods.
 
 #include "contacts/import/ods_reader.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Stands in for the reader of .xlsx and .ods in builds without libzip.
 
 #include "contacts/import/workbook_readers.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "messaging/core/send_calls.h"
 
 #include "base/message_texts.h"

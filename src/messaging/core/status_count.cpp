@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "messaging/core/status_count.h"
 
 #include "messaging/core/status_file.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "messaging/screens/save_template_dlg.h"
 
 #include <utility>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "messaging/screens/sender_id_dlg.h"
 
 #include <QLabel>

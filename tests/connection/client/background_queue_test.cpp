@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "connection/client/background_queue.h"
 
 #include <atomic>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What libproxy and libpacparser answer through the program that asks them.
 
 #include <chrono>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What the system says about proxies, held against the settings that it takes it from.
 
 #include <windows.h>
