@@ -4,7 +4,7 @@
 #include <QByteArray>
 #include <QCoreApplication>
 
-#include "base/process_end.h"
+#include "base/program.h"
 #include "base/product.h"
 #include "simulator/command_line.h"
 #include "simulator/simulator.h"

@@ -8,7 +8,7 @@
 
 #include <QString>
 
-#include "base/transfer.h"
+#include "base/progress.h"
 #include "connection/client/gateway_client.h"
 #include "connection/client/wire_text.h"
 #include "protocol/records.h"

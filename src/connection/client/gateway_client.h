@@ -8,7 +8,7 @@
 #include <string>
 
 #include "base/call_runner.h"
-#include "base/transfer.h"
+#include "base/progress.h"
 #include "connection/client/gateway_access.h"
 #include "protocol/records.h"
 #include "protocol/soap_context.h"

@@ -3,7 +3,7 @@
 #include <QProcess>
 #include <QStringList>
 
-#include "base/helper_program.h"
+#include "base/program.h"
 #include "connection/locator/proxy_system.h"
 
 namespace parlexo {
