@@ -39,7 +39,7 @@ QString sessionForLog(const QString& session) {
 template <class Response>
 QString outcomeForLog(const Response& response) {
   if constexpr (requires { response.nErrorCode; }) {
-    const char* meaning = protocol::meaningOf(static_cast<protocol::ResultCode>(response.nErrorCode));
+    const char* meaning = protocol::describe(static_cast<protocol::ResultCode>(response.nErrorCode));
     return u"code %1, %2"_s.arg(response.nErrorCode).arg(QString::fromLatin1(meaning));
   } else {
     return u"version %1"_s.arg(response.nVersion);
