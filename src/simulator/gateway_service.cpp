@@ -4,8 +4,7 @@
 #include <string_view>
 
 #include "protocol/result_code.h"
-#include "server/locator_document.h"
-#include "server/soap_dispatch.h"
+#include "server/gateway_replies.h"
 #include "simulator/fault_reply.h"
 #include "simulator/message_text.h"
 #include "simulator/operations.h"
