@@ -14,7 +14,7 @@ namespace {
 
 constexpr char byteOrderMark[] = "\xEF\xBB\xBF";
 
-// Negative amounts stay unquoted so that spreadsheets can sum them. Digits and points are no formula.
+// Negative amounts are not escaped, because spreadsheets could not sum them as text.
 bool isNegativeNumber(QStringView cell) {
   const QStringView digits = cell.mid(1);
   return cell.front() == u'-' && !digits.isEmpty() && std::all_of(digits.begin(), digits.end(), [](QChar c) {

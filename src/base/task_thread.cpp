@@ -39,7 +39,7 @@ class TaskThread::Shared {
     hasEnded_ = true;
     hasSucceeded_ = succeeded;
     ended_.notify_all();
-    // Called under the lock, so that detach() blocks while the callback runs.
+    // Called under the lock to make detach() wait for the callback.
     if (onEnd_) onEnd_();
   }
 
