@@ -37,7 +37,7 @@ class Progress {
   /// Changes the label; an empty `text` restores the default label. Repaints the box at most every 30 ms.
   virtual void setText(const QString& text) = 0;
   /// Displays the progress of `transfer` below the label until the box is hidden.
-  virtual void showTransfer(const Transfer& /*transfer*/) {}
+  virtual void setTransfer(const Transfer& /*transfer*/) {}
   /// Makes the box offer Cancel after its tasks have run for `wait` in total, instead of the longer default.
   virtual void offerCancelAfter(std::chrono::milliseconds /*wait*/) {}
   /// Hides the box.

@@ -13,7 +13,7 @@ constexpr int bodyTooLarge = 413;
 constexpr int headerTooLarge = 431;
 constexpr int notImplemented = 501;
 
-// nullopt unless `text` consists of digits only, or if it has more digits than any accepted length.
+// nullopt if `text` has characters other than digits, or more digits than any accepted length.
 std::optional<std::int64_t> parseLength(const QByteArray& text, int base) {
   constexpr qsizetype maxDigits = 15;
   const bool plain = !text.isEmpty() && text.size() <= maxDigits &&
