@@ -13,7 +13,6 @@
 #include "base/settings.h"
 #include "connection/client/background_gateway.h"
 #include "connection/client/background_queue.h"
-#include "connection/client/foreground_runner.h"
 #include "connection/client/gateway.h"
 #include "ui/focus_keeper.h"
 #include "ui/waiting/progress_box.h"

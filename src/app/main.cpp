@@ -7,7 +7,7 @@
 #include "app/application.h"
 #include "app/core/command_line.h"
 #include "app/process.h"
-#include "base/process_end.h"
+#include "base/program.h"
 #include "demo/demo.h"
 #include "ui/look.h"
 

@@ -65,7 +65,7 @@ QString helpText() {
   QString text = QString::fromLatin1(usage);
   for (int number = 0; number <= static_cast<int>(protocol::ResultCode::MessageTooLong); ++number)
     text += u"  %1  %2\n"_s.arg(number, 2).arg(
-        QString::fromLatin1(protocol::meaningOf(static_cast<protocol::ResultCode>(number))));
+        QString::fromLatin1(protocol::describe(static_cast<protocol::ResultCode>(number))));
   return text;
 }
 

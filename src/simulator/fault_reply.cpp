@@ -3,7 +3,7 @@
 
 #include <utility>
 
-#include "server/soap_dispatch.h"
+#include "server/gateway_replies.h"
 
 namespace parlexo::simulator {
 

@@ -3,8 +3,8 @@
 
 #include <QByteArray>
 
+#include "server/gateway_replies.h"
 #include "server/http_message.h"
-#include "server/locator_document.h"
 #include "simulator/fault.h"
 
 namespace parlexo::simulator {

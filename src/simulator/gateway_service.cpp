@@ -4,8 +4,7 @@
 #include <string_view>
 
 #include "protocol/result_code.h"
-#include "server/locator_document.h"
-#include "server/soap_dispatch.h"
+#include "server/gateway_replies.h"
 #include "simulator/fault_reply.h"
 #include "simulator/message_text.h"
 #include "simulator/operations.h"
@@ -39,7 +38,7 @@ QString sessionForLog(const QString& session) {
 template <class Response>
 QString outcomeForLog(const Response& response) {
   if constexpr (requires { response.nErrorCode; }) {
-    const char* meaning = protocol::meaningOf(static_cast<protocol::ResultCode>(response.nErrorCode));
+    const char* meaning = protocol::describe(static_cast<protocol::ResultCode>(response.nErrorCode));
     return u"code %1, %2"_s.arg(response.nErrorCode).arg(QString::fromLatin1(meaning));
   } else {
     return u"version %1"_s.arg(response.nVersion);

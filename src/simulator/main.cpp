@@ -4,8 +4,8 @@
 #include <QByteArray>
 #include <QCoreApplication>
 
-#include "base/process_end.h"
 #include "base/product.h"
+#include "base/program.h"
 #include "simulator/command_line.h"
 #include "simulator/simulator.h"
 #include "simulator/stop_signals.h"

@@ -7,8 +7,8 @@
 
 #include <QThread>
 
+#include "server/gateway_replies.h"
 #include "server/http_server.h"
-#include "server/locator_document.h"
 #include "simulator/gateway_service.h"
 
 namespace parlexo::simulator {

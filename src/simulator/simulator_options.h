@@ -10,6 +10,7 @@
 #include <QHostAddress>
 #include <QString>
 
+#include "base/product.h"
 #include "simulator/clock.h"
 
 namespace parlexo::simulator {
@@ -61,8 +62,8 @@ struct Options {
   int scheduleDaysAhead = 365;
   int maxFileSize = 2 * 1024 * 1024;  ///< bytes of a fax or voice file
   int maxMobileFileSize = 50 * 1024;  ///< bytes of an MMS or WAP file
-  QString clientVersion{QStringLiteral("2.24")};
-  int protocolVersion = 103;
+  QString clientVersion = QLatin1String(parlexo::clientVersion);
+  int protocolVersion = parlexo::protocolVersion;
   QString news;                        ///< empty for a text about the simulator
   std::shared_ptr<const Clock> clock;  ///< none for the computer's own
   /// Receives the log line by line; called from the simulator's thread, one call at a time.

@@ -7,7 +7,7 @@
 
 #include "app/application.h"
 #include "app/process.h"
-#include "base/process_end.h"
+#include "base/program.h"
 #include "demo/demo.h"
 #include "tour/tour.h"
 #include "tour/tour_plan.h"

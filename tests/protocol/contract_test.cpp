@@ -1,7 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "protocol/contract.h"
 
+#include <algorithm>
+#include <array>
+#include <memory>
+#include <new>
 #include <string>
+#include <string_view>
+#include <type_traits>
 
 #include <QRegularExpression>
 #include <QStringList>
@@ -53,6 +59,25 @@ TEST(Contract, everyFieldHasAMemberOfItsOwn) {
     }
   });
 }
+
+TEST(SecretText, leavesNothingOfItsTextInMemory) {
+  using protocol::SecretText;
+  constexpr std::string_view password = "s3cret-word";  // short enough to be stored inside std::string
+  alignas(SecretText) std::array<char, sizeof(SecretText)> memory{};
+  const auto containsPassword = [&] {
+    return std::search(memory.begin(), memory.end(), password.begin(), password.end()) != memory.end();
+  };
+  auto* secret = new (memory.data()) SecretText(std::string(password));
+  EXPECT_TRUE(containsPassword());
+  *secret = SecretText(std::string("x"));
+  EXPECT_FALSE(containsPassword()) << "after an assignment";
+  *secret = SecretText(std::string(password));
+  std::destroy_at(secret);
+  EXPECT_FALSE(containsPassword()) << "after its destruction";
+}
+
+static_assert(!std::is_convertible_v<bool, protocol::StopsAtDoubleLine>);
+static_assert(!std::is_convertible_v<protocol::StopsAtEndKeyword, protocol::StopsAtDoubleLine>);
 
 }  // namespace
 }  // namespace parlexo

@@ -104,7 +104,7 @@ class LoggedInRig {
     explicit JournalProgress(std::vector<std::string>& journal) : journal_(journal) {}
     void show(const QString& /*text*/) override { journal_.emplace_back("(box)"); }
     void setText(const QString& /*text*/) override {}
-    void follow(const Transfer& transfer) override { followed.push_back(transfer); }
+    void setTransfer(const Transfer& transfer) override { followed.push_back(transfer); }
     void hide() override { journal_.emplace_back("(no box)"); }
 
     std::vector<Transfer> followed;

@@ -55,7 +55,8 @@ EmailSaveOutcome EmailPreferencesFlow::ask(const EmailPreferences& preferences) 
   const auto& [first, second, third] = preferences.addresses;
   const auto reply = services_.gateway.call<&GatewayClient::editEmailMessaging>(
       services_.state.session, preferences.isEnabled, preferences.identityCode, preferences.isFiltered, first,
-      second, third, preferences.splitsLongSms, preferences.stopsAtEndKeyword, preferences.stopsAtDoubleLine);
+      second, third, preferences.splitsLongSms, protocol::StopsAtEndKeyword(preferences.stopsAtEndKeyword),
+      protocol::StopsAtDoubleLine(preferences.stopsAtDoubleLine));
   if (!reply.answered()) return EmailSaveOutcome::Failed;
   if (reply->nErrorCode == protocol::ResultCode::BadEmailSettings) return EmailSaveOutcome::Incomplete;
   return reply->nErrorCode == 0 ? EmailSaveOutcome::Saved : EmailSaveOutcome::Failed;

@@ -6,8 +6,8 @@
 #include <QString>
 
 #include "base/message_texts.h"
+#include "base/progress.h"
 #include "base/run_state.h"
-#include "base/transfer.h"
 #include "connection/client/gateway.h"
 #include "messaging/core/message_file.h"
 #include "messaging/core/send_flow.h"

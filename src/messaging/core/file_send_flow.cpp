@@ -20,7 +20,7 @@ SendOutcome FileSendFlow::send(const FileDraft& draft) const {
   if (!bytes) return SendOutcome::FileAtFault;
   return flow_.deliver(draft.numbersList, [&](const QString& session) {
     const Transfer transfer(file.length());
-    services_.progress.follow(transfer);
+    services_.progress.setTransfer(transfer);
     return kind_.operation(services_.gateway,
                            {session, draft.note, file.name(), {bytes, transfer}, draft.numbersList});
   });

@@ -7,7 +7,7 @@
 #include <QFileInfo>
 #include <QProcess>
 
-#include "base/helper_program.h"
+#include "base/program.h"
 #include "base/timeouts.h"
 
 namespace parlexo {

@@ -63,7 +63,7 @@ void ProgressBox::setText(const QString& text) {
   handleWaitingEvents();
 }
 
-void ProgressBox::follow(const Transfer& transfer) {
+void ProgressBox::setTransfer(const Transfer& transfer) {
   if (!box_) return;
   transferTimer_.disconnect();
   QObject::connect(&transferTimer_, &QTimer::timeout, box_, [this, transfer] { showTransfer(transfer); });

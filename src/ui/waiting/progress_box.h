@@ -25,7 +25,7 @@ class ProgressBox final : public Progress {
 
   void show(const QString& text = {}) override;
   void setText(const QString& text) override;
-  void follow(const Transfer& transfer) override;
+  void setTransfer(const Transfer& transfer) override;
   void offerCancelAfter(std::chrono::milliseconds wait) override;
   void hide() override;
   [[nodiscard]] QString text() const override;

@@ -35,7 +35,7 @@ bool TaskWait::run(CallRunner::Task task) {
   // Not exec(): a quit() of the application would end that while the worker still runs.
   QEventLoop loop;
   while (!thread.hasEnded() && !givenUp_) loop.processEvents(QEventLoop::WaitForMoreEvents);
-  if (!thread.hasEnded()) thread.leaveBehind();
+  if (!thread.hasEnded()) thread.abandon();
   return thread.hasSucceeded();
 }
 

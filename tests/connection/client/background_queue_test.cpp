@@ -18,7 +18,6 @@
 
 #include "base/task_thread.h"
 #include "connection/client/background_gateway.h"
-#include "connection/client/foreground_runner.h"
 #include "tests/support/fake_gateway.h"
 #include "tests/support/stepping_worker.h"
 
