@@ -7,13 +7,11 @@
 #include <QLabel>
 #include <QToolButton>
 
+#include "ui/look.h"
+
 namespace parlexo {
 
 using namespace Qt::StringLiterals;
-
-namespace {
-constexpr int captionGap = 6;
-}  // namespace
 
 SearchField::SearchField(const QString& hint, QAbstractItemView& list, QWidget* parent)
     : QLineEdit(parent), list_(list) {
@@ -44,7 +42,7 @@ QHBoxLayout* searchRow(const QString& caption, SearchField& search) {
   auto* label = new QLabel(caption, search.parentWidget());
   label->setBuddy(&search);
   auto* row = new QHBoxLayout;
-  row->setSpacing(captionGap);
+  row->setSpacing(look::controlSpacing);
   row->addWidget(label);
   row->addWidget(&search, 1);
   return row;

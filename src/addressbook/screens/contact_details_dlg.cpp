@@ -81,8 +81,8 @@ void CContactDetailsDlg::createEdits() {
 
 void CContactDetailsDlg::createLayout() {
   auto* layout = new QVBoxLayout(this);
-  layout->setContentsMargins(16, 14, 16, 14);
-  layout->setSpacing(8);
+  layout->setContentsMargins(look::dialogMargins);
+  layout->setSpacing(look::fieldSpacing);
   layout->addLayout(addressRows());
   layout->addLayout(flagRows());
   layout->addWidget(extraBox());
@@ -116,7 +116,7 @@ QLayout* CContactDetailsDlg::flagRows() {
   sms_ = flagBox("smsBox", u"Supports &SMS"_s, form_.supportsSms(), this);
   media_ = flagBox("mediaBox", u"Supports &Media (WAP and/or MMS)"_s, form_.supportsMedia(), this);
   auto* boxes = new QHBoxLayout;
-  boxes->setSpacing(24);
+  boxes->setSpacing(look::groupSpacing);
   boxes->addWidget(sms_);
   boxes->addWidget(media_);
   boxes->addStretch(1);

@@ -171,8 +171,8 @@ void CContactsPage::createLayout() {
   tree_->setMinimumWidth(dialogUnits(*this, 80, 0).width());
   halves->setSizes({dialogUnits(*this, 120, 0).width(), list_->fittingWidth()});
   auto* layout = new QVBoxLayout(this);
-  layout->setContentsMargins(14, 10, 14, 12);
-  layout->setSpacing(10);
+  layout->setContentsMargins(look::pageMargins);
+  layout->setSpacing(look::rowSpacing);
   layout->addWidget(halves, 1);
   layout->addLayout(buttonRow());
   setTabOrder(tree_, search_);
@@ -186,7 +186,7 @@ QLayout* CContactsPage::contactsColumn() {
   stack_->addWidget(information_);
   auto* column = new QVBoxLayout;
   column->setContentsMargins({});
-  column->setSpacing(6);
+  column->setSpacing(look::controlSpacing);
   column->addLayout(searchRow(u"&Find:"_s, *search_));
   column->addWidget(stack_, 1);
   column->addWidget(count_);

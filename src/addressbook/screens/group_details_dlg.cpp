@@ -88,17 +88,17 @@ void CGroupDetailsDlg::createControls() {
 
 void CGroupDetailsDlg::createLayout() {
   auto* list = new QVBoxLayout;
-  list->setSpacing(4);
+  list->setSpacing(look::captionSpacing);
   list->addWidget(labelFor(list_, u"Group &Members:"_s));
   list->addWidget(list_, 1);
   auto* middle = new QHBoxLayout;
-  middle->setSpacing(12);
+  middle->setSpacing(look::columnSpacing);
   middle->addLayout(list, 1);
   middle->addLayout(buttonColumn());
 
   auto* layout = new QVBoxLayout(this);
-  layout->setContentsMargins(16, 14, 16, 14);
-  layout->setSpacing(10);
+  layout->setContentsMargins(look::dialogMargins);
+  layout->setSpacing(look::rowSpacing);
   layout->addLayout(nameRows());
   layout->addLayout(middle, 1);
   layout->addLayout(okAndCancelRow(*this));
@@ -122,7 +122,7 @@ QLayout* CGroupDetailsDlg::nameRows() {
     if (const auto unstable = draft_.unstableName(name_->text())) name_->setText(unstable->suggestion);
   });
   auto* rows = new QGridLayout;
-  rows->setVerticalSpacing(2);
+  rows->setVerticalSpacing(look::lineSpacing);
   rows->addWidget(labelFor(name_, u"&Group Name:"_s), 0, 0);
   rows->addWidget(name_, 0, 1);
   rows->addWidget(nameWarning_, 1, 1);
@@ -150,7 +150,7 @@ void CGroupDetailsDlg::checkName() {
 
 QLayout* CGroupDetailsDlg::buttonColumn() {
   auto* column = new QVBoxLayout;
-  column->addSpacing(fontMetrics().height() + 4);
+  column->addSpacing(fontMetrics().height() + look::captionSpacing);
   const auto add = [this, column](const QString& name, const QString& text, auto action) {
     PictureButton* button = addButton(*column, name, text);
     connect(button, &PictureButton::clicked, this, action);

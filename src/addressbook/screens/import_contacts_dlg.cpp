@@ -134,7 +134,7 @@ QComboBox* CImportContactsDlg::createChoice(const QString& objectName, const QSt
   choice->setObjectName(objectName);
   row.addWidget(labelFor(choice, caption));
   row.addWidget(choice);
-  row.addSpacing(12);
+  row.addSpacing(look::columnSpacing);
   return choice;
 }
 
@@ -151,7 +151,8 @@ void CImportContactsDlg::createPlanControls() {
   countryCode_ = new QLineEdit(this);
   countryCode_->setObjectName(u"countryCode"_s);
   countryCode_->setPlaceholderText(u"+61"_s);
-  countryCode_->setMaximumWidth(countryCode_->fontMetrics().horizontalAdvance(u"+0000000"_s) + 16);
+  countryCode_->setMaximumWidth(countryCode_->fontMetrics().horizontalAdvance(u"+0000000"_s) +
+                                look::fieldPadding);
   connect(countryCode_, &QLineEdit::textChanged, this, &CImportContactsDlg::judgeRows);
   supportsSms_ = checkBox(u"Supports &SMS"_s, u"supportsSmsBox"_s, this);
   supportsSms_->setChecked(true);
@@ -185,7 +186,7 @@ void CImportContactsDlg::createLayout(const QString& group) {
   auto* planRow = new QHBoxLayout;
   planRow->addWidget(labelFor(countryCode_, u"&Country code for numbers without one:"_s));
   planRow->addWidget(countryCode_);
-  planRow->addSpacing(12);
+  planRow->addSpacing(look::columnSpacing);
   planRow->addWidget(supportsSms_);
   planRow->addWidget(supportsMedia_);
   planRow->addStretch(1);
@@ -214,8 +215,8 @@ void CImportContactsDlg::createLayout(const QString& group) {
   bottom->addWidget(import_);
   bottom->addWidget(cancel);
   auto* layout = new QVBoxLayout(this);
-  layout->setContentsMargins(16, 14, 16, 14);
-  layout->setSpacing(10);
+  layout->setContentsMargins(look::dialogMargins);
+  layout->setSpacing(look::rowSpacing);
   layout->addWidget(options_, 1);
   layout->addLayout(bottom);
 }

@@ -44,8 +44,8 @@ CImportQuestionDlg::CImportQuestionDlg(const QString& contactName, QWidget* pare
   auto* no = addButton(TextId::ButtonNo, u"noButton"_s, ImportUser::Choice::Skip);
   addButton(TextId::ButtonCancel, u"cancelButton"_s, ImportUser::Choice::Cancel);
   auto* layout = new QVBoxLayout(this);
-  layout->setContentsMargins(16, 14, 16, 14);
-  layout->setSpacing(12);
+  layout->setContentsMargins(look::dialogMargins);
+  layout->setSpacing(look::questionSpacing);
   layout->addWidget(question);
   layout->addWidget(forAll_);
   layout->addLayout(row);

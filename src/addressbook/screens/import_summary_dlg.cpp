@@ -24,8 +24,8 @@ CImportSummaryDlg::CImportSummaryDlg(const Sheet& sheet, const ImportPlan& plan,
   setObjectName(u"importSummaryDialog"_s);
   setWindowTitle(u"Parlexo(TM) : Import Contacts"_s);
   auto* layout = new QVBoxLayout(this);
-  layout->setContentsMargins(16, 14, 16, 14);
-  layout->setSpacing(10);
+  layout->setContentsMargins(look::dialogMargins);
+  layout->setSpacing(look::rowSpacing);
   auto* summary = new QLabel(summaryText(outcome), this);
   summary->setObjectName(u"summary"_s);
   summary->setMinimumWidth(dialogUnits(*this, 170, 0).width());  // the title is read whole

@@ -73,7 +73,7 @@ void CSelectByExtraDlg::addBottomRow(QGridLayout& grid, int row) {
   count_ = new QLabel(this);
   count_->setObjectName(u"countLine"_s);
   auto* buttons = new QHBoxLayout;
-  buttons->setContentsMargins(0, 6, 0, 0);
+  buttons->setContentsMargins(0, look::controlSpacing, 0, 0);
   buttons->addWidget(count_, 1);
   auto* select = addButton(*buttons, u"selectButton"_s, u"&Select"_s);
   select->setDefault(true);

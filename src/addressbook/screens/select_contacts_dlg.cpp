@@ -107,7 +107,7 @@ void CSelectContactsDlg::createLayout() {
   lists->addWidget(count_, 2, 1);
   lists->setColumnStretch(0, groupView_->fittingWidth());
   lists->setColumnStretch(1, contactView_->fittingWidth());
-  lists->setHorizontalSpacing(12);
+  lists->setHorizontalSpacing(look::columnSpacing);
 
   auto* buttons = new QHBoxLayout;
   buttons->addWidget(extraButton_);
@@ -116,7 +116,7 @@ void CSelectContactsDlg::createLayout() {
 
   auto* layout = new QVBoxLayout(this);
   layout->addLayout(lists, 1);
-  layout->addSpacing(6);
+  layout->addSpacing(look::controlSpacing);
   layout->addLayout(buttons);
   resize(sizeHint().width(), sizeHint().height() + dialogUnits(*this, 0, listHeightUnits / 2).height());
 }

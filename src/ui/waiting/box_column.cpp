@@ -3,14 +3,15 @@
 
 #include <QVBoxLayout>
 
+#include "ui/look.h"
 #include "ui/waiting/animated_picture.h"
 
 namespace parlexo {
 
 QVBoxLayout* createColumn(QWidget& dialog) {
   auto* column = new QVBoxLayout(&dialog);
-  column->setContentsMargins(16, 14, 16, 14);
-  column->setSpacing(10);
+  column->setContentsMargins(look::dialogMargins);
+  column->setSpacing(look::rowSpacing);
   column->addWidget(createConnectingAnimation(&dialog));
   return column;
 }

@@ -32,9 +32,9 @@ CConnectingDlg::CConnectingDlg(QWidget* parent) : GradientDialog(parent) {
   connect(cancel_, &PictureButton::clicked, this, &CConnectingDlg::cancel);
   // One layout, as a box within a box would learn too late that a text has grown.
   auto* grid = new QGridLayout(this);
-  grid->setContentsMargins(12, 8, 14, 8);
-  grid->setHorizontalSpacing(12);
-  grid->setVerticalSpacing(2);
+  grid->setContentsMargins(look::progressBoxMargins);
+  grid->setHorizontalSpacing(look::columnSpacing);
+  grid->setVerticalSpacing(look::lineSpacing);
   grid->addWidget(createConnectingAnimation(this), 0, 0, 4, 1);
   grid->addWidget(label_, 1, 1);
   grid->addWidget(detail_, 2, 1);
