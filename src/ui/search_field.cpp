@@ -11,14 +11,12 @@
 
 namespace parlexo {
 
-using namespace Qt::StringLiterals;
-
 SearchField::SearchField(const QString& hint, QAbstractItemView& list, QWidget* parent)
     : QLineEdit(parent), list_(list) {
   setPlaceholderText(hint);
   setAccessibleName(hint);
   setClearButtonEnabled(true);
-  if (auto* clearButton = findChild<QToolButton*>()) clearButton->setAccessibleName(u"Clear search"_s);
+  if (auto* clearButton = findChild<QToolButton*>()) clearButton->setAccessibleName(tr("Clear search"));
 }
 
 void SearchField::keyPressEvent(QKeyEvent* event) {
