@@ -69,7 +69,11 @@ struct OpenPage {
   SilentProgress progress;
   Settings settings{folder.path()};
   DirectCallRunner runner;
-  CContactsPage page{{largeBook().book(), notifier, progress, settings, runner}};
+  CContactsPage page{{.book = largeBook().book(),
+                      .notifier = notifier,
+                      .progress = progress,
+                      .settings = settings,
+                      .runner = runner}};
   FolderTree& tree = *page.findChild<FolderTree*>();
   QAbstractItemView& list = *page.findChild<QAbstractItemView*>(u"contactList"_s);
   QLineEdit& search = *page.findChild<QLineEdit*>(u"contactSearch"_s);

@@ -27,7 +27,7 @@ constexpr int memberTotal = 50000;
 constexpr int cityTotal = 500;
 
 /// An address book of 100,000 contacts that can receive SMS, half of them members of one group. The names mix
-/// words and letter cases, as sorting sorted names would be too easy.
+/// words and letter cases and are not added in sorted order.
 class LargeBook : public test::SampleBook {
  public:
   LargeBook() {

@@ -44,8 +44,7 @@ bool FocusKeeper::eventFilter(QObject* target, QEvent* event) {
 
 void FocusKeeper::observe(const QWidget& window, const QEvent& event) {
   if (event.type() == QEvent::WindowDeactivate) {
-    // A window that is being hidden is deactivated too. If it is still visible, another program got the
-    // focus.
+    // A hidden window is deactivated too. If it is still visible, another window or program got the focus.
     if (window.isHidden()) restartChecks();
   } else if ((event.type() == QEvent::Show || event.type() == QEvent::Hide) && !event.spontaneous()) {
     // Right after another change there may briefly be no active window. Otherwise having none means that

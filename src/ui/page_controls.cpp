@@ -74,8 +74,8 @@ QLayout* okAndCancelRow(QDialog& dialog) {
 
 void wipeField(QLineEdit& field) {
   QString text = field.text();
-  // Unlike clear(), setText() also drops the undo history, so that `text` holds the only reference to the
-  // data.
+  // Unlike clear(), setText() also drops the undo history, which leaves `text` as the only reference to
+  // the data.
   field.setText({});
   wipe(text);
 }

@@ -168,17 +168,17 @@ void CContactsPage::openMenu(QWidget& at, const QPoint& where) {
 void CContactsPage::createLayout() {
   auto* contacts = new QWidget(this);
   contacts->setLayout(contactsColumn());
-  auto* halves = new QSplitter(this);
-  halves->setChildrenCollapsible(false);
-  halves->addWidget(tree_);
-  halves->addWidget(contacts);
-  halves->setStretchFactor(1, 1);
+  auto* splitter = new QSplitter(this);
+  splitter->setChildrenCollapsible(false);
+  splitter->addWidget(tree_);
+  splitter->addWidget(contacts);
+  splitter->setStretchFactor(1, 1);
   tree_->setMinimumWidth(dialogUnits(*this, 80, 0).width());
-  halves->setSizes({dialogUnits(*this, 120, 0).width(), list_->fittingWidth()});
+  splitter->setSizes({dialogUnits(*this, 120, 0).width(), list_->fittingWidth()});
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(look::pageMargins);
   layout->setSpacing(look::rowSpacing);
-  layout->addWidget(halves, 1);
+  layout->addWidget(splitter, 1);
   layout->addLayout(buttonRow());
   setTabOrder(tree_, search_);
   setTabOrder(search_, list_);

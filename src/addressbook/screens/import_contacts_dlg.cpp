@@ -201,10 +201,10 @@ void CImportContactsDlg::createLayout(const QString& group) {
   options->addWidget(problem_);
   options->addLayout(planRow);
   if (!group.isEmpty()) {
-    auto* joined =
+    auto* groupNote =
         wrappedLabel(tr("The contacts will be added to the group \"%1\".").arg(shownName(group)), options_);
-    joined->setTextFormat(Qt::PlainText);
-    options->addWidget(joined);
+    groupNote->setTextFormat(Qt::PlainText);
+    options->addWidget(groupNote);
   }
   auto* cancel = new PictureButton(tr("Cancel"), this);
   cancel->setObjectName(u"cancelButton"_s);
