@@ -3,7 +3,7 @@
 
 #include "app/core/notification_results.h"
 #include "app/notification_dlg.h"
-#include "ui/front_window.h"
+#include "ui/gradient_page.h"
 
 namespace parlexo {
 

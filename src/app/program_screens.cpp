@@ -12,7 +12,7 @@
 #include "app/main_tabs.h"
 #include "app/news_announcement.h"
 #include "connection/screens/upgrade_dlg.h"
-#include "ui/front_window.h"
+#include "ui/gradient_page.h"
 
 namespace parlexo {
 

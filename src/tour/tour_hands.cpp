@@ -11,7 +11,7 @@
 #include <QPlainTextEdit>
 #include <QTabWidget>
 
-#include "ui/front_window.h"
+#include "ui/gradient_page.h"
 
 namespace parlexo::hands {
 

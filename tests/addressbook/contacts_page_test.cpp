@@ -18,7 +18,7 @@
 #include <gmock/gmock.h>
 
 #include "addressbook/screens/add_contacts_menu.h"
-#include "addressbook/screens/check_list_view.h"
+#include "addressbook/screens/check_list_model.h"
 #include "addressbook/screens/contact_details_dlg.h"
 #include "addressbook/screens/folder_tree.h"
 #include "addressbook/screens/group_details_dlg.h"

@@ -14,7 +14,7 @@
 #include <QTimer>
 #include <gmock/gmock.h>
 
-#include "addressbook/screens/check_list_view.h"
+#include "addressbook/screens/check_list_model.h"
 #include "addressbook/screens/select_by_extra_dlg.h"
 #include "tests/addressbook/sample_book.h"
 #include "tests/support/column_cells.h"

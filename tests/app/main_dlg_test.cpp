@@ -28,7 +28,7 @@
 #include "connection/client/background_queue.h"
 #include "messaging/screens/sms_dlg.h"
 #include "simulator/simulator.h"
-#include "ui/front_window.h"
+#include "ui/gradient_page.h"
 #include "ui/hyperlink_label.h"
 #include "ui/picture_button.h"
 #include "ui/waiting/progress_box.h"

@@ -5,7 +5,7 @@
 #include <QUrl>
 
 #include "ui/gradient_page.h"
-#include "ui/web_opener.h"
+#include "ui/hyperlink_label.h"
 
 class QTextBrowser;
 

@@ -6,11 +6,11 @@
 #include <QLineEdit>
 
 #include "connection/locator/proxy_text.h"
-#include "ui/front_window.h"
+#include "ui/gradient_page.h"
 #include "ui/look.h"
 #include "ui/page_controls.h"
 #include "ui/unsendable_hint.h"
-#include "ui/waiting/box_column.h"
+#include "ui/waiting/animated_picture.h"
 
 namespace parlexo {
 

@@ -10,7 +10,7 @@
 #include "ui/look.h"
 #include "ui/page_controls.h"
 #include "ui/picture_button.h"
-#include "ui/waiting/box_column.h"
+#include "ui/waiting/animated_picture.h"
 
 namespace parlexo {
 

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "ui/gradient_page.h"
-#include "ui/web_opener.h"
+#include "ui/hyperlink_label.h"
 
 namespace parlexo {
 

@@ -137,7 +137,7 @@ QLayout* FilePage::noteArea() {
 
 QLayout* FilePage::noteHeading() {
   auto* hint = new UnsendableHint(this);
-  connect(note_, &MessageEdit::textChanged, hint, [this, hint] { hint->follow(note_->text()); });
+  connect(note_, &MessageEdit::textChanged, hint, [this, hint] { hint->check(note_->text()); });
   auto* row = new QHBoxLayout;
   row->setSpacing(14);
   row->addWidget(labelFor(note_, kind_.noteLabel));

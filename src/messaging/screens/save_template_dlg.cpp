@@ -11,7 +11,7 @@
 #include "messaging/core/messaging_texts.h"
 #include "ui/look.h"
 #include "ui/page_controls.h"
-#include "ui/waiting/box_column.h"
+#include "ui/waiting/animated_picture.h"
 
 namespace parlexo {
 

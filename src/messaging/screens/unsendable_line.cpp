@@ -23,7 +23,7 @@ UnsendableLine::UnsendableLine(QWidget* parent) : QWidget(parent) {
 }
 
 void UnsendableLine::follow(const QString& editorText, SmsCharset charset) {
-  hint_->follow(charset == SmsCharset::Standard ? editorText : QString());
+  hint_->check(charset == SmsCharset::Standard ? editorText : QString());
   switch_->setVisible(!hint_->text().isEmpty() && editorText.size() <= unicodeSmsLimits.text);
 }
 
