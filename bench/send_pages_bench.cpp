@@ -73,7 +73,16 @@ class Desk : public GatewayRig {
   }
 
   [[nodiscard]] MessagingServices services() {
-    return {state, threaded, notifier, box, renewal(), book.book(), log, file, templates, settings};
+    return {.state = state,
+            .gateway = threaded,
+            .notifier = notifier,
+            .progress = box,
+            .renewal = renewal(),
+            .addressBook = book.book(),
+            .statusLog = log,
+            .statusFile = file,
+            .templates = templates,
+            .settings = settings};
   }
 
   QStringList names;

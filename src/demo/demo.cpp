@@ -102,8 +102,13 @@ QString Demo::start() {
   if (temporary_ && !temporary_->isValid()) return temporary_->errorString();
   simulator::Options options;
   // The second is a subaccount of the first and has no receiving numbers.
-  options.accounts = {{user(), password(), 100.0, true, {}},
-                      {u"crew@"_s + user(), password(), 20.0, false, {}}};
+  options.accounts = {
+      {.user = user(), .password = password(), .balance = 100.0, .maySetSenderId = true, .email = {}},
+      {.user = u"crew@"_s + user(),
+       .password = password(),
+       .balance = 20.0,
+       .maySetSenderId = false,
+       .email = {}}};
   simulator_ = std::make_unique<simulator::Simulator>(options);
   if (!simulator_->start()) return simulator_->errorText();
   addPayments();

@@ -143,7 +143,7 @@ TEST_F(SmsPage, successfulSendClearsTheFormButKeepsTheChoices) {
   QTest::keyClicks(&editor(), "Hi");
   press("sendButton");
   ASSERT_THAT(sent, SizeIs(1));
-  EXPECT_EQ(sent.at(0).at(0).toString(), "SMS");
+  EXPECT_EQ(sent.at(0).at(0).value<MessageType>(), MessageType::Sms);
   const simulator::AcceptedMessage message = simulator.messages().at(0);
   EXPECT_EQ(message.rawText.toStdString(), "%%UNICODE%%00480069");
   EXPECT_TRUE(message.flash);

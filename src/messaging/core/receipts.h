@@ -12,8 +12,8 @@
 
 namespace parlexo {
 
-/// The gateway replies to a send with a list of receipts: one element "number:receipt" per recipient, separated
-/// by commas. The receipt of a failed number contains "FAIL".
+/// The gateway replies to a send with a list of receipts: one element "number:receipt" per recipient,
+/// separated by commas. The receipt of a failed number contains "FAIL".
 
 /// The status of an entry before the first query. Part of the status file's format, so not translated.
 [[nodiscard]] inline QString deliveredToGateway() {
