@@ -6,12 +6,10 @@
 #include "account/screens/settings_dlg.h"
 #include "addressbook/screens/add_contacts_menu.h"
 #include "addressbook/screens/contacts_page.h"
-#include "messaging/screens/fax_dlg.h"
-#include "messaging/screens/mms_dlg.h"
+#include "messaging/screens/file_page.h"
 #include "messaging/screens/send_page.h"
 #include "messaging/screens/sms_dlg.h"
 #include "messaging/screens/status_dlg.h"
-#include "messaging/screens/wap_dlg.h"
 
 namespace parlexo {
 
@@ -27,7 +25,7 @@ void showSentMessages(SendPage& page, CStatusDlg& status) {
 }
 
 void openStatusOnRequest(SendPage& page, CStatusDlg& status, CMainDlg& window) {
-  QObject::connect(&page, &SendPage::statusRequested, &window, [&status, &window](const QString& type) {
+  QObject::connect(&page, &SendPage::statusRequested, &window, [&status, &window](MessageType type) {
     status.selectType(type);
     window.openTab(statusTab);
   });

@@ -234,11 +234,11 @@ TEST_F(MainTabsTest, pagesTellEachOtherWhatWasSent) {
   auto* sms = window_.findChild<CQuillonSMSDlg*>();
   const auto* type = tabs->widget(7)->findChild<QComboBox*>();
 
-  Q_EMIT sms->messageSent(u"Fax"_s);
+  Q_EMIT sms->messageSent(MessageType::Fax);
   EXPECT_EQ(type->currentText(), u"Fax"_s);
   EXPECT_EQ(tabs->currentIndex(), 0);
 
-  Q_EMIT sms->statusRequested(u"SMS"_s);
+  Q_EMIT sms->statusRequested(MessageType::Sms);
   EXPECT_EQ(type->currentText(), u"SMS"_s);
   EXPECT_EQ(tabs->tabText(tabs->currentIndex()), u"Status"_s);
 }

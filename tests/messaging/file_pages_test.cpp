@@ -14,12 +14,10 @@
 #include <QSignalSpy>
 #include <gmock/gmock.h>
 
-#include "messaging/screens/fax_dlg.h"
-#include "messaging/screens/file_look.h"
+#include "messaging/screens/file_details.h"
+#include "messaging/screens/file_page.h"
 #include "messaging/screens/message_edit.h"
-#include "messaging/screens/mms_dlg.h"
 #include "messaging/screens/picture_preview.h"
-#include "messaging/screens/wap_dlg.h"
 #include "tests/messaging/page_rig.h"
 #include "tests/support/file_bytes.h"
 
@@ -88,11 +86,11 @@ TYPED_TEST(FilePages, clearThemselvesAfterASendThatSucceededAndOnlyThen) {
   EXPECT_NE(this->page.draft().displayList, "");
   this->press("sendButton");
   ASSERT_THAT(sent, SizeIs(1));
-  EXPECT_EQ(sent.at(0).at(0).toString(), this->page.typeWord());
+  EXPECT_EQ(sent.at(0).at(0).template value<MessageType>(), this->page.messageType());
   EXPECT_EQ(this->page.draft().path, "");
   EXPECT_EQ(this->page.draft().note, "");
   EXPECT_EQ(this->page.draft().displayList, "");
-  EXPECT_EQ(toWord(this->simulator.messages().at(0).type), this->page.typeWord());
+  EXPECT_EQ(this->simulator.messages().at(0).type, this->page.messageType());
 }
 
 TYPED_TEST(FilePages, aRefusalLeadsToItsField) {
@@ -104,7 +102,7 @@ TYPED_TEST(FilePages, aRefusalLeadsToItsField) {
 }
 
 TYPED_TEST(FilePages, tellAboutTheFileAndWhatHasBecomeOfIt) {
-  const bool isFax = this->page.typeWord() == "Fax";
+  const bool isFax = this->page.messageType() == MessageType::Fax;
   EXPECT_EQ(this->facts(), isFax ? "Choose a file of at most 2 KB, or drop one here."
                                  : "Choose a file of at most 1,000 bytes, or drop one here.");
   const QString chosenFile = this->write("photo.jpg", QByteArray(700, 'x'));
@@ -228,7 +226,7 @@ TEST_F(MmsPage, previewShowsAPictureUntilThePathChanges) {
   auto& preview = find<PicturePreview>("picturePreview");
   EXPECT_NE(factsOf(write("tall.png", pictureOf({40, 4000}, "png"))), "");
   ASSERT_FALSE(preview.pixmap().isNull());
-  EXPECT_EQ(preview.pixmap().height(), preview.room().height());
+  EXPECT_EQ(preview.pixmap().height(), preview.maxPictureSize().height());
   path().clear();
   EXPECT_TRUE(preview.pixmap().isNull());
   EXPECT_NE(factsOf(write("text.png", "no picture")), "");
@@ -253,10 +251,10 @@ TEST_F(MmsPage, smallPicturesAreMadeOfPicturesOnly) {
       {"nothing", "", {0, 0}},
   };
   for (const auto& sample : samples) {
-    const QImage picture = smallPicture(write("picture.png", sample.content), {100, 80});
+    const QImage picture = readThumbnail(write("picture.png", sample.content), {100, 80});
     EXPECT_EQ(picture.size(), sample.size) << sample.what;
   }
-  EXPECT_TRUE(smallPicture(folder.path(), {100, 80}).isNull());
+  EXPECT_TRUE(readThumbnail(folder.path(), {100, 80}).isNull());
 }
 
 }  // namespace

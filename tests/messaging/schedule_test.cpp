@@ -42,7 +42,7 @@ TEST(Schedule, namesTheSameInstantInBothTexts) {
     // What the C library was asked before must make no difference.
     for (const QDate before : {QDate(2026, 1, 15), QDate(2026, 7, 15)}) {
       (void)QDateTime(before, QTime(12, 0)).toSecsSinceEpoch();
-      const Schedule schedule = scheduleAt(instantOfLocalTime(clocks.date(), clocks.time()));
+      const Schedule schedule = scheduleAt(fromLocalTime(clocks.date(), clocks.time()));
       EXPECT_EQ(schedule.text.toStdString(), sample.local);
       EXPECT_EQ(schedule.value.toStdString(), sample.gmt);
       EXPECT_FALSE(schedule.isNow());

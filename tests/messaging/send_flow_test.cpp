@@ -4,7 +4,6 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "messaging/core/messaging_texts.h"
 #include "messaging/core/sms_send_flow.h"
 #include "tests/messaging/gateway_rig.h"
 

@@ -76,9 +76,9 @@ TEST_F(StatusQuery, aFailedReceiptIsSkippedAndReportedOnce) {
   EXPECT_THAT(journal,
               ElementsAre("(box)", "(no box)",
                           "An error occured while getting the status of the message.\r\nError code: 10"));
-  EXPECT_EQ(statusQueryText(outcome_), "2 could not be determined. 1 failed message was left out.");
+  EXPECT_EQ(outcome_.text(), "2 could not be determined. 1 failed message was left out.");
   query({receipts_[0]});
-  EXPECT_EQ(statusQueryText(outcome_), "");
+  EXPECT_EQ(outcome_.text(), "");
 }
 
 TEST_F(StatusQuery, aGatewayOutOfReachIsGivenUpAfterThreeReceipts) {
@@ -86,7 +86,7 @@ TEST_F(StatusQuery, aGatewayOutOfReachIsGivenUpAfterThreeReceipts) {
   query(receipts_ + receipts_);
   EXPECT_EQ(queries().size(), 3);
   EXPECT_THAT(notifier.takeTexts(), ElementsAre(unreachable));
-  EXPECT_EQ(statusQueryText(outcome_), "6 could not be determined.");
+  EXPECT_EQ(outcome_.text(), "6 could not be determined.");
   EXPECT_EQ(status(0), "Delivered to Gateway");
 }
 
@@ -97,7 +97,7 @@ TEST_F(StatusQuery, cancellingKeepsWhatWasReceivedAndShowsNoError) {
   EXPECT_EQ(status(0), "Queued at gateway");
   EXPECT_EQ(status(2), "Delivered to Gateway");
   EXPECT_THAT(notifier.takeTexts(), IsEmpty());
-  EXPECT_EQ(statusQueryText(outcome_), "Cancelled: 2 not asked for.");
+  EXPECT_EQ(outcome_.text(), "Cancelled: 2 not asked for.");
   EXPECT_FALSE(log.isModified());
 }
 
