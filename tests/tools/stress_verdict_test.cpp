@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The stress program is only worth something if it finds a store that breaks its promises.
+// Tests that the stress program detects a contact store that loses, tears or duplicates records.
 
 #include <fstream>
 #include <functional>
