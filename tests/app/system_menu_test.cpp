@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "app/system_menu.h"
+#include "app/platform.h"
 
 #include <windows.h>
 
