@@ -12,8 +12,8 @@ namespace parlexo {
 /// console that the program was started from, unless they are redirected.
 void prepareProcess();
 
-/// Adds a separator and an entry to the system menu of `window` (the menu of the icon in the title bar). A no-op
-/// if `text` is empty or the platform's windows have no system menu.
+/// Adds a separator and an entry to the system menu of `window` (the menu of the icon in the title bar). A
+/// no-op if `text` is empty or the platform's windows have no system menu.
 void addToSystemMenu(QWidget& window, const QString& text);
 
 /// Returns whether `message`, as passed to QWidget::nativeEvent(), means that the user chose that entry.

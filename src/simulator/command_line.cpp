@@ -138,8 +138,9 @@ struct OptionRule {
 constexpr std::array optionRules = {
     OptionRule{"port", "N", "Port to listen on, 0 for a free one (8080).", parsePort},
     OptionRule{"listen", "ADDRESS", "IP address to listen on (127.0.0.1).", parseAddress},
-    OptionRule{"account", "USER:PASSWORD[:BALANCE[:nosenderid]]",
-               "An account; can be repeated (demo:demo1234:100).", parseAccount},
+    OptionRule{"account", "ACCOUNT",
+               "An account as USER:PASSWORD[:BALANCE[:nosenderid]]; can be repeated (demo:demo1234:100).",
+               parseAccount},
     OptionRule{"latency", "MS", "Delay of every reply (0).",
                [](CommandLine& line, const QString& value) {
                  return parseMilliseconds(line.options.latency, value);

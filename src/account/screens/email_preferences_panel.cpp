@@ -23,7 +23,7 @@ namespace {
 
 constexpr int filterColumn = 3;  // of the grid, after the check boxes and a gap
 
-// Returns the text as it reaches the gateway, without characters that the code page lacks.
+// Returns the text as the gateway receives it: converted to the code page and back.
 QString toSentText(const QLineEdit& edit) {
   return throughCodePage(edit.text());
 }
