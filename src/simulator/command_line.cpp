@@ -160,9 +160,9 @@ constexpr std::array optionRules = {
                  line.options.news = value;
                  return QString();
                }},
-    OptionRule{"client-version", "TEXT", "Client version announced by the locator document (2.24).",
-               parseClientVersion},
-    OptionRule{"protocol-version", "N", "The reply of getVersion (103).", parseProtocolVersion},
+    OptionRule{"client-version", "TEXT",
+               "Client version announced by the locator document (the current one).", parseClientVersion},
+    OptionRule{"protocol-version", "N", "The reply of getVersion (the current one).", parseProtocolVersion},
     OptionRule{"fault", "FAULT", "A fault as described below; can be repeated.", parseFaultOption},
 };
 

@@ -10,6 +10,8 @@
 #include <QHostAddress>
 #include <QString>
 
+#include "base/product.h"
+
 namespace parlexo::simulator {
 
 /// An account's settings for messages sent by e-mail.
@@ -59,8 +61,8 @@ struct Options {
   int scheduleDaysAhead = 365;                           ///< how far in the future messages can be scheduled
   int maxFileSize = 2 * 1024 * 1024;                     ///< bytes, of fax and voice files
   int maxMobileFileSize = 50 * 1024;                     ///< bytes, of MMS and WAP files
-  QString clientVersion{QStringLiteral("2.24")};
-  int protocolVersion = 103;
+  QString clientVersion = QLatin1String(parlexo::clientVersion);
+  int protocolVersion = parlexo::protocolVersion;
   QString news;  ///< empty for a text about the simulator
   /// Returns the current time in UTC; replaceable for tests. Called from several threads.
   std::function<QDateTime()> now = [] { return QDateTime::currentDateTimeUtc(); };
