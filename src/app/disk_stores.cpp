@@ -18,7 +18,7 @@ bool DiskStores::loadContacts() {
 
 void DiskStores::loadStatusLog() {
   statusFile_.load(statusLog_, notifier_);
-  statusLogIsRead_ = true;
+  statusLogIsLoaded_ = true;
 }
 
 void DiskStores::releaseContacts() {
@@ -27,7 +27,7 @@ void DiskStores::releaseContacts() {
 }
 
 void DiskStores::saveStatusLog() {
-  if (statusLogIsRead_ && !statusFile_.save(statusLog_, StatusFile::IfLocked::WriteAnyway))
+  if (statusLogIsLoaded_ && !statusFile_.save(statusLog_, StatusFile::IfLocked::WriteAnyway))
     qWarning("The status log could not be written to %s", qUtf8Printable(statusFile_.path()));
 }
 

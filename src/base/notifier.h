@@ -50,4 +50,21 @@ class Notifier {
   Notifier& operator=(const Notifier&) = default;
 };
 
+/// The result of a message that is not shown because the user has suppressed it: No if the button bits are
+/// 1, 2 or 3, otherwise Ok (also for a plain yes/no question).
+[[nodiscard]] constexpr MessageResult suppressedResult(unsigned style) {
+  const unsigned buttons = style & message_style::buttonBits;
+  const bool hasAlternative = buttons == message_style::okCancel ||
+                              buttons == message_style::abortRetryIgnore ||
+                              buttons == message_style::yesNoCancel;
+  return hasAlternative ? MessageResult::No : MessageResult::Ok;
+}
+
+/// The result when the user closes a message with Escape or the close button.
+[[nodiscard]] constexpr MessageResult closeResult(unsigned style) {
+  const unsigned buttons = style & message_style::buttonBits;
+  if (buttons == message_style::yesNoCancel) return MessageResult::Cancel;
+  return buttons == message_style::yesNo ? MessageResult::No : MessageResult::Ok;
+}
+
 }  // namespace parlexo

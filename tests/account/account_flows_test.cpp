@@ -37,11 +37,10 @@ TEST(HistoryDate, isOrderedByTimeWhereItHasTheUsualForm) {
   const QStringList inOrder = {u"31/12/2025 23:59:59"_s, u"01/01/2026 00:00:00"_s, u"01/01/2026 00:00:01"_s,
                                u"01/01/2026 00:01:00"_s, u"01/01/2026 01:00:00"_s, u"02/01/2026 00:00:00"_s,
                                u"01/02/2026 00:00:00"_s};
-  for (int i = 1; i < inOrder.size(); ++i)
-    EXPECT_LT(historyDateOrder(inOrder[i - 1]), historyDateOrder(inOrder[i])) << i;
-  EXPECT_TRUE(historyDateOrder(inOrder[0]));
+  for (int i = 1; i < inOrder.size(); ++i) EXPECT_LT(toSortKey(inOrder[i - 1]), toSortKey(inOrder[i])) << i;
+  EXPECT_TRUE(toSortKey(inOrder[0]));
   for (const auto& other : {u"2026-01-01"_s, u"1/1/2026 10:00:00"_s, u"01/01/2026 10:00:0x"_s, QString()})
-    EXPECT_FALSE(historyDateOrder(other)) << other.toStdString();
+    EXPECT_FALSE(toSortKey(other)) << other.toStdString();
 }
 
 class AccountHistory : public testing::Test, protected AccountRig {};
@@ -50,7 +49,7 @@ TEST_F(AccountHistory, arrivesFieldByFieldOverTheWire) {
   const QDateTime date({2026, 1, 2}, {3, 4, 5}, Qt::UTC);
   simulator.rememberTransaction("demo", -0.05, date, u"SMS <to> Zoë & 1 €"_s);
   simulator.rememberTransaction("demo", 100, date.addDays(1), QString());
-  const auto records = AccountHistoryFlow(services()).load();
+  const auto records = fetchAccountHistory(services());
   ASSERT_TRUE(records);
   EXPECT_THAT(*records,
               ElementsAre(HistoryRecord{"1", "02/01/2026 03:04:05", "-0.05", u"SMS <to> Zoë & 1 €"_s},
@@ -61,7 +60,7 @@ TEST_F(AccountHistory, arrivesFieldByFieldOverTheWire) {
 TEST_F(AccountHistory, everyFailureIsToldByTheSameMessageAlone) {
   const auto failsWith = [this](const char* text) {
     journal.clear();
-    EXPECT_FALSE(AccountHistoryFlow(services()).load());
+    EXPECT_FALSE(fetchAccountHistory(services()));
     EXPECT_THAT(journal, ElementsAre("(box)", "(no box)", text));
     EXPECT_EQ(notifier.shown.back().style, message_style::stop);
   };
@@ -74,7 +73,6 @@ TEST_F(AccountHistory, everyFailureIsToldByTheSameMessageAlone) {
 
 class EmailPreferencesTest : public testing::Test, protected AccountRig {
  protected:
-  EmailPreferencesFlow flow{services()};
 };
 
 TEST_F(EmailPreferencesTest, everySettingArrivesInItsOwnPlaceAndComesBack) {
@@ -87,8 +85,8 @@ TEST_F(EmailPreferencesTest, everySettingArrivesInItsOwnPlaceAndComesBack) {
                             .stopsAtEndKeyword = flag == 2,
                             .isFiltered = flag == 3,
                             .addresses = {"a@b.example", "\"odd one\"@c.example", "d@e.example"}};
-    EXPECT_EQ(flow.save(wanted), EmailSaveOutcome::Saved);
-    EXPECT_EQ(flow.load(), wanted) << flag;
+    EXPECT_EQ(saveEmailPreferences(services(), wanted), EmailSaveOutcome::Saved);
+    EXPECT_EQ(fetchEmailPreferences(services()), wanted) << flag;
     const simulator::EmailPreferences held = simulator.emailPreferences("demo");
     EXPECT_EQ(held.splitLong, flag == 0);
     EXPECT_EQ(held.endAtDoubleLine, flag == 1);
@@ -102,7 +100,7 @@ TEST_F(EmailPreferencesTest, everySettingArrivesInItsOwnPlaceAndComesBack) {
 TEST_F(EmailPreferencesTest, failedSaveIsToldByWhatFailed) {
   const auto saveFails = [this](EmailSaveOutcome outcome, const char* text) {
     journal.clear();
-    EXPECT_EQ(flow.save({.isEnabled = true}), outcome);
+    EXPECT_EQ(saveEmailPreferences(services(), {.isEnabled = true}), outcome);
     EXPECT_THAT(journal, ElementsAre("(box)", "(no box)", text));
     EXPECT_EQ(notifier.shown.back().style, message_style::stop);
   };
@@ -143,7 +141,7 @@ TEST_F(News, needNoSessionAndAreUnchanged) {
 // "Words [address] words": what became a link stands in brackets.
 std::string marked(const char* news) {
   QString text;
-  for (const NewsPart& part : newsParts(QString::fromUtf8(news)))
+  for (const NewsPart& part : splitNews(QString::fromUtf8(news)))
     text += part.page.isEmpty() ? part.text : u"[%1]"_s.arg(part.text);
   return text.toStdString();
 }
@@ -175,7 +173,7 @@ constexpr char mismatch[] =
 class PasswordChange : public testing::Test, protected AccountRig {
  protected:
   std::optional<PasswordField> change(const PasswordDraft& draft) {
-    return PasswordChangeFlow(services()).change(draft);
+    return changePassword(services(), draft);
   }
 };
 
@@ -202,7 +200,7 @@ TEST_F(PasswordChange, brokenRulesAreToldInTheirOrderBeforeAnyCall) {
   }
   EXPECT_TRUE(operations().isEmpty());
   for (const char* good : {"abcde1", "abcdefghi1"})
-    EXPECT_FALSE(problemWith({"abcdef", good, good}).has_value()) << good;
+    EXPECT_FALSE(validate({"abcdef", good, good}).has_value()) << good;
 }
 
 TEST_F(PasswordChange, goodOneReachesTheGateway) {

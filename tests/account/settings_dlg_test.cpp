@@ -76,7 +76,7 @@ TEST_F(SettingsPage, incompletePreferencesLeadToWhatMayMiss) {
 }
 
 TEST_F(SettingsPage, refreshLoadsWhatStartUpMissedButKeepsWhatIsTyped) {
-  ASSERT_EQ(EmailPreferencesFlow(services()).save({.identityCode = u"held"_s}), EmailSaveOutcome::Saved);
+  ASSERT_EQ(saveEmailPreferences(services(), {.identityCode = u"held"_s}), EmailSaveOutcome::Saved);
   notifier.shown.clear();
   for (const auto& [kind, code] : {std::pair(FaultKind::Code, 7), {FaultKind::HttpError, 0}}) {
     simulator.clearFaults();

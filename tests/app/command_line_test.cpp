@@ -7,6 +7,10 @@
 namespace parlexo {
 namespace {
 
+auto parse(const QStringList& arguments) {
+  return parseCommandLine(QStringList("parlexo-client") + arguments);
+}
+
 TEST(CommandLine, setsTheOptions) {
   const struct {
     QStringList arguments;
@@ -16,11 +20,11 @@ TEST(CommandLine, setsTheOptions) {
   } cases[] = {
       {{"--site=http://[::1]:8081/", "--data-dir=/tmp/a=b"}, false, "http://[::1]:8081", "/tmp/a=b"},
       {{"--data-dir", "x"}, false, {}, QDir::currentPath() + "/x"},
-      {{"-platform", "offscreen", "-style=fusion", "--demo"}, true, {}, {}},
+      {{"-platform", "offscreen", "-style=fusion", "-reverse", "--demo"}, true, {}, {}},
   };
   for (const auto& each : cases) {
     SCOPED_TRACE(each.arguments.join(u' ').toStdString());
-    const auto parsed = parseCommandLine(each.arguments);
+    const auto parsed = parse(each.arguments);
     const auto* options = std::get_if<ProgramOptions>(&parsed);
     ASSERT_TRUE(options);
     EXPECT_EQ(options->demo, each.demo);
@@ -29,15 +33,18 @@ TEST(CommandLine, setsTheOptions) {
   }
 }
 
-TEST(CommandLine, endsWithACodeAndAText) {
+TEST(CommandLine, exitsEarlyWithACodeAndAText) {
   const struct {
     QStringList arguments;
     int exitCode;
     QString mentions;
   } cases[] = {
-      {{"--help"}, 0, "--data-dir DIR"},
+      {{"--help"}, 0, "--data-dir <DIR>"},
+      {{"-h"}, 0, "--site <http://HOST:PORT>"},
       {{"--version"}, 0, "Parlexo Client 2.24\n"},
-      {{"--demos"}, 2, "unknown option \"--demos\""},
+      {{"--demos"}, 2, "Unknown option 'demos'"},
+      {{"demo"}, 2, "unexpected argument \"demo\""},
+      {{"--data-dir"}, 2, "Missing value"},
       {{"--site", "--demo"}, 2, "option \"--site\" needs a value"},
       {{"--data-dir="}, 2, "option \"--data-dir\" needs a value"},
       {{"--site=https://a.example"}, 2, "is not a site"},
@@ -45,11 +52,11 @@ TEST(CommandLine, endsWithACodeAndAText) {
   };
   for (const auto& each : cases) {
     SCOPED_TRACE(each.arguments.join(u' ').toStdString());
-    const auto parsed = parseCommandLine(each.arguments);
-    const auto* end = std::get_if<ImmediateEnd>(&parsed);
-    ASSERT_TRUE(end);
-    EXPECT_EQ(end->exitCode, each.exitCode);
-    EXPECT_TRUE(end->output.contains(each.mentions)) << end->output.toStdString();
+    const auto parsed = parse(each.arguments);
+    const auto* exit = std::get_if<EarlyExit>(&parsed);
+    ASSERT_TRUE(exit);
+    EXPECT_EQ(exit->exitCode, each.exitCode);
+    EXPECT_TRUE(exit->output.contains(each.mentions)) << exit->output.toStdString();
   }
 }
 

@@ -23,7 +23,6 @@
 #include "app/login_dlg.h"
 #include "app/main_tabs.h"
 #include "app/notification_dlg.h"
-#include "app/notification_notifier.h"
 #include "app/program_screens.h"
 #include "connection/client/background_queue.h"
 #include "messaging/screens/sms_dlg.h"
@@ -222,10 +221,10 @@ class MainTabsTest : public testing::Test {
   BackgroundQueue queue_;
   BackgroundGateway background_{state_, queue_};
   ProgramScreens windows_{{state_, settings_, stores_, gateway_, background_, notifier_, progress_, runner_}};
-  CMainDlg window_{mainTabs({state_, gateway_, notifier_, progress_, windows_, stores_.addressBook(),
-                             stores_.statusLog(), stores_.statusFile(), stores_.templates(), settings_},
-                            {stores_.addressBook(), notifier_, progress_, settings_, runner_},
-                            {state_, settings_, gateway_, notifier_, progress_})};
+  CMainDlg window_{createMainTabs({state_, gateway_, notifier_, progress_, windows_, stores_.addressBook(),
+                                   stores_.statusLog(), stores_.statusFile(), stores_.templates(), settings_},
+                                  {stores_.addressBook(), notifier_, progress_, settings_, runner_},
+                                  {state_, settings_, gateway_, notifier_, progress_})};
 };
 
 TEST_F(MainTabsTest, pagesTellEachOtherWhatWasSent) {

@@ -14,7 +14,6 @@
 #include <gtest/gtest.h>
 
 #include "app/notification_dlg.h"
-#include "app/notification_notifier.h"
 #include "ui/look.h"
 
 namespace parlexo {

@@ -10,7 +10,6 @@
 #include <gtest/gtest.h>
 
 #include "app/core/login_flow.h"
-#include "app/core/shut_down.h"
 #include "connection/locator/gateway_search.h"
 #include "tests/app/run_fakes.h"
 #include "tests/support/fake_gateway.h"

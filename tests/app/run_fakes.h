@@ -9,7 +9,6 @@
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
-#include "app/core/run_stores.h"
 #include "app/core/start_up.h"
 #include "base/call_runner.h"
 #include "base/notifier.h"

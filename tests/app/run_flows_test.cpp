@@ -6,7 +6,6 @@
 
 #include "app/core/balance_check.h"
 #include "app/core/login_flow.h"
-#include "app/core/shut_down.h"
 #include "app/core/start_up.h"
 #include "base/message_texts.h"
 #include "tests/app/run_fakes.h"
@@ -48,7 +47,7 @@ TEST_F(BalanceCheckTest, amountIsShownAndJudged) {
   for (const auto& [balance, shown, told, isZero] : amounts) {
     state.balanceIsZero = false;
     journal.clear();
-    EXPECT_EQ(BalanceCheck(state, gateway, notifier, progress).take(balance), shown);
+    EXPECT_EQ(BalanceCheck(state, gateway, notifier, progress).report(balance), shown);
     EXPECT_EQ(journal, told) << balance;
     EXPECT_EQ(state.balanceIsZero, isZero) << balance;
   }

@@ -1,6 +1,4 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "app/system_menu.h"
-
 #include <windows.h>
 
 #include <array>
@@ -13,6 +11,7 @@
 
 #include "app/about_dlg.h"
 #include "app/main_dlg.h"
+#include "app/platform.h"
 
 namespace parlexo {
 namespace {

@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include <mutex>
+
 #include <QCryptographicHash>
 #include <gmock/gmock.h>
 
@@ -15,18 +17,37 @@ using std::chrono::seconds;
 using testing::HasSubstr;
 using testing::StartsWith;
 
+// Stands still until it is moved on; used from several threads.
+class ManualClock {
+ public:
+  explicit ManualClock(const QDateTime& now) : now_(now) {}
+
+  QDateTime now() const {
+    const std::lock_guard lock(mutex_);
+    return now_;
+  }
+  void advance(std::chrono::milliseconds time) {
+    const std::lock_guard lock(mutex_);
+    now_ = now_.addMSecs(time.count());
+  }
+
+ private:
+  mutable std::mutex mutex_;
+  QDateTime now_;
+};
+
 const QDateTime start(QDate(2026, 3, 1), QTime(12, 0), Qt::UTC);
 
 class GatewayOperations : public testing::Test {
  protected:
-  GatewayOperations() : clock_(std::make_shared<ManualClock>(start)), simulator_(options()) {
+  GatewayOperations() : simulator_(options()) {
     EXPECT_TRUE(simulator_.start());
     session_ = client().logIn();
   }
 
   Options options() {
     Options options;
-    options.clock = clock_;
+    options.now = [this] { return clock_.now(); };
     options.deliveryStep = seconds(10);
     options.sessionLifetime = std::chrono::minutes(30);
     options.log = [this](const QString& line) {
@@ -60,7 +81,7 @@ class GatewayOperations : public testing::Test {
     return valueOf(call(operation, fields), "nErrorCode");
   }
 
-  std::shared_ptr<ManualClock> clock_;
+  ManualClock clock_{start};
   std::mutex logMutex_;
   QString log_;
   Simulator simulator_;
@@ -83,9 +104,9 @@ TEST_F(GatewayOperations, everyNumberGetsItsOwnReceiptInOrderAndNumbersEndingIn9
 TEST_F(GatewayOperations, deliveryAdvancesWithTime) {
   const QByteArray receipt = valueOf(sendSms("Hello", "+61491570156"), "sListReciepts").split(':').last();
   EXPECT_EQ(valueOf(statusOfReceipt(receipt), "sStatus"), "Queued at gateway");
-  clock_->advance(seconds(10));
+  clock_.advance(seconds(10));
   EXPECT_EQ(valueOf(statusOfReceipt(receipt), "sStatus"), "Sent to network");
-  clock_->advance(seconds(10));
+  clock_.advance(seconds(10));
   EXPECT_EQ(valueOf(statusOfReceipt(receipt), "sStatus"), "Delivered to handset");
   EXPECT_EQ(valueOf(statusOfReceipt("FAIL"), "sStatus"), "Not accepted by gateway");
   EXPECT_EQ(valueOf(statusOfReceipt("nonsense"), "nErrorCode"), "10");
@@ -101,13 +122,13 @@ TEST_F(GatewayOperations, scheduledMessageWaitsForItsTime) {
   const QByteArray later = valueOf(sendSms("Later", "+61491570156"), "sListReciepts").split(':').last();
   EXPECT_EQ(codeOf("scheduleMessageDisable"), "0");
   const QByteArray now = valueOf(sendSms("Now", "+61491570156"), "sListReciepts").split(':').last();
-  clock_->advance(std::chrono::minutes(10));
+  clock_.advance(std::chrono::minutes(10));
   EXPECT_EQ(valueOf(statusOfReceipt(later), "sStatus"), "Queued at gateway");
   EXPECT_EQ(valueOf(statusOfReceipt(now), "sStatus"), "Delivered to handset");
-  clock_->advance(std::chrono::minutes(25));
+  clock_.advance(std::chrono::minutes(25));
   EXPECT_EQ(valueOf(statusOfReceipt(later), "sStatus"), "Queued at gateway");
-  clock_->advance(std::chrono::minutes(25));
-  clock_->advance(seconds(10));
+  clock_.advance(std::chrono::minutes(25));
+  clock_.advance(seconds(10));
   EXPECT_EQ(valueOf(statusOfReceipt(later), "sStatus"), "Sent to network");
 
   for (const char* bad : {"2027/03/02 00:00:00", "2026/3/1 13:00:00", "2026/02/30 13:00:00", "",
@@ -117,11 +138,11 @@ TEST_F(GatewayOperations, scheduledMessageWaitsForItsTime) {
 
 TEST_F(GatewayOperations, sessionsExpireByTimeOnDemandAndAtTheirEnd) {
   const auto balanceCode = [this] { return codeOf("getAccountBalance"); };
-  clock_->advance(std::chrono::minutes(29));
+  clock_.advance(std::chrono::minutes(29));
   EXPECT_EQ(balanceCode(), "0");
-  clock_->advance(std::chrono::minutes(29));
+  clock_.advance(std::chrono::minutes(29));
   EXPECT_EQ(balanceCode(), "0") << "use begins the lifetime anew";
-  clock_->advance(std::chrono::minutes(30));
+  clock_.advance(std::chrono::minutes(30));
   EXPECT_EQ(balanceCode(), "7");
 
   session_ = client().logIn();

@@ -83,7 +83,7 @@ class LoggedInRig {
     fault.kind = kind;
     fault.operation = operation;
     fault.number = number;
-    if (!simulator.setFault(fault)) qFatal("%s", qPrintable(simulator::problemWith(fault)));
+    if (!simulator.setFault(fault)) qFatal("%s", qPrintable(simulator::findProblem(fault)));
   }
 
   [[nodiscard]] Progress& progress() { return journalProgress_; }

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "tour/tour_hands.h"
+#include "tour/window_driver.h"
 
 #include <QAbstractButton>
 #include <QAbstractItemView>
@@ -13,7 +13,7 @@
 
 #include "ui/gradient_page.h"
 
-namespace parlexo::hands {
+namespace parlexo::driver {
 
 using namespace Qt::StringLiterals;
 
@@ -30,25 +30,26 @@ void pressKey(QWidget* receiver, int key, const QString& text = {}) {
   }
 }
 
-void click(QWidget* receiver, QPointF place) {
+void clickAt(QWidget* receiver, QPointF position) {
   const auto buttons = {Qt::LeftButton, Qt::NoButton};
   auto type = QEvent::MouseButtonPress;
-  for (const auto held : buttons) {
-    QMouseEvent event(type, place, receiver->mapToGlobal(place), Qt::LeftButton, held, Qt::NoModifier);
+  for (const auto pressed : buttons) {
+    QMouseEvent event(type, position, receiver->mapToGlobal(position), Qt::LeftButton, pressed,
+                      Qt::NoModifier);
     QApplication::sendEvent(receiver, &event);
     type = QEvent::MouseButtonRelease;
   }
 }
 
-QAbstractItemView* listCalled(QWidget* window, const QString& name) {
+QAbstractItemView* findList(QWidget* window, const QString& name) {
   for (auto* view : window->findChildren<QAbstractItemView*>()) {
     if (view->accessibleName() == name && view->isVisible() && view->isEnabled()) return view;
   }
   return nullptr;
 }
 
-// The control that a label belongs to, found as a screen reader finds it.
-QWidget* labelled(QWidget* window, const QString& label) {
+// Finds a control by the label that it is the buddy of.
+QWidget* findControl(QWidget* window, const QString& label) {
   for (const auto* candidate : window->findChildren<QLabel*>()) {
     if (withoutMnemonic(candidate->text()) == label && candidate->isVisible()) return candidate->buddy();
   }
@@ -57,24 +58,25 @@ QWidget* labelled(QWidget* window, const QString& label) {
 
 }  // namespace
 
-QWidget* windowInFront(const QString& title) {
+QWidget* frontWindowTitled(const QString& title) {
   QWidget* front = frontWindow();
   return front && front->isVisible() && front->windowTitle().startsWith(title) ? front : nullptr;
 }
 
 bool typeInto(QWidget* window, const QString& label, const QString& text) {
-  QWidget* control = labelled(window, label);
+  QWidget* control = findControl(window, label);
   if (!control || !control->isEnabled()) return false;
   control->setFocus();
-  // In one piece, as an input method does: a list of completions that opens half-way would take the rest.
+  // One event for the whole text, like from an input method: a completion popup that opens in between would
+  // receive the rest.
   pressKey(control, 0, text);
   return true;
 }
 
-bool press(QWidget* window, const QString& buttonText) {
+bool click(QWidget* window, const QString& buttonText) {
   for (auto* button : window->findChildren<QAbstractButton*>()) {
     if (button->text() != buttonText || !button->isVisible() || !button->isEnabled()) continue;
-    click(button, QRectF(button->rect()).center());
+    clickAt(button, QRectF(button->rect()).center());
     return true;
   }
   return false;
@@ -90,7 +92,7 @@ bool toggle(QWidget* window, const QString& boxText) {
   return false;
 }
 
-bool showTab(QWidget* window, const QString& text) {
+bool openTab(QWidget* window, const QString& text) {
   auto* tabs = window->findChild<QTabWidget*>();
   for (int i = 0; tabs && i < tabs->count(); ++i) {
     if (withoutMnemonic(tabs->tabText(i)) != text) continue;
@@ -100,8 +102,8 @@ bool showTab(QWidget* window, const QString& text) {
   return false;
 }
 
-bool tick(QWidget* window, const QString& list, const QString& name) {
-  QAbstractItemView* view = listCalled(window, list);
+bool toggleRow(QWidget* window, const QString& list, const QString& name) {
+  QAbstractItemView* view = findList(window, list);
   for (int row = 0; view && row < view->model()->rowCount(view->rootIndex()); ++row) {
     const QModelIndex named = view->model()->index(row, 1, view->rootIndex());
     if (named.data().toString() != name) continue;
@@ -113,29 +115,29 @@ bool tick(QWidget* window, const QString& list, const QString& name) {
   return false;
 }
 
-bool reads(QWidget* window, const QString& words) {
+bool showsText(QWidget* window, const QString& text) {
   QStringList texts;
   for (const auto* label : window->findChildren<QLabel*>())
     if (label->isVisible()) texts << label->text();
   for (const auto* field : window->findChildren<QPlainTextEdit*>())
     if (field->isVisible()) texts << field->toPlainText();
-  return texts.join(u'\n').contains(words);
+  return texts.join(u'\n').contains(text);
 }
 
 bool selectAll(QWidget* window, const QString& list) {
-  QAbstractItemView* view = listCalled(window, list);
+  QAbstractItemView* view = findList(window, list);
   if (!view || view->model()->rowCount(view->rootIndex()) == 0) return false;
   view->selectAll();
   return true;
 }
 
-QString readList(QWidget* window, const QString& list, int column) {
+QString readColumn(QWidget* window, const QString& list, int column) {
   QStringList cells;
-  QAbstractItemView* view = listCalled(window, list);
+  QAbstractItemView* view = findList(window, list);
   for (int row = 0; view && row < view->model()->rowCount(view->rootIndex()); ++row) {
     cells += view->model()->index(row, column, view->rootIndex()).data().toString();
   }
   return cells.join(u", "_s);
 }
 
-}  // namespace parlexo::hands
+}  // namespace parlexo::driver
