@@ -51,7 +51,7 @@ const Town& town() {
 }
 
 ContactSelection everybody() {
-  SelectionLists lists(town().book(), u"All"_s, {});
+  SelectionLists lists(town().book(), SelectionMode::All, {});
   lists.setGroupTicked(0, true);
   return lists.tickedContacts();
 }
@@ -69,7 +69,7 @@ void openDialog(benchmark::State& state) {
   RecordingNotifier notifier;
   town();
   for (auto step : state) {
-    CSelectContactsDlg dialog(town().book(), u"SMS"_s, initial, notifier);
+    CSelectContactsDlg dialog(town().book(), SelectionMode::Sms, initial, notifier);
     showAndPaint(dialog);
   }
 }
@@ -78,7 +78,7 @@ BENCHMARK(openDialog)->Arg(0)->Arg(1)->Unit(benchmark::kMillisecond);
 /// From the tick of the group to the repainted list.
 void tickGroupOf50000(benchmark::State& state) {
   RecordingNotifier notifier;
-  CSelectContactsDlg dialog(town().book(), u"SMS"_s, {}, notifier);
+  CSelectContactsDlg dialog(town().book(), SelectionMode::Sms, {}, notifier);
   showAndPaint(dialog);
   QAbstractItemModel& groups = *dialog.findChild<CheckListView*>(u"groupList"_s)->model();
   bool isTicked = false;
@@ -93,7 +93,7 @@ BENCHMARK(tickGroupOf50000)->Unit(benchmark::kMillisecond);
 /// The space bar with all rows selected, to the repainted list.
 void tickAllSelectedRows(benchmark::State& state) {
   RecordingNotifier notifier;
-  CSelectContactsDlg dialog(town().book(), u"SMS"_s, {}, notifier);
+  CSelectContactsDlg dialog(town().book(), SelectionMode::Sms, {}, notifier);
   showAndPaint(dialog);
   auto& view = *dialog.findChild<CheckListView*>(u"contactList"_s);
   view.selectAll();
@@ -108,7 +108,7 @@ BENCHMARK(tickAllSelectedRows)->Unit(benchmark::kMillisecond);
 /// The typed beginning of a name that nobody has: every name is looked at.
 void searchForMissingName(benchmark::State& state) {
   RecordingNotifier notifier;
-  CSelectContactsDlg dialog(town().book(), u"SMS"_s, {}, notifier);
+  CSelectContactsDlg dialog(town().book(), SelectionMode::Sms, {}, notifier);
   auto& view = *dialog.findChild<CheckListView*>(u"contactList"_s);
   for (auto step : state) view.keyboardSearch(u"z"_s);
 }
@@ -120,7 +120,7 @@ const char* const typings[] = {"ann 0123", "+614000", "eva city 7", "zq"};
 /// Every keystroke in the search field, to the laid out and repainted list; the argument picks the typing.
 void searchByKeystrokes(benchmark::State& state) {
   RecordingNotifier notifier;
-  CSelectContactsDlg dialog(town().book(), u"SMS"_s, {}, notifier);
+  CSelectContactsDlg dialog(town().book(), SelectionMode::Sms, {}, notifier);
   showAndPaint(dialog);
   auto& view = *dialog.findChild<CheckListView*>(u"contactList"_s);
   auto& search = *dialog.findChild<QLineEdit*>(u"contactSearch"_s);
@@ -138,7 +138,7 @@ BENCHMARK(searchByKeystrokes)->DenseRange(0, 3)->Unit(benchmark::kMillisecond);
 /// From nothing found back to all contacts in the repainted list.
 void clearSearch(benchmark::State& state) {
   RecordingNotifier notifier;
-  CSelectContactsDlg dialog(town().book(), u"SMS"_s, everybody(), notifier);
+  CSelectContactsDlg dialog(town().book(), SelectionMode::Sms, everybody(), notifier);
   showAndPaint(dialog);
   auto& view = *dialog.findChild<CheckListView*>(u"contactList"_s);
   auto& search = *dialog.findChild<QLineEdit*>(u"contactSearch"_s);
@@ -153,8 +153,8 @@ BENCHMARK(clearSearch)->Unit(benchmark::kMillisecond);
 /// The same keystrokes with Qt's own filter between the same rows and the same kind of view. It looks at
 /// the names and numbers alone, for one text instead of words.
 void searchWithProxyModel(benchmark::State& state) {
-  SelectionLists lists(town().book(), u"SMS"_s, {});
-  ContactListModel model(lists, u"SMS"_s);
+  SelectionLists lists(town().book(), SelectionMode::Sms, {});
+  ContactListModel model(lists, SelectionMode::Sms);
   QSortFilterProxyModel filter;
   filter.setSourceModel(&model);
   filter.setFilterCaseSensitivity(Qt::CaseInsensitive);
@@ -176,9 +176,9 @@ BENCHMARK(searchWithProxyModel)->DenseRange(0, 3)->Unit(benchmark::kMillisecond)
 
 /// Making 100,000 contacts ready to be searched, which the dialog does once.
 void prepareSearch(benchmark::State& state) {
-  SelectionLists lists(town().book(), u"SMS"_s, {});
+  SelectionLists lists(town().book(), SelectionMode::Sms, {});
   for (auto step : state) {
-    ContactListModel model(lists, u"SMS"_s);
+    ContactListModel model(lists, SelectionMode::Sms);
     model.search(u"zq"_s);
   }
 }
@@ -186,7 +186,7 @@ BENCHMARK(prepareSearch)->Unit(benchmark::kMillisecond);
 
 /// "Select" with 50,000 ticked contacts.
 void collectTicked(benchmark::State& state) {
-  SelectionLists lists(town().book(), u"SMS"_s, everybody());
+  SelectionLists lists(town().book(), SelectionMode::Sms, everybody());
   for (auto step : state) benchmark::DoNotOptimize(lists.tickedContacts());
 }
 BENCHMARK(collectTicked)->Unit(benchmark::kMillisecond);

@@ -195,7 +195,7 @@ TEST(ContactExport, isReadBackByTheImportUnchanged) {
                     {"=1+1", "a;b", "-", "@x", "1,5", "tab"});
   sample.addContact("+Plus", "", "N", "Y", "+61255501234", {"001", "", "", "", "", "'"});
   sample.addContact("Smith (42)", "+14155552671");
-  const CsvWriter csv = contactsAsCsv(sortedContacts(sample.book(), eligibilityFor(u"All")));
+  const CsvWriter csv = contactsAsCsv(sortedContacts(sample.book(), SelectionMode::All));
   const QTemporaryDir folder;
   const QString path = folder.filePath("out.csv");
   ASSERT_EQ(csv.save(path), "");
@@ -210,7 +210,7 @@ TEST(ContactExport, isReadBackByTheImportUnchanged) {
     EXPECT_EQ(read.refusal, "");
     readBack.book().saveContact(newContact(read, plan), false);
   }
-  EXPECT_EQ(contactsAsCsv(sortedContacts(readBack.book(), eligibilityFor(u"All"))).bytes(), csv.bytes());
+  EXPECT_EQ(contactsAsCsv(sortedContacts(readBack.book(), SelectionMode::All)).bytes(), csv.bytes());
   EXPECT_EQ(exportName({Kind::Group, "Parents/Carers: A?"}), "Parents_Carers_ A_");
 }
 

@@ -46,11 +46,11 @@ ContactForm::ContactForm(ContactRecord contact, NameTest isNameTaken)
     : contact_(std::move(contact)), isNameTaken_(std::move(isNameTaken)), isNew_(contact_.name.isEmpty()) {}
 
 bool ContactForm::supportsSms() const {
-  return eligibilityFor(u"SMS")(contact_);
+  return isEligible(contact_, SelectionMode::Sms);
 }
 
 bool ContactForm::supportsMedia() const {
-  return eligibilityFor(u"Media")(contact_);
+  return isEligible(contact_, SelectionMode::Media);
 }
 
 std::optional<ContactProblem> ContactForm::take(const ContactRecord& typed) {

@@ -11,7 +11,7 @@ namespace parlexo {
 
 void ContactIndex::read() {
   forget();
-  contacts_ = sortedContacts(book_, [](const ContactRecord&) { return true; });
+  contacts_ = sortedContacts(book_, SelectionMode::All);
   placeOf_.reserve(contacts_.size());
   for (std::size_t place = 0; place < contacts_.size(); ++place) {
     placeOf_.emplace(contacts_[place], place);

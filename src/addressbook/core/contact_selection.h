@@ -4,22 +4,22 @@
 #include <vector>
 
 #include <QString>
-#include <QStringView>
 
 #include "contacts/contact_record.h"
 
 namespace parlexo {
 
-/// Whether one contact can be picked.
-using Eligibility = bool (*)(const ContactRecord& contact);
+/// Which contacts a list offers.
+enum class SelectionMode {
+  All,
+  Sms,    ///< those that accept SMS
+  Media,  ///< those that accept MMS and WAP push
+  Fax,    ///< those with a fax number
+  Phone,  ///< those with a phone number
+};
 
-/// The rule that belongs to a selection mode: "All", "SMS", "Media", "Fax" or "Phone", in exactly this
-/// spelling. Any other text gives a rule that no contact passes.
-[[nodiscard]] Eligibility eligibilityFor(QStringView mode);
-
-/// Whether a list for `mode` shows the contacts' fax numbers instead of their phone numbers. Here "Fax" is
-/// recognised without regard to case.
-[[nodiscard]] bool showsFaxNumbers(QStringView mode);
+/// Returns whether a list in `mode` offers `contact`.
+[[nodiscard]] bool isEligible(const ContactRecord& contact, SelectionMode mode);
 
 /// A set of picked contacts in the order of the selection dialog's list: by name without regard to case,
 /// names that differ only in case by their characters' numbers. It does not own the contacts; they must

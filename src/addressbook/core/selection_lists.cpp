@@ -16,8 +16,8 @@ void RowSpan::include(int row) {
   *this = isEmpty() ? RowSpan{row, row} : RowSpan{std::min(first, row), std::max(last, row)};
 }
 
-SelectionLists::SelectionLists(const AddressBook& book, const QString& mode, const ContactSelection& initial)
-    : contacts_(sortedContacts(book, eligibilityFor(mode))),
+SelectionLists::SelectionLists(const AddressBook& book, SelectionMode mode, const ContactSelection& initial)
+    : contacts_(sortedContacts(book, mode)),
       contactTicks_(contacts_.size(), false),
       groups_(sortedGroups(book)),
       groupTicks_(groups_.size(), false) {

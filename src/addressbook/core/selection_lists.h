@@ -30,7 +30,7 @@ class SelectionLists {
  public:
   /// Lists all groups, unticked, and the contacts that are eligible for `mode`; those whose names are in
   /// `initial` are ticked.
-  SelectionLists(const AddressBook& book, const QString& mode, const ContactSelection& initial);
+  SelectionLists(const AddressBook& book, SelectionMode mode, const ContactSelection& initial);
 
   [[nodiscard]] int contactCount() const { return static_cast<int>(contacts_.size()); }
   [[nodiscard]] const ContactRecord& contact(int row) const { return *contacts_[row]; }

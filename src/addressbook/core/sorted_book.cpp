@@ -6,11 +6,11 @@
 
 namespace parlexo {
 
-ContactSelection::Contacts sortedContacts(const AddressBook& book, Eligibility isEligible) {
+ContactSelection::Contacts sortedContacts(const AddressBook& book, SelectionMode mode) {
   ContactSelection::Contacts contacts;
   contacts.reserve(book.contacts().size());
   for (const auto& [name, contact] : book.contacts()) {
-    if (isEligible(contact)) contacts.push_back(&contact);
+    if (isEligible(contact, mode)) contacts.push_back(&contact);
   }
   sortByName(contacts, [](const ContactRecord* contact) { return contact->name; });
   return contacts;

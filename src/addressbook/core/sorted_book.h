@@ -11,8 +11,8 @@ namespace parlexo {
 
 class AddressBook;
 
-/// The contacts of `book` that are eligible, in the order of every list: by name, without regard to case.
-[[nodiscard]] ContactSelection::Contacts sortedContacts(const AddressBook& book, Eligibility isEligible);
+/// The contacts of `book` that a list in `mode` offers, in the order of every list: by name, ignoring case.
+[[nodiscard]] ContactSelection::Contacts sortedContacts(const AddressBook& book, SelectionMode mode);
 
 /// All groups of `book` in the same order.
 [[nodiscard]] std::vector<const GroupFile*> sortedGroups(const AddressBook& book);

@@ -8,10 +8,10 @@ namespace parlexo {
 
 using namespace Qt::StringLiterals;
 
-ContactListModel::ContactListModel(SelectionLists& lists, const QString& mode, QObject* parent)
+ContactListModel::ContactListModel(SelectionLists& lists, SelectionMode mode, QObject* parent)
     : CheckListModel({u"Select"_s, u"Name"_s, u"Phone"_s}, lists.contactCount(), parent),
       lists_(lists),
-      showsFax_(showsFaxNumbers(mode)) {}
+      showsFax_(mode == SelectionMode::Fax) {}
 
 QString ContactListModel::entryCell(int entry, int column) const {
   const ContactRecord& contact = lists_.contact(entry);

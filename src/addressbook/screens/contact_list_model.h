@@ -14,7 +14,7 @@ class ContactListModel final : public CheckListModel {
  public:
   /// `lists` must outlive the model; `mode` decides whether phone or fax numbers are shown,
   /// in a column that is called "Phone" either way.
-  ContactListModel(SelectionLists& lists, const QString& mode, QObject* parent = nullptr);
+  ContactListModel(SelectionLists& lists, SelectionMode mode, QObject* parent = nullptr);
 
  private:
   [[nodiscard]] QString entryCell(int entry, int column) const override;

@@ -31,8 +31,8 @@ QString headingOf(Column column) {
   return {};
 }
 
-QString yesOrNo(const ContactRecord& contact, QStringView mode) {
-  return eligibilityFor(mode)(contact) ? u"yes"_s : u"no"_s;
+QString yesOrNo(const ContactRecord& contact, SelectionMode mode) {
+  return isEligible(contact, mode) ? u"yes"_s : u"no"_s;
 }
 
 QString cellOf(const ContactRecord& contact, Column column) {
@@ -42,9 +42,9 @@ QString cellOf(const ContactRecord& contact, Column column) {
     case Column::PhoneColumn:
       return contact.phone;
     case Column::SmsColumn:
-      return yesOrNo(contact, u"SMS");
+      return yesOrNo(contact, SelectionMode::Sms);
     case Column::MediaColumn:
-      return yesOrNo(contact, u"Media");
+      return yesOrNo(contact, SelectionMode::Media);
     case Column::FaxColumn:
       return contact.fax;
     case Column::columnTotal:

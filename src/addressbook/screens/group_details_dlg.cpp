@@ -165,7 +165,7 @@ QLayout* CGroupDetailsDlg::buttonColumn() {
 }
 
 void CGroupDetailsDlg::select() {
-  CSelectContactsDlg dialog(services_.book, u"All"_s, draft_.selection(), services_.notifier, this);
+  CSelectContactsDlg dialog(services_.book, SelectionMode::All, draft_.selection(), services_.notifier, this);
   if (dialog.exec() != QDialog::Accepted) return;
   const QStringList selected = list_->selectedNames();
   draft_.setSelection(dialog.selection());

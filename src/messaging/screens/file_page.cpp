@@ -31,16 +31,12 @@ constexpr int counterDigits = 5;
 constexpr int fewestNoteLines = 3;  // on the smallest screen
 constexpr int noteMargins = 12;     // above and below the lines together
 
-QString mediaMode() {
-  return u"Media"_s;
-}
-
 }  // namespace
 
 /// In what the pages differ.
 struct FilePage::Kind {
   QString objectName;
-  QString selectionMode;
+  SelectionMode selectionMode;
   RecipientNumber number;
   QString fileLabel;
   QString noteLabel;  ///< empty for a page without a note
@@ -52,10 +48,10 @@ struct FilePage::Kind {
 
 const FilePage::Kind& FilePage::kindOf(FileKind kind) {
   // A contact's fax has a number of its own, and many a contact has nothing but that.
-  static const Kind fax = {u"faxPage"_s, u"Fax"_s, RecipientNumber::Fax, u"Fax &file:"_s, {}, 0, false,
-                           true,         false};
+  static const Kind fax = {
+      u"faxPage"_s, SelectionMode::Fax, RecipientNumber::Fax, u"Fax &file:"_s, {}, 0, false, true, false};
   static const Kind mms = {u"mmsPage"_s,
-                           mediaMode(),
+                           SelectionMode::Media,
                            RecipientNumber::Phone,
                            u"Media &file:"_s,
                            u"&Description:"_s,
@@ -64,7 +60,7 @@ const FilePage::Kind& FilePage::kindOf(FileKind kind) {
                            false,
                            true};
   static const Kind wap = {u"wapPage"_s,
-                           mediaMode(),
+                           SelectionMode::Media,
                            RecipientNumber::Phone,
                            u"WAP &file:"_s,
                            u"Sender &Note:"_s,

@@ -4,6 +4,7 @@
 #include <QString>
 #include <QStringList>
 
+#include "addressbook/core/contact_selection.h"
 #include "messaging/core/messaging_services.h"
 #include "messaging/core/recipients.h"
 #include "messaging/core/send_calls.h"
@@ -22,8 +23,8 @@ class UnansweredNotice;
 
 /// In what the pages that send messages differ, their messages apart.
 struct SendPageKind {
-  QString typeWord;       ///< the kind of message in the status log
-  QString selectionMode;  ///< which contacts the selection offers
+  QString typeWord;                                  ///< the kind of message in the status log
+  SelectionMode selectionMode = SelectionMode::All;  ///< which contacts the selection offers
   RecipientNumber number = RecipientNumber::Phone;
   SenderIdUse senderIdUse = SenderIdUse::Set;
 };

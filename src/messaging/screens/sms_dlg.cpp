@@ -37,10 +37,6 @@ bool isRecounting = false;
 constexpr int counterCharacters = 5;
 constexpr int controlSpacing = 6;
 
-QString smsWord() {
-  return u"SMS"_s;
-}
-
 struct Choice {
   QString text;
   QString objectName;
@@ -66,7 +62,7 @@ QGroupBox* choiceBox(const QString& title, const QString& groupName, const Choic
 }  // namespace
 
 CQuillonSMSDlg::CQuillonSMSDlg(const MessagingServices& services, QWidget* parent)
-    : SendPage(services, {smsWord(), smsWord()}, parent), flow_(services) {
+    : SendPage(services, {u"SMS"_s, SelectionMode::Sms}, parent), flow_(services) {
   setObjectName(u"smsPage"_s);
   // Everything is created in reading order, which makes it the order of the Tab key too.
   auto* message = new QHBoxLayout;
