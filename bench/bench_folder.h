@@ -7,7 +7,6 @@
 #include <QString>
 #include <QTemporaryDir>
 
-#include "base/notifier.h"
 #include "base/progress.h"
 #include "contacts/samples/sample_contacts.h"
 
@@ -16,16 +15,6 @@ namespace parlexo {
 /// What the benchmarks of the contact store share.
 
 inline constexpr int groupTotal = 100;
-
-class MessageCounter final : public Notifier {
- public:
-  MessageResult show(const QString& /*text*/, unsigned /*style*/, int /*suppressibleNumber*/) override {
-    ++count;
-    return MessageResult::Ok;
-  }
-
-  int count = 0;
-};
 
 class NoProgress final : public Progress {
  public:

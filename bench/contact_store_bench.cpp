@@ -43,14 +43,15 @@ int sizeOf(const benchmark::State& state) {
 
 void loadStore(benchmark::State& state) {
   const BenchFolder& folder = BenchFolder::of(sizeOf(state));
-  MessageCounter notifier;
   NoProgress progress;
   SleepingLockWaiter waiter;
   for (auto step : state) {
     ItemIndexCache cache;
     ItemDatabase database(cache, waiter);
-    AddressBook book(folder.path(), database, notifier);
-    const bool isWhole = book.loadAll(progress) && notifier.count == 0 &&
+    AddressBook book(folder.path(), database);
+    int errors = 0;
+    const auto countError = [&errors](const StoreError& /*error*/) { ++errors; };
+    const bool isWhole = book.loadAll(progress, countError) && errors == 0 &&
                          book.contacts().size() >= std::size_t(sizeOf(state)) &&
                          book.groups().size() == groupTotal + 1;
     state.PauseTiming();

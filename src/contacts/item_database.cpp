@@ -6,7 +6,6 @@
 #include <vector>
 
 #include "contacts/database_operation.h"
-#include "contacts/zero_ended.h"
 
 namespace parlexo {
 

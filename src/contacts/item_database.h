@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <algorithm>
 #include <functional>
 #include <optional>
 
@@ -15,6 +16,11 @@
 #include "contacts/shared_file.h"
 
 namespace parlexo {
+
+/// Returns the bytes of a fixed-width field up to its first zero byte, or all of them if the field is full.
+[[nodiscard]] inline QByteArrayView untilZero(QByteArrayView bytes) {
+  return bytes.first(std::find(bytes.begin(), bytes.end(), '\0') - bytes.begin());
+}
 
 /// Reads and writes flat files of fixed-size records, each with a state byte and a fixed-width text key
 /// (docs/file-formats.md), that several users may share on a network folder. Every operation opens the

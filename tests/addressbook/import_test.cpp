@@ -42,9 +42,10 @@ class ScriptedUser final : public ImportUser {
 class ContactImportTest : public test::DiskBook {
  protected:
   ContactImportTest() {
-    book_.saveContact({"Ann", "+61491570156", "N", "Y", "+61255501234", "ann@example.com", {"old", "kept"}});
-    book_.createGroup("Team");
-    book_.createGroup("Other", {"Ann"});
+    EXPECT_TRUE(book_.saveContact(
+        {"Ann", "+61491570156", "N", "Y", "+61255501234", "ann@example.com", {"old", "kept"}}));
+    EXPECT_TRUE(book_.createGroup("Team"));
+    EXPECT_TRUE(book_.createGroup("Other", {"Ann"}));
   }
 
   Sheet sheetOf(const QByteArray& text) {
@@ -60,7 +61,7 @@ class ContactImportTest : public test::DiskBook {
     plan_.columns = suggestColumns(sheet_, plan_.headingRow);
     plan_.group = group;
     EXPECT_EQ(planProblem(plan_), QString());
-    return importContacts(sheet_, plan_, book_, user_);
+    return importContacts(sheet_, plan_, book_, user_, notifier_);
   }
 
   [[nodiscard]] QString describe(const QString& name) const {
@@ -203,7 +204,7 @@ TEST_F(ContactImportTest, stopsWhereTheUserOrTheDiskStopsIt) {
   loseFolder();
   user_.answer = {ImportUser::Choice::Overwrite, true};
   for (const Sheet& failing : sheets) {
-    outcome = importContacts(failing, plan_, book_, user_);
+    outcome = importContacts(failing, plan_, book_, user_, notifier_);
     EXPECT_EQ(outcome.end, ImportOutcome::End::WriteFailed);
     EXPECT_EQ(outcome.updated + outcome.imported, 0);
     EXPECT_THAT(summaryText(outcome).toStdString(), HasSubstr("stopped at row 2,"));

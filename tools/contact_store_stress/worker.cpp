@@ -8,7 +8,6 @@
 #include <QByteArray>
 #include <QString>
 
-#include "base/notifier.h"
 #include "base/progress.h"
 #include "contacts/address_book.h"
 #include "contacts/contact_file_format.h"
@@ -137,20 +136,6 @@ void deleteContact(JournaledStore& contacts, JournaledStore& members, const std:
   members.erase(key);
 }
 
-// A starting program shows no message.
-class ComplainingNotifier final : public Notifier {
- public:
-  explicit ComplainingNotifier(JournalWriter& journal) : journal_(journal) {}
-
-  MessageResult show(const QString& text, unsigned /*style*/, int /*number*/) override {
-    journal_.complain(text.toStdString());
-    return MessageResult::Ok;
-  }
-
- private:
-  JournalWriter& journal_;
-};
-
 class NoProgress final : public Progress {
  public:
   void show(const QString& /*text*/) override {}
@@ -192,13 +177,13 @@ void workOnContacts(const WorkerTask& task) {
 void workAsStartingProgram(const WorkerTask& task) {
   Process process(task);
   JournalWriter journal(startJournal(task.journal));
-  ComplainingNotifier notifier(journal);
   NoProgress progress;
   while (process.hasTime()) {
     process.cache.dropAllItemIndexes();
-    AddressBook book(QString::fromStdString(task.folder), process.database, notifier);
+    AddressBook book(QString::fromStdString(task.folder), process.database);
     journal.begin(Action::Start, "start", {});
-    journal.end(book.loadAll(progress));
+    journal.end(book.loadAll(
+        progress, [&](const StoreError& error) { journal.complain(error.message().toStdString()); }));
     process.waiter.pause();
   }
 }

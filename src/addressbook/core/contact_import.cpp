@@ -25,8 +25,13 @@ int contactRows(const Sheet& sheet, const ImportPlan& plan) {
 /// One import under way.
 class Import {
  public:
-  Import(const Sheet& sheet, const ImportPlan& plan, AddressBook& book, ImportUser& user)
-      : sheet_(sheet), plan_(plan), book_(book), user_(user), joins_(book.findGroup(plan.group) != nullptr) {}
+  Import(const Sheet& sheet, const ImportPlan& plan, AddressBook& book, ImportUser& user, Notifier& notifier)
+      : sheet_(sheet),
+        plan_(plan),
+        book_(book),
+        user_(user),
+        notifier_(notifier),
+        joins_(book.findGroup(plan.group) != nullptr) {}
 
   ImportOutcome run() {
     const int total = contactRows(sheet_, plan_);
@@ -84,7 +89,7 @@ class Import {
     return answer.choice;
   }
 
-  // A disk that fails once would fail, with a message, for each of thousands.
+  // The first failed write ends the import: the following ones would fail too, each with a message.
   void store(const ContactRecord& contact, int& counter) {
     if (!save(contact)) {
       outcome_.end = ImportOutcome::End::WriteFailed;
@@ -95,31 +100,37 @@ class Import {
     if (!join(contact.name)) outcome_.end = ImportOutcome::End::JoinFailed;
   }
 
-  // What is not in the file must not stand in memory: whoever skips what exists in a second import would lose
-  // it.
+  // Undoes the change in memory if it could not be written. A second import that skips existing contacts
+  // would otherwise never write this one.
   bool save(const ContactRecord& contact) {
     const ContactRecord* existing = book_.findContact(contact.name);
     const std::optional<ContactRecord> before = existing ? std::optional(*existing) : std::nullopt;
-    if (book_.saveContact(contact)) return true;
+    if (report(book_.saveContact(contact))) return true;
     if (before)
-      book_.saveContact(*before, false);
+      book_.insertContact(*before);
     else
-      book_.deleteContact(contact.name, false);
+      book_.eraseContact(contact.name);
     return false;
   }
 
   bool join(const QString& name) {
     if (!joins_) return true;
     const GroupFile* group = book_.findGroup(plan_.group);
-    if (!group || group->contains(name) || book_.addMember(plan_.group, name)) return true;
-    book_.removeMember(plan_.group, name, false);
+    if (!group || group->contains(name) || report(book_.addMember(plan_.group, name))) return true;
+    book_.eraseMember(plan_.group, name);
     return false;
+  }
+
+  bool report(const StoreResult& result) {
+    for (const StoreError& error : result.errors()) showError(error, notifier_);
+    return static_cast<bool>(result);
   }
 
   const Sheet& sheet_;
   const ImportPlan& plan_;
   AddressBook& book_;
   ImportUser& user_;
+  Notifier& notifier_;
   bool joins_;
   std::optional<ImportUser::Choice> choiceForAll_;
   ImportOutcome outcome_;
@@ -175,9 +186,9 @@ QString planProblem(const ImportPlan& plan) {
   return {};
 }
 
-ImportOutcome importContacts(const Sheet& sheet, const ImportPlan& plan, AddressBook& book,
-                             ImportUser& user) {
-  return Import(sheet, plan, book, user).run();
+ImportOutcome importContacts(const Sheet& sheet, const ImportPlan& plan, AddressBook& book, ImportUser& user,
+                             Notifier& notifier) {
+  return Import(sheet, plan, book, user, notifier).run();
 }
 
 QString importProgressText(int done, int total) {

@@ -14,6 +14,7 @@ namespace parlexo {
 
 class AddressBook;
 class CsvWriter;
+class Notifier;
 
 /// The user's side of an import that is running.
 class ImportUser {
@@ -72,7 +73,7 @@ struct ImportOutcome {
 /// Blank rows count for nothing. What was imported stays, whatever ends the import; what could not be written
 /// is not in memory either, so that the same import can be repeated.
 [[nodiscard]] ImportOutcome importContacts(const Sheet& sheet, const ImportPlan& plan, AddressBook& book,
-                                           ImportUser& user);
+                                           ImportUser& user, Notifier& notifier);
 
 /// "Importing contacts (3 / 10). Please wait..."
 [[nodiscard]] QString importProgressText(int done, int total);

@@ -9,7 +9,7 @@
 
 #include "addressbook/core/name_order.h"
 #include "contacts/address_book.h"
-#include "contacts/group_file_name.h"
+#include "contacts/contact_file_format.h"
 
 namespace parlexo {
 
@@ -97,7 +97,7 @@ std::optional<UnstableGroupName> GroupDraft::unstableName(const QString& typed) 
   const QString afterRestart = groupNameAfterRestart(name);
   if (!isNew_ || afterRestart == name) return std::nullopt;
   const auto different = std::mismatch(name.begin(), name.end(), afterRestart.begin(), afterRestart.end());
-  return UnstableGroupName{afterRestart, groupNameThatStays(name), different.first - name.begin()};
+  return UnstableGroupName{afterRestart, stableGroupName(name), different.first - name.begin()};
 }
 
 GroupChanges GroupDraft::changes() const {

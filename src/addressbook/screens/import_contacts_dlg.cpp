@@ -332,7 +332,8 @@ void CImportContactsDlg::startImport() {
   const ImportPlan chosen = plan();
   setImporting(true);
   Running user(*this);
-  const ImportOutcome outcome = importContacts(source_.preview(), chosen, services_.book, user);
+  const ImportOutcome outcome =
+      importContacts(source_.preview(), chosen, services_.book, user, services_.notifier);
   setImporting(false);
   importedNames_ = outcome.names;
   CImportSummaryDlg(source_.preview(), chosen, outcome, services_.notifier, this).exec();

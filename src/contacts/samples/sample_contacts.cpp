@@ -13,7 +13,6 @@
 
 #include "contacts/address_book.h"
 #include "contacts/contact_file_format.h"
-#include "contacts/group_file_name.h"
 
 namespace parlexo {
 
