@@ -15,6 +15,7 @@
 #include "addressbook/screens/contact_list_model.h"
 #include "addressbook/screens/select_contacts_dlg.h"
 #include "tests/addressbook/sample_book.h"
+#include "tests/support/recording_notifier.h"
 
 namespace parlexo {
 

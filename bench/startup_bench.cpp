@@ -16,7 +16,7 @@ namespace {
 
 void load(benchmark::State& state, Progress& progress) {
   const auto total = static_cast<int>(state.range(0));
-  const BenchFolder& folder = BenchFolder::of(total);
+  const BenchFolder& folder = BenchFolder::withContacts(total);
   if (!folder.problem().isEmpty()) return state.SkipWithError(qPrintable(folder.problem()));
   SleepingLockWaiter waiter;
   for (auto step : state) {
