@@ -37,9 +37,9 @@ constexpr std::array<Field, ContactRecord::extraCount> extraFields = {{{183, ext
 // The record is zero-filled.
 void put(QByteArray& record, Field field, const QString& value) {
   const QByteArray bytes = toCodePage(value);
-  const QByteArrayView kept =
+  const QByteArrayView truncated =
       untilZero(bytes).first(std::min<qsizetype>(untilZero(bytes).size(), field.width));
-  std::copy(kept.begin(), kept.end(), record.begin() + field.offset);
+  std::copy(truncated.begin(), truncated.end(), record.begin() + field.offset);
 }
 
 QString get(QByteArrayView record, Field field) {
