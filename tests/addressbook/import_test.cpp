@@ -23,7 +23,7 @@ using testing::HasSubstr;
 /// A user who answers as told and lets so many rows pass.
 class ScriptedUser final : public ImportUser {
  public:
-  [[nodiscard]] bool goOn(int done, int total) override {
+  [[nodiscard]] bool reportProgress(int done, int total) override {
     lastProgress = importProgressText(done, total);
     return done < cancelAt;
   }
@@ -196,7 +196,7 @@ TEST_F(ContactImportTest, stopsWhereTheUserOrTheDiskStopsIt) {
 
   EXPECT_THAT(summaryText(outcome).toStdString(),
               HasSubstr("Imported: 2\nUpdated: 0\nSkipped: 0\nRefused: 0\n"
-                        "Not dealt with: 1"));
+                        "Not imported: 1"));
 
   user_.cancelAt = 1000;
   const Sheet sheets[] = {sheetOf("Name,Phone\nB,+61491570157\nC,+61491570157\n"),
@@ -220,7 +220,7 @@ TEST_F(ContactImportTest, repeatsWhatAGroupsFileDidNotTake) {
   ImportOutcome outcome = import(rows, "Team");
   EXPECT_EQ(outcome.end, ImportOutcome::End::JoinFailed);
   EXPECT_EQ(outcome.names, QStringList("B"));
-  EXPECT_EQ(outcome.left, 1);
+  EXPECT_EQ(outcome.remaining, 1);
   EXPECT_EQ(memberNames("Team"), QStringList());
 
   ASSERT_TRUE(QDir().rmdir(file) && QFile::rename(file + ".away", file));

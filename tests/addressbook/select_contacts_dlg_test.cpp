@@ -18,6 +18,7 @@
 #include "addressbook/screens/select_by_extra_dlg.h"
 #include "tests/addressbook/sample_book.h"
 #include "tests/support/column_cells.h"
+#include "tests/support/recording_notifier.h"
 
 namespace parlexo {
 namespace {

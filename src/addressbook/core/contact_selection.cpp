@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "addressbook/core/name_order.h"
+#include "contacts/address_book.h"
 
 namespace parlexo {
 
@@ -38,7 +38,7 @@ ContactSelection::ContactSelection(Contacts contacts) : contacts_(std::move(cont
   contacts_.erase(std::unique(contacts_.begin(), contacts_.end(), sameName), contacts_.end());
 }
 
-ContactSelection ContactSelection::ofSorted(Contacts contacts) {
+ContactSelection ContactSelection::fromSorted(Contacts contacts) {
   ContactSelection selection;
   selection.contacts_ = std::move(contacts);
   return selection;
@@ -50,6 +50,23 @@ bool ContactSelection::contains(const QString& name) const {
   };
   const auto found = std::lower_bound(contacts_.begin(), contacts_.end(), NameKey(name), before);
   return found != contacts_.end() && (*found)->name == name;
+}
+
+ContactSelection::Contacts sortedContacts(const AddressBook& book, SelectionMode mode) {
+  ContactSelection::Contacts contacts;
+  contacts.reserve(book.contacts().size());
+  for (const auto& [name, contact] : book.contacts()) {
+    if (isEligible(contact, mode)) contacts.push_back(&contact);
+  }
+  sortByName(contacts, [](const ContactRecord* contact) { return contact->name; });
+  return contacts;
+}
+
+std::vector<const GroupFile*> sortedGroups(const AddressBook& book) {
+  std::vector<const GroupFile*> groups;
+  for (const auto& [name, group] : book.groups()) groups.push_back(&group);
+  sortByName(groups, [](const GroupFile* group) { return group->name(); });
+  return groups;
 }
 
 }  // namespace parlexo

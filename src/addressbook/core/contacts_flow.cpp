@@ -11,6 +11,8 @@
 
 namespace parlexo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QString membershipText() {
@@ -25,7 +27,7 @@ QString deletionQuestion(const ContactFolder& folder, int count) {
                 "Are you sure you want to delete this contact completely from your Address Book "
                 "and all groups?");
   if (count == 1) return question;
-  return question + u"\n\n" + ContactsFlow::tr("(%1 contacts are selected.)").arg(count);
+  return question + u"\n\n"_s + ContactsFlow::tr("(%1 contacts are selected.)").arg(count);
 }
 
 bool canBeDeleted(const ContactFolder& folder) {
@@ -129,7 +131,7 @@ void ContactsFlow::deleteContacts(const ContactFolder& folder, const QStringList
   ErrorReport report(services_.notifier);
   if (folder.isGroup()) {
     const ProgressScope progress(services_.progress, membershipText());
-    changeMembers({folder.name, false, {}, {}, names}, report);
+    changeMembers({.group = folder.name, .removed = names}, report);
     return;
   }
   const ProgressScope progress(services_.progress, tr("Deleting the contacts..."));

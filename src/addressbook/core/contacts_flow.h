@@ -6,7 +6,7 @@
 #include <QStringList>
 
 #include "addressbook/core/addressbook_services.h"
-#include "addressbook/core/contact_folder.h"
+#include "addressbook/core/contact_index.h"
 #include "addressbook/core/group_draft.h"
 #include "contacts/contact_record.h"
 

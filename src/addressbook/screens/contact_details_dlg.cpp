@@ -176,7 +176,7 @@ QLineEdit* CContactDetailsDlg::editOf(ContactProblem::Field field) const {
 }
 
 void CContactDetailsDlg::accept() {
-  const auto problem = form_.take(typed());
+  const auto problem = form_.apply(typed());
   if (!problem) {
     GradientDialog::accept();
     return;

@@ -2,7 +2,6 @@
 #include "addressbook/screens/contact_list_model.h"
 
 #include "addressbook/core/contact_selection.h"
-#include "addressbook/core/name_order.h"
 
 namespace parlexo {
 

@@ -3,7 +3,7 @@
 
 #include <utility>
 
-#include "addressbook/core/name_order.h"
+#include "addressbook/core/contact_selection.h"
 
 namespace parlexo {
 

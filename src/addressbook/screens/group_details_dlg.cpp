@@ -11,7 +11,7 @@
 #include <QShortcut>
 #include <QVBoxLayout>
 
-#include "addressbook/core/name_order.h"
+#include "addressbook/core/contact_selection.h"
 #include "addressbook/screens/contact_details_dlg.h"
 #include "addressbook/screens/contact_text_validator.h"
 #include "addressbook/screens/ok_and_cancel.h"
@@ -214,7 +214,7 @@ void CGroupDetailsDlg::enableButtons() {
 
 void CGroupDetailsDlg::accept() {
   if (!ok_->isEnabled()) return;
-  const QString problem = draft_.takeName(name_->text());
+  const QString problem = draft_.setName(name_->text());
   if (problem.isEmpty()) {
     GradientDialog::accept();
     return;

@@ -20,7 +20,7 @@
 #include <QVBoxLayout>
 
 #include "addressbook/core/contact_import.h"
-#include "addressbook/core/name_order.h"
+#include "addressbook/core/contact_selection.h"
 #include "addressbook/screens/import_preview.h"
 #include "addressbook/screens/import_question_dlg.h"
 #include "addressbook/screens/import_summary_dlg.h"
@@ -65,7 +65,7 @@ class CImportContactsDlg::Running final : public ImportUser {
  public:
   explicit Running(CImportContactsDlg& dialog) : dialog_(dialog) { sinceRepaint_.start(); }
 
-  [[nodiscard]] bool goOn(int done, int total) override {
+  [[nodiscard]] bool reportProgress(int done, int total) override {
     if (done > 0 && sinceRepaint_.elapsed() < repaintPause) return !dialog_.isCancelled_;
     sinceRepaint_.restart();
     return dialog_.showProgress(done, total);
