@@ -16,6 +16,7 @@
 #include "base/call_runner.h"
 #include "base/settings.h"
 #include "tests/addressbook/sample_book.h"
+#include "tests/support/recording_notifier.h"
 
 namespace parlexo {
 

@@ -15,6 +15,7 @@
 #include "addressbook/screens/contact_list_model.h"
 #include "addressbook/screens/select_contacts_dlg.h"
 #include "tests/addressbook/sample_book.h"
+#include "tests/support/recording_notifier.h"
 
 namespace parlexo {
 
@@ -51,7 +52,7 @@ const LargeBook& largeBook() {
 }
 
 ContactSelection groupMembers() {
-  SelectionLists lists(largeBook().book(), u"All"_s, {});
+  SelectionLists lists(largeBook().book(), SelectionMode::All, {});
   lists.setGroupTicked(0, true);
   return lists.tickedContacts();
 }
@@ -69,7 +70,7 @@ void openDialog(benchmark::State& state) {
   RecordingNotifier notifier;
   largeBook();
   for (auto step : state) {
-    CSelectContactsDlg dialog(largeBook().book(), u"SMS"_s, initial, notifier);
+    CSelectContactsDlg dialog(largeBook().book(), SelectionMode::Sms, initial, notifier);
     showAndPaint(dialog);
   }
 }
@@ -78,7 +79,7 @@ BENCHMARK(openDialog)->Arg(0)->Arg(1)->Unit(benchmark::kMillisecond);
 /// From ticking the group until the list is repainted.
 void tickGroupOf50000(benchmark::State& state) {
   RecordingNotifier notifier;
-  CSelectContactsDlg dialog(largeBook().book(), u"SMS"_s, {}, notifier);
+  CSelectContactsDlg dialog(largeBook().book(), SelectionMode::Sms, {}, notifier);
   showAndPaint(dialog);
   QAbstractItemModel& groups = *dialog.findChild<CheckListView*>(u"groupList"_s)->model();
   bool isTicked = false;
@@ -93,7 +94,7 @@ BENCHMARK(tickGroupOf50000)->Unit(benchmark::kMillisecond);
 /// From pressing the space bar with all rows selected until the list is repainted.
 void tickAllSelectedRows(benchmark::State& state) {
   RecordingNotifier notifier;
-  CSelectContactsDlg dialog(largeBook().book(), u"SMS"_s, {}, notifier);
+  CSelectContactsDlg dialog(largeBook().book(), SelectionMode::Sms, {}, notifier);
   showAndPaint(dialog);
   auto& view = *dialog.findChild<CheckListView*>(u"contactList"_s);
   view.selectAll();
@@ -108,7 +109,7 @@ BENCHMARK(tickAllSelectedRows)->Unit(benchmark::kMillisecond);
 /// Keyboard search for a prefix without matches, which compares every name.
 void searchForMissingName(benchmark::State& state) {
   RecordingNotifier notifier;
-  CSelectContactsDlg dialog(largeBook().book(), u"SMS"_s, {}, notifier);
+  CSelectContactsDlg dialog(largeBook().book(), SelectionMode::Sms, {}, notifier);
   auto& view = *dialog.findChild<CheckListView*>(u"contactList"_s);
   for (auto step : state) view.keyboardSearch(u"z"_s);
 }
@@ -120,7 +121,7 @@ const char* const typings[] = {"ann 0123", "+614000", "eva city 7", "zq"};
 /// From a keystroke in the search field until the list is repainted. The argument selects the typed text.
 void searchByKeystrokes(benchmark::State& state) {
   RecordingNotifier notifier;
-  CSelectContactsDlg dialog(largeBook().book(), u"SMS"_s, {}, notifier);
+  CSelectContactsDlg dialog(largeBook().book(), SelectionMode::Sms, {}, notifier);
   showAndPaint(dialog);
   auto& view = *dialog.findChild<CheckListView*>(u"contactList"_s);
   auto& search = *dialog.findChild<QLineEdit*>(u"contactSearch"_s);
@@ -138,7 +139,7 @@ BENCHMARK(searchByKeystrokes)->DenseRange(0, 3)->Unit(benchmark::kMillisecond);
 /// From clearing a search without matches until the list of all contacts is repainted.
 void clearSearch(benchmark::State& state) {
   RecordingNotifier notifier;
-  CSelectContactsDlg dialog(largeBook().book(), u"SMS"_s, groupMembers(), notifier);
+  CSelectContactsDlg dialog(largeBook().book(), SelectionMode::Sms, groupMembers(), notifier);
   showAndPaint(dialog);
   auto& view = *dialog.findChild<CheckListView*>(u"contactList"_s);
   auto& search = *dialog.findChild<QLineEdit*>(u"contactSearch"_s);
@@ -153,8 +154,8 @@ BENCHMARK(clearSearch)->Unit(benchmark::kMillisecond);
 /// For comparison: a QSortFilterProxyModel with the same rows and the same kind of view. It searches only
 /// names and numbers, and for the whole text instead of its words.
 void searchWithProxyModel(benchmark::State& state) {
-  SelectionLists lists(largeBook().book(), u"SMS"_s, {});
-  ContactListModel model(lists, u"SMS"_s);
+  SelectionLists lists(largeBook().book(), SelectionMode::Sms, {});
+  ContactListModel model(lists, SelectionMode::Sms);
   QSortFilterProxyModel filter;
   filter.setSourceModel(&model);
   filter.setFilterCaseSensitivity(Qt::CaseInsensitive);
@@ -176,9 +177,9 @@ BENCHMARK(searchWithProxyModel)->DenseRange(0, 3)->Unit(benchmark::kMillisecond)
 
 /// Preparing 100,000 contacts for the search, which the dialog does once.
 void prepareSearch(benchmark::State& state) {
-  SelectionLists lists(largeBook().book(), u"SMS"_s, {});
+  SelectionLists lists(largeBook().book(), SelectionMode::Sms, {});
   for (auto step : state) {
-    ContactListModel model(lists, u"SMS"_s);
+    ContactListModel model(lists, SelectionMode::Sms);
     model.search(u"zq"_s);
   }
 }
@@ -186,7 +187,7 @@ BENCHMARK(prepareSearch)->Unit(benchmark::kMillisecond);
 
 /// The "Select" button with 50,000 ticked contacts.
 void collectTicked(benchmark::State& state) {
-  SelectionLists lists(largeBook().book(), u"SMS"_s, groupMembers());
+  SelectionLists lists(largeBook().book(), SelectionMode::Sms, groupMembers());
   for (auto step : state) benchmark::DoNotOptimize(lists.tickedContacts());
 }
 BENCHMARK(collectTicked)->Unit(benchmark::kMillisecond);

@@ -15,18 +15,19 @@ namespace {
 
 void load(benchmark::State& state, Progress& progress) {
   const auto total = static_cast<int>(state.range(0));
-  const BenchFolder& folder = BenchFolder::of(total);
+  const BenchFolder& folder = BenchFolder::withContacts(total);
   if (!folder.problem().isEmpty()) return state.SkipWithError(qPrintable(folder.problem()));
-  MessageCounter notifier;
   SleepingLockWaiter waiter;
   for (auto step : state) {
     ItemIndexCache cache;
     ItemDatabase database(cache, waiter);
-    AddressBook book(folder.path(), database, notifier);
+    AddressBook book(folder.path(), database);
+    int errors = 0;
+    const auto countError = [&errors](const StoreError& /*error*/) { ++errors; };
     progress.show(u"Loading Contacts from Database..."_s);
-    const bool isLoaded = book.loadAll(progress);
+    const bool isLoaded = book.loadAll(progress, countError);
     progress.hide();
-    const bool isComplete = isLoaded && notifier.count == 0 && book.contacts().size() == std::size_t(total);
+    const bool isComplete = isLoaded && errors == 0 && book.contacts().size() == std::size_t(total);
     state.PauseTiming();
     book.clear();
     state.ResumeTiming();

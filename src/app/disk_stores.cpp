@@ -8,12 +8,12 @@ namespace parlexo {
 DiskStores::DiskStores(Settings& settings, Notifier& notifier, Progress& progress)
     : notifier_(notifier),
       progress_(progress),
-      addressBook_(settings.contactsFolder(), database_, notifier),
+      addressBook_(settings.contactsFolder(), database_),
       statusFile_(settings.statusFile()),
       templates_(settings.templatesFolder()) {}
 
 bool DiskStores::loadContacts() {
-  return addressBook_.loadAll(progress_);
+  return addressBook_.loadAll(progress_, [this](const StoreError& error) { showError(error, notifier_); });
 }
 
 void DiskStores::loadStatusLog() {

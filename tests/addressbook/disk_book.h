@@ -14,13 +14,13 @@ class DiskBook : public AddressBookFixture {
   [[nodiscard]] AddressBookServices services() { return {book_, notifier_, progress_, settings_, runner_}; }
 
   void addContact(const QString& name, const QString& phone = "+61491570156") {
-    book_.saveContact({name, phone, "Y", "N", {}, {}, {}});
+    EXPECT_TRUE(book_.saveContact({name, phone, "Y", "N", {}, {}, {}}));
   }
 
   /// Forgets everything and reads the files.
   void reload() {
     book_.clear();
-    ASSERT_TRUE(book_.loadAll(progress_));
+    ASSERT_TRUE(loadAll(book_));
   }
 
   /// From now on nothing can be written.

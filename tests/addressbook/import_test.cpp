@@ -23,7 +23,7 @@ using testing::HasSubstr;
 /// A user who answers as told and lets so many rows pass.
 class ScriptedUser final : public ImportUser {
  public:
-  [[nodiscard]] bool goOn(int done, int total) override {
+  [[nodiscard]] bool reportProgress(int done, int total) override {
     lastProgress = importProgressText(done, total);
     return done < cancelAt;
   }
@@ -42,9 +42,10 @@ class ScriptedUser final : public ImportUser {
 class ContactImportTest : public test::DiskBook {
  protected:
   ContactImportTest() {
-    book_.saveContact({"Ann", "+61491570156", "N", "Y", "+61255501234", "ann@example.com", {"old", "kept"}});
-    book_.createGroup("Team");
-    book_.createGroup("Other", {"Ann"});
+    EXPECT_TRUE(book_.saveContact(
+        {"Ann", "+61491570156", "N", "Y", "+61255501234", "ann@example.com", {"old", "kept"}}));
+    EXPECT_TRUE(book_.createGroup("Team"));
+    EXPECT_TRUE(book_.createGroup("Other", {"Ann"}));
   }
 
   Sheet sheetOf(const QByteArray& text) {
@@ -60,7 +61,7 @@ class ContactImportTest : public test::DiskBook {
     plan_.columns = suggestColumns(sheet_, plan_.headingRow);
     plan_.group = group;
     EXPECT_EQ(planProblem(plan_), QString());
-    return importContacts(sheet_, plan_, book_, user_);
+    return importContacts(sheet_, plan_, book_, user_, notifier_);
   }
 
   [[nodiscard]] QString describe(const QString& name) const {
@@ -195,7 +196,7 @@ TEST_F(ContactImportTest, stopsWhereTheUserOrTheDiskStopsIt) {
 
   EXPECT_THAT(summaryText(outcome).toStdString(),
               HasSubstr("Imported: 2\nUpdated: 0\nSkipped: 0\nRefused: 0\n"
-                        "Not dealt with: 1"));
+                        "Not imported: 1"));
 
   user_.cancelAt = 1000;
   const Sheet sheets[] = {sheetOf("Name,Phone\nB,+61491570157\nC,+61491570157\n"),
@@ -203,7 +204,7 @@ TEST_F(ContactImportTest, stopsWhereTheUserOrTheDiskStopsIt) {
   loseFolder();
   user_.answer = {ImportUser::Choice::Overwrite, true};
   for (const Sheet& failing : sheets) {
-    outcome = importContacts(failing, plan_, book_, user_);
+    outcome = importContacts(failing, plan_, book_, user_, notifier_);
     EXPECT_EQ(outcome.end, ImportOutcome::End::WriteFailed);
     EXPECT_EQ(outcome.updated + outcome.imported, 0);
     EXPECT_THAT(summaryText(outcome).toStdString(), HasSubstr("stopped at row 2,"));
@@ -219,7 +220,7 @@ TEST_F(ContactImportTest, repeatsWhatAGroupsFileDidNotTake) {
   ImportOutcome outcome = import(rows, "Team");
   EXPECT_EQ(outcome.end, ImportOutcome::End::JoinFailed);
   EXPECT_EQ(outcome.names, QStringList("B"));
-  EXPECT_EQ(outcome.left, 1);
+  EXPECT_EQ(outcome.remaining, 1);
   EXPECT_EQ(memberNames("Team"), QStringList());
 
   ASSERT_TRUE(QDir().rmdir(file) && QFile::rename(file + ".away", file));

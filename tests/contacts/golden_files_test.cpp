@@ -57,7 +57,7 @@ class GoldenFiles : public AddressBookFixture {
   void SetUp() override {
     for (const QString& name : QDir(golden_).entryList(QDir::Files))
       ASSERT_TRUE(QFile::copy(golden_ + name, pathOf(name)));
-    ASSERT_TRUE(book_.loadAll(progress_));
+    ASSERT_TRUE(loadAll(book_));
   }
   [[nodiscard]] QByteArray goldenRecord(const QString& file, int number, int size) const {
     return readBytes(golden_ + file).mid(number * size, size);
@@ -91,7 +91,7 @@ TEST_F(GoldenFiles, readingChangesNoByte) {
 }
 
 TEST_F(GoldenFiles, sameContactsAndMembersAreWrittenInTheSameBytes) {
-  AddressBook copy(pathOf("copy"), database_, notifier_);
+  AddressBook copy(pathOf("copy"), database_);
   ASSERT_TRUE(QDir(folder_.path()).mkdir("copy"));
   EXPECT_TRUE(copy.saveContact(zoeContact()) && copy.saveContact(everyContact()) &&
               copy.saveContact(fullContact()));

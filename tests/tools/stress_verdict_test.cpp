@@ -32,14 +32,14 @@ class StressVerdict : public testing::Test {
   std::vector<std::string> problems(const std::string& journal) {
     write("journal", journal);
     write("database", file_);
-    return judge(Kind::Contacts, pathOf("database"), {pathOf("journal")}).problems;
+    return check(Kind::Contacts, pathOf("database"), {pathOf("journal")}).problems;
   }
 
   Verdict memberVerdict(const std::string& journal, const std::string& contactJournal) {
     write("journal", journal);
     write("contacts", contactJournal);
     write("database", file_);
-    return judge(Kind::Members, pathOf("database"), {pathOf("journal")}, {pathOf("contacts")});
+    return check(Kind::Members, pathOf("database"), {pathOf("journal")}, {pathOf("contacts")});
   }
 
   // An "@" in the journal stands for the group's file.
@@ -48,7 +48,7 @@ class StressVerdict : public testing::Test {
       journal.replace(at, 1, "group|");
     write("journal", journal);
     write("group", file_);
-    return judgeGroups({pathOf("group")}, {pathOf("journal")}).problems;
+    return checkGroups({pathOf("group")}, {pathOf("journal")}).problems;
   }
 
   std::string file_;
@@ -101,11 +101,11 @@ TEST_F(StressVerdict, damagedFileIsFound) {
     damage();
     return problems(twoWrites);
   };
-  EXPECT_THAT(problemsWith([this] { stored("Ann", "second"); }), ElementsAre(HasSubstr("is there twice")));
+  EXPECT_THAT(problemsWith([this] { stored("Ann", "second"); }), ElementsAre(HasSubstr("occurs twice")));
   EXPECT_THAT(problemsWith([this] { file_[300] ^= 1; }), ElementsAre(HasSubstr("torn or mixed up")));
   EXPECT_THAT(problemsWith([this] { file_ += "x"; }), ElementsAre(HasSubstr("ends within a record")));
   EXPECT_THAT(problemsWith([this] { stored("Bob", "from nowhere"); }),
-              ElementsAre(HasSubstr("Bob: nobody wrote this")));
+              ElementsAre(HasSubstr("Bob: was never written")));
 }
 
 TEST_F(StressVerdict, memberMayBeGoneOnlyWhereItsContactMayHaveBeen) {
@@ -151,7 +151,7 @@ TEST_F(StressVerdict, memberMustStayUnlessSomethingMayHaveTakenItAway) {
   file_ += recordFor(Kind::Members, "Ann", {}) + recordFor(Kind::Members, "Bob", {});
   const std::string both = added + "begin\tw\t70\t@Bob\tmember\ndone\t80\n";
   EXPECT_THAT(groupProblems(both), IsEmpty());
-  EXPECT_THAT(groupProblems(added), ElementsAre(HasSubstr("Bob: nobody wrote this")));
+  EXPECT_THAT(groupProblems(added), ElementsAre(HasSubstr("Bob: was never written")));
   file_ += "x";
   EXPECT_THAT(groupProblems(both), ElementsAre(HasSubstr("ends within a record")));
 }

@@ -185,7 +185,7 @@ QLineEdit* CContactDetailsDlg::fieldEdit(ContactProblem::Field field) const {
 }
 
 void CContactDetailsDlg::accept() {
-  const auto problem = form_.take(typed());
+  const auto problem = form_.apply(typed());
   if (!problem) {
     GradientDialog::accept();
     return;

@@ -2,15 +2,14 @@
 #include "addressbook/screens/contact_list_model.h"
 
 #include "addressbook/core/contact_selection.h"
-#include "addressbook/core/name_order.h"
 #include "contacts/group_file.h"
 
 namespace parlexo {
 
-ContactListModel::ContactListModel(SelectionLists& lists, const QString& mode, QObject* parent)
+ContactListModel::ContactListModel(SelectionLists& lists, SelectionMode mode, QObject* parent)
     : CheckListModel({tr("Select"), tr("Name"), tr("Phone")}, lists.contactCount(), parent),
       lists_(lists),
-      showsFax_(showsFaxNumbers(mode)) {}
+      showsFax_(mode == SelectionMode::Fax) {}
 
 QString ContactListModel::entryCell(int entry, int column) const {
   const ContactRecord& contact = lists_.contact(entry);

@@ -14,7 +14,7 @@ class ContactListModel final : public CheckListModel {
  public:
   /// `lists` must outlive the model. `mode` determines whether phone or fax numbers are shown; the column
   /// heading is "Phone" in both cases.
-  ContactListModel(SelectionLists& lists, const QString& mode, QObject* parent = nullptr);
+  ContactListModel(SelectionLists& lists, SelectionMode mode, QObject* parent = nullptr);
 
  private:
   [[nodiscard]] QString entryCell(int entry, int column) const override;

@@ -3,7 +3,7 @@
 
 #include <utility>
 
-#include "addressbook/core/name_order.h"
+#include "addressbook/core/contact_selection.h"
 
 namespace parlexo {
 
@@ -38,9 +38,9 @@ QString ContactRowsModel::cellText(const ContactRecord& contact, Column column) 
     case Column::PhoneColumn:
       return contact.phone;
     case Column::SmsColumn:
-      return eligibilityFor(u"SMS")(contact) ? yes_ : no_;
+      return isEligible(contact, SelectionMode::Sms) ? yes_ : no_;
     case Column::MediaColumn:
-      return eligibilityFor(u"Media")(contact) ? yes_ : no_;
+      return isEligible(contact, SelectionMode::Media) ? yes_ : no_;
     case Column::FaxColumn:
       return contact.fax;
     case Column::columnTotal:

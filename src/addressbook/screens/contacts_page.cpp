@@ -20,7 +20,7 @@
 #include <QVBoxLayout>
 
 #include "addressbook/core/contact_export.h"
-#include "addressbook/core/sorted_book.h"
+#include "addressbook/core/contact_selection.h"
 #include "addressbook/screens/contact_details_dlg.h"
 #include "addressbook/screens/folder_tree.h"
 #include "addressbook/screens/group_details_dlg.h"
@@ -387,7 +387,7 @@ void CContactsPage::removeContacts(const QStringList& names) {
 
 void CContactsPage::clearContacts() {
   model_.setContacts({});
-  index_.forget();
+  index_.clear();
 }
 
 void CContactsPage::removeGroup(const ContactFolder& folder) {

@@ -9,7 +9,6 @@
 #include <QtGlobal>
 
 #include "addressbook/core/addressbook_services.h"
-#include "addressbook/core/contact_folder.h"
 #include "addressbook/core/contact_index.h"
 #include "addressbook/core/contacts_flow.h"
 #include "addressbook/screens/contact_rows_model.h"

@@ -5,7 +5,7 @@
 #include <QSignalBlocker>
 #include <QTreeWidgetItemIterator>
 
-#include "addressbook/core/name_order.h"
+#include "addressbook/core/contact_selection.h"
 #include "contacts/address_book.h"
 #include "ui/list_style.h"
 

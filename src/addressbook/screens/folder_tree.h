@@ -4,7 +4,7 @@
 #include <QStringList>
 #include <QTreeWidget>
 
-#include "addressbook/core/contact_folder.h"
+#include "addressbook/core/contact_index.h"
 
 namespace parlexo {
 

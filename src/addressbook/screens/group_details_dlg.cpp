@@ -11,7 +11,7 @@
 #include <QShortcut>
 #include <QVBoxLayout>
 
-#include "addressbook/core/name_order.h"
+#include "addressbook/core/contact_selection.h"
 #include "addressbook/screens/contact_details_dlg.h"
 #include "addressbook/screens/select_contacts_dlg.h"
 #include "base/notifier.h"
@@ -163,7 +163,7 @@ QLayout* CGroupDetailsDlg::buttonColumn() {
 }
 
 void CGroupDetailsDlg::select() {
-  CSelectContactsDlg dialog(services_.book, u"All"_s, draft_.selection(), services_.notifier, this);
+  CSelectContactsDlg dialog(services_.book, SelectionMode::All, draft_.selection(), services_.notifier, this);
   if (dialog.exec() != QDialog::Accepted) return;
   const QStringList selected = list_->selectedNames();
   draft_.setSelection(dialog.selection());
@@ -212,7 +212,7 @@ void CGroupDetailsDlg::enableButtons() {
 
 void CGroupDetailsDlg::accept() {
   if (!ok_->isEnabled()) return;
-  const QString problem = draft_.takeName(name_->text());
+  const QString problem = draft_.setName(name_->text());
   if (problem.isEmpty()) {
     GradientDialog::accept();
     return;

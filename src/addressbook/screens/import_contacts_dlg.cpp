@@ -20,7 +20,7 @@
 #include <QVBoxLayout>
 
 #include "addressbook/core/contact_import.h"
-#include "addressbook/core/name_order.h"
+#include "addressbook/core/contact_selection.h"
 #include "addressbook/screens/import_preview.h"
 #include "addressbook/screens/import_question_dlg.h"
 #include "addressbook/screens/import_summary_dlg.h"
@@ -65,7 +65,7 @@ class CImportContactsDlg::ImportDialogUser final : public ImportUser {
  public:
   explicit ImportDialogUser(CImportContactsDlg& dialog) : dialog_(dialog) { sinceRepaint_.start(); }
 
-  [[nodiscard]] bool goOn(int done, int total) override {
+  [[nodiscard]] bool reportProgress(int done, int total) override {
     if (done > 0 && sinceRepaint_.elapsed() < repaintInterval) return !dialog_.isCancelled_;
     sinceRepaint_.restart();
     return dialog_.showProgress(done, total);
@@ -334,7 +334,8 @@ void CImportContactsDlg::startImport() {
   const ImportPlan chosen = plan();
   setImporting(true);
   ImportDialogUser user(*this);
-  const ImportOutcome outcome = importContacts(source_.preview(), chosen, services_.book, user);
+  const ImportOutcome outcome =
+      importContacts(source_.preview(), chosen, services_.book, user, services_.notifier);
   setImporting(false);
   importedNames_ = outcome.names;
   CImportSummaryDlg(source_.preview(), chosen, outcome, services_.notifier, this).exec();

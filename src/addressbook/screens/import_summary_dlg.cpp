@@ -36,9 +36,9 @@ CImportSummaryDlg::CImportSummaryDlg(const Sheet& sheet, const ImportPlan& plan,
 
 QStringList CImportSummaryDlg::rowTexts() const {
   QStringList texts;
-  for (const ImportOutcome::Refused& refused : outcome_.refused)
-    texts << tr("Row %1: %2").arg(refused.row + 1).arg(refused.reason);
-  for (const ImportOutcome::Remark& remark : outcome_.remarks)
+  for (const ImportOutcome::RowNote& refused : outcome_.refused)
+    texts << tr("Row %1: %2").arg(refused.row + 1).arg(refused.text);
+  for (const ImportOutcome::RowNote& remark : outcome_.remarks)
     texts << tr("Row %1 was imported partially: %2").arg(remark.row + 1).arg(remark.text);
   return texts;
 }

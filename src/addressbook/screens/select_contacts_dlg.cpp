@@ -33,7 +33,7 @@ QString contactCountText(int ticked, int all, int tickedAndShown) {
 
 }  // namespace
 
-CSelectContactsDlg::CSelectContactsDlg(const AddressBook& book, const QString& mode,
+CSelectContactsDlg::CSelectContactsDlg(const AddressBook& book, SelectionMode mode,
                                        const ContactSelection& initial, Notifier& notifier, QWidget* parent)
     : GradientDialog(parent),
       book_(book),

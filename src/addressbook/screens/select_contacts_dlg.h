@@ -24,9 +24,9 @@ class CSelectContactsDlg final : public GradientDialog {
   Q_OBJECT
 
  public:
-  /// Offers the contacts of `book` that are eligible for `mode` (see eligibilityFor()), with those of
+  /// Offers the contacts of `book` that are eligible for `mode` (see isEligible()), with those of
   /// `initial` ticked. `book` and `notifier` must outlive the dialog.
-  CSelectContactsDlg(const AddressBook& book, const QString& mode, const ContactSelection& initial,
+  CSelectContactsDlg(const AddressBook& book, SelectionMode mode, const ContactSelection& initial,
                      Notifier& notifier, QWidget* parent = nullptr);
 
   /// The ticked contacts once the dialog has been accepted; otherwise `initial`.

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "addressbook/core/contact_selection.h"
 #include "base/message_type.h"
 #include "messaging/core/recipients.h"
 
@@ -9,7 +10,7 @@ namespace parlexo {
 /// How the send pages differ. A new page is a new row of the table in page_traits.cpp.
 struct PageTraits {
   MessageType type = MessageType::Sms;
-  const char* selectionMode = nullptr;  ///< the contacts that can be selected
+  SelectionMode selectionMode = SelectionMode::All;  ///< the contacts that can be selected
   RecipientNumber number = RecipientNumber::Phone;
 
   // For pages that send a file. The labels are source texts in the context of FilePage.

@@ -33,9 +33,9 @@ QVariant RecipientsModel::data(const QModelIndex& index, int role) const {
   return recipients_.entries()[static_cast<std::size_t>(index.row())].text();
 }
 
-RecipientsPanel::RecipientsPanel(const AddressBook& book, Notifier& notifier, QString mode,
+RecipientsPanel::RecipientsPanel(const AddressBook& book, Notifier& notifier, SelectionMode mode,
                                  RecipientNumber number, QWidget* parent)
-    : QWidget(parent), book_(book), notifier_(notifier), mode_(std::move(mode)), number_(number) {
+    : QWidget(parent), book_(book), notifier_(notifier), mode_(mode), number_(number) {
   setObjectName(u"recipientsPanel"_s);
   auto* layout = new QHBoxLayout(this);
   layout->setContentsMargins({});

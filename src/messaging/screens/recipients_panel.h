@@ -50,7 +50,7 @@ class RecipientsPanel final : public QWidget {
  public:
   /// `mode` determines which contacts can be selected, `number` which of their numbers is used. `book` and
   /// `notifier` must outlive the panel.
-  RecipientsPanel(const AddressBook& book, Notifier& notifier, QString mode, RecipientNumber number,
+  RecipientsPanel(const AddressBook& book, Notifier& notifier, SelectionMode mode, RecipientNumber number,
                   QWidget* parent = nullptr);
 
   [[nodiscard]] const Recipients& recipients() const { return model_.recipients(); }
@@ -86,7 +86,7 @@ class RecipientsPanel final : public QWidget {
 
   const AddressBook& book_;
   Notifier& notifier_;
-  QString mode_;
+  SelectionMode mode_;
   RecipientNumber number_;
   RecipientsModel model_;
   QListView* box_ = nullptr;

@@ -23,8 +23,8 @@ SendPage::SendPage(const MessagingServices& services, MessageType type, QWidget*
 
 void SendPage::layOut(QLayout* message, int stretch) {
   constexpr int recipientsStretch = 2;
-  recipients_ = new RecipientsPanel(services_.addressBook, services_.notifier,
-                                    QString::fromLatin1(traits_.selectionMode), traits_.number, this);
+  recipients_ = new RecipientsPanel(services_.addressBook, services_.notifier, traits_.selectionMode,
+                                    traits_.number, this);
   connect(recipients_, &RecipientsPanel::contactsToAdd, this, &SendPage::contactsToAdd);
   outcomeUnknownNotice_ = createOutcomeUnknownNotice();
   delivery_ = new DeliveryPanel(services_.state.senderId, messageTraits(traits_.type).senderIdUse, this);

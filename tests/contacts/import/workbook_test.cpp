@@ -8,7 +8,6 @@
 #include <gmock/gmock.h>
 
 #include "contacts/import/binary_records.h"
-#include "contacts/import/compound_file.h"
 #include "contacts/import/number_format.h"
 #include "contacts/import/spread_sheet.h"
 #include "contacts/import/workbook_builder.h"
