@@ -31,15 +31,16 @@ FileFacts::State fileState(const QFileInfo& file, qint64 limit) {
   return file.size() == 0 ? State::Empty : State::Sendable;
 }
 
-// The file name is part of the request and so limited to the code page.
-QString sentNameText(const QString& name) {
-  if (fitsCodePage(name)) return {};
-  return FileFacts::tr(", will be sent as \"%1\"").arg(throughCodePage(name));
+QString withPages(const QString& text, const std::optional<int>& pages) {
+  if (!pages) return text;
+  return *pages == 1 ? FileFacts::tr("%1, 1 page").arg(text)
+                     : FileFacts::tr("%1, %2 pages").arg(text, QString::number(*pages));
 }
 
-QString pagesText(const std::optional<int>& pages) {
-  if (!pages) return {};
-  return *pages == 1 ? FileFacts::tr(", 1 page") : FileFacts::tr(", %1 pages").arg(*pages);
+// The file name is part of the request, which is encoded in the code page.
+QString withSentName(const QString& text, const QString& name) {
+  if (fitsCodePage(name)) return text;
+  return FileFacts::tr("%1, will be sent as \"%2\"").arg(text, throughCodePage(name));
 }
 
 /// The page counter's name for the format of a document that begins with `start`; empty if unsupported.
@@ -81,12 +82,12 @@ QString FileFacts::text() const {
     case State::Empty:
       return tr("%1: empty").arg(name);
     case State::TooLarge:
-      return tr("%1: %2%3, but at most %4 can be sent")
-          .arg(name, exactSizeText(size), pagesText(pages), exactSizeText(limit));
-    case State::Sendable:
-      return tr("%1: %2 of at most %3%4")
-                 .arg(name, dataSizeText(size), dataSizeText(limit), pagesText(pages)) +
-             sentNameText(name);
+      return tr("%1: %2, but at most %3 can be sent")
+          .arg(name, withPages(exactSizeText(size), pages), exactSizeText(limit));
+    case State::Sendable: {
+      const QString sizes = tr("%1: %2 of at most %3").arg(name, dataSizeText(size), dataSizeText(limit));
+      return withSentName(withPages(sizes, pages), name);
+    }
   }
   Q_UNREACHABLE();
 }

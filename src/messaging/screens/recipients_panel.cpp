@@ -73,13 +73,13 @@ QString RecipientsPanel::summary(const Recipients& recipients, int repeatedCount
   if (shown == 0) return tr("No recipients");
   QString text = shown == 1 ? tr("1 recipient") : tr("%1 recipients").arg(shown);
   if (!recipients.listsAgree()) {
-    text += recipients.numbers().isEmpty()
-                ? tr(" shown, but none selected to send to")
-                : tr(" shown, sending to the %1 selected before").arg(recipients.numbers().size());
+    text = recipients.numbers().isEmpty()
+               ? tr("%1 shown, but none selected to send to").arg(text)
+               : tr("%1 shown, sending to the %2 selected before").arg(text).arg(recipients.numbers().size());
   }
   if (repeatedCount == 0) return text;
-  return text + (repeatedCount == 1 ? tr(", 1 number occurs more than once")
-                                    : tr(", %1 numbers occur more than once").arg(repeatedCount));
+  return repeatedCount == 1 ? tr("%1, 1 number occurs more than once").arg(text)
+                            : tr("%1, %2 numbers occur more than once").arg(text).arg(repeatedCount);
 }
 
 QLayout* RecipientsPanel::createCountLine(QWidget* area) {

@@ -129,10 +129,10 @@ void CStatusDlg::showCount(const QString& remark) {
 QString CStatusDlg::countText() const {
   const int shown = model_.rowCount();
   const std::size_t all = services_.statusLog.entries().size();
-  QString count = shown == 1 ? tr("1 message of this type") : tr("%1 messages of this type").arg(shown);
-  count += tr(", %1 in all.").arg(all);
+  QString count = shown == 1 ? tr("1 message of this type, %1 in all.").arg(all)
+                             : tr("%1 messages of this type, %2 in all.").arg(shown).arg(all);
   if (all > StatusFile::elementsRead)
-    count += tr(" Only the newest %1 are kept when the program ends.").arg(StatusFile::elementsRead);
+    count += u' ' + tr("Only the newest %1 are kept when the program ends.").arg(StatusFile::elementsRead);
   return count;
 }
 
