@@ -67,8 +67,8 @@ void AddressBook::eraseContact(const QString& name) {
   const auto found = contacts_.find(name);
   if (found == contacts_.end()) return;
   ++revision_;
-  // `name` may refer to the key of a member or of the contact, both of which are erased here.
-  const QString ownName = name;
+  // `name` may refer to the key of a member, which is erased before the contact.
+  const QString& ownName = found->first;
   for (auto& [groupName, group] : groups_) group.members_.erase(ownName);
   unsaved_.remove(ownName);
   contacts_.erase(found);

@@ -18,7 +18,7 @@ namespace {
 
 constexpr quint16 defaultPort = 8080;
 
-const char description[] =
+const char applicationDescription[] =
     R"(A messaging gateway for trying out and testing the Parlexo client. It answers every operation, delivers
 nothing and logs each message. Start the client with --site and the address that is printed first.)";
 
@@ -184,7 +184,7 @@ QString parseValues(CommandLine& line, const QCommandLineParser& parser) {
 
 CommandLine parseCommandLine(const QStringList& arguments) {
   QCommandLineParser parser;
-  parser.setApplicationDescription(QString::fromLatin1(description));
+  parser.setApplicationDescription(QString::fromLatin1(applicationDescription));
   for (const OptionRule& rule : optionRules)
     parser.addOption({QString::fromLatin1(rule.name), QString::fromLatin1(rule.help),
                       QString::fromLatin1(rule.valueName)});

@@ -107,7 +107,7 @@ class Operations {
   [[nodiscard]] std::pair<ResultCode, QString> accept(const std::string& token, AcceptedMessage message,
                                                       const std::string& numbers);
   template <class Request, class Response>
-  [[nodiscard]] ResultCode send(const Request& request, AcceptedMessage message, Response& response);
+  [[nodiscard]] ResultCode send(const Request& request, AcceptedMessage&& message, Response& response);
 
   GatewayState& state_;
   std::deque<QByteArray> wireTexts_;

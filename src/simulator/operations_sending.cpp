@@ -156,7 +156,7 @@ std::pair<ResultCode, QString> Operations::accept(const std::string& token, Acce
 }
 
 template <class Request, class Response>
-ResultCode Operations::send(const Request& request, AcceptedMessage message, Response& response) {
+ResultCode Operations::send(const Request& request, AcceptedMessage&& message, Response& response) {
   const auto [code, receipts] = accept(request.sSession, std::move(message), request.sListPhoneNumbers);
   response.sListReciepts = toWire(receipts);
   return code;

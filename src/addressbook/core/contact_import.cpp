@@ -155,7 +155,7 @@ QString outcomeText(const ImportOutcome& outcome) {
 
 // The last lines of the summary of an import that is not complete.
 QString remainderText(const ImportOutcome& outcome) {
-  const QString remaining = u'\n' + ImportOutcome::tr("Not imported: %L1").arg(outcome.remaining);
+  QString remaining = u'\n' + ImportOutcome::tr("Not imported: %L1").arg(outcome.remaining);
   switch (outcome.end) {
     case ImportOutcome::End::Complete:
       return {};

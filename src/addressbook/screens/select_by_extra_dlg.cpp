@@ -34,8 +34,8 @@ QLabel* explanation(QWidget* parent) {
 }
 
 QString valueCountText(qsizetype values, std::size_t contacts) {
-  const QString chosen = values == 1 ? CSelectByExtraDlg::tr("1 value selected")
-                                     : CSelectByExtraDlg::tr("%1 values selected").arg(values);
+  QString chosen = values == 1 ? CSelectByExtraDlg::tr("1 value selected")
+                               : CSelectByExtraDlg::tr("%1 values selected").arg(values);
   if (values == 0) return chosen;
   if (contacts == 1) return CSelectByExtraDlg::tr("%1, 1 contact matches").arg(chosen);
   return CSelectByExtraDlg::tr("%1, %2 contacts match").arg(chosen).arg(contacts);

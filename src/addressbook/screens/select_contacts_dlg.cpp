@@ -26,7 +26,7 @@ constexpr int numberWidth = 100;
 constexpr int listHeightUnits = 190;
 
 QString contactCountText(int ticked, int all, int tickedAndShown) {
-  const QString count = CSelectContactsDlg::tr("%1 of %2 contacts selected").arg(ticked).arg(all);
+  QString count = CSelectContactsDlg::tr("%1 of %2 contacts selected").arg(ticked).arg(all);
   if (ticked == tickedAndShown) return count;
   return CSelectContactsDlg::tr("%1, %2 hidden by the search").arg(count).arg(ticked - tickedAndShown);
 }
