@@ -68,7 +68,12 @@ bool Application::locateGateway() {
   const ServerLocator locator(site);
   const ProxyDiscovery discovery(site, runner_);
   ProxyLoginBox login(discovery);
-  return GatewaySearch({locator, discovery, runner_, progress_, login}).run(state_);
+  return GatewaySearch({.locator = locator,
+                        .discovery = discovery,
+                        .runner = runner_,
+                        .progress = progress_,
+                        .login = login})
+      .run(state_);
 }
 
 }  // namespace parlexo

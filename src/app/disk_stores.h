@@ -19,8 +19,8 @@ namespace parlexo {
 /// templates.
 class DiskStores final : public RunStores {
  public:
-  /// Uses the folders that `settings` has at this moment; changes take effect at the next start. The other
-  /// arguments must outlive this object.
+  /// Uses the current folders of `settings`; later changes take effect at the next start. The other arguments
+  /// must outlive this object.
   DiskStores(Settings& settings, Notifier& notifier, Progress& progress);
 
   [[nodiscard]] bool loadContacts() override;

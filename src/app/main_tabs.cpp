@@ -13,8 +13,6 @@
 
 namespace parlexo {
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
 // Also identifies the tab in CMainDlg::openTab().
@@ -34,7 +32,7 @@ void openStatusOnRequest(SendPage& page, CStatusDlg& status, CMainDlg& window) {
   });
 }
 
-// Contacts added from a send page are probably its recipients, so they are preselected.
+// Preselects contacts added from a send page, as they are probably meant as recipients.
 SendPage* connectContactsToAdd(SendPage* page, const AddressBookServices& services) {
   QObject::connect(page, &SendPage::contactsToAdd, page, [page, services](QWidget& button) {
     if (const auto added = addOrImportContacts(services, button)) page->selectContacts(*added);

@@ -9,7 +9,7 @@ void prepareProcess() {
   std::signal(SIGPIPE, SIG_IGN);
 }
 
-// The menu of a window's icon belongs to the window manager.
+// The system menu is provided by the window manager and can't be extended.
 void addToSystemMenu(QWidget& /*window*/, const QString& /*text*/) {}
 
 bool isSystemMenuEntry(const void* /*message*/) {

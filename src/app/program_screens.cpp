@@ -47,7 +47,7 @@ void ProgramScreens::runMainWindow() {
     fetchNews(services_.background, window, [&](const QString& news) { announcement.announce(news); });
   });
   window.restoreGeometry(services_.settings.windowGeometry());
-  // When the user logs off from the computer, the program is ended without closing this window.
+  // When the user logs off from the desktop, the program is terminated without closing this window.
   QObject::connect(qGuiApp, &QGuiApplication::commitDataRequest, &window, [&] {
     services_.stores.saveStatusLog();
     saveGeometry(window);

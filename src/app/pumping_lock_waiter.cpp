@@ -25,7 +25,7 @@ qint64 PumpingLockWaiter::nowSeconds() {
 
 void PumpingLockWaiter::pause() {
   if (!isWaiting_) showBox();
-  // Input must not reach a page, which could use the waiting store.
+  // Input must not reach a page, which could access the store while it waits.
   const InputBlock block;
   QEventLoop loop;
   QTimer::singleShot(step_, &loop, &QEventLoop::quit);

@@ -47,9 +47,9 @@ QStringList toLogLines(const AcceptedMessage& message) {
   lines.append(u"  to %1"_s.arg(recipientList(message)));
   if (!message.text.isEmpty()) lines.append(u"  text: %1"_s.arg(escapeForLog(message.text)));
   if (!message.fileName.isEmpty())
-    lines.append(u"  file: %1, %2 bytes, SHA-256 %3"_s.arg(escapeForLog(message.fileName))
-                     .arg(message.fileSize)
-                     .arg(QString::fromLatin1(message.fileSha256)));
+    lines.append(u"  file: %1, %2 bytes, SHA-256 %3"_s.arg(escapeForLog(message.fileName),
+                                                           QString::number(message.fileSize),
+                                                           QString::fromLatin1(message.fileSha256)));
   return lines;
 }
 

@@ -60,7 +60,7 @@ const Account* AccountBook::find(const QString& user) const {
   return it == accounts_.end() ? nullptr : &it->second;
 }
 
-bool AccountBook::addBelow(const Account& parent, const QString& user, const QString& email) {
+bool AccountBook::addSubAccount(const Account& parent, const QString& user, const QString& email) {
   Account account;
   account.user = user;
   account.parent = parent.user;

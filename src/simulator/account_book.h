@@ -47,8 +47,8 @@ class AccountBook {
   /// Returns the account of `user` (case-sensitive), or null.
   [[nodiscard]] Account* find(const QString& user);
   [[nodiscard]] const Account* find(const QString& user) const;
-  /// Adds an account below `parent`. Returns false if the name is taken.
-  bool addBelow(const Account& parent, const QString& user, const QString& email);
+  /// Adds a sub-account of `parent`. Returns false if the name is taken.
+  bool addSubAccount(const Account& parent, const QString& user, const QString& email);
   /// Adds `cents`, which may be negative, to the balance and records the transaction in the history.
   void post(Account& account, std::int64_t cents, const QDateTime& date, const QString& description);
 

@@ -131,7 +131,7 @@ struct OptionRule {
   const char* name;
   const char* valueName;
   const char* help;
-  /// Parses a value into `line`. Returns what is wrong with it, or an empty string.
+  /// Parses a value into `line`. Returns an error message or an empty string.
   QString (*parse)(CommandLine& line, const QString& value);
 };
 
@@ -166,7 +166,8 @@ constexpr std::array optionRules = {
     OptionRule{"fault", "FAULT", "A fault as described below; can be repeated.", parseFaultOption},
 };
 
-// Parses the values of all options into `line`. Returns what is wrong with the first bad one.
+// Parses the values of all options into `line`. Returns an error message for the first invalid
+// value or an empty string.
 QString parseValues(CommandLine& line, const QCommandLineParser& parser) {
   const std::vector<AccountOptions> defaultAccounts = std::exchange(line.options.accounts, {});
   for (const OptionRule& rule : optionRules) {

@@ -18,10 +18,10 @@ struct CommandLine {
   std::vector<Fault> faults;
   QString help;          ///< the text to print for --help
   bool version = false;  ///< print the version
-  QString problem;       ///< what is wrong with the arguments; empty if they are valid
+  QString problem;       ///< error message; empty if the arguments are valid
 };
 
-/// Parses `arguments`, whose first element is the program as it was called. Needs a QCoreApplication. The
+/// Parses `arguments`, whose first element is the path of the program. Needs a QCoreApplication. The
 /// texts are not translated, as the simulator is a tool for developers.
 [[nodiscard]] CommandLine parseCommandLine(const QStringList& arguments);
 

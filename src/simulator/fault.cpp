@@ -89,7 +89,7 @@ QString findScopeProblem(const Fault& fault) {
   return {};
 }
 
-// Sets the value of `fault`; nullopt if the text has no "=". Returns what is wrong, or an empty string.
+// Sets the value of `fault`; nullopt if the text has no "=". Returns an error message or an empty string.
 QString setValue(Fault& fault, const KindRule& rule, const std::optional<QString>& value) {
   const QString word = QString::fromLatin1(rule.word);
   switch (rule.value) {
@@ -110,7 +110,7 @@ QString setValue(Fault& fault, const KindRule& rule, const std::optional<QString
   return {};
 }
 
-// Parses "KIND[=VALUE]" into `fault`. Returns what is wrong, or an empty string.
+// Parses "KIND[=VALUE]" into `fault`. Returns an error message or an empty string.
 QString parseKind(Fault& fault, const QString& text) {
   const qsizetype equals = text.indexOf(u'=');
   const QString word = equals < 0 ? text : text.left(equals);

@@ -37,11 +37,11 @@ struct Fault {
   bool once = false;  ///< applies only to the next matching call
 };
 
-/// Returns why `fault` is invalid, as an English text; empty if it is valid.
+/// Returns an English error message if `fault` is invalid, otherwise an empty string.
 [[nodiscard]] QString findProblem(const Fault& fault);
 
-/// Parses "OPERATION:KIND[=VALUE][:next]", which the help of the command line describes. Returns the fault,
-/// or an English text that says what is wrong.
+/// Parses "OPERATION:KIND[=VALUE][:next]", as described by `parlexo-simulator --help`. Returns the fault, or
+/// an English error message.
 [[nodiscard]] std::variant<Fault, QString> parseFault(const QString& text);
 
 /// Returns kind and value of `fault` in the format of parseFault().

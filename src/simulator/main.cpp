@@ -17,7 +17,7 @@ namespace {
 using parlexo::simulator::CommandLine;
 
 constexpr int startFailed = 1;
-constexpr int wrongUsage = 2;
+constexpr int usageError = 2;
 
 void print(std::FILE* stream, const QString& line) {
   const QByteArray bytes = line.toUtf8() + '\n';
@@ -46,7 +46,7 @@ int runProgram(int argc, char** argv) {
   CommandLine line = parlexo::simulator::parseCommandLine(QCoreApplication::arguments());
   if (!line.problem.isEmpty()) {
     print(stderr, u"parlexo-simulator: %1\nTry \"parlexo-simulator --help\"."_s.arg(line.problem));
-    return wrongUsage;
+    return usageError;
   }
   if (!line.help.isEmpty()) {
     print(stdout, line.help);

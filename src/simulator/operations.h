@@ -98,7 +98,7 @@ class Operations {
   /// Returns the account if the password is correct, otherwise null.
   [[nodiscard]] const Account* accountWithPassword(const std::string& user,
                                                    const std::string& password) const;
-  /// Returns the account of `user` if it is below `parent`, otherwise null.
+  /// Returns the account of `user` if it is a sub-account of `parent`, otherwise null.
   [[nodiscard]] Account* subAccount(const Account& parent, const std::string& user);
   [[nodiscard]] ResultCode endSession(const std::string& token);
   [[nodiscard]] ResultCode validate(const AcceptedMessage& message) const;

@@ -80,7 +80,7 @@ ResultCode Operations::handle(const protocol::partnerAddUser& request, protocol:
   if (!partner) return ResultCode::SessionExpired;
   const QString user = toText(request.sUser);
   const bool added = partner->parent.isEmpty() && isUserName(user) &&
-                     state_.accounts.addBelow(*partner, user, toText(request.sEmail));
+                     state_.accounts.addSubAccount(*partner, user, toText(request.sEmail));
   return added ? ResultCode::Success : ResultCode::BadUser;
 }
 

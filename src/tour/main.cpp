@@ -37,7 +37,7 @@ std::variant<TourOptions, EarlyExit> parseArguments(int argc, char** argv) {
   const auto parsed = parseCommandLine(parser, programName, QCoreApplication::arguments());
   if (const auto* exit = std::get_if<EarlyExit>(&parsed)) return *exit;
   if (parser.positionalArguments().size() != 1)
-    return wrongUsage(programName, u"exactly one folder for the screenshots is needed"_s);
+    return usageError(programName, u"exactly one folder for the screenshots is needed"_s);
   return TourOptions{.client = std::get<ProgramOptions>(parsed),
                      .pictures = QDir(parser.positionalArguments().constFirst()).absolutePath()};
 }

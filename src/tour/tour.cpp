@@ -51,7 +51,8 @@ void Tour::waitForWindow() {
 
 void Tour::runStep(QWidget* window) {
   const TourStep& step = steps_[next_];
-  const QString file = u"%1/%2-%3.png"_s.arg(folder_).arg(next_ + 1, 2, 10, QChar(u'0')).arg(step.picture);
+  const QString number = QString::number(next_ + 1).rightJustified(2, u'0');
+  const QString file = u"%1/%2-%3.png"_s.arg(folder_, number, step.picture);
   if (!window->grab().save(file)) return fail(u"cannot write the picture %1"_s.arg(file));
   print(u"%1. %2  [%3]"_s.arg(next_ + 1, 2).arg(step.description, file));
   ++next_;

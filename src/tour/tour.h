@@ -12,8 +12,8 @@ class QWidget;
 
 namespace parlexo {
 
-/// One user action of the tour. Windows and controls are found by their English texts, so the tour needs a
-/// client without a translation.
+/// One user action of the tour. Windows and controls are found by their English texts, so the client must not
+/// be translated.
 struct TourStep {
   QString picture;                              ///< base name of the screenshot taken before the action
   QString description;                          ///< printed with the screenshot's name
@@ -35,7 +35,7 @@ class Tour : public QObject {
   /// Screenshots are saved in `folder`, which is created if missing.
   Tour(std::vector<TourStep> steps, const QString& folder);
 
-  /// Starts the tour; it runs in the event loop. A failure ends the tour and the program with exit code 1.
+  /// Starts the tour, which runs in the event loop. A failure ends the tour and quits the event loop.
   void start();
   /// Returns true once all steps have succeeded.
   [[nodiscard]] bool succeeded() const { return !failed_ && next_ == steps_.size(); }

@@ -48,7 +48,7 @@ QAbstractItemView* findList(QWidget* window, const QString& name) {
   return nullptr;
 }
 
-// Finds a control by the label that it is the buddy of.
+// Returns the buddy of the visible label with this text, or null.
 QWidget* findControl(QWidget* window, const QString& label) {
   for (const auto* candidate : window->findChildren<QLabel*>()) {
     if (withoutMnemonic(candidate->text()) == label && candidate->isVisible()) return candidate->buddy();

@@ -29,8 +29,8 @@ enum class EmailSaveOutcome {
   Failed,
 };
 
-/// Fetches the account's e-mail preferences from the gateway. Returns nullopt if that fails, without a
-/// message.
+/// Fetches the account's e-mail preferences from the gateway. Returns nullopt if that fails; the error is not
+/// reported to the user.
 [[nodiscard]] std::optional<EmailPreferences> fetchEmailPreferences(const AccountServices& services);
 
 /// Saves `preferences` at the gateway, which validates them, and reports the outcome to the user. Shows the

@@ -13,8 +13,8 @@ namespace parlexo {
 
 class BackgroundGateway;
 
-/// Fetches the gateway's news in the background, which needs no session, and passes it to `show` on the GUI
-/// thread. `show` is not called if the query fails or `context` has been destroyed.
+/// Fetches the gateway's news in the background, which needs no session, and passes it to `show` on the
+/// interface thread. `show` is not called if the query fails or `context` has been destroyed.
 void fetchNews(const BackgroundGateway& gateway, QObject& context,
                std::function<void(const QString& news)> show);
 

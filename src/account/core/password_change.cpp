@@ -57,7 +57,7 @@ std::optional<PasswordProblem> validate(const PasswordDraft& draft) {
                           "No new password has been provided that is between 6 and 10 characters."),
         PasswordField::New);
   if (!hasLetterAndDigit(retyped))
-    // If both are the same, retyping is not the mistake.
+    // If both are equal, the new password itself must be corrected.
     return problem(
         QT_TRANSLATE_NOOP("PasswordChange", "Password must contain some characters and some numbers."),
         retyped == newPassword ? PasswordField::New : PasswordField::Retyped);
@@ -76,8 +76,9 @@ std::optional<PasswordProblem> validate(const PasswordDraft& draft) {
 
 std::optional<PasswordField> changePassword(const AccountServices& services, const PasswordDraft& draft) {
   if (const auto problem = validate(draft)) {
-    services.notifier.error(problem->first);
-    return problem->second;
+    const auto& [text, field] = *problem;
+    services.notifier.error(text);
+    return field;
   }
   const auto reply = requestChange(services, draft);
   if (reply.answered() && reply->nErrorCode == 0) {

@@ -37,7 +37,7 @@ EmailPreferencesPanel::EmailPreferencesPanel(const AccountServices& services, QW
   grid->setColumnMinimumWidth(filterColumn - 1, look::groupSpacing);
   grid->setColumnStretch(1, 1);
   grid->setColumnStretch(filterColumn + 1, 1);
-  createSwitches(*grid);
+  createOptions(*grid);
   createFilter(*grid);
   auto* hint = new UnsendableHint(this);
   hint->watch({code_, addresses_[0], addresses_[1], addresses_[2]});
@@ -68,7 +68,7 @@ QLineEdit* EmailPreferencesPanel::addEdit(QGridLayout& grid, int row, int column
   return edit;
 }
 
-void EmailPreferencesPanel::createSwitches(QGridLayout& grid) {
+void EmailPreferencesPanel::createOptions(QGridLayout& grid) {
   enabled_ = addCheckBox(grid, 0, 0, "emailEnabled", tr("Enable Email Messaging:"));
   connect(enabled_, &QCheckBox::toggled, this, &EmailPreferencesPanel::updateEnabled);
   code_ = addEdit(grid, 1, 0, "identityCode", tr("&Identity Code:"));

@@ -14,7 +14,7 @@ class QLineEdit;
 
 namespace parlexo {
 
-/// The section of the settings page for messages sent by e-mail. Controls without effect are disabled.
+/// The section of the settings page for messages sent by e-mail. Controls that have no effect are disabled.
 class EmailPreferencesPanel final : public QGroupBox {
   Q_OBJECT
 
@@ -32,7 +32,7 @@ class EmailPreferencesPanel final : public QGroupBox {
  private:
   QCheckBox* addCheckBox(QGridLayout& grid, int row, int column, const char* name, const QString& label);
   QLineEdit* addEdit(QGridLayout& grid, int row, int column, const char* name, const QString& label);
-  void createSwitches(QGridLayout& grid);
+  void createOptions(QGridLayout& grid);
   void createFilter(QGridLayout& grid);
   void load();
   void save();

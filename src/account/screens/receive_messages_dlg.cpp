@@ -20,13 +20,13 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// User names of accounts below a parent account are "NAME@PARENT".
-bool hasParent(const QString& userName) {
+// The user name of a sub-account has the form "NAME@PARENT".
+bool isSubAccount(const QString& userName) {
   return userName.contains(u'@');
 }
 
 QString introductionFor(const QString& userName) {
-  if (hasParent(userName))
+  if (isSubAccount(userName))
     return CReceiveMessagesDlg::tr(
         "If your parent account has been assigned a dedicated number then it is possible for you to receive "
         "replies to your SMS.\r\nEmail Parlexo for further information.");
@@ -106,7 +106,7 @@ QWidget* CReceiveMessagesDlg::createExplanation() {
 
 void CReceiveMessagesDlg::updateUser() {
   introduction_->setText(introductionFor(state_.userName));
-  ownNumbers_->setVisible(!hasParent(state_.userName));
+  ownNumbers_->setVisible(!isSubAccount(state_.userName));
   for (QLineEdit* user : users_) user->setText(state_.userName);
 }
 

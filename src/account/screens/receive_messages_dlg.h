@@ -26,8 +26,8 @@ inline constexpr std::array<ReceivingNumber, 3> receivingNumbers{
      {QT_TRANSLATE_NOOP("parlexo::CReceiveMessagesDlg", "Malaysian"), "+60312345678"},
      {QT_TRANSLATE_NOOP("parlexo::CReceiveMessagesDlg", "China"), "+861012345678"}}};
 
-/// The page with the numbers that receive replies to the account's messages. An account below a parent
-/// account has no numbers; the page says so.
+/// The page with the numbers that receive replies to the account's messages. Sub-accounts have no
+/// numbers and see an explanation instead.
 class CReceiveMessagesDlg final : public GradientPage {
   Q_OBJECT
 
@@ -48,7 +48,7 @@ class CReceiveMessagesDlg final : public GradientPage {
 
   const RunState& state_;
   QLabel* introduction_ = nullptr;
-  QWidget* ownNumbers_ = nullptr;  ///< hidden for an account below a parent account
+  QWidget* ownNumbers_ = nullptr;  ///< hidden for a sub-account
   std::array<QLineEdit*, receivingNumbers.size()> users_{};
 };
 

@@ -20,8 +20,8 @@ using FolderChooser = std::function<QString(QWidget* parent, const QString& prom
 /// Asks for a folder with the system's dialog.
 [[nodiscard]] QString chooseFolder(QWidget* parent, const QString& prompt, const QString& start);
 
-/// The section of the settings page for the contacts and templates folders. A new folder is saved to the
-/// settings immediately and used from the next start on.
+/// The section of the settings page for the contacts and templates folders. A new folder is saved in the
+/// settings immediately and takes effect at the next start.
 class StorageFoldersPanel final : public QGroupBox {
   Q_OBJECT
 

@@ -22,8 +22,8 @@ class BalanceCheck {
 
   /// Queries the balance for a main window that is about to open. Returns it with two decimals, or an empty
   /// string if the query failed. Reports an unreachable gateway; an error code of the gateway is ignored.
-  /// Warns if the balance is low. A balance of zero or less sets RunState::balanceIsZero for the rest of the
-  /// run. Hides the progress box before any message.
+  /// Warns if the balance is low. A balance of zero or less sets RunState::balanceIsZero, which is never
+  /// reset. Hides the progress box before any message.
   [[nodiscard]] QString run();
 
   /// Like run(), but for a refresh by the user: without warnings, and nullopt if the query failed.

@@ -16,13 +16,12 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int wrongUsageCode = 2;
+constexpr int usageErrorCode = 2;
 const QString clientProgram = u"parlexo-client"_s;
 const QString siteOption = u"site"_s;
 const QString dataDirOption = u"data-dir"_s;
 
-// QApplication evaluates these later and removes them. They are declared so that the parser skips them with
-// their values and still refuses unknown options.
+// QApplication parses these options later. They are declared here because the parser rejects unknown options.
 QList<QCommandLineOption> toolkitOptions() {
   QList<QCommandLineOption> options;
   for (const auto* flag : {"reverse", "nograb", "dograb", "widgetcount"})
@@ -38,8 +37,8 @@ QList<QCommandLineOption> toolkitOptions() {
 QList<QCommandLineOption> clientOptions() {
   return {{siteOption,
            QCoreApplication::translate("CommandLine",
-                                       "Download the locator document from this web site, not from %1.")
-               .arg(defaultServiceHost()),
+                                       "Download the locator document from this web site instead of the "
+                                       "default one."),
            u"http://HOST:PORT"_s},
           {dataDirOption,
            QCoreApplication::translate("CommandLine",
@@ -54,7 +53,7 @@ bool isSite(const QString& text) {
          bare;
 }
 
-// Returns what is wrong with the values of clientOptions(); empty if nothing is.
+// Returns an error message if a value of clientOptions() is invalid, otherwise an empty string.
 QString findProblem(const QCommandLineParser& parser) {
   for (const QString& option : {siteOption, dataDirOption}) {
     // A value that looks like an option means that the actual value was forgotten.
@@ -80,8 +79,8 @@ EarlyExit failure(int exitCode, const QString& program, const QString& problem) 
   return {exitCode, u"%1: %2\n"_s.arg(program, problem)};
 }
 
-EarlyExit wrongUsage(const QString& program, const QString& problem) {
-  return failure(wrongUsageCode, program,
+EarlyExit usageError(const QString& program, const QString& problem) {
+  return failure(usageErrorCode, program,
                  QCoreApplication::translate("CommandLine", "%1\nTry \"%2 --help\".").arg(problem, program));
 }
 
@@ -99,7 +98,7 @@ std::variant<ProgramOptions, EarlyExit> parseCommandLine(const QStringList& argu
   auto* options = std::get_if<ProgramOptions>(&parsed);
   if (!options) return parsed;
   if (const QStringList extra = parser.positionalArguments(); !extra.isEmpty())
-    return wrongUsage(
+    return usageError(
         clientProgram,
         QCoreApplication::translate("CommandLine", "unexpected argument \"%1\"").arg(extra.constFirst()));
   options->demo = parser.isSet(demo);
@@ -117,10 +116,10 @@ std::variant<ProgramOptions, EarlyExit> parseCommandLine(QCommandLineParser& par
   parser.addOptions(toolkitOptions());
   // Qt's own options begin with a single dash.
   parser.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
-  if (!parser.parse(arguments)) return wrongUsage(program, parser.errorText());
+  if (!parser.parse(arguments)) return usageError(program, parser.errorText());
   if (parser.isSet(help)) return EarlyExit{0, parser.helpText()};
   if (parser.isSet(version)) return EarlyExit{0, u"Parlexo Client %1\n"_s.arg(QLatin1String(clientVersion))};
-  if (const QString problem = findProblem(parser); !problem.isEmpty()) return wrongUsage(program, problem);
+  if (const QString problem = findProblem(parser); !problem.isEmpty()) return usageError(program, problem);
   ProgramOptions options;
   options.site = parser.value(siteOption);
   if (options.site.endsWith(u'/')) options.site.chop(1);

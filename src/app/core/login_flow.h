@@ -26,8 +26,8 @@ class LoginFlow {
       : state_(state), settings_(settings), gateway_(gateway), notifier_(notifier) {}
 
   /// Logs in with `user` and `password`, which are sent unchecked, even if empty. On success, stores the
-  /// session token and the user name in the run's state and remembers the name for the next start. If the
-  /// gateway returns success without a token, the login counts as accepted, but nothing is stored.
+  /// session token and the user name in RunState and saves the name in the settings for the next start. If
+  /// the gateway returns success without a token, the login counts as accepted, but nothing is stored.
   [[nodiscard]] LoginOutcome attempt(const QString& user, const QString& password);
 
  private:

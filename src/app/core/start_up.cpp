@@ -12,8 +12,8 @@ namespace {
 constexpr int contactsUnreadable = -1;
 constexpr int finished = 0;
 
-// Does nothing if no session is open. The reply is ignored, so the timeout is short. This call bypasses the
-// proxy that all other calls use.
+// A no-op if no session is open. The reply is ignored, so the timeout is short. Unlike all other calls, this
+// one bypasses the proxy.
 void endSession(const RunState& state, CallRunner& runner) {
   if (state.session.isEmpty()) return;
   RunState direct = state;

@@ -41,11 +41,11 @@ class StartUpWindows {
  public:
   virtual ~StartUpWindows() = default;
 
-  /// Offers the upgrade to `version`; an empty `version` means that the gateway speaks another protocol.
+  /// Offers the upgrade to `version`; an empty `version` means an incompatible protocol.
   virtual void showUpgrade(const QString& version) = 0;
   /// Returns true if the user has logged in, false if the user cancelled.
   [[nodiscard]] virtual bool logIn() = 0;
-  /// Runs the main window, which hides the progress box at the latest when it shows the balance.
+  /// Hides the progress box and runs the main window.
   virtual void runMainWindow() = 0;
 
  protected:
@@ -75,7 +75,8 @@ class StartUp {
   explicit StartUp(StartUpParts parts) : parts_(std::move(parts)) {}
 
   /// Runs all steps in order; a failed step is reported to the user and ends the run. Returns the program's
-  /// exit code: -1 if the contacts could not be loaded, otherwise 0. The caller calls shutDown() in any case.
+  /// exit code: -1 if the contacts could not be loaded, otherwise 0. The caller must call shutDown() in any
+  /// case.
   [[nodiscard]] int run();
 
  private:
@@ -87,8 +88,8 @@ class StartUp {
   StartUpParts parts_;
 };
 
-/// Ends the run, regardless of which step of start-up it reached: hides the progress box, releases the
-/// contacts, saves the status log and closes the session. Errors are not reported to the user.
+/// Hides the progress box, releases the contacts, saves the status log and closes the session. Can be called
+/// after any step of start-up. Errors are not reported to the user.
 void shutDown(const RunState& state, RunStores& stores, Progress& progress, CallRunner& runner);
 
 }  // namespace parlexo
