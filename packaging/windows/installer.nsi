@@ -63,6 +63,8 @@ Section
   !insertmacro closeFirst "${NAME}.exe"
   !insertmacro closeFirst "parlexo-simulator.exe"
   !insertmacro closeFirst "parlexo-page-counter.exe"
+  ; The simulator of version 2.24.
+  Delete "$INSTDIR\parlexo-gateway.exe"
   SetOutPath "$INSTDIR"
   File "${ROOT}/dist/Parlexo Client.exe"
   File "${ROOT}/dist/parlexo-simulator.exe"

@@ -12,7 +12,7 @@ set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_PACKAGE ONLY)
 
-# GCC takes an inline function's copy in one file for the one that is called, and relies on the registers which
-# that copy leaves alone. On Windows the linker may have kept another file's copy, compiled differently.
+# GCC assumes that an inline function called in a file is the copy that it compiled there, and relies on the registers
+# that this copy does not change. On Windows the linker may keep the copy of another file, compiled differently.
 set(CMAKE_C_FLAGS_INIT "-fno-ipa-ra")
 set(CMAKE_CXX_FLAGS_INIT "-fno-ipa-ra")
