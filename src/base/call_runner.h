@@ -36,8 +36,8 @@ class CallRunner {
   CallRunner& operator=(const CallRunner&) = default;
 };
 
-/// Runs tasks on the calling thread: for tests, command-line tools and code that is on a worker thread
-/// already.
+/// Runs tasks on the calling thread: for tests, command-line tools and code that already runs on a worker
+/// thread.
 class DirectCallRunner final : public CallRunner {
  public:
   /// Every task gets `cancel`.

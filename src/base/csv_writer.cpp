@@ -48,7 +48,7 @@ void CsvWriter::addRow(const QStringList& cells) {
   QStringList written;
   written.reserve(cells.size());
   for (const QString& cell : cells) {
-    const bool isEscaped = cells_ == CsvCells::Harmless && isFormula(cell);
+    const bool isEscaped = cells_ == CsvCells::Escaped && isFormula(cell);
     const QString text = isEscaped ? u'\'' + cell : cell;
     written.append(needsQuotes(text) ? quoted(text) : text);
   }

@@ -9,8 +9,8 @@ namespace parlexo {
 
 /// How cells that a spreadsheet would read as a formula are written. Negative numbers are not formulas.
 enum class CsvCells {
-  AsTheyAre,  ///< unchanged, for files that are read back
-  Harmless,   ///< with a leading apostrophe that makes them text, for files that people open
+  Unchanged,  ///< as they are, for files that are read back
+  Escaped,    ///< with a leading apostrophe that makes them text, for files that people open
 };
 
 /// Writes a table as CSV (RFC 4180): UTF-8 with a byte order mark, because Excel assumes another encoding

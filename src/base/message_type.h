@@ -5,7 +5,7 @@
 
 namespace parlexo {
 
-/// What a message is sent as. No page of the client sends voice messages.
+/// The type of a message. The client has no page for voice messages.
 enum class MessageType { Sms, Mms, Fax, Wap, Voice };
 
 /// The word for a type in the status file, in logs and in an account's history: "SMS", "MMS", "Fax", "WAP" or

@@ -32,8 +32,7 @@ class Notifier {
 
   /// Shows `text` and blocks until the user answers. `style` combines message_style values. A
   /// `suppressibleNumber` other than 0 offers "don't show again" for the message with that number. A
-  /// suppressed message is not shown; the result is then No if the button bits are 1, 2 or 3, otherwise Ok
-  /// (also for a plain yes/no question).
+  /// suppressed message is not shown, and the result is suppressedResult(style).
   virtual MessageResult show(const QString& text, unsigned style, int suppressibleNumber = 0) = 0;
 
   void error(const QString& text) { show(text, message_style::stop); }

@@ -17,8 +17,8 @@ struct ProgramFolder {
 /// by Linux packages, in libexec. Empty if there is none.
 [[nodiscard]] QString helperProgram(const QString& name);
 
-/// Ends the process with `exitCode`; call as the last statement of main() and return the result. On Windows
-/// it does not return, because the C runtime's clean-up may hang there.
+/// Call last in main() and return the result, which is `exitCode`. On Windows it ends the process instead of
+/// returning, because the C runtime's clean-up may hang there.
 int endProcess(int exitCode);
 
 }  // namespace parlexo

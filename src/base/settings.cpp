@@ -50,7 +50,7 @@ Settings::Settings()
     : store_(std::make_unique<QSettings>(QSettings::NativeFormat, QSettings::UserScope, organisation,
                                          application)),
       programFolder_(defaultProgramFolder()) {
-  // Read only this user's settings for this program.
+  // Ignore settings that apply to all users or all programs.
   store_->setFallbacksEnabled(false);
 }
 

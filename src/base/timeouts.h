@@ -14,8 +14,8 @@ using std::chrono::seconds;
 
 /// Name lookup and connecting, for all addresses of the host together.
 inline constexpr seconds connect{30};
-/// How long to try one address before also trying the next. Limits the cost of a broken IPv6 route or of a
-/// server that is down to seconds.
+/// How long to try one address before also trying the next. With it, a broken IPv6 route or an unreachable
+/// server delays a call by only a few seconds.
 inline constexpr seconds nextAddress{2};
 /// Maximum wait for the next byte, sending or receiving. Long, because the gateway answers a send only after
 /// it has processed every number of the list.
@@ -29,16 +29,16 @@ inline constexpr seconds background{60};
 
 /// Maximum wait for a connection or for the next byte.
 inline constexpr seconds locatorSilence{30};
-/// The whole download, including redirects and the second attempt. Also limits a server that sends byte by
-/// byte, which `locatorSilence` alone would not.
+/// The whole download, including redirects and the second attempt. Also stops a server that sends one byte at
+/// a time, which never exceeds `locatorSilence`.
 inline constexpr seconds locatorWhole{90};
 /// Delay before the second and last attempt to connect.
 inline constexpr seconds locatorRetry{1};
 
 // Proxy discovery.
 
-/// One query of the helper program. Shorter than a name lookup on a dead network.
-inline constexpr seconds proxyQuestion{8};
+/// One query of the helper program. Shorter than a name lookup without a network.
+inline constexpr seconds proxyQuery{8};
 /// Download of the network's proxy configuration script: maximum wait for the next byte, and total time.
 inline constexpr seconds proxyScriptSilence{5};
 inline constexpr seconds proxyScriptWhole{10};
@@ -56,12 +56,12 @@ inline constexpr seconds pageCount{10};
 inline constexpr milliseconds untilBox{300};
 /// Total time of the tasks under one progress box before it offers Cancel.
 inline constexpr seconds untilCancel{10};
-/// The same for a query of many statuses, which users often start by mistake or lose patience with.
+/// The same for a query of many statuses, which users often start by mistake or do not want to wait for.
 inline constexpr seconds untilStatusCancel{3};
 /// Delay between the end of a user's call and the next background query, because one user action is often a
 /// sequence of calls.
 inline constexpr milliseconds untilBackground{200};
-/// How long exit waits for a cancelled background query to end before it is abandoned.
+/// How long the program waits at exit for a cancelled background query before abandoning it.
 inline constexpr milliseconds untilAbandoned{500};
 /// How long to wait for a cancelled call to end before it is abandoned.
 inline constexpr seconds afterCancel{2};

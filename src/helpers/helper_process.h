@@ -6,8 +6,8 @@
 namespace parlexo {
 
 /// Sandboxes this process for parsing untrusted input. It may use `memory` more bytes than it uses now and
-/// `seconds` of CPU time; it crashes without a dialog or core dump; standard input is binary. Cannot be
-/// undone. Failures are ignored.
+/// `seconds` of CPU time. A crash neither shows a dialog nor writes a core dump. Standard input is switched
+/// to binary mode. Cannot be undone. Failures are ignored.
 void sandboxProcess(std::size_t memory, unsigned seconds);
 
 }  // namespace parlexo

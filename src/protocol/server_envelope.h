@@ -12,7 +12,7 @@ struct soap;
 
 namespace parlexo::protocol {
 
-/// Reads a request on the side of the gateway, from the SOAP envelope in the body of the HTTP request.
+/// Reads a request on the gateway's side, from the SOAP envelope in the body of the HTTP request.
 class RequestReader {
  public:
   /// Reads up to the operation's element. operation() is empty if the envelope is malformed up to there.

@@ -20,31 +20,30 @@ constexpr unsigned maxNesting = 64;
 
 using Clock = std::chrono::steady_clock;
 
-const IoPatience& patienceFor(const ::soap* context) {
-  return *static_cast<const IoPatience*>(context->user);
+const IoOptions& ioOptions(const ::soap* context) {
+  return *static_cast<const IoOptions*>(context->user);
 }
 
 /// Waits until the socket is ready or has failed; the next call on it reports the failure. Returns false if
 /// the deadline has passed, the call was cancelled or there is no socket.
-bool waitFor(SOAP_SOCKET socket, Direction direction, Clock::time_point deadline,
-             const IoPatience& patience) {
+bool waitFor(SOAP_SOCKET socket, Direction direction, Clock::time_point deadline, const IoOptions& options) {
   // The runtime also writes to a connection that could not be opened.
   if (!soap_valid_socket(socket)) return false;
-  while (!isCancelled(patience) && Clock::now() < deadline) {
+  while (!isCancelled(options) && Clock::now() < deadline) {
     const int ready = waitForSocket(socket, direction, pollInterval);
     if (ready != 0) return ready > 0;
   }
   return false;
 }
 
-Clock::time_point silenceDeadline(const IoPatience& patience) {
-  return std::min(Clock::now() + patience.silence, patience.deadline);
+Clock::time_point silenceDeadline(const IoOptions& options) {
+  return std::min(Clock::now() + options.silence, options.deadline);
 }
 
 SOAP_SOCKET openConnection(::soap* context, const char* /*endpoint*/, const char* host, int port) {
   const bool throughProxy = context->proxy_host != nullptr;
   const SOAP_SOCKET socket = connectToHost(throughProxy ? context->proxy_host : host,
-                                           throughProxy ? context->proxy_port : port, patienceFor(context));
+                                           throughProxy ? context->proxy_port : port, ioOptions(context));
   if (soap_valid_socket(socket))
     tuneForRequests(socket);
   else
@@ -53,16 +52,16 @@ SOAP_SOCKET openConnection(::soap* context, const char* /*endpoint*/, const char
 }
 
 int sendBytes(::soap* context, const char* bytes, std::size_t count) {
-  const IoPatience& patience = patienceFor(context);
+  const IoOptions& options = ioOptions(context);
   while (count > 0) {
-    if (!waitFor(context->socket, Direction::Sending, silenceDeadline(patience), patience)) return SOAP_EOF;
+    if (!waitFor(context->socket, Direction::Sending, silenceDeadline(options), options)) return SOAP_EOF;
     const std::ptrdiff_t sent = sendSome(context->socket, bytes, count);
     if (sent < 0 && wouldBlock()) continue;
     if (sent < 0) {
       context->errnum = soap_socket_errno;
       return SOAP_EOF;
     }
-    if (patience.onSent) patience.onSent(static_cast<std::size_t>(sent));
+    if (options.onSent) options.onSent(static_cast<std::size_t>(sent));
     bytes += sent;
     count -= static_cast<std::size_t>(sent);
   }
@@ -72,9 +71,9 @@ int sendBytes(::soap* context, const char* bytes, std::size_t count) {
 /// Returns the number of bytes received; 0 at the end of the stream, on an error or timeout, or if the call
 /// was cancelled.
 std::size_t receiveBytes(::soap* context, char* buffer, std::size_t size) {
-  const IoPatience& patience = patienceFor(context);
-  const auto deadline = silenceDeadline(patience);
-  while (waitFor(context->socket, Direction::Receiving, deadline, patience)) {
+  const IoOptions& options = ioOptions(context);
+  const auto deadline = silenceDeadline(options);
+  while (waitFor(context->socket, Direction::Receiving, deadline, options)) {
     const std::ptrdiff_t received = receiveSome(context->socket, buffer, size);
     if (received >= 0) return static_cast<std::size_t>(received);
     if (wouldBlock()) continue;
@@ -86,9 +85,9 @@ std::size_t receiveBytes(::soap* context, char* buffer, std::size_t size) {
 
 /// Replaces the runtime's own I/O, which blocks in a single system call for the whole timeout and can't be
 /// cancelled.
-void installSocketIo(::soap& context, const IoPatience& patience) {
+void installSocketIo(::soap& context, const IoOptions& options) {
   // The runtime stores one untyped pointer for its callbacks, which only read through it.
-  context.user = const_cast<IoPatience*>(&patience);
+  context.user = const_cast<IoOptions*>(&options);
   context.fopen = openConnection;
   context.fsend = sendBytes;
   context.frecv = receiveBytes;
@@ -106,13 +105,13 @@ void installSocketIo(::soap& context, const IoPatience& patience) {
   return context;
 }
 
-::soap* newClientContext(const IoPatience& patience) {
+::soap* newClientContext(const IoOptions& options) {
   ::soap* context = newStreamContext();
   if (!context) return nullptr;
   context->recv_maxlength = maxReplyLength;
   // Requests have one character per byte; replies are Unicode.
   soap_set_imode(context, SOAP_C_UTFSTRING);
-  installSocketIo(*context, patience);
+  installSocketIo(*context, options);
   return context;
 }
 

@@ -15,8 +15,8 @@ namespace parlexo::protocol {
 /// Called on a separate thread that may outlive the call.
 using Resolver = std::function<std::vector<std::string>(const std::string& host)>;
 
-/// Time limits and callbacks for the network I/O of a context.
-struct IoPatience {
+/// Timeouts and callbacks for the network I/O of a context.
+struct IoOptions {
   std::chrono::milliseconds connect{};      ///< name lookup and connecting, for all addresses together
   std::chrono::milliseconds nextAddress{};  ///< how long to try one address before also trying the next
   std::chrono::milliseconds silence{};      ///< maximum wait for the next byte, sending or receiving
@@ -31,10 +31,10 @@ struct IoPatience {
 };
 
 /// Creates a context for one call to the gateway, with the gateway's namespaces and limits on what a
-/// malicious peer can make it read. Its I/O is subject to `patience`, which must outlive it. Strings are
+/// malicious peer can make it read. Its I/O is subject to `options`, which must outlive it. Strings are
 /// written one character per byte and read as UTF-8. The caller owns the context and frees it with
 /// freeContext(). Null if out of memory.
-[[nodiscard]] ::soap* newClientContext(const IoPatience& patience);
+[[nodiscard]] ::soap* newClientContext(const IoOptions& options);
 
 /// Creates a context without a connection, for reading envelopes from a stream (`is`) and writing them to one
 /// (`os`).

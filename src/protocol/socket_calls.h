@@ -28,9 +28,9 @@ void prepareSockets();
 /// Disables Nagle's algorithm and limits how much unsent data the system buffers.
 void tuneForRequests(SOAP_SOCKET socket);
 
-/// Waits up to `patience` until the socket is ready for `direction` or has failed; the next call on it
+/// Waits up to `timeout` until the socket is ready for `direction` or has failed; the next call on it
 /// reports the failure. Returns a positive value then, 0 on timeout, a negative value if waiting failed.
-[[nodiscard]] int waitForSocket(SOAP_SOCKET socket, Direction direction, std::chrono::milliseconds patience);
+[[nodiscard]] int waitForSocket(SOAP_SOCKET socket, Direction direction, std::chrono::milliseconds timeout);
 
 /// Sends up to `count` bytes. Returns the number of bytes sent, or a negative value on failure.
 [[nodiscard]] std::ptrdiff_t sendSome(SOAP_SOCKET socket, const char* bytes, std::size_t count);

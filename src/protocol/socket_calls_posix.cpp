@@ -40,10 +40,10 @@ void tuneForRequests(SOAP_SOCKET socket) {
   setsockopt(socket, IPPROTO_TCP, TCP_NOTSENT_LOWAT, &maxUnsentBytes, sizeof maxUnsentBytes);
 }
 
-int waitForSocket(SOAP_SOCKET socket, Direction direction, std::chrono::milliseconds patience) {
+int waitForSocket(SOAP_SOCKET socket, Direction direction, std::chrono::milliseconds timeout) {
   const short events = direction == Direction::Sending ? POLLOUT : POLLIN;
   pollfd watched{socket, events, 0};
-  const int ready = poll(&watched, 1, static_cast<int>(patience.count()));
+  const int ready = poll(&watched, 1, static_cast<int>(timeout.count()));
   return ready < 0 && errno == EINTR ? 0 : ready;
 }
 

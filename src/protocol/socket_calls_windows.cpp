@@ -47,12 +47,12 @@ void tuneForRequests(SOAP_SOCKET socket) {
 }
 
 // WSAPoll does not report refused connections before Windows 10 version 2004; select() does.
-int waitForSocket(SOAP_SOCKET socket, Direction direction, std::chrono::milliseconds patience) {
+int waitForSocket(SOAP_SOCKET socket, Direction direction, std::chrono::milliseconds timeout) {
   fd_set ready;
   FD_ZERO(&ready);
   FD_SET(socket, &ready);
   fd_set failed = ready;
-  const auto microseconds = std::chrono::duration_cast<std::chrono::microseconds>(patience).count();
+  const auto microseconds = std::chrono::duration_cast<std::chrono::microseconds>(timeout).count();
   timeval wait{0, static_cast<long>(microseconds)};
   const bool isSending = direction == Direction::Sending;
   return select(0, isSending ? nullptr : &ready, isSending ? &ready : nullptr, &failed, &wait);

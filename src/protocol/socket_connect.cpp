@@ -45,19 +45,19 @@ Addresses systemAddresses(const std::string& host) {
   return addresses;
 }
 
-/// A name lookup can't be interrupted, so it runs on a thread that is detached if it takes too long. Returns
-/// no address then.
-Addresses resolveAddresses(const std::string& host, Clock::time_point deadline, const IoPatience& patience) {
+/// Resolves `host` on a detached thread, because a name lookup can't be interrupted. Returns an empty list on
+/// failure, at the deadline or when cancelled.
+Addresses resolveAddresses(const std::string& host, Clock::time_point deadline, const IoOptions& options) {
   if (resolve(host, "0", AI_NUMERICHOST)) return {host};
   std::packaged_task<Addresses()> task(
-      [host, resolver = patience.resolve ? patience.resolve : systemAddresses] { return resolver(host); });
+      [host, resolver = options.resolve ? options.resolve : systemAddresses] { return resolver(host); });
   std::future<Addresses> addresses = task.get_future();
   try {
     std::thread(std::move(task)).detach();
   } catch (const std::system_error&) {
     return {};
   }
-  while (!isCancelled(patience) && Clock::now() < deadline) {
+  while (!isCancelled(options) && Clock::now() < deadline) {
     if (addresses.wait_for(pollInterval) == std::future_status::ready) return addresses.get();
   }
   return {};
@@ -83,14 +83,14 @@ class Socket {
   SOAP_SOCKET socket_;
 };
 
-/// Tries the addresses of a host, starting each with a delay while earlier attempts are pending.
+/// Tries the addresses of a host. Starts the next attempt when all others have failed, or after a delay.
 class ConnectionRace {
  public:
-  ConnectionRace(Addresses addresses, int port, const IoPatience& patience)
-      : addresses_(std::move(addresses)), port_(std::to_string(port)), patience_(patience) {}
+  ConnectionRace(Addresses addresses, int port, const IoOptions& options)
+      : addresses_(std::move(addresses)), port_(std::to_string(port)), options_(options) {}
 
   [[nodiscard]] SOAP_SOCKET run(Clock::time_point deadline) {
-    while (!isCancelled(patience_) && Clock::now() < deadline) {
+    while (!isCancelled(options_) && Clock::now() < deadline) {
       if (next_ < addresses_.size() && (running_.empty() || Clock::now() >= nextStart_)) startNext();
       if (running_.empty() && next_ == addresses_.size()) break;
       const SOAP_SOCKET winner = waitForConnection();
@@ -102,7 +102,7 @@ class ConnectionRace {
  private:
   void startNext() {
     const AddressList address = resolve(addresses_[next_++], port_, AI_NUMERICHOST);
-    nextStart_ = Clock::now() + patience_.nextAddress;
+    nextStart_ = Clock::now() + options_.nextAddress;
     if (!address) return;
     Socket socket(openSocket(*address));
     if (soap_valid_socket(socket.get()) && startConnecting(socket.get(), *address))
@@ -128,7 +128,7 @@ class ConnectionRace {
 
   Addresses addresses_;
   std::string port_;
-  const IoPatience& patience_;
+  const IoOptions& options_;
   std::size_t next_ = 0;
   Clock::time_point nextStart_{};
   std::vector<Socket> running_;
@@ -136,13 +136,13 @@ class ConnectionRace {
 
 }  // namespace
 
-bool isCancelled(const IoPatience& patience) {
-  return patience.isCancelled && patience.isCancelled();
+bool isCancelled(const IoOptions& options) {
+  return options.isCancelled && options.isCancelled();
 }
 
-SOAP_SOCKET connectToHost(const std::string& host, int port, const IoPatience& patience) {
-  const auto deadline = std::min(Clock::now() + patience.connect, patience.deadline);
-  return ConnectionRace(resolveAddresses(host, deadline, patience), port, patience).run(deadline);
+SOAP_SOCKET connectToHost(const std::string& host, int port, const IoOptions& options) {
+  const auto deadline = std::min(Clock::now() + options.connect, options.deadline);
+  return ConnectionRace(resolveAddresses(host, deadline, options), port, options).run(deadline);
 }
 
 }  // namespace parlexo::protocol

@@ -51,17 +51,18 @@ template <class Perform, class Refuse>
 [[nodiscard]] HttpReply dispatchSoap(const HttpRequest& request, Perform&& perform, Refuse&& refuse) {
   protocol::RequestReader reader(request.body.toStdString());
   const std::string& name = reader.operation();
-  HttpReply reply = soapFaultReply("SOAP-ENV:Client", "There is no operation \"" + name + "\"");
+  std::string reason = "There is no operation \"" + name + "\"";
+  HttpReply reply;
   if (name.empty()) {
-    reply = soapFaultReply("SOAP-ENV:Client", "The request is not a SOAP envelope");
+    reason = "The request is not a SOAP envelope";
   } else if (!hasActionFor(request, name)) {
-    reply = soapFaultReply("SOAP-ENV:Client", "SOAPAction and body name different operations");
+    reason = "SOAPAction and body name different operations";
   } else if (protocol::visitOperation(name,
                                       [&](const auto& operation) { reply = perform(operation, reader); })) {
     return reply;
   }
   refuse(QString::fromStdString(name));
-  return reply;
+  return soapFaultReply("SOAP-ENV:Client", reason);
 }
 
 }  // namespace parlexo::server

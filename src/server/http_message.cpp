@@ -47,7 +47,7 @@ QByteArray HttpRequest::path() const {
   return query < 0 ? path : path.left(query);
 }
 
-QByteArray wireForm(const HttpReply& reply, bool keepAlive) {
+QByteArray serialise(const HttpReply& reply, bool keepAlive) {
   QByteArray bytes = "HTTP/1.1 " + QByteArray::number(reply.status) + ' ' + reasonFor(reply.status) +
                      "\r\nContent-Type: " + reply.contentType +
                      "\r\nContent-Length: " + QByteArray::number(reply.body.size()) +

@@ -26,7 +26,7 @@ struct HttpRequest {
   [[nodiscard]] QByteArray path() const;
 };
 
-/// A reply, and faults to simulate when sending it.
+/// A reply and the faults to simulate while sending it.
 struct HttpReply {
   /// How much of the reply is sent before the connection is closed; Half is all headers and half of the body.
   enum class Ending { Whole, Half, Nothing };
@@ -39,6 +39,6 @@ struct HttpReply {
 };
 
 /// Serialises `reply` as far as its `ending` allows.
-[[nodiscard]] QByteArray wireForm(const HttpReply& reply, bool keepAlive);
+[[nodiscard]] QByteArray serialise(const HttpReply& reply, bool keepAlive);
 
 }  // namespace parlexo::server

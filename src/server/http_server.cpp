@@ -27,7 +27,7 @@ constexpr std::chrono::milliseconds refusalGrace{1000};
 /// the connection is closed.
 class HttpConnection final : public QObject {
  public:
-  HttpConnection(qintptr descriptor, const HttpHooks& hooks, std::chrono::milliseconds patience,
+  HttpConnection(qintptr descriptor, const HttpHooks& hooks, std::chrono::milliseconds timeout,
                  QObject* parent);
 
   /// Limits reading to `bytesPerSecond`, to simulate a slow connection.
@@ -43,7 +43,7 @@ class HttpConnection final : public QObject {
   void refuse(int status);
 
   const HttpHooks& hooks_;
-  std::chrono::milliseconds patience_;
+  std::chrono::milliseconds timeout_;
   QTcpSocket socket_;
   QTimer deadline_;
   QTimer throttle_;
@@ -52,16 +52,16 @@ class HttpConnection final : public QObject {
   Phase phase_ = Phase::Reading;
 };
 
-HttpConnection::HttpConnection(qintptr descriptor, const HttpHooks& hooks, std::chrono::milliseconds patience,
+HttpConnection::HttpConnection(qintptr descriptor, const HttpHooks& hooks, std::chrono::milliseconds timeout,
                                QObject* parent)
-    : QObject(parent), hooks_(hooks), patience_(patience) {
+    : QObject(parent), hooks_(hooks), timeout_(timeout) {
   socket_.setReadBufferSize(readAheadBytes);
   deadline_.setSingleShot(true);
   connect(&socket_, &QTcpSocket::readyRead, this, &HttpConnection::read);
   connect(&socket_, &QTcpSocket::disconnected, this, &QObject::deleteLater);
   connect(&deadline_, &QTimer::timeout, this, [this] { socket_.abort(); });
   if (socket_.setSocketDescriptor(descriptor))
-    deadline_.start(patience_);
+    deadline_.start(timeout_);
   else
     deleteLater();
 }
@@ -80,7 +80,7 @@ void HttpConnection::throttle(int bytesPerSecond) {
 QByteArray HttpConnection::readBytes() {
   if (quota_ == 0) return socket_.readAll();
   QByteArray bytes = socket_.read(quota_);
-  if (!bytes.isEmpty()) deadline_.start(patience_);
+  if (!bytes.isEmpty()) deadline_.start(timeout_);
   return bytes;
 }
 
@@ -118,8 +118,8 @@ void HttpConnection::answer() {
 
 void HttpConnection::send(const HttpReply& reply, bool keepAlive) {
   if (reply.ending == HttpReply::Ending::Nothing) return socket_.abort();
-  deadline_.start(patience_);
-  socket_.write(wireForm(reply, keepAlive));
+  deadline_.start(timeout_);
+  socket_.write(serialise(reply, keepAlive));
   socket_.flush();
   if (!keepAlive || reply.ending == HttpReply::Ending::Half) {
     phase_ = Phase::Ending;
@@ -132,14 +132,14 @@ void HttpConnection::send(const HttpReply& reply, bool keepAlive) {
 
 void HttpConnection::refuse(int status) {
   phase_ = Phase::Ending;
-  socket_.write(wireForm({.status = status, .contentType = "text/plain", .body = "refused\r\n"}, false));
+  socket_.write(serialise({.status = status, .contentType = "text/plain", .body = "refused\r\n"}, false));
   deadline_.start(refusalGrace);
 }
 
 }  // namespace
 
-HttpServer::HttpServer(HttpHooks hooks, std::chrono::milliseconds patience, int uploadRate)
-    : hooks_(std::move(hooks)), patience_(patience), uploadRate_(uploadRate) {
+HttpServer::HttpServer(HttpHooks hooks, std::chrono::milliseconds timeout, int uploadRate)
+    : hooks_(std::move(hooks)), timeout_(timeout), uploadRate_(uploadRate) {
   setListenBacklogSize(listenBacklog);
 }
 
@@ -153,7 +153,7 @@ void HttpServer::incomingConnection(qintptr descriptor) {
   }
   // The connection deletes itself when it is closed, or is deleted with the server, its parent.
   auto* connection =
-      new HttpConnection(descriptor, hooks_, patience_, this);  // NOLINT(cppcoreguidelines-owning-memory)
+      new HttpConnection(descriptor, hooks_, timeout_, this);  // NOLINT(cppcoreguidelines-owning-memory)
   if (uploadRate_ > 0) connection->throttle(uploadRate_);
 }
 

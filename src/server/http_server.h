@@ -17,20 +17,20 @@ struct HttpHooks {
   std::function<HttpReply(const HttpRequest& request)> answer;
 };
 
-/// Serves concurrent connections on its own QObject thread.
+/// Serves concurrent connections on the thread that this object lives in.
 class HttpServer final : public QTcpServer {
  public:
   /// A connection is closed if it does not send a complete request, or does not receive its reply, within
-  /// `patience`. If `uploadRate` is not 0, each connection reads at most that many bytes per second, and
-  /// `patience` limits the time since the last of them.
-  HttpServer(HttpHooks hooks, std::chrono::milliseconds patience, int uploadRate = 0);
+  /// `timeout`. If `uploadRate` is not 0, each connection reads at most that many bytes per second, and
+  /// `timeout` restarts with each read.
+  HttpServer(HttpHooks hooks, std::chrono::milliseconds timeout, int uploadRate = 0);
 
  protected:
   void incomingConnection(qintptr descriptor) override;
 
  private:
   HttpHooks hooks_;
-  std::chrono::milliseconds patience_;
+  std::chrono::milliseconds timeout_;
   int uploadRate_;
 };
 

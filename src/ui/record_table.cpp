@@ -78,7 +78,7 @@ void RecordTable::copySelected() const {
 }
 
 CsvWriter RecordTable::toCsv() const {
-  CsvWriter csv(CsvCells::Harmless);
+  CsvWriter csv(CsvCells::Escaped);
   for (int row = headingRow; row < rows_->rowCount(); ++row) csv.addRow(rowTexts(row));
   return csv;
 }

@@ -120,7 +120,7 @@ TEST_F(ContactImportTest, refusesRowsWithTheirReason) {
                                    HasSubstr("longer than 80")));
   EXPECT_EQ(book_.contacts().size(), 2u) << "a name of signs is a name";
 
-  CsvWriter file(CsvCells::AsTheyAre);
+  CsvWriter file(CsvCells::Unchanged);
   writeRefusedRows(sheet_, plan_, outcome, file);
   EXPECT_TRUE(
       file.bytes().startsWith("\xEF\xBB\xBFName,Phone,Fax,Email,Reason\r\n"

@@ -32,8 +32,8 @@ TEST(CsvWriter, quotesOnlyTheCellsThatNeedIt) {
       {{QString(), QString()}, ",\r\n"},
   };
   for (const auto& [cells, line] : cases) {
-    EXPECT_EQ(lineOf(cells, CsvCells::AsTheyAre), line) << line.constData();
-    EXPECT_EQ(lineOf(cells, CsvCells::Harmless), line) << line.constData();
+    EXPECT_EQ(lineOf(cells, CsvCells::Unchanged), line) << line.constData();
+    EXPECT_EQ(lineOf(cells, CsvCells::Escaped), line) << line.constData();
   }
 }
 
@@ -55,15 +55,15 @@ TEST(CsvWriter, formulasBecomeTextsWhereTheFileIsForPeople) {
       {u"1+1=2"_s, "1+1=2", "1+1=2"},
   };
   for (const auto& [cell, harmless, asItIs] : cases) {
-    EXPECT_EQ(lineOf({cell}, CsvCells::Harmless), harmless + "\r\n");
-    EXPECT_EQ(lineOf({cell}, CsvCells::AsTheyAre), asItIs + "\r\n");
+    EXPECT_EQ(lineOf({cell}, CsvCells::Escaped), harmless + "\r\n");
+    EXPECT_EQ(lineOf({cell}, CsvCells::Unchanged), asItIs + "\r\n");
   }
 }
 
 TEST(CsvWriter, replacesAFileAsAWholeOrLeavesItAlone) {
   const QTemporaryDir folder;
   const QString path = folder.filePath(u"list.csv"_s);
-  CsvWriter csv(CsvCells::AsTheyAre);
+  CsvWriter csv(CsvCells::Unchanged);
   csv.addRow({u"Name"_s});
   csv.addRow({u"Ann"_s});
   ASSERT_EQ(csv.save(path), QString());

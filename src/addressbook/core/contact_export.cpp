@@ -36,7 +36,7 @@ QStringList exportCells(const ContactRecord& contact) {
 }  // namespace
 
 CsvWriter contactsAsCsv(const ContactSelection::Contacts& contacts) {
-  CsvWriter csv(CsvCells::AsTheyAre);
+  CsvWriter csv(CsvCells::Unchanged);
   csv.addRow(exportHeadings());
   for (const ContactRecord* contact : contacts) csv.addRow(exportCells(*contact));
   return csv;

@@ -86,7 +86,7 @@ void CImportSummaryDlg::saveRefused() {
 }
 
 bool CImportSummaryDlg::saveRefusedTo(const QString& path) {
-  CsvWriter file(CsvCells::AsTheyAre);
+  CsvWriter file(CsvCells::Unchanged);
   writeRefusedRows(sheet_, plan_, outcome_, file);
   const QString problem = file.save(path);
   if (!problem.isEmpty()) notifier_.error(problem);

@@ -31,10 +31,10 @@ class BackgroundGateway {
       : state_(state), runner_(runner), timeouts_(timeouts) {}
 
   /// Queues a call of `method`; `arguments` are those of Gateway::call(). The call may run several times, on
-  /// another thread. Afterwards `receive(reply)` is called on the interface thread, also on failure, for
-  /// which nothing else is shown; session expiry must not open the login dialog. `receive` is not called if
-  /// `context` has been destroyed, or if the operation needs a session and the user or session has changed
-  /// since.
+  /// another thread. Afterwards `receive(reply)` is called on the interface thread, also on failure. It is
+  /// not called if `context` has been destroyed, or if the operation needs a session and the user or session
+  /// has changed since. Failures are not reported to the user; `receive` must not open the login dialog for
+  /// an expired session.
   template <auto method, class Receive, class... Arguments>
   requires BackgroundResponse<ResponseFor<method>>
   void call(QObject& context, Receive receive, const Arguments&... arguments) const {

@@ -41,6 +41,7 @@ void attachTransfer(GatewayClient& client, const Argument& argument) {
   if constexpr (std::is_same_v<Argument, FileUpload>) client.setTransfer(argument.transfer);
 }
 
+/// Declared only, to deduce the type of a method's last parameter.
 template <class... Parameters>
 auto responseParameter(int (GatewayClient::*)(Parameters...))
     -> std::remove_reference_t<std::tuple_element_t<sizeof...(Parameters) - 1, std::tuple<Parameters...>>>;

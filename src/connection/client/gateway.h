@@ -37,7 +37,7 @@ class Reply {
   /// The runtime's result, 0 if a well-formed response was read; or callAbandoned.
   [[nodiscard]] int result() const { return result_; }
   [[nodiscard]] bool answered() const { return result_ == 0; }
-  /// Whether the user cancelled the call, even if a response arrived nevertheless, or it could not be run.
+  /// Whether the call was cancelled, even if a response was still received, or could not be run.
   [[nodiscard]] bool cancelled() const { return cancelled_; }
   /// Whether the whole request was sent and no readable reply came: the gateway may have carried it out.
   [[nodiscard]] bool outcomeUnknown() const { return outcomeUnknown_; }

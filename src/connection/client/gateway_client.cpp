@@ -36,11 +36,11 @@ std::int64_t scale(std::int64_t total, std::size_t part, std::size_t whole) {
 
 GatewayClient::GatewayClient(const GatewayAccess& access)
     : endpoint(access.endpoint.c_str()),
-      patience_{.connect = access.timeouts.connect,
-                .nextAddress = timeouts::nextAddress,
-                .silence = access.timeouts.silence},
+      ioOptions_{.connect = access.timeouts.connect,
+                 .nextAddress = timeouts::nextAddress,
+                 .silence = access.timeouts.silence},
       whole_(access.timeouts.whole) {
-  soap = protocol::newClientContext(patience_);
+  soap = protocol::newClientContext(ioOptions_);
   if (soap) installProxy(*soap, access);
 }
 
@@ -51,11 +51,11 @@ GatewayClient::~GatewayClient() {
 }
 
 void GatewayClient::watch(const CancelFlag& cancel) {
-  patience_.isCancelled = [cancel] { return cancel.isRaised(); };
+  ioOptions_.isCancelled = [cancel] { return cancel.isRaised(); };
 }
 
 void GatewayClient::setTransfer(const Transfer& transfer) {
-  patience_.onSent = [this, transfer, sent = std::size_t{0}](std::size_t bytes) mutable {
+  ioOptions_.onSent = [this, transfer, sent = std::size_t{0}](std::size_t bytes) mutable {
     sent = std::min(sent + bytes, requestLength_);
     if (requestLength_ > 0) transfer.setDone(scale(transfer.total(), sent, requestLength_));
   };
@@ -63,7 +63,7 @@ void GatewayClient::setTransfer(const Transfer& transfer) {
 
 template <class Request, class Response>
 int GatewayClient::call(Request&& request, Response& response) {
-  if (whole_) patience_.deadline = std::chrono::steady_clock::now() + *whole_;
+  if (whole_) ioOptions_.deadline = std::chrono::steady_clock::now() + *whole_;
   return protocol::call(soap, endpoint, request, response, &outcomeUnknown_, &requestLength_);
 }
 

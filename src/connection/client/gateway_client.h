@@ -121,7 +121,7 @@ class GatewayClient {
   template <class Request, class Response>
   [[nodiscard]] int call(Request&& request, Response& response);
 
-  protocol::IoPatience patience_;
+  protocol::IoOptions ioOptions_;
   std::optional<std::chrono::milliseconds> whole_;
   std::atomic<bool> outcomeUnknown_ = false;
   std::size_t requestLength_ = 0;

@@ -13,7 +13,7 @@ namespace parlexo {
 namespace {
 
 /// Reads one character and advances `at`. A byte that is not part of valid UTF-8 counts as one character.
-/// QString's own decoder can't be used, because it rejects surrogates before they could be joined.
+/// QString's own decoder can't be used, because it rejects surrogates before they can be joined.
 char32_t readCharacter(const char*& at) {
   // The smallest code point for each number of continuation bytes. Overlong forms could encode U+0000.
   constexpr std::array<char32_t, 4> smallest = {0, 0x80, 0x800, 0x10000};

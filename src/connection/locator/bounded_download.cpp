@@ -32,7 +32,7 @@ class DownloadWait {
     });
     poll.start(cancelPollInterval);
     if (!reply_.isFinished()) loop_.exec();
-    return result();
+    return finish();
   }
 
  private:
@@ -47,7 +47,7 @@ class DownloadWait {
     loop_.quit();
   }
 
-  Download result() {
+  Download finish() {
     readAvailable();
     result_.status = reply_.attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
     result_.error = reply_.error();

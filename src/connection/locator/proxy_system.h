@@ -34,8 +34,8 @@ class ProxySystem {
   ProxySystem& operator=(const ProxySystem&) = default;
 };
 
-/// Creates the implementation of this platform. Queries fail after `patience`, where the platform allows.
+/// Creates the implementation for this platform. Queries fail after `timeout`, which is ignored on Windows.
 [[nodiscard]] std::shared_ptr<const ProxySystem> makeProxySystem(
-    std::chrono::milliseconds patience = timeouts::proxyQuestion);
+    std::chrono::milliseconds timeout = timeouts::proxyQuery);
 
 }  // namespace parlexo

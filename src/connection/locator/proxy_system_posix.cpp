@@ -17,8 +17,8 @@ constexpr int defaultHttpPort = 80;
 
 /// Waits for the end of `process` and kills it on timeout or when `cancel` is raised. Returns true if it
 /// succeeded.
-bool waitForSuccess(QProcess& process, std::chrono::milliseconds patience, const CancelFlag& cancel) {
-  const QDeadlineTimer deadline(patience);
+bool waitForSuccess(QProcess& process, std::chrono::milliseconds timeout, const CancelFlag& cancel) {
+  const QDeadlineTimer deadline(timeout);
   while (process.state() != QProcess::NotRunning) {
     if (cancel.isRaised() || deadline.hasExpired()) {
       process.kill();
@@ -39,7 +39,7 @@ QString encoded(const QUrl& address) {
 /// Delegates everything that may block to a helper process.
 class PosixProxySystem final : public ProxySystem {
  public:
-  explicit PosixProxySystem(std::chrono::milliseconds patience) : patience_(patience) {}
+  explicit PosixProxySystem(std::chrono::milliseconds timeout) : timeout_(timeout) {}
 
   [[nodiscard]] QString configuredProxy(const QUrl& address, const CancelFlag& cancel) const override {
     const QStringList answers = query({u"setting"_s, encoded(address)}, cancel);
@@ -69,17 +69,17 @@ class PosixProxySystem final : public ProxySystem {
     finder.setStandardInputFile(QProcess::nullDevice());
     finder.setStandardErrorFile(QProcess::nullDevice());
     finder.start(program, arguments, QIODevice::ReadOnly);
-    if (!waitForSuccess(finder, patience_, cancel)) return {};
+    if (!waitForSuccess(finder, timeout_, cancel)) return {};
     return QString::fromUtf8(finder.readAllStandardOutput()).split(u'\n', Qt::SkipEmptyParts);
   }
 
-  std::chrono::milliseconds patience_;
+  std::chrono::milliseconds timeout_;
 };
 
 }  // namespace
 
-std::shared_ptr<const ProxySystem> makeProxySystem(std::chrono::milliseconds patience) {
-  return std::make_shared<PosixProxySystem>(patience);
+std::shared_ptr<const ProxySystem> makeProxySystem(std::chrono::milliseconds timeout) {
+  return std::make_shared<PosixProxySystem>(timeout);
 }
 
 }  // namespace parlexo

@@ -135,7 +135,7 @@ class WindowsProxySystem final : public ProxySystem {
 
 }  // namespace
 
-std::shared_ptr<const ProxySystem> makeProxySystem(std::chrono::milliseconds /*patience*/) {
+std::shared_ptr<const ProxySystem> makeProxySystem(std::chrono::milliseconds /*timeout*/) {
   return std::make_shared<WindowsProxySystem>();
 }
 

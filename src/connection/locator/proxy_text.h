@@ -22,8 +22,7 @@ struct ProxyAddress {
 /// Finds the HTTP proxy for addresses of `scheme` ("http") in a list of the system settings: "HOST:PORT" for
 /// all schemes or "http=HOST:PORT;ftp=HOST:PORT;socks=HOST:PORT", separated by semicolons or blanks,
 /// optionally with "http://" before the host. An entry for the scheme has priority over one for all schemes.
-/// The default port is
-/// 80. Empty if there is no entry for the scheme or it is not an HTTP proxy.
+/// The default port is 80. Empty if there is no entry for the scheme or it is not an HTTP proxy.
 [[nodiscard]] ProxyAddress httpProxyIn(const QString& list, const QString& scheme);
 
 /// Returns the header line "Proxy-Authorization: Basic ...\r\n", with user and password in the code page.

@@ -75,7 +75,7 @@ bool isRedirect(int status) {
   return std::find(redirects.begin(), redirects.end(), status) != redirects.end();
 }
 
-/// For an encrypted site the proxy rejects the tunnel, which has no HTTP status.
+/// If the proxy rejects the tunnel to an encrypted site, there is an error but no HTTP status.
 bool needsProxyLogin(const Download& download) {
   return download.status == statusProxyLogin ||
          download.error == QNetworkReply::ProxyAuthenticationRequiredError;
@@ -123,7 +123,7 @@ Download ServerLocator::attempt(const ProxySettings& login, const ProxyAddress& 
 
 ServerLocator::Outcome ServerLocator::locate(RunState& state, const ProxyAddress& preconfigured,
                                              const CancelFlag& cancel) const {
-  // Without a valid port, the login would be sent elsewhere than to its proxy.
+  // Without a valid port the proxy would be bypassed, and the login sent to the web site.
   if (!state.proxy.host.isEmpty() && !hasPort({state.proxy.host, state.proxy.port}))
     return Outcome::NotLocated;
   const QDeadlineTimer deadline(limits_.whole);

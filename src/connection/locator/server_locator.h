@@ -16,12 +16,14 @@ namespace parlexo {
 
 /// Limits of the download of the locator document.
 struct LocatorLimits {
-  std::chrono::milliseconds transfer =
-      timeouts::locatorSilence;  ///< maximum wait for a connection or the next byte
-  std::chrono::milliseconds retryDelay =
-      timeouts::locatorRetry;                                ///< delay before the second and last attempt
-  qint64 documentBytes = 64 * 1024;                          ///< a longer document is truncated to this size
-  std::chrono::milliseconds whole = timeouts::locatorWhole;  ///< total time of all attempts
+  /// Maximum wait for a connection or the next byte.
+  std::chrono::milliseconds transfer = timeouts::locatorSilence;
+  /// Delay before the second and last attempt.
+  std::chrono::milliseconds retryDelay = timeouts::locatorRetry;
+  /// A longer document is truncated to this size.
+  qint64 documentBytes = 64 * 1024;
+  /// Maximum total time of all attempts.
+  std::chrono::milliseconds whole = timeouts::locatorWhole;
 };
 
 /// Returns the target of a redirect from `from` with the header "Location: `location`". Empty if the redirect

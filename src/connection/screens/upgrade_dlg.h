@@ -6,8 +6,7 @@
 
 namespace parlexo {
 
-/// Tells the user that this version of the program is too old for the gateway, and offers to open the
-/// download page.
+/// Reports that this version of the program is too old for the gateway, and offers to open the download page.
 class CUpgradeDlg final : public GradientDialog {
   Q_OBJECT
 

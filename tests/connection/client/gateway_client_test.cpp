@@ -131,9 +131,9 @@ class SilentAddress {
 /// A version query to a host with the addresses that `resolve` finds; how long it took.
 std::chrono::milliseconds queryBy(protocol::Resolver resolve, std::chrono::milliseconds nextAddress, int port,
                                   bool isAnswered) {
-  const protocol::IoPatience patience{
+  const protocol::IoOptions options{
       .connect = 1s, .nextAddress = nextAddress, .silence = 5s, .resolve = std::move(resolve)};
-  ::soap* context = protocol::newClientContext(patience);
+  ::soap* context = protocol::newClientContext(options);
   const std::string endpoint = "http://gateway.test:" + std::to_string(port) + "/x";
   const auto start = std::chrono::steady_clock::now();
   protocol::getVersion request;
