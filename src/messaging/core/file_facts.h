@@ -10,7 +10,7 @@ namespace parlexo {
 
 /// The properties of a file to send.
 struct FileFacts {
-  enum class State { Missing, NoFile, Unwritable, Empty, TooLarge, Sendable };
+  enum class State { Missing, NotAFile, Unwritable, Empty, TooLarge, Sendable };
 
   QString name;  ///< without its folders
   State state = State::Missing;
