@@ -23,7 +23,7 @@ class PictureButton;
 class RecipientsPanel;
 
 /// Base class of the pages that send messages: everything but the message itself. Shows the recipients, the
-/// schedule, the sender ID and the buttons, and runs the send.
+/// schedule, the sender ID and the buttons, and sends the message.
 class SendPage : public GradientPage {
   Q_OBJECT
 

@@ -72,7 +72,7 @@ void ThreadCallRunner::Wait::cancel() {
   if (!abandonTimer_.isActive()) abandonTimer_.start(runner_.timing_.afterCancel);
 }
 
-// Called repeatedly, because a nested task may have shown and hidden a box of its own in the meantime.
+// Called repeatedly, because a nested task may have shown and hidden its own box in the meantime.
 void ThreadCallRunner::Wait::updateBox() {
   if (!progress_.isShowing()) {
     hasShownBox_ = true;
