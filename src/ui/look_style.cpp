@@ -134,7 +134,7 @@ QSize LookStyle::sizeFromContents(ContentsType type, const QStyleOption* option,
 
 int LookStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const {
   if (metric == PM_ScrollBarExtent) return flat_scroll_bar::thickness;
-  if (metric == PM_ScrollBarSliderMin) return flat_scroll_bar::shortestThumb;
+  if (metric == PM_ScrollBarSliderMin) return flat_scroll_bar::minThumbLength;
   const bool isScrollArea = qobject_cast<const QAbstractScrollArea*>(widget);
   if (metric == PM_DefaultFrameWidth && isScrollArea) return focusWidth;
   if (metric == PM_ScrollView_ScrollBarSpacing) return 0;

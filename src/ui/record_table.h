@@ -21,8 +21,8 @@ class RecordTable final : public QTreeView {
 
  public:
   struct Column {
-    int usual;       ///< default width in pixels
-    QString widest;  ///< longest text that must not be cut off in any font; may be empty
+    int defaultWidth;  ///< in pixels
+    QString widest;    ///< longest text that must not be cut off in any font; may be empty
   };
   struct Form {
     QString name;   ///< object name, also the settings key of the column widths

@@ -29,7 +29,7 @@ struct FileFacts {
 
 /// Counts the pages of the TIFF or PDF document at `path`; reduced-resolution images in a TIFF don't count.
 /// Returns nullopt if the file is in neither format, unreadable, damaged, protected by a password or larger
-/// than 64 MB, or if counting takes more than ten seconds or 512 MB. Blocks; thread-safe.
+/// than 64 MB, or if counting takes more than ten seconds or 512 MB of memory. Blocks; thread-safe.
 [[nodiscard]] std::optional<int> pageCount(const QString& path);
 
 }  // namespace parlexo
