@@ -91,7 +91,7 @@ bool backUpRejected(const QString& path, const StatusFile::FileContent& content)
   std::map<int, QString> files = badFiles(file);
   if (isRead && !files.empty() && hasSameLines(files.rbegin()->second, content.bytes)) return true;
   const int number = files.empty() ? 1 : files.rbegin()->first + 1;
-  const QString backup = u"%1.%2.bad"_s.arg(path).arg(number);
+  const QString backup = u"%1.%2.bad"_s.arg(path, QString::number(number));
   if (!(isRead ? QFile::copy(path, backup) : QFile::rename(path, backup))) return false;
   files.emplace(number, backup);
   removeOldest(std::move(files));
