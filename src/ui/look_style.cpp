@@ -56,7 +56,7 @@ void drawTab(const QStyleOptionTab& tab, QPainter& painter) {
   painter.restore();
 }
 
-/// A focus mark inside a selected row must be light, as the row has a dark background.
+/// The focus rectangle inside a selected row must be light, because the row has a dark background.
 QColor focusColor(const QStyleOption& option) {
   const auto* mark = qstyleoption_cast<const QStyleOptionFocusRect*>(&option);
   const bool onSelection = mark && mark->backgroundColor == option.palette.color(QPalette::Highlight);

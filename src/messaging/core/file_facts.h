@@ -24,7 +24,8 @@ struct FileFacts {
   Q_DECLARE_TR_FUNCTIONS(FileFacts)
 };
 
-/// Reads the properties of the file at `path` except `pages`. Blocks, possibly long on a network folder.
+/// Reads the properties of the file at `path` except `pages`. May block for long on a network
+/// folder.
 [[nodiscard]] FileFacts fileFacts(const QString& path, qint64 limit);
 
 /// Counts the pages of the TIFF or PDF document at `path`; reduced-resolution images in a TIFF don't count.

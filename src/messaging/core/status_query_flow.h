@@ -17,10 +17,10 @@ namespace parlexo {
 struct StatusQueryOutcome {
   int received = 0;
   int undetermined = 0;  ///< the call failed, or was not made after an earlier failure
-  int notQueried = 0;    ///< left when the user cancelled
+  int notQueried = 0;    ///< not yet queried when the user cancelled
   int failedSends = 0;   ///< the gateway never accepted the message and so has no status
 
-  /// The outcome for the user, such as "2 could not be determined."; empty if all statuses were received.
+  /// A message for the user, such as "2 could not be determined."; empty if all statuses were received.
   [[nodiscard]] QString text() const;
 
   Q_DECLARE_TR_FUNCTIONS(StatusQueryOutcome)

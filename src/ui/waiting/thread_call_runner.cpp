@@ -13,7 +13,7 @@
 
 namespace parlexo {
 
-/// Processes events on the user-interface thread until one worker has ended or is abandoned. Shows the
+/// Processes events on the interface thread until one worker has ended or is abandoned. Shows the
 /// progress box if the wait takes long, and hides it again if it was opened here.
 class ThreadCallRunner::Wait {
  public:
