@@ -145,7 +145,7 @@ class Stopwatch {
   std::vector<double> times_;
 };
 
-// The speed of a disk varies over time, so the three kinds are measured alternately, in random order. The
+// The speed of a disk varies over time, so the three kinds are interleaved in random order. The
 // time shown is that of the store; the counters are medians in microseconds.
 void save(benchmark::State& state, bool isNew) {
   const BenchFolder& folder = BenchFolder::withContacts(contactTotal(state));
@@ -218,7 +218,7 @@ void sizes(benchmark::internal::Benchmark* benchmark) {
   benchmark->RangeMultiplier(10)->Range(thousand, million);
 }
 
-void alternately(benchmark::internal::Benchmark* benchmark) {
+void interleaved(benchmark::internal::Benchmark* benchmark) {
   benchmark->Apply(sizes)->UseManualTime()->Iterations(300)->Unit(benchmark::kMicrosecond);
 }
 
@@ -226,8 +226,8 @@ void alternately(benchmark::internal::Benchmark* benchmark) {
 BENCHMARK(loadStore)->Apply(sizes)->UseRealTime()->Unit(benchmark::kMillisecond);
 BENCHMARK(loadSqlite)->Apply(sizes)->UseRealTime()->Unit(benchmark::kMillisecond);
 BENCHMARK(buildIndex)->Apply(sizes)->UseRealTime()->Unit(benchmark::kMillisecond);
-BENCHMARK_CAPTURE(save, existing, false)->Apply(alternately);
-BENCHMARK_CAPTURE(save, fresh, true)->Apply(alternately);
+BENCHMARK_CAPTURE(save, existing, false)->Apply(interleaved);
+BENCHMARK_CAPTURE(save, fresh, true)->Apply(interleaved);
 
 }  // namespace
 }  // namespace parlexo

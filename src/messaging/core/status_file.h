@@ -16,7 +16,7 @@ class Notifier;
 
 /// The file "Status.xml", which stores the status log between runs (docs/file-formats.md). Several programs
 /// may use one file: each save merges the changes of the others first. A lock on "Status.xml.lock" serialises
-/// them; the system releases it when a program ends, even by a crash.
+/// them; the system releases it when a program ends, even if it crashes.
 class StatusFile {
   Q_DECLARE_TR_FUNCTIONS(StatusFile)
 
