@@ -51,13 +51,13 @@ void loadStore(benchmark::State& state) {
     AddressBook book(folder.path(), database);
     int errors = 0;
     const auto countError = [&errors](const StoreError& /*error*/) { ++errors; };
-    const bool isWhole = book.loadAll(progress, countError) && errors == 0 &&
-                         book.contacts().size() >= std::size_t(contactTotal(state)) &&
-                         book.groups().size() == groupTotal + 1;
+    const bool isComplete = book.loadAll(progress, countError) && errors == 0 &&
+                            book.contacts().size() >= std::size_t(contactTotal(state)) &&
+                            book.groups().size() == groupTotal + 1;
     state.PauseTiming();
     book.clear();
     state.ResumeTiming();
-    if (!isWhole) return state.SkipWithError("the address book was not read whole");
+    if (!isComplete) return state.SkipWithError("the address book was not read completely");
   }
 }
 
@@ -76,12 +76,12 @@ void loadSqlite(benchmark::State& state) {
   const SqliteBook& database = sqliteBook(contactTotal(state));
   for (auto step : state) {
     auto book = std::make_unique<SqliteBook::Contents>(database.load());
-    const bool isWhole =
+    const bool isComplete =
         book->contacts.size() >= std::size_t(contactTotal(state)) && book->groups.size() == groupTotal + 1;
     state.PauseTiming();
     book.reset();
     state.ResumeTiming();
-    if (!isWhole) return state.SkipWithError("the database was not read whole");
+    if (!isComplete) return state.SkipWithError("the database was not read completely");
   }
 }
 
@@ -104,9 +104,9 @@ class NextContact {
 };
 
 // A durable write of one contact. Returns false on error.
-using Saving = std::function<bool(const ContactRecord&)>;
+using SaveFunction = std::function<bool(const ContactRecord&)>;
 
-Saving storeSaving(ItemDatabase& database, const QString& path) {
+SaveFunction storeSave(ItemDatabase& database, const QString& path) {
   return [&database, path](const ContactRecord& contact) {
     QString error;
     return database.writeItem(error, nameWidth, path, contactRecordSize, packContact(contact), waitSeconds);
@@ -114,7 +114,7 @@ Saving storeSaving(ItemDatabase& database, const QString& path) {
 }
 
 // The minimum of a durable write of one record.
-Saving bareSaving(const QByteArray& path, bool atEnd) {
+SaveFunction bareSave(const QByteArray& path, bool atEnd) {
   return [path, atEnd](const ContactRecord&) {
     static constexpr std::array<char, contactRecordSize> record = {1};
     const int handle = ::open(path.constData(), O_RDWR | O_DSYNC | O_CLOEXEC);
@@ -127,9 +127,9 @@ Saving bareSaving(const QByteArray& path, bool atEnd) {
 // Measures calls in microseconds.
 class Stopwatch {
  public:
-  bool time(const Saving& saving, const ContactRecord& contact) {
+  bool time(const SaveFunction& save, const ContactRecord& contact) {
     const auto begin = std::chrono::steady_clock::now();
-    const bool done = saving(contact);
+    const bool done = save(contact);
     const std::chrono::duration<double, std::micro> passed = std::chrono::steady_clock::now() - begin;
     times_.push_back(passed.count());
     return done;
@@ -145,7 +145,7 @@ class Stopwatch {
   std::vector<double> times_;
 };
 
-// The speed of a disk varies over time, so the three kinds are measured alternately, in random order. The
+// The speed of a disk varies over time, so the three kinds are interleaved in random order. The
 // time shown is that of the store; the counters are medians in microseconds.
 void save(benchmark::State& state, bool isNew) {
   const BenchFolder& folder = BenchFolder::withContacts(contactTotal(state));
@@ -156,20 +156,20 @@ void save(benchmark::State& state, bool isNew) {
   SleepingLockWaiter waiter;
   ItemIndexCache cache;
   ItemDatabase database(cache, waiter);
-  const std::array<Saving, 3> savings = {storeSaving(database, path),
-                                         [&](const ContactRecord& contact) { return sqlite.save(contact); },
-                                         bareSaving(QFile::encodeName(barePath), isNew)};
-  std::array<Stopwatch, savings.size()> watches;
+  const std::array<SaveFunction, 3> saveFunctions = {
+      storeSave(database, path), [&](const ContactRecord& contact) { return sqlite.save(contact); },
+      bareSave(QFile::encodeName(barePath), isNew)};
+  std::array<Stopwatch, saveFunctions.size()> watches;
   NextContact next(isNew);
   // The first write reads the index, which the program does once.
-  if (!savings[0](next())) return state.SkipWithError("not saved");
-  std::array<std::size_t, savings.size()> order = {0, 1, 2};
+  if (!saveFunctions[0](next())) return state.SkipWithError("not saved");
+  std::array<std::size_t, saveFunctions.size()> order = {0, 1, 2};
   std::mt19937 random;
   for (auto step : state) {
     const ContactRecord& contact = next();
     std::shuffle(order.begin(), order.end(), random);
     for (const std::size_t which : order)
-      if (!watches[which].time(savings[which], contact)) return state.SkipWithError("not saved");
+      if (!watches[which].time(saveFunctions[which], contact)) return state.SkipWithError("not saved");
     state.SetIterationTime(watches[0].last() / 1e6);
   }
   const double store = watches[0].median();
@@ -203,7 +203,7 @@ void buildIndex(benchmark::State& state) {
     const std::size_t before = memoryInUse();
     state.ResumeTiming();
     bool deleted = false;
-    // Searching a missing key only needs the index.
+    // Looking up a missing key only needs the index.
     if (!database.deleteItem(error, nameWidth, path, "no such key", contactRecordSize, deleted, waitSeconds))
       return state.SkipWithError(qPrintable(error));
     state.PauseTiming();
@@ -218,7 +218,7 @@ void sizes(benchmark::internal::Benchmark* benchmark) {
   benchmark->RangeMultiplier(10)->Range(thousand, million);
 }
 
-void turns(benchmark::internal::Benchmark* benchmark) {
+void interleaved(benchmark::internal::Benchmark* benchmark) {
   benchmark->Apply(sizes)->UseManualTime()->Iterations(300)->Unit(benchmark::kMicrosecond);
 }
 
@@ -226,8 +226,8 @@ void turns(benchmark::internal::Benchmark* benchmark) {
 BENCHMARK(loadStore)->Apply(sizes)->UseRealTime()->Unit(benchmark::kMillisecond);
 BENCHMARK(loadSqlite)->Apply(sizes)->UseRealTime()->Unit(benchmark::kMillisecond);
 BENCHMARK(buildIndex)->Apply(sizes)->UseRealTime()->Unit(benchmark::kMillisecond);
-BENCHMARK_CAPTURE(save, existing, false)->Apply(turns);
-BENCHMARK_CAPTURE(save, fresh, true)->Apply(turns);
+BENCHMARK_CAPTURE(save, existing, false)->Apply(interleaved);
+BENCHMARK_CAPTURE(save, fresh, true)->Apply(interleaved);
 
 }  // namespace
 }  // namespace parlexo

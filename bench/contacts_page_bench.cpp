@@ -15,6 +15,7 @@
 #include "addressbook/screens/folder_tree.h"
 #include "base/call_runner.h"
 #include "base/settings.h"
+#include "bench/bench_folder.h"
 #include "tests/addressbook/sample_book.h"
 #include "tests/support/recording_notifier.h"
 
@@ -25,13 +26,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int contactTotal = 100000;
-
-class SilentProgress final : public Progress {
- public:
-  void show(const QString&) override {}
-  void setText(const QString&) override {}
-  void hide() override {}
-};
 
 /// An address book of 100,000 contacts under all letters; every second one is a member of one group.
 class LargeBook : public test::SampleBook {
@@ -67,7 +61,7 @@ struct OpenPage {
 
   QTemporaryDir folder;
   RecordingNotifier notifier;
-  SilentProgress progress;
+  NoProgress progress;
   Settings settings{folder.path()};
   DirectCallRunner runner;
   CContactsPage page{{.book = largeBook().book(),
@@ -99,19 +93,19 @@ BENCHMARK_CAPTURE(switchFolder, groupOf50000, ContactFolder{ContactFolder::Kind:
     ->Unit(benchmark::kMillisecond);
 
 /// Typed letter by letter: a name, a number, two words, a text without matches.
-const char* const typings[] = {"person 0123", "+614000", "erson city 7", "zq"};
+const char* const typedTexts[] = {"person 0123", "+614000", "erson city 7", "zq"};
 
 /// From a keystroke in the search field until the list is repainted. The argument selects the typed text.
 void searchByKeystrokes(benchmark::State& state) {
   OpenPage open;
-  const QString typing = QString::fromLatin1(typings[state.range(0)]);
+  const QString text = QString::fromLatin1(typedTexts[state.range(0)]);
   qsizetype typed = 0;
   for (auto step : state) {
-    typed = typed % typing.size() + 1;
-    open.search.setText(typing.first(typed));
+    typed = typed % text.size() + 1;
+    open.search.setText(text.first(typed));
     benchmark::DoNotOptimize(open.list.viewport()->grab());
   }
-  state.SetLabel(typing.toStdString());
+  state.SetLabel(text.toStdString());
 }
 BENCHMARK(searchByKeystrokes)->DenseRange(0, 3)->Unit(benchmark::kMillisecond);
 
@@ -165,14 +159,14 @@ BENCHMARK(switchFolderWithProxyModel)->Unit(benchmark::kMillisecond);
 void searchWithProxyModel(benchmark::State& state) {
   ProxiedView proxied;
   proxied.filter.setFilterKeyColumn(-1);
-  const QString typing = QString::fromLatin1(typings[state.range(0)]);
+  const QString text = QString::fromLatin1(typedTexts[state.range(0)]);
   qsizetype typed = 0;
   for (auto step : state) {
-    typed = typed % typing.size() + 1;
-    proxied.filter.setFilterFixedString(typing.first(typed));
+    typed = typed % text.size() + 1;
+    proxied.filter.setFilterFixedString(text.first(typed));
     benchmark::DoNotOptimize(proxied.view.viewport()->grab());
   }
-  state.SetLabel(typing.toStdString());
+  state.SetLabel(text.toStdString());
 }
 BENCHMARK(searchWithProxyModel)->DenseRange(0, 3)->Unit(benchmark::kMillisecond);
 

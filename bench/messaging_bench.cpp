@@ -47,7 +47,7 @@ void selectAndHalveRecipients(benchmark::State& state) {
 }
 BENCHMARK(selectAndHalveRecipients)->Arg(1'000)->Arg(10'000)->Unit(benchmark::kMillisecond);
 
-void orderStatusEntries(benchmark::State& state) {
+void sortStatusEntries(benchmark::State& state) {
   std::vector<StatusEntry> entries;
   for (int i = 0; i < state.range(0); ++i) {
     StatusEntry entry;
@@ -60,7 +60,7 @@ void orderStatusEntries(benchmark::State& state) {
     benchmark::DoNotOptimize(sorted);
   }
 }
-BENCHMARK(orderStatusEntries)->Arg(1'000)->Arg(10'000)->Unit(benchmark::kMillisecond);
+BENCHMARK(sortStatusEntries)->Arg(1'000)->Arg(10'000)->Unit(benchmark::kMillisecond);
 
 void saveStatusLog(benchmark::State& state) {
   const QTemporaryDir folder;

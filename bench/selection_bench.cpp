@@ -116,7 +116,7 @@ void searchForMissingName(benchmark::State& state) {
 BENCHMARK(searchForMissingName)->Unit(benchmark::kMillisecond);
 
 /// Typed letter by letter: a name, a number, two words, a text without matches.
-const char* const typings[] = {"ann 0123", "+614000", "eva city 7", "zq"};
+const char* const typedTexts[] = {"ann 0123", "+614000", "eva city 7", "zq"};
 
 /// From a keystroke in the search field until the list is repainted. The argument selects the typed text.
 void searchByKeystrokes(benchmark::State& state) {
@@ -125,14 +125,14 @@ void searchByKeystrokes(benchmark::State& state) {
   showAndPaint(dialog);
   auto& view = *dialog.findChild<CheckListView*>(u"contactList"_s);
   auto& search = *dialog.findChild<QLineEdit*>(u"contactSearch"_s);
-  const QString typing = QString::fromLatin1(typings[state.range(0)]);
+  const QString text = QString::fromLatin1(typedTexts[state.range(0)]);
   qsizetype typed = 0;
   for (auto step : state) {
-    typed = typed % typing.size() + 1;
-    search.setText(typing.first(typed));
+    typed = typed % text.size() + 1;
+    search.setText(text.first(typed));
     benchmark::DoNotOptimize(view.viewport()->grab());
   }
-  state.SetLabel(typing.toStdString());
+  state.SetLabel(text.toStdString());
 }
 BENCHMARK(searchByKeystrokes)->DenseRange(0, 3)->Unit(benchmark::kMillisecond);
 
@@ -164,14 +164,14 @@ void searchWithProxyModel(benchmark::State& state) {
   view.setUniformRowHeights(true);
   view.setModel(&filter);
   showAndPaint(view);
-  const QString typing = QString::fromLatin1(typings[state.range(0)]);
+  const QString text = QString::fromLatin1(typedTexts[state.range(0)]);
   qsizetype typed = 0;
   for (auto step : state) {
-    typed = typed % typing.size() + 1;
-    filter.setFilterFixedString(typing.first(typed));
+    typed = typed % text.size() + 1;
+    filter.setFilterFixedString(text.first(typed));
     benchmark::DoNotOptimize(view.viewport()->grab());
   }
-  state.SetLabel(typing.toStdString());
+  state.SetLabel(text.toStdString());
 }
 BENCHMARK(searchWithProxyModel)->DenseRange(0, 3)->Unit(benchmark::kMillisecond);
 
@@ -193,11 +193,11 @@ void collectTicked(benchmark::State& state) {
 BENCHMARK(collectTicked)->Unit(benchmark::kMillisecond);
 
 /// Collecting the values for the attribute dialog: one field with few values, one with 100,000.
-void gatherExtraValues(benchmark::State& state) {
+void collectExtraValues(benchmark::State& state) {
   largeBook();
   for (auto step : state) benchmark::DoNotOptimize(distinctExtraValues(largeBook().book()));
 }
-BENCHMARK(gatherExtraValues)->Unit(benchmark::kMillisecond);
+BENCHMARK(collectExtraValues)->Unit(benchmark::kMillisecond);
 
 }  // namespace
 }  // namespace parlexo

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The waits for a message to 10,000 recipients, over a real connection to a simulator: the selection, the
-// send and the status page with one entry per recipient. The counter "blocked" is the longest time in
+// Response times for a message to 10,000 recipients, over a real connection to a simulator: the selection,
+// the send and the status page with one entry per recipient. The counter "blocked" is the longest time in
 // milliseconds during which the event loop did not run.
 
 #include <algorithm>
@@ -30,7 +30,7 @@ namespace {
 
 constexpr int recipientTotal = 10'000;
 
-simulator::Options richAccount() {
+simulator::Options accountWithLargeBalance() {
   simulator::Options options;
   options.accounts.front().balance = 1e9;
   return options;
@@ -41,7 +41,7 @@ class LoopWatch {
  public:
   LoopWatch() {
     QObject::connect(&timer_, &QTimer::timeout, &timer_, [this] { update(); });
-    sinceTurn_.start();
+    sinceIteration_.start();
     timer_.start(1);
   }
 
@@ -52,19 +52,19 @@ class LoopWatch {
 
  private:
   void update() {
-    longest_ = std::max(longest_, static_cast<double>(sinceTurn_.nsecsElapsed()) / 1e6);
-    sinceTurn_.start();
+    longest_ = std::max(longest_, static_cast<double>(sinceIteration_.nsecsElapsed()) / 1e6);
+    sinceIteration_.start();
   }
 
   QTimer timer_;
-  QElapsedTimer sinceTurn_;
+  QElapsedTimer sinceIteration_;
   double longest_ = 0;
 };
 
 /// The services with the client's progress box and worker thread.
-class Desk : public GatewayRig {
+class ClientServices : public GatewayRig {
  public:
-  Desk() : GatewayRig(richAccount()) {
+  ClientServices() : GatewayRig(accountWithLargeBalance()) {
     // The simulator rejects numbers that end in 99.
     for (int number = 0; number < recipientTotal; ++number) {
       names << u"Name %1"_s.arg(number, 5, 10, QChar(u'0'));
@@ -104,11 +104,11 @@ void paint(QWidget& window) {
 }
 
 void select10000(benchmark::State& state) {
-  Desk desk;
-  CQuillonSMSDlg page(desk.services());
+  ClientServices client;
+  CQuillonSMSDlg page(client.services());
   paint(page);
   for (auto step : state) {
-    selectAll(page, desk.names);
+    selectAll(page, client.names);
     benchmark::DoNotOptimize(page.grab());
   }
 }
@@ -116,13 +116,13 @@ BENCHMARK(select10000)->Unit(benchmark::kMillisecond);
 
 /// From pressing Send until the form has been cleared.
 void sendTo10000(benchmark::State& state) {
-  Desk desk;
-  CQuillonSMSDlg page(desk.services());
+  ClientServices client;
+  CQuillonSMSDlg page(client.services());
   paint(page);
   double blocked = 0;
   for (auto step : state) {
     state.PauseTiming();
-    selectAll(page, desk.names);
+    selectAll(page, client.names);
     page.findChild<MessageEdit*>()->setPlainText(u"Hello"_s);
     state.ResumeTiming();
     LoopWatch watch;
@@ -130,7 +130,7 @@ void sendTo10000(benchmark::State& state) {
     benchmark::DoNotOptimize(page.grab());
     blocked = std::max(blocked, watch.longestMilliseconds());
   }
-  if (desk.log.entries().size() < static_cast<std::size_t>(recipientTotal)) state.SkipWithError("not sent");
+  if (client.log.entries().size() < static_cast<std::size_t>(recipientTotal)) state.SkipWithError("not sent");
   state.counters["blocked"] = blocked;
 }
 BENCHMARK(sendTo10000)->Unit(benchmark::kMillisecond)->Iterations(5);
@@ -146,9 +146,9 @@ void addEntries(StatusLog& log) {
 }
 
 void fillStatusPage(benchmark::State& state) {
-  Desk desk;
-  addEntries(desk.log);
-  CStatusDlg page(desk.services());
+  ClientServices client;
+  addEntries(client.log);
+  CStatusDlg page(client.services());
   paint(page);
   for (auto step : state) {
     page.selectType(MessageType::Sms);
@@ -159,9 +159,9 @@ BENCHMARK(fillStatusPage)->Unit(benchmark::kMillisecond);
 
 /// Sorts by date and phone number alternately.
 void sortStatusPage(benchmark::State& state) {
-  Desk desk;
-  addEntries(desk.log);
-  CStatusDlg page(desk.services());
+  ClientServices client;
+  addEntries(client.log);
+  CStatusDlg page(client.services());
   paint(page);
   auto& list = *page.findChild<QTreeView*>(u"statusList"_s);
   int column = 0;

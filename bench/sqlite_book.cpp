@@ -57,17 +57,17 @@ ContactRecord contactAt(sqlite3_stmt* row) {
 }  // namespace
 
 SqliteBook::SqliteBook(const QByteArray& path)
-    : database_(openDatabase(path), &sqlite3_close), saving_(nullptr, &sqlite3_finalize) {
+    : database_(openDatabase(path), &sqlite3_close), saveStatement_(nullptr, &sqlite3_finalize) {
   // A comparison with a failing database would be meaningless.
   if (!run(tables)) std::abort();
-  saving_ = prepare(contactRow);
+  saveStatement_ = prepare(contactRow);
 }
 
 void SqliteBook::fill(int contactTotal, int groupCount) {
   const auto contacts = sampleContacts(contactTotal);
   const Statement members = prepare(memberRow);
   bool done = run("begin");
-  for (const ContactRecord& contact : contacts) done = insertContact(saving_.get(), contact) && done;
+  for (const ContactRecord& contact : contacts) done = insertContact(saveStatement_.get(), contact) && done;
   for (const SampleGroup& group : sampleGroups(groupCount, contacts)) {
     for (const QString& member : group.memberNames)
       done = insertRow(members.get(), {group.name, member}) && done;
@@ -84,14 +84,15 @@ SqliteBook::Contents SqliteBook::load() const {
   }
   const Statement memberRows = prepare("select grp, name from member");
   while (sqlite3_step(memberRows.get()) == SQLITE_ROW) {
-    const auto found = book.contacts.find(textAt(memberRows.get(), 1));
-    if (found != book.contacts.end()) book.groups[textAt(memberRows.get(), 0)][found->first] = &found->second;
+    const auto contact = book.contacts.find(textAt(memberRows.get(), 1));
+    if (contact == book.contacts.end()) continue;
+    book.groups[textAt(memberRows.get(), 0)][contact->first] = &contact->second;
   }
   return book;
 }
 
 bool SqliteBook::save(const ContactRecord& contact) const {
-  return insertContact(saving_.get(), contact);
+  return insertContact(saveStatement_.get(), contact);
 }
 
 bool SqliteBook::run(const char* sql) const {

@@ -39,7 +39,7 @@ class SqliteBook {
   [[nodiscard]] Statement prepare(const char* sql) const;
 
   Database database_;
-  Statement saving_;
+  Statement saveStatement_;
 };
 
 }  // namespace parlexo

@@ -20,8 +20,8 @@ class Demo {
   Q_DECLARE_TR_FUNCTIONS(Demo)
 
  public:
-  /// Uses a temporary folder, deleted with the object, if `dataFolder` is empty. In an existing folder only
-  /// missing data are added.
+  /// Uses a temporary folder, deleted with the object, if `dataFolder` is empty. Only missing data are added
+  /// to an existing folder.
   explicit Demo(const QString& dataFolder = {});
   ~Demo();
   Demo(const Demo&) = delete;
@@ -32,7 +32,7 @@ class Demo {
   [[nodiscard]] QString start();
 
   [[nodiscard]] const QString& dataFolder() const { return dataFolder_; }
-  /// The site of the location document, "http://HOST:PORT".
+  /// The address of the site with the locator document, "http://HOST:PORT".
   [[nodiscard]] QString site() const;
   [[nodiscard]] static QString user();
   [[nodiscard]] static QString password();

@@ -25,7 +25,7 @@ int thumbLength(const QStyleOptionSlider& bar) {
   const qint64 range = qint64(bar.maximum) - bar.minimum;
   if (range <= 0) return groove;
   const qint64 proportional = qint64(groove) * bar.pageStep / (range + bar.pageStep);
-  return std::clamp(int(proportional), std::min(shortestThumb, groove), groove);
+  return std::clamp(int(proportional), std::min(minThumbLength, groove), groove);
 }
 
 /// The part of the bar that starts at `from` and is `extent` long, both in pixels along the bar.

@@ -13,8 +13,8 @@ namespace parlexo {
 /// thumb that darkens on hover. LookStyle uses them for all scroll bars.
 namespace flat_scroll_bar {
 
-inline constexpr int thickness = 13;      ///< pixels across the bar
-inline constexpr int shortestThumb = 28;  ///< pixels along the bar; a shorter thumb is hard to grab
+inline constexpr int thickness = 13;       ///< pixels across the bar
+inline constexpr int minThumbLength = 28;  ///< pixels along the bar; a shorter thumb is hard to grab
 
 /// Returns the rectangle of a part of the bar; empty for parts that a flat bar does not have.
 [[nodiscard]] QRect partRect(const QStyleOptionSlider& bar, QStyle::SubControl part);

@@ -11,8 +11,8 @@ namespace parlexo {
 /// Opens a web page outside the program. Returns false on failure. Replaced in tests.
 using WebOpener = std::function<bool(const QUrl& page)>;
 
-/// Opens `page` in the default browser. Returns false on failure, and for schemes other than http and https,
-/// for which the system might start any program.
+/// Opens `page` in the default browser. Opens only http and https addresses, because for another scheme the
+/// system might start any program. Returns false if nothing was opened.
 bool openInBrowser(const QUrl& page);
 
 /// Returns whether `page` is a valid http or https address.
@@ -26,7 +26,7 @@ class HyperlinkLabel : public QAbstractButton {
  public:
   explicit HyperlinkLabel(const QString& text, const QUrl& page = {}, QWidget* parent = nullptr);
 
-  /// Addresses other than http and https are never passed to the opener.
+  /// Only http and https addresses are passed to the opener.
   void setPage(const QUrl& page);
   [[nodiscard]] const QUrl& page() const { return page_; }
   void setOpener(WebOpener opener) { opener_ = std::move(opener); }

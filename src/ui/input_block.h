@@ -8,7 +8,7 @@
 namespace parlexo {
 
 /// Discards mouse, keyboard, touch, wheel, drop and shortcut input during its lifetime. Only modal windows
-/// opened after its construction still receive input. Blocks may nest. Use on the user-interface thread only.
+/// opened after its construction still receive input. Blocks may nest. Use on the interface thread only.
 class InputBlock final : public QObject {
   Q_OBJECT
 

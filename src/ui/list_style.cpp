@@ -72,8 +72,8 @@ void styleList(QAbstractItemView& view) {
   if (auto* tree = qobject_cast<QTreeView*>(&view)) styleHeader(*tree->header());
 }
 
-int fittingColumnWidth(const QWidget& list, int usual, const QString& widest) {
-  return std::max(usual, list.fontMetrics().horizontalAdvance(widest) + cellMargins);
+int fittingColumnWidth(const QWidget& list, int defaultWidth, const QString& widest) {
+  return std::max(defaultWidth, list.fontMetrics().horizontalAdvance(widest) + cellMargins);
 }
 
 }  // namespace parlexo

@@ -11,8 +11,8 @@ namespace parlexo {
 /// padding, flat left-aligned header, no grid. In a table, Tab moves to the next control, not the next cell.
 void styleList(QAbstractItemView& view);
 
-/// Returns a column width in pixels: `usual`, or more if the font of `list` requires it to show `widest`, the
-/// longest text that must not be cut off.
-[[nodiscard]] int fittingColumnWidth(const QWidget& list, int usual, const QString& widest);
+/// Returns a column width in pixels: `defaultWidth`, or more if the font of `list` requires it to show
+/// `widest`, the longest text that must not be cut off.
+[[nodiscard]] int fittingColumnWidth(const QWidget& list, int defaultWidth, const QString& widest);
 
 }  // namespace parlexo

@@ -23,7 +23,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr qreal smallestPointSize = 9;
+constexpr qreal minPointSize = 9;
 
 void setDisabledColors(QPalette& palette) {
   for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
@@ -51,7 +51,7 @@ QPalette lookPalette() {
 }
 
 QFont lookFont(QFont font) {
-  if (font.pointSizeF() > 0) font.setPointSizeF(std::max(font.pointSizeF(), smallestPointSize));
+  if (font.pointSizeF() > 0) font.setPointSizeF(std::max(font.pointSizeF(), minPointSize));
   return font;
 }
 

@@ -56,7 +56,7 @@ void drawTab(const QStyleOptionTab& tab, QPainter& painter) {
   painter.restore();
 }
 
-/// A focus mark inside a selected row must be light, as the row has a dark background.
+/// The focus rectangle inside a selected row must be light, because the row has a dark background.
 QColor focusColor(const QStyleOption& option) {
   const auto* mark = qstyleoption_cast<const QStyleOptionFocusRect*>(&option);
   const bool onSelection = mark && mark->backgroundColor == option.palette.color(QPalette::Highlight);
@@ -134,7 +134,7 @@ QSize LookStyle::sizeFromContents(ContentsType type, const QStyleOption* option,
 
 int LookStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const {
   if (metric == PM_ScrollBarExtent) return flat_scroll_bar::thickness;
-  if (metric == PM_ScrollBarSliderMin) return flat_scroll_bar::shortestThumb;
+  if (metric == PM_ScrollBarSliderMin) return flat_scroll_bar::minThumbLength;
   const bool isScrollArea = qobject_cast<const QAbstractScrollArea*>(widget);
   if (metric == PM_DefaultFrameWidth && isScrollArea) return focusWidth;
   if (metric == PM_ScrollView_ScrollBarSpacing) return 0;

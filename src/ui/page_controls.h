@@ -17,7 +17,7 @@ class PictureButton;
 /// Creates a line edit that only displays text.
 [[nodiscard]] QLineEdit* readOnlyField(const QString& objectName, QWidget* parent);
 
-/// Creates a label with the parent of `control`, which gets the focus when the mnemonic in `text` is pressed.
+/// Creates a label with the parent of `control`. The mnemonic in `text` moves the focus to `control`.
 [[nodiscard]] QLabel* labelFor(QWidget* control, const QString& text);
 
 /// Creates a label with word wrap.

@@ -67,8 +67,8 @@ QSize PictureButton::minimumSizeHint() const {
 
 QSize PictureButton::sizeHint() const {
   const bool isLong = text().size() > 1;
-  const QSize smallest = dialogUnits(*this, isLong ? 50 : 14, 14);
-  return minimumSizeHint().expandedTo(smallest);
+  const QSize minimum = dialogUnits(*this, isLong ? 50 : 14, 14);
+  return minimumSizeHint().expandedTo(minimum);
 }
 
 void PictureButton::paintEvent(QPaintEvent*) {

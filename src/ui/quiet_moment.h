@@ -14,7 +14,7 @@ namespace parlexo {
 
 /// Waits for a moment at which a dialog can open by itself without interrupting the user: `window` is active
 /// with no menu, dialog or wait over it, no mouse button is pressed, and there has been no input for
-/// `quietTime`. Input before the construction is ignored.
+/// `quietTime`. Input before construction is ignored.
 class QuietMoment final : public QObject {
   Q_OBJECT
 

@@ -111,8 +111,9 @@ void RecordTable::setUpSorting() {
 void RecordTable::setUpColumns(const std::vector<Column>& columns) {
   const QList<int> saved = settings_.columnWidths(objectName());
   int column = 0;
-  for (const auto& [usual, widest] : columns) {
-    const int fitting = std::max(fittingColumnWidth(*this, usual, widest), header()->sectionSizeHint(column));
+  for (const auto& [defaultWidth, widest] : columns) {
+    const int fitting =
+        std::max(fittingColumnWidth(*this, defaultWidth, widest), header()->sectionSizeHint(column));
     header()->resizeSection(column, saved.value(column) > 0 ? saved.value(column) : fitting);
     ++column;
   }

@@ -21,8 +21,8 @@ class RecordTable final : public QTreeView {
 
  public:
   struct Column {
-    int usual;       ///< default width in pixels
-    QString widest;  ///< longest text that must not be cut off in any font; may be empty
+    int defaultWidth;  ///< in pixels
+    QString widest;    ///< longest text that must not be cut off in any font; may be empty
   };
   struct Form {
     QString name;   ///< object name, also the settings key of the column widths
@@ -55,7 +55,7 @@ class RecordTable final : public QTreeView {
   void setUpColumns(const std::vector<Column>& columns);
   void setUpSorting();
   void saveColumnWidth(int column, int width);
-  /// The texts of a displayed row, or the headings for row -1, in display order of the columns.
+  /// The texts of a displayed row, or the headings for row -1, in the displayed order of the columns.
   [[nodiscard]] QStringList rowTexts(int shownRow) const;
 
   SortedRows* rows_;

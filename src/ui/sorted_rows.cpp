@@ -33,7 +33,7 @@ SortedRows::Key SortedRows::toKey(const QModelIndex& cell) {
   QString text = cell.data().toString();
   bool isNumber = false;
   const double number = text.toDouble(&isNumber);
-  // toDouble() accepts "nan", which has no place in an ordering.
+  // toDouble() also accepts "inf" and "nan"; the latter can't be ordered.
   if (isNumber && std::isfinite(number)) return {false, number, std::move(text)};
   return {true, 0.0, std::move(text)};
 }

@@ -25,7 +25,7 @@ constexpr std::chrono::milliseconds pageCountTimeout = timeouts::pageCount;
 FileFacts::State fileState(const QFileInfo& file, qint64 limit) {
   using State = FileFacts::State;
   if (!file.exists()) return State::Missing;
-  if (!file.isFile()) return State::NoFile;
+  if (!file.isFile()) return State::NotAFile;
   if (!file.isReadable() || !file.isWritable()) return State::Unwritable;
   if (file.size() > limit) return State::TooLarge;
   return file.size() == 0 ? State::Empty : State::Sendable;
@@ -75,7 +75,7 @@ QString FileFacts::text() const {
   switch (state) {
     case State::Missing:
       return tr("There is no such file.");
-    case State::NoFile:
+    case State::NotAFile:
       return tr("This is a folder or a device, not a file.");
     case State::Unwritable:
       return tr("%1: can't be sent, as that needs the right to read and to write it").arg(name);

@@ -10,7 +10,7 @@ namespace parlexo {
 
 /// The properties of a file to send.
 struct FileFacts {
-  enum class State { Missing, NoFile, Unwritable, Empty, TooLarge, Sendable };
+  enum class State { Missing, NotAFile, Unwritable, Empty, TooLarge, Sendable };
 
   QString name;  ///< without its folders
   State state = State::Missing;
@@ -24,12 +24,13 @@ struct FileFacts {
   Q_DECLARE_TR_FUNCTIONS(FileFacts)
 };
 
-/// Reads the properties of the file at `path` except `pages`. Blocks, possibly long on a network folder.
+/// Reads the properties of the file at `path` except `pages`. May block for long on a network
+/// folder.
 [[nodiscard]] FileFacts fileFacts(const QString& path, qint64 limit);
 
 /// Counts the pages of the TIFF or PDF document at `path`; reduced-resolution images in a TIFF don't count.
 /// Returns nullopt if the file is in neither format, unreadable, damaged, protected by a password or larger
-/// than 64 MB, or if counting takes more than ten seconds or 512 MB. Blocks; thread-safe.
+/// than 64 MB, or if counting takes more than ten seconds or 512 MB of memory. Blocks; thread-safe.
 [[nodiscard]] std::optional<int> pageCount(const QString& path);
 
 }  // namespace parlexo

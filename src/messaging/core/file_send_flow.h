@@ -29,15 +29,16 @@ class FileSendFlow : private SendFlow {
   Q_DECLARE_TR_FUNCTIONS(FileSendFlow)
 
  public:
-  /// `services` must refer to objects that outlive the flow; `type` is one that carries a file.
+  /// `services` must refer to objects that outlive the flow; `type` must carry a file.
   FileSendFlow(const MessagingServices& services, MessageType type) : SendFlow(services, type) {}
 
-  /// Checks `draft` and sends it. Calls the send operation at most once. The file stays open during the calls
-  /// before it, so the bytes sent are those that were checked.
+  /// Checks `draft` and sends it. Calls the send operation at most once. The file stays open from its check
+  /// until it has been read, so the file sent is the one that was checked.
   [[nodiscard]] SendOutcome send(const FileDraft& draft) const;
 
  private:
-  /// Checks everything but the file itself and reports the first problem. Returns nullopt if there is none.
+  /// Checks everything except the file itself and reports the first problem. Returns nullopt if there is
+  /// none.
   [[nodiscard]] std::optional<SendOutcome> checkDraft(const FileDraft& draft) const;
   [[nodiscard]] bool checkLength(MessageFile& file, const QString& path) const;
   [[nodiscard]] bool read(MessageFile& file, const QString& path) const;

@@ -26,8 +26,8 @@ class MessageFile {
   /// Length in bytes when the file was opened.
   [[nodiscard]] qint64 length() const { return length_; }
 
-  /// Reads the open file into memory. Fails if reading fails or the length has changed since open(), because
-  /// another program is writing to the file.
+  /// Reads the open file into memory. Fails on a read error, or if the length has changed since open()
+  /// because another program is writing to the file.
   [[nodiscard]] ReadResult read();
 
   /// The contents; null until read() has succeeded.

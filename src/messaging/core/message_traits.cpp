@@ -22,16 +22,10 @@ SendReply sendFax(const Gateway& gateway, const QString& session, const FileDraf
       gateway.call<&GatewayClient::sendFax>(session, draft.fileName(), upload, draft.numbersList));
 }
 
-SendReply sendMms(const Gateway& gateway, const QString& session, const FileDraft& draft,
-                  const FileUpload& upload) {
-  return toSendReply(gateway.call<&GatewayClient::sendMms>(session, draft.note, draft.fileName(), upload,
-                                                           draft.numbersList));
-}
-
-SendReply sendWap(const Gateway& gateway, const QString& session, const FileDraft& draft,
-                  const FileUpload& upload) {
-  return toSendReply(gateway.call<&GatewayClient::sendWap>(session, draft.note, draft.fileName(), upload,
-                                                           draft.numbersList));
+template <auto method>
+SendReply sendWithNote(const Gateway& gateway, const QString& session, const FileDraft& draft,
+                       const FileUpload& upload) {
+  return toSendReply(gateway.call<method>(session, draft.note, draft.fileName(), upload, draft.numbersList));
 }
 
 constexpr std::array traitsTable = {
@@ -53,7 +47,7 @@ constexpr std::array traitsTable = {
                   .sizeLimit = &GatewayLocation::maxFileSizeMobile,
                   .noteLimit = maxMmsDescription,
                   .noteTooLong = TextId::MmsDescriptionTooLong,
-                  .sendFile = sendMms},
+                  .sendFile = sendWithNote<&GatewayClient::sendMms>},
     MessageTraits{
         .type = MessageType::Fax,
         .unreachable = TextId::FaxTransport,
@@ -78,7 +72,7 @@ constexpr std::array traitsTable = {
                   .tooLarge = TextId::WapTooLarge,
                   .noMemory = TextId::WapMemory,
                   .sizeLimit = &GatewayLocation::maxFileSizeMobile,
-                  .sendFile = sendWap},
+                  .sendFile = sendWithNote<&GatewayClient::sendWap>},
 };
 
 }  // namespace

@@ -16,7 +16,7 @@ struct FileDraft;
 struct FileUpload;
 struct SendReply;
 
-/// Use of the sender ID that the user has set.
+/// Whether a send sets the user's sender ID at the gateway first.
 enum class SenderIdUse { Set, Ignore };
 
 /// How a message type is sent. A new type is a new row of the table in message_traits.cpp.
@@ -29,7 +29,7 @@ struct MessageTraits {
   TextId delivered{};
 
   // For types that carry a file; unset for SMS.
-  const char* noFile = nullptr;  ///< no file selected; source text in the context FileSendFlow
+  const char* noFile = nullptr;  ///< error if no file is selected; source text in the context FileSendFlow
   TextId cannotOpen{};           ///< with "%s" for the path
   TextId tooLarge{};
   TextId noMemory{};
@@ -37,12 +37,12 @@ struct MessageTraits {
   int noteLimit = std::numeric_limits<int>::max();  ///< UTF-16 units; the flow refuses a longer note
   TextId noteTooLong{};
 
-  /// Calls the gateway's send operation. Blocks; the progress box is the caller's.
+  /// Calls the gateway's send operation. Blocks; the caller shows the progress box.
   SendReply (*sendFile)(const Gateway& gateway, const QString& session, const FileDraft& draft,
                         const FileUpload& upload) = nullptr;
 };
 
-/// The row of `type`, which must be a type that a page sends: any but Voice.
+/// Returns the row of `type`, which must not be Voice: the client can't send voice messages.
 [[nodiscard]] const MessageTraits& messageTraits(MessageType type);
 
 }  // namespace parlexo

@@ -35,7 +35,7 @@ void eraseMarked(List& list, const std::vector<bool>& marked) {
              list.end());
 }
 
-// Removes the first occurrences of each number, as many as `unwanted` says.
+// Removes the first occurrences of each number, as many as `unwanted` specifies.
 void eraseFirst(QStringList& numbers, QHash<QString, int> unwanted) {
   numbers.removeIf([&](const QString& number) {
     const auto count = unwanted.find(number);

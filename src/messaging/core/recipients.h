@@ -31,8 +31,8 @@ struct Recipient {
 /// removing recipients changes both.
 class Recipients {
  public:
-  /// Replaces entries and numbers by `contacts`, in their order. Contacts whose number does not begin with a
-  /// plus sign are skipped; returns their names.
+  /// Replaces entries and numbers by `contacts`, in their order. Skips contacts whose number does not begin
+  /// with a plus sign and returns their names.
   QStringList select(std::span<const ContactRecord* const> contacts, RecipientNumber which);
 
   /// Removes the entries at `indexes`, which may be in any order; invalid ones are ignored. Also removes

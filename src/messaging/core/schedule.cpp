@@ -29,7 +29,7 @@ Schedule scheduleAt(const QDateTime& instant) {
 // time differently from call to call, depending on the conversions before.
 QDateTime fromLocalTime(QDate date, QTime time) {
   const qint64 wallClock = QDateTime(date, time, Qt::UTC).toSecsSinceEpoch();
-  // Offsets are shorter than a day, so these two instants are before and after the wanted one.
+  // Offsets from UTC are shorter than a day, so these use the offsets before and after the wanted instant.
   const qint64 byOldOffset = wallClock - toLocalTime(wallClock - secondsPerDay).offsetFromUtc();
   const qint64 byNewOffset = wallClock - toLocalTime(wallClock + secondsPerDay).offsetFromUtc();
   const auto matches = [wallClock](qint64 instant) {

@@ -17,20 +17,20 @@ enum class SendOutcome {
   FileAtFault,        ///< not sent because of the file
   RecipientsAtFault,  ///< not sent because of the recipients
   NotSent,            ///< refused or failed for any other reason
-  OutcomeUnknown,     ///< the request went out and no readable reply came
-  PartlyFailed,       ///< accepted for some of the numbers
+  OutcomeUnknown,     ///< the request was sent, but no readable reply was received
+  PartlyFailed,       ///< accepted, but at least one number failed
   Delivered,          ///< accepted for all numbers
 };
 
 /// The reply to a send operation of any message type.
 struct SendReply {
-  bool answered = false;  ///< a readable reply came
+  bool answered = false;  ///< a readable reply was received
   int code = 0;           ///< result code of the gateway; 0 for success
   QString receipts;
   bool outcomeUnknown = false;
 };
 
-/// `reply` without its operation's response type.
+/// Converts the reply to a send operation.
 template <class Response>
 [[nodiscard]] SendReply toSendReply(const Reply<Response>& reply) {
   return {.answered = reply.answered(),
@@ -39,8 +39,8 @@ template <class Response>
           .outcomeUnknown = reply.outcomeUnknown()};
 }
 
-/// The steps that sending has in common for all message types. A step that returns false has reported the
-/// reason; the send must stop then.
+/// The steps of a send that are common to all message types. A step that returns false has reported the
+/// reason, and the send must stop.
 class SendFlow {
   Q_DECLARE_TR_FUNCTIONS(SendFlow)
 

@@ -13,7 +13,7 @@
 namespace parlexo {
 
 /// The text of the file "Status.xml" (docs/file-formats.md). Values are written without escapes, so a status
-/// with a quotation mark makes the text malformed XML; its lines can still be read one by one.
+/// with a quotation mark makes the text malformed XML; its lines can still be parsed individually.
 
 /// The result of readStatusDocument().
 struct StatusDocument {
@@ -26,10 +26,9 @@ struct StatusDocument {
 /// Writes UTF-8, one line per entry, with unescaped values.
 [[nodiscard]] QByteArray writeStatusDocument(const std::vector<StatusEntry>& entries);
 
-/// Reads `text` as XML. Of the root's children only the first `maxElements` are read,
-/// regardless of their names.
-/// Control characters that XML forbids are removed without an error. After any other error the entries are
-/// those of all lines that can be read on their own.
+/// Reads `text` as XML. Only the first `maxElements` children of the root are read, regardless of their
+/// names. Control characters that XML forbids are removed without an error. After any other error the entries
+/// are those of all lines that can be parsed individually.
 [[nodiscard]] StatusDocument readStatusDocument(const QByteArray& text, int maxElements);
 
 /// The exact inverse of writeStatusDocument(), for any status text. Returns nullopt if `text` can't be its

@@ -81,16 +81,17 @@ bool hasSameLines(const QString& path, const QByteArray& bytes) {
   return sortedLines(file.readAll()) == sortedLines(bytes);
 }
 
-// Copies the file, so that it remains if the disk is too full for its replacement; an unreadable file can
-// only be renamed. Skips contents that were backed up last: a status with a quotation mark gets the file
-// rejected at every start, which must not displace the copies of other files.
+// Copies the file instead of renaming it, so that it remains if the disk is too full for its replacement. An
+// unreadable file can only be renamed. Does nothing if the last backup has the same contents: a status with a
+// quotation mark causes the file to be rejected at every start, and its copies must not displace those of
+// other files.
 bool backUpRejected(const QString& path, const StatusFile::FileContent& content) {
   const QFileInfo file(path);
   const bool isRead = content.error.isEmpty();
   std::map<int, QString> files = badFiles(file);
   if (isRead && !files.empty() && hasSameLines(files.rbegin()->second, content.bytes)) return true;
   const int number = files.empty() ? 1 : files.rbegin()->first + 1;
-  const QString backup = u"%1.%2.bad"_s.arg(path).arg(number);
+  const QString backup = u"%1.%2.bad"_s.arg(path, QString::number(number));
   if (!(isRead ? QFile::copy(path, backup) : QFile::rename(path, backup))) return false;
   files.emplace(number, backup);
   removeOldest(std::move(files));
@@ -152,7 +153,7 @@ std::optional<StatusFile::FileContent> readContent(const QString& path) {
   return StatusFile::FileContent{bytes, {}};
 }
 
-// Without the lock another program could not replace the file on Windows while it is open here.
+// Locks, because on Windows another program can't replace the file while it is open here.
 std::optional<StatusFile::FileContent> readUnderLock(const QString& path,
                                                      std::chrono::milliseconds lockWait) {
   SharedFile lock;
@@ -166,7 +167,7 @@ bool wasDeleted(const StatusEntry& missing, const std::vector<StatusEntry>& pres
   return present.size() < StatusFile::entriesWritten || !(entryAge(missing) < entryAge(present.back()));
 }
 
-// Returns false if the document is malformed. Entries missing from it are not treated as deleted then.
+// Returns false if the document is malformed. In that case, missing entries are not treated as deleted.
 bool mergeDocument(StatusLog& log, const QByteArray& bytes) {
   auto own = readOwnStatusDocument(bytes);
   const StatusDocument document =

@@ -16,21 +16,21 @@ class Notifier;
 
 /// The file "Status.xml", which stores the status log between runs (docs/file-formats.md). Several programs
 /// may use one file: each save merges the changes of the others first. A lock on "Status.xml.lock" serialises
-/// them; the system releases it when a program ends, even by a crash.
+/// them; the system releases it when a program ends, even if it crashes.
 class StatusFile {
   Q_DECLARE_TR_FUNCTIONS(StatusFile)
 
  public:
-  /// The number of child elements that load() reads. save() checks after counting and writes one more.
+  /// The number of child elements that load() reads. save() writes up to one entry more than that.
   static constexpr int elementsRead = 1000;
   static constexpr int entriesWritten = 1001;
-  /// Larger files are rejected. A hundred times the size of a full log.
+  /// Larger files are rejected. About a hundred times the size of a full log.
   static constexpr qint64 maxBytes = 32 * 1024 * 1024;
 
   /// What save() does if another program does not release the lock in time.
   enum class IfLocked {
     Defer,        ///< fails; the next save retries
-    WriteAnyway,  ///< writes without the lock; for the last save of a run
+    WriteAnyway,  ///< writes without the lock; for the last save before the program exits
   };
   /// How long save() waits for the lock in each case. load() waits as long as a save that can be deferred,
   /// then reads without the lock.
@@ -48,9 +48,9 @@ class StatusFile {
   explicit StatusFile(QString path) : StatusFile(std::move(path), LockWaits()) {}
   StatusFile(QString path, LockWaits lockWaits) : path_(std::move(path)), lockWaits_(lockWaits) {}
 
-  /// Replaces the contents of `log` by the file's. Warns if the file is missing. Reports an error with the
-  /// reason if it can't be read, and leaves the log empty; from malformed XML the lines that can be read on
-  /// their own are loaded, and the error says how many.
+  /// Replaces the contents of `log` by the file's. Warns if the file is missing. If it can't be read, reports
+  /// an error with the reason and leaves the log empty. If the XML is malformed, loads the lines that can be
+  /// parsed individually and reports an error with their number.
   void load(StatusLog& log, Notifier& notifier);
 
   /// Merges the file into `log`, then replaces the file. If the log has more than `elementsRead` entries, the

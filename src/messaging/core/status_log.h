@@ -36,7 +36,7 @@ class StatusLog {
   /// Keyed by receipt, in no particular order.
   using Entries = std::unordered_map<QString, StatusEntry>;
 
-  /// Returns true if another program has deleted the entry, which the file contained before and does not now.
+  /// Returns true if another program has deleted the entry, which the file no longer contains.
   using IsDeleted = std::function<bool(const StatusEntry&)>;
 
   /// Adds an entry, replacing one with the same receipt. Of several failed recipients with the receipt "FAIL"
@@ -47,13 +47,13 @@ class StatusLog {
   /// none with this receipt.
   const StatusEntry* setStatus(const QString& receipt, const QString& status);
 
-  /// Replaces the whole log by the entries of its file; the last one with a given receipt counts. The log is
-  /// unmodified then.
+  /// Replaces the whole log by the entries of its file. Of several entries with the same receipt the last one
+  /// is used. isModified() is false afterwards.
   void load(std::vector<StatusEntry> fileEntries);
 
-  /// Applies the changes of other programs since the file was last read or written here: adds new entries and
-  /// removes those for which `isDeleted` returns true. If an entry exists in both, the version changed here
-  /// wins, otherwise the file's.
+  /// Applies the changes that other programs have made since the file was last read or written here: adds new
+  /// entries and removes those for which `isDeleted` returns true. Of an entry in both, the log's version is
+  /// kept if it was changed here; otherwise the file's version is used.
   void merge(std::vector<StatusEntry> fileEntries, const IsDeleted& isDeleted);
 
   [[nodiscard]] const Entries& entries() const { return entries_; }

@@ -17,10 +17,10 @@ namespace parlexo {
 struct StatusQueryOutcome {
   int received = 0;
   int undetermined = 0;  ///< the call failed, or was not made after an earlier failure
-  int notQueried = 0;    ///< left when the user cancelled
+  int notQueried = 0;    ///< not yet queried when the user cancelled
   int failedSends = 0;   ///< the gateway never accepted the message and so has no status
 
-  /// The outcome for the user, such as "2 could not be determined."; empty if all statuses were received.
+  /// A message for the user, such as "2 could not be determined."; empty if all statuses were received.
   [[nodiscard]] QString text() const;
 
   Q_DECLARE_TR_FUNCTIONS(StatusQueryOutcome)
@@ -37,7 +37,7 @@ class StatusQueryFlow {
   /// `services` must refer to objects that outlive the flow.
   explicit StatusQueryFlow(const MessagingServices& services) : services_(services) {}
 
-  /// Queries the receipts one by one, skipping those of failed sends. Shows the progress and offers Cancel
+  /// Queries the receipts one by one, skipping those of failed sends. Shows progress and offers Cancel
   /// after 3 s. A failed call is skipped; the query stops after three transport failures in a row or when the
   /// session has expired. The first failure, or the expired session, is reported once at the end, because a
   /// message box would stop a long query until the user returns. Saves the log if any status was received.

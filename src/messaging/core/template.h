@@ -34,8 +34,9 @@ class TemplateFolder {
   /// The names of all templates in alphabetical order; empty if the folder can't be read.
   [[nodiscard]] QStringList names() const;
 
-  /// Writes a template, replacing one with the same name. Returns false if writing fails, and the old file
-  /// stays, or if the name is empty or contains "/", "\" or a null character.
+  /// Writes a template, replacing one with the same name. Returns false, leaving the old file unchanged, if
+  /// writing fails or if the name is empty or contains "/", "\" or a null character; on Windows, also if it
+  /// contains any other character that is invalid in file names.
   [[nodiscard]] bool save(const QString& name, const Template& content) const;
 
   /// Returns nullopt if the file can't be read, is too large, or is not a template (see parseTemplate()).

@@ -47,7 +47,7 @@ PictureButton* DeliveryPanel::senderButton() {
 }
 
 void DeliveryPanel::sendNow() {
-  schedule_.text = Schedule::sendNow();
+  schedule_ = {};
   showSchedule();
 }
 

@@ -22,7 +22,7 @@ struct FileDetails {
   QImage thumbnail;  ///< null if not requested or the file contains no picture
 };
 
-/// Reads the details of the file at `path`. Blocks, possibly long on a network folder or for a large
+/// Reads the details of the file at `path`. May block for long on a network folder or with a large
 /// document. Thread-safe.
 [[nodiscard]] FileDetails readFileDetails(const QString& path, const FileDetails::Request& request);
 

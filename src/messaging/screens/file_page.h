@@ -16,7 +16,7 @@ class PicturePreview;
 struct FileDetails;
 
 /// A page that sends a file: the file, a note if the message type has one, and the common controls of send
-/// pages. The derived classes differ only in their row of page_traits.h.
+/// pages. The derived classes differ only in their PageTraits.
 class FilePage : public SendPage {
   Q_OBJECT
 

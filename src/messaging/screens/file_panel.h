@@ -39,7 +39,7 @@ class FilePanel final : public QWidget {
   void browse();
   /// Sets the file and stores its folder as that of the last choice.
   void choose(const QString& path);
-  /// The path of the one local file that `data` contains; empty if it contains anything else.
+  /// The path of the local file in `data`; empty unless it contains exactly one.
   [[nodiscard]] static QString draggedFile(const QMimeData& data);
 
  Q_SIGNALS:

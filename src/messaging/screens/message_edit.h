@@ -39,6 +39,7 @@ class MessageEdit final : public QPlainTextEdit {
   [[nodiscard]] int remainingUnits() const;
   void recordInsertion(int position, int removed, int added);
   void enforceLimit();
+  /// Removes a range of the text as part of the previous undo step.
   void removeJoined(int from, int to);
 
   int limit_ = 0;

@@ -23,7 +23,7 @@ struct PageTraits {
   bool previewsPicture = false;
 };
 
-/// The row of `type`, which must be a type that has a page: any but Voice.
+/// Returns the row of `type`, which must not be Voice: there is no page for voice messages.
 [[nodiscard]] const PageTraits& pageTraits(MessageType type);
 
 }  // namespace parlexo

@@ -67,7 +67,8 @@ QWidget* RecipientsPanel::createBox() {
   return area;
 }
 
-// Warns if the box shows other recipients than the numbers to send to, which a loaded template can cause.
+// Warns if the recipients in the box differ from the numbers to send to, as they can after loading a
+// template.
 QString RecipientsPanel::summary(const Recipients& recipients, int repeatedCount) {
   const std::size_t shown = recipients.entries().size();
   if (shown == 0) return tr("No recipients");

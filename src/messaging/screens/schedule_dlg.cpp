@@ -132,8 +132,8 @@ bool CScheduleDlg::eventFilter(QObject* target, QEvent* event) {
 }
 
 void CScheduleDlg::chooseCurrentTime() {
-  // Shows this instant itself. Converted back from local time, it could be off by an hour in the night in
-  // which the clocks go back.
+  // Shows this instant itself. Converted back from local time, it could be off by an hour in the night
+  // when the clocks go back.
   const QDateTime now = clock_().toLocalTime();
   const QSignalBlocker calendarBlocker(calendar_);
   const QSignalBlocker timeBlocker(time_);

@@ -98,7 +98,7 @@ void SendPage::send() {
   if (outcome == SendOutcome::Delivered) clearForm();
 }
 
-// A message that was not sent leaves the notice about the one before unchanged.
+// If the message was not sent, the notice about the previous message stays.
 void SendPage::updateNotice(SendOutcome outcome) {
   switch (outcome) {
     case SendOutcome::OutcomeUnknown:

@@ -22,8 +22,8 @@ class DeliveryPanel;
 class PictureButton;
 class RecipientsPanel;
 
-/// Base class of the pages that send messages: everything but the message itself. Shows the recipients, the
-/// schedule, the sender ID and the buttons, and runs the send.
+/// Base class of the pages that send messages: everything except the message itself. Shows the recipients,
+/// the schedule, the sender ID and the buttons, and sends the message.
 class SendPage : public GradientPage {
   Q_OBJECT
 

@@ -182,7 +182,7 @@ void CQuillonSMSDlg::recount() {
   showPart();
 }
 
-// Offers Unicode only if the text fits in it.
+// Offers to switch to Unicode only if the text does not exceed its limit.
 void CQuillonSMSDlg::showUnsendable(const QString& text) {
   unsendable_->check(charset() == SmsCharset::Standard ? text : QString());
   unicodeLink_->setVisible(!unsendable_->text().isEmpty() && text.size() <= unicodeSmsLimits.text);

@@ -40,7 +40,7 @@ class ProgressBox final : public Progress {
   void offerCancel(std::function<void()> cancel);
   /// Whether the user has pressed Cancel in the current box.
   [[nodiscard]] bool isCancelled() const { return box_ && isCancelled_; }
-  /// Time since the first call for the current box; zero for that call.
+  /// Time since this function was first called for the current box; zero for that first call.
   [[nodiscard]] std::chrono::milliseconds sinceFirstTask();
   /// The value set by offerCancelAfter() for the current box, otherwise `defaultValue`.
   [[nodiscard]] std::chrono::milliseconds untilCancel(std::chrono::milliseconds defaultValue) const;

@@ -13,7 +13,7 @@
 
 namespace parlexo {
 
-/// Processes events on the user-interface thread until one worker has ended or is abandoned. Shows the
+/// Processes events on the interface thread until one worker has ended or is abandoned. Shows the
 /// progress box if the wait takes long, and hides it again if it was opened here.
 class ThreadCallRunner::Wait {
  public:
@@ -72,7 +72,7 @@ void ThreadCallRunner::Wait::cancel() {
   if (!abandonTimer_.isActive()) abandonTimer_.start(runner_.timing_.afterCancel);
 }
 
-// Called repeatedly, because a nested task may have shown and hidden a box of its own in the meantime.
+// Called repeatedly, because a nested task may have shown and hidden its own box in the meantime.
 void ThreadCallRunner::Wait::updateBox() {
   if (!progress_.isShowing()) {
     hasShownBox_ = true;

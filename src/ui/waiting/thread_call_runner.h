@@ -26,7 +26,7 @@ class ThreadCallRunner final : public CallRunner {
   explicit ThreadCallRunner(ProgressBox& progress);
   ThreadCallRunner(ProgressBox& progress, Timing timing);
 
-  /// Must be called on the user-interface thread; calls may nest. Also returns false if the thread could not
+  /// Must be called on the interface thread; calls may nest. Also returns false if the thread could not
   /// be started or the task threw an exception.
   [[nodiscard]] bool run(Task task) override;
 
