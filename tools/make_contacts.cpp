@@ -18,13 +18,13 @@ namespace {
 
 constexpr int badUsage = 2;
 // A larger address book needs more memory than a desktop computer has.
-constexpr int largestCount = 2'000'000;
+constexpr int maxCount = 2'000'000;
 
 std::optional<int> parseCount(const QCommandLineParser& parser, const QString& option) {
   bool valid = false;
   const int count = parser.value(option).toInt(&valid);
-  if (valid && count >= 0 && count <= largestCount) return count;
-  std::fprintf(stderr, "make-contacts: --%s needs a number from 0 to %d\n", qPrintable(option), largestCount);
+  if (valid && count >= 0 && count <= maxCount) return count;
+  std::fprintf(stderr, "make-contacts: --%s needs a number from 0 to %d\n", qPrintable(option), maxCount);
   return std::nullopt;
 }
 

@@ -24,11 +24,11 @@ namespace parlexo {
 
 /// The name of the contact database as a group. All contacts belong to it; AddressBook::groups() omits it.
 inline constexpr char allContactsName[] = "All Contacts";
-/// The name of the group that is created at start-up when it is missing.
+/// The name of the group that is created at start-up if it is missing.
 inline constexpr char personalContactsName[] = "My Personal Contacts";
 
-/// All contacts and groups in memory. Every change is written to the files of the contacts folder at once.
-/// Names are case-sensitive. Memory changes even when a file could not be written.
+/// All contacts and groups in memory. Every change is written immediately to the files of the contacts
+/// folder. Names are case-sensitive. Memory changes even if a file can't be written.
 class AddressBook {
   Q_DECLARE_TR_FUNCTIONS(AddressBook)
 

@@ -16,8 +16,6 @@
 
 namespace parlexo {
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
 constexpr int contactsPerProgress = 20;
@@ -102,8 +100,8 @@ bool AddressBook::addLoadedMember(GroupFile& group, const QByteArray& key) const
 }
 
 // Another user may have stored a contact and its membership after the contacts were read here. Programs write
-// the contact first. Once the group's file is locked, a member whose contact is missing from the database is
-// therefore one that no program has finished writing.
+// the contact first. Once the group's file is locked, deleting a member whose contact is missing from the
+// database can therefore not undo a completed change.
 bool AddressBook::deleteOrphans(QString& error, GroupFile& group, const QString& path,
                                 const QSet<QByteArray>& orphans) {
   const auto stillMissing = [&](QString& readError) -> std::optional<QSet<QByteArray>> {

@@ -8,8 +8,8 @@
 
 namespace parlexo {
 
-/// Waits until another user has closed a file. An implementation for a program with windows processes events
-/// in pause(), which must not call the store.
+/// Waits until another user has closed a file. In a program with windows, pause() processes events; their
+/// handlers must not call ItemDatabase.
 class LockWaiter {
  public:
   virtual ~LockWaiter() = default;

@@ -43,7 +43,7 @@ int openFlags(SharedFile::Mode mode) {
   return O_RDONLY | commonFlags;
 }
 
-// Errors of SMB servers if a program on Windows has the file open.
+// SMB servers return these errors if a program on Windows has the file open.
 bool isHeldByOthers(int error) {
   return error == EBUSY || error == ETXTBSY || error == EWOULDBLOCK;
 }

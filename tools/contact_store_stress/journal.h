@@ -22,8 +22,8 @@ struct Operation {
   bool acknowledged = false;   ///< the store reported success
 };
 
-/// Records the operations of a process: one line before an operation, one after it. Each line is written to
-/// the kernel at once, so it survives the killing of the process.
+/// Records the operations of a process: one line before an operation, one after it. Each line is passed to
+/// the kernel immediately, so it is not lost when the process is killed.
 class JournalWriter {
  public:
   /// Opens the file for appending. Exits the process with a message on error.
@@ -53,8 +53,8 @@ struct Journal {
 /// Reads a journal. Ignores an incomplete last line.
 [[nodiscard]] Journal readJournal(const std::string& path);
 
-/// Returns the prefix of keys in a journal shared by several group files: the file name, without the folder,
-/// which may be accessible by several paths.
+/// Returns the prefix of keys in a journal shared by several group files. It is the file name without the
+/// folder, because processes may use different paths of the same folder.
 [[nodiscard]] std::string groupPrefix(const std::string& path);
 
 [[nodiscard]] std::int64_t nowNanoseconds();

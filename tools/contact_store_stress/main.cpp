@@ -116,10 +116,11 @@ class Arena {
 
 void describeOptions(QCommandLineParser& parser) {
   parser.setApplicationDescription(
-      u"Lets processes work in one contacts folder, kills some, and checks that no acknowledged change was lost."_s);
+      u"Lets processes work in one contacts folder, kills some, and checks that no acknowledged "
+      "change was lost."_s);
   parser.addHelpOption();
   parser.addOptions(
-      {{u"processes"_s, u"The number of processes at the same time."_s, u"N"_s, u"4"_s},
+      {{u"processes"_s, u"The number of concurrent processes."_s, u"N"_s, u"4"_s},
        {u"seconds"_s, u"The duration in seconds."_s, u"S"_s, u"5"_s},
        {u"kill-within"_s, u"The maximum time until the next process is killed, in milliseconds."_s, u"MS"_s,
         u"100"_s},

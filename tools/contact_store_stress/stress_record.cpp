@@ -37,7 +37,7 @@ ContactRecord contactFor(const std::string& key, const std::string& value) {
 
 }  // namespace
 
-int recordWidth(Kind kind) {
+int recordSize(Kind kind) {
   return kind == Kind::Contacts ? contactRecordSize : memberRecordSize;
 }
 
@@ -47,7 +47,7 @@ std::string recordFor(Kind kind, const std::string& key, const std::string& valu
 }
 
 CheckedRecord checkRecord(Kind kind, const char* record) {
-  const QByteArrayView bytes(record, recordWidth(kind));
+  const QByteArrayView bytes(record, recordSize(kind));
   CheckedRecord checked = {unpackMember(bytes).toStdString(), memberValue, {}};
   if (kind == Kind::Contacts) checked.value = unpackContact(bytes).email.toStdString();
   const std::string expected = recordFor(kind, checked.key, checked.value);

@@ -12,7 +12,7 @@ enum class Kind { Contacts, Members };
 inline constexpr char memberValue[] = "member";
 
 /// Returns the size of a record in bytes.
-[[nodiscard]] int recordWidth(Kind kind);
+[[nodiscard]] int recordSize(Kind kind);
 
 /// Returns the record with this key and value. A contact contains the value in one field and a digest of key
 /// and value in all others, which reveals torn and mixed records. A member only contains its name.

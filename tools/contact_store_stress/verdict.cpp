@@ -42,10 +42,10 @@ History readHistory(const std::vector<std::string>& journals, Verdict& verdict) 
 Contents readContents(Kind kind, const std::string& path, Verdict& verdict) {
   std::ifstream file(path, std::ios::binary);
   const std::string bytes((std::istreambuf_iterator<char>(file)), {});
-  const auto recordSize = static_cast<std::size_t>(recordWidth(kind));
-  if (bytes.size() % recordSize != 0) verdict.problems.push_back(path + " ends within a record");
+  const auto size = static_cast<std::size_t>(recordSize(kind));
+  if (bytes.size() % size != 0) verdict.problems.push_back(path + " ends within a record");
   Contents contents;
-  for (std::size_t at = 0; at + recordSize <= bytes.size(); at += recordSize) {
+  for (std::size_t at = 0; at + size <= bytes.size(); at += size) {
     ++verdict.records;
     const CheckedRecord record = checkRecord(kind, &bytes[at]);
     if (!record.problem.empty()) verdict.problems.push_back(record.key + ": " + record.problem);

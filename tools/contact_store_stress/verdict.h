@@ -15,8 +15,8 @@ struct Verdict {
   std::size_t acknowledged = 0;
   std::size_t interrupted = 0;  ///< begun without a recorded end
   std::size_t records = 0;      ///< in the file, including deleted ones
-  std::size_t missing =
-      0;  ///< keys whose acknowledged writes are lost, although no operation can have removed them
+  /// Keys whose acknowledged writes are lost, although no operation can have removed them.
+  std::size_t missing = 0;
   std::size_t doubled = 0;  ///< records with the key of an earlier one
   std::vector<std::string> problems;
 };

@@ -58,7 +58,7 @@ class JournaledStore {
       journal_.endWithoutEffect();
       return false;
     }
-    const bool written = database_.writeItem(error_, nameWidth, path_, recordWidth(kind_),
+    const bool written = database_.writeItem(error_, nameWidth, path_, recordSize(kind_),
                                              QByteArrayView(record), timeoutSeconds);
     finish(written);
     return written;
@@ -68,7 +68,7 @@ class JournaledStore {
     bool deleted = false;
     journal_.begin(Action::Delete, prefix_ + key, {});
     const bool success = database_.deleteItem(error_, nameWidth, path_, QByteArray::fromStdString(key),
-                                              recordWidth(kind_), deleted, timeoutSeconds);
+                                              recordSize(kind_), deleted, timeoutSeconds);
     // A key stored after this process read its index is not found, which the store reports.
     if (success && !deleted)
       journal_.endWithoutEffect();
@@ -82,7 +82,7 @@ class JournaledStore {
       if (!checked.problem.empty()) journal_.complain("read " + checked.key + ": " + checked.problem);
       return true;
     };
-    if (!database_.readAllItems(error_, recordWidth(kind_), path_, check, timeoutSeconds))
+    if (!database_.readAllItems(error_, recordSize(kind_), path_, check, timeoutSeconds))
       journal_.complain("reading: " + error_.toStdString());
     error_.clear();
   }

@@ -40,7 +40,7 @@ class ContactForm {
   [[nodiscard]] bool isNew() const { return isNew_; }
   [[nodiscard]] bool supportsSms() const;
   [[nodiscard]] bool supportsMedia() const;
-  /// The contact given, with the values of the last apply().
+  /// The contact passed to the constructor, with the values of the last apply().
   [[nodiscard]] const ContactRecord& contact() const { return contact_; }
 
   /// Copies the typed values, trimmed, to the contact and validates them. Invalid values are copied too; the

@@ -69,9 +69,9 @@ struct ImportOutcome {
 /// string.
 [[nodiscard]] QString planProblem(const ImportPlan& plan);
 
-/// Imports the rows of `sheet` into `book` and the plan's group, saving each contact at once. Ignores blank
-/// rows. Shows a write error through `notifier` and ends the import there. Contacts imported before remain. A
-/// contact that could not be written is removed from memory too, so the import can be repeated.
+/// Imports the rows of `sheet` into `book` and the plan's group, saving each contact immediately. Ignores
+/// blank rows. Shows a write error through `notifier` and ends the import there. Contacts imported before
+/// remain. A contact that could not be written is removed from memory too, so the import can be repeated.
 [[nodiscard]] ImportOutcome importContacts(const Sheet& sheet, const ImportPlan& plan, AddressBook& book,
                                            ImportUser& user, Notifier& notifier);
 

@@ -13,8 +13,8 @@
 namespace parlexo {
 
 /// The user's actions on contacts and groups: the folders that allow them, their confirmation questions and
-/// progress texts. A failed write does not prevent the following ones. Memory follows the user even where the
-/// files could not be written. Each kind of error is shown once per action.
+/// progress texts. A failed write does not prevent the following ones. The address book in memory changes
+/// even if its files can't be written. Each kind of error is shown once per action.
 class ContactsFlow {
   Q_DECLARE_TR_FUNCTIONS(ContactsFlow)
 

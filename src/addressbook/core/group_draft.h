@@ -24,7 +24,7 @@ struct GroupChanges {
   std::vector<ContactRecord> contacts = {};  ///< new or changed contacts, to be saved first
   QStringList added = {};                    ///< names of new members
   QStringList removed = {};                  ///< names of removed members
-  /// The new name of the contact without a name, which is among `contacts`; empty if it has not got one.
+  /// The new name of the contact without a name, which is among `contacts`; empty if it was not named.
   QString newName = {};
 };
 

@@ -164,10 +164,10 @@ QString fieldLabel(ImportField field) {
 }
 
 std::optional<int> findHeadingRow(const Sheet& sheet) {
-  constexpr int mostTitles = 10;
-  const int rows = std::min(sheet.rowCount(), mostTitles + 2);
+  constexpr int maxTitles = 10;
+  const int rows = std::min(sheet.rowCount(), maxTitles + 2);
   // A single known word may be a title or a name; two are headings.
-  for (int row = 0; row < std::min(rows, mostTitles + 1); ++row)
+  for (int row = 0; row < std::min(rows, maxTitles + 1); ++row)
     if (knownHeadingsIn(sheet, row) >= 2) return row;
   if (rows > 0 && knownHeadingsIn(sheet, 0) > 0) return 0;
   return headingRowByContent(sheet, rows);

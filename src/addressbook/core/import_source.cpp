@@ -60,7 +60,7 @@ struct ImportSource::Opening {
       format = detectFormat(path, limits, cancel);
       text = readDelimited(path, format, limits, cancel, previewRowsAndHeading);
       problem = text.problem;
-      // The file only consists of a byte order mark.
+      // The file contains only a byte order mark.
       if (problem.isEmpty() && text.sheet.rowCount() == 0) problem = ImportSource::tr("The file is empty.");
     }
     if (cancel.isRaised()) problem = ImportSource::tr("The reading was cancelled.");

@@ -31,13 +31,13 @@ namespace {
 
 // Quotes the name. A long one is shortened to the part around the character at index `place`.
 QString quoted(const QString& name, qsizetype place) {
-  constexpr qsizetype longest = 40;
+  constexpr qsizetype maxLength = 40;
   const QString dots = u"..."_s;
   const qsizetype start =
-      std::clamp<qsizetype>(place - longest / 2, 0, std::max<qsizetype>(0, name.size() - longest));
-  QString shown = name.mid(start, longest);
+      std::clamp<qsizetype>(place - maxLength / 2, 0, std::max<qsizetype>(0, name.size() - maxLength));
+  QString shown = name.mid(start, maxLength);
   if (start > 0) shown.prepend(dots);
-  if (start + longest < name.size()) shown.append(dots);
+  if (start + maxLength < name.size()) shown.append(dots);
   return u'"' + shown + u'"';
 }
 

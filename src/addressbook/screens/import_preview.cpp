@@ -22,7 +22,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// A file may have thousands of columns, but a contact has only fourteen fields.
+// A file may have up to 1,000 columns, but there are only 15 fields to assign.
 constexpr int maxColumns = 60;
 constexpr int resultColumn = 0;
 constexpr int firstFileColumn = 1;
@@ -48,7 +48,7 @@ QTableWidgetItem* resultItem(const ImportRow& row) {
   return item;
 }
 
-QString columnHeading(const Sheet& sheet, int column, std::optional<int> headingRow) {
+QString fileColumnHeading(const Sheet& sheet, int column, std::optional<int> headingRow) {
   const QString heading =
       headingRow ? sheet.cell(*headingRow, column).toString().simplified().left(maxCellLength) : QString();
   return heading.isEmpty() ? ImportPreview::tr("Column %1").arg(column + 1) : heading;
@@ -91,7 +91,8 @@ void ImportPreview::show(const Sheet& sheet, const ImportPlan& plan) {
   table_->setColumnCount(columns == 0 ? 0 : firstFileColumn + columns);
   table_->setRowCount(columns == 0 ? 0 : static_cast<int>(rows_.size()));
   QStringList headings = {tr("Contact")};
-  for (int column = 0; column < columns; ++column) headings << columnHeading(sheet, column, plan.headingRow);
+  for (int column = 0; column < columns; ++column)
+    headings << fileColumnHeading(sheet, column, plan.headingRow);
   table_->setHorizontalHeaderLabels(headings);
   for (int column = 0; column < columns; ++column)
     addChoice(column, plan.columns[static_cast<std::size_t>(column)]);

@@ -39,15 +39,15 @@ QStringList CImportSummaryDlg::rowTexts() const {
   for (const ImportOutcome::RowNote& refused : outcome_.refused)
     texts << tr("Row %1: %2").arg(refused.row + 1).arg(refused.text);
   for (const ImportOutcome::RowNote& remark : outcome_.remarks)
-    texts << tr("Row %1 was imported partially: %2").arg(remark.row + 1).arg(remark.text);
+    texts << tr("Row %1 was imported in part: %2").arg(remark.row + 1).arg(remark.text);
   return texts;
 }
 
 void CImportSummaryDlg::addRows(QVBoxLayout& layout) {
   constexpr qsizetype maxRows = 1000;
   const QString caption = outcome_.remarks.empty()   ? tr("&Refused rows:")
-                          : outcome_.refused.empty() ? tr("&Rows imported partially:")
-                                                     : tr("&Rows refused or imported partially:");
+                          : outcome_.refused.empty() ? tr("&Rows imported in part:")
+                                                     : tr("&Rows refused or imported in part:");
   auto* list = new QListWidget(this);
   list->setObjectName(u"refusedList"_s);
   list->setAccessibleName(QString(caption).remove(u'&'));

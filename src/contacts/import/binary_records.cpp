@@ -36,8 +36,8 @@ class CompoundFile {
   [[nodiscard]] QByteArray read(QStringView name) const {
     const std::optional<Entry> entry = findEntry(name);
     if (!entry) return {};
-    const quint32 smallestLarge = numberAt<quint32>(file_, 56);
-    return (entry->size < smallestLarge ? readSmallChain(entry->start) : readChain(entry->start))
+    const quint32 minLargeSize = numberAt<quint32>(file_, 56);
+    return (entry->size < minLargeSize ? readSmallChain(entry->start) : readChain(entry->start))
         .left(entry->size);
   }
 
@@ -49,8 +49,8 @@ class CompoundFile {
 
   /// Sizes are stored as powers of two.
   [[nodiscard]] qsizetype sizeAt(qsizetype offset) const {
-    constexpr int largestPower = 16;
-    return qsizetype{1} << std::min<int>(numberAt<quint16>(file_, offset), largestPower);
+    constexpr int maxPower = 16;
+    return qsizetype{1} << std::min<int>(numberAt<quint16>(file_, offset), maxPower);
   }
 
   // The first sectors of the table are listed in the header, the others in a separate chain of sectors.
@@ -66,9 +66,9 @@ class CompoundFile {
       next = numberAt<quint32>(list, sectorSize_ - 4);
     }
     // The table could exceed the file if a sector is listed twice.
-    const auto mostSectors = static_cast<std::size_t>(file_.size() / sectorSize_);
+    const auto maxSectors = static_cast<std::size_t>(file_.size() / sectorSize_);
     for (const quint32 number : tableSectors)
-      if (number <= lastNumber && table_.size() <= mostSectors) appendNumbers(sector(number), table_);
+      if (number <= lastNumber && table_.size() <= maxSectors) appendNumbers(sector(number), table_);
   }
 
   [[nodiscard]] QByteArrayView sector(quint32 number) const {

@@ -14,8 +14,6 @@
 
 namespace parlexo {
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
 class Workbook {

@@ -65,13 +65,13 @@ QString dateText(double serial, bool since1904) {
 }
 
 bool isPossiblePhoneNumber(QStringView cell) {
-  constexpr qsizetype fewestDigits = 6;
+  constexpr qsizetype minDigits = 6;
   qsizetype digits = 0;
   for (const QChar c : cell) {
     if (c.isLetter() || c == u',' || c == u';' || c == u'|' || c == u'\t') return false;
     if (c.isDigit()) ++digits;
   }
-  return digits >= fewestDigits;
+  return digits >= minDigits;
 }
 
 }  // namespace parlexo

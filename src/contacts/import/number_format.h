@@ -9,8 +9,8 @@ namespace parlexo {
 /// Formats a number as a user would type it: whole numbers with all digits and without an exponent.
 [[nodiscard]] QString numberText(double value);
 
-/// Likewise for a number in a workbook's XML. Returns any number of plain digits, and text that is not a
-/// number, unchanged.
+/// Likewise for a number in a workbook's XML. Text that consists of digits only, however many, or is not a
+/// number is returned unchanged.
 [[nodiscard]] QString numberText(QStringView written);
 
 /// Returns whether a workbook's number format, such as "dd/mm/yyyy", displays numbers as dates or times.

@@ -24,7 +24,7 @@ int repeatCount(const WorkbookXml& xml, QStringView name) {
   return std::max(1, odsAttribute(xml, name).toInt());
 }
 
-/// Adds without overflow; positions are far beyond the last cell of any sheet then.
+/// Adds `count` to `position`. Both are limited to half the range of int, so the sum can't overflow.
 void advance(int& position, int count) {
   position = std::min(position, std::numeric_limits<int>::max() / 2);
   position += std::min(count, std::numeric_limits<int>::max() / 2);
@@ -32,12 +32,12 @@ void advance(int& position, int count) {
 
 /// Returns the text of the current paragraph or span.
 QString paragraphText(WorkbookXml& xml) {
-  constexpr int longestBlank = 1000;
+  constexpr int maxSpaces = 1000;
   QString text;
   while (!xml.atEnd() && xml.readNext() != WorkbookXml::EndElement) {
     if (xml.isCharacters()) text += xml.text();
     if (!xml.isStartElement()) continue;
-    if (xml.name() == u"s") text += QString(std::min(repeatCount(xml, u"c"), longestBlank), u' ');
+    if (xml.name() == u"s") text += QString(std::min(repeatCount(xml, u"c"), maxSpaces), u' ');
     if (xml.name() == u"tab" || xml.name() == u"line-break") text += u' ';
     if (xml.name() == u"annotation" || xml.name() == u"note")
       xml.skipCurrentElement();
@@ -87,11 +87,11 @@ bool OdsReader::read() {
 
 // Table styles precede the tables.
 void OdsReader::readStyle(WorkbookXml& xml) {
-  constexpr std::size_t mostStyles = 10'000;
+  constexpr std::size_t maxStyles = 10'000;
   const QString name = odsAttribute(xml, u"name").toString();
   while (xml.readNextStartElement()) {
     if (xml.name() == u"table-properties" && odsAttribute(xml, u"display") == u"false" &&
-        hiddenStyles_.size() < mostStyles)
+        hiddenStyles_.size() < maxStyles)
       hiddenStyles_.insert(name);
     xml.skipCurrentElement();
   }

@@ -17,8 +17,8 @@ namespace {
 
 // Beyond any limit, and safe from overflow.
 constexpr int farAway = 100'000'000;
-// The maximum of relations and sheets; a workbook has a few dozen.
-constexpr std::size_t mostEntries = 10'000;
+// The maximum number of relations, and of sheets; a workbook has a few dozen.
+constexpr std::size_t maxEntries = 10'000;
 
 QString partFolder(const QString& part) {
   return part.left(part.lastIndexOf(u'/') + 1);
@@ -85,14 +85,14 @@ bool XlsxReader::read() {
   return true;
 }
 
-std::vector<XlsxReader::Relation> XlsxReader::readRelations(const QString& ofPart) {
-  const QString folder = partFolder(ofPart);
+std::vector<XlsxReader::Relation> XlsxReader::readRelations(const QString& partName) {
+  const QString folder = partFolder(partName);
   const std::unique_ptr<QIODevice> part =
-      archive_.openPart(folder + u"_rels/"_s + ofPart.sliced(folder.size()) + u".rels"_s);
+      archive_.openPart(folder + u"_rels/"_s + partName.sliced(folder.size()) + u".rels"_s);
   std::vector<Relation> relations;
   if (!part) return relations;
   WorkbookXml xml(part.get());
-  while (!xml.atEnd() && relations.size() < mostEntries) {
+  while (!xml.atEnd() && relations.size() < maxEntries) {
     if (!xml.readNextStartElement() || xml.name() != u"Relationship") continue;
     const QString target = attribute(xml, u"Target");
     const QString type = attribute(xml, u"Type");
@@ -106,7 +106,7 @@ bool XlsxReader::readWorkbook(const QString& partName) {
   const std::unique_ptr<QIODevice> part = archive_.openPart(partName);
   if (!part) return false;
   WorkbookXml xml(part.get());
-  while (!xml.atEnd() && sheets_.size() < mostEntries) {
+  while (!xml.atEnd() && sheets_.size() < maxEntries) {
     if (xml.readNext() != WorkbookXml::StartElement) continue;
     const QString state = attribute(xml, u"state");
     if (xml.name() == u"sheet")

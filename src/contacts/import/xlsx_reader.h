@@ -39,7 +39,7 @@ class XlsxReader {
     int column = 0;
   };
 
-  [[nodiscard]] std::vector<Relation> readRelations(const QString& ofPart);
+  [[nodiscard]] std::vector<Relation> readRelations(const QString& partName);
   [[nodiscard]] bool readWorkbook(const QString& part);
   [[nodiscard]] bool readTexts(const QString& part);
   [[nodiscard]] bool readStyles(const QString& part);

@@ -31,12 +31,12 @@ class ZipArchive::Part final : public QIODevice {
  private:
   // Enough for a cell with every character escaped. The attributes of a longer tag, each compared with all
   // others, could occupy the XML reader for hours.
-  static constexpr qsizetype longestStretch = 1 << 18;
+  static constexpr qsizetype maxStretch = 1 << 18;
 
   [[nodiscard]] bool accepts(QByteArrayView bytes) {
     for (const char c : bytes) {
       stretch_ = c == '<' ? 0 : stretch_ + 1;
-      if (stretch_ > longestStretch) return false;
+      if (stretch_ > maxStretch) return false;
     }
     return true;
   }

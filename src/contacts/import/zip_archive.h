@@ -29,7 +29,7 @@ class ZipArchive {
   /// Opens a part for sequential reading. Returns null if it is missing or can't be unpacked, for example
   /// because it is encrypted. The part must not outlive the archive.
   [[nodiscard]] std::unique_ptr<QIODevice> openPart(const QString& name);
-  /// Whether the maximum unpacked size was exceeded; parts end early then.
+  /// Whether the maximum unpacked size was exceeded. In that case, parts end early.
   [[nodiscard]] bool isTooLarge() const { return left_ < 0; }
 
  private:

@@ -39,7 +39,7 @@ constexpr std::array groupNames = {"Customers",      "Family",    "Football: Und
 constexpr int faxOnlyEvery = 10;
 constexpr int faxEvery = 4;
 constexpr int personalMembers = 8;
-constexpr int largestSmallGroup = 200;
+constexpr int maxSmallGroup = 200;
 
 // The ranges that regulators reserve for fiction have a thousand ten-digit numbers each.
 constexpr int fictionNumbers = 1000;
@@ -100,7 +100,7 @@ ContactRecord sampleContact(int index) {
 QStringList sampleMembers(int group, const std::vector<ContactRecord>& contacts) {
   const int count = static_cast<int>(contacts.size());
   const int step = group == 0 ? 2 : group % 7 + 3;
-  const int limit = group == 0 ? count : largestSmallGroup;
+  const int limit = group == 0 ? count : maxSmallGroup;
   QStringList names;
   for (int i = group % 5; i < count && names.size() < limit; i += step)
     names.append(contacts[static_cast<std::size_t>(i)].name);
@@ -118,7 +118,7 @@ bool containsAddressBook(const QDir& folder) {
   return std::any_of(files.begin(), files.end(), [](const QFileInfo& file) { return file.size() > 0; });
 }
 
-// Writes the file at once. Writing a large address book record by record through the database takes hours.
+// Writes all records in one go. Writing a large address book through the database takes hours.
 QString writeFile(const QString& path, const QByteArray& records) {
   QFile file(path);
   if (file.open(QIODevice::WriteOnly) && file.write(records) == records.size() && file.flush()) return {};
@@ -160,8 +160,8 @@ std::vector<SampleGroup> sampleGroups(int count, const std::vector<ContactRecord
 
 QString writeSampleFolder(const QString& folder, int contactCount, int groupCount) {
   const QDir dir(folder);
-  if (!dir.mkpath(u"."_s)) return u"Can't make the folder %1"_s.arg(folder);
-  if (containsAddressBook(dir)) return u"%1 holds an address book already"_s.arg(folder);
+  if (!dir.mkpath(u"."_s)) return u"Can't create the folder %1"_s.arg(folder);
+  if (containsAddressBook(dir)) return u"%1 already contains an address book"_s.arg(folder);
   const std::vector<ContactRecord> contacts = sampleContacts(contactCount);
   const auto filePath = [&](const QString& name, const char* extension) {
     return dir.filePath(encodeGroupFileName(name, QLatin1String(extension)));
