@@ -151,7 +151,7 @@ TEST_F(ContactImportTest, reportsWhatARowLoses) {
   EXPECT_THAT(remarks, ElementsAre("The invalid e-mail address \"nobody\" is left out.",
                                    HasSubstr("longer than 60 characters and is left out"),
                                    "Extra 2 is cut to 40 characters."));
-  EXPECT_THAT(summaryText(outcome).toStdString(), HasSubstr("Imported partially: 3"));
+  EXPECT_THAT(summaryText(outcome).toStdString(), HasSubstr("Imported in part: 3"));
   EXPECT_EQ(describe("Ann"), "Ann,+61491570156,N,Y,,ann@example.com,old,,,,,") << "keeps its valid address";
   EXPECT_EQ(describe("Bob"), "Bob,,N,N,+61255501234,,,,,,,") << "a fax gets no SMS";
   EXPECT_EQ(

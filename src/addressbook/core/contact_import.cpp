@@ -212,7 +212,7 @@ QString summaryText(const ImportOutcome& outcome) {
              .arg(outcome.refused.size()) +
          (outcome.remarks.empty()
               ? QString()
-              : u'\n' + ImportOutcome::tr("Imported partially: %L1").arg(outcome.remarks.size())) +
+              : u'\n' + ImportOutcome::tr("Imported in part: %L1").arg(outcome.remarks.size())) +
          remainderText(outcome);
 }
 
