@@ -62,9 +62,9 @@ class LoopWatch {
 };
 
 /// The services of the program itself, with the progress box and the worker thread.
-class Desk : public GatewayRig {
+class Desk : public test::GatewayRig {
  public:
-  Desk() : GatewayRig(richAccount()) {
+  Desk() : test::GatewayRig(richAccount()) {
     // No number ends in 99: the simulator would let it fail.
     for (int number = 0; number < recipientTotal; ++number) {
       names << u"Name %1"_s.arg(number, 5, 10, QChar(u'0'));

@@ -1,21 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "addressbook/screens/contacts_page.h"
 
-#include <functional>
-#include <memory>
-#include <utility>
-
-#include <QAbstractButton>
-#include <QApplication>
-#include <QCheckBox>
-#include <QLabel>
-#include <QLineEdit>
 #include <QMenu>
 #include <QPlainTextEdit>
 #include <QScopeGuard>
-#include <QTest>
-#include <QTimer>
-#include <gmock/gmock.h>
 
 #include "addressbook/screens/add_contacts_menu.h"
 #include "addressbook/screens/check_list_view.h"
@@ -24,18 +12,17 @@
 #include "addressbook/screens/group_details_dlg.h"
 #include "addressbook/screens/select_contacts_dlg.h"
 #include "tests/addressbook/disk_book.h"
-#include "tests/support/column_cells.h"
 #include "tests/support/file_bytes.h"
+#include "tests/support/widgets.h"
 #include "ui/row_list_view.h"
 
-namespace parlexo {
+namespace parlexo::test {
 namespace {
 
 using Kind = ContactFolder::Kind;
 
-/// The page on the screen over an address book on disk, and a user's hands.
-class ContactsPage : public test::DiskBook {
- protected:
+/// The contacts page over an address book on disk.
+struct ContactsPage : DiskBook {
   ContactsPage() {
     for (const char* name : {"Ann", "anton", "Bob", "4 You"}) addContact(name);
     book_.saveContact({"Cid", {}, "N", "y", "+61255501234", {}, {"Perth", {}, {}, {}, {}, {}}});
@@ -43,27 +30,21 @@ class ContactsPage : public test::DiskBook {
     book_.createGroup("Team", {"Ann", "Cid"});
     page_ = std::make_unique<CContactsPage>(services());
     page_->resize(800, 400);
-    page_->show();
-    page_->activateWindow();
-    EXPECT_TRUE(QTest::qWaitForWindowActive(page_.get()));
+    showActive(*page_);
   }
 
   template <class Widget>
   [[nodiscard]] Widget& the(const char* name) const {
-    return *page_->findChild<Widget*>(QLatin1String(name));
+    return child<Widget>(*page_, name);
   }
   FolderTree& tree() { return the<FolderTree>("folderTree"); }
   RowListView& list() { return the<RowListView>("contactList"); }
 
   void choose(Kind kind, const QString& name = {}) { tree().select({kind, name}); }
-  void press(const char* button) { QTest::mouseClick(&the<QAbstractButton>(button), Qt::LeftButton); }
+  void press(const char* button) { click(*page_, button); }
+  QStringList shown() { return list().isVisible() ? columnCells(list(), 0) : QStringList("no list"); }
 
-  [[nodiscard]] static QStringList column(const QAbstractItemView& view, int number) {
-    return columnCells(*view.model(), number);
-  }
-  QStringList shown() { return list().isVisible() ? column(list(), 0) : QStringList("no list"); }
-
-  /// What the user does in the dialog that opens next.
+  /// Runs `act` on the dialog that opens next.
   template <class Dialog>
   void inDialog(std::function<void(Dialog&)> act) {
     ++planned_;
@@ -83,17 +64,10 @@ class ContactsPage : public test::DiskBook {
     });
     waiting->start(0);
   }
-  static void type(QWidget& dialog, const char* edit, const QString& text) {
-    dialog.findChild<QLineEdit*>(QLatin1String(edit))->setText(text);
-  }
-  static void click(QWidget& dialog, const char* button) {
-    QTest::mouseClick(dialog.findChild<QAbstractButton*>(QLatin1String(button)), Qt::LeftButton);
-  }
 
-  /// A key for a list that has the focus.
+  /// Presses a key in `widget`.
   void press(QWidget& widget, Qt::Key key) {
-    page_->activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(page_.get()));
+    showActive(*page_);
     widget.setFocus(Qt::MouseFocusReason);
     QTest::keyClick(&widget, key);
   }
@@ -123,9 +97,9 @@ TEST_F(ContactsPage, foldersShowTheirContactsOrTheirInformation) {
   }
   EXPECT_TRUE(the<QPlainTextEdit>("informationPanel").toPlainText().contains("READONLY"));
   choose(Kind::Group, "Team");
-  EXPECT_EQ(column(list(), 2), QStringList({"yes", "no"}));
-  EXPECT_EQ(column(list(), 3), QStringList({"no", "yes"}));
-  EXPECT_EQ(column(list(), 4), QStringList({"", "+61255501234"}));
+  EXPECT_EQ(columnCells(list(), 2), QStringList({"yes", "no"}));
+  EXPECT_EQ(columnCells(list(), 3), QStringList({"no", "yes"}));
+  EXPECT_EQ(columnCells(list(), 4), QStringList({"", "+61255501234"}));
 }
 
 TEST_F(ContactsPage, searchFindsInAllContactsAndAFolderEndsIt) {
@@ -157,13 +131,13 @@ TEST_F(ContactsPage, newContactGoesIntoTheSelectedGroupOnly) {
   choose(Kind::Group, "Team");
   inDialog<CContactDetailsDlg>([&](CContactDetailsDlg& dialog) {
     type(dialog, "nameEdit", QString::fromUtf8("  Bernd \u674E "));
-    EXPECT_EQ(dialog.findChild<QLineEdit*>("nameEdit")->text(), "  Bernd ? ");
+    EXPECT_EQ(child<QLineEdit>(dialog, "nameEdit").text(), "  Bernd ? ");
     type(dialog, "phoneEdit", "0491");
     click(dialog, "okButton");
     EXPECT_TRUE(dialog.isVisible());
     EXPECT_EQ(dialog.focusWidget()->objectName(), "phoneEdit");
     type(dialog, "phoneEdit", "+61491570159");
-    dialog.findChild<QCheckBox*>("smsBox")->setChecked(true);
+    child<QCheckBox>(dialog, "smsBox").setChecked(true);
     click(dialog, "okButton");
   });
   press("newContactButton");
@@ -178,7 +152,7 @@ TEST_F(ContactsPage, newContactGoesIntoTheSelectedGroupOnly) {
 TEST_F(ContactsPage, cancelledContactStaysAsItWasAfterAFailedOk) {
   list().selectNames({"Bob"});
   inDialog<CContactDetailsDlg>([&](CContactDetailsDlg& dialog) {
-    EXPECT_TRUE(dialog.findChild<QLineEdit*>("nameEdit")->isReadOnly());
+    EXPECT_TRUE(child<QLineEdit>(dialog, "nameEdit").isReadOnly());
     type(dialog, "phoneEdit", "nonsense");
     click(dialog, "okButton");
     click(dialog, "cancelButton");
@@ -190,7 +164,7 @@ TEST_F(ContactsPage, cancelledContactStaysAsItWasAfterAFailedOk) {
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
   });
   press(list(), Qt::Key_Return);
-  EXPECT_EQ(column(list(), 1), QStringList({"+61491570156", "+61491570158"}));
+  EXPECT_EQ(columnCells(list(), 1), QStringList({"+61491570156", "+61491570158"}));
   EXPECT_EQ(list().selectedNames(), QStringList("Bob"));
 }
 
@@ -206,14 +180,14 @@ TEST_F(ContactsPage, groupIsCreatedChangedAndDeleted) {
     type(dialog, "groupNameEdit", "Choir-1");
     click(dialog, "okButton");
     EXPECT_TRUE(dialog.isVisible()) << "the name would not stay";
-    EXPECT_EQ(dialog.findChild<QLabel*>("groupNameWarning")->text(),
+    EXPECT_EQ(child<QLabel>(dialog, "groupNameWarning").text(),
               "After a restart this name would read \"Choir%\".");
-    auto& suggested = *dialog.findChild<QAbstractButton*>("useSuggestedNameLink");
+    auto& suggested = child<QAbstractButton>(dialog, "useSuggestedNameLink");
     EXPECT_EQ(suggested.text(), "Use \"Choir 1\"");
     QTest::keyClick(&suggested, Qt::Key_Space);
-    EXPECT_EQ(dialog.findChild<QLineEdit*>("groupNameEdit")->text(), "Choir 1");
+    EXPECT_EQ(child<QLineEdit>(dialog, "groupNameEdit").text(), "Choir 1");
     inDialog<CSelectContactsDlg>([](CSelectContactsDlg& selection) {
-      auto& contacts = *selection.findChild<CheckListView*>("contactList");
+      auto& contacts = child<CheckListView>(selection, "contactList");
       contacts.model()->setData(contacts.model()->index(1, 0), Qt::Checked, Qt::CheckStateRole);
       click(selection, "selectButton");
     });
@@ -225,7 +199,7 @@ TEST_F(ContactsPage, groupIsCreatedChangedAndDeleted) {
     });
     click(dialog, "newContactButton");
     EXPECT_FALSE(book_.findContact("Dan")) << "nothing is written before OK";
-    EXPECT_EQ(column(*dialog.findChild<RowListView*>("memberList"), 0), QStringList({"Ann", "Dan"}));
+    EXPECT_EQ(columnCells(child<RowListView>(dialog, "memberList"), 0), QStringList({"Ann", "Dan"}));
     click(dialog, "okButton");
   });
   press("newGroupButton");
@@ -235,8 +209,8 @@ TEST_F(ContactsPage, groupIsCreatedChangedAndDeleted) {
 
   notifier_.answers = {MessageResult::Yes, MessageResult::Yes};
   inDialog<CGroupDetailsDlg>([&](CGroupDetailsDlg& dialog) {
-    EXPECT_TRUE(dialog.findChild<QLineEdit*>("groupNameEdit")->isReadOnly());
-    auto& members = *dialog.findChild<RowListView*>("memberList");
+    EXPECT_TRUE(child<QLineEdit>(dialog, "groupNameEdit").isReadOnly());
+    auto& members = child<RowListView>(dialog, "memberList");
     members.selectNames({"Ann"});
     click(dialog, "removeButton");
     members.selectNames({"Dan"});
@@ -252,7 +226,7 @@ TEST_F(ContactsPage, groupIsCreatedChangedAndDeleted) {
   EXPECT_EQ(notifier_.takeLines(),
             QStringList("36 Are you sure you want to remove this contact from the group?"));
   EXPECT_EQ(shown(), QStringList("Dan"));
-  EXPECT_EQ(column(list(), 4), QStringList("+2"));
+  EXPECT_EQ(columnCells(list(), 4), QStringList("+2"));
   list().selectNames({"Dan"});
   press(tree(), Qt::Key_Delete);
   EXPECT_FALSE(book_.findGroup("Choir 1")) << "in the tree the key means the folder";
@@ -279,7 +253,7 @@ TEST_F(ContactsPage, contactsAndGroupsWithoutNameAreSeenRenamedAndDeleted) {
   page_->refresh();
   list().clearSelection();
   inDialog<CGroupDetailsDlg>([this](CGroupDetailsDlg& dialog) {
-    auto& members = *dialog.findChild<RowListView*>("memberList");
+    auto& members = child<RowListView>(dialog, "memberList");
     members.selectNames(QStringList(QString()));
     inDialog<CContactDetailsDlg>([](CContactDetailsDlg& contact) {
       type(contact, "nameEdit", "Abe");
@@ -347,7 +321,7 @@ TEST_F(ContactsPage, exportsWhatIsShownOrAllContacts) {
   EXPECT_EQ(notifier_.takeLines().size(), 1);
 }
 
-TEST_F(ContactsPage, refreshAndReturningReadTheBookAnewAndKeepTheSelection) {
+TEST_F(ContactsPage, refreshAndShowReloadTheBookAndKeepTheSelection) {
   list().selectNames({"Bob"});
   addContact("Abe");
   book_.addMember("My Personal Contacts", "Abe");
@@ -366,4 +340,4 @@ TEST_F(ContactsPage, refreshAndReturningReadTheBookAnewAndKeepTheSelection) {
 }
 
 }  // namespace
-}  // namespace parlexo
+}  // namespace parlexo::test

@@ -1,12 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Entering contacts and groups, and what is written of them.
 
-#include <optional>
-
-#include <QDir>
 #include <QRegularExpression>
-#include <QTemporaryDir>
-#include <gmock/gmock.h>
 
 #include "addressbook/core/contact_export.h"
 #include "addressbook/core/contact_form.h"
@@ -18,12 +12,11 @@
 #include "contacts/import/delimited_file.h"
 #include "tests/addressbook/disk_book.h"
 #include "tests/addressbook/sample_book.h"
+#include "tests/support/test.h"
 
-namespace parlexo {
+namespace parlexo::test {
 namespace {
 
-using test::FivePeople;
-using test::SampleBook;
 using Kind = ContactFolder::Kind;
 
 ContactRecord typedContact(const QString& name, const QString& phone, const QString& fax = {},
@@ -39,10 +32,7 @@ TEST(ContactForm, namesTheFirstProblemInItsOrder) {
   const QString badPhone =
       "Invalid Phone Number. Ensure that the phone number is in an International format.";
   const QString digits30(30, u'1');
-  const struct {
-    ContactRecord typed;
-    QString problem;
-  } cases[] = {
+  const Cases<ContactRecord, QString> cases = {
       {typedContact("  ", "x", "x", "x"), "No contact name was given."},
       {typedContact("Bob", "x", "x", "x"), "Invalid Email Address"},
       {typedContact("Bob", "x", "x"), badPhone},
@@ -69,7 +59,7 @@ TEST(ContactForm, namesTheFirstProblemInItsOrder) {
   }
 }
 
-TEST(ContactForm, keepsTrimmedTextsOfBadContactsAndFlagsOfGoodOnes) {
+TEST(ContactForm, trimsInputAndSetsTheFlagsOfValidContacts) {
   ContactForm form = newContactForm();
   ContactRecord typed{"  Bob ", " 12 ", "Y", "Y", " +3\t", " b@c.de ", {" x ", "", "", "", "", " y"}};
   EXPECT_EQ(form.take(typed)->field, ContactProblem::Field::Phone);
@@ -95,7 +85,7 @@ TEST(ContactForm, nameOfAnExistingContactStaysAndIsNoDuplicate) {
   EXPECT_EQ(form.contact().phone, "+2");
 }
 
-TEST(ContactText, holdsOnlyWhatTheCodePageHas) {
+TEST(ContactText, hasOnlyCharactersOfTheCodePage) {
   EXPECT_EQ(asContactText(QString::fromUtf8("Zoë € 李\t\U0001F600\n") + QChar(0) + "x"),
             QString::fromUtf8("Zoë € ??x"));
 }
@@ -107,22 +97,19 @@ TEST(ContactIndex, everyContactIsInOneReadOnlyFolder) {
   sample.addGroup("Few", {"Zed", "ann", "Bob"});
   ContactIndex index(sample.book());
   index.read();
-  EXPECT_EQ(test::namesOf(index.contactsIn({Kind::Letter, "A"})), QStringList("ann"));
-  EXPECT_EQ(test::namesOf(index.contactsIn({Kind::Letter, "B"})), QStringList({"bea", "Bob"}));
-  EXPECT_EQ(test::namesOf(index.contactsIn({Kind::Letter, "C"})), QStringList());
-  EXPECT_EQ(test::namesOf(index.contactsIn({Kind::Other, {}})),
+  EXPECT_EQ(namesOf(index.contactsIn({Kind::Letter, "A"})), QStringList("ann"));
+  EXPECT_EQ(namesOf(index.contactsIn({Kind::Letter, "B"})), QStringList({"bea", "Bob"}));
+  EXPECT_EQ(namesOf(index.contactsIn({Kind::Letter, "C"})), QStringList());
+  EXPECT_EQ(namesOf(index.contactsIn({Kind::Other, {}})),
             QStringList({" Ann", "+Plus", "4 You", QString::fromUtf8("Álva"), QString::fromUtf8("øre")}));
-  EXPECT_EQ(test::namesOf(index.contactsIn({Kind::Group, "Few"})), QStringList({"ann", "Bob", "Zed"}));
-  EXPECT_EQ(test::namesOf(index.contactsIn({Kind::Group, "None"})), QStringList());
+  EXPECT_EQ(namesOf(index.contactsIn({Kind::Group, "Few"})), QStringList({"ann", "Bob", "Zed"}));
+  EXPECT_EQ(namesOf(index.contactsIn({Kind::Group, "None"})), QStringList());
   EXPECT_EQ(index.contactsIn({Kind::AllContacts, {}}).size(), 9U);
 }
 
 TEST(GroupDraft, refusesNamesThatAreBlankOrTaken) {
   FivePeople sample;
-  const struct {
-    const char* typed;
-    const char* problem;
-  } cases[] = {
+  const Cases<const char*, const char*> cases = {
       {"  ", "Group name cannot be blank"},
       {"Team", "A group with this name already exists."},
       {" tEAM ", "A group with this name already exists."},
@@ -141,11 +128,7 @@ TEST(GroupDraft, refusesNamesThatAreBlankOrTaken) {
 
 TEST(GroupDraft, suggestsNamesThatReadBackAsTyped) {
   const SampleBook sample;
-  const struct {
-    const char* typed;
-    const char* afterRestart;
-    const char* suggestion;
-  } cases[] = {
+  const Cases<const char*, const char*, const char*> cases = {
       {" Under-12s ", "Under%2s", "Under 12s"},
       {"Team-A", "Team<", "Team A"},
       {"x--9-B", "x-.>", "x 9 B"},
@@ -169,7 +152,7 @@ TEST(GroupDraft, changesAreTheDifferenceAndTheBookStaysAsItIs) {
   FivePeople sample;
   const quint64 revision = sample.book().revision();
   GroupDraft draft(sample.book(), "Team");
-  EXPECT_EQ(test::namesOf(draft.members()), QStringList({"Ann", "Cid", "eva"}));
+  EXPECT_EQ(namesOf(draft.members()), QStringList({"Ann", "Cid", "eva"}));
   draft.remove({"Cid"});
   draft.setSelection(ContactSelection({sample.book().findContact("eva"), sample.book().findContact("bob")}));
   draft.put(typedContact("New", "+1"));
@@ -178,7 +161,7 @@ TEST(GroupDraft, changesAreTheDifferenceAndTheBookStaysAsItIs) {
   EXPECT_TRUE(draft.isContactNameTaken("New"));
   draft.remove({"Passing"});
   draft.setSelection(draft.selection());
-  EXPECT_EQ(test::namesOf(draft.members()), QStringList({"bob", "eva", "New"}));
+  EXPECT_EQ(namesOf(draft.members()), QStringList({"bob", "eva", "New"}));
   EXPECT_EQ(draft.members()[1]->phone, "+3") << "the changed values are shown";
   const GroupChanges changes = draft.changes();
   EXPECT_FALSE(changes.isNew);
@@ -214,9 +197,7 @@ TEST(ContactExport, isReadBackByTheImportUnchanged) {
   EXPECT_EQ(exportName({Kind::Group, "Parents/Carers: A?"}), "Parents_Carers_ A_");
 }
 
-/// The flow over a contact store on disk.
-class ContactsFlowTest : public test::DiskBook {
- protected:
+struct ContactsFlowTest : DiskBook {
   ContactsFlowTest() {
     addContact("Ann");
     addContact("Bob");
@@ -229,7 +210,7 @@ class ContactsFlowTest : public test::DiskBook {
   const ContactFolder team_{Kind::Group, "Team"};
 };
 
-TEST_F(ContactsFlowTest, tellsWhichFoldersTakeWhat) {
+TEST_F(ContactsFlowTest, rejectsActionsThatAFolderDoesNotSupport) {
   const ContactFolder others[] = {
       {Kind::Root, {}}, {Kind::AllContacts, {}}, {Kind::Letter, "A"}, {Kind::Other, {}}};
   for (const ContactFolder& folder : others) {
@@ -287,7 +268,7 @@ TEST_F(ContactsFlowTest, writesNewContactsGroupsAndDifferences) {
   EXPECT_TRUE(notifier_.takeLines().isEmpty());
 }
 
-TEST_F(ContactsFlowTest, memoryFollowsTheUserAndEachFailureIsToldOnceWhenNothingCanBeWritten) {
+TEST_F(ContactsFlowTest, failedWritesChangeMemoryAndAreReportedOnce) {
   loseFolder();
   const auto sentences = [this] {
     QStringList lines = notifier_.takeLines();
@@ -308,4 +289,4 @@ TEST_F(ContactsFlowTest, memoryFollowsTheUserAndEachFailureIsToldOnceWhenNothing
 }
 
 }  // namespace
-}  // namespace parlexo
+}  // namespace parlexo::test

@@ -1,10 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <algorithm>
 #include <iterator>
-#include <vector>
-
-#include <QStringList>
-#include <gmock/gmock.h>
 
 #include "addressbook/core/contact_selection.h"
 #include "addressbook/core/extra_selection.h"
@@ -12,13 +8,10 @@
 #include "addressbook/core/text_search.h"
 #include "contacts/group_file.h"
 #include "tests/addressbook/sample_book.h"
+#include "tests/support/test.h"
 
-namespace parlexo {
+namespace parlexo::test {
 namespace {
-
-using test::FivePeople;
-using test::namesOf;
-using test::SampleBook;
 
 QStringList listedNames(const SelectionLists& lists) {
   QStringList names;
@@ -40,10 +33,7 @@ ContactSelection pick(const SampleBook& sample, const QStringList& names) {
 }
 
 TEST(SelectionLists, modeDecidesWhoIsListed) {
-  const struct {
-    const char* mode;
-    QStringList listed;
-  } cases[] = {
+  const Cases<const char*, QStringList> cases = {
       {"All", {"Ann", "bob", "Cid", "Dan", "eva"}},
       {"SMS", {"Ann", "bob"}},
       {"Media", {"Ann", "eva"}},
@@ -85,14 +75,14 @@ TEST(SelectionLists, groupTicksAndUnticksItsEligibleMembersOnly) {
   EXPECT_EQ(lists.tickedCount(), 2) << "contacts, not groups";
   EXPECT_EQ(changed.first, 0);
   EXPECT_EQ(changed.last, 1);
-  // The group's new state counts, also for members that were ticked by themselves or by another group.
+  // Unticking a group also unticks members that were ticked otherwise.
   lists.setGroupTicked(rowOfGroup(lists, "all"), true);
   lists.setGroupTicked(team, false);
   EXPECT_TRUE(lists.tickedContacts().isEmpty());
   EXPECT_EQ(lists.tickedCount(), 0);
 }
 
-TEST(ContactSelection, keepsTheListsOrderAndEachNameOnce) {
+TEST(ContactSelection, isOrderedAndHasEachNameOnce) {
   FivePeople sample;
   sample.addContact("BOB");
   const ContactSelection selection = pick(sample, {"eva", "bob", "Dan", "BOB", "Ann", "eva"});
@@ -131,11 +121,7 @@ TEST(ExtraSelection, listsEveryNonEmptyValueOnceAndSorted) {
 }
 
 TEST(ExtraSelection, fieldsMustAllMatchAndValuesOfAFieldAreAlternatives) {
-  const struct {
-    const char* what;
-    ExtraChoice choice;
-    QStringList names;
-  } cases[] = {
+  const Cases<const char*, ExtraChoice, QStringList> cases = {
       {"two values of a field", {{{"Sydney", "Perth"}, {}, {}, {}, {}, {}}}, {"Ann", "Bob", "Cid"}},
       {"two fields", {{{"Sydney"}, {"Sales"}, {}, {}, {}, {}}}, {"Ann"}},
       {"one late field alone", {{{}, {}, {}, {"VIP"}, {}, {}}}, {"Ann", "Bob"}},
@@ -148,7 +134,7 @@ TEST(ExtraSelection, fieldsMustAllMatchAndValuesOfAFieldAreAlternatives) {
 
 using Found = std::vector<int>;
 
-/// Texts of several fields each; the second is empty.
+/// Four texts of several fields; the second is empty.
 TextSearch sampleSearch() {
   TextSearch search;
   search.reserve(4);
@@ -162,10 +148,7 @@ TextSearch sampleSearch() {
 }
 
 TEST(TextSearch, findsTextsThatHoldEveryWord) {
-  const struct {
-    QString typed;
-    Found found;
-  } cases[] = {
+  const Cases<QString, Found> cases = {
       {"", {0, 1, 2, 3}},
       {"ANN", {0, 2}},
       {"lee ann", {0, 2}},
@@ -186,4 +169,4 @@ TEST(TextSearch, findsTextsThatHoldEveryWord) {
 }
 
 }  // namespace
-}  // namespace parlexo
+}  // namespace parlexo::test

@@ -1,21 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/main_dlg.h"
 
-#include <functional>
-#include <utility>
-
-#include <QComboBox>
-#include <QLabel>
-#include <QLineEdit>
-#include <QListView>
 #include <QScreen>
-#include <QSignalSpy>
 #include <QTabWidget>
-#include <QTemporaryDir>
-#include <QTest>
-#include <QTimer>
-#include <QVBoxLayout>
-#include <gtest/gtest.h>
 
 #include "account/screens/news_dlg.h"
 #include "app/about_dlg.h"
@@ -28,15 +15,14 @@
 #include "connection/client/background_queue.h"
 #include "messaging/screens/sms_dlg.h"
 #include "simulator/simulator.h"
+#include "tests/support/widgets.h"
 #include "ui/front_window.h"
 #include "ui/hyperlink_label.h"
 #include "ui/picture_button.h"
 #include "ui/waiting/progress_box.h"
 
-namespace parlexo {
+namespace parlexo::test {
 namespace {
-
-using namespace Qt::StringLiterals;
 
 QWidget* pageWithButton(const QString& text) {
   auto* page = new QWidget;
@@ -44,12 +30,8 @@ QWidget* pageWithButton(const QString& text) {
   return page;
 }
 
-class MainDlgTest : public testing::Test {
- protected:
-  void SetUp() override {
-    window_.show();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&window_));
-  }
+struct MainDlgTest : testing::Test {
+  void SetUp() override { showActive(window_); }
 
   void altE() {
     QTest::keyClick(window_.focusWidget() ? window_.focusWidget() : &window_, Qt::Key_E, Qt::AltModifier);
@@ -59,7 +41,7 @@ class MainDlgTest : public testing::Test {
                     {u"Status"_s, [] { return pageWithButton(u"Get &Status"_s); }}}};
 };
 
-TEST_F(MainDlgTest, ctrlTabAndCtrlDigitsTurnTheTabsFromAnywhere) {
+TEST_F(MainDlgTest, ctrlTabAndCtrlDigitsSwitchTabs) {
   const auto* tabs = window_.findChild<QTabWidget*>();
   auto* exit = window_.findChild<QWidget*>(u"exit"_s);
   exit->setFocus();
@@ -84,8 +66,7 @@ TEST_F(MainDlgTest, f5RefreshesTheBalanceAndThePageInFront) {
   auto* behind = new Page;
   CMainDlg window({{u"A"_s, [front] { return front; }}, {u"B"_s, [behind] { return behind; }}});
   QSignalSpy requests(&window, &CMainDlg::refreshRequested);
-  window.show();
-  ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+  showActive(window);
   QTest::keyClick(&window, Qt::Key_F5);
   EXPECT_EQ(requests.count(), 1);
   EXPECT_EQ(front->refreshes, 1);
@@ -124,27 +105,6 @@ TEST_F(MainDlgTest, aPageLargerThanTheWindowCanStillBeReached) {
   for (int i = 0; i < 2; ++i) QTest::keyClick(window.focusWidget(), Qt::Key_Tab);
   EXPECT_TRUE(far->hasFocus());
   EXPECT_FALSE(far->visibleRegion().isEmpty());
-}
-
-TEST_F(MainDlgTest, aPageThatCanShrinkDoesNotScroll) {
-  auto* page = new QWidget;
-  auto* column = new QVBoxLayout(page);
-  auto* words = new QLabel(QString(u"words "_s).repeated(20), page);
-  words->setWordWrap(true);
-  auto* list = new QListView(page);
-  column->addWidget(words);
-  column->addWidget(list);
-  CMainDlg window({{u"A"_s, [page] { return page; }}});
-  window.show();
-  ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
-  window.resize(600, window.height() - page->height() + page->minimumSizeHint().height() + 30);
-  QCoreApplication::processEvents();
-  EXPECT_LT(list->height(), list->sizeHint().height());
-  EXPECT_EQ(page->visibleRegion().boundingRect(), page->rect());
-  window.resize(300, 200);
-  QCoreApplication::processEvents();
-  EXPECT_LT(page->visibleRegion().boundingRect().height(), page->height());
-  EXPECT_GE(words->height(), words->heightForWidth(words->width())) << "nothing is cut off";
 }
 
 TEST_F(MainDlgTest, onlyExitCtrlQAndTheCloseBoxEndIt) {
@@ -192,8 +152,7 @@ TEST_F(MainDlgTest, aboutOpensOverTheMainWindowWhichIsNoModalDialog) {
   EXPECT_EQ(versions, QStringList({u"Parlexo Client v2.24"_s, u"Parlexo Client v2.24"_s}));
 }
 
-/// Closes the messages about a gateway that is not there: pages ask it as they are made, and before the
-/// window opens the balance is.
+/// Closes the messages about the missing gateway, which pages call on creation.
 class ImpatientReader {
  public:
   ImpatientReader() {
@@ -208,8 +167,7 @@ class ImpatientReader {
   QTimer timer_;
 };
 
-class MainTabsTest : public testing::Test {
- protected:
+struct MainTabsTest : testing::Test {
   ImpatientReader reader_;
   QTemporaryDir folder_;
   RunState state_;
@@ -243,28 +201,21 @@ TEST_F(MainTabsTest, pagesTellEachOtherWhatWasSent) {
   EXPECT_EQ(tabs->tabText(tabs->currentIndex()), u"Status"_s);
 }
 
-TEST_F(MainTabsTest, pagesAreFilledInTheirOrderThenComeBalanceAndNews) {
-  simulator::Simulator simulator;
-  ASSERT_TRUE(simulator.start());
-  state_.gateway.endpoint = simulator.site() + u"/ccx/onlineCommunication"_s;
-  bool hasRead = false;
-  QTimer user;
-  QObject::connect(&user, &QTimer::timeout, &user, [&hasRead] {
-    QWidget* front = frontWindow();
-    if (auto* news = qobject_cast<CNewsDlg*>(front)) {
-      hasRead = true;
-      news->accept();
-    } else if (auto* window = qobject_cast<CMainDlg*>(front); window && hasRead) {
-      window->accept();
-    }
-  });
-  user.start(10);
-  windows_.runMainWindow();
-  EXPECT_EQ(simulator.calledOperations(),
-            QStringList({"getAccountHistory", "getEmailMessaging", "getAccountBalance", "getNews"}));
-}
+/// Calls `act` every 10 ms with the window in front.
+class ScreenWatch {
+ public:
+  explicit ScreenWatch(const std::function<void(QWidget&)>& act) {
+    QObject::connect(&timer_, &QTimer::timeout, &timer_, [act] {
+      if (QWidget* front = frontWindow()) act(*front);
+    });
+    timer_.start(10);
+  }
 
-TEST_F(MainTabsTest, balanceIsFetchedAnewForAnotherUserOnly) {
+ private:
+  QTimer timer_;
+};
+
+TEST_F(MainTabsTest, balanceComesAfterThePagesAndAgainForAnotherUserOnly) {
   simulator::Options options;
   options.accounts.push_back({u"ann"_s, u"secret"_s, 7.5, true, {}});
   simulator::Simulator simulator(options);
@@ -272,56 +223,51 @@ TEST_F(MainTabsTest, balanceIsFetchedAnewForAnotherUserOnly) {
   state_.gateway.endpoint = simulator.site() + u"/ccx/onlineCommunication"_s;
   QStringList balances;
   QStringList users{u"demo"_s, u"demo1234"_s, u"demo"_s, u"demo1234"_s, u"ann"_s, u"secret"_s};
-  QTimer user;
-  QObject::connect(&user, &QTimer::timeout, &user, [&] {
-    QWidget* front = frontWindow();
-    if (auto* news = qobject_cast<CNewsDlg*>(front)) {
+  bool hasReadNews = false;
+  const ScreenWatch user([&](QWidget& front) {
+    if (auto* news = qobject_cast<CNewsDlg*>(&front)) {
+      hasReadNews = true;
       news->accept();
-    } else if (auto* login = qobject_cast<CLoginDlg*>(front)) {
+    } else if (auto* login = qobject_cast<CLoginDlg*>(&front)) {
       login->findChild<QLineEdit*>(u"userName"_s)->setText(users.takeFirst());
       login->findChild<QLineEdit*>(u"password"_s)->setText(users.takeFirst());
       login->findChild<QAbstractButton*>(u"logIn"_s)->click();
-    } else if (auto* window = qobject_cast<CMainDlg*>(front)) {
+    } else if (auto* window = qobject_cast<CMainDlg*>(&front); window && hasReadNews) {
       balances << window->findChild<QLineEdit*>(u"balance"_s)->text();
       if (users.isEmpty()) return window->accept();
-      // Not from here: a timer does not go off while it is being heard.
+      // A timer does not fire again inside its own slot.
       QTimer::singleShot(0, window, [this] { windows_.logInAgain(); });
     }
   });
-  user.start(10);
   ASSERT_TRUE(windows_.logIn());
   windows_.runMainWindow();
   EXPECT_EQ(balances, QStringList({u"100.00"_s, u"100.00"_s, u"7.50"_s}));
-  EXPECT_EQ(simulator.calledOperations().count(u"getAccountBalance"_s), 2);
+  const QStringList calls = simulator.calledOperations();
+  EXPECT_EQ(calls.first(5), QStringList({"sessionStart", "getAccountHistory", "getEmailMessaging",
+                                         "getAccountBalance", "getNews"}));
+  EXPECT_EQ(calls.count(u"getAccountBalance"_s), 2);
 }
 
-TEST_F(MainTabsTest, windowIsFoundAgainWhereItWasLeft) {
-  QRect left;
-  QRect found;
-  const auto visit = [this](const std::function<void(CMainDlg&)>& act) {
-    QTimer user;
-    QObject::connect(&user, &QTimer::timeout, [&act] {
-      QWidget* front = frontWindow();
-      auto* window = qobject_cast<CMainDlg*>(front);
-      if (window && window->isActiveWindow()) {
-        act(*window);
-        window->accept();
-      } else if (front && !window) {
-        front->close();  // a message before the window opens
-      }
+TEST_F(MainTabsTest, windowOpensWhereItWasLeft) {
+  const auto geometryAfter = [this](const std::function<void(CMainDlg&)>& act) {
+    QRect geometry;
+    const ScreenWatch user([&](QWidget& front) {
+      auto* window = qobject_cast<CMainDlg*>(&front);
+      if (!window) front.close();  // a message before the window opens
+      if (!window || !window->isActiveWindow()) return;
+      act(*window);
+      geometry = window->geometry();
+      window->accept();
     });
-    user.start(20);
     windows_.runMainWindow();
+    return geometry;
   };
-  visit([&left](CMainDlg& window) {
-    window.setGeometry(40, 60, window.width() + 30, window.height() + 20);
-    left = window.geometry();
-  });
-  visit([&found](CMainDlg& window) { found = window.geometry(); });
-  EXPECT_EQ(found, left);
+  const auto nothing = [](CMainDlg&) {};
+  const QRect left = geometryAfter(
+      [](CMainDlg& window) { window.setGeometry(40, 60, window.width() + 30, window.height() + 20); });
+  EXPECT_EQ(geometryAfter(nothing), left);
   settings_.setWindowGeometry("nonsense");
-  visit([&found](CMainDlg& window) { found = window.geometry(); });
-  EXPECT_NE(found, left);
+  EXPECT_NE(geometryAfter(nothing), left);
 }
 
 TEST_F(MainTabsTest, fitASmallScreen) {
@@ -332,4 +278,4 @@ TEST_F(MainTabsTest, fitASmallScreen) {
 }
 
 }  // namespace
-}  // namespace parlexo
+}  // namespace parlexo::test

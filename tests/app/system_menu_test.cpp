@@ -5,16 +5,11 @@
 
 #include <array>
 
-#include <QApplication>
-#include <QSignalSpy>
-#include <QTest>
-#include <QTimer>
-#include <gtest/gtest.h>
-
 #include "app/about_dlg.h"
 #include "app/main_dlg.h"
+#include "tests/support/widgets.h"
 
-namespace parlexo {
+namespace parlexo::test {
 namespace {
 
 TEST(SystemMenu, endsWithTheEntryThatOpensTheAboutBox) {
@@ -50,4 +45,4 @@ TEST(SystemMenu, endsWithTheEntryThatOpensTheAboutBox) {
 }
 
 }  // namespace
-}  // namespace parlexo
+}  // namespace parlexo::test

@@ -1,14 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "base/code_page.h"
 
-#include <gtest/gtest.h>
-
 #include "base/unsendable_characters.h"
+#include "tests/support/test.h"
 
-namespace parlexo {
+namespace parlexo::test {
 namespace {
-
-using namespace Qt::StringLiterals;
 
 TEST(CodePage, everyByteSurvivesTheTripToTextAndBack) {
   QByteArray all;
@@ -20,12 +17,7 @@ TEST(CodePage, everyByteSurvivesTheTripToTextAndBack) {
 }
 
 TEST(CodePage, textsHaveTheBytesOfTheTable) {
-  const struct {
-    const char* what;
-    QString text;
-    QByteArray bytes;
-    bool fits;
-  } cases[] = {
+  const Cases<const char*, QString, QByteArray, bool> cases = {
       {"nothing", u""_s, "", true},
       {"Latin letters", u"Zoë é"_s, "Zo\xEB \xE9", true},
       {"euro sign and low quotes", u"€‚ƒ„…"_s, "\x80\x82\x83\x84\x85", true},
@@ -37,9 +29,9 @@ TEST(CodePage, textsHaveTheBytesOfTheTable) {
       {"half a pair at the end", QString(QChar(0xD83D)), "?", false},
       {"half a pair", QString(QChar(0xD83D)) + u"x"_s, "?x", false},
   };
-  for (const auto& each : cases) {
-    EXPECT_EQ(toCodePage(each.text), each.bytes) << each.what;
-    EXPECT_EQ(fitsCodePage(each.text), each.fits) << each.what;
+  for (const auto& [what, text, bytes, fits] : cases) {
+    EXPECT_EQ(toCodePage(text), bytes) << what;
+    EXPECT_EQ(fitsCodePage(text), fits) << what;
   }
 }
 
@@ -55,4 +47,4 @@ TEST(UnsendableCharacters, areListedOnceAsTheReaderSeesThem) {
 }
 
 }  // namespace
-}  // namespace parlexo
+}  // namespace parlexo::test

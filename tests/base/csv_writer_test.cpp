@@ -1,16 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "base/csv_writer.h"
 
-#include <QDir>
-#include <QTemporaryDir>
-#include <gtest/gtest.h>
-
 #include "tests/support/file_bytes.h"
+#include "tests/support/test.h"
 
-namespace parlexo {
+namespace parlexo::test {
 namespace {
-
-using namespace Qt::StringLiterals;
 
 QByteArray lineOf(const QStringList& cells, CsvCells kind) {
   CsvWriter csv(kind);
@@ -19,10 +14,7 @@ QByteArray lineOf(const QStringList& cells, CsvCells kind) {
 }
 
 TEST(CsvWriter, quotesOnlyTheCellsThatNeedIt) {
-  const struct {
-    QStringList cells;
-    QByteArray line;
-  } cases[] = {
+  const Cases<QStringList, QByteArray> cases = {
       {{u"plain"_s, u"two words"_s, QString()}, "plain,two words,\r\n"},
       {{u"Doe, J."_s, u"say \"hi\""_s}, "\"Doe, J.\",\"say \"\"hi\"\"\"\r\n"},
       {{u"two\r\nlines"_s, u"a\nb"_s, u"a\rb"_s}, "\"two\r\nlines\",\"a\nb\",\"a\rb\"\r\n"},
@@ -38,11 +30,7 @@ TEST(CsvWriter, quotesOnlyTheCellsThatNeedIt) {
 }
 
 TEST(CsvWriter, formulasBecomeTextsWhereTheFileIsForPeople) {
-  const struct {
-    QString cell;
-    QByteArray harmless;
-    QByteArray asItIs;
-  } cases[] = {
+  const Cases<QString, QByteArray, QByteArray> cases = {
       {u"=1+1"_s, "'=1+1", "=1+1"},
       {u"+61491570156"_s, "'+61491570156", "+61491570156"},
       {u"-0.05"_s, "-0.05", "-0.05"},
@@ -78,4 +66,4 @@ TEST(CsvWriter, replacesAFileAsAWholeOrLeavesItAlone) {
 }
 
 }  // namespace
-}  // namespace parlexo
+}  // namespace parlexo::test

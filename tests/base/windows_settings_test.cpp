@@ -1,23 +1,17 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Settings held against the registry itself, in a hive of the test's own.
+// Compares settings with the registry, in a separate hive.
 
 #include <windows.h>
 
 #include <array>
 
-#include <QDir>
-#include <QTemporaryDir>
-#include <gtest/gtest.h>
-
 #include "base/settings.h"
+#include "tests/support/test.h"
 
-namespace parlexo {
-
-using namespace Qt::StringLiterals;
-
+namespace parlexo::test {
 namespace {
 
-/// While it lives, HKEY_CURRENT_USER is an empty key that goes with it.
+/// Redirects HKEY_CURRENT_USER to an empty key, which the destructor deletes.
 class OwnHive {
  public:
   OwnHive() {
@@ -42,7 +36,7 @@ std::wstring keyOf(const wchar_t* section) {
   return std::wstring(L"Software\\Parlexo\\Parlexo Client\\") + section;
 }
 
-/// The text as it lies in the registry; "(none)" when there is no value or it is not a text.
+/// The stored string; "(none)" if there is no value or it has another type.
 std::wstring stored(const wchar_t* section, const wchar_t* value) {
   std::array<wchar_t, 1000> text{};
   DWORD bytes = sizeof text;
@@ -87,7 +81,7 @@ TEST(RegistrySettings, readWhatAnAdministratorPutThere) {
   EXPECT_FALSE(settings.isMessageSuppressed(146));
 }
 
-TEST(FolderPath, isMadeWhateverItsSeparators) {
+TEST(FolderPath, acceptsAllSeparators) {
   const QTemporaryDir folder;
   const QString native = QDir::toNativeSeparators(folder.path());
   ASSERT_TRUE(QDir::setCurrent(native)) << "a path without a drive means that of the current folder";
@@ -100,4 +94,4 @@ TEST(FolderPath, isMadeWhateverItsSeparators) {
 }
 
 }  // namespace
-}  // namespace parlexo
+}  // namespace parlexo::test

@@ -1,28 +1,17 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The address book on disks that fail and under names that file systems find hard. Everything here stops
-// the superuser too, as which tests may run.
+// The address book on failing disks and with unusual file names. All failures also affect root, as which
+// tests may run.
 
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include <memory>
-#include <utility>
-
-#include <QDir>
-#include <gmock/gmock.h>
-
 #include "contacts/contact_file_format.h"
 #include "tests/contacts/file_size_limit.h"
 #include "tests/contacts/store_fixture.h"
+#include "tests/support/test.h"
 
-namespace parlexo {
-
-using namespace Qt::StringLiterals;
-
+namespace parlexo::test {
 namespace {
-
-using testing::ElementsAre;
-using testing::IsEmpty;
 
 const QString saving = "16 There was a problem trying to save your contact to the database. Error=";
 const QString deleting = "16 There was a problem deleting a contact from your database. Error=";
@@ -40,8 +29,7 @@ const QString known = "Known";
 const QString fresh = "Fresh";
 const QString circle = "Circle";
 
-class AddressBookOnDisk : public AddressBookFixture {
- protected:
+struct AddressBookOnDisk : AddressBookFixture {
   void SetUp() override {
     ASSERT_TRUE(save(known) && book_.createGroup(circle, {known}));
     contactBytes_ = fileOf(contactsFile);
@@ -53,7 +41,7 @@ class AddressBookOnDisk : public AddressBookFixture {
   }
   QByteArray fileOf(const QString& name) const { return readBytes(pathOf(name)); }
   QStringList takeMessages() { return notifier_.takeLines(); }
-  // What a program that starts now finds.
+  // Loads the folder like a program that starts now.
   bool startsAgain(const QString& folder) {
     indexes_.dropAllItemIndexes();
     next_ = std::make_unique<AddressBook>(folder, nextDatabase_, notifier_);
@@ -70,7 +58,7 @@ class AddressBookOnDisk : public AddressBookFixture {
 
 TEST_F(AddressBookOnDisk, fullDiskRefusesWhatIsNewAndLosesNothing) {
   {
-    // Half a record more than the file has; the group's file is shorter, so it still takes its member.
+    // Room for half a contact; the shorter group file can still grow.
     const FileSizeLimit limit(contactRecordSize + contactRecordSize / 2);
     EXPECT_FALSE(save(fresh));
     EXPECT_TRUE(save(known, "+1")) << "a change needs no room";
@@ -86,7 +74,7 @@ TEST_F(AddressBookOnDisk, fullDiskRefusesWhatIsNewAndLosesNothing) {
   EXPECT_EQ(next_->findGroup(circle)->members().size(), 2U);
 }
 
-TEST_F(AddressBookOnDisk, folderThatGoesAwayGivesEachMessageAndMayComeBack) {
+TEST_F(AddressBookOnDisk, missingFolderGivesEachMessageAndMayComeBack) {
   const QString away = folder_.path() + " away";
   ASSERT_TRUE(QDir().rename(folder_.path(), away));
   EXPECT_FALSE(save(known));
@@ -107,7 +95,7 @@ TEST_F(AddressBookOnDisk, folderThatGoesAwayGivesEachMessageAndMayComeBack) {
   EXPECT_THAT(takeMessages(), IsEmpty());
 }
 
-// Nobody in particular for a while, when the tests run as the superuser, whom no permission stops.
+// Drops root privileges for a scope, as permissions do not apply to root.
 class Unprivileged {
  public:
   Unprivileged() : before_(::geteuid()) {
@@ -206,4 +194,4 @@ TEST_F(AddressBookOnDisk, groupNamesThatNoFileCanHaveAreRefused) {
 }
 
 }  // namespace
-}  // namespace parlexo
+}  // namespace parlexo::test

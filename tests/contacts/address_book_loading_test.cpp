@@ -1,28 +1,19 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include <QDir>
-#include <gmock/gmock.h>
 
 #include "contacts/contact_file_format.h"
 #include "contacts/samples/sample_contacts.h"
 #include "contacts/shared_file.h"
 #include "tests/contacts/store_fixture.h"
+#include "tests/support/test.h"
 
-namespace parlexo {
-
-using namespace Qt::StringLiterals;
-
+namespace parlexo::test {
 namespace {
-
-using testing::Contains;
-using testing::ElementsAre;
-using testing::IsEmpty;
 
 QByteArray contactBytes(const QString& name, const QString& phone = {}) {
   return packContact({name, phone, {}, {}, {}, {}, {}});
 }
 
-class AddressBookLoading : public AddressBookFixture {
- protected:
+struct AddressBookLoading : AddressBookFixture {
   void put(const QString& fileName, const QByteArray& bytes) { writeBytes(pathOf(fileName), bytes); }
   QStringList groupNames() const {
     QStringList names;
@@ -42,7 +33,7 @@ TEST_F(AddressBookLoading, ofEmptyFolderYieldsThePersonalGroup) {
   EXPECT_THAT(notifier_.takeLines(), IsEmpty());
 }
 
-TEST_F(AddressBookLoading, tellsTheCountAfterEveryTwentieth) {
+TEST_F(AddressBookLoading, showsTheCountAfterEveryTwentiethContact) {
   ASSERT_EQ(writeSampleFolder(folder_.path(), 41, 0), QString());
   EXPECT_TRUE(book_.loadAll(progress_));
   EXPECT_THAT(progress_.texts, ElementsAre("Loading all Contacts...", "Loading all Contacts (20 Loaded)...",
@@ -82,7 +73,7 @@ TEST_F(AddressBookLoading, membersThatAColleagueAddsMeanwhileStay) {
   ItemIndexCache otherCache;
   ItemDatabase otherDatabase(otherCache, waiter_);
   AddressBook colleague(folder_.path(), otherDatabase, notifier_);
-  // Between reading the contacts and reading the group, and once more while the group is cleaned up.
+  // A change between reading contacts and group, and one during the clean-up of the group.
   progress_.onText = [&](const QString& text) {
     if (!text.contains("Team")) return;
     EXPECT_TRUE(colleague.saveContact({"New", "+1", {}, {}, {}, {}, {}}));
@@ -138,4 +129,4 @@ TEST_F(AddressBookLoading, cutNamesMeetAgainAtTheNextStart) {
 }
 
 }  // namespace
-}  // namespace parlexo
+}  // namespace parlexo::test

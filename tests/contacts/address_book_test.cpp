@@ -1,15 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "contacts/address_book.h"
 
-#include <gmock/gmock.h>
-
 #include "contacts/contact_file_format.h"
 #include "tests/contacts/store_fixture.h"
+#include "tests/support/test.h"
 
-namespace parlexo {
+namespace parlexo::test {
 namespace {
-
-using testing::IsEmpty;
 
 ContactRecord contact(const QString& name, const QString& phone = {}) {
   return {name, phone, {}, {}, {}, {}, {}};
@@ -19,8 +16,7 @@ const QString ann = "Ann";
 const QString ben = "Ben";
 const QString team = "Team 1/2";
 
-class AddressBookChanges : public AddressBookFixture {
- protected:
+struct AddressBookChanges : AddressBookFixture {
   void SetUp() override {
     EXPECT_TRUE(book_.saveContact(contact(ann)) && book_.saveContact(contact(ben)));
     EXPECT_TRUE(book_.createGroup(team, {ann, ben, "Nobody"}));
@@ -46,6 +42,9 @@ TEST_F(AddressBookChanges, deletedContactLeavesEveryGroup) {
   EXPECT_EQ(fileOf(contactsFile), deletedRecord(packContact(contact(ann))) + packContact(contact(ben)));
   EXPECT_EQ(fileOf(teamFile_), deletedRecord(packMember(ann)) + packMember(ben));
   EXPECT_EQ(fileOf("Other.grp"), packMember(ben));
+  const quint64 revision = book_.revision();
+  EXPECT_TRUE(book_.deleteContact("Nobody")) << "an unknown name is a no-op";
+  EXPECT_EQ(book_.revision(), revision);
 }
 
 TEST_F(AddressBookChanges, renamedContactStaysInItsGroups) {
@@ -74,4 +73,4 @@ TEST_F(AddressBookChanges, memberCanGoAndComeBackToItsSlot) {
 }
 
 }  // namespace
-}  // namespace parlexo
+}  // namespace parlexo::test

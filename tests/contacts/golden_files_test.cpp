@@ -1,20 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Files that a program sharing no code with this one has written (tools/make-golden-contacts): they are
-// read as meant, and the store writes the very same bytes.
-
-#include <QDir>
-#include <gmock/gmock.h>
+// Files written by an independent program (tools/make-golden-contacts).
 
 #include "contacts/contact_file_format.h"
 #include "tests/contacts/store_fixture.h"
+#include "tests/support/test.h"
 
-namespace parlexo {
-
-using namespace Qt::StringLiterals;
-
+namespace parlexo::test {
 namespace {
-
-using testing::IsEmpty;
 
 const QString zoe = "Zo\u00EB";
 const QString zoeInSmall = "zo\u00EB";
@@ -52,8 +44,7 @@ bool operator==(const ContactRecord& a, const ContactRecord& b) {
          a.fax == b.fax && a.extra == b.extra;
 }
 
-class GoldenFiles : public AddressBookFixture {
- protected:
+struct GoldenFiles : AddressBookFixture {
   void SetUp() override {
     for (const QString& name : QDir(golden_).entryList(QDir::Files))
       ASSERT_TRUE(QFile::copy(golden_ + name, pathOf(name)));
@@ -120,7 +111,7 @@ TEST_F(GoldenFiles, changesTouchTheirBytesAlone) {
   odd.extra[5] = "last";
   EXPECT_TRUE(book_.saveContact(odd));
   contacts.replace(4 * 512 + 383, 4, "last");
-  // The group's file lost this member once; the slot is still there.
+  // The group file has a deleted record of this member.
   EXPECT_TRUE(book_.addMember(oddTeam, zoeInSmall));
   members[256] = 1;
   EXPECT_TRUE(book_.deleteContact(zoe));
@@ -131,4 +122,4 @@ TEST_F(GoldenFiles, changesTouchTheirBytesAlone) {
 }
 
 }  // namespace
-}  // namespace parlexo
+}  // namespace parlexo::test

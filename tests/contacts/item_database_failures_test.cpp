@@ -1,21 +1,17 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Every failure that a disk or a system can bring: its message, and a file that is as it was.
+// Every failing system call: its message and the unchanged file.
 
 #include <cerrno>
-#include <functional>
-#include <memory>
 
 #include "contacts/item_database.h"
 #include "tests/contacts/failing_calls.h"
 #include "tests/contacts/store_fixture.h"
+#include "tests/support/test.h"
 
-namespace parlexo {
-
-using namespace Qt::StringLiterals;
-
+namespace parlexo::test {
 namespace {
 
-// Sizes that nothing else asks the memory for.
+// Sizes that no other allocation has.
 constexpr int oddRecordSize = 1021;
 constexpr int oddKeyWidth = 300;
 
@@ -29,8 +25,7 @@ const QByteArray original =
 
 enum class Index { Missing, Right, Early };
 
-class ItemDatabaseFailures : public StoreFixture {
- protected:
+struct ItemDatabaseFailures : StoreFixture {
   using Operation = std::function<bool()>;
   using Fault = std::function<std::unique_ptr<FailingCall>()>;
 
@@ -91,7 +86,7 @@ class ItemDatabaseFailures : public StoreFixture {
   QString path_ = pathOf(u"items.db"_s);
 };
 
-// What a new index takes from the memory in one piece.
+// The size of the allocation for a new index.
 std::size_t indexBytes() {
   const FailingCall counting(std::size_t{0});
   ItemIndexCache().create(QString());
@@ -159,7 +154,7 @@ TEST_F(ItemDatabaseFailures, ofCreatingHaveTheirMessages) {
   expectMessage({"[createDb:2 - Unknown error!]", creating(), failing(Call::Open, 0, FailingCall::throwing)});
 }
 
-TEST_F(ItemDatabaseFailures, fileHeldByServerIsWaitedForAndInterruptedCallsAreRepeated) {
+TEST_F(ItemDatabaseFailures, lockedFileIsWaitedForAndInterruptedCallsAreRepeated) {
   const struct {
     Call call;
     int passing;
@@ -168,7 +163,7 @@ TEST_F(ItemDatabaseFailures, fileHeldByServerIsWaitedForAndInterruptedCallsAreRe
     bool isMissing = false;
   } cases[] = {
       {Call::Open, 0, EBUSY, 1},        {Call::Open, 0, ETXTBSY, 1},
-      {Call::Open, 1, ENOENT, 1, true},  // a removed file that somebody has open can't be made anew
+      {Call::Open, 1, ENOENT, 1, true},  // a removed file that is still open can't be recreated
       {Call::Open, 1, ENOENT, 0},        // the file was removed between opening and locking
       {Call::Lock, 0, EWOULDBLOCK, 1},  {Call::Lock, 0, EACCES, 1},
       {Call::Open, 0, EINTR, 0},        {Call::Lock, 0, EINTR, 0},
@@ -186,4 +181,4 @@ TEST_F(ItemDatabaseFailures, fileHeldByServerIsWaitedForAndInterruptedCallsAreRe
 }
 
 }  // namespace
-}  // namespace parlexo
+}  // namespace parlexo::test

@@ -6,12 +6,11 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include <QString>
-#include <gtest/gtest.h>
+#include "tests/support/test.h"
 
-namespace parlexo {
+namespace parlexo::test {
 
-/// Another process that has a file locked until it is told to leave.
+/// Another process that locks a file until leave().
 class OtherProcess {
  public:
   /// `lock` is LOCK_SH or LOCK_EX.
@@ -23,7 +22,7 @@ class OtherProcess {
     leash_ = ends[1];
     process_ = ::fork();
     if (process_ == 0) holdUntilLeashGoes(ends);
-    // The lock belongs to the description of the file, which the child alone has now.
+    // The lock belongs to the open file description, which only the child has now.
     ::close(file);
     ::close(ends[0]);
   }
@@ -50,4 +49,4 @@ class OtherProcess {
   pid_t process_ = -1;
 };
 
-}  // namespace parlexo
+}  // namespace parlexo::test

@@ -2,11 +2,9 @@
 #include "contacts/samples/sample_contacts.h"
 
 #include "tests/contacts/store_fixture.h"
+#include "tests/support/test.h"
 
-namespace parlexo {
-
-using namespace Qt::StringLiterals;
-
+namespace parlexo::test {
 namespace {
 
 class SampleFolder : public AddressBookFixture {};
@@ -27,4 +25,4 @@ TEST_F(SampleFolder, loadsBackWholeAndIsNotOverwritten) {
 }
 
 }  // namespace
-}  // namespace parlexo
+}  // namespace parlexo::test

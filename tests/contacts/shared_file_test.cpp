@@ -6,31 +6,22 @@
 #include <atomic>
 #include <thread>
 
-#include <QFileInfo>
-
 #include "tests/contacts/file_size_limit.h"
 #include "tests/contacts/store_fixture.h"
+#include "tests/support/test.h"
 
-namespace parlexo {
-
-using namespace Qt::StringLiterals;
-
+namespace parlexo::test {
 namespace {
 
 using Mode = SharedFile::Mode;
 using OpenResult = SharedFile::OpenResult;
 
-class SharedFileFixture : public StoreFixture {
- protected:
+struct SharedFileFixture : StoreFixture {
   QString path_ = pathOf(u"shared"_s);
 };
 
-TEST_F(SharedFileFixture, modesShutEachOtherOut) {
-  const struct {
-    Mode holder;
-    Mode comer;
-    OpenResult result;
-  } cases[] = {
+TEST_F(SharedFileFixture, modesExcludeEachOther) {
+  const Cases<Mode, Mode, OpenResult> cases = {
       {Mode::Read, Mode::Read, OpenResult::Opened},
       {Mode::Read, Mode::Write, OpenResult::SharingViolation},
       {Mode::Read, Mode::Remove, OpenResult::SharingViolation},
@@ -42,13 +33,13 @@ TEST_F(SharedFileFixture, modesShutEachOtherOut) {
       {Mode::Create, Mode::Write, OpenResult::Opened},
   };
   writeBytes(path_, "x");
-  for (const auto& each : cases) {
+  for (const auto& [first, second, result] : cases) {
     SharedFile holder;
-    SharedFile comer;
-    EXPECT_EQ(holder.open(path_, each.holder), OpenResult::Opened);
-    EXPECT_EQ(comer.open(path_, each.comer), each.result) << int(each.holder) << int(each.comer);
+    SharedFile other;
+    EXPECT_EQ(holder.open(path_, first), OpenResult::Opened);
+    EXPECT_EQ(other.open(path_, second), result) << int(first) << int(second);
     holder.close();
-    EXPECT_EQ(comer.open(path_, each.comer), OpenResult::Opened);
+    EXPECT_EQ(other.open(path_, second), OpenResult::Opened);
   }
 }
 
@@ -111,4 +102,4 @@ TEST_F(SharedFileFixture, openedFileIsNeverOneThatWasRemovedMeanwhile) {
 }
 
 }  // namespace
-}  // namespace parlexo
+}  // namespace parlexo::test

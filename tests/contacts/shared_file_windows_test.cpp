@@ -2,22 +2,19 @@
 #include <windows.h>
 
 #include <QCoreApplication>
-#include <QDir>
 #include <QProcess>
 
 #include "contacts/shared_file.h"
 #include "tests/contacts/store_fixture.h"
+#include "tests/support/test.h"
 
-namespace parlexo {
-
-using namespace Qt::StringLiterals;
-
+namespace parlexo::test {
 namespace {
 
 using Mode = SharedFile::Mode;
 using OpenResult = SharedFile::OpenResult;
 
-/// Another process that has a file open until it is told to leave.
+/// Another process that has a file open until leave().
 class Holder {
  public:
   Holder(const QString& path, Mode mode) {
@@ -40,8 +37,7 @@ class Holder {
   QProcess process_;
 };
 
-class SharingBetweenProcesses : public StoreFixture {
- protected:
+struct SharingBetweenProcesses : StoreFixture {
   SharingBetweenProcesses() { writeBytes(path_, record_); }
 
   QByteArray record_ = QByteArray("\1Anna1111111", recordSize);
@@ -73,8 +69,8 @@ TEST_F(SharingBetweenProcesses, modesShutOthersOut) {
   }
 }
 
-// So does a reader of the program for other systems look that has the folder mounted over SMB.
-TEST_F(SharingBetweenProcesses, eraserAndAReaderThatSharesEverythingButHoldsALockShutEachOtherOut) {
+// Readers on other systems that mount the folder over SMB look like this.
+TEST_F(SharingBetweenProcesses, eraserAndALockingReaderExcludeEachOther) {
   constexpr DWORD everything = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
   const HANDLE reader = CreateFileW(QDir::toNativeSeparators(path_).toStdWString().c_str(), GENERIC_READ,
                                     everything, nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
@@ -125,7 +121,7 @@ TEST_F(SharingBetweenProcesses, everyWayToWriteAPathLeadsToTheSameFile) {
   const QString native = QDir::toNativeSeparators(file);
   writeBytes(file, "12345");
   ASSERT_TRUE(QDir::setCurrent(folder_.path())) << "a path without a drive means that of the current folder";
-  // The folder for temporary files may lie on a share.
+  // The folder for temporary files may be on a share.
   const bool isOnShare = native.startsWith(u"\\\\"_s);
   const QStringList others = isOnShare ? QStringList(u"\\\\?\\UNC\\"_s + native.mid(2))
                                        : QStringList{u"\\\\?\\"_s + native, native.mid(2)};
@@ -134,7 +130,7 @@ TEST_F(SharingBetweenProcesses, everyWayToWriteAPathLeadsToTheSameFile) {
     EXPECT_EQ(shared.open(path, Mode::Read), OpenResult::Opened) << path.toStdString();
     EXPECT_EQ(shared.size(), 5) << path.toStdString();
   }
-  // On a share "nul" is a name like any other.
+  // On a share "nul" is an ordinary name.
   const QString device = isOnShare ? u"nul"_s : pathOf(u"nul"_s);
   for (const QString& path :
        {folder, device, file + QChar(u'\0') + u'x', pathOf(u"a*b"_s), pathOf(u"none/x"_s)}) {
@@ -145,4 +141,4 @@ TEST_F(SharingBetweenProcesses, everyWayToWriteAPathLeadsToTheSameFile) {
 }
 
 }  // namespace
-}  // namespace parlexo
+}  // namespace parlexo::test

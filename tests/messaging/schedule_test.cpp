@@ -1,17 +1,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "messaging/core/schedule.h"
 
-#include <gtest/gtest.h>
-
 #include "tests/messaging/time_zone_scope.h"
+#include "tests/support/test.h"
 
-namespace parlexo {
+namespace parlexo::test {
 namespace {
 
 struct LocalTime {
   const char* what;
   const char* zone;
-  const char* clocks;  ///< what they show, with a Z only so that no zone's rules come into the reading
+  const char* clocks;  ///< the local time, with Z so that it is parsed without zone rules
   const char* local;
   const char* gmt;
 };
@@ -39,7 +38,7 @@ TEST(Schedule, namesTheSameInstantInBothTexts) {
     SCOPED_TRACE(sample.what);
     const TimeZoneScope zone(sample.zone);
     const QDateTime clocks = QDateTime::fromString(QString::fromLatin1(sample.clocks), Qt::ISODate);
-    // What the C library was asked before must make no difference.
+    // Earlier calls of the C library must not matter.
     for (const QDate before : {QDate(2026, 1, 15), QDate(2026, 7, 15)}) {
       (void)QDateTime(before, QTime(12, 0)).toSecsSinceEpoch();
       const Schedule schedule = scheduleAt(instantOfLocalTime(clocks.date(), clocks.time()));
@@ -51,4 +50,4 @@ TEST(Schedule, namesTheSameInstantInBothTexts) {
 }
 
 }  // namespace
-}  // namespace parlexo
+}  // namespace parlexo::test

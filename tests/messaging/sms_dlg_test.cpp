@@ -2,30 +2,18 @@
 #include "messaging/screens/sms_dlg.h"
 
 #include <QCalendarWidget>
-#include <QLabel>
-#include <QLineEdit>
 #include <QListView>
-#include <QSignalSpy>
-#include <QTest>
-#include <gmock/gmock.h>
 
 #include "addressbook/screens/select_contacts_dlg.h"
 #include "messaging/screens/message_edit.h"
 #include "messaging/screens/schedule_dlg.h"
 #include "messaging/screens/sender_id_dlg.h"
 #include "tests/messaging/sms_page_rig.h"
+#include "tests/support/widgets.h"
 #include "ui/hyperlink_label.h"
-#include "ui/picture_button.h"
 
-namespace parlexo {
-
-using namespace Qt::StringLiterals;
-
+namespace parlexo::test {
 namespace {
-
-using testing::ElementsAre;
-using testing::IsEmpty;
-using testing::SizeIs;
 
 TEST_F(SmsPage, countersFollowEveryKeyAndCharacterSet) {
   EXPECT_EQ(counters(), "1/760");
@@ -40,7 +28,7 @@ TEST_F(SmsPage, countersFollowEveryKeyAndCharacterSet) {
   EXPECT_EQ(counters(), "1/755");
 }
 
-TEST_F(SmsPage, pastingStopsAtTheLimitAndKeepsWhatStandsBehindTheCursor) {
+TEST_F(SmsPage, pasteStopsAtTheLimitAndKeepsTheTextAfterTheCursor) {
   editor().setPlainText("head tail");
   QTextCursor cursor = editor().textCursor();
   cursor.setPosition(5);
@@ -55,15 +43,6 @@ TEST_F(SmsPage, pastingStopsAtTheLimitAndKeepsWhatStandsBehindTheCursor) {
   editor().undo();
   EXPECT_EQ(editor().text(), "head tail");
   EXPECT_THAT(notifier.takeTexts(), IsEmpty());
-}
-
-TEST_F(SmsPage, charactersThatCountTwiceAreCutFromTheEnd) {
-  paste(QString(700, QChar(u'x')) + "END");
-  editor().moveCursor(QTextCursor::Start);
-  paste(QString(40, QChar(u'~')));
-  EXPECT_EQ(counters(), "5/0");
-  EXPECT_EQ(editor().text(), QString(40, QChar(u'~')) + QString(680, QChar(u'x')));
-  EXPECT_EQ(editor().textCursor().position(), 40);
 }
 
 TEST_F(SmsPage, aPastedZeroCharacterDoesNotEndTheText) {
@@ -84,8 +63,8 @@ TEST_F(SmsPage, textThatIsTooLongForUnicodeIsReportedAndDropped) {
   EXPECT_EQ(editor().text(), "");
   EXPECT_EQ(counters(), "1/335");
   paste(QString(334, QChar(u'x')) + QString::fromUtf8("\U0001F600"));
-  EXPECT_EQ(counters(), "5/1");                 // half an emoji is none
-  editor().setText(QString(336, QChar(u'x')));  // as a template might bring it
+  EXPECT_EQ(counters(), "5/1");                 // half an emoji is not inserted
+  editor().setText(QString(336, QChar(u'x')));  // as from a template
   EXPECT_THAT(notifier.takeTexts(),
               ElementsAre("Unicode text is too long for message, we can not send this!"));
   EXPECT_EQ(counters(), "1/335");
@@ -135,7 +114,7 @@ TEST_F(SmsPage, deleteAsksAndRemovesTheHighlightedEntries) {
                           "Are you sure you want to delete the selected contacts?"));
 }
 
-TEST_F(SmsPage, successfulSendClearsTheFormButKeepsTheChoices) {
+TEST_F(SmsPage, successfulSendClearsTheTextAndKeepsTheOptions) {
   QSignalSpy sent(&page, &CQuillonSMSDlg::messageSent);
   select({"Ann"});
   choose("unicodeCharset");
@@ -161,12 +140,12 @@ TEST_F(SmsPage, aRefusedTextGetsTheFocus) {
   EXPECT_TRUE(editor().hasFocus());
 }
 
-TEST_F(SmsPage, noticeOfAnUnansweredSendStandsUntilTheNextOneIsAnswered) {
+TEST_F(SmsPage, outcomeUnknownNoticeStaysUntilTheNextReply) {
   const auto& notice = find<QLabel>("unansweredNotice");
   select({"Ann"});
   QTest::keyClicks(&editor(), "Hi");
   EXPECT_FALSE(notice.isVisible());
-  misbehave(simulator::FaultKind::Close, u"sendSms"_s);
+  setFault(simulator::FaultKind::Close, u"sendSms"_s);
   press("sendButton");
   EXPECT_TRUE(notice.isVisible());
   EXPECT_THAT(notifier.takeTexts(), ElementsAre(unreachable));
@@ -221,7 +200,7 @@ TEST_F(SmsPage, senderIdIsKeptForEveryMessageOfTheRun) {
     auto& edit = *dialog.findChild<QLineEdit*>();
     EXPECT_EQ(edit.text(), "+61491570999");
     edit.clear();
-    QTest::mouseClick(dialog.findChild<PictureButton*>("closeButton"), Qt::LeftButton);
+    click(dialog, "closeButton");
   });
   for (const char* text : {"one", "two"}) {
     select({"Ann"});
@@ -231,7 +210,7 @@ TEST_F(SmsPage, senderIdIsKeptForEveryMessageOfTheRun) {
   }
 }
 
-TEST_F(SmsPage, linesBelowTheMessageTellPartAndWhatCantBeSent) {
+TEST_F(SmsPage, hintsShowThePartAndUnsendableCharacters) {
   const auto& part = find<QLabel>("messagePart");
   const auto& lacking = find<QLabel>("unsendableCharacters");
   auto& toUnicode = find<HyperlinkLabel>("switchToUnicode");
@@ -298,4 +277,4 @@ TEST_F(SmsPage, buttonsAskForStatusAndExplainTemplates) {
 }
 
 }  // namespace
-}  // namespace parlexo
+}  // namespace parlexo::test

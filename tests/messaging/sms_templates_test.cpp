@@ -1,23 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include <QLabel>
 #include <QListWidget>
-#include <QTest>
-#include <gmock/gmock.h>
 
 #include "messaging/screens/load_template_dlg.h"
 #include "messaging/screens/save_template_dlg.h"
 #include "tests/messaging/sms_page_rig.h"
+#include "tests/support/widgets.h"
 
-namespace parlexo {
-
-using namespace Qt::StringLiterals;
-
+namespace parlexo::test {
 namespace {
 
-using testing::ElementsAre;
-using testing::SizeIs;
-
-TEST_F(SmsPage, templateKeepsTextAndBoxAndBringsThemBack) {
+TEST_F(SmsPage, templateRestoresTextAndRecipients) {
   press("saveTemplateButton");
   select({"Ann", "Lee, Bob"});
   choose("unicodeCharset");
@@ -54,15 +46,12 @@ TEST_F(SmsPage, templateKeepsTextAndBoxAndBringsThemBack) {
 }
 
 TEST_F(SmsPage, standardTemplateThatUnicodeCantHoldChoosesStandard) {
-  const struct {
-    QString text;
-    SmsCharset charset;
-    std::string shown;
-  } samples[] = {{QString(335, QChar(u'x')), SmsCharset::Unicode, "5/0"},
-                 {QString(336, QChar(u'x')), SmsCharset::Standard, "3/424"},
-                 {QString(100'000, QChar(u'x')), SmsCharset::Standard, "5/0"},
-                 {u"%%UNICODE%%004"_s, SmsCharset::Unicode, "1/321"},
-                 {u"%%UNICODE%%00480000"_s, SmsCharset::Unicode, "1/334"}};
+  const Cases<QString, SmsCharset, std::string> samples = {
+      {QString(335, QChar(u'x')), SmsCharset::Unicode, "5/0"},
+      {QString(336, QChar(u'x')), SmsCharset::Standard, "3/424"},
+      {QString(100'000, QChar(u'x')), SmsCharset::Standard, "5/0"},
+      {u"%%UNICODE%%004"_s, SmsCharset::Unicode, "1/321"},
+      {u"%%UNICODE%%00480000"_s, SmsCharset::Unicode, "1/334"}};
   for (const auto& [text, charset, shown] : samples) {
     editor().clear();
     choose("unicodeCharset");
@@ -79,4 +68,4 @@ TEST_F(SmsPage, standardTemplateThatUnicodeCantHoldChoosesStandard) {
 }
 
 }  // namespace
-}  // namespace parlexo
+}  // namespace parlexo::test

@@ -1,29 +1,17 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "messaging/screens/status_dlg.h"
 
-#include <QComboBox>
 #include <QHeaderView>
-#include <QLabel>
 #include <QMenu>
-#include <QTest>
 #include <QTreeView>
-#include <gmock/gmock.h>
 
 #include "tests/messaging/gateway_rig.h"
-#include "tests/support/column_cells.h"
-#include "ui/picture_button.h"
+#include "tests/support/widgets.h"
 
-namespace parlexo {
-
-using namespace Qt::StringLiterals;
-
+namespace parlexo::test {
 namespace {
 
-using testing::ElementsAre;
-using testing::IsEmpty;
-
-class StatusPage : public testing::Test, protected GatewayRig {
- protected:
+struct StatusPage : testing::Test, GatewayRig {
   void logMessage(const char* receipt, const char* date, const char* type = "SMS") {
     log.add({"+61491570156", QString::fromLatin1(receipt), "Delivered to Gateway", QString::fromLatin1(type),
              QString::fromLatin1(date)});
@@ -35,8 +23,8 @@ class StatusPage : public testing::Test, protected GatewayRig {
     list_ = page_->findChild<QTreeView*>("statusList");
     combo_ = page_->findChild<QComboBox*>("messageType");
   }
-  [[nodiscard]] QStringList column(int which) const { return columnCells(*list_->model(), which); }
-  void getStatus() { QTest::mouseClick(page_->findChild<PictureButton*>("getStatusButton"), Qt::LeftButton); }
+  [[nodiscard]] QStringList column(int which) const { return columnCells(*list_, which); }
+  void getStatus() { click(*page_, "getStatusButton"); }
 
   std::unique_ptr<CStatusDlg> page_;
   QTreeView* list_ = nullptr;
@@ -121,7 +109,7 @@ TEST_F(StatusPage, dateHeadingSortsByTimeBesideTheFirstOrder) {
   EXPECT_EQ(column(1), first);
 }
 
-TEST_F(StatusPage, countLineSaysWhatIsShownAndWhatTheFileWillLose) {
+TEST_F(StatusPage, countLineShowsTotalsAndTheFileLimit) {
   const auto count = [this] { return page_->findChild<QLabel*>("statusCount")->text(); };
   logMessage("R0", "01/01/2026 10:00:01");
   open();
@@ -136,4 +124,4 @@ TEST_F(StatusPage, countLineSaysWhatIsShownAndWhatTheFileWillLose) {
 }
 
 }  // namespace
-}  // namespace parlexo
+}  // namespace parlexo::test

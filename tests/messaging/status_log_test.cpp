@@ -1,7 +1,4 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include <QDir>
-#include <QTemporaryDir>
-#include <gmock/gmock.h>
 
 #include "contacts/shared_file.h"
 #include "messaging/core/receipts.h"
@@ -10,29 +7,21 @@
 #include "messaging/core/status_order.h"
 #include "tests/support/file_bytes.h"
 #include "tests/support/recording_notifier.h"
+#include "tests/support/test.h"
 
-namespace parlexo {
-
-using namespace Qt::StringLiterals;
-
+namespace parlexo::test {
 namespace {
-
-using testing::AllOf;
-using testing::ElementsAre;
-using testing::HasSubstr;
-using testing::IsEmpty;
 
 const QDateTime sendTime(QDate(2026, 3, 4), QTime(5, 6, 7));
 
-TEST(Receipts, thatDoNotPairWithTheNumbersAreNotLogged) {
+TEST(Receipts, withoutMatchingNumbersAreNotLogged) {
   for (const char* receipts : {"", "+1:R1", "+1:R1,+2:R2,", "+1:R1,+2:R2,+3:R3"})
     EXPECT_TRUE(statusEntries(QString::fromLatin1(receipts), u"+1,+2"_s, {}, sendTime).empty()) << receipts;
   EXPECT_TRUE(statusEntries({}, {}, {}, sendTime).empty());
   EXPECT_EQ(statusEntries(u"+1"_s, u"+1"_s, {}, sendTime).front().receipt, "") << "no colon, a number alone";
 }
 
-class StatusFileTest : public testing::Test {
- protected:
+struct StatusFileTest : testing::Test {
   void load(const QByteArray& bytes) {
     writeBytes(path_, bytes);
     file_.load(log_, notifier_);
@@ -92,7 +81,7 @@ TEST_F(StatusFileTest, missingFileIsAWarning) {
   EXPECT_THAT(log_.entries(), IsEmpty());
 }
 
-TEST_F(StatusFileTest, readableLinesOfARejectedFileAreBroughtBackAndTheFileIsKept) {
+TEST_F(StatusFileTest, rejectedFileIsKeptAndItsReadableLinesAreRecovered) {
   const QByteArray good = "<Message Date=\"d\" Type=\"SMS\" Phone=\"+1\" Status=\"s\">R</Message>\n";
   const QByteArray bomb =
       "<!DOCTYPE s [<!ENTITY a \"aaaaaaaaaa\"><!ENTITY b \"&a;&a;&a;&a;&a;&a;&a;&a;&a;&a;\">"
@@ -102,11 +91,7 @@ TEST_F(StatusFileTest, readableLinesOfARejectedFileAreBroughtBackAndTheFileIsKep
       "<Message Date=\"d\" Type=\"SMS\" Phone=\"+1\" Status=\"a \"b\" & <c> \">\">Q</Message>\n";
   const StatusEntry goodEntry{"+1", "R", "s", "SMS", "d"};
   const StatusEntry quotedEntry{"+1", "Q", "a \"b\" & <c> \">", "SMS", "d"};
-  const struct {
-    QByteArray bytes;
-    std::vector<StatusEntry> entries;
-    const char* said;
-  } samples[] = {
+  const Cases<QByteArray, std::vector<StatusEntry>, const char*> samples = {
       {"", {}, "\n\n0 entries were brought back."},
       {"<Status>\n" + good + "<Mess", {goodEntry}, "\n\n1 entry was brought back."},
       {"<Status>\r\n  <Message Phone=\"&lt;\">X</Message>\r\n" + quoted + good + "</Status>",
@@ -123,7 +108,7 @@ TEST_F(StatusFileTest, readableLinesOfARejectedFileAreBroughtBackAndTheFileIsKep
         << bytes.toStdString();
     EXPECT_EQ(log_.entries().size(), entries.size());
     for (const StatusEntry& each : entries) EXPECT_EQ(log_.entries().at(each.receipt), each);
-    // The second save must not keep the first one's file.
+    // The second save must not copy the file of the first one.
     for (const char* receipt : {"new", "newer"}) {
       log_.add(entry(QString::fromLatin1(receipt)));
       ASSERT_TRUE(file_.save(log_));
@@ -207,7 +192,7 @@ TEST_F(StatusFileTest, twoProgramsKeepEachOthersEntries) {
   other.setStatus("theirs", "new");
   other.setStatus("both", "new");
   ASSERT_TRUE(otherFile.save(other));
-  // A program can't remove an entry; another one or the user may have.
+  // The user has removed an entry.
   QByteArray bytes = readBytes(path_);
   const qsizetype gone = bytes.lastIndexOf("<Message", bytes.indexOf(">gone<"));
   writeBytes(path_, bytes.remove(gone, bytes.indexOf('\n', gone) + 1 - gone));
@@ -222,7 +207,7 @@ TEST_F(StatusFileTest, twoProgramsKeepEachOthersEntries) {
   EXPECT_EQ(statuses(other), merged);
   EXPECT_EQ(readOwnStatusDocument(readBytes(path_))->size(), 5U);
   EXPECT_THAT(QDir(folder_.path()).entryList({"*.bad"}), IsEmpty()) << "quotation marks are no damage";
-  // Entries that a damaged or missing file lacks were not deleted.
+  // A damaged or missing file deletes no entries.
   for (const char* damaged : {"<Status>\n<Mess", ""}) {
     *damaged ? void(writeBytes(path_, damaged)) : void(QFile::remove(path_));
     ASSERT_TRUE(file_.save(log_));
@@ -230,7 +215,7 @@ TEST_F(StatusFileTest, twoProgramsKeepEachOthersEntries) {
   }
 }
 
-TEST_F(StatusFileTest, whatMadeRoomForAnotherProgramsEntriesStaysInMemory) {
+TEST_F(StatusFileTest, entriesDisplacedByAnotherProgramStayInMemory) {
   log_.add(entry("old"));
   ASSERT_TRUE(file_.save(log_));
   StatusFile otherFile(path_);
@@ -243,7 +228,7 @@ TEST_F(StatusFileTest, whatMadeRoomForAnotherProgramsEntriesStaysInMemory) {
   EXPECT_EQ(log_.entries().size(), 1002U);
 }
 
-TEST_F(StatusFileTest, aFailedSaveLeavesTheLogModifiedAndAHeldLockDefersAllButTheLast) {
+TEST_F(StatusFileTest, failedSaveLeavesTheLogModifiedAndALockDefersAllButTheLastSave) {
   log_.add(entry(u"R"_s));
   EXPECT_FALSE(StatusFile(folder_.filePath(u"missing/Status.xml"_s)).save(log_));
   SharedFile lock;
@@ -282,7 +267,7 @@ TEST(StatusOrder, onlyTheSecondsOfTheDifferenceCount) {
   EXPECT_EQ(statusInstant(u"yesterday"_s), 0);
 }
 
-TEST(StatusOrder, mergesNeighboursFirstThoughTheOrderGoesInACircle) {
+TEST(StatusOrder, isAMergeSortOfACyclicOrder) {
   // a > b and b > c by the seconds, but a and c are whole minutes apart.
   const char* a = "01/01/2026 10:01:00";
   const char* b = "01/01/2026 10:00:30";
@@ -293,4 +278,4 @@ TEST(StatusOrder, mergesNeighboursFirstThoughTheOrderGoesInACircle) {
 }
 
 }  // namespace
-}  // namespace parlexo
+}  // namespace parlexo::test

@@ -1,23 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "messaging/core/template.h"
 
-#include <optional>
-#include <utility>
-
-#include <QDir>
-#include <QTemporaryDir>
-#include <gmock/gmock.h>
-
 #include "tests/support/file_bytes.h"
+#include "tests/support/test.h"
 
-namespace parlexo {
-
-using namespace Qt::StringLiterals;
-
+namespace parlexo::test {
 namespace {
-
-using testing::ElementsAre;
-using testing::IsEmpty;
 
 TEST(TemplateParsing, wantsTheSeparatorOnce) {
   const std::pair<QByteArray, std::optional<Template>> files[] = {
@@ -33,8 +21,7 @@ TEST(TemplateParsing, wantsTheSeparatorOnce) {
   for (const auto& [bytes, content] : files) EXPECT_EQ(parseTemplate(bytes), content) << bytes.constData();
 }
 
-class TemplateStore : public testing::Test {
- protected:
+struct TemplateStore : testing::Test {
   QTemporaryDir directory;
   TemplateFolder folder{directory.path()};
 };
@@ -71,4 +58,4 @@ TEST_F(TemplateStore, refusesNamesThatNoFileCanHave) {
 }
 
 }  // namespace
-}  // namespace parlexo
+}  // namespace parlexo::test

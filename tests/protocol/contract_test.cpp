@@ -1,18 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "protocol/contract.h"
 
-#include <string>
-
 #include <QRegularExpression>
-#include <QStringList>
-#include <gtest/gtest.h>
 
 #include "tests/support/file_bytes.h"
+#include "tests/support/test.h"
 
-namespace parlexo {
+namespace parlexo::test {
 namespace {
-
-using namespace Qt::StringLiterals;
 
 /// The first letter of a name has to be that of its type.
 QString cellWith(const protocol::Fields& fields) {
@@ -43,7 +38,7 @@ TEST(Contract, isTheTableOfTheDocumentation) {
   EXPECT_EQ(found.join(u'\n').toStdString(), documented.join(u'\n').toStdString());
 }
 
-/// Two members that share one place would both read the value written last.
+/// Each member must have its own address.
 TEST(Contract, everyFieldHasAMemberOfItsOwn) {
   protocol::forEachOperation([&](const auto& operation) {
     typename std::remove_cvref_t<decltype(operation)>::Request request;
@@ -55,4 +50,4 @@ TEST(Contract, everyFieldHasAMemberOfItsOwn) {
 }
 
 }  // namespace
-}  // namespace parlexo
+}  // namespace parlexo::test

@@ -1,21 +1,17 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <atomic>
 #include <thread>
-#include <vector>
 
-#include <QElapsedTimer>
 #include <QSet>
-#include <gmock/gmock.h>
 
 #include "simulator/simulator.h"
 #include "tests/simulator/raw_client.h"
+#include "tests/support/test.h"
 
-namespace parlexo::simulator {
-
-using namespace Qt::StringLiterals;
-
+namespace parlexo::test {
 namespace {
 
+using namespace simulator;
 Options impatientOptions() {
   Options options;
   options.requestTimeout = std::chrono::milliseconds(300);
@@ -23,8 +19,7 @@ Options impatientOptions() {
   return options;
 }
 
-class GatewayConnections : public testing::Test {
- protected:
+struct GatewayConnections : testing::Test {
   GatewayConnections() : simulator_(impatientOptions()) { EXPECT_TRUE(simulator_.start()); }
 
   RawClient client() const { return RawClient(simulator_.port()); }
@@ -34,11 +29,7 @@ class GatewayConnections : public testing::Test {
 };
 
 TEST_F(GatewayConnections, hostileInputIsRefusedAndServiceGoesOn) {
-  struct Case {
-    QByteArray request;
-    int status;
-  };
-  const Case cases[] = {
+  const Cases<QByteArray, int> cases = {
       {"\x01\x02garbage\r\n\r\n", 400},
       {"GET / HTTP/1.1\r\nX: " + QByteArray(300 * 1024, 'x'), 431},
       {"POST /ccx/onlineCommunication HTTP/1.1\r\nContent-Length: 4000000000\r\n\r\n", 413},
@@ -48,13 +39,13 @@ TEST_F(GatewayConnections, hostileInputIsRefusedAndServiceGoesOn) {
       {"GET /WSDL", 0},
       {"", 0},
   };
-  for (const Case& each : cases) {
-    EXPECT_EQ(statusOf(client().exchange(each.request)), each.status) << each.request.left(60).toStdString();
+  for (const auto& [request, status] : cases) {
+    EXPECT_EQ(statusOf(client().exchange(request)), status) << request.left(60).toStdString();
     expectStillServes();
   }
 }
 
-TEST_F(GatewayConnections, slowSenderIsCutOffHoweverItDribbles) {
+TEST_F(GatewayConnections, slowSenderIsDisconnected) {
   QTcpSocket slow;
   slow.connectToHost(QHostAddress(QHostAddress::LocalHost), simulator_.port());
   ASSERT_TRUE(slow.waitForConnected());
@@ -101,5 +92,4 @@ TEST_F(GatewayConnections, manyClientsAtOnceGetReceiptsOfTheirOwn) {
 }
 
 }  // namespace
-
-}  // namespace parlexo::simulator
+}  // namespace parlexo::test

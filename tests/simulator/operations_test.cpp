@@ -1,24 +1,19 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <QCryptographicHash>
-#include <gmock/gmock.h>
 
 #include "simulator/simulator.h"
 #include "tests/simulator/raw_client.h"
+#include "tests/support/test.h"
 
-namespace parlexo::simulator {
-
-using namespace Qt::StringLiterals;
-
+namespace parlexo::test {
 namespace {
 
+using namespace simulator;
 using std::chrono::seconds;
-using testing::HasSubstr;
-using testing::StartsWith;
 
 const QDateTime start(QDate(2026, 3, 1), QTime(12, 0), Qt::UTC);
 
-class GatewayOperations : public testing::Test {
- protected:
+struct GatewayOperations : testing::Test {
   GatewayOperations() : clock_(std::make_shared<ManualClock>(start)), simulator_(options()) {
     EXPECT_TRUE(simulator_.start());
     session_ = client().logIn();
@@ -52,7 +47,7 @@ class GatewayOperations : public testing::Test {
     return call("getStatus", text("sReciept", receipt));
   }
 
-  // Within the session.
+  // Calls with the session of demo.
   QByteArray call(const QByteArray& operation, const QByteArray& fields = {}) {
     return client().call(operation, text("sSession", session_) + fields);
   }
@@ -135,21 +130,16 @@ TEST_F(GatewayOperations, sessionsExpireByTimeOnDemandAndAtTheirEnd) {
   EXPECT_EQ(balanceCode(), "7");
 }
 
-TEST_F(GatewayOperations, refusesWhatCannotBeSentAndTakesNoMoneyForIt) {
-  struct Case {
-    QByteArray message;
-    QByteArray numbers;
-    const char* code;
-  };
-  const Case cases[] = {
+TEST_F(GatewayOperations, rejectedMessagesCostNothing) {
+  const Cases<QByteArray, QByteArray, const char*> cases = {
       {"", "+61491570156", "3"},
       {"Hello", "", "6"},
       {QByteArray(761, 'x'), "+61491570156", "15"},
       {"%%UNICODE%%" + QByteArray("0041").repeated(336), "+61491570156", "15"},
       {QByteArray(760, 'x'), "+61491570156", "0"},
   };
-  for (const Case& each : cases)
-    EXPECT_EQ(valueOf(sendSms(each.message, each.numbers), "nErrorCode"), each.code);
+  for (const auto& [message, numbers, code] : cases)
+    EXPECT_EQ(valueOf(sendSms(message, numbers), "nErrorCode"), code);
   EXPECT_EQ(simulator_.balance(u"demo"_s), 99.75) << "five parts at 0.05";
 
   simulator_.setBalance(u"demo"_s, 0.09);
@@ -158,7 +148,7 @@ TEST_F(GatewayOperations, refusesWhatCannotBeSentAndTakesNoMoneyForIt) {
   EXPECT_EQ(simulator_.messages().size(), 1U);
 }
 
-TEST_F(GatewayOperations, messagesAreKeptAndLoggedAsAPersonReadsThem) {
+TEST_F(GatewayOperations, messagesAreStoredAndLoggedAsText) {
   EXPECT_EQ(codeOf("setSmsSenderId", text("sSenderId", "Parlexo")), "0");
   (void)sendSms("%%UNICODE%%0048006920AC", "+61491570156");
   (void)sendSms("two\n\x1B]", "+61491570156");
@@ -190,16 +180,7 @@ TEST_F(GatewayOperations, fileArrivesWithItsNameSizeAndHash) {
   EXPECT_EQ(message.fileSha256, QCryptographicHash::hash(content, QCryptographicHash::Sha256).toHex());
 }
 
-TEST_F(GatewayOperations, historyHasOneTabbedRecordForEachMessage) {
-  (void)sendSms("One", "+61491570156");
-  (void)sendSms("Two", "+61491570156,+60312345678");
-  const QByteArray reply = call("getAccountHistory");
-  EXPECT_EQ(valueOf(reply, "sXmlAccountHistory").replace("&#xD;", "\r").replace("&#x9;", "\t"),
-            "1\t01/03/2026 12:00:00\t-0.05\tSMS to 1 number\r\n"
-            "2\t01/03/2026 12:00:00\t-0.10\tSMS to 2 numbers\r\n");
-}
-
-TEST_F(GatewayOperations, passwordAndSenderIdAreJudged) {
+TEST_F(GatewayOperations, passwordAndSenderIdAreValidated) {
   const auto change = [this](const QByteArray& from, const QByteArray& to) {
     return codeOf("setAccountPassword", text("sOldPassword", from) + text("sNewPassword", to));
   };
@@ -216,7 +197,7 @@ TEST_F(GatewayOperations, passwordAndSenderIdAreJudged) {
     EXPECT_EQ(setSender(bad), "12") << bad;
 }
 
-TEST_F(GatewayOperations, partnerKeepsUsersOfHisOwn) {
+TEST_F(GatewayOperations, partnerManagesSubUsers) {
   const QByteArray user = text("sUser", "ann@demo");
   EXPECT_EQ(codeOf("partnerAddUser", user + text("sEmail", "ann@parlexo.example")), "0");
   EXPECT_EQ(codeOf("partnerAddUser", user + text("sEmail", "")), "13") << "taken";
@@ -252,7 +233,7 @@ TEST_F(GatewayOperations, everyOperationOfTheContractIsAnswered) {
   EXPECT_THAT(valueOf(client().call("getNews", {}), "sNews").toStdString(), HasSubstr("simulator"));
 }
 
-TEST_F(GatewayOperations, requestThatIsNoProperCallGetsASoapFault) {
+TEST_F(GatewayOperations, malformedCallGetsASoapFault) {
   QByteArray wrongAction = postRequest("getVersion", {});
   wrongAction.replace("PortType#getVersion", "PortType#getNews");
   QByteArray notXml = postRequest("getVersion", {});
@@ -266,5 +247,4 @@ TEST_F(GatewayOperations, requestThatIsNoProperCallGetsASoapFault) {
 }
 
 }  // namespace
-
-}  // namespace parlexo::simulator
+}  // namespace parlexo::test

@@ -1,31 +1,22 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <QCoreApplication>
 #include <QProcess>
-#include <gmock/gmock.h>
 
 #include "simulator/command_line.h"
 #include "simulator/message_text.h"
 #include "tests/simulator/raw_client.h"
+#include "tests/support/test.h"
 
-namespace parlexo::simulator {
-
-using namespace Qt::StringLiterals;
-
+namespace parlexo::test {
 namespace {
 
-using testing::HasSubstr;
-using testing::StartsWith;
-
+using namespace simulator;
 QString program() {
   return QCoreApplication::applicationDirPath() + u"/parlexo-simulator"_s;
 }
 
-TEST(CommandLine, saysWhatIsWrong) {
-  struct Case {
-    const char* arguments;
-    const char* problem;
-  };
-  const Case cases[] = {
+TEST(CommandLine, problemIsReported) {
+  const Cases<const char*, const char*> cases = {
       {"--colour red", "unknown option \"--colour\""},
       {"--port 70000", "--port 70000: needs a port from 0 to 65535"},
       {"--listen nowhere", "--listen nowhere: needs an IP address"},
@@ -33,9 +24,8 @@ TEST(CommandLine, saysWhatIsWrong) {
       {"--latency -1", "--latency -1: needs a time in milliseconds"},
       {"--fault x", "--fault x: expected OPERATION:KIND"},
   };
-  for (const Case& each : cases)
-    EXPECT_EQ(readCommandLine(QString::fromLatin1(each.arguments).split(u' ')).problem.toStdString(),
-              each.problem);
+  for (const auto& [arguments, problem] : cases)
+    EXPECT_EQ(readCommandLine(QString::fromLatin1(arguments).split(u' ')).problem.toStdString(), problem);
 }
 
 TEST(GatewayProgram, servesUntilItIsAskedToEnd) {
@@ -63,13 +53,7 @@ TEST(GatewayProgram, badOptionEndsItWithAMessage) {
 }
 
 TEST(MessageText, countsUnitsAndParts) {
-  struct Case {
-    QByteArray raw;
-    int units;
-    int parts;
-    bool unicode;
-  };
-  const Case cases[] = {
+  const Cases<QByteArray, int, int, bool> cases = {
       {QByteArray(160, 'x'), 160, 1, false},
       {QByteArray(161, 'x'), 161, 2, false},
       {QByteArray(80, '\xA4') + "x", 161, 2, false},
@@ -77,18 +61,17 @@ TEST(MessageText, countsUnitsAndParts) {
       {"%%UNICODE%%" + QByteArray("20AC").repeated(135), 135, 3, true},
       {"%%UNICODE%%123", 14, 1, false},
   };
-  for (const Case& each : cases) {
-    const MessageText text = readMessageText(each.raw);
-    EXPECT_EQ(text.units, each.units) << each.raw.left(20).toStdString();
-    EXPECT_EQ(text.parts, each.parts) << each.raw.left(20).toStdString();
-    EXPECT_EQ(text.unicode, each.unicode) << each.raw.left(20).toStdString();
+  for (const auto& [raw, units, parts, unicode] : cases) {
+    const MessageText text = readMessageText(raw);
+    EXPECT_EQ(text.units, units) << raw.left(20).toStdString();
+    EXPECT_EQ(text.parts, parts) << raw.left(20).toStdString();
+    EXPECT_EQ(text.unicode, unicode) << raw.left(20).toStdString();
   }
 }
 
-TEST(MessageText, logLineHoldsNoControlCharacter) {
+TEST(MessageText, logLineHasNoControlCharacters) {
   EXPECT_EQ(forLog(u"a\r\nb\nc\x1B[31m\r"_s), u"a⏎b⏎c\\x1b[31m\\x0d"_s);
 }
 
 }  // namespace
-
-}  // namespace parlexo::simulator
+}  // namespace parlexo::test

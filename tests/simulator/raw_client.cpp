@@ -4,7 +4,7 @@
 #include <QElapsedTimer>
 #include <QHostAddress>
 
-namespace parlexo::simulator {
+namespace parlexo::test {
 
 namespace {
 
@@ -46,19 +46,16 @@ QByteArray RawClient::logIn() const {
   return valueOf(call("sessionStart", text("sUser", "demo") + text("sPassword", "demo1234")), "sSession");
 }
 
-QByteArray soapEnvelope(const QByteArray& operation, const QByteArray& fields) {
-  return "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
-         "<SOAP-ENV:Envelope xmlns:SOAP-ENV=\"http://schemas.xmlsoap.org/soap/envelope/\" "
-         "xmlns:SOAP-ENC=\"http://schemas.xmlsoap.org/soap/encoding/\" "
-         "xmlns:xsi=\"http://www.w3.org/2001/XMLSchema-instance\" "
-         "xmlns:xsd=\"http://www.w3.org/2001/XMLSchema\" "
-         "xmlns:ns3=\"http://www.parlexo.example/onlineCommunication/binding\">"
-         "<SOAP-ENV:Body SOAP-ENV:encodingStyle=\"http://schemas.xmlsoap.org/soap/encoding/\"><ns3:" +
-         operation + ">" + fields + "</ns3:" + operation + "></SOAP-ENV:Body></SOAP-ENV:Envelope>";
-}
-
 QByteArray postRequest(const QByteArray& operation, const QByteArray& fields) {
-  const QByteArray body = soapEnvelope(operation, fields);
+  const QByteArray body =
+      "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
+      "<SOAP-ENV:Envelope xmlns:SOAP-ENV=\"http://schemas.xmlsoap.org/soap/envelope/\" "
+      "xmlns:SOAP-ENC=\"http://schemas.xmlsoap.org/soap/encoding/\" "
+      "xmlns:xsi=\"http://www.w3.org/2001/XMLSchema-instance\" "
+      "xmlns:xsd=\"http://www.w3.org/2001/XMLSchema\" "
+      "xmlns:ns3=\"http://www.parlexo.example/onlineCommunication/binding\">"
+      "<SOAP-ENV:Body SOAP-ENV:encodingStyle=\"http://schemas.xmlsoap.org/soap/encoding/\"><ns3:" +
+      operation + ">" + fields + "</ns3:" + operation + "></SOAP-ENV:Body></SOAP-ENV:Envelope>";
   return "POST /ccx/onlineCommunication HTTP/1.1\r\nHost: localhost\r\nConnection: close\r\n"
          "Content-Type: text/xml; charset=utf-8\r\nContent-Length: " +
          QByteArray::number(body.size()) +
@@ -85,4 +82,4 @@ int statusOf(const QByteArray& reply) {
   return reply.startsWith("HTTP/1.1 ") ? reply.mid(9, 3).toInt() : 0;
 }
 
-}  // namespace parlexo::simulator
+}  // namespace parlexo::test

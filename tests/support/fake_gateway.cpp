@@ -8,7 +8,7 @@
 
 #include "protocol/socket_calls.h"
 
-namespace parlexo::testing {
+namespace parlexo::test {
 
 namespace {
 
@@ -16,7 +16,7 @@ using protocol::Direction;
 
 constexpr std::chrono::milliseconds waitingSlice{20};
 
-/// Waits in slices so that the server can be stopped at any moment.
+/// Waits in slices, so that the server can be stopped.
 bool waitToRead(SOAP_SOCKET socket, const std::atomic<bool>& isStopping) {
   while (!isStopping) {
     if (protocol::waitForSocket(socket, Direction::Receiving, waitingSlice) > 0) return true;
@@ -154,4 +154,4 @@ int closedPort() {
   return port;
 }
 
-}  // namespace parlexo::testing
+}  // namespace parlexo::test

@@ -5,11 +5,10 @@
 
 #include "connection/client/background_queue.h"
 
-namespace parlexo {
+namespace parlexo::test {
 
-/// Runs an exchange only when the test says so, on the calling thread.
-class SteppingWorker final : public BackgroundWorker {
- public:
+/// Runs a task on the calling thread when the test calls finish().
+struct SteppingWorker final : BackgroundWorker {
   void start(CallRunner::Task exchange, std::function<void()> onEnd) override {
     exchange_ = std::move(exchange);
     onEnd_ = std::move(onEnd);
@@ -20,7 +19,7 @@ class SteppingWorker final : public BackgroundWorker {
   [[nodiscard]] bool isBusy() const { return onEnd_ != nullptr; }
   [[nodiscard]] bool isCancelled() const { return cancel_.isRaised(); }
 
-  /// Runs the exchange under way and reports its end.
+  /// Runs the pending task and reports its end.
   void finish() {
     std::exchange(exchange_, nullptr)(cancel_);
     std::exchange(onEnd_, nullptr)();
@@ -32,4 +31,4 @@ class SteppingWorker final : public BackgroundWorker {
   CancelFlag cancel_;
 };
 
-}  // namespace parlexo
+}  // namespace parlexo::test

@@ -1,14 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "connection/screens/upgrade_dlg.h"
 
-#include <QLabel>
-#include <QTest>
-#include <gmock/gmock.h>
+#include "tests/support/widgets.h"
 
-namespace parlexo {
-
-using namespace Qt::StringLiterals;
-
+namespace parlexo::test {
 namespace {
 
 QStringList visibleTexts(const CUpgradeDlg& dialog) {
@@ -19,7 +14,7 @@ QStringList visibleTexts(const CUpgradeDlg& dialog) {
   return texts;
 }
 
-TEST(UpgradeDialog, tellsTheNewVersionOnlyWhenItIsKnown) {
+TEST(UpgradeDialog, showsTheNewVersionIfItIsKnown) {
   EXPECT_EQ(visibleTexts(CUpgradeDlg(QString())).size(), 2);
   EXPECT_EQ(visibleTexts(CUpgradeDlg(u"2.30%1"_s)).value(1), u"A new version 2.30%1 is now available!"_s);
 }
@@ -40,4 +35,4 @@ TEST(UpgradeDialog, downloadOpensThePageAndCancelCloses) {
 }
 
 }  // namespace
-}  // namespace parlexo
+}  // namespace parlexo::test

@@ -1,26 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include <string>
-#include <vector>
-
-#include <QFile>
-#include <QStringList>
-#include <QTemporaryDir>
-#include <gmock/gmock.h>
 
 #include "base/call_runner.h"
 #include "contacts/import/delimited_file.h"
 #include "contacts/import/delimited_parser.h"
 #include "tests/support/file_bytes.h"
+#include "tests/support/test.h"
 
-namespace parlexo {
-
-using namespace Qt::StringLiterals;
-
+namespace parlexo::test {
 namespace {
 
-using testing::HasSubstr;
-
-/// The rows in one line: cells between bars, a slash behind each row.
+/// The rows in one line: bars between cells, a slash after each row.
 std::string rowsOf(const Sheet& sheet) {
   QString all;
   for (int row = 0; row < sheet.rowCount(); ++row) {
@@ -37,7 +26,7 @@ struct Parsed {
   QString problem;
 };
 
-/// `step` characters at a time, as chunks of a file may cut the text anywhere.
+/// Feeds `step` characters at a time.
 Parsed parse(const QString& text, int step, const ImportLimits& limits = {}, QChar delimiter = u',') {
   Parsed parsed;
   DelimitedParser parser(delimiter, limits, limits.rows + 1, parsed.sheet);
@@ -68,7 +57,7 @@ TEST(DelimitedParser, readsWhatProgramsWrite) {
     }
 }
 
-TEST(DelimitedParser, tellsTheLineOfWhatIsBrokenOrTooMuch) {
+TEST(DelimitedParser, reportsTheLineOfAnError) {
   ImportLimits small;
   small.columns = 3;
   small.rows = 4;
@@ -86,8 +75,7 @@ TEST(DelimitedParser, tellsTheLineOfWhatIsBrokenOrTooMuch) {
     EXPECT_THAT(parse(text, 3, small).problem.toStdString(), HasSubstr(problem)) << text.toStdString();
 }
 
-class DelimitedFileTest : public testing::Test {
- protected:
+struct DelimitedFileTest : testing::Test {
   QString write(const QByteArray& bytes) { return writeBytes(folder_.filePath("file.csv"), bytes); }
   [[nodiscard]] SheetReading read(const QString& path) const {
     return readDelimited(path, detectFormat(path, {}, cancel_), {}, cancel_);
@@ -97,7 +85,7 @@ class DelimitedFileTest : public testing::Test {
   CancelFlag cancel_;
 };
 
-TEST_F(DelimitedFileTest, findsEncodingAndDelimiterByItself) {
+TEST_F(DelimitedFileTest, detectsEncodingAndDelimiter) {
   const std::string read = "Name|Phone/Zo\u00eb|1,5/";
   const std::vector<std::pair<QByteArray, const char*>> cases = {
       {"Name;Phone\nZo\xC3\xAB;1,5\n", "UTF-8"},
@@ -116,12 +104,12 @@ TEST_F(DelimitedFileTest, findsEncodingAndDelimiterByItself) {
   EXPECT_EQ(detectFormat(even, {}, cancel_).delimiter, u';') << "leaves a column of numbers";
 }
 
-TEST_F(DelimitedFileTest, judgesTheEncodingByTheWholeFile) {
+TEST_F(DelimitedFileTest, detectsTheEncodingOfTheWholeFile) {
   QByteArray late(600'000, 'a');
   for (qsizetype at = 100; at < late.size(); at += 100) late[at] = '\n';
   EXPECT_EQ(detectFormat(write(late), {}, cancel_).encoding, TextEncoding::Utf8);
   EXPECT_EQ(detectFormat(write(late + '\xEB'), {}, cancel_).encoding, TextEncoding::CodePage);
-  // Both halves of the letter lie in different chunks.
+  // The two bytes of the letter are in different chunks.
   late.replace((1 << 18) - 1, 2, "\xC3\xAB");
   const QString path = write(late);
   EXPECT_EQ(detectFormat(path, {}, cancel_).encoding, TextEncoding::Utf8);
@@ -129,7 +117,7 @@ TEST_F(DelimitedFileTest, judgesTheEncodingByTheWholeFile) {
   EXPECT_TRUE(all.sheet.cell((1 << 18) / 100, 0).contains(u'\u00eb'));
 }
 
-TEST_F(DelimitedFileTest, turnsAwayWhatCanNotBeImported) {
+TEST_F(DelimitedFileTest, rejectsUnsuitableFiles) {
   ImportLimits small;
   small.fileBytes = 3 << 20;
   QFile large(folder_.filePath(u"large.csv"_s));
@@ -144,4 +132,4 @@ TEST_F(DelimitedFileTest, turnsAwayWhatCanNotBeImported) {
 }
 
 }  // namespace
-}  // namespace parlexo
+}  // namespace parlexo::test

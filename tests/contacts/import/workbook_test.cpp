@@ -2,11 +2,6 @@
 #include <algorithm>
 #include <random>
 
-#include <QDir>
-#include <QStringList>
-#include <QTemporaryDir>
-#include <gmock/gmock.h>
-
 #include "contacts/import/binary_records.h"
 #include "contacts/import/compound_file.h"
 #include "contacts/import/number_format.h"
@@ -14,11 +9,10 @@
 #include "contacts/import/workbook_builder.h"
 #include "contacts/import/workbook_xml.h"
 #include "tests/support/file_bytes.h"
+#include "tests/support/test.h"
 
-namespace parlexo {
+namespace parlexo::test {
 namespace {
-
-using testing::HasSubstr;
 
 QString sample(const char* name) {
   return QStringLiteral(SAMPLE_FOLDER) + QLatin1String(name);
@@ -109,14 +103,11 @@ TEST(CompoundFile, survivesAnyBytes) {
   }
 }
 
-TEST(WorkbookXml, givesUpOnWhatIsMadeToFillTheMemory) {
+TEST(WorkbookXml, rejectsDocumentsThatWouldFillTheMemory) {
   const auto nested = [](int depth) {
     return "<t>" + QByteArray("<a>").repeated(depth) + "x" + QByteArray("</a>").repeated(depth) + "</t>";
   };
-  const struct {
-    QByteArray document;
-    bool isRead;
-  } cases[] = {
+  const Cases<QByteArray, bool> cases = {
       {nested(100), true},
       {nested(1'000'000), false},
       {"<!DOCTYPE t [<!ENTITY e \"<a><a>\">]><t>x</t>", false},
@@ -141,7 +132,7 @@ TEST(WorkbookBuilder, gapsInFrontOfCellsCountLikeCells) {
   EXPECT_THAT(builder.problem().toStdString(), HasSubstr("more than 10 cells"));
 }
 
-TEST(NumberFormat, keepsAllDigitsAndKnowsDates) {
+TEST(NumberFormat, keepsAllDigitsAndDetectsDates) {
   EXPECT_EQ(numberText(u"61412345678901234567"), "61412345678901234567");
   EXPECT_EQ(numberText(u"6.1412345678E10"), "61412345678");
   EXPECT_EQ(numberText(u"0.1"), "0.1");
@@ -159,4 +150,4 @@ TEST(NumberFormat, keepsAllDigitsAndKnowsDates) {
 }
 
 }  // namespace
-}  // namespace parlexo
+}  // namespace parlexo::test

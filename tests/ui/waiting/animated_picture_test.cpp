@@ -1,14 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/waiting/animated_picture.h"
 
-#include <utility>
-#include <vector>
+#include "tests/support/widgets.h"
 
-#include <QElapsedTimer>
-#include <QTest>
-#include <gtest/gtest.h>
-
-namespace parlexo {
+namespace parlexo::test {
 namespace {
 
 const QColor ground(214, 239, 255);
@@ -74,4 +69,4 @@ TEST(AnimatedPicture, brokenDataLeavesItBlank) {
 }
 
 }  // namespace
-}  // namespace parlexo
+}  // namespace parlexo::test
