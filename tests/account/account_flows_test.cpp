@@ -41,7 +41,7 @@ TEST(HistoryDate, isOrderedByTimeInTheUsualForm) {
 
 class AccountHistory : public testing::Test, protected AccountRig {};
 
-TEST_F(AccountHistory, arrivesFieldByFieldOverTheWire) {
+TEST_F(AccountHistory, isReadFromTheGateway) {
   const QDateTime date({2026, 1, 2}, {3, 4, 5}, Qt::UTC);
   simulator.rememberTransaction("demo", -0.05, date, u"SMS <to> Zoë & 1 €"_s);
   simulator.rememberTransaction("demo", 100, date.addDays(1), QString());
@@ -70,7 +70,7 @@ struct EmailPreferencesTest : testing::Test, AccountRig {
   EmailPreferencesFlow flow{services()};
 };
 
-TEST_F(EmailPreferencesTest, everySettingArrivesInItsOwnPlaceAndComesBack) {
+TEST_F(EmailPreferencesTest, everySettingRoundTrips) {
   // One flag at a time: two swapped flags would otherwise go unnoticed.
   for (int flag = 0; flag < 4; ++flag) {
     EmailPreferences wanted{.isEnabled = true,
@@ -89,7 +89,7 @@ TEST_F(EmailPreferencesTest, everySettingArrivesInItsOwnPlaceAndComesBack) {
     EXPECT_EQ(held.filter, flag == 3);
     EXPECT_EQ(held.address3, "d@e.example");
   }
-  EXPECT_THAT(notifier.takeTexts(), Each("Saved email messaging preferences"));
+  EXPECT_THAT(notifier.popTexts(), Each("Saved email messaging preferences"));
 }
 
 TEST_F(EmailPreferencesTest, failedSaveNamesItsCause) {
@@ -171,7 +171,7 @@ struct PasswordChange : testing::Test, AccountRig {
   }
 };
 
-TEST_F(PasswordChange, brokenRulesAreReportedInOrderBeforeAnyCall) {
+TEST_F(PasswordChange, invalidInputIsReportedInOrderBeforeAnyCall) {
   const Cases<PasswordDraft, const char*, PasswordField> cases = {
       {{"abcd1", "short", "x"}, oldLength, PasswordField::Old},
       {{"abcdefghij1", "abc123", "abc123"}, oldLength, PasswordField::Old},
@@ -185,7 +185,7 @@ TEST_F(PasswordChange, brokenRulesAreReportedInOrderBeforeAnyCall) {
   };
   for (const auto& [draft, text, field] : cases) {
     EXPECT_EQ(change(draft), field);
-    EXPECT_EQ(notifier.takeLines(), QStringList(QString("16 ") + text)) << qPrintable(draft.retyped);
+    EXPECT_EQ(notifier.popLines(), QStringList(QString("16 ") + text)) << qPrintable(draft.retyped);
   }
   EXPECT_TRUE(operations().isEmpty());
   for (const char* good : {"abcde1", "abcdefghi1"})

@@ -96,17 +96,8 @@ TEST(NewsDlg, showsMarkupAsTextAndOpensWebAddressesByKeyboard) {
   EXPECT_EQ(text->toPlainText(), news) << "the page is not loaded into the dialog";
   Q_EMIT text->anchorClicked(QUrl(u"file:///etc/passwd"_s));
   EXPECT_EQ(opened.size(), 1);
-  QTest::keyClick(dialog.findChild<QWidget*>(u"ok"_s), Qt::Key_Return);
+  QTest::keyClick(&child(dialog, "ok"), Qt::Key_Return);
   EXPECT_FALSE(dialog.isVisible());
-}
-
-QStringList visibleTexts(const QWidget& page) {
-  QStringList texts;
-  for (const auto* child : page.findChildren<QWidget*>()) {
-    const QString text = child->property("text").toString();
-    if (child->isVisible() && !text.isEmpty()) texts << text;
-  }
-  return texts;
 }
 
 TEST(ReceiveMessagesPage, showsTheNumbersOfTheCurrentUser) {

@@ -72,7 +72,7 @@ TEST_F(SettingsPage, refreshLoadsMissingPreferencesButKeepsUserInput) {
     open();
     EXPECT_EQ(edit("identityCode").text(), QString());
   }
-  EXPECT_THAT(notifier.takeTexts(), IsEmpty());
+  EXPECT_THAT(notifier.popTexts(), IsEmpty());
   simulator.clearFaults();
   page_->refresh();
   EXPECT_EQ(edit("identityCode").text(), u"held"_s);
@@ -110,7 +110,7 @@ TEST_F(SettingsPage, chosenFolderIsStoredWithAWarning) {
   const QString before = settings.templatesFolder();
   press("templatesBrowseButton");
   EXPECT_EQ(settings.templatesFolder(), before);
-  EXPECT_THAT(notifier.takeTexts(), IsEmpty()) << "cancelled";
+  EXPECT_THAT(notifier.popTexts(), IsEmpty()) << "cancelled";
   chosen_ = folder.filePath("shared");
   for (const char* button : {"templatesBrowseButton", "contactsBrowseButton"}) press(button);
   EXPECT_EQ(edit("contactsFolder").text(), chosen_);

@@ -81,7 +81,7 @@ struct ContactsPage : DiskBook {
   int met_ = 0;
 };
 
-TEST_F(ContactsPage, foldersShowTheirContactsOrTheirInformation) {
+TEST_F(ContactsPage, foldersShowContactsOrInformation) {
   EXPECT_EQ(shown(), QStringList({"Ann", "Bob"})) << "the personal contacts come first";
   const std::pair<ContactFolder, QStringList> cases[] = {
       {{Kind::Group, "Team"}, {"Ann", "Cid"}},
@@ -102,7 +102,7 @@ TEST_F(ContactsPage, foldersShowTheirContactsOrTheirInformation) {
   EXPECT_EQ(columnCells(list(), 4), QStringList({"", "+61255501234"}));
 }
 
-TEST_F(ContactsPage, searchFindsInAllContactsAndAFolderEndsIt) {
+TEST_F(ContactsPage, searchCoversAllContactsUntilAFolderIsSelected) {
   QTest::keyClick(page_.get(), Qt::Key_F, Qt::ControlModifier);
   auto& search = the<QLineEdit>("contactSearch");
   ASSERT_TRUE(search.hasFocus());
@@ -118,16 +118,16 @@ TEST_F(ContactsPage, searchFindsInAllContactsAndAFolderEndsIt) {
   EXPECT_FALSE(book_.findContact("Cid")) << "what is found belongs to no group";
   EXPECT_EQ(shown(), QStringList());
   press("editButton");
-  EXPECT_EQ(notifier_.takeLines().last(), "64 Can only get properties on \"Group\" folders.");
+  EXPECT_EQ(notifier_.popLines().last(), "64 Can only get properties on \"Group\" folders.");
   choose(Kind::Group, "Team");
   EXPECT_EQ(search.text(), "");
   EXPECT_EQ(shown(), QStringList("Ann"));
 }
 
-TEST_F(ContactsPage, newContactGoesIntoTheSelectedGroupOnly) {
+TEST_F(ContactsPage, newContactIsAddedToTheSelectedGroup) {
   choose(Kind::Letter, "B");
   press("newContactButton");
-  EXPECT_EQ(notifier_.takeLines().size(), 1);
+  EXPECT_EQ(notifier_.popLines().size(), 1);
   choose(Kind::Group, "Team");
   inDialog<CContactDetailsDlg>([&](CContactDetailsDlg& dialog) {
     type(dialog, "nameEdit", QString::fromUtf8("  Bernd \u674E "));
@@ -141,7 +141,7 @@ TEST_F(ContactsPage, newContactGoesIntoTheSelectedGroupOnly) {
     click(dialog, "okButton");
   });
   press("newContactButton");
-  EXPECT_EQ(notifier_.takeLines().size(), 1);
+  EXPECT_EQ(notifier_.popLines().size(), 1);
   EXPECT_EQ(shown(), QStringList({"Ann", "Bernd ?", "Cid"}));
   EXPECT_EQ(list().selectedNames(), QStringList("Bernd ?"));
   reload();
@@ -149,7 +149,7 @@ TEST_F(ContactsPage, newContactGoesIntoTheSelectedGroupOnly) {
   EXPECT_EQ(book_.findContact("Bernd ?")->supportsSms + book_.findContact("Bernd ?")->supportsMedia, "YN");
 }
 
-TEST_F(ContactsPage, cancelledContactStaysAsItWasAfterAFailedOk) {
+TEST_F(ContactsPage, cancelAfterAFailedOkChangesNothing) {
   list().selectNames({"Bob"});
   inDialog<CContactDetailsDlg>([&](CContactDetailsDlg& dialog) {
     EXPECT_TRUE(child<QLineEdit>(dialog, "nameEdit").isReadOnly());
@@ -168,7 +168,7 @@ TEST_F(ContactsPage, cancelledContactStaysAsItWasAfterAFailedOk) {
   EXPECT_EQ(list().selectedNames(), QStringList("Bob"));
 }
 
-TEST_F(ContactsPage, cancelledContactForAMessageIsNoEmptyAddition) {
+TEST_F(ContactsPage, cancelledContactAddsNothing) {
   QTimer::singleShot(0, page_.get(), [] { QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_N); });
   inDialog<CContactDetailsDlg>([](CContactDetailsDlg& dialog) { dialog.reject(); });
   EXPECT_EQ(addOrImportContacts(services(), the<QAbstractButton>("newContactButton")), std::nullopt);
@@ -203,7 +203,7 @@ TEST_F(ContactsPage, groupIsCreatedChangedAndDeleted) {
     click(dialog, "okButton");
   });
   press("newGroupButton");
-  EXPECT_EQ(notifier_.takeLines(), QStringList("16 Group name cannot be blank"));
+  EXPECT_EQ(notifier_.popLines(), QStringList("16 Group name cannot be blank"));
   EXPECT_EQ(tree().selected(), (ContactFolder{Kind::Group, "Choir 1"}));
   EXPECT_EQ(shown(), QStringList({"Ann", "Dan"}));
 
@@ -223,7 +223,7 @@ TEST_F(ContactsPage, groupIsCreatedChangedAndDeleted) {
     click(dialog, "okButton");
   });
   press("detailsButton");
-  EXPECT_EQ(notifier_.takeLines(),
+  EXPECT_EQ(notifier_.popLines(),
             QStringList("36 Are you sure you want to remove this contact from the group?"));
   EXPECT_EQ(shown(), QStringList("Dan"));
   EXPECT_EQ(columnCells(list(), 4), QStringList("+2"));
@@ -234,7 +234,7 @@ TEST_F(ContactsPage, groupIsCreatedChangedAndDeleted) {
   EXPECT_EQ(tree().selected(), ContactFolder());
 }
 
-TEST_F(ContactsPage, contactsAndGroupsWithoutNameAreSeenRenamedAndDeleted) {
+TEST_F(ContactsPage, contactsAndGroupsWithoutNameCanBeEdited) {
   addContact({});
   book_.createGroup({}, QStringList({QString(), "Ann"}));
   page_->refresh();
@@ -281,7 +281,7 @@ TEST_F(ContactsPage, contactsAndGroupsWithoutNameAreSeenRenamedAndDeleted) {
   EXPECT_TRUE(book_.findContact("Abe") && book_.findContact("Zed"));
 }
 
-TEST_F(ContactsPage, deletionFollowsTheFolder) {
+TEST_F(ContactsPage, deletionDependsOnTheFolder) {
   notifier_.answers = {MessageResult::Yes, MessageResult::Yes};
   choose(Kind::Group, "Team");
   list().selectAll();
@@ -297,7 +297,7 @@ TEST_F(ContactsPage, deletionFollowsTheFolder) {
   EXPECT_EQ(memberNames("My Personal Contacts"), QStringList("Bob"));
 }
 
-TEST_F(ContactsPage, exportsWhatIsShownOrAllContacts) {
+TEST_F(ContactsPage, exportsTheShownOrAllContacts) {
   QString suggested;
   QString path = folder_.filePath("out.csv");
   page_->setPathAsker([&](QWidget*, const QString& name) {
@@ -318,7 +318,7 @@ TEST_F(ContactsPage, exportsWhatIsShownOrAllContacts) {
   EXPECT_EQ(exportedRows({Kind::Root, {}}, "an"), 2);
   path = folder_.filePath("none/out.csv");
   press("exportButton");
-  EXPECT_EQ(notifier_.takeLines().size(), 1);
+  EXPECT_EQ(notifier_.popLines().size(), 1);
 }
 
 TEST_F(ContactsPage, refreshAndShowReloadTheBookAndKeepTheSelection) {

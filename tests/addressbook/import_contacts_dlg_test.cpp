@@ -58,7 +58,7 @@ TEST_F(ImportContactsDlgTest, previewShowsTheRowsAsTheyAreImported) {
   EXPECT_EQ(preview().columnCount(), 2);
   EXPECT_THAT(problem().toStdString(), HasSubstr("Choose the column"));
   dialog_.startImport();
-  EXPECT_EQ(notifier_.takeLines(), QStringList("16 " + problem()));
+  EXPECT_EQ(notifier_.popLines(), QStringList("16 " + problem()));
 }
 
 TEST_F(ImportContactsDlgTest, aBrokenFileIsReportedAndNotImported) {
@@ -73,7 +73,7 @@ TEST_F(ImportContactsDlgTest, aBrokenFileIsReportedAndNotImported) {
   dialog_.openFile(write(late + "\"never closed"));
   EXPECT_EQ(problem(), QString());
   click(dialog_, "importButton");
-  EXPECT_THAT(notifier_.takeLines().join(u'/').toStdString(), HasSubstr("Line 52"));
+  EXPECT_THAT(notifier_.popLines().join(u'/').toStdString(), HasSubstr("Line 52"));
   EXPECT_TRUE(book_.contacts().empty());
 }
 

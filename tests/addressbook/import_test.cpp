@@ -34,7 +34,7 @@ struct ContactImportTest : DiskBook {
     book_.createGroup("Other", {"Ann"});
   }
 
-  Sheet sheetOf(const QByteArray& text) {
+  Sheet parseSheet(const QByteArray& text) {
     const QString file = writeBytes(folder_.filePath("import.csv"), text);
     SheetReading reading = readDelimited(file, detectFormat(file, {}, {}), {}, {});
     EXPECT_TRUE(reading.problem.isEmpty());
@@ -42,7 +42,7 @@ struct ContactImportTest : DiskBook {
   }
 
   ImportOutcome import(const QByteArray& text, const QString& group = {}) {
-    sheet_ = sheetOf(text);
+    sheet_ = parseSheet(text);
     plan_.headingRow = findHeadingRow(sheet_);
     plan_.columns = suggestColumns(sheet_, plan_.headingRow);
     plan_.group = group;
@@ -82,7 +82,7 @@ TEST_F(ContactImportTest, addsRowsToBookAndGroup) {
   EXPECT_EQ(memberNames("Team"), QStringList({"Bob Brown (A-7)", "Cid"}));
 }
 
-TEST_F(ContactImportTest, refusesRowsWithTheirReason) {
+TEST_F(ContactImportTest, rejectedRowsHaveAReason) {
   const ImportOutcome outcome = import(
       "Name,Phone,Fax,Email\n"
       ",+61491570156,,\n"
@@ -184,8 +184,8 @@ TEST_F(ContactImportTest, cancelAndWriteErrorsEndTheImport) {
                         "Not dealt with: 1"));
 
   user_.cancelAt = 1000;
-  const Sheet sheets[] = {sheetOf("Name,Phone\nB,+61491570157\nC,+61491570157\n"),
-                          sheetOf("Name,Phone\nD,+61491570157\n")};
+  const Sheet sheets[] = {parseSheet("Name,Phone\nB,+61491570157\nC,+61491570157\n"),
+                          parseSheet("Name,Phone\nD,+61491570157\n")};
   loseFolder();
   user_.answer = {ImportUser::Choice::Overwrite, true};
   for (const Sheet& failing : sheets) {

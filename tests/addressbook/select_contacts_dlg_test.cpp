@@ -52,7 +52,7 @@ struct SelectContactsDlg : testing::Test {
 
   QString countLine() { return child<QLabel>(*dialog_, "countLine").text(); }
 
-  QStringList selected() const { return namesOf(dialog_->selection()); }
+  QStringList selected() const { return contactNames(dialog_->selection()); }
   FivePeople people_;
   RecordingNotifier notifier_;
   std::unique_ptr<CSelectContactsDlg> dialog_;
@@ -97,7 +97,7 @@ TEST_F(SelectContactsDlg, keyboardAloneTicksAndSelects) {
   EXPECT_EQ(selected(), QStringList());
 }
 
-TEST_F(SelectContactsDlg, columnsShowFaxNumbersInFaxModeAndPhoneNumbersElse) {
+TEST_F(SelectContactsDlg, columnsShowFaxNumbersInFaxMode) {
   open(people_, "Fax");
   EXPECT_EQ(columnCells(contacts(), 2), QStringList("+61255501234"));
   open(people_, "Phone");
@@ -199,7 +199,7 @@ TEST_F(SelectByExtraDlg, anEmptyChoiceIsRefused) {
   showActive(dialog);
   click(dialog, "selectButton");
   EXPECT_TRUE(dialog.isVisible());
-  EXPECT_EQ(notifier_.takeLines(),
+  EXPECT_EQ(notifier_.popLines(),
             QStringList("48 You have not selected one or more Extra properties you would like to "
                         "filter your Contacts on."));
   // A second click removes a value from the choice.
@@ -233,7 +233,7 @@ TEST_F(SelectByExtraDlg, searchKeepsTheChoice) {
   EXPECT_EQ(dialog.contacts().front()->name, "Hal");
 }
 
-TEST_F(SelectByExtraDlg, itsContactsAreTickedAsFarAsTheyAreEligible) {
+TEST_F(SelectByExtraDlg, eligibleContactsAreTicked) {
   open(people_, "SMS", {"Ann"});
   bool wasOpen = false;
   QTimer::singleShot(0, dialog_.get(), [&] {

@@ -32,7 +32,7 @@ ContactSelection pick(const SampleBook& sample, const QStringList& names) {
   return ContactSelection(contacts);
 }
 
-TEST(SelectionLists, modeDecidesWhoIsListed) {
+TEST(SelectionLists, modeLimitsTheContacts) {
   const Cases<const char*, QStringList> cases = {
       {"All", {"Ann", "bob", "Cid", "Dan", "eva"}},
       {"SMS", {"Ann", "bob"}},
@@ -49,7 +49,7 @@ TEST(SelectionLists, modeDecidesWhoIsListed) {
   }
 }
 
-TEST(SelectionLists, bothListsAreSortedWithoutRegardToCase) {
+TEST(SelectionLists, bothListsIgnoreCaseInTheirOrder) {
   SampleBook sample;
   for (const char* name :
        {"\u00e9mile", "ann", "Zoe", "Ann", "\u00c9va", "ANN", "bob", "a b", "Stra\u00dfe"}) {
@@ -71,7 +71,7 @@ TEST(SelectionLists, groupTicksAndUnticksItsEligibleMembersOnly) {
   const RowSpan changed = lists.setGroupTicked(team, true);
   EXPECT_TRUE(lists.isGroupTicked(team));
   EXPECT_FALSE(lists.isGroupTicked(rowOfGroup(lists, "all")));
-  EXPECT_EQ(namesOf(lists.tickedContacts()), QStringList({"Ann", "eva"}));
+  EXPECT_EQ(contactNames(lists.tickedContacts()), QStringList({"Ann", "eva"}));
   EXPECT_EQ(lists.tickedCount(), 2) << "contacts, not groups";
   EXPECT_EQ(changed.first, 0);
   EXPECT_EQ(changed.last, 1);
@@ -86,7 +86,7 @@ TEST(ContactSelection, isOrderedAndHasEachNameOnce) {
   FivePeople sample;
   sample.addContact("BOB");
   const ContactSelection selection = pick(sample, {"eva", "bob", "Dan", "BOB", "Ann", "eva"});
-  EXPECT_EQ(namesOf(selection), QStringList({"Ann", "BOB", "bob", "Dan", "eva"}));
+  EXPECT_EQ(contactNames(selection), QStringList({"Ann", "BOB", "bob", "Dan", "eva"}));
   EXPECT_TRUE(selection.contains("bob"));
   EXPECT_FALSE(selection.contains("Bob"));
   EXPECT_FALSE(selection.contains("Zed"));
@@ -106,7 +106,7 @@ class Staff : public SampleBook {
 };
 
 QStringList matching(const SampleBook& sample, const ExtraChoice& choice) {
-  QStringList names = namesOf(contactsMatching(sample.book(), choice));
+  QStringList names = contactNames(contactsMatching(sample.book(), choice));
   names.sort();
   return names;
 }
@@ -120,7 +120,7 @@ TEST(ExtraSelection, listsEveryNonEmptyValueOnceAndSorted) {
   EXPECT_EQ(values[5], QStringList("x"));
 }
 
-TEST(ExtraSelection, fieldsMustAllMatchAndValuesOfAFieldAreAlternatives) {
+TEST(ExtraSelection, combinesFieldsByAndAndValuesByOr) {
   const Cases<const char*, ExtraChoice, QStringList> cases = {
       {"two values of a field", {{{"Sydney", "Perth"}, {}, {}, {}, {}, {}}}, {"Ann", "Bob", "Cid"}},
       {"two fields", {{{"Sydney"}, {"Sales"}, {}, {}, {}, {}}}, {"Ann"}},
@@ -147,7 +147,7 @@ TextSearch sampleSearch() {
   return search;
 }
 
-TEST(TextSearch, findsTextsThatHoldEveryWord) {
+TEST(TextSearch, findsTextsWithAllWords) {
   const Cases<QString, Found> cases = {
       {"", {0, 1, 2, 3}},
       {"ANN", {0, 2}},

@@ -35,7 +35,7 @@ TEST_F(LoginDlgTest, refusedPasswordLeavesItOpenForAnotherAttempt) {
   EXPECT_EQ(password->text(), QString()) << "wiped, and not to be had back";
 }
 
-TEST_F(LoginDlgTest, firstStartBeginsWithTheUserNameAndCanBeCancelled) {
+TEST_F(LoginDlgTest, firstStartFocusesTheUserNameAndCanBeCancelled) {
   CLoginDlg dialog(flow, {});
   showActive(dialog);
   EXPECT_TRUE(dialog.findChild<QLineEdit*>(u"userName"_s)->hasFocus());

@@ -73,7 +73,7 @@ TEST_F(MainDlgTest, f5RefreshesTheBalanceAndThePageInFront) {
   EXPECT_EQ(behind->refreshes, 0);
 }
 
-TEST_F(MainDlgTest, balanceIsGreyUntilTheNextAnswer) {
+TEST_F(MainDlgTest, outdatedBalanceIsGrey) {
   const auto* balance = window_.findChild<QLineEdit*>(u"balance"_s);
   const QColor current = balance->palette().color(QPalette::Text);
   window_.setBalance(u"7.50"_s);
@@ -86,7 +86,7 @@ TEST_F(MainDlgTest, balanceIsGreyUntilTheNextAnswer) {
   EXPECT_TRUE(balance->accessibleDescription().isEmpty());
 }
 
-TEST_F(MainDlgTest, aPageLargerThanTheWindowCanStillBeReached) {
+TEST_F(MainDlgTest, largePageScrollsToTheFocus) {
   const auto makePage = [] {
     auto* page = pageWithButton(u"Near"_s);
     page->setMinimumSize(3000, 3000);
@@ -107,7 +107,7 @@ TEST_F(MainDlgTest, aPageLargerThanTheWindowCanStillBeReached) {
   EXPECT_FALSE(far->visibleRegion().isEmpty());
 }
 
-TEST_F(MainDlgTest, onlyExitCtrlQAndTheCloseBoxEndIt) {
+TEST_F(MainDlgTest, onlyExitCtrlQAndTheCloseButtonCloseIt) {
   QTest::keyClick(&window_, Qt::Key_Escape);
   QTest::keyClick(&window_, Qt::Key_Return);
   EXPECT_TRUE(window_.isVisible());
@@ -133,11 +133,11 @@ TEST_F(MainDlgTest, altESendsOnSendPagesAndExitsElsewhere) {
   EXPECT_EQ(sent.count(), 1);
 }
 
-TEST_F(MainDlgTest, aboutOpensOverTheMainWindowWhichIsNoModalDialog) {
+TEST_F(MainDlgTest, aboutOpensOverTheModelessMainWindow) {
   EXPECT_EQ(window_.windowType(), Qt::Window);
   EXPECT_FALSE(window_.isModal());
   QStringList versions;
-  const auto lookAtAbout = [&versions, this] {
+  const auto checkAbout = [&versions, this] {
     auto* about = qobject_cast<CAboutDlg*>(QApplication::activeModalWidget());
     if (!about) return;
     EXPECT_EQ(about->parentWidget(), &window_);
@@ -145,20 +145,19 @@ TEST_F(MainDlgTest, aboutOpensOverTheMainWindowWhichIsNoModalDialog) {
     versions << about->findChild<QLabel*>(u"version"_s)->text().section(u'\n', 0, 0);
     about->close();
   };
-  QTimer::singleShot(0, &window_, lookAtAbout);
+  QTimer::singleShot(0, &window_, checkAbout);
   QTest::keyClick(&window_, Qt::Key_F1);
-  QTimer::singleShot(0, &window_, lookAtAbout);
+  QTimer::singleShot(0, &window_, checkAbout);
   QTest::mouseClick(window_.findChild<HyperlinkLabel*>(u"about"_s), Qt::LeftButton);
   EXPECT_EQ(versions, QStringList({u"Parlexo Client v2.24"_s, u"Parlexo Client v2.24"_s}));
 }
 
-/// Closes the messages about the missing gateway, which pages call on creation.
-class ImpatientReader {
+/// Calls `act` every 10 ms with the window in front.
+class ScreenWatch {
  public:
-  ImpatientReader() {
-    QObject::connect(&timer_, &QTimer::timeout, [] {
-      if (auto* message = qobject_cast<CNotificationDlg*>(QApplication::activeModalWidget()))
-        message->close();
+  explicit ScreenWatch(const std::function<void(QWidget&)>& act) {
+    QObject::connect(&timer_, &QTimer::timeout, &timer_, [act] {
+      if (QWidget* front = frontWindow()) act(*front);
     });
     timer_.start(10);
   }
@@ -168,7 +167,10 @@ class ImpatientReader {
 };
 
 struct MainTabsTest : testing::Test {
-  ImpatientReader reader_;
+  // Closes the messages about the missing gateway, which pages call on creation.
+  ScreenWatch reader_{[](QWidget& front) {
+    if (auto* message = qobject_cast<CNotificationDlg*>(&front)) message->close();
+  }};
   QTemporaryDir folder_;
   RunState state_;
   Settings settings_{folder_.path()};
@@ -186,7 +188,7 @@ struct MainTabsTest : testing::Test {
                             {state_, settings_, gateway_, notifier_, progress_})};
 };
 
-TEST_F(MainTabsTest, pagesTellEachOtherWhatWasSent) {
+TEST_F(MainTabsTest, sendPagesUpdateTheStatusPage) {
   connectPages(window_);
   const auto* tabs = window_.findChild<QTabWidget*>();
   auto* sms = window_.findChild<CQuillonSMSDlg*>();
@@ -200,20 +202,6 @@ TEST_F(MainTabsTest, pagesTellEachOtherWhatWasSent) {
   EXPECT_EQ(type->currentText(), u"SMS"_s);
   EXPECT_EQ(tabs->tabText(tabs->currentIndex()), u"Status"_s);
 }
-
-/// Calls `act` every 10 ms with the window in front.
-class ScreenWatch {
- public:
-  explicit ScreenWatch(const std::function<void(QWidget&)>& act) {
-    QObject::connect(&timer_, &QTimer::timeout, &timer_, [act] {
-      if (QWidget* front = frontWindow()) act(*front);
-    });
-    timer_.start(10);
-  }
-
- private:
-  QTimer timer_;
-};
 
 TEST_F(MainTabsTest, balanceComesAfterThePagesAndAgainForAnotherUserOnly) {
   simulator::Options options;

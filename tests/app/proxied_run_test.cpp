@@ -38,16 +38,15 @@ class TinyProxy {
     while (!listensOn(port_) && !process_.waitForFinished(20) && !deadline.hasExpired()) {
     }
   }
-  ~TinyProxy() { stop(); }
+  ~TinyProxy() {
+    process_.kill();
+    process_.waitForFinished();
+  }
   TinyProxy(const TinyProxy&) = delete;
   TinyProxy& operator=(const TinyProxy&) = delete;
 
   [[nodiscard]] bool isRunning() const { return process_.state() == QProcess::Running; }
   [[nodiscard]] int port() const { return port_; }
-  void stop() {
-    process_.kill();
-    process_.waitForFinished();
-  }
 
   /// The logged request lines, such as "GET http://127.0.0.1:80/x HTTP/1.1", including refused ones.
   [[nodiscard]] QStringList requests() const {
@@ -118,7 +117,7 @@ struct ProxiedRun : RunTest {
   JournalProxyLogin login{journal};
 };
 
-TEST_F(ProxiedRun, rightLoginCarriesEveryCallButTheLast) {
+TEST_F(ProxiedRun, allCallsExceptTheLastUseTheProxy) {
   login.entered = mary();
   ASSERT_TRUE(search());
   EXPECT_EQ(journal, asked);
@@ -134,7 +133,7 @@ TEST_F(ProxiedRun, rightLoginCarriesEveryCallButTheLast) {
   EXPECT_EQ(proxy.refusals(), 1);
 }
 
-TEST_F(ProxiedRun, wrongLoginFailsAfterOneQuestion) {
+TEST_F(ProxiedRun, wrongLoginFailsAfterOneAttempt) {
   const Cases<const char*, ProxySettings, qsizetype> cases = {
       {"wrong password", mary(u"wrong"_s), 2},
       {"no host", {.password = u"s3cret-word"_s, .user = u"mary"_s, .host = {}, .port = proxy.port()}, 1},
@@ -163,7 +162,7 @@ TEST_F(ProxiedRun, cancelFailsAndStoresNothing) {
   EXPECT_TRUE(state.proxy.host.isEmpty());
 }
 
-TEST_F(ProxiedRun, proxyWithoutALoginCarriesTheCallsThatTheSettingsSendThroughIt) {
+TEST_F(ProxiedRun, proxyWithoutLoginIsUsedUnlessExcepted) {
   const std::string locator = httpReply(
       "<?xml version=\"1.0\"?>\n<server ip=\"gateway.invalid\" port=\"8080\" maxfilesize=\"1\" "
       "maxfilesizemobile=\"1\">\n<version product=\"client\" version=\"2.24\"/>\n");

@@ -104,7 +104,7 @@ TEST_F(LoginFlowTest, acceptedLoginReplacesSessionAndIsRemembered) {
   EXPECT_EQ(journal, Journal());
 }
 
-TEST_F(LoginFlowTest, acceptanceWithoutTokenClosesTheDialogAndStoresNothing) {
+TEST_F(LoginFlowTest, acceptedLoginWithoutTokenStoresNothing) {
   setFault(FaultKind::Code, u"sessionStart"_s, 0);
   EXPECT_EQ(attempt(u"demo"_s, u"demo1234"_s), LoginOutcome::Accepted);
   expectNothingStored();
@@ -209,7 +209,7 @@ TEST_F(ShutDownTest, runWithoutSessionMakesNoCall) {
   EXPECT_THAT(simulator.calledOperations(), ElementsAre(u"locator"_s));
 }
 
-TEST_F(ShutDownTest, sessionIsClosedPastTheProxyThatOtherCallsUse) {
+TEST_F(ShutDownTest, sessionIsClosedWithoutTheProxy) {
   ASSERT_TRUE(locate());
   ASSERT_EQ(LoginFlow(state, settings, gateway, notifier).attempt(u"demo"_s, u"demo1234"_s),
             LoginOutcome::Accepted);

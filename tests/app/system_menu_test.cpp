@@ -12,7 +12,7 @@
 namespace parlexo::test {
 namespace {
 
-TEST(SystemMenu, endsWithTheEntryThatOpensTheAboutBox) {
+TEST(SystemMenu, endsWithTheAboutEntry) {
   CMainDlg window({});
   QSignalSpy opened(&window, &CMainDlg::opened);
   window.show();

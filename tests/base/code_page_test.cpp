@@ -7,7 +7,7 @@
 namespace parlexo::test {
 namespace {
 
-TEST(CodePage, everyByteSurvivesTheTripToTextAndBack) {
+TEST(CodePage, everyByteRoundTrips) {
   QByteArray all;
   for (int byte = 0; byte < 256; ++byte) all.append(static_cast<char>(byte));
   const QString text = fromCodePage(all);
@@ -35,7 +35,7 @@ TEST(CodePage, textsHaveTheBytesOfTheTable) {
   }
 }
 
-TEST(UnsendableCharacters, areListedOnceAsTheReaderSeesThem) {
+TEST(UnsendableCharacters, areListedOnceInReadableForm) {
   const QString family = QString::fromUtf8("\U0001F468\u200D\U0001F469");
   EXPECT_EQ(unsendableCharacters(QString::fromUtf8("\u4F60a\u20AC\u00E9\u4F60\u200B\u0161 ") + family),
             QStringList({QString::fromUtf8("\u4F60"), "U+200B", family}));

@@ -7,7 +7,7 @@
 namespace parlexo::test {
 namespace {
 
-QByteArray lineOf(const QStringList& cells, CsvCells kind) {
+QByteArray csvLine(const QStringList& cells, CsvCells kind) {
   CsvWriter csv(kind);
   csv.addRow(cells);
   return csv.bytes().mid(3);
@@ -24,12 +24,12 @@ TEST(CsvWriter, quotesOnlyTheCellsThatNeedIt) {
       {{QString(), QString()}, ",\r\n"},
   };
   for (const auto& [cells, line] : cases) {
-    EXPECT_EQ(lineOf(cells, CsvCells::AsTheyAre), line) << line.constData();
-    EXPECT_EQ(lineOf(cells, CsvCells::Harmless), line) << line.constData();
+    EXPECT_EQ(csvLine(cells, CsvCells::AsTheyAre), line) << line.constData();
+    EXPECT_EQ(csvLine(cells, CsvCells::Harmless), line) << line.constData();
   }
 }
 
-TEST(CsvWriter, formulasBecomeTextsWhereTheFileIsForPeople) {
+TEST(CsvWriter, formulasAreEscapedInHarmlessCells) {
   const Cases<QString, QByteArray, QByteArray> cases = {
       {u"=1+1"_s, "'=1+1", "=1+1"},
       {u"+61491570156"_s, "'+61491570156", "+61491570156"},
@@ -43,12 +43,12 @@ TEST(CsvWriter, formulasBecomeTextsWhereTheFileIsForPeople) {
       {u"1+1=2"_s, "1+1=2", "1+1=2"},
   };
   for (const auto& [cell, harmless, asItIs] : cases) {
-    EXPECT_EQ(lineOf({cell}, CsvCells::Harmless), harmless + "\r\n");
-    EXPECT_EQ(lineOf({cell}, CsvCells::AsTheyAre), asItIs + "\r\n");
+    EXPECT_EQ(csvLine({cell}, CsvCells::Harmless), harmless + "\r\n");
+    EXPECT_EQ(csvLine({cell}, CsvCells::AsTheyAre), asItIs + "\r\n");
   }
 }
 
-TEST(CsvWriter, replacesAFileAsAWholeOrLeavesItAlone) {
+TEST(CsvWriter, savesAtomically) {
   const QTemporaryDir folder;
   const QString path = folder.filePath(u"list.csv"_s);
   CsvWriter csv(CsvCells::AsTheyAre);

@@ -11,7 +11,7 @@ struct ServiceHost : testing::Test {
   void TearDown() override { setServiceHost({}); }
 };
 
-TEST_F(ServiceHost, pagesFollowTheChosenHostAndFallBackToTheCompiledOne) {
+TEST_F(ServiceHost, pagesUseTheChosenOrTheDefaultHost) {
   EXPECT_EQ(webPage(u"/signup.php"_s), u"https://"_s + defaultServiceHost() + u"/signup.php"_s);
   setServiceHost(u"gateway.example.org"_s);
   EXPECT_EQ(webPage(u"/signup.php"_s), u"https://gateway.example.org/signup.php"_s);

@@ -35,7 +35,7 @@ TEST(Secret, wipeDoesNotChangeSharedTexts) {
   EXPECT_EQ(other, u"demo1234"_s);
 }
 
-TEST(Secret, travelsInTheCodePage) {
+TEST(Secret, isEncodedInTheCodePage) {
   EXPECT_EQ(static_cast<const std::string&>(Secret(u"p\u00E4ss\u20AC"_s)), "p\xE4ss\x80");
   EXPECT_EQ(static_cast<const std::string&>(Secret({})), "");
 }

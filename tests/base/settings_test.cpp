@@ -17,7 +17,7 @@ struct SettingsTest : testing::Test {
   QTemporaryDir folder_;
 };
 
-TEST_F(SettingsTest, emptyStoreGivesDefaultsThatAreNotWrittenBack) {
+TEST_F(SettingsTest, defaultsAreNotWritten) {
   {
     Settings settings(folder_.path());
     EXPECT_EQ(settings.contactsFolder(), path(u"contacts"_s));
@@ -72,7 +72,7 @@ TEST_F(SettingsTest, handEditedValuesAreRead) {
   EXPECT_EQ(settings.columnWidths(u"list"_s), QList<int>({0, 0, 4000, 80}));
 }
 
-TEST_F(SettingsTest, folderIsReadOnceAndFollowsItsSetter) {
+TEST_F(SettingsTest, folderIsCached) {
   Settings settings(folder_.path());
   Settings other(folder_.path());
   settings.setContactsFolder(u"/first"_s);

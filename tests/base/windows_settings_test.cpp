@@ -32,7 +32,7 @@ class OwnHive {
   HKEY key_ = nullptr;
 };
 
-std::wstring keyOf(const wchar_t* section) {
+std::wstring registryKey(const wchar_t* section) {
   return std::wstring(L"Software\\Parlexo\\Parlexo Client\\") + section;
 }
 
@@ -40,18 +40,18 @@ std::wstring keyOf(const wchar_t* section) {
 std::wstring stored(const wchar_t* section, const wchar_t* value) {
   std::array<wchar_t, 1000> text{};
   DWORD bytes = sizeof text;
-  const LSTATUS status = RegGetValueW(HKEY_CURRENT_USER, keyOf(section).c_str(), value, RRF_RT_REG_SZ,
+  const LSTATUS status = RegGetValueW(HKEY_CURRENT_USER, registryKey(section).c_str(), value, RRF_RT_REG_SZ,
                                       nullptr, text.data(), &bytes);
   return status == ERROR_SUCCESS ? text.data() : L"(none)";
 }
 
 void store(const wchar_t* section, const wchar_t* value, const std::wstring& text) {
-  EXPECT_EQ(RegSetKeyValueW(HKEY_CURRENT_USER, keyOf(section).c_str(), value, REG_SZ, text.c_str(),
+  EXPECT_EQ(RegSetKeyValueW(HKEY_CURRENT_USER, registryKey(section).c_str(), value, REG_SZ, text.c_str(),
                             static_cast<DWORD>((text.size() + 1) * sizeof(wchar_t))),
             ERROR_SUCCESS);
 }
 
-TEST(RegistrySettings, areTextsUnderTheProgramsKey) {
+TEST(RegistrySettings, areStringsUnderTheProgramKey) {
   const OwnHive hive;
   {
     Settings settings;
@@ -68,7 +68,7 @@ TEST(RegistrySettings, areTextsUnderTheProgramsKey) {
   EXPECT_EQ(stored(L"Settings", L"MessageDontShowAgain146"), L"1");
 }
 
-TEST(RegistrySettings, readWhatAnAdministratorPutThere) {
+TEST(RegistrySettings, areReadFromAdministratorKeys) {
   const OwnHive hive;
   EXPECT_TRUE(Settings().contactsFolder().endsWith(u"\\contacts"_s));
   EXPECT_EQ(stored(L"Path", L"Contacts"), L"(none)") << "the default is not written";

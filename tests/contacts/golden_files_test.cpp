@@ -47,7 +47,7 @@ bool operator==(const ContactRecord& a, const ContactRecord& b) {
 struct GoldenFiles : AddressBookFixture {
   void SetUp() override {
     for (const QString& name : QDir(golden_).entryList(QDir::Files))
-      ASSERT_TRUE(QFile::copy(golden_ + name, pathOf(name)));
+      ASSERT_TRUE(QFile::copy(golden_ + name, filePath(name)));
     ASSERT_TRUE(book_.loadAll(progress_));
   }
   [[nodiscard]] QByteArray goldenRecord(const QString& file, int number, int size) const {
@@ -57,7 +57,7 @@ struct GoldenFiles : AddressBookFixture {
   const QString golden_ = QStringLiteral(GOLDEN_FOLDER "/");
 };
 
-TEST_F(GoldenFiles, areReadAsMeant) {
+TEST_F(GoldenFiles, areReadCorrectly) {
   EXPECT_EQ(book_.contacts().size(), 7U);
   EXPECT_TRUE(*book_.findContact(zoe) == zoeContact());
   EXPECT_TRUE(*book_.findContact(every) == everyContact());
@@ -73,27 +73,27 @@ TEST_F(GoldenFiles, areReadAsMeant) {
   for (const QString& name : {zoe, full, u"Rubbish"_s})
     EXPECT_EQ(book_.findGroup(oddTeam)->members().at(name), book_.findContact(name));
   EXPECT_TRUE(book_.findGroup("a%")->contains(every));
-  EXPECT_THAT(notifier_.takeLines(), IsEmpty());
+  EXPECT_THAT(notifier_.popLines(), IsEmpty());
 }
 
 TEST_F(GoldenFiles, readingChangesNoByte) {
   for (const QString& name : QDir(golden_).entryList(QDir::Files))
-    EXPECT_EQ(readBytes(pathOf(name)), readBytes(golden_ + name)) << qPrintable(name);
+    EXPECT_EQ(readBytes(filePath(name)), readBytes(golden_ + name)) << qPrintable(name);
 }
 
-TEST_F(GoldenFiles, sameContactsAndMembersAreWrittenInTheSameBytes) {
-  AddressBook copy(pathOf("copy"), database_, notifier_);
+TEST_F(GoldenFiles, sameContactsAndMembersHaveTheSameBytes) {
+  AddressBook copy(filePath("copy"), database_, notifier_);
   ASSERT_TRUE(QDir(folder_.path()).mkdir("copy"));
   EXPECT_TRUE(copy.saveContact(zoeContact()) && copy.saveContact(everyContact()) &&
               copy.saveContact(fullContact()));
   EXPECT_TRUE(copy.createGroup(oddTeam, {zoe, full}));
   const auto contacts = [this](int number) { return goldenRecord(contactsFile, number, 512); };
   const auto members = [this](int number) { return goldenRecord(oddTeamFile, number, 256); };
-  EXPECT_EQ(readBytes(pathOf("copy/" + contactsFile)), contacts(0) + contacts(2) + contacts(3));
-  EXPECT_EQ(readBytes(pathOf("copy/" + oddTeamFile)), members(0) + members(2));
+  EXPECT_EQ(readBytes(filePath("copy/" + contactsFile)), contacts(0) + contacts(2) + contacts(3));
+  EXPECT_EQ(readBytes(filePath("copy/" + oddTeamFile)), members(0) + members(2));
 }
 
-TEST(ContactFileFormat, longValuesFillTheirFieldsAndNothingElse) {
+TEST(ContactFileFormat, longValuesAreTruncatedToTheirFields) {
   ContactRecord contact = {QString(81, u'n'), QString(21, u'1'), "Yes", {},
                            QString(21, u'2'), QString(61, u'e'), {}};
   for (QString& extra : contact.extra) extra = QString(41, u'x');
@@ -104,7 +104,7 @@ TEST(ContactFileFormat, longValuesFillTheirFieldsAndNothingElse) {
   EXPECT_EQ(packName(contact.name), QByteArray(80, 'n'));
 }
 
-TEST_F(GoldenFiles, changesTouchTheirBytesAlone) {
+TEST_F(GoldenFiles, changesAffectOnlyTheirBytes) {
   QByteArray contacts = readBytes(golden_ + contactsFile);
   QByteArray members = readBytes(golden_ + oddTeamFile);
   ContactRecord odd = *book_.findContact("Odd state");
@@ -117,8 +117,8 @@ TEST_F(GoldenFiles, changesTouchTheirBytesAlone) {
   EXPECT_TRUE(book_.deleteContact(zoe));
   contacts[0] = 0;
   members[0] = 0;
-  EXPECT_EQ(readBytes(pathOf(contactsFile)), contacts);
-  EXPECT_EQ(readBytes(pathOf(oddTeamFile)), members);
+  EXPECT_EQ(readBytes(filePath(contactsFile)), contacts);
+  EXPECT_EQ(readBytes(filePath(oddTeamFile)), members);
 }
 
 }  // namespace

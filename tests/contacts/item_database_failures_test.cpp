@@ -83,7 +83,7 @@ struct ItemDatabaseFailures : StoreFixture {
     EXPECT_TRUE(each.operation()) << "works again once the fault is gone: " << qPrintable(error_);
   }
 
-  QString path_ = pathOf(u"items.db"_s);
+  QString path_ = filePath(u"items.db"_s);
 };
 
 // The size of the allocation for a new index.
@@ -98,7 +98,7 @@ auto failing(Arguments... arguments) {
   return [=] { return std::make_unique<FailingCall>(arguments...); };
 }
 
-TEST_F(ItemDatabaseFailures, ofReadingHaveTheirMessages) {
+TEST_F(ItemDatabaseFailures, ofReadHaveMessages) {
   const Case cases[] = {
       {"[readAllItems:2 - Database open error!]", reading(), failing(Call::Open, 0, EACCES)},
       {"[readAllItems:2 - Database open error!]", reading(), failing(Call::Lock, 0, ENOLCK)},
@@ -110,7 +110,7 @@ TEST_F(ItemDatabaseFailures, ofReadingHaveTheirMessages) {
   for (const Case& each : cases) expectMessage(each);
 }
 
-TEST_F(ItemDatabaseFailures, ofWritingHaveTheirMessages) {
+TEST_F(ItemDatabaseFailures, ofWriteHaveMessages) {
   const std::size_t head = oddKeyWidth + 1;
   const Case cases[] = {
       {"[getItemIndex:1 - Out of memory!]", writing("Anna"), failing(indexBytes()), Index::Missing},
@@ -134,7 +134,7 @@ TEST_F(ItemDatabaseFailures, ofWritingHaveTheirMessages) {
   for (const Case& each : cases) expectMessage(each);
 }
 
-TEST_F(ItemDatabaseFailures, ofDeletingHaveTheirMessages) {
+TEST_F(ItemDatabaseFailures, ofDeleteHaveMessages) {
   const Case cases[] = {
       {"[deleteItem:2 - Database access share error!]", deleting("Cleo"), failing(Call::Open, 0, EACCES)},
       {"[deleteItem:3 - Determine database size error!]", deleting("Cleo"), failing(Call::Status, 2, EIO)},
@@ -148,7 +148,7 @@ TEST_F(ItemDatabaseFailures, ofDeletingHaveTheirMessages) {
   for (const Case& each : cases) expectMessage(each);
 }
 
-TEST_F(ItemDatabaseFailures, ofCreatingHaveTheirMessages) {
+TEST_F(ItemDatabaseFailures, ofCreateHaveMessages) {
   expectMessage(
       {"[createDb:1 - Can't create the database!]", creating(), failing(Call::Open, 0, ENAMETOOLONG)});
   expectMessage({"[createDb:2 - Unknown error!]", creating(), failing(Call::Open, 0, FailingCall::throwing)});

@@ -22,7 +22,7 @@ struct TwoPrograms : StoreFixture {
     return deleted;
   }
 
-  const QString path_ = pathOf(u"items.db"_s);
+  const QString path_ = filePath(u"items.db"_s);
   const QByteArray anna_ = item("Anna", 'a');
   const QByteArray bert_ = item("Bert", 'b');
   const QByteArray cleo_ = item("Cleo", 'c');
@@ -30,7 +30,7 @@ struct TwoPrograms : StoreFixture {
   ItemDatabase other_{otherCache_, waiter_};
 };
 
-TEST_F(TwoPrograms, deletionOfKeyThatOthersAppendedFindsNothing) {
+TEST_F(TwoPrograms, unknownKeyOfAnotherProgramIsNotDeleted) {
   EXPECT_TRUE(write(database_, anna_) && write(other_, bert_));
   EXPECT_FALSE(erase(database_, "Bert"));
   EXPECT_EQ(readBytes(path_), anna_ + bert_);
@@ -40,7 +40,7 @@ TEST_F(TwoPrograms, deletionOfKeyThatOthersAppendedFindsNothing) {
   EXPECT_TRUE(erase(database_, "Bert"));
 }
 
-TEST_F(TwoPrograms, damagedFilesTakeNewKeysAndKeepWhatTheyHold) {
+TEST_F(TwoPrograms, damagedFilesAcceptNewKeysAndKeepTheirData) {
   const QByteArray dora = item("Dora", 'd');
   const QByteArray torn = bert_.first(6);
   const Cases<QByteArray, QByteArray> cases = {
@@ -66,7 +66,7 @@ TEST_F(TwoPrograms, knownKeyCompletesItsTornRecord) {
   EXPECT_EQ(readBytes(path_), anna_ + bert_ + cleo_);
 }
 
-TEST_F(TwoPrograms, deletionOfSeveralKeysLocksTheFileFromBeforeTheyAreChosen) {
+TEST_F(TwoPrograms, deletionLocksTheFileBeforeKeysAreChosen) {
   writeBytes(path_, anna_ + bert_ + anna_ + cleo_.first(9));
   const auto choose = [&](QString& error) -> std::optional<QSet<QByteArray>> {
     SharedFile writer;

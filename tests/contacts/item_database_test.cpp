@@ -37,24 +37,24 @@ struct ItemDatabaseFixture : StoreFixture {
     return records;
   }
 
-  QString path_ = pathOf(u"items.db"_s);
+  QString path_ = filePath(u"items.db"_s);
 };
 
-TEST_F(ItemDatabaseFixture, everyOperationCreatesTheMissingFileEmptyOrWithItsRecord) {
+TEST_F(ItemDatabaseFixture, everyOperationCreatesAMissingFile) {
   EXPECT_TRUE(readAll().isEmpty());
   EXPECT_EQ(readBytes(path_), "");
 
   bool deleted = true;
-  path_ = pathOf(u"deleting.db"_s);
+  path_ = filePath(u"deleting.db"_s);
   EXPECT_TRUE(erase("Anna", deleted));
   EXPECT_FALSE(deleted);
   EXPECT_EQ(readBytes(path_), "");
 
-  path_ = pathOf(u"writing.db"_s);
+  path_ = filePath(u"writing.db"_s);
   EXPECT_TRUE(write(anna));
   EXPECT_EQ(readBytes(path_), anna);
 
-  path_ = pathOf(u"creating.db"_s);
+  path_ = filePath(u"creating.db"_s);
   EXPECT_TRUE(database_.createDb(error_, path_));
   EXPECT_EQ(readBytes(path_), "");
   EXPECT_EQ(error_, QString());
@@ -74,7 +74,7 @@ TEST_F(ItemDatabaseFixture, writeOfStoredKeyChangesOnlyItsData) {
   EXPECT_EQ(readBytes(path_), anna + record("5Bo.x9999999") + cleo);
 }
 
-TEST_F(ItemDatabaseFixture, writeOfDeletedKeyRevivesItsSlot) {
+TEST_F(ItemDatabaseFixture, writeOfADeletedKeyReusesItsRecord) {
   bool deleted = false;
   EXPECT_TRUE(write(anna) && write(bob) && erase("Anna", deleted));
   EXPECT_TRUE(deleted);
@@ -88,7 +88,7 @@ TEST_F(ItemDatabaseFixture, writeOfDeletedKeyRevivesItsSlot) {
   EXPECT_EQ(readBytes(path_), record("1Anna7777777") + bob);
 }
 
-TEST_F(ItemDatabaseFixture, keysCompareWholeAndByCase) {
+TEST_F(ItemDatabaseFixture, keysMatchExactly) {
   bool deleted = true;
   EXPECT_TRUE(write(anna) && write(bob));
   for (const char* key : {"anna", "Ann", "Annab", "bo", "Bob2", ""}) {
@@ -108,7 +108,7 @@ TEST_F(ItemDatabaseFixture, lastOfDuplicateKeysIsUsed) {
   EXPECT_EQ(readBytes(path_), anna + bob + record("0Anna8888888"));
 }
 
-TEST_F(ItemDatabaseFixture, visitorStopsTheReading) {
+TEST_F(ItemDatabaseFixture, visitorCanStopReading) {
   writeBytes(path_, anna + bob + cleo);
   int visited = 0;
   const auto stopAtSecond = [&](QByteArrayView) { return ++visited < 2; };
@@ -116,7 +116,7 @@ TEST_F(ItemDatabaseFixture, visitorStopsTheReading) {
   EXPECT_EQ(visited, 2);
 }
 
-TEST_F(ItemDatabaseFixture, shortLastRecordIsFilledUpFromTheOneBefore) {
+TEST_F(ItemDatabaseFixture, shortLastRecordIsPaddedFromThePreviousOne) {
   const Cases<QByteArray, QByteArray> cases = {
       {anna + bob + record("1Cleo"), record("1Cleo2222222")},
       {anna + record("1B"), record("1Bnna1111111")},
@@ -158,7 +158,7 @@ TEST_F(ItemDatabaseFixture, recreatedFileAcceptsKnownKeysWithoutGapsOrDuplicates
 
 TEST_F(ItemDatabaseFixture, writeGivesUpOnAChangingFileAfterElevenAttempts) {
   for (const int changes : {10, 11}) {
-    path_ = pathOf(QString::number(changes));
+    path_ = filePath(QString::number(changes));
     writeBytes(path_, {});
     int openings = 0;
     int appended = 0;
@@ -175,7 +175,7 @@ TEST_F(ItemDatabaseFixture, writeGivesUpOnAChangingFileAfterElevenAttempts) {
   EXPECT_EQ(waiter_.pauses(), 0);
 }
 
-TEST_F(ItemDatabaseFixture, unusableRecordsAndPathsGiveTheOperationsMessage) {
+TEST_F(ItemDatabaseFixture, invalidRecordsAndPathsAreReported) {
   bool deleted = false;
   EXPECT_FALSE(write({}));
   EXPECT_FALSE(write(anna.chopped(1)));

@@ -27,7 +27,7 @@ struct WaitingFixture : StoreFixture {
     return database_.deleteItem(error_, keyWidth, path_, "Anna", recordSize, deleted, timeout) && deleted;
   }
 
-  QString path_ = pathOf(u"items.db"_s);
+  QString path_ = filePath(u"items.db"_s);
   QByteArray record_ = QByteArray("\1Anna1111111", recordSize);
 };
 

@@ -21,7 +21,7 @@ class OtherProcess {
     EXPECT_EQ(::pipe(ends), 0);
     leash_ = ends[1];
     process_ = ::fork();
-    if (process_ == 0) holdUntilLeashGoes(ends);
+    if (process_ == 0) waitForRelease(ends);
     // The lock belongs to the open file description, which only the child has now.
     ::close(file);
     ::close(ends[0]);
@@ -38,7 +38,7 @@ class OtherProcess {
   }
 
  private:
-  [[noreturn]] static void holdUntilLeashGoes(const int (&ends)[2]) {
+  [[noreturn]] static void waitForRelease(const int (&ends)[2]) {
     ::close(ends[1]);
     char byte = 0;
     while (::read(ends[0], &byte, 1) > 0) continue;

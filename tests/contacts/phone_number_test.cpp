@@ -13,7 +13,7 @@ std::string read(const char* written, const char* code) {
   return (number.isValid() ? number.text() : number.problemText()).toStdString();
 }
 
-TEST(PhoneNumber, readsNationalNumbersOfEveryKindOfCountry) {
+TEST(PhoneNumber, parsesNationalNumbers) {
   const Cases<const char*, const char*, const char*> cases = {
       {"0412 345 678", "+61", "+61412345678"},
       {"412345678", "+61", "+61412345678"},  // without the zero, as from a spreadsheet

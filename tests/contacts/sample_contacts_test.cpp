@@ -9,8 +9,8 @@ namespace {
 
 class SampleFolder : public AddressBookFixture {};
 
-TEST_F(SampleFolder, loadsBackWholeAndIsNotOverwritten) {
-  const QString folder = pathOf(u"new/contacts"_s);
+TEST_F(SampleFolder, isRestoredAndNotOverwritten) {
+  const QString folder = filePath(u"new/contacts"_s);
   ASSERT_EQ(writeSampleFolder(folder, 300, 12), QString());
   AddressBook book(folder, database_, notifier_);
   EXPECT_TRUE(book.loadAll(progress_));

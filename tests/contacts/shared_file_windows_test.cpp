@@ -41,10 +41,10 @@ struct SharingBetweenProcesses : StoreFixture {
   SharingBetweenProcesses() { writeBytes(path_, record_); }
 
   QByteArray record_ = QByteArray("\1Anna1111111", recordSize);
-  QString path_ = pathOf(u"items.db"_s);
+  QString path_ = filePath(u"items.db"_s);
 };
 
-TEST_F(SharingBetweenProcesses, modesShutOthersOut) {
+TEST_F(SharingBetweenProcesses, modesExcludeOtherProcesses) {
   constexpr auto opened = OpenResult::Opened;
   constexpr auto refused = OpenResult::SharingViolation;
   const struct {
@@ -91,7 +91,7 @@ TEST_F(SharingBetweenProcesses, eraserAndALockingReaderExcludeEachOther) {
   CloseHandle(reader);
 }
 
-TEST_F(SharingBetweenProcesses, writerWaitsForAReaderElsewhereAndGivesUpAfterTheTimeout) {
+TEST_F(SharingBetweenProcesses, writerWaitsForAReaderUntilTheTimeout) {
   Holder reader(path_, Mode::Read);
   EXPECT_FALSE(database_.writeItem(error_, keyWidth, path_, recordSize, record_, timeout));
   EXPECT_EQ(error_, u"[writeItem:2 - Database access share error!]"_s);
@@ -102,7 +102,7 @@ TEST_F(SharingBetweenProcesses, writerWaitsForAReaderElsewhereAndGivesUpAfterThe
   EXPECT_EQ(readBytes(path_), record_);
 }
 
-TEST_F(SharingBetweenProcesses, removedFileIsGoneAndAMissingOneStaysMissing) {
+TEST_F(SharingBetweenProcesses, removalDoesNotCreateTheFile) {
   {
     SharedFile file;
     ASSERT_EQ(file.open(path_, Mode::Remove), OpenResult::Opened);
@@ -114,7 +114,7 @@ TEST_F(SharingBetweenProcesses, removedFileIsGoneAndAMissingOneStaysMissing) {
   EXPECT_FALSE(QFile::exists(path_));
 }
 
-TEST_F(SharingBetweenProcesses, everyWayToWriteAPathLeadsToTheSameFile) {
+TEST_F(SharingBetweenProcesses, allFormsOfAPathAreEquivalent) {
   const QString folder = folder_.filePath(QString::fromUtf8("Gr\u00fc\u00dfe \u4f60\u597d"));
   ASSERT_TRUE(QDir().mkdir(folder));
   const QString file = folder + u"/f.db"_s;
@@ -131,9 +131,9 @@ TEST_F(SharingBetweenProcesses, everyWayToWriteAPathLeadsToTheSameFile) {
     EXPECT_EQ(shared.size(), 5) << path.toStdString();
   }
   // On a share "nul" is an ordinary name.
-  const QString device = isOnShare ? u"nul"_s : pathOf(u"nul"_s);
+  const QString device = isOnShare ? u"nul"_s : filePath(u"nul"_s);
   for (const QString& path :
-       {folder, device, file + QChar(u'\0') + u'x', pathOf(u"a*b"_s), pathOf(u"none/x"_s)}) {
+       {folder, device, file + QChar(u'\0') + u'x', filePath(u"a*b"_s), filePath(u"none/x"_s)}) {
     SharedFile shared;
     EXPECT_EQ(shared.open(path, Mode::Write), OpenResult::Failed) << path.toStdString();
   }

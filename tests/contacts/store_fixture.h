@@ -45,7 +45,7 @@ inline QByteArray deletedRecord(QByteArray record) {
 
 /// A temporary folder with a database that never sleeps.
 struct StoreFixture : testing::Test {
-  [[nodiscard]] QString pathOf(const QString& name) const { return folder_.filePath(name); }
+  [[nodiscard]] QString filePath(const QString& name) const { return folder_.filePath(name); }
 
   QTemporaryDir folder_;
   ItemIndexCache cache_;

@@ -36,7 +36,7 @@ struct FilePages : PageRig<Page> {
   QLineEdit& path() { return this->template find<QLineEdit>("filePath"); }
   QString facts() { return this->template find<QLabel>("fileFacts").text(); }
   /// The hint below the path once the file has been checked.
-  std::string factsOf(const QString& chosenFile) {
+  std::string factsFor(const QString& chosenFile) {
     path().setText(chosenFile);
     (void)QTest::qWaitFor([this] { return facts() != QLatin1String(" "); });
     return facts().toStdString();
@@ -99,20 +99,20 @@ class FaxPage : public FilePages<CQuillonFaxDlg> {};
 
 TEST_F(FaxPage, sendsToFaxNumbersAndShowsThePageCount) {
   select({"Ann", "Fax Only"});
-  EXPECT_THAT(notifier.takeTexts(), IsEmpty());
+  EXPECT_THAT(notifier.popTexts(), IsEmpty());
   EXPECT_EQ(page.draft().displayList, "Ann [+61255501234],Fax Only [+61255505678]");
   EXPECT_EQ(page.draft().numbersList, "+61255501234,+61255505678");
   EXPECT_THAT(
-      factsOf(write("one.pdf",
-                    "%PDF-1.4\n1 0 obj<</Type/Catalog/Pages 2 0 R>>endobj\n2 0 obj<</Type/Pages/Count "
-                    "1/Kids[3 0 R]>>endobj\n3 0 obj<</Type/Page/Parent 2 0 R/MediaBox[0 0 9 "
-                    "9]>>endobj\ntrailer<</Root 1 0 R>>\n")),
+      factsFor(write("one.pdf",
+                     "%PDF-1.4\n1 0 obj<</Type/Catalog/Pages 2 0 R>>endobj\n2 0 obj<</Type/Pages/Count "
+                     "1/Kids[3 0 R]>>endobj\n3 0 obj<</Type/Page/Parent 2 0 R/MediaBox[0 0 9 "
+                     "9]>>endobj\ntrailer<</Root 1 0 R>>\n")),
       EndsWith(" of at most 2 KB, 1 page"));
 }
 
 class WapPage : public FilePages<CQuillonWAPDlg> {};
 
-TEST_F(WapPage, countsItsNoteAndSetsNoSenderId) {
+TEST_F(WapPage, countsItsNoteAndHasNoSenderId) {
   auto& note = find<MessageEdit>("noteEdit");
   const auto& remaining = find<QLineEdit>("charactersRemaining");
   EXPECT_EQ(remaining.text(), "120");
@@ -133,7 +133,8 @@ TEST_F(WapPage, countsItsNoteAndSetsNoSenderId) {
 }
 
 struct MmsPage : FilePages<CQuillonMMSDlg> {
-  static QByteArray pictureOf(QSize size, const char* format, QImage::Format pixels = QImage::Format_RGB32) {
+  static QByteArray makePicture(QSize size, const char* format,
+                                QImage::Format pixels = QImage::Format_RGB32) {
     QImage image(size, pixels);
     image.fill(1);
     QBuffer buffer;
@@ -150,23 +151,23 @@ TEST_F(MmsPage, aRejectionFocusesItsField) {
   EXPECT_TRUE(find<QWidget>("selectContactsButton").hasFocus());
 }
 
-TEST_F(MmsPage, showTheFactsOfTheCurrentFile) {
+TEST_F(MmsPage, showsTheFactsOfTheCurrentFile) {
   EXPECT_EQ(facts(), "Choose a file of at most 1,000 bytes, or drop one here.");
   const QString chosenFile = write("photo.jpg", QByteArray(700, 'x'));
-  EXPECT_THAT(factsOf(chosenFile), StartsWith("photo.jpg: 700 bytes of at most "));
+  EXPECT_THAT(factsFor(chosenFile), StartsWith("photo.jpg: 700 bytes of at most "));
   QFile::remove(chosenFile);
   press("sendButton");
   EXPECT_TRUE(QTest::qWaitFor([this] { return facts() == "There is no such file."; }));
 }
 
-TEST_F(MmsPage, stayNarrowWithLongFileNames) {
+TEST_F(MmsPage, staysNarrowWithLongFileNames) {
   const int width = page.minimumSizeHint().width();
-  const std::string told = factsOf(write(QString(200, QChar(u'W')) + ".jpg", "x"));
+  const std::string told = factsFor(write(QString(200, QChar(u'W')) + ".jpg", "x"));
   EXPECT_THAT(told, AllOf(StartsWith("WWW"), HasSubstr("W.jpg: 1 byte of")));
   EXPECT_EQ(page.minimumSizeHint().width(), width);
 }
 
-TEST_F(MmsPage, acceptOneDroppedFileEverywhere) {
+TEST_F(MmsPage, acceptsOneDroppedFileEverywhere) {
   const QUrl chosenFile = QUrl::fromLocalFile(write(QString::fromUtf8("Gr\u00FC\u00DFe \u4F60"), "x"));
   QWidget* const places[] = {&page, &path(), find<MessageEdit>("noteEdit").viewport(),
                              find<QAbstractItemView>("contactsBox").viewport()};
@@ -182,16 +183,16 @@ TEST_F(MmsPage, acceptOneDroppedFileEverywhere) {
   }
 }
 
-TEST_F(MmsPage, convertAPastedFileUrlToItsPath) {
+TEST_F(MmsPage, convertsAPastedFileUrlToItsPath) {
   const QString chosenFile = write(QString::fromUtf8("a b Gr\u00FC\u00DFe 50%.pdf"), "x");
   const QString address = QString::fromLatin1(QUrl::fromLocalFile(chosenFile).toEncoded());
-  EXPECT_THAT(factsOf(u' ' + address + u'\n'), HasSubstr("50%.pdf: 1 byte of"));
+  EXPECT_THAT(factsFor(u' ' + address + u'\n'), HasSubstr("50%.pdf: 1 byte of"));
   EXPECT_EQ(QDir::fromNativeSeparators(page.draft().path), chosenFile);
-  EXPECT_EQ(factsOf("https://www.parlexo.example/a.pdf"), "There is no such file.");
+  EXPECT_EQ(factsFor("https://www.parlexo.example/a.pdf"), "There is no such file.");
   EXPECT_EQ(page.draft().path, "https://www.parlexo.example/a.pdf");
 }
 
-TEST_F(MmsPage, browsingBeginsInTheFolderOfTheLastChoice) {
+TEST_F(MmsPage, browsingStartsInTheLastFolder) {
   const QString chosen = write("README", "a name without a dot");
   const auto browse = [&](const QString& expectedFolder) {
     inDialog<QFileDialog>("browseButton", [&](QFileDialog& dialog) {
@@ -208,25 +209,25 @@ TEST_F(MmsPage, browsingBeginsInTheFolderOfTheLastChoice) {
 
 TEST_F(MmsPage, previewShowsAPictureUntilThePathChanges) {
   auto& preview = find<PicturePreview>("picturePreview");
-  EXPECT_NE(factsOf(write("tall.png", pictureOf({40, 4000}, "png"))), "");
+  EXPECT_NE(factsFor(write("tall.png", makePicture({40, 4000}, "png"))), "");
   ASSERT_FALSE(preview.pixmap().isNull());
   EXPECT_EQ(preview.pixmap().height(), preview.room().height());
   path().clear();
   EXPECT_TRUE(preview.pixmap().isNull());
-  EXPECT_NE(factsOf(write("text.png", "no picture")), "");
+  EXPECT_NE(factsFor(write("text.png", "no picture")), "");
   EXPECT_EQ(preview.text(), "No preview");
 }
 
-TEST_F(MmsPage, smallPicturesAreMadeOfPicturesOnly) {
-  const QByteArray png = pictureOf({300, 200}, "png");
+TEST_F(MmsPage, smallPicturesAreMadeFromImageFilesOnly) {
+  const QByteArray png = makePicture({300, 200}, "png");
   const QByteArray svg = "<svg xmlns='http://www.w3.org/2000/svg' width='9' height='9'/>";
   const Cases<const char*, QByteArray, QSize> samples = {
       {"PNG", png, {100, 66}},
-      {"JPEG", pictureOf({200, 300}, "jpeg"), {53, 80}},
-      {"BMP that fits", pictureOf({30, 20}, "bmp"), {30, 20}},
-      {"sliver", pictureOf({2000, 1}, "png"), {100, 1}},
+      {"JPEG", makePicture({200, 300}, "jpeg"), {53, 80}},
+      {"BMP that fits", makePicture({30, 20}, "bmp"), {30, 20}},
+      {"sliver", makePicture({2000, 1}, "png"), {100, 1}},
       {"PNG cut off in its head", png.left(20), {0, 0}},
-      {"PNG of few bytes and many pixels", pictureOf({8000, 6000}, "png", QImage::Format_Mono), {0, 0}},
+      {"PNG of few bytes and many pixels", makePicture({8000, 6000}, "png", QImage::Format_Mono), {0, 0}},
       {"drawing", svg, {0, 0}},
       {"nothing", "", {0, 0}},
   };

@@ -75,20 +75,20 @@ struct FileSending : testing::TestWithParam<Page>, GatewayRig {
   QString write(const QString& name, const QByteArray& bytes) {
     return writeBytes(folder.filePath(name), bytes);
   }
-  FileDraft draftOf(const QString& path, const QString& numbers = u"+61491570156"_s) {
+  FileDraft draftFor(const QString& path, const QString& numbers = u"+61491570156"_s) {
     return {path, {}, u"somebody"_s, numbers, {}};
   }
-  FileDraft goodDraft() { return draftOf(write(u"good.bin"_s, content(1000))); }
+  FileDraft goodDraft() { return draftFor(write(u"good.bin"_s, content(1000))); }
   SendOutcome send(const FileDraft& draft) { return FileSendFlow(services(), GetParam().kind).send(draft); }
   std::string cannotOpen(const QString& path) {
     return GetParam().cannotOpen + QDir::toNativeSeparators(path).toStdString();
   }
 };
 
-TEST_P(FileSending, acceptedFileArrivesByteForByteAndIsLogged) {
+TEST_P(FileSending, acceptedFileIsSentUnchangedAndLogged) {
   const QByteArray bytes = content(40'000);
   FileDraft draft =
-      draftOf(write(QString::fromUtf8("Gr\u00FC\u00DFe \u4F60.jpg"), bytes), u"+61491570156,+60312345678"_s);
+      draftFor(write(QString::fromUtf8("Gr\u00FC\u00DFe \u4F60.jpg"), bytes), u"+61491570156,+60312345678"_s);
   draft.note = QString::fromUtf8("Caf\u00E9 & <b>\n\u20AC");
   state.senderId = u"+61491570999"_s;
   EXPECT_EQ(send(draft), SendOutcome::Delivered);
@@ -117,19 +117,18 @@ TEST_P(FileSending, resultsHaveTheMessagesOfTheType) {
   simulator.clearFaults();
   setFault(FaultKind::Close, QString::fromLatin1(GetParam().operation));
   EXPECT_EQ(send(draft), SendOutcome::OutcomeUnknown);
-  EXPECT_THAT(notifier.takeTexts(),
-              ElementsAre(GetParam().warning, GetParam().refused, GetParam().unreached));
+  EXPECT_THAT(notifier.popTexts(), ElementsAre(GetParam().warning, GetParam().refused, GetParam().unreached));
   EXPECT_EQ(operations().count(QString::fromLatin1(GetParam().operation)), 3);
   EXPECT_THAT(log.entries(), SizeIs(2));
 }
 
-TEST_P(FileSending, missingInputIsReportedInTheOrderOfThePageBeforeAnyCall) {
+TEST_P(FileSending, missingInputIsReportedInOrderBeforeAnyCall) {
   FileDraft draft;
   draft.note = QString(10'241, QChar(u'x'));
   state.balanceIsZero = true;
   const auto expectRefusal = [&](const std::string& line, SendOutcome outcome) {
     EXPECT_EQ(send(draft), outcome);
-    EXPECT_THAT(notifier.takeLines().join(u'\n').toStdString(), StartsWith(line));
+    EXPECT_THAT(notifier.popLines().join(u'\n').toStdString(), StartsWith(line));
   };
   const std::string stop = "16 ";
   expectRefusal(stop + GetParam().noFile, SendOutcome::FileAtFault);
@@ -149,23 +148,23 @@ TEST_P(FileSending, missingInputIsReportedInTheOrderOfThePageBeforeAnyCall) {
 }
 
 TEST_P(FileSending, limitOfTheLocatorIsTheLargestLength) {
-  EXPECT_EQ(send(draftOf(write(u"full"_s, content(GetParam().limit)))), SendOutcome::Delivered);
+  EXPECT_EQ(send(draftFor(write(u"full"_s, content(GetParam().limit)))), SendOutcome::Delivered);
   EXPECT_EQ(simulator.messages().at(0).fileSize, GetParam().limit);
   state.gateway.maxFileSize = 0;
   state.gateway.maxFileSizeMobile = 0;
-  EXPECT_EQ(send(draftOf(write(u"byte"_s, "x"))), SendOutcome::FileAtFault);
-  EXPECT_EQ(send(draftOf(write(u"empty"_s, ""))), SendOutcome::NotSent);
+  EXPECT_EQ(send(draftFor(write(u"byte"_s, "x"))), SendOutcome::FileAtFault);
+  EXPECT_EQ(send(draftFor(write(u"empty"_s, ""))), SendOutcome::NotSent);
   EXPECT_EQ(operations().back(), GetParam().operation) << "an empty file is left to the gateway";
 }
 
 TEST_P(FileSending, lackOfMemoryIsReportedAfterTheCallsBefore) {
-  const FileDraft draft = draftOf(write(u"big"_s, content(limitOfMobile)));
+  const FileDraft draft = draftFor(write(u"big"_s, content(limitOfMobile)));
   const auto outcome = [&] {
     const MemoryRefusal refusal(limitOfMobile);
     return send(draft);
   }();
   EXPECT_EQ(outcome, SendOutcome::FileAtFault);
-  EXPECT_EQ(notifier.takeLines(), QStringList(QString("16 ") + GetParam().noMemory));
+  EXPECT_EQ(notifier.popLines(), QStringList(QString("16 ") + GetParam().noMemory));
   EXPECT_EQ(operations(), QStringList("scheduleMessageDisable"));
   EXPECT_EQ(send(draft), SendOutcome::Delivered);
 }
@@ -193,7 +192,7 @@ TEST_P(FaxSending, progressShowsTheTransfer) {
       if (!progress.transfers.empty()) seen.push_back(progress.transfers.front().done());
     }
   });
-  const SendOutcome outcome = send(draftOf(write(u"long.tif"_s, content(700'000))));
+  const SendOutcome outcome = send(draftFor(write(u"long.tif"_s, content(700'000))));
   over = true;
   watcher.join();
   EXPECT_EQ(outcome, SendOutcome::Delivered);
@@ -206,9 +205,9 @@ TEST_P(FaxSending, progressShowsTheTransfer) {
 
 TEST_P(FaxSending, cancelledUploadIsNotSent) {
   runner.cancel(2, std::chrono::milliseconds(300));
-  EXPECT_EQ(send(draftOf(write(u"long.tif"_s, content(700'000)))), SendOutcome::NotSent);
+  EXPECT_EQ(send(draftFor(write(u"long.tif"_s, content(700'000)))), SendOutcome::NotSent);
   EXPECT_LT(progress.transfers.front().done(), 600'000);
-  EXPECT_THAT(notifier.takeTexts(), ElementsAre(GetParam().unreached));
+  EXPECT_THAT(notifier.popTexts(), ElementsAre(GetParam().unreached));
   EXPECT_THAT(simulator.messages(), IsEmpty());
 }
 
@@ -220,19 +219,19 @@ TEST_P(FaxSending, onlyReadableAndWritableFilesAreOpened) {
   // Windows creates a shortcut file instead of a link.
   if (QFile::link(folder.filePath(u"nowhere"_s), link) && QFileInfo(link).isSymbolicLink()) paths << link;
   for (const QString& path : paths) {
-    EXPECT_EQ(send(draftOf(path)), SendOutcome::FileAtFault);
-    EXPECT_THAT(notifier.takeTexts(), ElementsAre(cannotOpen(path)));
+    EXPECT_EQ(send(draftFor(path)), SendOutcome::FileAtFault);
+    EXPECT_THAT(notifier.popTexts(), ElementsAre(cannotOpen(path)));
   }
   EXPECT_FALSE(QFile::exists(missing)) << "opening must not create it";
   EXPECT_THAT(operations(), IsEmpty());
 }
 
-TEST_P(FaxSending, fileThatChangesBeforeTheUploadIsNotSentButARemovedOneIs) {
+TEST_P(FaxSending, changedFileIsNotSentButARemovedOneIs) {
   const FileDraft draft = goodDraft();
   for (const int size : {999, 1001}) {
     runner.onRun = [&] { QFile::resize(draft.path, size); };
     EXPECT_EQ(send(draft), SendOutcome::FileAtFault) << size;
-    EXPECT_THAT(notifier.takeTexts(), ElementsAre(cannotOpen(draft.path))) << size;
+    EXPECT_THAT(notifier.popTexts(), ElementsAre(cannotOpen(draft.path))) << size;
     QFile::resize(draft.path, 1000);
   }
   EXPECT_FALSE(operations().contains(GetParam().operation));

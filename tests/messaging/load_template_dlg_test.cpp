@@ -32,23 +32,23 @@ struct LoadTemplateDlg : testing::Test {
 TEST_F(LoadTemplateDlg, asksForASelectionFirst) {
   press("loadButton");
   press("deleteButton");
-  EXPECT_THAT(notifier.takeLines(),
+  EXPECT_THAT(notifier.popLines(),
               ElementsAre("48 Please select a Template to load", "48 Please select a Template to delete"));
   list().setFocus();
   QTest::keyClick(&list(), Qt::Key_Down);
   EXPECT_EQ(list().currentRow(), 0) << "the first Down leads to the first entry";
 }
 
-TEST_F(LoadTemplateDlg, loadsOnlyAfterYesAndOnlyWhatIsATemplate) {
+TEST_F(LoadTemplateDlg, loadsValidTemplatesAfterYes) {
   notifier.answers = {MessageResult::No, MessageResult::Yes};
   pick("good");
   press("loadButton");
-  EXPECT_THAT(notifier.takeTexts(),
+  EXPECT_THAT(notifier.popTexts(),
               ElementsAre("Are you sure you want to load the Template called: \"good\"?"));
   EXPECT_TRUE(dialog->isVisible());
   pick("broken");
   press("loadButton");
-  EXPECT_THAT(notifier.takeTexts(),
+  EXPECT_THAT(notifier.popTexts(),
               ElementsAre("Are you sure you want to load the Template called: \"broken\"?",
                           "Something wrong with the Template as it could not be loaded"));
   EXPECT_TRUE(dialog->isVisible());
@@ -59,7 +59,7 @@ TEST_F(LoadTemplateDlg, loadsOnlyAfterYesAndOnlyWhatIsATemplate) {
   EXPECT_EQ(dialog->content(), (Template{"Ann [+1]", "Hi"}));
 }
 
-TEST_F(LoadTemplateDlg, deletesAfterYesAndStaysWithNothingSelected) {
+TEST_F(LoadTemplateDlg, deletesAfterYesAndClearsTheSelection) {
   notifier.answers = {MessageResult::No, MessageResult::Yes};
   pick("good");
   press("deleteButton");
@@ -70,7 +70,7 @@ TEST_F(LoadTemplateDlg, deletesAfterYesAndStaysWithNothingSelected) {
   EXPECT_EQ(list().count(), 2);
   EXPECT_TRUE(list().selectedItems().isEmpty());
   press("deleteButton");
-  EXPECT_THAT(notifier.takeTexts(),
+  EXPECT_THAT(notifier.popTexts(),
               ElementsAre("Are you sure you want to delete the Template called: \"good\"?",
                           "Are you sure you want to delete the Template called: \"good\"?",
                           "Please select a Template to delete"));
@@ -82,7 +82,7 @@ TEST_F(LoadTemplateDlg, failedDeletionIsReportedAndKeepsTheEntry) {
   ASSERT_TRUE(folder.remove("other") && QDir(directory.path()).mkdir("other.tpl"));
   notifier.answers = {MessageResult::Yes};
   press("deleteButton");
-  EXPECT_THAT(notifier.takeTexts(),
+  EXPECT_THAT(notifier.popTexts(),
               ElementsAre("Are you sure you want to delete the Template called: \"other\"?",
                           "Could not delete your template!!"));
   EXPECT_EQ(list().count(), 3);

@@ -21,7 +21,7 @@ void put32(QByteArray& bytes, quint32 value) {
 }
 
 /// A TIFF with one directory for each subfile type in `types`; `next` is the successor of the last one.
-QByteArray tiffOf(const std::vector<quint32>& types, quint32 next = 0) {
+QByteArray makeTiff(const std::vector<quint32>& types, quint32 next = 0) {
   const std::vector<std::pair<quint16, quint32>> tags = {{256, 1}, {257, 1}, {273, 8}, {278, 1}, {279, 1}};
   const auto directorySize = static_cast<quint32>(2 + 12 * (tags.size() + 1) + 4);
   QByteArray bytes("II*\0", 4);
@@ -76,7 +76,7 @@ QByteArray pdfOfNestedObjects() {
          "\nendstream endobj\nstartxref\n9\n%%EOF\n";
 }
 
-TEST(PageCount, isThatOfTheDocumentAndNoneForABrokenOne) {
+TEST(PageCount, isReadFromValidDocuments) {
   const QTemporaryDir folder;
   const auto write = [&folder](const QByteArray& bytes) {
     QFile file(folder.filePath(QStringLiteral(u"r\u00E9sum\u00E9 \u4E2D\u6587 & 'co'.bin")));
@@ -86,10 +86,10 @@ TEST(PageCount, isThatOfTheDocumentAndNoneForABrokenOne) {
   constexpr quint32 reduced = 1;
   constexpr quint32 page = 2;
   const Cases<const char*, QByteArray, std::optional<int>> samples = {
-      {"TIFF", tiffOf({page, page, page}), 3},
-      {"TIFF with a small picture of its page", tiffOf({page, reduced}), 1},
-      {"TIFF whose directories run in a circle", tiffOf({page, page}, 8), {}},
-      {"TIFF that is cut off", tiffOf({page, page}).chopped(30), {}},
+      {"TIFF", makeTiff({page, page, page}), 3},
+      {"TIFF with a small picture of its page", makeTiff({page, reduced}), 1},
+      {"TIFF whose directories run in a circle", makeTiff({page, page}, 8), {}},
+      {"TIFF that is cut off", makeTiff({page, page}).chopped(30), {}},
       {"TIFF of nothing but its mark", "II*", {}},
       {"PDF", pdf, 2},
       {"PDF behind a line of mail", "X-Mail: yes\n" + pdf, 2},

@@ -79,7 +79,7 @@ TEST_F(RecipientsTest, removalAfterATemplateRemovesOnlyMatchingNumbers) {
   }
 }
 
-TEST_F(RecipientsTest, repeatsGoFromBothListsAlike) {
+TEST_F(RecipientsTest, repeatsAreRemovedFromBothLists) {
   select({contact("Ann", "+1"), contact("Bob", "+2"), contact("Cy", "+1"), contact("Di", "+1"),
           contact("Ed", "+2"), contact("Flo", "+3")});
   EXPECT_EQ(recipients_.repeatedNumberCount(), 2);

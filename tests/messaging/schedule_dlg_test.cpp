@@ -33,7 +33,7 @@ struct ScheduleDialog : testing::Test {
   QTimeEdit& time = *dialog.findChild<QTimeEdit*>("timeEdit");
 };
 
-TEST_F(ScheduleDialog, fieldsFollowCalendarTimeAndToday) {
+TEST_F(ScheduleDialog, fieldsShowTheChosenTime) {
   QTest::keyClick(calendar.focusWidget(), Qt::Key_Right);
   EXPECT_EQ(fields(), "2026/10/26 02:30:15 = 2026/10/26 01:30:15");
   QTest::keyClick(calendar.focusWidget(), Qt::Key_Left);

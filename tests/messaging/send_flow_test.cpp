@@ -69,7 +69,7 @@ TEST_F(SmsSending, unicodeFlashScheduleAndSenderIdReachTheGateway) {
   EXPECT_EQ(message.schedule->toString(u"yyyy/MM/dd HH:mm:ss"_s), draft.schedule.value);
 }
 
-TEST_F(SmsSending, failedNumbersAreListedAndLoggedToo) {
+TEST_F(SmsSending, failedNumbersAreListedAndLogged) {
   EXPECT_EQ(send(draftTo({"+61491570156", "+61491570199", "+60312345699"})), SendOutcome::PartlyFailed);
   EXPECT_THAT(journal, ElementsAre("(box)", "(no box)",
                                    "64 Warning - The server was unable to send your message to the "
@@ -83,7 +83,7 @@ TEST_F(SmsSending, missingInputIsReportedBeforeAnyCall) {
   state.balanceIsZero = true;
   const auto expectRefusal = [&](const char* line, SendOutcome outcome) {
     EXPECT_EQ(send(draft), outcome);
-    EXPECT_THAT(notifier.takeLines().join(u'\n').toStdString(), StartsWith(line));
+    EXPECT_THAT(notifier.popLines().join(u'\n').toStdString(), StartsWith(line));
   };
   expectRefusal("16 No SMS message has been provided. Enter a SMS message.", SendOutcome::MessageAtFault);
   draft.text = u"x"_s;
@@ -99,7 +99,7 @@ TEST_F(SmsSending, missingInputIsReportedBeforeAnyCall) {
   EXPECT_THAT(operations(), IsEmpty());
 }
 
-TEST_F(SmsSending, expiredSessionAsksForLoginOnceAndRepeatsNothing) {
+TEST_F(SmsSending, expiredSessionAsksForOneLoginWithoutRetry) {
   simulator.expireSessions();
   EXPECT_EQ(send(draft_), SendOutcome::NotSent);
   EXPECT_THAT(journal,
@@ -141,7 +141,7 @@ TEST_F(SmsSending, refusedConnectionSendsNothing) {
   EXPECT_NE(send(draft_), SendOutcome::Delivered);
   simulator.stop();
   EXPECT_EQ(send(draft_), SendOutcome::NotSent);
-  EXPECT_THAT(notifier.takeTexts(), ElementsAre(unreachable, unreachable));
+  EXPECT_THAT(notifier.popTexts(), ElementsAre(unreachable, unreachable));
   EXPECT_THAT(simulator.messages(), IsEmpty());
 }
 
@@ -160,7 +160,7 @@ TEST_F(SmsSending, rejectedScheduleOrSenderIdEndsTheSend) {
     simulator.clearFaults();
     setFault(kind, QString::fromLatin1(operation), number);
     EXPECT_EQ(send(scheduled(draft_)), SendOutcome::NotSent) << operation;
-    EXPECT_EQ(notifier.takeLines(), QStringList(QString("16 ") + message));
+    EXPECT_EQ(notifier.popLines(), QStringList(QString("16 ") + message));
   }
   EXPECT_FALSE(operations().contains(u"sendSms"_s));
 }
@@ -187,7 +187,7 @@ TEST_F(SmsSending, cancellingAnyCallEndsTheSend) {
     EXPECT_LT(clock.elapsed(), 700) << operation;
     EXPECT_EQ(operations().size() - before, number);
     EXPECT_EQ(operations().back(), QString::fromLatin1(operation));
-    EXPECT_THAT(notifier.takeTexts(), ElementsAre(message));
+    EXPECT_THAT(notifier.popTexts(), ElementsAre(message));
     EXPECT_THAT(simulator.messages(), SizeIs(accepted)) << operation;
   }
 }
@@ -208,7 +208,7 @@ TEST_F(SmsSending, failureToCancelAnOldScheduleIsIgnored) {
   EXPECT_THAT(simulator.messages(), SizeIs(1));
 }
 
-TEST_F(SmsSending, tenThousandRecipientsGoOutInOneCall) {
+TEST_F(SmsSending, tenThousandRecipientsAreSentInOneCall) {
   simulator.setBalance(u"demo"_s, 10'000);
   QStringList numbers;
   for (int i = 0; i < 10'000; ++i) numbers.append(u"+6149%1"_s.arg(100'000'00 + 100 * i));

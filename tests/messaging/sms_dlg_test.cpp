@@ -42,10 +42,10 @@ TEST_F(SmsPage, pasteStopsAtTheLimitAndKeepsTheTextAfterTheCursor) {
   EXPECT_FALSE(editor().text().contains(QChar(u'y')));
   editor().undo();
   EXPECT_EQ(editor().text(), "head tail");
-  EXPECT_THAT(notifier.takeTexts(), IsEmpty());
+  EXPECT_THAT(notifier.popTexts(), IsEmpty());
 }
 
-TEST_F(SmsPage, aPastedZeroCharacterDoesNotEndTheText) {
+TEST_F(SmsPage, pastedZeroCharacterIsRemoved) {
   paste(u"one"_s + QChar(u'\0') + u"\r\ntwo"_s);
   EXPECT_EQ(page.draft().text, "one\ntwo");
   EXPECT_EQ(counters(), "1/753");
@@ -58,21 +58,21 @@ TEST_F(SmsPage, textThatIsTooLongForUnicodeIsReportedAndDropped) {
   choose("standardCharset");
   paste(u"y"_s);
   choose("unicodeCharset");
-  EXPECT_THAT(notifier.takeTexts(),
+  EXPECT_THAT(notifier.popTexts(),
               ElementsAre("You have entered too much text for messaging. Clearing text to send"));
   EXPECT_EQ(editor().text(), "");
   EXPECT_EQ(counters(), "1/335");
   paste(QString(334, QChar(u'x')) + QString::fromUtf8("\U0001F600"));
   EXPECT_EQ(counters(), "5/1");                 // half an emoji is not inserted
   editor().setText(QString(336, QChar(u'x')));  // as from a template
-  EXPECT_THAT(notifier.takeTexts(),
+  EXPECT_THAT(notifier.popTexts(),
               ElementsAre("Unicode text is too long for message, we can not send this!"));
   EXPECT_EQ(counters(), "1/335");
 }
 
-TEST_F(SmsPage, selectionFillsTheBoxAndOpensWithItsContactsTicked) {
+TEST_F(SmsPage, selectionFillsTheBoxAndIsRestored) {
   select({"Ann", "Lee, Bob", "Local"});
-  EXPECT_THAT(notifier.takeTexts(),
+  EXPECT_THAT(notifier.popTexts(),
               ElementsAre("The following Contacts had bad phone numbers and were removed:Local"));
   EXPECT_EQ(page.draft().displayList, "Ann [+61491570156],Lee, Bob [+60312345678]");
   EXPECT_EQ(page.draft().numbersList, "+61491570156,+60312345678");
@@ -86,14 +86,14 @@ TEST_F(SmsPage, selectionFillsTheBoxAndOpensWithItsContactsTicked) {
   EXPECT_EQ(page.draft().numbersList, "+61491570156,+60312345678");
 }
 
-TEST_F(SmsPage, namedContactsComeTickedBesideThoseOfTheBox) {
+TEST_F(SmsPage, givenContactsAreTickedInAddition) {
   select({"Ann"});
   atNextDialog<CSelectContactsDlg>([](CSelectContactsDlg& dialog) { dialog.accept(); });
   page.selectContacts({"Lee, Bob", "Mute", "nobody any more"});
   EXPECT_EQ(page.draft().displayList, "Ann [+61491570156],Lee, Bob [+60312345678]");
 }
 
-TEST_F(SmsPage, deleteAsksAndRemovesTheHighlightedEntries) {
+TEST_F(SmsPage, deleteAsksAndRemovesTheSelectedEntries) {
   select({"Ann", "Lee, Bob"});
   page.activateWindow();
   ASSERT_TRUE(QTest::qWaitForWindowActive(&page));
@@ -108,7 +108,7 @@ TEST_F(SmsPage, deleteAsksAndRemovesTheHighlightedEntries) {
   EXPECT_EQ(page.draft().numbersList, "+60312345678");
   EXPECT_EQ(contactsBox().currentIndex().row(), 0) << "a long list stays at the place of the removal";
   EXPECT_FALSE(contactsBox().selectionModel()->hasSelection());
-  EXPECT_THAT(notifier.takeTexts(),
+  EXPECT_THAT(notifier.popTexts(),
               ElementsAre("Can't delete the selected contacts as you have not selected one or more contacts",
                           "Are you sure you want to delete the selected contacts?",
                           "Are you sure you want to delete the selected contacts?"));
@@ -148,7 +148,7 @@ TEST_F(SmsPage, outcomeUnknownNoticeStaysUntilTheNextReply) {
   setFault(simulator::FaultKind::Close, u"sendSms"_s);
   press("sendButton");
   EXPECT_TRUE(notice.isVisible());
-  EXPECT_THAT(notifier.takeTexts(), ElementsAre(unreachable));
+  EXPECT_THAT(notifier.popTexts(), ElementsAre(unreachable));
   EXPECT_EQ(page.draft().text, "Hi");
   EXPECT_EQ(page.draft().displayList, "Ann [+61491570156]");
   simulator.clearFaults();
@@ -169,7 +169,7 @@ TEST_F(SmsPage, aSecondSendWhileOneRunsIsDropped) {
   EXPECT_THAT(simulator.messages(), SizeIs(1));
 }
 
-TEST_F(SmsPage, scheduleTravelsWithTheNextMessageOnly) {
+TEST_F(SmsPage, scheduleAppliesToTheNextMessageOnly) {
   select({"Ann"});
   QTest::keyClicks(&editor(), "Hi");
   const auto& shown = find<QLineEdit>("scheduleText");
@@ -190,7 +190,7 @@ TEST_F(SmsPage, scheduleTravelsWithTheNextMessageOnly) {
   EXPECT_TRUE(page.draft().schedule.isNow());
 }
 
-TEST_F(SmsPage, senderIdIsKeptForEveryMessageOfTheRun) {
+TEST_F(SmsPage, senderIdAppliesToAllMessages) {
   inDialog<CSenderIdDlg>("senderIdButton", [](CSenderIdDlg& dialog) {
     QTest::keyClicks(dialog.findChild<QLineEdit*>(), "+61491570999");
     QTest::keyClick(dialog.findChild<QLineEdit*>(), Qt::Key_Return);
@@ -229,10 +229,10 @@ TEST_F(SmsPage, hintsShowThePartAndUnsendableCharacters) {
   EXPECT_EQ(page.draft().charset, SmsCharset::Unicode);
   EXPECT_EQ(lacking.text(), "");
   EXPECT_EQ(counters(), "4/133");
-  EXPECT_THAT(notifier.takeTexts(), IsEmpty());
+  EXPECT_THAT(notifier.popTexts(), IsEmpty());
 }
 
-TEST_F(SmsPage, countLineOffersToRemoveRepeatsWhileBothListsMatch) {
+TEST_F(SmsPage, repeatedRecipientsCanBeRemoved) {
   book.addContact("Ann at work", "+61491570156", "Y");
   const auto& count = find<QLabel>("recipientCount");
   auto& repeats = find<HyperlinkLabel>("removeRepeats");
@@ -248,7 +248,7 @@ TEST_F(SmsPage, countLineOffersToRemoveRepeatsWhileBothListsMatch) {
   EXPECT_EQ(contactsBox().height(), listHeight) << "the list does not move with the link";
   select({"Ann", "Lee, Bob", "Ann at work"});
   QTest::mouseClick(&repeats, Qt::LeftButton);
-  EXPECT_THAT(notifier.takeTexts(), IsEmpty());
+  EXPECT_THAT(notifier.popTexts(), IsEmpty());
   EXPECT_EQ(page.draft().displayList, "Ann [+61491570156],Lee, Bob [+60312345678]");
   EXPECT_EQ(page.draft().numbersList, "+61491570156,+60312345678");
   EXPECT_EQ(count.text(), "2 recipients");

@@ -21,9 +21,8 @@ TEST_F(SmsPage, templateRestoresTextAndRecipients) {
     QTest::keyClick(dialog.focusWidget(), Qt::Key_Return);
     EXPECT_FALSE(dialog.isVisible());
   });
-  EXPECT_THAT(notifier.takeTexts(),
-              ElementsAre("No SMS message has been provided. Enter a SMS message.",
-                          "Could not save your template!!", "Your template was saved."));
+  EXPECT_THAT(notifier.popTexts(), ElementsAre("No SMS message has been provided. Enter a SMS message.",
+                                               "Could not save your template!!", "Your template was saved."));
   EXPECT_EQ(templates.load("Hi: 10?")->message, "%%UNICODE%%4F600020D83DDE00");
 
   press("clearContactsButton");
@@ -35,7 +34,7 @@ TEST_F(SmsPage, templateRestoresTextAndRecipients) {
     dialog.findChild<QListWidget*>()->setCurrentRow(0);
     QTest::keyClick(&dialog, Qt::Key_Return);
   });
-  EXPECT_THAT(notifier.takeTexts(),
+  EXPECT_THAT(notifier.popTexts(),
               ElementsAre("Are you sure you want to load the Template called: \"Hi: 10?\"?"));
   EXPECT_EQ(page.draft().charset, SmsCharset::Unicode);
   EXPECT_EQ(page.draft().text, QString::fromUtf8("\u4F60 \U0001F600"));
@@ -45,7 +44,7 @@ TEST_F(SmsPage, templateRestoresTextAndRecipients) {
   EXPECT_EQ(find<QLabel>("recipientCount").text(), "2 recipients shown, sending to the 1 selected before");
 }
 
-TEST_F(SmsPage, standardTemplateThatUnicodeCantHoldChoosesStandard) {
+TEST_F(SmsPage, longTemplateSelectsTheStandardCharset) {
   const Cases<QString, SmsCharset, std::string> samples = {
       {QString(335, QChar(u'x')), SmsCharset::Unicode, "5/0"},
       {QString(336, QChar(u'x')), SmsCharset::Standard, "3/424"},
@@ -63,7 +62,7 @@ TEST_F(SmsPage, standardTemplateThatUnicodeCantHoldChoosesStandard) {
     });
     EXPECT_EQ(page.draft().charset, charset) << text.toStdString();
     EXPECT_EQ(counters(), shown) << text.toStdString();
-    EXPECT_THAT(notifier.takeTexts(), SizeIs(1));
+    EXPECT_THAT(notifier.popTexts(), SizeIs(1));
   }
 }
 

@@ -57,7 +57,7 @@ TEST(SmsText, overlongStandardTextLosesItsEnd) {
   }
 }
 
-TEST(SmsParts, cursorIsInThePartOfTheCharacterBeforeIt) {
+TEST(SmsParts, cursorIsInThePartOfThePreviousCharacter) {
   const Cases<QString, SmsCharset, qsizetype, SmsPart> samples = {{{}, standard, 0, {1, 1}},
                                                                   {repeated(160), standard, 160, {1, 1}},
                                                                   {repeated(161), standard, 0, {1, 2}},
@@ -72,7 +72,7 @@ TEST(SmsParts, cursorIsInThePartOfTheCharacterBeforeIt) {
     EXPECT_EQ(partAt(text, charset, cursor), part) << text.size() << " at " << cursor;
 }
 
-TEST(UnicodeForm, isReadBackOnlyWhenWhole) {
+TEST(UnicodeForm, isDecodedOnlyIfComplete) {
   const QString text = QString::fromUtf8("A\u4F60\U0001F600");
   EXPECT_EQ(decodedUnicodeSms(composeSms(text, unicode).transmitText), text);
   EXPECT_EQ(decodedUnicodeSms("%%UNICODE%%4f60"), QString::fromUtf8("\u4F60")) << "one character";

@@ -58,7 +58,7 @@ TEST_F(StatusPage, selectTypeRefreshesEvenWhenTheTypeStays) {
   EXPECT_THAT(column(1), ElementsAre("new", "newer"));
 }
 
-TEST_F(StatusPage, getStatusAsksForTheSelectedRowsInListOrder) {
+TEST_F(StatusPage, getStatusQueriesTheSelectedRowsInOrder) {
   logMessage("R1", "01/01/2026 10:00:01");
   logMessage("R2", "01/01/2026 10:00:02");
   logMessage("R3", "01/01/2026 10:00:03");
@@ -74,10 +74,10 @@ TEST_F(StatusPage, getStatusAsksForTheSelectedRowsInListOrder) {
   getStatus();
   EXPECT_THAT(journal, IsEmpty()) << "nothing selected, no box either";
   EXPECT_EQ(operations().count(u"getStatus"_s), 2);
-  EXPECT_THAT(notifier.takeTexts(), IsEmpty());
+  EXPECT_THAT(notifier.popTexts(), IsEmpty());
 }
 
-TEST_F(StatusPage, contextMenuHasOneEntryThatAsksForTheStatus) {
+TEST_F(StatusPage, contextMenuQueriesTheStatus) {
   logMessage("R1", "01/01/2026 10:00:01");
   open();
   auto* menu = page_->findChild<QMenu*>("statusMenu");
@@ -90,7 +90,7 @@ TEST_F(StatusPage, contextMenuHasOneEntryThatAsksForTheStatus) {
   EXPECT_THAT(column(3), ElementsAre("Delivered to handset"));
 }
 
-TEST_F(StatusPage, dateHeadingSortsByTimeBesideTheFirstOrder) {
+TEST_F(StatusPage, dateHeadingSortsByTime) {
   logMessage("new", "02/01/2026 10:00:10");
   logMessage("old", "30/12/2025 10:00:40");
   logMessage("newest", "02/01/2026 10:00:50");

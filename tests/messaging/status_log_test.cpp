@@ -57,10 +57,10 @@ TEST_F(StatusFileTest, onlyTheFirstThousandElementsAreRead) {
   EXPECT_EQ(log_.entries().size(), 999U) << "an element of another name counts";
   EXPECT_EQ(log_.entries().at(u"999"_s), (StatusEntry{{}, "999", u"\u2714"_s, {}, "d"}));
   EXPECT_FALSE(log_.isModified());
-  EXPECT_THAT(notifier_.takeTexts(), IsEmpty());
+  EXPECT_THAT(notifier_.popTexts(), IsEmpty());
 }
 
-TEST_F(StatusFileTest, ofTooManyEntriesTheNewestAreWritten) {
+TEST_F(StatusFileTest, onlyTheNewestEntriesAreWritten) {
   for (int i = 0; i < 1200; ++i) {
     StatusEntry each = entry(QString::number(i));
     each.date = QDateTime(QDate(2026, 1, 1), {}).addDays(i * 7 % 1200).toString("dd/MM/yyyy HH:mm:ss");
@@ -77,7 +77,7 @@ TEST_F(StatusFileTest, missingFileIsAWarning) {
   log_.add(entry(u"old"_s));
   file_.load(log_, notifier_);
   EXPECT_EQ(notifier_.shown.at(0).style, message_style::exclamation);
-  EXPECT_THAT(notifier_.takeTexts(), ElementsAre("Could not locate the status file."));
+  EXPECT_THAT(notifier_.popTexts(), ElementsAre("Could not locate the status file."));
   EXPECT_THAT(log_.entries(), IsEmpty());
 }
 
@@ -104,7 +104,7 @@ TEST_F(StatusFileTest, rejectedFileIsKeptAndItsReadableLinesAreRecovered) {
   };
   for (const auto& [bytes, entries, said] : samples) {
     load(bytes);
-    EXPECT_THAT(notifier_.takeTexts(), ElementsAre(AllOf(HasSubstr("cannot be read: "), HasSubstr(said))))
+    EXPECT_THAT(notifier_.popTexts(), ElementsAre(AllOf(HasSubstr("cannot be read: "), HasSubstr(said))))
         << bytes.toStdString();
     EXPECT_EQ(log_.entries().size(), entries.size());
     for (const StatusEntry& each : entries) EXPECT_EQ(log_.entries().at(each.receipt), each);
@@ -121,7 +121,7 @@ TEST_F(StatusFileTest, rejectedFileIsKeptAndItsReadableLinesAreRecovered) {
   }
 }
 
-TEST_F(StatusFileTest, tenRejectedFilesAreKeptAndOneThatCannotBeKeptIsNotReplaced) {
+TEST_F(StatusFileTest, tenRejectedFilesAreKept) {
   for (const char* name : {"Status.xml.bad", "Status.xml.9.bad", "Status.xml.x.bad"})
     writeBytes(folder_.filePath(QString::fromLatin1(name)), "old");
   for (int i = 10; i < 20; ++i) {
@@ -148,12 +148,12 @@ TEST_F(StatusFileTest, tenRejectedFilesAreKeptAndOneThatCannotBeKeptIsNotReplace
 
 TEST_F(StatusFileTest, aHugeFileIsRefusedAndRenamed) {
   load(QByteArray(StatusFile::mostBytes + 1, ' '));
-  EXPECT_THAT(notifier_.takeTexts(), ElementsAre(HasSubstr("cannot be read: It is larger")));
+  EXPECT_THAT(notifier_.popTexts(), ElementsAre(HasSubstr("cannot be read: It is larger")));
   ASSERT_TRUE(file_.save(log_));
   EXPECT_EQ(QFileInfo(path_ + ".1.bad").size(), StatusFile::mostBytes + 1);
 }
 
-TEST_F(StatusFileTest, controlCharactersAreNeitherWrittenNorAReasonToRefuseAFile) {
+TEST_F(StatusFileTest, controlCharactersAreRemoved) {
   const QString bad = u"a\x13"_s + QChar(0) + "\x1B\x7F\u0085\uFFFE" + QChar(0xD800) + "b\r\nc\td" +
                       QString::fromUtf8("\U0001F600\u2013");
   const QString clean = QString::fromUtf8("ab  c d\U0001F600\u2013");
@@ -165,13 +165,13 @@ TEST_F(StatusFileTest, controlCharactersAreNeitherWrittenNorAReasonToRefuseAFile
   load(readBytes(path_).replace("ab",
                                 "a\x13\x01"
                                 "b"));
-  EXPECT_THAT(notifier_.takeTexts(), IsEmpty());
+  EXPECT_THAT(notifier_.popTexts(), IsEmpty());
   EXPECT_EQ(log_.entries().at(expected.receipt), expected);
   ASSERT_TRUE(file_.save(log_));
   EXPECT_THAT(QDir(folder_.path()).entryList({"*.bad"}), IsEmpty());
 }
 
-TEST_F(StatusFileTest, twoProgramsKeepEachOthersEntries) {
+TEST_F(StatusFileTest, entriesOfTwoProgramsAreMerged) {
   StatusFile otherFile(path_);
   StatusLog other;
   const auto statuses = [](const StatusLog& log) {
@@ -247,14 +247,9 @@ int compared(const char* first, const char* second) {
 
 std::vector<std::string> sorted(const std::vector<const char*>& dates) {
   std::vector<StatusEntry> entries;
-  for (const char* date : dates) {
-    StatusEntry entry;
-    entry.date = QString::fromLatin1(date);
-    entries.push_back(entry);
-  }
+  for (const char* date : dates) entries.push_back({{}, {}, {}, {}, QString::fromLatin1(date)});
   sortByStatusDate(entries);
   std::vector<std::string> result;
-  result.reserve(entries.size());
   for (const StatusEntry& entry : entries) result.push_back(entry.date.toStdString());
   return result;
 }

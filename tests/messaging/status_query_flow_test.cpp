@@ -39,7 +39,7 @@ struct StatusQuery : testing::Test, GatewayRig {
   qsizetype sent_ = 0;
 };
 
-TEST_F(StatusQuery, answersAreStoredShownAndSaved) {
+TEST_F(StatusQuery, repliesAreStoredShownAndSaved) {
   query({receipts_[2], receipts_[0]});
   EXPECT_EQ(updated_,
             QStringList({receipts_[2] + "=Queued at gateway", receipts_[0] + "=Queued at gateway"}));
@@ -77,7 +77,7 @@ TEST_F(StatusQuery, queryStopsAfterThreeUnansweredReceipts) {
   setFault(FaultKind::SoapFault, u"getStatus"_s);
   query(receipts_ + receipts_);
   EXPECT_EQ(queries().size(), 3);
-  EXPECT_THAT(notifier.takeTexts(), ElementsAre(unreachable));
+  EXPECT_THAT(notifier.popTexts(), ElementsAre(unreachable));
   EXPECT_EQ(statusQueryText(outcome_), "6 could not be determined.");
   EXPECT_EQ(status(0), "Delivered to Gateway");
 }
@@ -88,7 +88,7 @@ TEST_F(StatusQuery, cancelKeepsReceivedStatusesAndShowsNoError) {
   query(receipts_);
   EXPECT_EQ(status(0), "Queued at gateway");
   EXPECT_EQ(status(2), "Delivered to Gateway");
-  EXPECT_THAT(notifier.takeTexts(), IsEmpty());
+  EXPECT_THAT(notifier.popTexts(), IsEmpty());
   EXPECT_EQ(statusQueryText(outcome_), "Cancelled: 2 not asked for.");
   EXPECT_FALSE(log.isModified());
 }

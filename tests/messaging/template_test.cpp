@@ -7,7 +7,7 @@
 namespace parlexo::test {
 namespace {
 
-TEST(TemplateParsing, wantsTheSeparatorOnce) {
+TEST(TemplateParsing, requiresOneSeparator) {
   const std::pair<QByteArray, std::optional<Template>> files[] = {
       {"Ann [+1]{|/SEP/|}Hi", Template{"Ann [+1]", "Hi"}},
       {"{|/SEP/|}Hi", Template{"", "Hi"}},
@@ -26,7 +26,7 @@ struct TemplateStore : testing::Test {
   TemplateFolder folder{directory.path()};
 };
 
-TEST_F(TemplateStore, savesExactlyThesePlainBytesAndReplacesSilently) {
+TEST_F(TemplateStore, savesPlainBytesAndReplaces) {
   EXPECT_TRUE(folder.save("Lunch", {"", "a much longer text than the next"}));
   EXPECT_TRUE(
       folder.save("Lunch", {QString::fromUtf8("Zo\u00EB [+44]"), QString::fromUtf8("5 \u20AC\n\u4F60")}));
@@ -47,7 +47,7 @@ TEST_F(TemplateStore, listsTemplateFilesAndRemovesThem) {
   EXPECT_THAT(folder.names(), ElementsAre("Ask - 10%", "b.tpl"));
 }
 
-TEST_F(TemplateStore, refusesNamesThatNoFileCanHave) {
+TEST_F(TemplateStore, rejectsInvalidFileNames) {
   for (const QString& name : {QString(), u"../out"_s, u"a\\b"_s, u"a"_s + QChar(u'\0'), QString(300, u'x')})
     EXPECT_FALSE(folder.save(name, {"", "Hi"})) << name.toStdString();
   EXPECT_THAT(folder.names(), IsEmpty());

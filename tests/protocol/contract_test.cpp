@@ -39,7 +39,7 @@ TEST(Contract, isTheTableOfTheDocumentation) {
 }
 
 /// Each member must have its own address.
-TEST(Contract, everyFieldHasAMemberOfItsOwn) {
+TEST(Contract, everyFieldHasItsOwnMember) {
   protocol::forEachOperation([&](const auto& operation) {
     typename std::remove_cvref_t<decltype(operation)>::Request request;
     const protocol::Fields fields = operation.fields(request);

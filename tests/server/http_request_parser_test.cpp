@@ -46,7 +46,7 @@ TEST(HttpRequestParser, parsesPipelinedRequests) {
   EXPECT_FALSE(second.keepAlive);
 }
 
-TEST(HttpRequestParser, asksForTheBodyOfAClientThatWaits) {
+TEST(HttpRequestParser, supportsExpectContinue) {
   HttpRequestParser parser;
   EXPECT_EQ(parser.feed("POST / HTTP/1.1\r\nExpect: 100-continue\r\nContent-Length: 1\r\n\r\n"),
             State::NeedsMore);
@@ -55,7 +55,7 @@ TEST(HttpRequestParser, asksForTheBodyOfAClientThatWaits) {
   EXPECT_EQ(parser.feed("x"), State::Complete);
 }
 
-TEST(HttpRequestParser, refusesWhatIsMalformedOrTooLarge) {
+TEST(HttpRequestParser, rejectsMalformedAndLargeRequests) {
   const QByteArray post = "POST / HTTP/1.1\r\n";
   const Cases<QByteArray, int> cases = {
       {"\x16\x03\x01 garbage\r\n", 400},

@@ -32,27 +32,27 @@ struct GatewayFaults : testing::Test {
   QByteArray session_;
 };
 
-TEST_F(GatewayFaults, faultLastsForOneCallOrUntilItIsCleared) {
+TEST_F(GatewayFaults, faultAppliesToOneCallOrUntilCleared) {
   set("sendSms:code=12:next");
-  EXPECT_EQ(valueOf(sendSms(), "nErrorCode"), "12");
-  EXPECT_EQ(valueOf(sendSms(), "nErrorCode"), "0");
+  EXPECT_EQ(elementText(sendSms(), "nErrorCode"), "12");
+  EXPECT_EQ(elementText(sendSms(), "nErrorCode"), "0");
   set("sendSms:soapfault=Out of paper");
-  for (int i = 0; i < 2; ++i) EXPECT_EQ(valueOf(sendSms(), "faultstring"), "Out of paper");
-  EXPECT_EQ(valueOf(client().call("getVersion", {}), "nVersion"), "103");
+  for (int i = 0; i < 2; ++i) EXPECT_EQ(elementText(sendSms(), "faultstring"), "Out of paper");
+  EXPECT_EQ(elementText(client().call("getVersion", {}), "nVersion"), "103");
   simulator_.clearFaults();
-  EXPECT_EQ(valueOf(sendSms(), "nErrorCode"), "0");
+  EXPECT_EQ(elementText(sendSms(), "nErrorCode"), "0");
 }
 
-TEST_F(GatewayFaults, textOfAnAnswerMayBeAnyUnicode) {
+TEST_F(GatewayFaults, replyTextMayBeAnyUnicode) {
   set("any:text=\xE9\xA0");
   // Characters of the code page are sent as the code point of their byte, all others unchanged.
-  EXPECT_EQ(valueOf(client().call("getNews", {}), "sNews"), "\xC3\xA9\xC2\xA0");
+  EXPECT_EQ(elementText(client().call("getNews", {}), "sNews"), "\xC3\xA9\xC2\xA0");
   simulator_.clearFaults();
   simulator_.setNews(u"\u20AC \u0100 \U0001F600"_s);
-  EXPECT_EQ(valueOf(client().call("getNews", {}), "sNews"), "\xC2\x80 \xC4\x80 \xF0\x9F\x98\x80");
+  EXPECT_EQ(elementText(client().call("getNews", {}), "sNews"), "\xC2\x80 \xC4\x80 \xF0\x9F\x98\x80");
 }
 
-TEST_F(GatewayFaults, cutAnswerEndsHalfWay) {
+TEST_F(GatewayFaults, cutReplyHasHalfItsBody) {
   set("sendSms:cut:next");
   const QByteArray reply = sendSms();
   const qsizetype body = reply.size() - reply.indexOf("\r\n\r\n") - 4;

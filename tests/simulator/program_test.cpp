@@ -28,7 +28,7 @@ TEST(CommandLine, problemIsReported) {
     EXPECT_EQ(readCommandLine(QString::fromLatin1(arguments).split(u' ')).problem.toStdString(), problem);
 }
 
-TEST(GatewayProgram, servesUntilItIsAskedToEnd) {
+TEST(GatewayProgram, servesUntilTerminated) {
   QProcess process;
   process.start(program(), {u"--port"_s, u"0"_s});
   ASSERT_TRUE(process.waitForReadyRead(10000));
@@ -44,7 +44,7 @@ TEST(GatewayProgram, servesUntilItIsAskedToEnd) {
   EXPECT_THAT(process.readAllStandardOutput().toStdString(), HasSubstr("sessionStart: code 0, success"));
 }
 
-TEST(GatewayProgram, badOptionEndsItWithAMessage) {
+TEST(GatewayProgram, badOptionIsReported) {
   QProcess process;
   process.start(program(), {u"--prot"_s});
   ASSERT_TRUE(process.waitForFinished(10000));

@@ -34,16 +34,12 @@ QByteArray RawClient::exchange(const QByteArray& bytes) const {
   return readToEnd(socket);
 }
 
-QByteArray RawClient::get(const QByteArray& path) const {
-  return exchange("GET " + path + " HTTP/1.0\r\nHost: localhost\r\n\r\n");
-}
-
 QByteArray RawClient::call(const QByteArray& operation, const QByteArray& fields) const {
   return exchange(postRequest(operation, fields));
 }
 
 QByteArray RawClient::logIn() const {
-  return valueOf(call("sessionStart", text("sUser", "demo") + text("sPassword", "demo1234")), "sSession");
+  return elementText(call("sessionStart", text("sUser", "demo") + text("sPassword", "demo1234")), "sSession");
 }
 
 QByteArray postRequest(const QByteArray& operation, const QByteArray& fields) {
@@ -71,14 +67,14 @@ QByteArray flag(const QByteArray& name, bool value) {
   return "<" + name + " xsi:type=\"xsd:boolean\">" + (value ? "true" : "false") + "</" + name + ">";
 }
 
-QByteArray valueOf(const QByteArray& reply, const QByteArray& name) {
+QByteArray elementText(const QByteArray& reply, const QByteArray& name) {
   const qsizetype begin = reply.indexOf("<" + name);
   const qsizetype content = begin < 0 ? -1 : reply.indexOf('>', begin);
   const qsizetype end = content < 0 ? -1 : reply.indexOf("</" + name + ">", content);
   return end < 0 ? QByteArray("(none)") : reply.mid(content + 1, end - content - 1);
 }
 
-int statusOf(const QByteArray& reply) {
+int httpStatus(const QByteArray& reply) {
   return reply.startsWith("HTTP/1.1 ") ? reply.mid(9, 3).toInt() : 0;
 }
 

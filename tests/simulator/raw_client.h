@@ -14,7 +14,6 @@ class RawClient {
 
   /// Sends `bytes` and returns the reply when the peer closes the connection or after 5 s.
   [[nodiscard]] QByteArray exchange(const QByteArray& bytes) const;
-  [[nodiscard]] QByteArray get(const QByteArray& path) const;
   /// Calls an operation; `fields` are the child elements of its element.
   [[nodiscard]] QByteArray call(const QByteArray& operation, const QByteArray& fields) const;
   /// Logs in as demo and returns the token.
@@ -33,9 +32,9 @@ class RawClient {
 [[nodiscard]] QByteArray flag(const QByteArray& name, bool value);
 
 /// The text of the first element `name` in `reply`; "(none)" when there is none.
-[[nodiscard]] QByteArray valueOf(const QByteArray& reply, const QByteArray& name);
+[[nodiscard]] QByteArray elementText(const QByteArray& reply, const QByteArray& name);
 
 /// The HTTP status of `reply`; 0 when it has none.
-[[nodiscard]] int statusOf(const QByteArray& reply);
+[[nodiscard]] int httpStatus(const QByteArray& reply);
 
 }  // namespace parlexo::test

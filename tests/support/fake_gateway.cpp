@@ -143,7 +143,7 @@ std::string envelope(const std::string& body, const std::string& header) {
          header + "<S:Body>" + body + "</S:Body></S:Envelope>";
 }
 
-std::string bodyOf(const std::string& message) {
+std::string httpBody(const std::string& message) {
   const auto end = message.find("\r\n\r\n");
   return end == std::string::npos ? std::string() : message.substr(end + 4);
 }

@@ -72,7 +72,7 @@ inline const std::string envelopeStart =
 inline const std::string envelopeEnd = "</SOAP-ENV:Body></SOAP-ENV:Envelope>\r\n";
 
 /// The body of an HTTP message.
-[[nodiscard]] std::string bodyOf(const std::string& message);
+[[nodiscard]] std::string httpBody(const std::string& message);
 
 /// A loopback port without a listener.
 [[nodiscard]] int closedPort();

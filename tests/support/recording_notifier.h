@@ -44,14 +44,14 @@ struct RecordingNotifier final : Notifier {
   }
 
   /// The texts shown since the last call.
-  [[nodiscard]] std::vector<std::string> takeTexts() {
+  [[nodiscard]] std::vector<std::string> popTexts() {
     std::vector<std::string> texts;
     for (const Shown& message : std::exchange(shown, {})) texts.push_back(message.text.toStdString());
     return texts;
   }
 
   /// The lines shown since the last call.
-  [[nodiscard]] QStringList takeLines() {
+  [[nodiscard]] QStringList popLines() {
     QStringList lines;
     for (const Shown& message : std::exchange(shown, {})) lines << message.line();
     return lines;

@@ -9,8 +9,8 @@ namespace parlexo::test {
 
 /// Runs a task on the calling thread when the test calls finish().
 struct SteppingWorker final : BackgroundWorker {
-  void start(CallRunner::Task exchange, std::function<void()> onEnd) override {
-    exchange_ = std::move(exchange);
+  void start(CallRunner::Task task, std::function<void()> onEnd) override {
+    task_ = std::move(task);
     onEnd_ = std::move(onEnd);
     cancel_ = CancelFlag();
   }
@@ -21,12 +21,12 @@ struct SteppingWorker final : BackgroundWorker {
 
   /// Runs the pending task and reports its end.
   void finish() {
-    std::exchange(exchange_, nullptr)(cancel_);
+    std::exchange(task_, nullptr)(cancel_);
     std::exchange(onEnd_, nullptr)();
   }
 
  private:
-  CallRunner::Task exchange_;
+  CallRunner::Task task_;
   std::function<void()> onEnd_;
   CancelFlag cancel_;
 };

@@ -42,6 +42,16 @@ inline QStringList columnCells(const QAbstractItemView& view, int column) {
   return cells;
 }
 
+/// The texts of all visible labels, buttons and fields.
+inline QStringList visibleTexts(const QWidget& window) {
+  QStringList texts;
+  for (const auto* widget : window.findChildren<QWidget*>()) {
+    const QString text = widget->property("text").toString();
+    if (widget->isVisible() && !text.isEmpty()) texts << text;
+  }
+  return texts;
+}
+
 /// Shows a window and waits until it has the keyboard.
 inline void showActive(QWidget& window) {
   window.show();

@@ -25,14 +25,14 @@ struct StressVerdict : testing::Test {
   std::vector<std::string> problems(const std::string& journal) {
     write("journal", journal);
     write("database", file_);
-    return judge(Kind::Contacts, pathOf("database"), {pathOf("journal")}).problems;
+    return judge(Kind::Contacts, filePath("database"), {filePath("journal")}).problems;
   }
 
   Verdict memberVerdict(const std::string& journal, const std::string& contactJournal) {
     write("journal", journal);
     write("contacts", contactJournal);
     write("database", file_);
-    return judge(Kind::Members, pathOf("database"), {pathOf("journal")}, {pathOf("contacts")});
+    return judge(Kind::Members, filePath("database"), {filePath("journal")}, {filePath("contacts")});
   }
 
   // Replaces "@" in the journal by the group's file.
@@ -41,17 +41,17 @@ struct StressVerdict : testing::Test {
       journal.replace(at, 1, "group|");
     write("journal", journal);
     write("group", file_);
-    return judgeGroups({pathOf("group")}, {pathOf("journal")}).problems;
+    return judgeGroups({filePath("group")}, {filePath("journal")}).problems;
   }
 
   std::string file_;
 
  private:
-  std::string pathOf(const std::string& name) {
+  std::string filePath(const std::string& name) {
     return folder_.filePath(QString::fromStdString(name)).toStdString();
   }
   void write(const std::string& name, const std::string& bytes) {
-    std::ofstream(pathOf(name), std::ios::binary) << bytes;
+    std::ofstream(filePath(name), std::ios::binary) << bytes;
   }
 
   QTemporaryDir folder_;
@@ -98,7 +98,7 @@ TEST_F(StressVerdict, damagedFileIsFound) {
               ElementsAre(HasSubstr("Bob: nobody wrote this")));
 }
 
-TEST_F(StressVerdict, memberMayBeGoneOnlyWhereItsContactMayHaveBeen) {
+TEST_F(StressVerdict, memberMayBeMissingOnlyWithItsContact) {
   const Cases<std::string, std::size_t> cases = {
       {"", 1},
       {"begin\tw\t11\tAnn\tx\ndone\t12\n", 1},

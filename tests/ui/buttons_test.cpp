@@ -78,7 +78,7 @@ TEST(PictureButton, heldEnterPressesOnce) {
   EXPECT_EQ(sample.strongClicks.count(), 0) << "the repeated key must not go on to the default button";
 }
 
-TEST(PictureButton, hiddenOrDisabledDefaultIsNotPressedUnseen) {
+TEST(PictureButton, hiddenOrDisabledDefaultIsNotPressed) {
   SampleDialog sample;
   sample.edit->setFocus();
   sample.strong->setEnabled(false);
@@ -89,7 +89,7 @@ TEST(PictureButton, hiddenOrDisabledDefaultIsNotPressedUnseen) {
   EXPECT_EQ(sample.strongClicks.count(), 0);
 }
 
-TEST(GradientDialog, opensAsHighAsItsTextsNeed) {
+TEST(GradientDialog, opensLargeEnoughForItsTexts) {
   GradientDialog dialog;
   dialog.setMinimumWidth(300);
   auto* words = new QLabel(QString(u"words "_s).repeated(9), &dialog);
@@ -102,7 +102,7 @@ TEST(GradientDialog, opensAsHighAsItsTextsNeed) {
   EXPECT_GE(words->height(), words->heightForWidth(words->width()));
 }
 
-TEST(ButtonAccessibility, assistiveToolsReadNameAndRoleAndCanPress) {
+TEST(ButtonAccessibility, exposesNameRoleAndAction) {
   PictureButton button(u"Fish && &Chips"_s);
   HyperlinkLabel link(u"About"_s);
   const Cases<QAbstractButton*, QAccessible::Role, QString, QString> cases = {

@@ -22,7 +22,7 @@ struct FocusKeeperTest : testing::Test {
   std::unique_ptr<GradientDialog> question_ = std::make_unique<GradientDialog>(dialog_.get());
 };
 
-TEST_F(FocusKeeperTest, windowBelowGetsTheKeyboardWhenTwoCloseTogether) {
+TEST_F(FocusKeeperTest, windowBelowIsActivatedWhenTwoCloseTogether) {
   const FocusKeeper keeper;
   question_.reset();
   dialog_.reset();

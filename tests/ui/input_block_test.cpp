@@ -38,7 +38,7 @@ struct SampleWindow {
   PictureButton* button = new PictureButton(u"&Send"_s);
 };
 
-TEST(InputBlock, inputIsDroppedWhileItLivesAndWorksAgainAfter) {
+TEST(InputBlock, inputIsDroppedDuringItsLifetime) {
   SampleWindow sample;
   auto outer = std::make_unique<InputBlock>();
   auto inner = std::make_unique<InputBlock>();
@@ -49,7 +49,7 @@ TEST(InputBlock, inputIsDroppedWhileItLivesAndWorksAgainAfter) {
   EXPECT_EQ(sample.pressInEveryWay(), 4);
 }
 
-TEST(InputBlock, closeRequestsAreDroppedWhereAskedFor) {
+TEST(InputBlock, closeRequestsAreDroppedOnRequest) {
   SampleWindow sample;
   {
     const InputBlock block(InputBlock::CloseRequests::Dropped);

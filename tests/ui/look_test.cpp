@@ -37,7 +37,7 @@ struct SampleBar {
   QScrollBar bar;
 };
 
-TEST(FlatScrollBar, thumbCanBeGrabbedAndGrooveTurnsPages) {
+TEST(FlatScrollBar, thumbCanBeDraggedAndGrooveScrollsByPages) {
   for (const auto orientation : {Qt::Vertical, Qt::Horizontal}) {
     for (const int maximum : {100, 100000, std::numeric_limits<int>::max()}) {
       SampleBar sample(orientation, maximum, 10);

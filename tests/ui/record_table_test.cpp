@@ -75,7 +75,7 @@ struct RecordTableTest : testing::Test {
   std::unique_ptr<RecordTable> table_;
 };
 
-TEST_F(RecordTableTest, headingSortsTurnsRoundAndGivesTheFirstOrderBack) {
+TEST_F(RecordTableTest, headingSortsReversesAndRestoresTheOrder) {
   open();
   const auto given = keys();
   EXPECT_THAT(given, ElementsAre("10", "b", "nan", "-2.5", "A"));
@@ -91,7 +91,7 @@ TEST_F(RecordTableTest, headingSortsTurnsRoundAndGivesTheFirstOrderBack) {
   EXPECT_THAT(keys(), ElementsAre("b", "10", "nan", "A", "-2.5")) << "equal ones in the first order";
 }
 
-TEST_F(RecordTableTest, orderOutlivesAResetAndRowsStayWhileTheyChange) {
+TEST_F(RecordTableTest, orderSurvivesAResetAndRowChanges) {
   open();
   clickHeading(0);
   sheet_.fill({{"3", "", ""}, {"1", "", ""}, {"2", "", ""}});
@@ -102,7 +102,7 @@ TEST_F(RecordTableTest, orderOutlivesAResetAndRowsStayWhileTheyChange) {
   EXPECT_THAT(keys(), ElementsAre("9", "3", "2"));
 }
 
-TEST_F(RecordTableTest, selectionCopyAndExportFollowWhatIsShown) {
+TEST_F(RecordTableTest, selectionCopyAndExportUseTheShownOrder) {
   open();
   clickHeading(0);
   table_->header()->moveSection(2, 0);
@@ -122,7 +122,7 @@ TEST_F(RecordTableTest, selectionCopyAndExportFollowWhatIsShown) {
   EXPECT_TRUE(QGuiApplication::clipboard()->text().startsWith(u"bb"_s)) << "nothing selected, nothing copied";
 }
 
-TEST_F(RecordTableTest, widthsOfTheUserLastAndAllOthersFollowTheFont) {
+TEST_F(RecordTableTest, userWidthsAreStoredAndOthersFollowTheFont) {
   open();
   const int usual = table_->columnWidth(0);
   EXPECT_GE(usual, 60);

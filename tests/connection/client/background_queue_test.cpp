@@ -89,7 +89,7 @@ TEST_F(BackgroundQueueTest, constantUserCallsDelayItOnlyThreeTimes) {
   EXPECT_THAT(events_, ElementsAre("run a", "run a", "run a", "run a", "deliver a", "run b", "deliver b"));
 }
 
-TEST_F(BackgroundQueueTest, unwantedTasksAreNeitherRunNorDelivered) {
+TEST_F(BackgroundQueueTest, obsoleteTasksAreNeitherRunNorDelivered) {
   bool isWanted = true;
   const auto wanted = [&isWanted] { return isWanted; };
   add("a", wanted);
@@ -101,7 +101,7 @@ TEST_F(BackgroundQueueTest, unwantedTasksAreNeitherRunNorDelivered) {
   EXPECT_THAT(events_, ElementsAre("run a", "run c", "deliver c"));
 }
 
-TEST_F(BackgroundQueueTest, deliveryMayWaitWhileFurtherTasksEnd) {
+TEST_F(BackgroundQueueTest, deliveryMayBlockWhileOtherTasksEnd) {
   queue_->add({[](const CancelFlag&) {},
                [this] {
                  worker_->finish();  // as under a modal dialog
@@ -114,15 +114,15 @@ TEST_F(BackgroundQueueTest, deliveryMayWaitWhileFurtherTasksEnd) {
 }
 
 struct BackgroundThreadTest : testing::Test {
-  void add(CallRunner::Task exchange) {
-    queue_->add({std::move(exchange), [this] { ++delivered_; }, [] { return true; }});
+  void add(CallRunner::Task task) {
+    queue_->add({std::move(task), [this] { ++delivered_; }, [] { return true; }});
   }
 
   int delivered_ = 0;
   std::optional<BackgroundQueue> queue_{std::in_place};
 };
 
-TEST_F(BackgroundThreadTest, resultsArriveOnTheInterfaceThreadAlsoAfterAnException) {
+TEST_F(BackgroundThreadTest, resultsArriveOnTheInterfaceThreadEvenAfterAnException) {
   std::thread::id worker;
   add([&](const CancelFlag&) { worker = std::this_thread::get_id(); });
   add([](const CancelFlag&) { throw std::runtime_error("broken"); });

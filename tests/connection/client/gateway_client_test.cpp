@@ -43,7 +43,7 @@ TEST(GatewayClient, withoutContextSendsNothingAndReturns16) {
   EXPECT_EQ(gateway.requestCount(), 0);
 }
 
-TEST(GatewayClient, installsOnlyTheProxyFieldsThatAreWhole) {
+TEST(GatewayClient, installsOnlyCompleteProxyFields) {
   for (const auto& [user, password, host, installedUser, installedHost] :
        Cases<const char*, const char*, const char*, const char*, const char*>{
            {"u", "p", "h", "u", "h"},
@@ -128,7 +128,7 @@ std::chrono::milliseconds queryBy(protocol::Resolver resolve, std::chrono::milli
   return std::chrono::duration_cast<std::chrono::milliseconds>(std::chrono::steady_clock::now() - start);
 }
 
-TEST(GatewayClient, triesEveryAddressOfTheHostWithinTheTimeOut) {
+TEST(GatewayClient, triesEveryAddressWithinTheTimeout) {
   FakeGateway gateway(versionReply);
   const SilentAddress silent(gateway.port());
   const auto found = [](const std::vector<std::string>& addresses) {
@@ -153,7 +153,7 @@ TEST(GatewayClient, triesEveryAddressOfTheHostWithinTheTimeOut) {
   EXPECT_LT(queryBy(stuck, 10s, gateway.port(), false), 1500ms);
 }
 
-TEST(GatewayClient, endsWithTheTimeForTheWholeExchange) {
+TEST(GatewayClient, endsAfterTheTotalTimeout) {
   for (const auto manner : {FakeGateway::Manner::Silent, FakeGateway::Manner::Drops}) {
     FakeGateway gateway(versionReply, manner);
     GatewayAccess access = accessTo(gateway.endpoint());

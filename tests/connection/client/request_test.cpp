@@ -64,7 +64,7 @@ TEST(Request, hasItsFieldsInOrderWithTheirTypes) {
     std::string expected = envelopeStart;
     expected.append("<ns3:").append(name).append(">").append(fields);
     expected.append("</ns3:").append(name).append(">").append(envelopeEnd);
-    EXPECT_EQ(bodyOf(sent), expected);
+    EXPECT_EQ(httpBody(sent), expected);
     EXPECT_NE(sent.find("#" + name + "\"\r\n"), std::string::npos) << name;
   }
 }
@@ -85,7 +85,7 @@ TEST(Request, isOneHttpPostWithItsAction) {
           body);
 }
 
-TEST(Request, textTravelsAsOneCharacterAByte) {
+TEST(Request, textHasOneCharacterForEachByte) {
   std::string everyByte;
   for (int byte = 1; byte < 256; ++byte) everyByte.push_back(static_cast<char>(byte));
   const std::string sent = sentBy(calling<protocol::getStatusResponse>(
@@ -97,7 +97,7 @@ TEST(Request, textTravelsAsOneCharacterAByte) {
   for (char& c : expected) {
     if (static_cast<unsigned char>(c) < 0x20 && c != '\t' && c != '\n' && c != '\r') c = '?';
   }
-  protocol::RequestReader reader(bodyOf(sent));
+  protocol::RequestReader reader(httpBody(sent));
   protocol::getStatus read;
   ASSERT_TRUE(reader.read(read));
   EXPECT_EQ(read.sSession, expected);

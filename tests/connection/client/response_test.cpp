@@ -72,7 +72,7 @@ TEST(Response, isReadInEveryForm) {
   }
 }
 
-TEST(Response, textIsUnicodeWithBytesOfTheCodePageAmongIt) {
+TEST(Response, textMayMixUnicodeAndCodePage) {
   const Cases<const char*, const char16_t*> texts = {
       {"Sent \xE2\x80\x93 \xC4\x80&#256;&#x2013;", u"Sent \u2013 \u0100\u0100\u2013"},
       {"\xF0\x9F\x98\x80&#xD83D;&#xDE00;!", u"\U0001F600\U0001F600!"},
@@ -99,7 +99,7 @@ TEST(Response, textIsUnicodeWithBytesOfTheCodePageAmongIt) {
   EXPECT_EQ(fromWire(Query(httpReply(latin)).response.sStatus).toStdU16String(), u"\u00C3\u00A9");
 }
 
-TEST(Response, isReadInChunksAndUpToTheEndOfTheConnection) {
+TEST(Response, isReadInChunksOrUntilTheConnectionCloses) {
   const std::string body = envelope(statusElement("<nErrorCode>0</nErrorCode><sStatus>Sent</sStatus>"));
   const std::string head = "HTTP/1.1 200 OK\r\nContent-Type: text/xml\r\n";
   const std::string unbounded = std::string(head).append("\r\n").append(body);
@@ -241,7 +241,7 @@ TEST(Response, hostileSizesAndDepthsFail) {
       "entity expansion");
 }
 
-TEST(Response, faultsOfBothFormsGiveTheRuntimesCode) {
+TEST(Response, soapFaultsReturnTheRuntimeCode) {
   const std::string soap12 = "http://www.w3.org/2003/05/soap-envelope";
   const std::pair<const char*, int> faults[] = {
       {"<S:Fault><faultcode>S:Server</faultcode><faultstring>no</faultstring></S:Fault>", 2},
@@ -270,7 +270,7 @@ TEST(Response, faultsOfBothFormsGiveTheRuntimesCode) {
   EXPECT_EQ(Query(httpReply(newForm, "500 Internal Server Error")).result, 2);
 }
 
-TEST(Response, isWrittenByTheServerSideInTheServicesOrder) {
+TEST(Response, isWrittenInTheDocumentedOrder) {
   const auto whole = [](const char* content) { return envelopeStart + content + envelopeEnd; };
   EXPECT_EQ(protocol::responseEnvelope(protocol::getStatusResponse{.nErrorCode = -3, .sStatus = "a\x01<"}),
             whole("<ns3:getStatusResponse><nErrorCode xsi:type=\"xsd:int\">-3</nErrorCode>"

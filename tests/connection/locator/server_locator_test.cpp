@@ -79,13 +79,13 @@ Outcome locate(const std::string& site, RunState& state) {
 }
 
 /// The header lines of a request without the language, which depends on the machine.
-QStringList headOf(const std::string& request) {
+QStringList requestHead(const std::string& request) {
   QStringList lines = QString::fromStdString(request).split(u"\r\n"_s, Qt::SkipEmptyParts);
   lines.removeIf([](const QString& line) { return line.startsWith(u"Accept-Language: "); });
   return lines;
 }
 
-TEST(ServerLocator, sendsItsTwoHeadersAndNothingOfTheUser) {
+TEST(ServerLocator, sendsNoUserData) {
   FakeGateway site(httpReply(locatorText));
   RunState state;
   state.proxy.user = u"proxy user without a proxy"_s;
@@ -94,14 +94,14 @@ TEST(ServerLocator, sendsItsTwoHeadersAndNothingOfTheUser) {
   EXPECT_EQ(state.gateway.host, "10.0.0.7");
   const QString host = u"Host: 127.0.0.1:%1"_s.arg(site.port());
   EXPECT_THAT(
-      headOf(site.lastRequest()),
+      requestHead(site.lastRequest()),
       UnorderedElementsAre(u"GET /WSDLServerLocator.xml HTTP/1.1"_s, host,
                            u"Accept: text/plain, text/html, text/htm, text/xml"_s,
                            u"User-Agent: Parlexo/1.0"_s, u"Accept-Encoding: identity"_s,
                            u"Connection: Keep-Alive"_s, u"Cache-Control: no-cache"_s, u"Pragma: no-cache"_s));
 }
 
-TEST(ServerLocator, otherAnswersLocateNothingAndKeepNothing) {
+TEST(ServerLocator, otherRepliesLocateNothing) {
   const std::string cut = httpReply(locatorText).substr(0, httpReply(locatorText).size() - 5);
   for (const auto& [reply, outcome] : Cases<std::string, Outcome>{
            {httpReply(locatorText, "404 Not Found"), Outcome::NotLocated},
@@ -136,7 +136,7 @@ TEST(ServerLocator, followsUpToFiveRedirects) {
   }
   RunState state;
   EXPECT_EQ(locate(chain.back().base(), state), Outcome::NotLocated);
-  EXPECT_EQ(headOf(chain.front().lastRequest()).value(0), u"GET /elsewhere?a=b HTTP/1.1"_s);
+  EXPECT_EQ(requestHead(chain.front().lastRequest()).value(0), u"GET /elsewhere?a=b HTTP/1.1"_s);
 
   FakeGateway loop(redirectTo("/WSDLServerLocator.xml"));
   EXPECT_EQ(locate(loop.base(), state), Outcome::NotLocated);
@@ -186,7 +186,7 @@ TEST(ServerLocator, slowSitesTimeOut) {
   }
 }
 
-TEST(ServerLocator, connectsOnceMoreAfterTheDelay) {
+TEST(ServerLocator, retriesTheConnectionOnce) {
   const int port = closedPort();
   // The port is closed when the download begins.
   QTcpServer late;
@@ -207,7 +207,7 @@ TEST(ServerLocator, connectsOnceMoreAfterTheDelay) {
   EXPECT_EQ(ServerLocator(address, limits).locate(state), Outcome::Located);
 }
 
-TEST(ServerLocator, givesUpAfterTheSecondRefusedConnection) {
+TEST(ServerLocator, failsAfterTheSecondRefusedConnection) {
   RunState state;
   const auto start = std::chrono::steady_clock::now();
   EXPECT_EQ(locate("http://127.0.0.1:" + std::to_string(closedPort()), state), Outcome::NotLocated);

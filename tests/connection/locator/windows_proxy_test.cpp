@@ -41,7 +41,7 @@ TEST(WindowsProxySystem, readsTheUsersProxySettings) {
   }
 }
 
-TEST(WindowsProxySystem, letsTheSystemReadAConfigurationScript) {
+TEST(WindowsProxySystem, runsAConfigurationScript) {
   const QTemporaryDir folder;
   const QString script = folder.filePath(u"proxy.pac"_s);
   const auto answer = [&](const QByteArray& text) {

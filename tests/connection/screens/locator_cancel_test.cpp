@@ -22,7 +22,7 @@ struct NoLogin final : ProxyLogin {
   }
 };
 
-TEST(LocatorCancel, cancelInTheBoxEndsTheSearchAtOnceAndForGood) {
+TEST(LocatorCancel, cancelInTheBoxEndsTheSearch) {
   const FakeGateway silent({}, FakeGateway::Manner::Silent);
   const QUrl site(QString::fromStdString(silent.base()));
   ProgressBox progress;

@@ -6,17 +6,13 @@
 namespace parlexo::test {
 namespace {
 
-QStringList visibleTexts(const CUpgradeDlg& dialog) {
-  QStringList texts;
-  for (const QLabel* label : dialog.findChildren<QLabel*>()) {
-    if (label->isVisibleTo(&dialog)) texts << label->text();
-  }
-  return texts;
-}
-
 TEST(UpgradeDialog, showsTheNewVersionIfItIsKnown) {
-  EXPECT_EQ(visibleTexts(CUpgradeDlg(QString())).size(), 2);
-  EXPECT_EQ(visibleTexts(CUpgradeDlg(u"2.30%1"_s)).value(1), u"A new version 2.30%1 is now available!"_s);
+  for (const auto& [version, isShown] : Cases<QString, bool>{{QString(), false}, {u"2.30%1"_s, true}}) {
+    CUpgradeDlg dialog(version);
+    dialog.show();
+    EXPECT_EQ(visibleTexts(dialog).filter(u"A new version "_s).size(), isShown ? 1 : 0);
+    EXPECT_EQ(visibleTexts(dialog).contains(u"A new version 2.30%1 is now available!"_s), isShown);
+  }
 }
 
 TEST(UpgradeDialog, downloadOpensThePageAndCancelCloses) {
@@ -30,7 +26,7 @@ TEST(UpgradeDialog, downloadOpensThePageAndCancelCloses) {
   ASSERT_EQ(opened.size(), 1U);
   EXPECT_EQ(opened[0], QUrl(u"https://www.parlexo.example/messagingclient.php"_s));
   EXPECT_TRUE(dialog.isVisible());
-  QTest::mouseClick(dialog.findChild<QWidget*>(u"cancel"_s), Qt::LeftButton);
+  click(dialog, "cancel");
   EXPECT_FALSE(dialog.isVisible());
 }
 

@@ -10,7 +10,7 @@ namespace parlexo::test {
 namespace {
 
 /// The rows in one line: bars between cells, a slash after each row.
-std::string rowsOf(const Sheet& sheet) {
+std::string joinedRows(const Sheet& sheet) {
   QString all;
   for (int row = 0; row < sheet.rowCount(); ++row) {
     for (int column = 0; column < sheet.cellCount(row); ++column)
@@ -37,7 +37,7 @@ Parsed parse(const QString& text, int step, const ImportLimits& limits = {}, QCh
   return parsed;
 }
 
-TEST(DelimitedParser, readsWhatProgramsWrite) {
+TEST(DelimitedParser, readsCommonFiles) {
   const std::vector<std::pair<const char*, const char*>> cases = {
       {"", ""},
       {"a,b\r\nc,d\r\n", "a|b/c|d/"},
@@ -52,7 +52,7 @@ TEST(DelimitedParser, readsWhatProgramsWrite) {
   for (const auto& [text, rows] : cases)
     for (const int step : {1, 2, 100}) {
       const Parsed parsed = parse(QString::fromUtf8(text), step);
-      EXPECT_EQ(rowsOf(parsed.sheet), rows) << text << " by " << step;
+      EXPECT_EQ(joinedRows(parsed.sheet), rows) << text << " by " << step;
       EXPECT_TRUE(parsed.problem.isEmpty()) << text;
     }
 }
@@ -94,11 +94,11 @@ TEST_F(DelimitedFileTest, detectsEncodingAndDelimiter) {
       {QByteArray("\xFF\xFEN\0a\0m\0e\0|\0P\0h\0o\0n\0e\0\n\0Z\0o\0\xEB\0|\0001\0,\0005\0", 38), "UTF-16LE"},
       {QByteArray("\xFE\xFF\0N\0a\0m\0e\0|\0P\0h\0o\0n\0e\0\n\0Z\0o\0\xEB\0|\0001\0,\0005", 38), "UTF-16BE"},
   };
-  for (const auto& [bytes, what] : cases) EXPECT_EQ(rowsOf(this->read(write(bytes)).sheet), read) << what;
+  for (const auto& [bytes, what] : cases) EXPECT_EQ(joinedRows(this->read(write(bytes)).sheet), read) << what;
 
   const QString named = write("sep=;\r\nA,b;c\n1,2;\"3");
   EXPECT_EQ(detectFormat(named, {}, cancel_).delimiter, u';');
-  EXPECT_EQ(rowsOf(this->read(named).sheet), "A,b|c/");
+  EXPECT_EQ(joinedRows(this->read(named).sheet), "A,b|c/");
   EXPECT_THAT(this->read(named).problem.toStdString(), HasSubstr("Line 3")) << "the line of the file";
   const QString even = write("Lee, Ann;0412345678\nOak, Bob;0412345679\n");
   EXPECT_EQ(detectFormat(even, {}, cancel_).delimiter, u';') << "leaves a column of numbers";

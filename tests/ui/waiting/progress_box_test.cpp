@@ -46,7 +46,7 @@ TEST(ProgressBox, fitsItsTextAndCannotBeClosedByTheUser) {
   EXPECT_TRUE(box->isVisible());
 }
 
-TEST(ProgressBox, standsOverTheModalWindowWhileNoneIsActive) {
+TEST(ProgressBox, opensOverTheModalWindowIfNoneIsActive) {
   GradientDialog dialog;
   dialog.setModal(true);
   showActive(dialog);
@@ -56,7 +56,7 @@ TEST(ProgressBox, standsOverTheModalWindowWhileNoneIsActive) {
   EXPECT_EQ(boxes().front()->parentWidget(), &dialog);
 }
 
-TEST(ProgressBox, clicksDuringBlockingWorkAreDroppedNotKept) {
+TEST(ProgressBox, clicksDuringBlockingWorkAreDropped) {
   SamplePage page;
   ProgressBox progress;
   progress.show();
@@ -72,7 +72,7 @@ TEST(ProgressBox, clicksDuringBlockingWorkAreDroppedNotKept) {
   EXPECT_EQ(page.clicks.count(), 1) << "without the box the page works again";
 }
 
-TEST(ProgressBox, transferIsFollowedBelowTheTextUntilTheBoxGoes) {
+TEST(ProgressBox, transferIsShownUntilTheBoxCloses) {
   ProgressBox progress;
   const Transfer transfer(2 << 20);
   progress.follow(transfer);
@@ -94,7 +94,7 @@ TEST(ProgressBox, transferIsFollowedBelowTheTextUntilTheBoxGoes) {
   EXPECT_TRUE(detail()->isHidden()) << "another wait sends another file";
 }
 
-TEST(ProgressBox, boxThatGoesWithItsWindowFreesTheInput) {
+TEST(ProgressBox, boxDestroyedWithItsWindowUnblocksInput) {
   ProgressBox progress;
   {
     const SamplePage gone;

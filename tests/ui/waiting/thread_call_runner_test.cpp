@@ -25,7 +25,7 @@ struct ThreadCallRunnerTest : testing::Test {
   ThreadCallRunner runner_{progress_, {.untilBox = 50ms, .afterCancel = 100ms}};
 };
 
-TEST_F(ThreadCallRunnerTest, boxAppearsOnlyWhenTheExchangeLasts) {
+TEST_F(ThreadCallRunnerTest, boxAppearsForLongTasks) {
   for (const auto& [duration, shows] : {std::pair{1ms, false}, {200ms, true}}) {
     bool shown = false;
     QTimer timer;
@@ -40,7 +40,7 @@ TEST_F(ThreadCallRunnerTest, boxAppearsOnlyWhenTheExchangeLasts) {
   EXPECT_EQ(progress_.text(), u"Sending"_s) << "the caller's box stays and keeps its label";
 }
 
-TEST_F(ThreadCallRunnerTest, inputIsDroppedBeforeAndUnderTheBox) {
+TEST_F(ThreadCallRunnerTest, inputIsDroppedBeforeAndDuringTheBox) {
   SamplePage page;
   for (const auto when : {5ms, 100ms}) {
     QTimer::singleShot(when, [&] {
@@ -55,7 +55,7 @@ TEST_F(ThreadCallRunnerTest, inputIsDroppedBeforeAndUnderTheBox) {
   EXPECT_EQ(page.clicks.count(), 1);
 }
 
-TEST_F(ThreadCallRunnerTest, exchangeMayRunDuringAnother) {
+TEST_F(ThreadCallRunnerTest, tasksMayBeNested) {
   std::atomic<bool> outerDone = false;
   bool innerEnded = false;
   QTimer::singleShot(10ms, [&] {
@@ -76,7 +76,7 @@ TEST_F(ThreadCallRunnerTest, exceptionsBecomeAFailure) {
   EXPECT_TRUE(runner_.run([](const CancelFlag&) {}));
 }
 
-TEST_F(ThreadCallRunnerTest, onlyTheWorkersEndEndsTheWait) {
+TEST_F(ThreadCallRunnerTest, waitEndsOnlyWithTheWorker) {
   std::atomic<bool> done = false;
   QTimer::singleShot(5ms, [] { QCoreApplication::exit(); });
   EXPECT_TRUE(runner_.run([&](const CancelFlag&) {
