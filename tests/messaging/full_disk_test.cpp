@@ -1,5 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// Files that are replaced as a whole must survive a full disk.
+
+#include "base/csv_writer.h"
 #include "messaging/core/status_file.h"
+#include "messaging/core/template.h"
 #include "tests/contacts/file_size_limit.h"
 #include "tests/support/file_bytes.h"
 #include "tests/support/recording_notifier.h"
@@ -49,6 +53,22 @@ TEST_F(StatusFileOnFullDisk, rejectedFileWithoutACopyIsNotReplaced) {
   EXPECT_TRUE(log_.isModified());
   EXPECT_TRUE(file_.save(log_));
   EXPECT_EQ(readBytes(path_ + ".1.bad"), damaged);
+}
+
+TEST(OtherFilesOnFullDisk, failedSaveKeepsTheOldFile) {
+  const QTemporaryDir folder;
+  const TemplateFolder templates(folder.path());
+  const QString list = writeBytes(folder.filePath(u"list.csv"_s), "old");
+  ASSERT_TRUE(templates.save(u"a"_s, {{}, u"old"_s}));
+  CsvWriter csv(CsvCells::AsTheyAre);
+  csv.addRow({u"a row longer than the limit"_s});
+  {
+    const FileSizeLimit limit(10);
+    EXPECT_FALSE(templates.save(u"a"_s, {{}, u"new and longer"_s}));
+    EXPECT_NE(csv.save(list), QString());
+  }
+  EXPECT_EQ(templates.load(u"a"_s), (Template{{}, u"old"_s}));
+  EXPECT_EQ(readBytes(list), "old");
 }
 
 }  // namespace
