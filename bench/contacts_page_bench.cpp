@@ -65,7 +65,7 @@ struct OpenPage {
   }
 
   QTemporaryDir folder;
-  RecordingNotifier notifier;
+  test::RecordingNotifier notifier;
   SilentProgress progress;
   Settings settings{folder.path()};
   DirectCallRunner runner;

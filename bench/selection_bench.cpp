@@ -66,7 +66,7 @@ void showAndPaint(QWidget& window) {
 /// ticked from the start.
 void openDialog(benchmark::State& state) {
   const ContactSelection initial = state.range(0) ? everybody() : ContactSelection();
-  RecordingNotifier notifier;
+  test::RecordingNotifier notifier;
   town();
   for (auto step : state) {
     CSelectContactsDlg dialog(town().book(), u"SMS"_s, initial, notifier);
@@ -77,7 +77,7 @@ BENCHMARK(openDialog)->Arg(0)->Arg(1)->Unit(benchmark::kMillisecond);
 
 /// From the tick of the group to the repainted list.
 void tickGroupOf50000(benchmark::State& state) {
-  RecordingNotifier notifier;
+  test::RecordingNotifier notifier;
   CSelectContactsDlg dialog(town().book(), u"SMS"_s, {}, notifier);
   showAndPaint(dialog);
   QAbstractItemModel& groups = *dialog.findChild<CheckListView*>(u"groupList"_s)->model();
@@ -92,7 +92,7 @@ BENCHMARK(tickGroupOf50000)->Unit(benchmark::kMillisecond);
 
 /// The space bar with all rows selected, to the repainted list.
 void tickAllSelectedRows(benchmark::State& state) {
-  RecordingNotifier notifier;
+  test::RecordingNotifier notifier;
   CSelectContactsDlg dialog(town().book(), u"SMS"_s, {}, notifier);
   showAndPaint(dialog);
   auto& view = *dialog.findChild<CheckListView*>(u"contactList"_s);
@@ -107,7 +107,7 @@ BENCHMARK(tickAllSelectedRows)->Unit(benchmark::kMillisecond);
 
 /// The typed beginning of a name that nobody has: every name is looked at.
 void searchForMissingName(benchmark::State& state) {
-  RecordingNotifier notifier;
+  test::RecordingNotifier notifier;
   CSelectContactsDlg dialog(town().book(), u"SMS"_s, {}, notifier);
   auto& view = *dialog.findChild<CheckListView*>(u"contactList"_s);
   for (auto step : state) view.keyboardSearch(u"z"_s);
@@ -119,7 +119,7 @@ const char* const typings[] = {"ann 0123", "+614000", "eva city 7", "zq"};
 
 /// Every keystroke in the search field, to the laid out and repainted list; the argument picks the typing.
 void searchByKeystrokes(benchmark::State& state) {
-  RecordingNotifier notifier;
+  test::RecordingNotifier notifier;
   CSelectContactsDlg dialog(town().book(), u"SMS"_s, {}, notifier);
   showAndPaint(dialog);
   auto& view = *dialog.findChild<CheckListView*>(u"contactList"_s);
@@ -137,7 +137,7 @@ BENCHMARK(searchByKeystrokes)->DenseRange(0, 3)->Unit(benchmark::kMillisecond);
 
 /// From nothing found back to all contacts in the repainted list.
 void clearSearch(benchmark::State& state) {
-  RecordingNotifier notifier;
+  test::RecordingNotifier notifier;
   CSelectContactsDlg dialog(town().book(), u"SMS"_s, everybody(), notifier);
   showAndPaint(dialog);
   auto& view = *dialog.findChild<CheckListView*>(u"contactList"_s);
