@@ -7,25 +7,14 @@
 #include <QString>
 #include <QTemporaryDir>
 
-#include "base/notifier.h"
 #include "base/progress.h"
 #include "contacts/samples/sample_contacts.h"
 
 namespace parlexo {
 
-/// What the benchmarks of the contact store share.
+// Shared by the benchmarks of the contact store.
 
 inline constexpr int groupTotal = 100;
-
-class MessageCounter final : public Notifier {
- public:
-  MessageResult show(const QString& /*text*/, unsigned /*style*/, int /*suppressibleNumber*/) override {
-    ++count;
-    return MessageResult::Ok;
-  }
-
-  int count = 0;
-};
 
 class NoProgress final : public Progress {
  public:
@@ -34,12 +23,11 @@ class NoProgress final : public Progress {
   void hide() override {}
 };
 
-/// A contacts folder with as many sample contacts as asked for. It lies where the temporary files do, so
-/// TMPDIR chooses the disk.
+/// A temporary contacts folder with sample contacts. Set TMPDIR to choose the disk.
 class BenchFolder {
  public:
-  /// The folder with `contactTotal` contacts, written at its first use.
-  static const BenchFolder& of(int contactTotal) {
+  /// Returns the folder with `contactTotal` contacts, which is written at the first call.
+  static const BenchFolder& withContacts(int contactTotal) {
     static std::unordered_map<int, std::unique_ptr<BenchFolder>> folders;
     auto& folder = folders[contactTotal];
     if (!folder) folder = std::make_unique<BenchFolder>(contactTotal);
@@ -49,7 +37,7 @@ class BenchFolder {
   explicit BenchFolder(int contactTotal)
       : problem_(writeSampleFolder(dir_.path(), contactTotal, groupTotal)) {}
 
-  /// Empty when the folder could be written.
+  /// The error message; empty if the folder could be written.
   [[nodiscard]] const QString& problem() const { return problem_; }
   [[nodiscard]] QString path() const { return dir_.path(); }
   [[nodiscard]] QString file(const QString& name) const { return dir_.filePath(name); }

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// What the contact store costs as it grows, beside an SQLite database that does the same work on the same
-// disk, and beside the bare system calls without which no durable write is possible.
+// Measures the contact store by size, in comparison with an SQLite database that does the same work on the
+// same disk, and with the minimum of system calls for a durable write.
 
 #include <fcntl.h>
 #include <malloc.h>
@@ -37,21 +37,22 @@ constexpr int waitSeconds = 60;
 
 const QString contactsFile = u"All Contacts.all_grp"_s;
 
-int sizeOf(const benchmark::State& state) {
+int contactTotal(const benchmark::State& state) {
   return static_cast<int>(state.range(0));
 }
 
 void loadStore(benchmark::State& state) {
-  const BenchFolder& folder = BenchFolder::of(sizeOf(state));
-  MessageCounter notifier;
+  const BenchFolder& folder = BenchFolder::withContacts(contactTotal(state));
   NoProgress progress;
   SleepingLockWaiter waiter;
   for (auto step : state) {
     ItemIndexCache cache;
     ItemDatabase database(cache, waiter);
-    AddressBook book(folder.path(), database, notifier);
-    const bool isWhole = book.loadAll(progress) && notifier.count == 0 &&
-                         book.contacts().size() >= std::size_t(sizeOf(state)) &&
+    AddressBook book(folder.path(), database);
+    int errors = 0;
+    const auto countError = [&errors](const StoreError& /*error*/) { ++errors; };
+    const bool isWhole = book.loadAll(progress, countError) && errors == 0 &&
+                         book.contacts().size() >= std::size_t(contactTotal(state)) &&
                          book.groups().size() == groupTotal + 1;
     state.PauseTiming();
     book.clear();
@@ -60,11 +61,11 @@ void loadStore(benchmark::State& state) {
   }
 }
 
-const SqliteBook& sqliteOf(int contactTotal) {
+const SqliteBook& sqliteBook(int contactTotal) {
   static std::unordered_map<int, std::unique_ptr<SqliteBook>> books;
   auto& book = books[contactTotal];
   if (!book) {
-    const QString path = BenchFolder::of(contactTotal).file(u"book.sqlite"_s);
+    const QString path = BenchFolder::withContacts(contactTotal).file(u"book.sqlite"_s);
     book = std::make_unique<SqliteBook>(QFile::encodeName(path));
     book->fill(contactTotal, groupTotal);
   }
@@ -72,11 +73,11 @@ const SqliteBook& sqliteOf(int contactTotal) {
 }
 
 void loadSqlite(benchmark::State& state) {
-  const SqliteBook& database = sqliteOf(sizeOf(state));
+  const SqliteBook& database = sqliteBook(contactTotal(state));
   for (auto step : state) {
     auto book = std::make_unique<SqliteBook::Contents>(database.load());
     const bool isWhole =
-        book->contacts.size() >= std::size_t(sizeOf(state)) && book->groups.size() == groupTotal + 1;
+        book->contacts.size() >= std::size_t(contactTotal(state)) && book->groups.size() == groupTotal + 1;
     state.PauseTiming();
     book.reset();
     state.ResumeTiming();
@@ -84,7 +85,7 @@ void loadSqlite(benchmark::State& state) {
   }
 }
 
-// The contact of a save: one that is there, with a new phone number each time, or a new one each time.
+// The contact to save: the same one with a different phone number, or a new one, each time.
 class NextContact {
  public:
   explicit NextContact(bool isNew) : isNew_(isNew), contact_(sampleContacts(1).front()) {}
@@ -102,7 +103,7 @@ class NextContact {
   ContactRecord contact_;
 };
 
-// One kind of durable write of one contact. False when it failed.
+// A durable write of one contact. Returns false on error.
 using Saving = std::function<bool(const ContactRecord&)>;
 
 Saving storeSaving(ItemDatabase& database, const QString& path) {
@@ -112,7 +113,7 @@ Saving storeSaving(ItemDatabase& database, const QString& path) {
   };
 }
 
-// The least that a durable write of one record can be.
+// The minimum of a durable write of one record.
 Saving bareSaving(const QByteArray& path, bool atEnd) {
   return [path, atEnd](const ContactRecord&) {
     static constexpr std::array<char, contactRecordSize> record = {1};
@@ -123,7 +124,7 @@ Saving bareSaving(const QByteArray& path, bool atEnd) {
   };
 }
 
-// Microseconds of each call.
+// Measures calls in microseconds.
 class Stopwatch {
  public:
   bool time(const Saving& saving, const ContactRecord& contact) {
@@ -144,14 +145,14 @@ class Stopwatch {
   std::vector<double> times_;
 };
 
-// A disk's mood changes from second to second, so the three take turns, in an order drawn anew each time. The
-// time shown is the store's own; the counters are the medians in microseconds.
+// The speed of a disk varies over time, so the three kinds are measured alternately, in random order. The
+// time shown is that of the store; the counters are medians in microseconds.
 void save(benchmark::State& state, bool isNew) {
-  const BenchFolder& folder = BenchFolder::of(sizeOf(state));
+  const BenchFolder& folder = BenchFolder::withContacts(contactTotal(state));
   const QString path = folder.file(contactsFile);
   const QString barePath = folder.file(u"bare"_s);
   if (!QFile::exists(barePath)) QFile::copy(path, barePath);
-  const SqliteBook& sqlite = sqliteOf(sizeOf(state));
+  const SqliteBook& sqlite = sqliteBook(contactTotal(state));
   SleepingLockWaiter waiter;
   ItemIndexCache cache;
   ItemDatabase database(cache, waiter);
@@ -160,7 +161,7 @@ void save(benchmark::State& state, bool isNew) {
                                          bareSaving(QFile::encodeName(barePath), isNew)};
   std::array<Stopwatch, savings.size()> watches;
   NextContact next(isNew);
-  // The first one reads the index, which the program does once in a run.
+  // The first write reads the index, which the program does once.
   if (!savings[0](next())) return state.SkipWithError("not saved");
   std::array<std::size_t, savings.size()> order = {0, 1, 2};
   std::mt19937 random;
@@ -190,7 +191,7 @@ std::size_t keyBytes(const ItemIndex& index) {
 }
 
 void buildIndex(benchmark::State& state) {
-  const QString path = BenchFolder::of(sizeOf(state)).file(contactsFile);
+  const QString path = BenchFolder::withContacts(contactTotal(state)).file(contactsFile);
   SleepingLockWaiter waiter;
   ItemIndexCache cache;
   ItemDatabase database(cache, waiter);
@@ -202,7 +203,7 @@ void buildIndex(benchmark::State& state) {
     const std::size_t before = memoryInUse();
     state.ResumeTiming();
     bool deleted = false;
-    // Looking a missing key up needs the index and nothing else.
+    // Searching a missing key only needs the index.
     if (!database.deleteItem(error, nameWidth, path, "no such key", contactRecordSize, deleted, waitSeconds))
       return state.SkipWithError(qPrintable(error));
     state.PauseTiming();
@@ -221,7 +222,7 @@ void turns(benchmark::internal::Benchmark* benchmark) {
   benchmark->Apply(sizes)->UseManualTime()->Iterations(300)->Unit(benchmark::kMicrosecond);
 }
 
-// Loading and indexing first: the savings add contacts.
+// Loading and indexing come first, because saving adds contacts.
 BENCHMARK(loadStore)->Apply(sizes)->UseRealTime()->Unit(benchmark::kMillisecond);
 BENCHMARK(loadSqlite)->Apply(sizes)->UseRealTime()->Unit(benchmark::kMillisecond);
 BENCHMARK(buildIndex)->Apply(sizes)->UseRealTime()->Unit(benchmark::kMillisecond);

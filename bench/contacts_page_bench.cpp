@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// How long the user of the contacts page waits when the address book has 100,000 contacts.
+// Response times of the contacts page with an address book of 100,000 contacts.
 
 #include <QAbstractItemView>
 #include <QCoreApplication>
@@ -16,6 +16,7 @@
 #include "base/call_runner.h"
 #include "base/settings.h"
 #include "tests/addressbook/sample_book.h"
+#include "tests/support/recording_notifier.h"
 
 namespace parlexo {
 
@@ -32,10 +33,10 @@ class SilentProgress final : public Progress {
   void hide() override {}
 };
 
-/// 100,000 contacts under all letters, of whom every second belongs to one group.
-class Town : public test::SampleBook {
+/// An address book of 100,000 contacts under all letters; every second one is a member of one group.
+class LargeBook : public test::SampleBook {
  public:
-  Town() {
+  LargeBook() {
     QStringList members;
     for (int number = 0; number < contactTotal; ++number) {
       const int shuffled = static_cast<int>(number * 48271LL % contactTotal);
@@ -45,17 +46,17 @@ class Town : public test::SampleBook {
                  {u"City %1"_s.arg(number % 500), "", "", "", "", ""});
       if (number % 2 == 0) members << name;
     }
-    addGroup("Half the town", members);
+    addGroup("Half of all", members);
     addGroup("My Personal Contacts");
   }
 };
 
-Town& town() {
-  static Town built;
-  return built;
+LargeBook& largeBook() {
+  static LargeBook book;
+  return book;
 }
 
-/// The page on the screen, with what it works with.
+/// A visible contacts page with its services.
 struct OpenPage {
   OpenPage() {
     page.resize(900, 500);
@@ -69,7 +70,11 @@ struct OpenPage {
   SilentProgress progress;
   Settings settings{folder.path()};
   DirectCallRunner runner;
-  CContactsPage page{{town().book(), notifier, progress, settings, runner}};
+  CContactsPage page{{.book = largeBook().book(),
+                      .notifier = notifier,
+                      .progress = progress,
+                      .settings = settings,
+                      .runner = runner}};
   FolderTree& tree = *page.findChild<FolderTree*>();
   QAbstractItemView& list = *page.findChild<QAbstractItemView*>(u"contactList"_s);
   QLineEdit& search = *page.findChild<QLineEdit*>(u"contactSearch"_s);
@@ -77,7 +82,7 @@ struct OpenPage {
 
 const ContactFolder personal{ContactFolder::Kind::Group, u"My Personal Contacts"_s};
 
-/// From the choice of a folder to its repainted list, and back to an empty one.
+/// From selecting a folder until its list is repainted.
 void switchFolder(benchmark::State& state, const ContactFolder& folder) {
   OpenPage open;
   for (auto step : state) {
@@ -90,13 +95,13 @@ void switchFolder(benchmark::State& state, const ContactFolder& folder) {
 }
 BENCHMARK_CAPTURE(switchFolder, letterA, ContactFolder{ContactFolder::Kind::Letter, u"A"_s})
     ->Unit(benchmark::kMillisecond);
-BENCHMARK_CAPTURE(switchFolder, groupOf50000, ContactFolder{ContactFolder::Kind::Group, u"Half the town"_s})
+BENCHMARK_CAPTURE(switchFolder, groupOf50000, ContactFolder{ContactFolder::Kind::Group, u"Half of all"_s})
     ->Unit(benchmark::kMillisecond);
 
-/// What is typed letter by letter: a name, a number, two words, something that nobody has.
+/// Typed letter by letter: a name, a number, two words, a text without matches.
 const char* const typings[] = {"person 0123", "+614000", "erson city 7", "zq"};
 
-/// Every keystroke in the search, to the repainted list; the argument picks the typing.
+/// From a keystroke in the search field until the list is repainted. The argument selects the typed text.
 void searchByKeystrokes(benchmark::State& state) {
   OpenPage open;
   const QString typing = QString::fromLatin1(typings[state.range(0)]);
@@ -110,25 +115,25 @@ void searchByKeystrokes(benchmark::State& state) {
 }
 BENCHMARK(searchByKeystrokes)->DenseRange(0, 3)->Unit(benchmark::kMillisecond);
 
-/// Opening the page with its reading of the whole book, to the painted window.
+/// From opening the page, which reads the whole book, until it is painted.
 void openPage(benchmark::State& state) {
-  town();
+  largeBook();
   for (auto step : state) OpenPage open;
 }
 BENCHMARK(openPage)->Unit(benchmark::kMillisecond);
 
-/// F5, which is also what follows after every change: the book is read and sorted anew.
+/// A refresh, as by F5 or after a change: reads and sorts the whole book.
 void refreshPage(benchmark::State& state) {
   OpenPage open;
   for (auto step : state) open.page.refresh();
 }
 BENCHMARK(refreshPage)->Unit(benchmark::kMillisecond);
 
-/// Qt's own sorting and filtering between a model of all contacts and the same kind of view.
+/// For comparison: a QSortFilterProxyModel between a model of all contacts and the same kind of view.
 struct ProxiedView {
   ProxiedView() {
     ContactSelection::Contacts contacts;
-    for (const auto& [name, contact] : town().book().contacts()) contacts.push_back(&contact);
+    for (const auto& [name, contact] : largeBook().book().contacts()) contacts.push_back(&contact);
     model.setContacts(std::move(contacts));
     filter.setSourceModel(&model);
     filter.setSortCaseSensitivity(Qt::CaseInsensitive);

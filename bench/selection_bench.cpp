@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// How long the user waits for the contact selection dialog when the address book has 100,000 contacts.
+// Response times of the contact selection dialog with an address book of 100,000 contacts.
 
 #include <QCoreApplication>
 #include <QKeyEvent>
@@ -11,10 +11,11 @@
 
 #include "addressbook/core/extra_selection.h"
 #include "addressbook/core/selection_lists.h"
-#include "addressbook/screens/check_list_view.h"
+#include "addressbook/screens/check_list_model.h"
 #include "addressbook/screens/contact_list_model.h"
 #include "addressbook/screens/select_contacts_dlg.h"
 #include "tests/addressbook/sample_book.h"
+#include "tests/support/recording_notifier.h"
 
 namespace parlexo {
 
@@ -26,11 +27,11 @@ constexpr int contactTotal = 100000;
 constexpr int memberTotal = 50000;
 constexpr int cityTotal = 500;
 
-/// 100,000 contacts who can receive SMS, and a group that every second of them belongs to. The names mix
-/// words and letter cases, so that sorting has something to do.
-class Town : public test::SampleBook {
+/// An address book of 100,000 contacts that can receive SMS, half of them members of one group. The names mix
+/// words and letter cases and are not added in sorted order.
+class LargeBook : public test::SampleBook {
  public:
-  Town() {
+  LargeBook() {
     static const char* const words[] = {"ann", "Bob", "CID", "dan", "Eva", "fay", "Gus", "hal", "Ida", "Jon"};
     QStringList members;
     for (int number = 0; number < contactTotal; ++number) {
@@ -41,17 +42,17 @@ class Town : public test::SampleBook {
                  {u"City %1"_s.arg(number % cityTotal), name, "", "", "", ""});
       if (number < memberTotal) members << name;
     }
-    addGroup("Half the town", members);
+    addGroup("Half of all", members);
   }
 };
 
-const Town& town() {
-  static const Town built;
-  return built;
+const LargeBook& largeBook() {
+  static const LargeBook book;
+  return book;
 }
 
-ContactSelection everybody() {
-  SelectionLists lists(town().book(), u"All"_s, {});
+ContactSelection groupMembers() {
+  SelectionLists lists(largeBook().book(), SelectionMode::All, {});
   lists.setGroupTicked(0, true);
   return lists.tickedContacts();
 }
@@ -62,23 +63,23 @@ void showAndPaint(QWidget& window) {
   benchmark::DoNotOptimize(window.grab());
 }
 
-/// From the press of the button to the painted dialog; the argument tells whether the group's 50,000 are
-/// ticked from the start.
+/// From opening the dialog until it is painted. With the argument 1, the group's 50,000 members are ticked
+/// initially.
 void openDialog(benchmark::State& state) {
-  const ContactSelection initial = state.range(0) ? everybody() : ContactSelection();
+  const ContactSelection initial = state.range(0) ? groupMembers() : ContactSelection();
   test::RecordingNotifier notifier;
-  town();
+  largeBook();
   for (auto step : state) {
-    CSelectContactsDlg dialog(town().book(), u"SMS"_s, initial, notifier);
+    CSelectContactsDlg dialog(largeBook().book(), SelectionMode::Sms, initial, notifier);
     showAndPaint(dialog);
   }
 }
 BENCHMARK(openDialog)->Arg(0)->Arg(1)->Unit(benchmark::kMillisecond);
 
-/// From the tick of the group to the repainted list.
+/// From ticking the group until the list is repainted.
 void tickGroupOf50000(benchmark::State& state) {
   test::RecordingNotifier notifier;
-  CSelectContactsDlg dialog(town().book(), u"SMS"_s, {}, notifier);
+  CSelectContactsDlg dialog(largeBook().book(), SelectionMode::Sms, {}, notifier);
   showAndPaint(dialog);
   QAbstractItemModel& groups = *dialog.findChild<CheckListView*>(u"groupList"_s)->model();
   bool isTicked = false;
@@ -90,10 +91,10 @@ void tickGroupOf50000(benchmark::State& state) {
 }
 BENCHMARK(tickGroupOf50000)->Unit(benchmark::kMillisecond);
 
-/// The space bar with all rows selected, to the repainted list.
+/// From pressing the space bar with all rows selected until the list is repainted.
 void tickAllSelectedRows(benchmark::State& state) {
   test::RecordingNotifier notifier;
-  CSelectContactsDlg dialog(town().book(), u"SMS"_s, {}, notifier);
+  CSelectContactsDlg dialog(largeBook().book(), SelectionMode::Sms, {}, notifier);
   showAndPaint(dialog);
   auto& view = *dialog.findChild<CheckListView*>(u"contactList"_s);
   view.selectAll();
@@ -105,22 +106,22 @@ void tickAllSelectedRows(benchmark::State& state) {
 }
 BENCHMARK(tickAllSelectedRows)->Unit(benchmark::kMillisecond);
 
-/// The typed beginning of a name that nobody has: every name is looked at.
+/// Keyboard search for a prefix without matches, which compares every name.
 void searchForMissingName(benchmark::State& state) {
   test::RecordingNotifier notifier;
-  CSelectContactsDlg dialog(town().book(), u"SMS"_s, {}, notifier);
+  CSelectContactsDlg dialog(largeBook().book(), SelectionMode::Sms, {}, notifier);
   auto& view = *dialog.findChild<CheckListView*>(u"contactList"_s);
   for (auto step : state) view.keyboardSearch(u"z"_s);
 }
 BENCHMARK(searchForMissingName)->Unit(benchmark::kMillisecond);
 
-/// What is typed letter by letter: a name, a number, two words, something that nobody has.
+/// Typed letter by letter: a name, a number, two words, a text without matches.
 const char* const typings[] = {"ann 0123", "+614000", "eva city 7", "zq"};
 
-/// Every keystroke in the search field, to the laid out and repainted list; the argument picks the typing.
+/// From a keystroke in the search field until the list is repainted. The argument selects the typed text.
 void searchByKeystrokes(benchmark::State& state) {
   test::RecordingNotifier notifier;
-  CSelectContactsDlg dialog(town().book(), u"SMS"_s, {}, notifier);
+  CSelectContactsDlg dialog(largeBook().book(), SelectionMode::Sms, {}, notifier);
   showAndPaint(dialog);
   auto& view = *dialog.findChild<CheckListView*>(u"contactList"_s);
   auto& search = *dialog.findChild<QLineEdit*>(u"contactSearch"_s);
@@ -135,10 +136,10 @@ void searchByKeystrokes(benchmark::State& state) {
 }
 BENCHMARK(searchByKeystrokes)->DenseRange(0, 3)->Unit(benchmark::kMillisecond);
 
-/// From nothing found back to all contacts in the repainted list.
+/// From clearing a search without matches until the list of all contacts is repainted.
 void clearSearch(benchmark::State& state) {
   test::RecordingNotifier notifier;
-  CSelectContactsDlg dialog(town().book(), u"SMS"_s, everybody(), notifier);
+  CSelectContactsDlg dialog(largeBook().book(), SelectionMode::Sms, groupMembers(), notifier);
   showAndPaint(dialog);
   auto& view = *dialog.findChild<CheckListView*>(u"contactList"_s);
   auto& search = *dialog.findChild<QLineEdit*>(u"contactSearch"_s);
@@ -150,11 +151,11 @@ void clearSearch(benchmark::State& state) {
 }
 BENCHMARK(clearSearch)->Unit(benchmark::kMillisecond);
 
-/// The same keystrokes with Qt's own filter between the same rows and the same kind of view. It looks at
-/// the names and numbers alone, for one text instead of words.
+/// For comparison: a QSortFilterProxyModel with the same rows and the same kind of view. It searches only
+/// names and numbers, and for the whole text instead of its words.
 void searchWithProxyModel(benchmark::State& state) {
-  SelectionLists lists(town().book(), u"SMS"_s, {});
-  ContactListModel model(lists, u"SMS"_s);
+  SelectionLists lists(largeBook().book(), SelectionMode::Sms, {});
+  ContactListModel model(lists, SelectionMode::Sms);
   QSortFilterProxyModel filter;
   filter.setSourceModel(&model);
   filter.setFilterCaseSensitivity(Qt::CaseInsensitive);
@@ -174,27 +175,27 @@ void searchWithProxyModel(benchmark::State& state) {
 }
 BENCHMARK(searchWithProxyModel)->DenseRange(0, 3)->Unit(benchmark::kMillisecond);
 
-/// Making 100,000 contacts ready to be searched, which the dialog does once.
+/// Preparing 100,000 contacts for the search, which the dialog does once.
 void prepareSearch(benchmark::State& state) {
-  SelectionLists lists(town().book(), u"SMS"_s, {});
+  SelectionLists lists(largeBook().book(), SelectionMode::Sms, {});
   for (auto step : state) {
-    ContactListModel model(lists, u"SMS"_s);
+    ContactListModel model(lists, SelectionMode::Sms);
     model.search(u"zq"_s);
   }
 }
 BENCHMARK(prepareSearch)->Unit(benchmark::kMillisecond);
 
-/// "Select" with 50,000 ticked contacts.
+/// The "Select" button with 50,000 ticked contacts.
 void collectTicked(benchmark::State& state) {
-  SelectionLists lists(town().book(), u"SMS"_s, everybody());
+  SelectionLists lists(largeBook().book(), SelectionMode::Sms, groupMembers());
   for (auto step : state) benchmark::DoNotOptimize(lists.tickedContacts());
 }
 BENCHMARK(collectTicked)->Unit(benchmark::kMillisecond);
 
-/// What the attribute dialog gathers when it opens: one field with few values, one with 100,000.
+/// Collecting the values for the attribute dialog: one field with few values, one with 100,000.
 void gatherExtraValues(benchmark::State& state) {
-  town();
-  for (auto step : state) benchmark::DoNotOptimize(distinctExtraValues(town().book()));
+  largeBook();
+  for (auto step : state) benchmark::DoNotOptimize(distinctExtraValues(largeBook().book()));
 }
 BENCHMARK(gatherExtraValues)->Unit(benchmark::kMillisecond);
 

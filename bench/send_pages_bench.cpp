@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// What the user waits for around a message to 10,000 recipients, over a real connection to a simulator: the
-// selection, the send itself, and the status page with one entry for each recipient. The counter "blocked"
-// is the longest time, in milliseconds, for which the windows neither painted nor listened.
+// The waits for a message to 10,000 recipients, over a real connection to a simulator: the selection, the
+// send and the status page with one entry per recipient. The counter "blocked" is the longest time in
+// milliseconds during which the event loop did not run.
 
 #include <algorithm>
 #include <cstddef>
@@ -36,22 +36,22 @@ simulator::Options richAccount() {
   return options;
 }
 
-/// The longest time between two turns of the event loop since the watch was made.
+/// Measures the longest time between two iterations of the event loop since its construction.
 class LoopWatch {
  public:
   LoopWatch() {
-    QObject::connect(&timer_, &QTimer::timeout, &timer_, [this] { note(); });
+    QObject::connect(&timer_, &QTimer::timeout, &timer_, [this] { update(); });
     sinceTurn_.start();
     timer_.start(1);
   }
 
   [[nodiscard]] double longestMilliseconds() {
-    note();
+    update();
     return longest_;
   }
 
  private:
-  void note() {
+  void update() {
     longest_ = std::max(longest_, static_cast<double>(sinceTurn_.nsecsElapsed()) / 1e6);
     sinceTurn_.start();
   }
@@ -61,11 +61,11 @@ class LoopWatch {
   double longest_ = 0;
 };
 
-/// The services of the program itself, with the progress box and the worker thread.
+/// The services with the client's progress box and worker thread.
 class Desk : public test::GatewayRig {
  public:
   Desk() : test::GatewayRig(richAccount()) {
-    // No number ends in 99: the simulator would let it fail.
+    // The simulator rejects numbers that end in 99.
     for (int number = 0; number < recipientTotal; ++number) {
       names << u"Name %1"_s.arg(number, 5, 10, QChar(u'0'));
       book.addContact(names.back(), u"+61%1"_s.arg(400'000'000 + 100 * number), "Y");
@@ -73,7 +73,16 @@ class Desk : public test::GatewayRig {
   }
 
   [[nodiscard]] MessagingServices services() {
-    return {state, threaded, notifier, box, renewal(), book.book(), log, file, templates, settings};
+    return {.state = state,
+            .gateway = threaded,
+            .notifier = notifier,
+            .progress = box,
+            .renewal = renewal(),
+            .addressBook = book.book(),
+            .statusLog = log,
+            .statusFile = file,
+            .templates = templates,
+            .settings = settings};
   }
 
   QStringList names;
@@ -82,8 +91,8 @@ class Desk : public test::GatewayRig {
   Gateway threaded{state, threads};
 };
 
-/// Opens the selection with all contacts ticked and takes them over.
-void selectEverybody(CQuillonSMSDlg& page, const QStringList& names) {
+/// Opens the selection dialog with all contacts ticked and accepts it.
+void selectAll(CQuillonSMSDlg& page, const QStringList& names) {
   QTimer::singleShot(0, &page, [&page] { page.findChild<QDialog*>(u"selectContactsDialog"_s)->accept(); });
   page.selectContacts(names);
 }
@@ -99,13 +108,13 @@ void select10000(benchmark::State& state) {
   CQuillonSMSDlg page(desk.services());
   paint(page);
   for (auto step : state) {
-    selectEverybody(page, desk.names);
+    selectAll(page, desk.names);
     benchmark::DoNotOptimize(page.grab());
   }
 }
 BENCHMARK(select10000)->Unit(benchmark::kMillisecond);
 
-/// From the press of the button to the empty form.
+/// From pressing Send until the form has been cleared.
 void sendTo10000(benchmark::State& state) {
   Desk desk;
   CQuillonSMSDlg page(desk.services());
@@ -113,7 +122,7 @@ void sendTo10000(benchmark::State& state) {
   double blocked = 0;
   for (auto step : state) {
     state.PauseTiming();
-    selectEverybody(page, desk.names);
+    selectAll(page, desk.names);
     page.findChild<MessageEdit*>()->setPlainText(u"Hello"_s);
     state.ResumeTiming();
     LoopWatch watch;
@@ -128,10 +137,12 @@ BENCHMARK(sendTo10000)->Unit(benchmark::kMillisecond)->Iterations(5);
 
 void addEntries(StatusLog& log) {
   for (int number = 0; number < recipientTotal; ++number)
-    log.add({u"+61%1"_s.arg(400'000'000 + number), u"8C41-%1"_s.arg(number), u"Delivered to Gateway"_s,
-             u"SMS"_s,
-             u"21/11/2026 10:%1:%2"_s.arg(number / 60 % 60, 2, 10, QChar(u'0'))
-                 .arg(number % 60, 2, 10, QChar(u'0'))});
+    log.add({.phone = u"+61%1"_s.arg(400'000'000 + number),
+             .receipt = u"8C41-%1"_s.arg(number),
+             .status = u"Delivered to Gateway"_s,
+             .type = u"SMS"_s,
+             .date = u"21/11/2026 10:%1:%2"_s.arg(number / 60 % 60, 2, 10, QChar(u'0'))
+                         .arg(number % 60, 2, 10, QChar(u'0'))});
 }
 
 void fillStatusPage(benchmark::State& state) {
@@ -140,13 +151,13 @@ void fillStatusPage(benchmark::State& state) {
   CStatusDlg page(desk.services());
   paint(page);
   for (auto step : state) {
-    page.selectType(u"SMS"_s);
+    page.selectType(MessageType::Sms);
     benchmark::DoNotOptimize(page.grab());
   }
 }
 BENCHMARK(fillStatusPage)->Unit(benchmark::kMillisecond);
 
-/// Clicks on the headings of date and number in turn.
+/// Sorts by date and phone number alternately.
 void sortStatusPage(benchmark::State& state) {
   Desk desk;
   addEntries(desk.log);

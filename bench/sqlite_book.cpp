@@ -58,7 +58,7 @@ ContactRecord contactAt(sqlite3_stmt* row) {
 
 SqliteBook::SqliteBook(const QByteArray& path)
     : database_(openDatabase(path), &sqlite3_close), saving_(nullptr, &sqlite3_finalize) {
-  // A comparison with a database that does not work would mean nothing.
+  // A comparison with a failing database would be meaningless.
   if (!run(tables)) std::abort();
   saving_ = prepare(contactRow);
 }

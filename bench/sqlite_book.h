@@ -13,8 +13,8 @@
 
 namespace parlexo {
 
-/// An address book in an SQLite database, to measure ours against: the same contacts and groups, the same
-/// maps in memory, and every transaction as durable as our writes (WAL, synchronous=FULL).
+/// An address book in an SQLite database, for comparison: the same contacts and groups, the same maps in
+/// memory, and transactions as durable as the writes of the contact store (WAL, synchronous=FULL).
 class SqliteBook {
  public:
   struct Contents {
@@ -22,13 +22,13 @@ class SqliteBook {
     std::unordered_map<QString, std::unordered_map<QString, const ContactRecord*>> groups;
   };
 
-  /// Opens the database, which is made where missing.
+  /// Opens the database, which is created if missing.
   explicit SqliteBook(const QByteArray& path);
 
   /// Fills an empty database with the sample contacts and groups, in one transaction.
   void fill(int contactTotal, int groupCount);
   [[nodiscard]] Contents load() const;
-  /// Adds or changes one contact in a transaction of its own. False on failure.
+  /// Adds or changes one contact in a separate transaction. Returns false on error.
   [[nodiscard]] bool save(const ContactRecord& contact) const;
 
  private:

@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
-# What every target of the project shares: language, warnings, sanitizers, folders, and the functions
-# that declare a room's library, a program and a test.
+# Settings of all targets (language, warnings, sanitizers, folders) and the functions that declare a library, a
+# program and a test.
 
 set(CMAKE_CXX_STANDARD 20)
 set(CMAKE_CXX_STANDARD_REQUIRED ON)
@@ -8,7 +8,7 @@ set(CMAKE_CXX_EXTENSIONS OFF)
 set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
 set(CMAKE_AUTOMOC ON)
 set(CMAKE_AUTORCC ON)
-# What differs per platform lies in files named after it: code_page_posix.cpp and code_page_windows.cpp.
+# The suffix of platform-specific source files: code_page_posix.cpp, code_page_windows.cpp.
 if(WIN32)
   set(PARLEXO_PLATFORM windows)
 else()
@@ -26,7 +26,7 @@ target_include_directories(parlexo_options INTERFACE "${CMAKE_SOURCE_DIR}/src")
 target_compile_definitions(parlexo_options INTERFACE
   QT_NO_CAST_FROM_BYTEARRAY QT_NO_URL_CAST_FROM_STRING QT_NO_FOREACH QT_NO_KEYWORDS
   QT_DISABLE_DEPRECATED_BEFORE=0x060400
-  # Its header would make "min" and "max" macros.
+  # Otherwise <windows.h> defines the macros "min" and "max".
   $<$<PLATFORM_ID:Windows>:NOMINMAX>)
 target_compile_options(parlexo_options INTERFACE
   -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Wcast-align -Wunused
@@ -37,8 +37,8 @@ if(PARLEXO_SANITIZE)
   target_link_options(parlexo_options INTERFACE -fsanitize=address,undefined)
 endif()
 
-# parlexo_library(NAME SOURCES file... LINKS target...): one layer of the house. LINKS are the only
-# arrows that its code may follow; docs/architecture.md draws them and a test compares.
+# parlexo_library(NAME SOURCES file... LINKS target...): the static library of a module. tools/check-layers compares
+# LINKS with docs/architecture.md.
 function(parlexo_library name)
   cmake_parse_arguments(arg "" "" "SOURCES;LINKS" ${ARGN})
   add_library(${name} STATIC ${arg_SOURCES})
@@ -46,21 +46,21 @@ function(parlexo_library name)
   target_include_directories(${name} PUBLIC "${CMAKE_SOURCE_DIR}/src")
 endfunction()
 
-# parlexo_program(NAME SOURCES file... LINKS target...): an executable in build/<preset>/bin.
+# parlexo_program(NAME SOURCES file... LINKS target...): an executable in build/PRESET/bin.
 function(parlexo_program name)
   cmake_parse_arguments(arg "" "" "SOURCES;LINKS" ${ARGN})
   add_executable(${name} ${arg_SOURCES})
   target_link_libraries(${name} PRIVATE ${arg_LINKS} parlexo_options)
-  # A static Qt brings its plugins into the program itself.
+  # A static Qt links its plugins into the program.
   get_target_property(qt_kind Qt6::Core TYPE)
   if(qt_kind STREQUAL STATIC_LIBRARY)
     qt_finalize_target(${name})
   endif()
 endfunction()
 
-# parlexo_test(NAME [WINDOWS] SOURCES file... LINKS target...): a GoogleTest program, without a main of its
-# own, whose cases CTest runs one by one. WINDOWS says that it opens windows. The targets `core_tests` and
-# `window_tests` stand for all of either kind; the former run under the sanitizers too.
+# parlexo_test(NAME [WINDOWS] SOURCES file... LINKS target...): a GoogleTest program, whose main() is added and whose
+# cases CTest runs one by one. WINDOWS marks tests that open windows. The targets `core_tests` and `window_tests` build
+# all tests of either kind; the former also run under the sanitizers.
 add_custom_target(core_tests)
 add_custom_target(window_tests)
 function(parlexo_test name)

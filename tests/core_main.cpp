@@ -4,7 +4,7 @@
 #include <QCoreApplication>
 #include <gmock/gmock.h>
 
-#include "base/process_end.h"
+#include "base/program.h"
 
 namespace {
 

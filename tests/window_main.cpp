@@ -4,7 +4,7 @@
 #include <QApplication>
 #include <gmock/gmock.h>
 
-#include "base/process_end.h"
+#include "base/program.h"
 #include "ui/look.h"
 
 namespace {

@@ -1,15 +1,15 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""Smooth shapes on a small canvas, with nothing but the standard library.
+"""Anti-aliased shapes on a small canvas, using only the standard library.
 
-A shape is a function that tells how far a point lies outside its edge (negative inside), in the units of
-the drawing. Edges are smoothed over one pixel, so one drawing gives a crisp picture at every size.
+A shape is a function that returns the distance of a point from its edge (negative inside), in drawing units. Edges
+are anti-aliased over one pixel, so that a drawing is crisp at every size.
 """
 
 import math
 
 
 class Canvas:
-    """Colours with their cover (0 to 1), painted in drawing units of `scale` pixels each."""
+    """An RGBA image with opacities from 0 to 1; a drawing unit is `scale` pixels."""
 
     def __init__(self, width, height, scale=1.0):
         self.scale = scale
@@ -18,7 +18,7 @@ class Canvas:
         self.pixels = [[(0.0, 0.0, 0.0, 0.0)] * self.width for _ in range(self.height)]
 
     def paint(self, shape, color, opacity=1.0):
-        """Paints `shape` over what is there; `color` is an (r, g, b) or a function of (x, y) giving one."""
+        """Paints `shape` over the canvas; `color` is an (r, g, b) or a function of (x, y) that returns one."""
         for row in range(self.height):
             y = (row + 0.5) / self.scale
             line = self.pixels[row]
@@ -62,7 +62,7 @@ def line(x1, y1, x2, y2, width):
 
 
 def arc(cx, cy, radius, facing, spread, width):
-    """A stroke along a circle, `spread` radians to each side of the direction `facing`."""
+    """A stroke along a circle, `spread` radians to either side of the direction `facing`."""
     ends = [(cx + radius * math.cos(facing + s), cy + radius * math.sin(facing + s)) for s in (-spread, spread)]
 
     def distance(x, y):
@@ -75,7 +75,7 @@ def arc(cx, cy, radius, facing, spread, width):
 
 
 def triangle(*corners):
-    """Corners in clockwise order as seen on the screen."""
+    """The corners must be in clockwise order on the screen."""
     edges = []
     for (x1, y1), (x2, y2) in zip(corners, corners[1:] + corners[:1]):
         length = math.hypot(x2 - x1, y2 - y1)

@@ -1,5 +1,6 @@
-; The installer of the Windows program: into the user's own folder, so that no administrator is needed.
-; Called by packaging/windows/build with VERSION and ROOT (the project's folder).
+; SPDX-License-Identifier: GPL-3.0-or-later
+; The installer of the Windows program. It installs for the current user, without administrator rights.
+; packaging/windows/build defines VERSION and ROOT, the project's folder.
 
 Unicode true
 Target amd64-unicode
@@ -30,20 +31,20 @@ VIAddVersionKey "LegalCopyright" "Copyright (C) 2026 the Parlexo developers. GPL
 !define MUI_WELCOMEFINISHPAGE_BITMAP "${ROOT}/build/windows/installer.bmp"
 !define MUI_LICENSEPAGE_BUTTON "&Next >"
 !define MUI_LICENSEPAGE_TEXT_TOP "${NAME} is free software."
-!define MUI_LICENSEPAGE_TEXT_BOTTOM "Nobody has to accept this licence to use the program. \
-It says what you may do beyond that."
+!define MUI_LICENSEPAGE_TEXT_BOTTOM "You do not need to accept this licence to use the program. \
+It governs copying and changing it."
 !define MUI_FINISHPAGE_RUN "$INSTDIR\${NAME}.exe"
 !insertmacro MUI_PAGE_LICENSE "${ROOT}/LICENSE"
 !insertmacro MUI_PAGE_DIRECTORY
 !insertmacro MUI_PAGE_INSTFILES
 !insertmacro MUI_PAGE_FINISH
-!define MUI_UNCONFIRMPAGE_TEXT_TOP "${NAME} will be removed. Contacts, templates and Status.xml in its folder, \
-and your settings, stay."
+!define MUI_UNCONFIRMPAGE_TEXT_TOP "${NAME} will be removed. Your settings, and contacts, templates and \
+Status.xml in its folder, are kept."
 !insertmacro MUI_UNPAGE_CONFIRM
 !insertmacro MUI_UNPAGE_INSTFILES
 !insertmacro MUI_LANGUAGE "English"
 
-; A program that runs can't be replaced or removed; say so instead of leaving half of the work done.
+; A running program cannot be replaced or removed: ask the user to close it before anything is changed.
 !macro closeFirst FILE
   ${DoWhile} ${FileExists} "$INSTDIR\${FILE}"
     ClearErrors
@@ -86,7 +87,7 @@ Section
   WriteRegDWORD HKCU "${UNINSTALL_KEY}" "NoRepair" 1
 SectionEnd
 
-; Contacts, templates, Status.xml and the settings are the user's and stay.
+; Contacts, templates, Status.xml and the settings belong to the user and are kept.
 Section "Uninstall"
   !insertmacro closeFirst "${NAME}.exe"
   !insertmacro closeFirst "parlexo-simulator.exe"

@@ -20,10 +20,9 @@ namespace {
 
 QLabel* createVersionLabel() {
   auto* label = new QLabel(
-      u"Parlexo Client vX.XX\n"
-      "Copyright (C) 2026 the Parlexo developers.\nGPL-3.0-or-later."_s);
+      CAboutDlg::tr("Parlexo Client v%1\nCopyright (C) 2026 the Parlexo developers.\nGPL-3.0-or-later.")
+          .arg(QLatin1String(clientVersion)));
   label->setObjectName(u"version"_s);
-  label->setText(label->text().replace(u"X.XX"_s, QLatin1String(clientVersion)));
   label->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
   return label;
 }
@@ -32,7 +31,7 @@ QLabel* createVersionLabel() {
 
 CAboutDlg::CAboutDlg(QWidget* parent) : GradientDialog(parent) {
   setObjectName(u"about"_s);
-  setWindowTitle(u"Parlexo(TM) : About"_s);
+  setWindowTitle(tr("Parlexo(TM) : About"));
   auto* site = new HyperlinkLabel(webPage({}), QUrl(webPage({})));
   site->setObjectName(u"site"_s);
   auto* texts = new QVBoxLayout;

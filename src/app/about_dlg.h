@@ -5,7 +5,7 @@
 
 namespace parlexo {
 
-/// Product, version, rights and the way to the service's web site.
+/// Shows the product's version and copyright and a link to the service's web site.
 class CAboutDlg : public GradientDialog {
   Q_OBJECT
 

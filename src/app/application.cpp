@@ -3,7 +3,6 @@
 
 #include <QUrl>
 
-#include "app/core/shut_down.h"
 #include "app/core/start_up.h"
 #include "base/product.h"
 #include "base/secret.h"
@@ -35,16 +34,29 @@ Application::Application(const ProgramOptions& options)
       gateway_(state_, foreground_),
       backgroundGateway_(state_, backgroundQueue_),
       stores_(*settings_, notifier_, progress_),
-      screens_({state_, *settings_, stores_, gateway_, backgroundGateway_, notifier_, progress_, runner_}) {
+      screens_({.state = state_,
+                .settings = *settings_,
+                .stores = stores_,
+                .gateway = gateway_,
+                .background = backgroundGateway_,
+                .notifier = notifier_,
+                .progress = progress_,
+                .runner = runner_}) {
   setServiceHost(settings_->serviceHost());
   if (site_.isEmpty()) site_ = u"http://"_s + settings_->serviceHost();
 }
 
 int Application::run() {
-  StartUp startUp({state_, *settings_, stores_, gateway_, notifier_, progress_, screens_,
-                   [this] { return locateGateway(); }});
+  StartUp startUp({.state = state_,
+                   .settings = *settings_,
+                   .stores = stores_,
+                   .gateway = gateway_,
+                   .notifier = notifier_,
+                   .progress = progress_,
+                   .windows = screens_,
+                   .locate = [this] { return locateGateway(); }});
   const int exitCode = startUp.run();
-  // The window is gone by now, so this wait shows no progress box.
+  // The main window has closed, so the last call runs without a progress box.
   DirectCallRunner runner;
   shutDown(state_, stores_, progress_, runner);
   wipe(state_.proxy.password);

@@ -7,13 +7,12 @@
 
 #include "app/core/command_line.h"
 #include "app/disk_stores.h"
-#include "app/notification_notifier.h"
+#include "app/notification_dlg.h"
 #include "app/program_screens.h"
 #include "base/run_state.h"
 #include "base/settings.h"
 #include "connection/client/background_gateway.h"
 #include "connection/client/background_queue.h"
-#include "connection/client/foreground_runner.h"
 #include "connection/client/gateway.h"
 #include "ui/focus_keeper.h"
 #include "ui/waiting/progress_box.h"
@@ -21,12 +20,12 @@
 
 namespace parlexo {
 
-/// One run of the program: owns all that its parts share and puts them together. Needs a QApplication.
+/// Creates and owns the objects that the whole program shares. Needs a QApplication.
 class Application {
  public:
   explicit Application(const ProgramOptions& options);
 
-  /// Runs from the first progress box to the closed session; returns the exit code.
+  /// Runs the program from the first progress box until the session has been closed. Returns the exit code.
   [[nodiscard]] int run();
 
  private:

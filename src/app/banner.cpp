@@ -47,7 +47,7 @@ void drawBubble(QPainter& painter, const QRectF& body) {
                         dot / 1.6);
 }
 
-// Arcs of one circle after another that fade with the distance, like a signal.
+// Draws concentric arcs that fade with the distance, like a radio signal.
 void drawWaves(QPainter& painter, QPointF source, qreal step) {
   painter.setBrush(Qt::NoBrush);
   for (int i = 1; i <= waveCount; ++i) {

@@ -5,8 +5,8 @@
 
 namespace parlexo {
 
-/// The program's drawn header: its name beside a speech bubble from which waves travel to the right. Pure
-/// decoration, so assistive tools pass it over.
+/// A decorative header with the program's name, a speech bubble and signal waves. It has no accessible name,
+/// so screen readers skip it.
 class Banner : public QWidget {
   Q_OBJECT
 

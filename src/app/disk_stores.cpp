@@ -8,17 +8,17 @@ namespace parlexo {
 DiskStores::DiskStores(Settings& settings, Notifier& notifier, Progress& progress)
     : notifier_(notifier),
       progress_(progress),
-      addressBook_(settings.contactsFolder(), database_, notifier),
+      addressBook_(settings.contactsFolder(), database_),
       statusFile_(settings.statusFile()),
       templates_(settings.templatesFolder()) {}
 
 bool DiskStores::loadContacts() {
-  return addressBook_.loadAll(progress_);
+  return addressBook_.loadAll(progress_, [this](const StoreError& error) { showError(error, notifier_); });
 }
 
 void DiskStores::loadStatusLog() {
   statusFile_.load(statusLog_, notifier_);
-  statusLogIsRead_ = true;
+  statusLogIsLoaded_ = true;
 }
 
 void DiskStores::releaseContacts() {
@@ -27,7 +27,7 @@ void DiskStores::releaseContacts() {
 }
 
 void DiskStores::saveStatusLog() {
-  if (statusLogIsRead_ && !statusFile_.save(statusLog_, StatusFile::IfLocked::WriteAnyway))
+  if (statusLogIsLoaded_ && !statusFile_.save(statusLog_, StatusFile::IfLocked::WriteAnyway))
     qWarning("The status log could not be written to %s", qUtf8Printable(statusFile_.path()));
 }
 

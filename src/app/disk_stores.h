@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "app/core/run_stores.h"
+#include "app/core/start_up.h"
 #include "app/pumping_lock_waiter.h"
 #include "base/notifier.h"
 #include "base/progress.h"
@@ -15,18 +15,18 @@
 
 namespace parlexo {
 
-/// Owns what a run keeps on disk: the address book with its database, the log of sent messages and
-/// the message templates.
+/// Owns the data that is stored on disk: the address book with its database, the status log and the message
+/// templates.
 class DiskStores final : public RunStores {
  public:
-  /// The folders are those that `settings` names now; a later change counts from the next start. The other
-  /// arguments must outlive the stores.
+  /// Uses the folders that `settings` has at this moment; changes take effect at the next start. The other
+  /// arguments must outlive this object.
   DiskStores(Settings& settings, Notifier& notifier, Progress& progress);
 
   [[nodiscard]] bool loadContacts() override;
   void loadStatusLog() override;
   void releaseContacts() override;
-  /// Writes nothing when the log has never been read: the file would lose what stands in it.
+  /// Does nothing if the log was never loaded, as that would overwrite the file with an empty one.
   void saveStatusLog() override;
 
   [[nodiscard]] AddressBook& addressBook() { return addressBook_; }
@@ -44,7 +44,7 @@ class DiskStores final : public RunStores {
   StatusLog statusLog_;
   StatusFile statusFile_;
   TemplateFolder templates_;
-  bool statusLogIsRead_ = false;
+  bool statusLogIsLoaded_ = false;
 };
 
 }  // namespace parlexo

@@ -35,18 +35,18 @@ void addLink(QVBoxLayout& column, const QString& explanation, const QString& nam
 CLoginDlg::CLoginDlg(LoginFlow& flow, const QString& rememberedUser, QWidget* parent)
     : GradientDialog(parent), flow_(flow) {
   setObjectName(u"login"_s);
-  setWindowTitle(u"Parlexo(TM) : Login v"_s + QLatin1String(clientVersion));
+  setWindowTitle(tr("Parlexo(TM) : Login v%1").arg(QLatin1String(clientVersion)));
   auto* column = new QVBoxLayout(this);
   column->addWidget(new Banner);
   addFields(*column, rememberedUser);
   addButtons(*column);
   column->addStretch(1);
   addLink(*column,
-          u"If you don't have an account with Parlexo then click the link to sign-up. The "
-          "sign-up process only takes a minute:"_s,
+          tr("If you don't have an account with Parlexo then click the link to sign-up. The "
+             "sign-up process only takes a minute:"),
           u"signUp"_s, u"/signup.php"_s);
-  addLink(*column, u"Lost your password? Click the link to get your password details:"_s, u"forgotPassword"_s,
-          u"/forgotpassword.php"_s);
+  addLink(*column, tr("Lost your password? Click the link to get your password details:"),
+          u"forgotPassword"_s, u"/forgotpassword.php"_s);
   setMinimumSize(dialogUnits(*this, 250, 129));
 }
 
@@ -60,8 +60,8 @@ void CLoginDlg::addFields(QVBoxLayout& column, const QString& rememberedUser) {
     grid->addWidget(field, row, 1);
     grid->addWidget(labelFor(field, text), row, 0);
   };
-  addRow(0, u"User Name:"_s, user_);
-  addRow(1, u"Password:"_s, password_);
+  addRow(0, tr("User Name:"), user_);
+  addRow(1, tr("Password:"), password_);
   column.addLayout(grid);
   auto* hint = new UnsendableHint(this);
   hint->watch({user_, password_});
@@ -78,19 +78,19 @@ QLineEdit* CLoginDlg::createField(const QString& name) {
 void CLoginDlg::addButtons(QVBoxLayout& column) {
   auto* row = new QHBoxLayout;
   row->addStretch();
-  auto* login = addButton(*row, u"logIn"_s, u"Login"_s);
+  auto* login = addButton(*row, u"logIn"_s, tr("Login"));
   login->setDefault(true);
   connect(login, &PictureButton::clicked, this, &CLoginDlg::logIn);
-  auto* cancel = addButton(*row, u"cancel"_s, u"Cancel"_s);
+  auto* cancel = addButton(*row, u"cancel"_s, tr("Cancel"));
   connect(cancel, &PictureButton::clicked, this, &CLoginDlg::reject);
   column.addLayout(row);
 }
 
 void CLoginDlg::logIn() {
-  if (attempting_) return;
+  if (isLoggingIn_) return;
   LoginOutcome outcome = LoginOutcome::Refused;
   {
-    const QScopedValueRollback attempt(attempting_, true);
+    const QScopedValueRollback attempt(isLoggingIn_, true);
     outcome = flow_.attempt(user_->text(), password_->text());
   }
   if (outcome == LoginOutcome::Accepted) return accept();
@@ -99,8 +99,8 @@ void CLoginDlg::logIn() {
 }
 
 void CLoginDlg::reject() {
-  // An attempt that is under way would come back to a dialog that is gone.
-  if (!attempting_) GradientDialog::reject();
+  // A login in progress needs the dialog when it returns.
+  if (!isLoggingIn_) GradientDialog::reject();
 }
 
 void CLoginDlg::done(int result) {

@@ -9,18 +9,17 @@ class QVBoxLayout;
 
 namespace parlexo {
 
-/// Asks for user name and password and lets LoginFlow try them; closes with Accepted once the gateway has
-/// taken them.
+/// Asks for user name and password until LoginFlow accepts them or the user cancels.
 class CLoginDlg : public GradientDialog {
   Q_OBJECT
 
  public:
-  /// `flow` must outlive the dialog. `rememberedUser` fills the first field, and the second has the focus
-  /// then.
+  /// `flow` must outlive the dialog. If `rememberedUser` is not empty, it is filled in and the password field
+  /// has the focus.
   CLoginDlg(LoginFlow& flow, const QString& rememberedUser, QWidget* parent = nullptr);
 
   void reject() override;
-  /// Also wipes the password field.
+  /// Also clears the password field and wipes its memory.
   void done(int result) override;
 
  protected:
@@ -35,7 +34,7 @@ class CLoginDlg : public GradientDialog {
   LoginFlow& flow_;
   QLineEdit* user_ = nullptr;
   QLineEdit* password_ = nullptr;
-  bool attempting_ = false;
+  bool isLoggingIn_ = false;
 };
 
 }  // namespace parlexo

@@ -1,13 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include <cstdio>
 #include <variant>
 
 #include <QApplication>
 
 #include "app/application.h"
 #include "app/core/command_line.h"
-#include "app/process.h"
-#include "base/process_end.h"
+#include "app/platform.h"
+#include "base/program.h"
 #include "demo/demo.h"
 #include "ui/look.h"
 
@@ -19,28 +18,30 @@ using namespace parlexo;
 
 constexpr int demoFailed = 1;
 
-int endAtOnce(const ImmediateEnd& end) {
-  std::fputs(qUtf8Printable(end.output), end.exitCode == 0 ? stdout : stderr);
-  return end.exitCode;
+// Uses a QCoreApplication, so that --help, --version and usage errors work without a display.
+std::variant<ProgramOptions, EarlyExit> parseArguments(int argc, char** argv) {
+  const QCoreApplication application(argc, argv);
+  return parseCommandLine(QCoreApplication::arguments());
 }
 
 int runDemo(ProgramOptions options) {
   Demo demo(options.dataDir);
   const QString problem = demo.start();
   if (!problem.isEmpty())
-    return endAtOnce({demoFailed, u"parlexo-client: the demo can't start: %1\n"_s.arg(problem)});
+    return printEarlyExit(
+        failure(demoFailed, u"parlexo-client"_s,
+                QCoreApplication::translate("CommandLine", "cannot start the demo: %1").arg(problem)));
   options.dataDir = demo.dataFolder();
   if (options.site.isEmpty()) options.site = demo.site();
   return Application(options).run();
 }
 
-// The command line is read before there is an application object, so that --help works without a display.
 int runProgram(int argc, char** argv) {
   prepareProcess();
-  const auto parsed = parseCommandLine(programArguments(argc, argv));
-  if (const auto* end = std::get_if<ImmediateEnd>(&parsed)) return endAtOnce(*end);
+  const auto parsed = parseArguments(argc, argv);
+  if (const auto* exit = std::get_if<EarlyExit>(&parsed)) return printEarlyExit(*exit);
   QApplication application(argc, argv);
-  // Between login and main window no window is open, and that must not end the event loops to come.
+  // Otherwise the program would quit between the login and the main window, when no window is open.
   QApplication::setQuitOnLastWindowClosed(false);
   applyLook(application);
   const auto& options = std::get<ProgramOptions>(parsed);

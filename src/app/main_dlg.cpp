@@ -20,7 +20,7 @@
 
 #include "app/about_dlg.h"
 #include "app/banner.h"
-#include "app/system_menu.h"
+#include "app/platform.h"
 #include "base/message_texts.h"
 #include "base/product.h"
 #include "ui/hyperlink_label.h"
@@ -43,19 +43,19 @@ QLineEdit* addField(QGridLayout& grid, int row, const QString& name, const QStri
   return field;
 }
 
-/// A page inside a scroll area. Without this between them the area would scroll a page with wrapped texts as
-/// soon as it has less than the height that it would like; this asks for the least that it can do with.
-class PageHolder final : public QWidget {
+/// The widget between a scroll area and a page. It requires only the minimum height of a page with wrapped
+/// texts; without it, the area would scroll such a page below its preferred height.
+class ScrolledPage final : public QWidget {
  public:
-  explicit PageHolder(QWidget* page) : page_(page) { page->setParent(this); }
+  explicit ScrolledPage(QWidget* page) : page_(page) { page->setParent(this); }
 
   [[nodiscard]] QSize sizeHint() const override { return page_->sizeHint(); }
   [[nodiscard]] QSize minimumSizeHint() const override {
-    const QSize least = page_->minimumSizeHint().expandedTo(page_->minimumSize());
+    const QSize minimum = page_->minimumSizeHint().expandedTo(page_->minimumSize());
     const QLayout* layout = page_->layout();
-    if (!layout || !layout->hasHeightForWidth()) return least;
-    const int width = std::max(least.width(), parentWidget()->width());
-    return {least.width(), std::max(least.height(), layout->minimumHeightForWidth(width))};
+    if (!layout || !layout->hasHeightForWidth()) return minimum;
+    const int width = std::max(minimum.width(), parentWidget()->width());
+    return {minimum.width(), std::max(minimum.height(), layout->minimumHeightForWidth(width))};
   }
 
  protected:
@@ -65,17 +65,17 @@ class PageHolder final : public QWidget {
   QWidget* page_;
 };
 
-// On a screen that has less room than a page needs, what lies beyond the edge can still be reached.
-QScrollArea* scrollable(QWidget* page) {
+// Scrolls the page if the screen is too small for it.
+QScrollArea* createScrollArea(QWidget* page) {
   auto* area = new QScrollArea;
   area->setFrameShape(QFrame::NoFrame);
   area->setFocusPolicy(Qt::NoFocus);
   area->setWidgetResizable(true);
-  area->setWidget(new PageHolder(page));
+  area->setWidget(new ScrolledPage(page));
   return area;
 }
 
-bool claims(const QWidget& page, const QKeySequence& shortcut) {
+bool hasShortcut(const QWidget& page, const QKeySequence& shortcut) {
   const auto buttons = page.findChildren<QAbstractButton*>();
   return std::any_of(buttons.begin(), buttons.end(),
                      [&shortcut](const QAbstractButton* button) { return button->shortcut() == shortcut; });
@@ -85,16 +85,16 @@ bool claims(const QWidget& page, const QKeySequence& shortcut) {
 
 CMainDlg::CMainDlg(const std::vector<MainTab>& tabs, QWidget* parent) : GradientDialog(parent) {
   setObjectName(u"mainWindow"_s);
-  setWindowTitle(u"Parlexo(TM) : Messaging Client v"_s + QLatin1String(clientVersion));
+  setWindowTitle(tr("Parlexo(TM) : Messaging Client v%1").arg(QLatin1String(clientVersion)));
   setWindowFlags(Qt::Window);
   auto* column = new QVBoxLayout(this);
   addHeader(*column);
   addTabs(*column, tabs);
   addFooter(*column);
   addShortcuts();
-  shareExitMnemonic();
+  updateExitMnemonic();
   tabs_->setFocus();
-  // On a screen smaller than that, Send and Exit must not lie beyond its edge.
+  // Keeps Send and Exit visible on a small screen.
   const QMargins titleBar(0, style()->pixelMetric(QStyle::PM_TitleBarHeight), 0, 0);
   resize(dialogUnits(*this, 558, 330).boundedTo(screen()->availableSize().shrunkBy(titleBar)));
 }
@@ -120,7 +120,7 @@ void CMainDlg::markBalanceOutdated() {
   QPalette palette = balance_->palette();
   palette.setColor(QPalette::Text, look::disabledText);
   balance_->setPalette(palette);
-  balance_->setAccessibleDescription(u"Not up to date"_s);
+  balance_->setAccessibleDescription(tr("Not up to date"));
 }
 
 void CMainDlg::openTab(const QString& text) {
@@ -130,31 +130,30 @@ void CMainDlg::openTab(const QString& text) {
 
 void CMainDlg::paintEvent(QPaintEvent* event) {
   GradientDialog::paintEvent(event);
-  // Earlier than this the window does not know its place on the screen, and a dialog would not stand over it.
+  // Before the first paint event the window has no position yet, so a dialog could not be centred over it.
   if (std::exchange(hasOpened_, true)) return;
   addToSystemMenu(*this, text(TextId::AboutMenuEntry));
   QMetaObject::invokeMethod(this, &CMainDlg::opened, Qt::QueuedConnection);
 }
 
 void CMainDlg::keyPressEvent(QKeyEvent* event) {
-  // A message half written must not go with a slip of the finger: only Exit and the close box end the
-  // program.
+  // Escape must not close the program, as an unfinished message would be lost.
   if (event->key() != Qt::Key_Escape) GradientDialog::keyPressEvent(event);
 }
 
-// Only here are both heard: a choice by mouse, and one by Alt+Space, which Qt does not send to the window.
+// Handled here because Qt does not deliver an entry chosen with Alt+Space to the window.
 bool CMainDlg::nativeEvent(const QByteArray& type, void* message, qintptr* result) {
-  if (!choosesSystemMenuEntry(message)) return GradientDialog::nativeEvent(type, message, result);
-  // A dialog opened at once would run inside the delivery of the system's message.
+  if (!isSystemMenuEntry(message)) return GradientDialog::nativeEvent(type, message, result);
+  // Queued, as the dialog must not run inside the native event handler.
   QMetaObject::invokeMethod(this, &CMainDlg::showAbout, Qt::QueuedConnection);
   return true;
 }
 
 void CMainDlg::addHeader(QVBoxLayout& column) {
   auto* grid = new QGridLayout;
-  userName_ = addField(*grid, 0, u"userName"_s, u"User Name:"_s);
-  balance_ = addField(*grid, 1, u"balance"_s, u"Account Balance: "_s);
-  grid->addWidget(new QLabel(u"(in your account's base currency)"_s), 1, 2);
+  userName_ = addField(*grid, 0, u"userName"_s, tr("User Name:"));
+  balance_ = addField(*grid, 1, u"balance"_s, tr("Account Balance: "));
+  grid->addWidget(new QLabel(tr("(in your account's base currency)")), 1, 2);
   auto* row = new QHBoxLayout;
   row->addWidget(new Banner, 1);
   row->addLayout(grid);
@@ -164,16 +163,16 @@ void CMainDlg::addHeader(QVBoxLayout& column) {
 void CMainDlg::addTabs(QVBoxLayout& column, const std::vector<MainTab>& tabs) {
   tabs_ = new QTabWidget;
   tabs_->setObjectName(u"tabs"_s);
-  for (const auto& tab : tabs) tabs_->addTab(scrollable(tab.create()), tab.text);
-  connect(tabs_, &QTabWidget::currentChanged, this, &CMainDlg::shareExitMnemonic);
+  for (const auto& tab : tabs) tabs_->addTab(createScrollArea(tab.create()), tab.text);
+  connect(tabs_, &QTabWidget::currentChanged, this, &CMainDlg::updateExitMnemonic);
   column.addWidget(tabs_, 1);
 }
 
 void CMainDlg::addFooter(QVBoxLayout& column) {
-  auto* about = new HyperlinkLabel(u"About"_s);
+  auto* about = new HyperlinkLabel(tr("About"));
   about->setObjectName(u"about"_s);
   connect(about, &HyperlinkLabel::clicked, this, &CMainDlg::showAbout);
-  exit_ = new PictureButton(u"&Exit"_s);
+  exit_ = new PictureButton(tr("&Exit"));
   exit_->setObjectName(u"exit"_s);
   connect(exit_, &PictureButton::clicked, this, &CMainDlg::accept);
   auto* row = new QHBoxLayout;
@@ -188,20 +187,20 @@ void CMainDlg::addShortcuts() {
   connect(quit, &QShortcut::activated, this, &CMainDlg::accept);
   auto* help = new QShortcut(QKeySequence(Qt::Key_F1), this);
   connect(help, &QShortcut::activated, this, &CMainDlg::showAbout);
-  auto* refreshing = new QShortcut(QKeySequence(Qt::Key_F5), this);
-  connect(refreshing, &QShortcut::activated, this, &CMainDlg::refresh);
+  auto* refresh = new QShortcut(QKeySequence(Qt::Key_F5), this);
+  connect(refresh, &QShortcut::activated, this, &CMainDlg::refresh);
   for (int i = 0; i < std::min(tabs_->count(), 9); ++i) {
     auto* tab = new QShortcut(QKeySequence(Qt::CTRL | static_cast<Qt::Key>(Qt::Key_1 + i)), this);
     connect(tab, &QShortcut::activated, this, [this, i] { tabs_->setCurrentIndex(i); });
   }
-  // The tab widget would hear these only while the focus is on one of its pages.
+  // The tab widget handles these keys only while one of its pages has the focus.
   auto* next = new QShortcut(QKeySequence::NextChild, this);
-  connect(next, &QShortcut::activated, this, [this] { turnTabs(1); });
+  connect(next, &QShortcut::activated, this, [this] { switchTab(1); });
   auto* previous = new QShortcut(QKeySequence::PreviousChild, this);
-  connect(previous, &QShortcut::activated, this, [this] { turnTabs(-1); });
+  connect(previous, &QShortcut::activated, this, [this] { switchTab(-1); });
 }
 
-void CMainDlg::turnTabs(int steps) {
+void CMainDlg::switchTab(int steps) {
   tabs_->setCurrentIndex((tabs_->currentIndex() + steps + tabs_->count()) % tabs_->count());
 }
 
@@ -211,11 +210,11 @@ void CMainDlg::refresh() {
   if (auto* page = front ? front->findChild<GradientPage*>() : nullptr) page->refresh();
 }
 
-// Where the visible page has a button of the same mnemonic ("S&end >"), the key is the page's.
-void CMainDlg::shareExitMnemonic() {
+// A button of the current page with the same mnemonic ("S&end >") takes precedence over Exit.
+void CMainDlg::updateExitMnemonic() {
   const QKeySequence mnemonic = QKeySequence::mnemonic(exit_->text());
   const QWidget* page = tabs_->currentWidget();
-  exit_->setShortcut(page && claims(*page, mnemonic) ? QKeySequence() : mnemonic);
+  exit_->setShortcut(page && hasShortcut(*page, mnemonic) ? QKeySequence() : mnemonic);
 }
 
 void CMainDlg::showAbout() {

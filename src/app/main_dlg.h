@@ -16,15 +16,14 @@ namespace parlexo {
 
 class PictureButton;
 
-/// One page of the main window: the text of its tab and what creates it.
+/// A tab of the main window: its text and a function that creates its page.
 struct MainTab {
   QString text;
   std::function<QWidget*()> create;
 };
 
-/// The window of the program after the login: tabs, user name, balance, About and Exit. It knows its pages
-/// only as widgets. An ordinary window, not a modal dialog: a window manager minimises and maximises only
-/// those reliably.
+/// The main window: tabs, user name, balance, About and Exit. It treats its pages as plain widgets. It is not
+/// a modal dialog, as window managers don't minimise and maximise those reliably.
 class CMainDlg : public GradientDialog {
   Q_OBJECT
 
@@ -36,17 +35,17 @@ class CMainDlg : public GradientDialog {
   void run();
 
   void setUserName(const QString& name);
-  /// The amount as text; empty when it is not known.
+  /// Sets the displayed balance; empty if it is unknown.
   void setBalance(const QString& amount);
-  /// Greys the amount until the next setBalance().
+  /// Greys out the balance until the next setBalance().
   void markBalanceOutdated();
-  /// Brings the page with this tab text to the front; nothing happens when there is none.
+  /// Opens the tab with this text; a no-op if there is none.
   void openTab(const QString& text);
 
  Q_SIGNALS:
-  /// Once, from the event loop, after the window has become visible.
+  /// Emitted once from the event loop, after the window has become visible.
   void opened();
-  /// The user wants the current balance; the page in front refreshes itself.
+  /// Emitted when the user refreshes the window (F5); the current page refreshes itself.
   void refreshRequested();
 
  protected:
@@ -59,10 +58,10 @@ class CMainDlg : public GradientDialog {
   void addTabs(QVBoxLayout& column, const std::vector<MainTab>& tabs);
   void addFooter(QVBoxLayout& column);
   void addShortcuts();
-  /// One tab forward (1) or back (-1), round the ends.
-  void turnTabs(int steps);
+  /// Moves `steps` tabs forward, or back if negative, and wraps around at the ends.
+  void switchTab(int steps);
   void refresh();
-  void shareExitMnemonic();
+  void updateExitMnemonic();
   void showAbout();
 
   QTabWidget* tabs_ = nullptr;

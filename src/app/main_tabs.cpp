@@ -6,12 +6,10 @@
 #include "account/screens/settings_dlg.h"
 #include "addressbook/screens/add_contacts_menu.h"
 #include "addressbook/screens/contacts_page.h"
-#include "messaging/screens/fax_dlg.h"
-#include "messaging/screens/mms_dlg.h"
+#include "messaging/screens/file_page.h"
 #include "messaging/screens/send_page.h"
 #include "messaging/screens/sms_dlg.h"
 #include "messaging/screens/status_dlg.h"
-#include "messaging/screens/wap_dlg.h"
 
 namespace parlexo {
 
@@ -19,22 +17,25 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString statusTab = u"Status"_s;
+// Also identifies the tab in CMainDlg::openTab().
+QString statusTabText() {
+  return CMainDlg::tr("Status");
+}
 
-// The visible tab stays: whoever has just sent a message may want to write the next one.
-void showSentMessages(SendPage& page, CStatusDlg& status) {
+// The send page stays open, as the user may want to write another message.
+void selectTypeAfterSending(SendPage& page, CStatusDlg& status) {
   QObject::connect(&page, &SendPage::messageSent, &status, &CStatusDlg::selectType);
 }
 
 void openStatusOnRequest(SendPage& page, CStatusDlg& status, CMainDlg& window) {
-  QObject::connect(&page, &SendPage::statusRequested, &window, [&status, &window](const QString& type) {
+  QObject::connect(&page, &SendPage::statusRequested, &window, [&status, &window](MessageType type) {
     status.selectType(type);
-    window.openTab(statusTab);
+    window.openTab(statusTabText());
   });
 }
 
-// What was added is likely meant for the message: it comes ticked where the recipients are chosen anew.
-SendPage* addingContacts(SendPage* page, const AddressBookServices& services) {
+// Contacts added from a send page are probably its recipients, so they are preselected.
+SendPage* connectContactsToAdd(SendPage* page, const AddressBookServices& services) {
   QObject::connect(page, &SendPage::contactsToAdd, page, [page, services](QWidget& button) {
     if (const auto added = addOrImportContacts(services, button)) page->selectContacts(*added);
   });
@@ -45,32 +46,34 @@ template <class Page>
 MainTab sendTab(const QString& text, const MessagingServices& services,
                 const AddressBookServices& addressBookServices) {
   return {text, [services, addressBookServices] {
-            return addingContacts(new Page(services), addressBookServices);
+            return connectContactsToAdd(new Page(services), addressBookServices);
           }};
 }
 
 }  // namespace
 
-std::vector<MainTab> mainTabs(const MessagingServices& services,
-                              const AddressBookServices& addressBookServices,
-                              const AccountServices& accountServices) {
+std::vector<MainTab> createMainTabs(const MessagingServices& services,
+                                    const AddressBookServices& addressBookServices,
+                                    const AccountServices& accountServices) {
   return {
-      sendTab<CQuillonSMSDlg>(u"SMS"_s, services, addressBookServices),
-      sendTab<CQuillonWAPDlg>(u"WAP"_s, services, addressBookServices),
-      sendTab<CQuillonMMSDlg>(u"MMS"_s, services, addressBookServices),
-      sendTab<CQuillonFaxDlg>(u"Fax"_s, services, addressBookServices),
-      {u"Receive Messages"_s, [accountServices] { return new CReceiveMessagesDlg(accountServices.state); }},
-      {u"Contacts"_s, [addressBookServices] { return new CContactsPage(addressBookServices); }},
-      {u"Account History"_s, [accountServices] { return new CAccountHistoryDlg(accountServices); }},
-      {statusTab, [services] { return new CStatusDlg(services); }},
-      {u"Settings"_s, [accountServices] { return new CSettingsDlg(accountServices); }}};
+      sendTab<CQuillonSMSDlg>(CMainDlg::tr("SMS"), services, addressBookServices),
+      sendTab<CQuillonWAPDlg>(CMainDlg::tr("WAP"), services, addressBookServices),
+      sendTab<CQuillonMMSDlg>(CMainDlg::tr("MMS"), services, addressBookServices),
+      sendTab<CQuillonFaxDlg>(CMainDlg::tr("Fax"), services, addressBookServices),
+      {CMainDlg::tr("Receive Messages"),
+       [accountServices] { return new CReceiveMessagesDlg(accountServices.state); }},
+      {CMainDlg::tr("Contacts"), [addressBookServices] { return new CContactsPage(addressBookServices); }},
+      {CMainDlg::tr("Account History"),
+       [accountServices] { return new CAccountHistoryDlg(accountServices); }},
+      {statusTabText(), [services] { return new CStatusDlg(services); }},
+      {CMainDlg::tr("Settings"), [accountServices] { return new CSettingsDlg(accountServices); }}};
 }
 
 void connectPages(CMainDlg& window) {
   auto* status = window.findChild<CStatusDlg*>();
   if (!status) return;
   for (auto* page : window.findChildren<SendPage*>()) {
-    showSentMessages(*page, *status);
+    selectTypeAfterSending(*page, *status);
     openStatusOnRequest(*page, *status, window);
   }
 }

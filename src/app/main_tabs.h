@@ -10,13 +10,13 @@
 
 namespace parlexo {
 
-/// The pages of the main window, in the order of its tabs. What the services refer to must outlive the
+/// Returns the tabs of the main window in their order. The services must refer to objects that outlive the
 /// window.
-[[nodiscard]] std::vector<MainTab> mainTabs(const MessagingServices& services,
-                                            const AddressBookServices& addressBookServices,
-                                            const AccountServices& accountServices);
+[[nodiscard]] std::vector<MainTab> createMainTabs(const MessagingServices& services,
+                                                  const AddressBookServices& addressBookServices,
+                                                  const AccountServices& accountServices);
 
-/// Connects what happens on one page of `window` to what another one shows.
+/// Connects the send pages of `window` with its status page.
 void connectPages(CMainDlg& window);
 
 }  // namespace parlexo

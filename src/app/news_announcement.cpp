@@ -12,13 +12,13 @@ namespace parlexo {
 
 namespace {
 
-constexpr qint64 handoverTime = 700;  // milliseconds: a user's time to notice the dialog and stop typing
+constexpr qint64 forwardingTime = 700;  // ms for the user to notice the dialog and stop typing
 
-/// Passes keys meant for a dialog on to the text field below it that has the focus, from the dialog's opening
-/// until no key has come for a while. Escape, which does nothing in a field, always closes the dialog.
-class TypingHandover final : public QObject {
+/// Forwards key events of a dialog to the focused text field of the window below, until no key was pressed
+/// for forwardingTime. Escape always closes the dialog.
+class KeyForwarder final : public QObject {
  public:
-  TypingHandover(const QWidget& dialog, const QWidget& window) : dialog_(dialog), window_(window) {
+  KeyForwarder(const QWidget& dialog, const QWidget& window) : dialog_(dialog), window_(window) {
     sinceLastKey_.start();
     qApp->installEventFilter(this);
   }
@@ -28,10 +28,10 @@ class TypingHandover final : public QObject {
     const bool isKey = event->type() == QEvent::KeyPress || event->type() == QEvent::KeyRelease;
     if (!isKey || target != dialog_.windowHandle()) return false;
     if (static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape) return false;
-    // Asked for each key, because Tab moves on to another one.
+    // Looked up for each key, because Tab moves the focus.
     QWidget* field = window_.focusWidget();
     const bool isTextField = field && field->testAttribute(Qt::WA_InputMethodEnabled);
-    if (!isTextField || sinceLastKey_.hasExpired(handoverTime)) return false;
+    if (!isTextField || sinceLastKey_.hasExpired(forwardingTime)) return false;
     sinceLastKey_.start();
     QCoreApplication::sendEvent(field, event);
     return true;
@@ -51,7 +51,7 @@ void NewsAnnouncement::announce(const QString& news) {
 
 void NewsAnnouncement::show(const QString& news) {
   CNewsDlg dialog(news, &window_);
-  const TypingHandover handover(dialog, window_);
+  const KeyForwarder forwarder(dialog, window_);
   dialog.exec();
 }
 

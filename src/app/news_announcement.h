@@ -8,14 +8,14 @@
 
 namespace parlexo {
 
-/// Shows the news over the main window without taking what the user types: the dialog waits for a quiet
-/// moment, and keys that are pressed just as it opens still go to the field in which the user was typing.
+/// Shows the news above the main window without disturbing typing: the dialog waits for a quiet moment, and
+/// keys pressed just as it opens still go to the focused text field.
 class NewsAnnouncement {
  public:
-  /// Input counts from now on. `window` must outlive this object.
+  /// Starts to monitor the user's input. `window` must outlive this object.
   explicit NewsAnnouncement(QWidget& window) : window_(window), quietMoment_(window) {}
 
-  /// Returns at once; the dialog opens later.
+  /// Opens the dialog with `news` later; returns immediately.
   void announce(const QString& news);
 
  private:

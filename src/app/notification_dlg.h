@@ -4,6 +4,7 @@
 #include <QString>
 
 #include "base/notifier.h"
+#include "base/settings.h"
 #include "ui/gradient_page.h"
 
 class QCheckBox;
@@ -11,22 +12,22 @@ class QHBoxLayout;
 
 namespace parlexo {
 
-/// The one message box of the program: icon, text, the buttons of its style and, where the caller allows
-/// it, the wish not to see the message again.
+/// The message box of the program: icon, text, the buttons of its style and an optional "Don't show again"
+/// check box.
 class CNotificationDlg : public GradientDialog {
   Q_OBJECT
 
  public:
-  /// `style` is made of message_style values; one without buttons of its own is closed by its close box.
-  /// `suppressible` shows the check box "Don't show again".
+  /// `style` is a combination of message_style values; with okCancel or abortRetryIgnore there are no
+  /// buttons, only the close button of the window. `suppressible` shows the check box.
   CNotificationDlg(const QString& text, unsigned style, bool suppressible, QWidget* parent = nullptr);
 
-  /// The user's answer; Ok until the dialog has been shown.
+  /// The user's answer; Ok before the dialog has been shown.
   [[nodiscard]] MessageResult answer() const { return answer_; }
-  /// Whether the user ticked the check box.
+  /// Returns whether the check box is checked.
   [[nodiscard]] bool dontShowAgain() const;
 
-  /// Escape and the close box: the mildest answer that the style offers.
+  /// Closes the dialog with closeResult(): for Escape and the close button.
   void reject() override;
 
  protected:
@@ -42,6 +43,18 @@ class CNotificationDlg : public GradientDialog {
   unsigned style_;
   MessageResult answer_ = MessageResult::Ok;
   QCheckBox* dontShowAgain_ = nullptr;
+};
+
+/// Shows messages in a CNotificationDlg above the front window and stores suppressed ones in the settings.
+class NotificationNotifier final : public Notifier {
+ public:
+  /// `settings` must outlive the notifier.
+  explicit NotificationNotifier(Settings& settings) : settings_(settings) {}
+
+  MessageResult show(const QString& text, unsigned style, int suppressibleNumber = 0) override;
+
+ private:
+  Settings& settings_;
 };
 
 }  // namespace parlexo

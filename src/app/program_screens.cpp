@@ -12,7 +12,7 @@
 #include "app/main_tabs.h"
 #include "app/news_announcement.h"
 #include "connection/screens/upgrade_dlg.h"
-#include "ui/front_window.h"
+#include "ui/gradient_page.h"
 
 namespace parlexo {
 
@@ -27,17 +27,17 @@ bool ProgramScreens::logIn() {
 }
 
 void ProgramScreens::logInAgain() {
-  const QString before = services_.state.userName;
-  if (!logIn() || !mainWindow_ || services_.state.userName == before) return;
+  const QString oldUser = services_.state.userName;
+  if (!logIn() || !mainWindow_ || services_.state.userName == oldUser) return;
   mainWindow_->setUserName(services_.state.userName);
-  // The amount that is shown belongs to the other user.
+  // The displayed balance is that of the old user.
   mainWindow_->setBalance(balance_.refresh().value_or(QString()));
 }
 
 void ProgramScreens::runMainWindow() {
   CMainDlg window(tabs());
   connectPages(window);
-  const QScopedValueRollback<CMainDlg*> open(mainWindow_, &window);
+  const QScopedValueRollback<CMainDlg*> scope(mainWindow_, &window);
   window.setUserName(services_.state.userName);
   window.setBalance(balance_.run());
   services_.progress.hide();
@@ -47,13 +47,13 @@ void ProgramScreens::runMainWindow() {
     fetchNews(services_.background, window, [&](const QString& news) { announcement.announce(news); });
   });
   window.restoreGeometry(services_.settings.windowGeometry());
-  // Whoever logs off from the computer gets no chance to leave this window first.
+  // When the user logs off from the computer, the program is ended without closing this window.
   QObject::connect(qGuiApp, &QGuiApplication::commitDataRequest, &window, [&] {
     services_.stores.saveStatusLog();
-    keepGeometry(window);
+    saveGeometry(window);
   });
   window.run();
-  keepGeometry(window);
+  saveGeometry(window);
 }
 
 void ProgramScreens::refreshBalance(CMainDlg& window) {
@@ -63,18 +63,32 @@ void ProgramScreens::refreshBalance(CMainDlg& window) {
     window.markBalanceOutdated();
 }
 
-void ProgramScreens::keepGeometry(const CMainDlg& window) const {
+void ProgramScreens::saveGeometry(const CMainDlg& window) const {
   services_.settings.setWindowGeometry(window.saveGeometry());
 }
 
 std::vector<MainTab> ProgramScreens::tabs() {
   AddressBook& book = services_.stores.addressBook();
-  return mainTabs(
-      {services_.state, services_.gateway, services_.notifier, services_.progress, *this, book,
-       services_.stores.statusLog(), services_.stores.statusFile(), services_.stores.templates(),
-       services_.settings},
-      {book, services_.notifier, services_.progress, services_.settings, services_.runner},
-      {services_.state, services_.settings, services_.gateway, services_.notifier, services_.progress});
+  return createMainTabs({.state = services_.state,
+                         .gateway = services_.gateway,
+                         .notifier = services_.notifier,
+                         .progress = services_.progress,
+                         .renewal = *this,
+                         .addressBook = book,
+                         .statusLog = services_.stores.statusLog(),
+                         .statusFile = services_.stores.statusFile(),
+                         .templates = services_.stores.templates(),
+                         .settings = services_.settings},
+                        {.book = book,
+                         .notifier = services_.notifier,
+                         .progress = services_.progress,
+                         .settings = services_.settings,
+                         .runner = services_.runner},
+                        {.state = services_.state,
+                         .settings = services_.settings,
+                         .gateway = services_.gateway,
+                         .notifier = services_.notifier,
+                         .progress = services_.progress});
 }
 
 }  // namespace parlexo

@@ -22,7 +22,7 @@ class CMainDlg;
 class DiskStores;
 struct MainTab;
 
-/// What the windows of a run share; everything must outlive them.
+/// The dependencies of ProgramScreens, which must outlive it.
 struct WindowServices {
   RunState& state;
   Settings& settings;
@@ -34,7 +34,7 @@ struct WindowServices {
   CallRunner& runner;
 };
 
-/// Opens the program's own windows with their real parts behind them.
+/// Opens the windows of the program.
 class ProgramScreens final : public StartUpWindows, public SessionRenewal {
  public:
   explicit ProgramScreens(const WindowServices& services)
@@ -49,11 +49,11 @@ class ProgramScreens final : public StartUpWindows, public SessionRenewal {
  private:
   [[nodiscard]] std::vector<MainTab> tabs();
   void refreshBalance(CMainDlg& window);
-  void keepGeometry(const CMainDlg& window) const;
+  void saveGeometry(const CMainDlg& window) const;
 
   WindowServices services_;
   BalanceCheck balance_;
-  CMainDlg* mainWindow_ = nullptr;  ///< while it is open
+  CMainDlg* mainWindow_ = nullptr;  ///< null while it is closed
 };
 
 }  // namespace parlexo

@@ -8,8 +8,6 @@
 
 namespace parlexo {
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
 constexpr qint64 stepsPerSecond = 2;
@@ -27,7 +25,7 @@ qint64 PumpingLockWaiter::nowSeconds() {
 
 void PumpingLockWaiter::pause() {
   if (!isWaiting_) showBox();
-  // What is pressed meanwhile must not reach a page: it would use the store while the store waits.
+  // Input must not reach a page, which could use the waiting store.
   const InputBlock block;
   QEventLoop loop;
   QTimer::singleShot(step_, &loop, &QEventLoop::quit);
@@ -35,19 +33,19 @@ void PumpingLockWaiter::pause() {
 }
 
 void PumpingLockWaiter::showBox() {
-  const QString text = u"Waiting for another user to finish with the contacts..."_s;
+  const QString text = tr("Waiting for another user to finish with the contacts...");
   isWaiting_ = true;
-  labelBefore_ = progress_.text();
+  previousText_ = progress_.text();
   progress_.show(text);
   progress_.setText(text);
 }
 
 void PumpingLockWaiter::waitIsOver() {
   isWaiting_ = false;
-  if (labelBefore_.isNull())
+  if (previousText_.isNull())
     progress_.hide();
   else
-    progress_.setText(labelBefore_);
+    progress_.setText(previousText_);
 }
 
 }  // namespace parlexo

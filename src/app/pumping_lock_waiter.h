@@ -3,6 +3,7 @@
 
 #include <chrono>
 
+#include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QString>
 
@@ -11,11 +12,14 @@
 
 namespace parlexo {
 
-/// Waits for a file that somebody else holds without freezing the program: the progress box says so,
-/// windows are repainted meanwhile, input is dropped.
+/// Waits for a file that is locked by another process. Meanwhile the progress box says so, windows are
+/// repainted and user input is dropped.
 class PumpingLockWaiter final : public LockWaiter {
+  Q_DECLARE_TR_FUNCTIONS(PumpingLockWaiter)
+
  public:
-  /// `step` is how long a pause takes. With a shorter one the clock runs faster in proportion.
+  /// `progress` must outlive this object. `step` is the duration of a pause; nowSeconds() counts two steps as
+  /// a second, so that tests can shorten all timeouts.
   explicit PumpingLockWaiter(Progress& progress,
                              std::chrono::milliseconds step = std::chrono::milliseconds(500));
 
@@ -30,7 +34,7 @@ class PumpingLockWaiter final : public LockWaiter {
   std::chrono::milliseconds step_;
   QElapsedTimer clock_;
   bool isWaiting_ = false;
-  QString labelBefore_;  ///< null when there was no box
+  QString previousText_;  ///< null if there was no box
 };
 
 }  // namespace parlexo

@@ -4,10 +4,11 @@
 #include <atomic>
 #include <functional>
 #include <memory>
+#include <utility>
 
 namespace parlexo {
 
-/// A flag that one side raises and the other polls; copies share the flag. Safe between threads.
+/// A flag that one side raises and the other polls. Copies share the flag. Thread-safe.
 class CancelFlag {
  public:
   void raise() const { raised_->store(true, std::memory_order_relaxed); }
@@ -17,18 +18,16 @@ class CancelFlag {
   std::shared_ptr<std::atomic<bool>> raised_ = std::make_shared<std::atomic<bool>>(false);
 };
 
-/// Runs one blocking task to its end while the program stays alive. To the caller it is a synchronous
-/// call, whatever the runner does meanwhile.
+/// Runs one blocking task while the program stays responsive. To the caller it is a synchronous call.
 class CallRunner {
  public:
   using Task = std::function<void(const CancelFlag& cancel)>;
 
   virtual ~CallRunner() = default;
 
-  /// Runs `task`, possibly on another thread. The task must own all that it uses, because one
-  /// that is cancelled and does not come back is left behind. It should end soon once `cancel` is raised.
-  /// Returns true when the task has ended and its results may be read, false when it was left
-  /// behind or could not do its work (it threw, or no thread was to be had).
+  /// Runs `task`, possibly on another thread. The task must own everything it uses, because a cancelled task
+  /// that does not return is abandoned. It should end soon after `cancel` is raised. Returns true if the task
+  /// has ended and its results may be read, false if it was abandoned, threw, or could not be started.
   [[nodiscard]] virtual bool run(Task task) = 0;
 
  protected:
@@ -37,13 +36,20 @@ class CallRunner {
   CallRunner& operator=(const CallRunner&) = default;
 };
 
-/// Runs the task on the calling thread: for tests and command-line tools.
+/// Runs tasks on the calling thread: for tests, command-line tools and code that is on a worker thread
+/// already.
 class DirectCallRunner final : public CallRunner {
  public:
+  /// Every task gets `cancel`.
+  explicit DirectCallRunner(CancelFlag cancel = {}) : cancel_(std::move(cancel)) {}
+
   [[nodiscard]] bool run(Task task) override {
-    task(CancelFlag());
+    task(cancel_);
     return true;
   }
+
+ private:
+  CancelFlag cancel_;
 };
 
 }  // namespace parlexo

@@ -6,21 +6,21 @@
 
 namespace parlexo {
 
-/// The 8-bit code page of files and wire: the system's ANSI code page on Windows, windows-1252 elsewhere.
-/// All characters of the program live in QString; they become bytes only here.
+/// Conversion between QString, used throughout the program, and the 8-bit code page of files and requests:
+/// the system's ANSI code page on Windows, windows-1252 elsewhere. These functions do not fail.
 
-/// `text` as bytes of the code page; a character that the code page lacks becomes "?" (one per UTF-16
-/// code point, so that an emoji is one question mark).
+/// Encodes `text` in the code page. Each code point that the code page lacks becomes one "?", surrogate pairs
+/// included.
 [[nodiscard]] QByteArray toCodePage(QStringView text);
 
-/// Bytes of the code page as text. Every byte has a character: the five that windows-1252 leaves undefined
-/// map to the C1 control character of the same number, as Windows does.
+/// Decodes bytes of the code page. The five bytes that windows-1252 leaves undefined become the C1 control
+/// characters with the same number, as on Windows.
 [[nodiscard]] QString fromCodePage(QByteArrayView bytes);
 
-/// True when every character of `text` survives toCodePage() and back.
+/// Returns true if toCodePage() encodes `text` without loss.
 [[nodiscard]] bool fitsCodePage(QStringView text);
 
-/// `text` as it reads after a trip through the code page, with "?" for what the code page lacks.
+/// Returns `text` after a round trip through the code page, with "?" for characters that it lacks.
 [[nodiscard]] inline QString throughCodePage(QStringView text) {
   return fromCodePage(toCodePage(text));
 }

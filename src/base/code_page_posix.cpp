@@ -8,8 +8,8 @@ namespace parlexo {
 
 namespace {
 
-// Characters of windows-1252 for the bytes 0x80 to 0x9F; all other bytes equal their Unicode number.
-// Figures: the Unicode consortium's mapping table CP1252 with Microsoft's best fit for the undefined bytes.
+// Code points of the bytes 0x80 to 0x9F in windows-1252; every other byte equals its code point. Source: the
+// Unicode Consortium's mapping table CP1252, with Microsoft's best fit for the undefined bytes.
 constexpr std::array<char16_t, 32> upperControls = {
     0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
     0x2039, 0x0152, 0x008D, 0x017D, 0x008F, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
@@ -18,13 +18,13 @@ constexpr std::array<char16_t, 32> upperControls = {
 constexpr char32_t firstMapped = 0x80;
 constexpr char32_t lastMapped = 0x9F;
 
-// The byte of a character, or -1 when the code page has none.
-int byteOf(char32_t character) {
+// Returns -1 if the code page lacks `character`.
+int toByte(char32_t character) {
   if (character < firstMapped || (character > lastMapped && character <= 0xFF))
     return static_cast<int>(character);
-  const auto found = std::find(upperControls.begin(), upperControls.end(), character);
-  if (found == upperControls.end()) return -1;
-  return static_cast<int>(firstMapped) + static_cast<int>(found - upperControls.begin());
+  const auto position = std::find(upperControls.begin(), upperControls.end(), character);
+  if (position == upperControls.end()) return -1;
+  return static_cast<int>(firstMapped) + static_cast<int>(position - upperControls.begin());
 }
 
 }  // namespace
@@ -38,7 +38,7 @@ QByteArray toCodePage(QStringView text) {
       character = QChar::surrogateToUcs4(text[i], text[i + 1]);
       ++i;
     }
-    const int byte = byteOf(character);
+    const int byte = toByte(character);
     bytes.append(byte < 0 ? '?' : static_cast<char>(byte));
   }
   return bytes;
@@ -56,7 +56,7 @@ QString fromCodePage(QByteArrayView bytes) {
 
 bool fitsCodePage(QStringView text) {
   return std::all_of(text.begin(), text.end(),
-                     [](QChar character) { return byteOf(character.unicode()) >= 0; });
+                     [](QChar character) { return toByte(character.unicode()) >= 0; });
 }
 
 }  // namespace parlexo

@@ -7,13 +7,14 @@ namespace parlexo {
 
 namespace {
 
-// Under the UTF-8 code page, which newer systems allow, there is nothing to replace and Windows refuses the
-// flags and the replacement.
+// Newer systems allow UTF-8 as the ANSI code page. WideCharToMultiByte then rejects flags and a replacement
+// character, and needs neither.
 bool isUtf8() {
   return GetACP() == CP_UTF8;
 }
 
-// One character instead of two, so that an emoji becomes one "?". No 8-bit code page has either of them.
+// Replaces each surrogate pair by one character, so that an emoji becomes a single "?". No 8-bit code page
+// has characters beyond the BMP.
 QString withoutPairs(QStringView text) {
   QString single;
   single.reserve(text.size());
@@ -26,7 +27,7 @@ QString withoutPairs(QStringView text) {
 }
 
 QByteArray converted(QStringView text) {
-  // Without the flag Windows writes letters that look alike: a message would change in silence.
+  // Without this flag Windows substitutes similar letters, which would silently change a message.
   const DWORD flags = isUtf8() ? 0 : WC_NO_BEST_FIT_CHARS;
   const char* replacement = isUtf8() ? nullptr : "?";
   const auto* characters = reinterpret_cast<const wchar_t*>(text.utf16());

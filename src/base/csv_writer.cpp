@@ -14,7 +14,7 @@ namespace {
 
 constexpr char byteOrderMark[] = "\xEF\xBB\xBF";
 
-// An amount, which must stay a number or nothing adds it up. Digits and points alone calculate nothing.
+// Negative amounts are not escaped, because spreadsheets could not sum them as text.
 bool isNegativeNumber(QStringView cell) {
   const QStringView digits = cell.mid(1);
   return cell.front() == u'-' && !digits.isEmpty() && std::all_of(digits.begin(), digits.end(), [](QChar c) {
@@ -22,13 +22,13 @@ bool isNegativeNumber(QStringView cell) {
          });
 }
 
-// Spreadsheets look behind a leading tab or line break too.
-bool looksLikeFormula(QStringView cell) {
+// Spreadsheets also skip a leading tab or line break before a formula.
+bool isFormula(QStringView cell) {
   static constexpr QStringView signs = u"=+-@\t\r\n";
   return !cell.isEmpty() && signs.contains(cell.front()) && !isNegativeNumber(cell);
 }
 
-// Blanks at the ends would be within their rights unquoted, but many readers trim them.
+// Leading and trailing blanks need no quotes by the RFC, but many readers trim unquoted ones.
 bool needsQuotes(QStringView cell) {
   static constexpr QStringView special = u",\"\r\n";
   if (cell.isEmpty()) return false;
@@ -48,11 +48,11 @@ void CsvWriter::addRow(const QStringList& cells) {
   QStringList written;
   written.reserve(cells.size());
   for (const QString& cell : cells) {
-    const bool isTamed = cells_ == CsvCells::Harmless && looksLikeFormula(cell);
-    const QString text = isTamed ? u'\'' + cell : cell;
+    const bool isEscaped = cells_ == CsvCells::Harmless && isFormula(cell);
+    const QString text = isEscaped ? u'\'' + cell : cell;
     written.append(needsQuotes(text) ? quoted(text) : text);
   }
-  // An only cell that is empty must not read as a blank line, which readers skip.
+  // A row with a single empty cell would be a blank line, which readers skip.
   bytes_ += (written == QStringList{QString()} ? u"\"\""_s : written.join(u',')).toUtf8() + "\r\n";
 }
 
@@ -62,7 +62,7 @@ QString CsvWriter::save(const QString& path) const {
     file.write(bytes_);
     if (file.flush() && file.commit()) return {};
   }
-  return u"The file %1 could not be written: %2"_s.arg(QDir::toNativeSeparators(path), file.errorString());
+  return tr("The file %1 could not be written: %2").arg(QDir::toNativeSeparators(path), file.errorString());
 }
 
 }  // namespace parlexo

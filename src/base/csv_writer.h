@@ -2,30 +2,33 @@
 #pragma once
 
 #include <QByteArray>
+#include <QCoreApplication>
 #include <QStringList>
 
 namespace parlexo {
 
-/// What becomes of a cell that a spreadsheet would take for a formula; a negative number is none.
+/// How cells that a spreadsheet would read as a formula are written. Negative numbers are not formulas.
 enum class CsvCells {
-  AsTheyAre,  ///< nothing: the file is to be read back unchanged
-  Harmless,   ///< it gets an apostrophe in front, so that it stays a text: the file is for people
+  AsTheyAre,  ///< unchanged, for files that are read back
+  Harmless,   ///< with a leading apostrophe that makes them text, for files that people open
 };
 
-/// A table as a CSV file: UTF-8 with a byte order mark (without which Excel reads another code page), commas,
-/// CRLF after every row, and quotes around the cells that need them, as RFC 4180 has it.
+/// Writes a table as CSV (RFC 4180): UTF-8 with a byte order mark, because Excel assumes another encoding
+/// without one; commas; CRLF after every row; quotes only around cells that need them.
 class CsvWriter {
+  Q_DECLARE_TR_FUNCTIONS(CsvWriter)
+
  public:
   explicit CsvWriter(CsvCells cells);
 
-  /// Appends one row; the first one usually holds the headings.
+  /// Appends one row. The first row usually holds the headings.
   void addRow(const QStringList& cells);
 
   [[nodiscard]] const QByteArray& bytes() const { return bytes_; }
 
-  /// Writes the file as a whole: one that is there already is replaced only once the new one is complete on
-  /// the disk. Returns an empty text, or a sentence for the user that says which file could not be written
-  /// and why; whatever was at `path` is then still there.
+  /// Writes the file atomically: an existing file is replaced only after the new one is complete on disk, and
+  /// is unchanged on failure. Returns an empty string, or an error message for the user that names the file
+  /// and the reason.
   [[nodiscard]] QString save(const QString& path) const;
 
  private:

@@ -7,11 +7,11 @@
 
 namespace parlexo {
 
-/// An amount of data as people read it: "1 byte", "812 bytes", "34.2 KB", "2 MB". A KB has 1024 bytes; at
-/// most one decimal, rounded to the nearest.
+/// A size for display: "1 byte", "812 bytes", "34.2 KB", "2 MB". 1 KB is 1024 bytes; KB and MB are rounded to
+/// one decimal, without a trailing ".0".
 [[nodiscard]] QString dataSizeText(std::int64_t bytes);
 
-/// The same to the byte: "51,201 bytes".
+/// A size in bytes with digit groups: "51,201 bytes".
 [[nodiscard]] QString exactSizeText(std::int64_t bytes);
 
 }  // namespace parlexo

@@ -1,112 +1,150 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "base/message_texts.h"
 
+#include <QCoreApplication>
 #include <QRegularExpression>
 
 #include "base/product.h"
 
 namespace parlexo {
 
-QString text(TextId id) {
-  using namespace Qt::StringLiterals;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// The untranslated text.
+const char* sourceText(TextId id) {
   switch (id) {
     case TextId::AboutMenuEntry:
-      return u"&About Parlexo Client..."_s;
+      return QT_TRANSLATE_NOOP("MessageTexts", "&About Parlexo Client...");
     case TextId::RecipientsBlank:
-      return u"The contacts list is blank. Select contacts to send message to."_s;
+      return QT_TRANSLATE_NOOP("MessageTexts",
+                               "The contacts list is blank. Select contacts to send message to.");
     case TextId::GatewayUnreachable:
-      return u"Could not connect to the Parlexo gateway server.\r\n\r\nPlease make sure you have internet "
-             "connectivity, your firewall allows gateway connection or try again later."_s;
+      return QT_TRANSLATE_NOOP(
+          "MessageTexts",
+          "Could not connect to the Parlexo gateway server.\r\n\r\nPlease make sure you have internet "
+          "connectivity, your firewall allows gateway connection or try again later.");
     case TextId::SessionExpired:
-      return u"Your Session has expired. Please log back in"_s;
+      return QT_TRANSLATE_NOOP("MessageTexts", "Your Session has expired. Please log back in");
     case TextId::FaxTooLarge:
-      return u"Fax files must be 2MB or less"_s;
+      return QT_TRANSLATE_NOOP("MessageTexts", "Fax files must be 2MB or less");
     case TextId::FaxMemory:
-      return u"Error sending fax file. Insufficient memory"_s;
+      return QT_TRANSLATE_NOOP("MessageTexts", "Error sending fax file. Insufficient memory");
     case TextId::FaxOpen:
-      return u"Error opening Fax file:%s"_s;
+      return QT_TRANSLATE_NOOP("MessageTexts", "Error opening Fax file:%s");
     case TextId::FaxTransport:
-      return u"Error sending fax file."_s;
+      return QT_TRANSLATE_NOOP("MessageTexts", "Error sending fax file.");
     case TextId::FaxError:
-      return u"An error occured while sending the fax file. Error code: %i"_s;
+      return QT_TRANSLATE_NOOP("MessageTexts", "An error occured while sending the fax file. Error code: %i");
     case TextId::FaxWarning:
-      return u"Warning - The server was unable to send your fax file to the following numbers"_s;
+      return QT_TRANSLATE_NOOP(
+          "MessageTexts", "Warning - The server was unable to send your fax file to the following numbers");
     case TextId::FaxSuccess:
-      return u"Fax message successfully delivered to the server."_s;
+      return QT_TRANSLATE_NOOP("MessageTexts", "Fax message successfully delivered to the server.");
     case TextId::MmsDescriptionTooLong:
-      return u"Description must be 10Kb or less"_s;
+      return QT_TRANSLATE_NOOP("MessageTexts", "Description must be 10Kb or less");
     case TextId::MmsTooLarge:
-      return u"Error media files must be 50Kb or less"_s;
+      return QT_TRANSLATE_NOOP("MessageTexts", "Error media files must be 50Kb or less");
     case TextId::MmsMemory:
-      return u"Error sending media file. Insufficient memory"_s;
+      return QT_TRANSLATE_NOOP("MessageTexts", "Error sending media file. Insufficient memory");
     case TextId::MmsOpen:
-      return u"Error opening media file :%s"_s;
+      return QT_TRANSLATE_NOOP("MessageTexts", "Error opening media file :%s");
     case TextId::MmsError:
-      return u"An error occured while sending the media file. Error code: %i"_s;
+      return QT_TRANSLATE_NOOP("MessageTexts",
+                               "An error occured while sending the media file. Error code: %i");
     case TextId::MmsWarning:
-      return u"Warning - The server was unable to send your media file to the following numbers"_s;
+      return QT_TRANSLATE_NOOP(
+          "MessageTexts", "Warning - The server was unable to send your media file to the following numbers");
     case TextId::MmsSuccess:
-      return u"Media message successfully delivered to the server."_s;
+      return QT_TRANSLATE_NOOP("MessageTexts", "Media message successfully delivered to the server.");
     case TextId::SmsError:
-      return u"An error occured while sending your message.\r\nError code: %i"_s;
+      return QT_TRANSLATE_NOOP("MessageTexts",
+                               "An error occured while sending your message.\r\nError code: %i");
     case TextId::SmsWarning:
-      return u"Warning - The server was unable to send your message to the following numbers"_s;
+      return QT_TRANSLATE_NOOP(
+          "MessageTexts", "Warning - The server was unable to send your message to the following numbers");
     case TextId::SmsSuccess:
-      return u"SMS message successfully delivered to the server."_s;
+      return QT_TRANSLATE_NOOP("MessageTexts", "SMS message successfully delivered to the server.");
     case TextId::WapTooLarge:
-      return u"WAP files must be 50Kb or less"_s;
+      return QT_TRANSLATE_NOOP("MessageTexts", "WAP files must be 50Kb or less");
     case TextId::WapMemory:
-      return u"Error sending WAP file. Insufficient memory"_s;
+      return QT_TRANSLATE_NOOP("MessageTexts", "Error sending WAP file. Insufficient memory");
     case TextId::WapOpen:
-      return u"Error opening WAP file :%s"_s;
+      return QT_TRANSLATE_NOOP("MessageTexts", "Error opening WAP file :%s");
     case TextId::WapError:
-      return u"An error occured while sending the WAP file. Error code: %i"_s;
+      return QT_TRANSLATE_NOOP("MessageTexts", "An error occured while sending the WAP file. Error code: %i");
     case TextId::WapWarning:
-      return u"Warning - The server was unable to send your WAP file to the following numbers"_s;
+      return QT_TRANSLATE_NOOP(
+          "MessageTexts", "Warning - The server was unable to send your WAP file to the following numbers");
     case TextId::WapSuccess:
-      return u"WAP message successfully delivered to the server."_s;
+      return QT_TRANSLATE_NOOP("MessageTexts", "WAP message successfully delivered to the server.");
     case TextId::ModulePathFailed:
-      return u"GetModuleFileName failed (%i)\r\n"_s;
+      return QT_TRANSLATE_NOOP("MessageTexts", "GetModuleFileName failed (%i)\r\n");
     case TextId::BalanceLow:
-      return u"Your account balance is less than $2.00.\r\nPlease go to %1 and top up your account balance."_s
-          .arg(webPage(QString()));
+      return QT_TRANSLATE_NOOP(
+          "MessageTexts",
+          "Your account balance is less than $2.00.\r\nPlease go to %1 and top up your account balance.");
     case TextId::BalanceZero:
-      return u"Your account balance is zero.\r\nPlease go to %1, sign-in and add credit to your "
-             "account.\r\n\r\nIf you wish to trial our services then this may only be done via the website "
-             "portal. In the web portal click the 'Free Trial' button. The Parlexo Client software requires "
-             "credit to send messages."_s.arg(webPage(QString()));
+      return QT_TRANSLATE_NOOP(
+          "MessageTexts",
+          "Your account balance is zero.\r\nPlease go to %1, sign-in and add credit to your "
+          "account.\r\n\r\nIf you wish to trial our services then this may only be done via the website "
+          "portal. In the web portal click the 'Free Trial' button. The Parlexo Client software requires "
+          "credit to send messages.");
     case TextId::LocatorUnreachable:
-      return u"Could not connect to the Parlexo internet to determine the location of the gateway "
-             "server.\r\n\r\nPlease make sure you have internet connectivity, your firewall allows gateway "
-             "connection or try again later."_s;
+      return QT_TRANSLATE_NOOP(
+          "MessageTexts",
+          "Could not connect to the Parlexo internet to determine the location of the gateway "
+          "server.\r\n\r\nPlease make sure you have internet connectivity, your firewall allows gateway "
+          "connection or try again later.");
     case TextId::StatusQueryError:
-      return u"An error occured while getting the status of the message.\r\nError code: %i"_s;
+      return QT_TRANSLATE_NOOP("MessageTexts",
+                               "An error occured while getting the status of the message.\r\nError code: %i");
     case TextId::StatusFileMissing:
-      return u"Could not locate the status file."_s;
+      return QT_TRANSLATE_NOOP("MessageTexts", "Could not locate the status file.");
     case TextId::SettingsSection:
-      return u"Settings"_s;
+      return "Settings";
     case TextId::ButtonOk:
-      return u"&OK"_s;
+      return QT_TRANSLATE_NOOP("MessageTexts", "&OK");
     case TextId::ButtonYes:
-      return u"&Yes"_s;
+      return QT_TRANSLATE_NOOP("MessageTexts", "&Yes");
     case TextId::ButtonNo:
-      return u"&No"_s;
+      return QT_TRANSLATE_NOOP("MessageTexts", "&No");
     case TextId::ButtonCancel:
-      return u"&Cancel"_s;
+      return QT_TRANSLATE_NOOP("MessageTexts", "&Cancel");
     case TextId::DontShowAgainValue:
-      return u"MessageDontShowAgain%i"_s;
+      return "MessageDontShowAgain%i";
     case TextId::TemplatesTip:
-      return u"You can save templates for frequently used messages. Be sure to leave contacts empty if you "
-             "do not wish to save your contacts."_s;
+      return QT_TRANSLATE_NOOP(
+          "MessageTexts",
+          "You can save templates for frequently used messages. Be sure to leave contacts empty if you "
+          "do not wish to save your contacts.");
   }
   Q_UNREACHABLE();
+}
+
+bool isSettingsKey(TextId id) {
+  return id == TextId::SettingsSection || id == TextId::DontShowAgainValue;
+}
+
+bool namesWebSite(TextId id) {
+  return id == TextId::BalanceLow || id == TextId::BalanceZero;
+}
+
+}  // namespace
+
+QString text(TextId id) {
+  if (isSettingsKey(id)) return QLatin1String(sourceText(id));
+  const QString shown = QCoreApplication::translate("MessageTexts", sourceText(id));
+  return namesWebSite(id) ? shown.arg(webPage(QString())) : shown;
 }
 
 QString withText(TextId id, const QString& value) {
   const QString placeholder = u"%s"_s;
   QString result = text(id);
-  const auto place = result.indexOf(placeholder);
-  return place < 0 ? result : result.replace(place, placeholder.size(), value);
+  const auto position = result.indexOf(placeholder);
+  return position < 0 ? result : result.replace(position, placeholder.size(), value);
 }
 
 QString withNumber(const QString& text, int number) {

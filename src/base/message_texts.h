@@ -5,8 +5,8 @@
 
 namespace parlexo {
 
-/// The numbered texts that several places of the program show. The number also names the registry value
-/// under which "don't show again" is remembered.
+/// The numbered texts that several parts of the program share. The number is also part of the settings key
+/// that stores "don't show again".
 enum class TextId : int {
   AboutMenuEntry = 101,
   RecipientsBlank = 102,
@@ -50,18 +50,19 @@ enum class TextId : int {
   TemplatesTip = 395,
 };
 
-/// The text with the given number, as the user sees it. Texts that carry a code hold "%i" in its place.
+/// The text with this number, translated. Placeholders for an error code ("%i") or a file name ("%s") are
+/// left in; see withNumber() and withText(). SettingsSection and DontShowAgainValue are never translated.
 [[nodiscard]] QString text(TextId id);
 
-/// `text` with its first "%i" or "%d" replaced by `number`.
+/// Replaces the first "%i" or "%d" in `text` by `number`. Returns `text` unchanged if there is none.
 [[nodiscard]] QString withNumber(const QString& text, int number);
 
-/// Likewise for a numbered text.
+/// The same for a numbered text.
 [[nodiscard]] inline QString withNumber(TextId id, int number) {
   return withNumber(text(id), number);
 }
 
-/// The text with the given number, its first "%s" replaced by `value`.
+/// The text with this number, with its first "%s" replaced by `value`.
 [[nodiscard]] QString withText(TextId id, const QString& value);
 
 }  // namespace parlexo

@@ -5,8 +5,8 @@
 
 namespace parlexo {
 
-/// Style of a message: one of the button values joined with one of the icon values by "|". The numbers
-/// are those of the Windows message box, so that a style can be handed on to it unchanged.
+/// The style of a message: one button value and at most one icon value, combined with "|". The values are
+/// those of the Windows message box.
 namespace message_style {
 inline constexpr unsigned ok = 0x0;
 inline constexpr unsigned okCancel = 0x1;
@@ -21,25 +21,25 @@ inline constexpr unsigned information = 0x40;
 inline constexpr unsigned iconBits = 0xF0;
 }  // namespace message_style
 
-/// What the user answered; the numbers are those of the Windows message box.
+/// The button that the user pressed. The values are those of the Windows message box.
 enum class MessageResult { Ok = 1, Cancel = 2, Yes = 6, No = 7 };
 
-/// Shows the messages of the program. Every text that the user has to confirm goes through here, so that
-/// flows can be tested without a window and every message looks alike.
+/// Shows messages that the user has to confirm. All of them go through this interface, so flows can be tested
+/// without a window and all messages look alike.
 class Notifier {
  public:
   virtual ~Notifier() = default;
 
-  /// Shows `text` and waits for the answer. `style` is made of message_style values. A
-  /// `suppressibleNumber` other than 0 is the message's number under which the user may have said "don't
-  /// show again": the message is then not shown, and the result is No when the button bits are 1, 2 or 3
-  /// and Ok otherwise (a plain yes/no question included).
+  /// Shows `text` and blocks until the user answers. `style` combines message_style values. A
+  /// `suppressibleNumber` other than 0 offers "don't show again" for the message with that number. A
+  /// suppressed message is not shown; the result is then No if the button bits are 1, 2 or 3, otherwise Ok
+  /// (also for a plain yes/no question).
   virtual MessageResult show(const QString& text, unsigned style, int suppressibleNumber = 0) = 0;
 
   void error(const QString& text) { show(text, message_style::stop); }
   void warning(const QString& text) { show(text, message_style::exclamation); }
   void information(const QString& text) { show(text, message_style::information); }
-  /// Asks a yes/no question; true for yes.
+  /// Asks a yes/no question. Returns true for yes.
   [[nodiscard]] bool confirm(const QString& text) {
     return show(text, message_style::yesNo | message_style::question) == MessageResult::Yes;
   }
@@ -49,5 +49,22 @@ class Notifier {
   Notifier(const Notifier&) = default;
   Notifier& operator=(const Notifier&) = default;
 };
+
+/// The result of a message that is not shown because the user has suppressed it: No if the button bits are
+/// 1, 2 or 3, otherwise Ok (also for a plain yes/no question).
+[[nodiscard]] constexpr MessageResult suppressedResult(unsigned style) {
+  const unsigned buttons = style & message_style::buttonBits;
+  const bool hasAlternative = buttons == message_style::okCancel ||
+                              buttons == message_style::abortRetryIgnore ||
+                              buttons == message_style::yesNoCancel;
+  return hasAlternative ? MessageResult::No : MessageResult::Ok;
+}
+
+/// The result when the user closes a message with Escape or the close button.
+[[nodiscard]] constexpr MessageResult closeResult(unsigned style) {
+  const unsigned buttons = style & message_style::buttonBits;
+  if (buttons == message_style::yesNoCancel) return MessageResult::Cancel;
+  return buttons == message_style::yesNo ? MessageResult::No : MessageResult::Ok;
+}
 
 }  // namespace parlexo

@@ -5,8 +5,10 @@ namespace parlexo {
 
 using namespace Qt::StringLiterals;
 
+const char clientVersion[] = PARLEXO_VERSION;
+
 namespace {
-// Process-wide by contract: texts and links name the service's site wherever they stand.
+// Process-wide, because texts and links in all parts of the program name the service's web site.
 QString& chosenHost() {
   static QString host;
   return host;

@@ -5,20 +5,21 @@
 
 namespace parlexo {
 
-/// The client's own version, shown in titles and compared with the locator's announcement.
-inline constexpr char clientVersion[] = "2.24";
+/// The version of the program, from project() in CMakeLists.txt. Shown in titles and compared with the
+/// version that the locator document announces.
+extern const char clientVersion[];
 
-/// The one gateway protocol version that this client speaks.
+/// The gateway protocol version that this client implements.
 inline constexpr int protocolVersion = 103;
 
-/// The web host of the service as compiled in (the CMake variable PARLEXO_SERVICE_HOST).
+/// The web host of the service set at build time (the CMake variable PARLEXO_SERVICE_HOST).
 [[nodiscard]] QString defaultServiceHost();
 
-/// Sets the host that webPage() uses for the rest of the run (the setting "Service"/"Host"). An empty host
-/// puts the compiled one back.
+/// Sets the host that webPage() uses (the setting "Service"/"Host"). An empty `host` restores the default.
+/// Process-wide; call before any other thread starts.
 void setServiceHost(const QString& host);
 
-/// The address of a page on the service's web site, always HTTPS; `path` begins with "/" or is empty.
+/// Returns the HTTPS address of a page on the service's web site. `path` starts with "/" or is empty.
 [[nodiscard]] QString webPage(const QString& path);
 
 }  // namespace parlexo

@@ -1,33 +1,48 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <atomic>
 #include <chrono>
+#include <cstdint>
+#include <memory>
 
 #include <QString>
 
-#include "base/transfer.h"
-
 namespace parlexo {
 
-/// The one progress box of the program, seen from code that knows no window.
+/// How much of a file has been sent. Copies share the count. Thread-safe: one thread counts while another
+/// displays.
+class Transfer {
+ public:
+  explicit Transfer(std::int64_t totalBytes) : total_(totalBytes) {}
+
+  [[nodiscard]] std::int64_t total() const { return total_; }
+  [[nodiscard]] std::int64_t done() const { return done_->load(std::memory_order_relaxed); }
+  void setDone(std::int64_t bytes) const { done_->store(bytes, std::memory_order_relaxed); }
+
+ private:
+  std::int64_t total_;
+  std::shared_ptr<std::atomic<std::int64_t>> done_ = std::make_shared<std::atomic<std::int64_t>>(0);
+};
+
+/// Interface to the program's progress box, for code without widgets. Unless noted otherwise, functions are
+/// no-ops while no box is shown.
 class Progress {
  public:
   virtual ~Progress() = default;
 
-  /// Shows the box. `text` becomes its label only when no box is showing yet and `text` is not empty; a
-  /// box that is already there is raised and keeps its label.
+  /// Shows the box with the label `text`, or with the default label if `text` is empty. A box that is already
+  /// shown is raised and its label stays the same.
   virtual void show(const QString& text = {}) = 0;
-  /// Changes the label of a showing box; an empty text puts the default label back. Without a box nothing
-  /// happens. Lets the box repaint, at most every 30 ms.
+  /// Changes the label; an empty `text` restores the default label. Repaints the box at most every 30 ms.
   virtual void setText(const QString& text) = 0;
-  /// Shows below the label how far `transfer` has come, until the box goes. Without a box nothing happens.
-  virtual void follow(const Transfer& /*transfer*/) {}
-  /// Lets the box offer Cancel once the tasks under it have taken `wait` in all, instead of the longer
-  /// default. Without a box nothing happens.
+  /// Displays the progress of `transfer` below the label until the box is hidden.
+  virtual void setTransfer(const Transfer& /*transfer*/) {}
+  /// Makes the box offer Cancel after its tasks have run for `wait` in total, instead of the longer default.
   virtual void offerCancelAfter(std::chrono::milliseconds /*wait*/) {}
-  /// Removes the box; harmless when there is none.
+  /// Hides the box.
   virtual void hide() = 0;
-  /// The label of a showing box; a null string when there is none.
+  /// The label; a null string while no box is shown.
   [[nodiscard]] virtual QString text() const { return {}; }
 
  protected:
@@ -36,7 +51,7 @@ class Progress {
   Progress& operator=(const Progress&) = default;
 };
 
-/// Shows the progress box for the length of a scope.
+/// Shows the progress box for the duration of a scope.
 class ProgressScope {
  public:
   explicit ProgressScope(Progress& progress, const QString& text = {}) : progress_(progress) {

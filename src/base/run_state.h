@@ -5,8 +5,8 @@
 
 namespace parlexo {
 
-/// The proxy that every exchange but sessionEnd goes through; all empty when there is none. One that wants no
-/// login has neither user nor password.
+/// The proxy used for all calls except sessionEnd; empty if there is none. User and password are empty for a
+/// proxy without login.
 struct ProxySettings {
   QString password;
   QString user;
@@ -14,25 +14,25 @@ struct ProxySettings {
   int port = 0;
 };
 
-/// What the locator document told about the gateway.
+/// What the locator document says about the gateway.
 struct GatewayLocation {
   QString latestClientVersion;
   QString host;
   int port = 0;
-  int maxFileSize = 0;        ///< bytes that a fax file may have
-  int maxFileSizeMobile = 0;  ///< bytes that an MMS or WAP file may have
+  int maxFileSize = 0;        ///< size limit of a fax file in bytes
+  int maxFileSizeMobile = 0;  ///< size limit of an MMS or WAP file in bytes
   QString endpoint;           ///< "http://HOST:PORT/ccx/onlineCommunication"
 };
 
-/// The values that one run of the program shares between its pages. One object, owned by the application
-/// and passed by reference to whoever needs it; used by the interface thread alone.
+/// The state that the pages share while the program runs. A single object, owned by the application and
+/// passed by reference. Interface thread only.
 struct RunState {
   ProxySettings proxy;
   GatewayLocation gateway;
-  QString session;   ///< the session token; empty until a login succeeds
-  QString userName;  ///< the name of the last successful login
-  QString senderId;  ///< one value for all send pages; empty for none
-  /// Set by a balance of zero or less and never cleared in this run; the send pages then refuse to send.
+  QString session;   ///< session token; empty until a login succeeds
+  QString userName;  ///< user name of the last successful login
+  QString senderId;  ///< shared by all send pages; empty for none
+  /// Set when the balance is zero or less and never reset; the send pages then refuse to send.
   bool balanceIsZero = false;
 };
 

@@ -7,7 +7,7 @@ namespace parlexo {
 
 namespace {
 
-// Writing by way of data() to shared memory would wipe a copy made for that purpose.
+// Non-const access to shared memory would detach, and so wipe a fresh copy.
 template <class Container>
 void wipeUnshared(Container& container) {
   if (container.isDetached()) wipe(std::as_writable_bytes(std::span(container)));

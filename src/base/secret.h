@@ -11,17 +11,16 @@
 
 namespace parlexo {
 
-/// Passwords must not lie about in memory once they have done their work. These functions overwrite them with
-/// zeros, which the compiler may not leave out. Copies made earlier are beyond their reach, so a password is
-/// handed on by reference.
-
+/// Overwrites `memory` with zeros in a way that the compiler may not optimise away. For passwords that are no
+/// longer needed. Copies made earlier are not affected, so pass passwords by reference.
 void wipe(std::span<std::byte> memory);
-/// The text is empty afterwards. One whose memory is shared with another text keeps that memory as it is.
+/// Wipes the characters and leaves the string empty. Memory that an implicitly shared string shares with
+/// another one is not wiped.
 void wipe(std::string& text);
 void wipe(QByteArray& bytes);
 void wipe(QString& text);
 
-/// A password in the bytes of the code page. Copies share the bytes; the last one wipes them.
+/// A password encoded in the code page. Copies share the bytes, which are wiped with the last copy.
 class Secret {
  public:
   explicit Secret(const QString& text);

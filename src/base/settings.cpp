@@ -17,7 +17,7 @@ namespace {
 
 constexpr char organisation[] = "Parlexo";
 constexpr char application[] = "Parlexo Client";
-constexpr int widestColumn = 4000;  // pixels; a hand-edited value must not push a list's columns out of reach
+constexpr int maxColumnWidth = 4000;  // pixels; keeps columns reachable if the file was edited by hand
 
 ProgramFolder defaultProgramFolder() {
 #ifdef PARLEXO_USER_DATA_FOLDER
@@ -31,7 +31,7 @@ QString inFolder(const QString& folder, const QString& name) {
   return QDir::toNativeSeparators(QDir(folder).filePath(name));
 }
 
-// A text as it stands in the store. A hand-edited value with a comma that is not quoted comes back as a list.
+// QSettings returns a list for a value with an unquoted comma, as in a file edited by hand.
 QString storedText(const QSettings& store, const QString& key) {
   return store.value(key).toStringList().join(u", "_s);
 }
@@ -50,7 +50,7 @@ Settings::Settings()
     : store_(std::make_unique<QSettings>(QSettings::NativeFormat, QSettings::UserScope, organisation,
                                          application)),
       programFolder_(defaultProgramFolder()) {
-  // The user's own values only, not those that other places hold for all programs or all users.
+  // Read only this user's settings for this program.
   store_->setFallbacksEnabled(false);
 }
 
@@ -105,7 +105,7 @@ bool Settings::isMessageSuppressed(int messageNumber) const {
 }
 
 void Settings::suppressMessage(int messageNumber) {
-  // A text like all settings: the registry keeps numbers and texts apart.
+  // A string like all settings: the registry distinguishes numbers from strings.
   store_->setValue(suppressionKey(messageNumber), u"1"_s);
 }
 
@@ -129,7 +129,7 @@ QList<int> Settings::columnWidths(const QString& list) const {
   QList<int> widths;
   const QString stored = storedText(*store_, columnWidthsKey(list));
   for (const QString& width : stored.split(QChar(u' '), Qt::SkipEmptyParts))
-    widths.append(std::clamp(width.toInt(), 0, widestColumn));
+    widths.append(std::clamp(width.toInt(), 0, maxColumnWidth));
   return widths;
 }
 

@@ -15,7 +15,7 @@ namespace parlexo {
 
 namespace {
 
-bool succeeds(const CallRunner::Task& task, const CancelFlag& cancel) {
+bool runCatching(const CallRunner::Task& task, const CancelFlag& cancel) {
   try {
     task(cancel);
     return true;
@@ -29,7 +29,7 @@ bool succeeds(const CallRunner::Task& task, const CancelFlag& cancel) {
 
 }  // namespace
 
-/// Owned by both threads, so that it outlives a task that is left behind.
+/// Owned by both threads, so it outlives an abandoned task.
 class TaskThread::Shared {
  public:
   explicit Shared(std::function<void()> onEnd) : onEnd_(std::move(onEnd)) {}
@@ -39,7 +39,7 @@ class TaskThread::Shared {
     hasEnded_ = true;
     hasSucceeded_ = succeeded;
     ended_.notify_all();
-    // Under the lock, so that forget() waits for a callback that is running.
+    // Called under the lock to make detach() wait for the callback.
     if (onEnd_) onEnd_();
   }
 
@@ -53,7 +53,7 @@ class TaskThread::Shared {
     return hasSucceeded_;
   }
 
-  void forget() {
+  void detach() {
     const std::scoped_lock lock(mutex_);
     onEnd_ = nullptr;
   }
@@ -70,8 +70,8 @@ TaskThread::TaskThread(CallRunner::Task task, std::function<void()> onEnd, Cance
     : cancel_(std::move(cancel)), shared_(std::make_shared<Shared>(std::move(onEnd))) {
   try {
     thread_ = std::thread([shared = shared_, cancel = cancel_, work = std::move(task)]() mutable {
-      const bool succeeded = succeeds(work, cancel);
-      work = nullptr;  // what it owns is given back before its end is reported
+      const bool succeeded = runCatching(work, cancel);
+      work = nullptr;  // destroy what the task owns before its end is reported
       shared->end(succeeded);
     });
   } catch (const std::system_error& error) {
@@ -82,17 +82,17 @@ TaskThread::TaskThread(CallRunner::Task task, std::function<void()> onEnd, Cance
 
 TaskThread::~TaskThread() {
   cancel();
-  shared_->forget();
+  shared_->detach();
   if (!thread_.joinable()) return;
-  if (waitFor(timeouts::untilLeftBehind))
+  if (waitFor(timeouts::untilAbandoned))
     thread_.join();
   else
     thread_.detach();
 }
 
-void TaskThread::leaveBehind() {
+void TaskThread::abandon() {
   cancel();
-  shared_->forget();
+  shared_->detach();
   if (thread_.joinable()) thread_.detach();
 }
 

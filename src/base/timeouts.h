@@ -3,67 +3,67 @@
 
 #include <chrono>
 
-/// Every time limit of the client's connections, of its helper programs and of the waits for them. The
-/// section "Time-outs" of docs/gateway-protocol.md lists the same values; keep both in step.
+/// Every time limit of the client's connections and helper programs, and of the user interface that waits for
+/// them. Keep the section "Timeouts" of docs/gateway-protocol.md in sync.
 namespace parlexo::timeouts {
 
 using std::chrono::milliseconds;
 using std::chrono::seconds;
 
-// An exchange with the gateway.
+// Calls to the gateway.
 
-/// Looking up the name and connecting, all addresses of the host together.
+/// Name lookup and connecting, for all addresses of the host together.
 inline constexpr seconds connect{30};
-/// How long one address of the host is tried before the next is tried beside it. A broken IPv6 route or a
-/// server of a pair that is down then costs seconds, not the whole of `connect`.
+/// How long to try one address before also trying the next. Limits the cost of a broken IPv6 route or of a
+/// server that is down to seconds.
 inline constexpr seconds nextAddress{2};
-/// Longest wait for the next byte, sending or receiving. The gateway answers a send only when it has dealt
-/// with every number of the list.
+/// Maximum wait for the next byte, sending or receiving. Long, because the gateway answers a send only after
+/// it has processed every number of the list.
 inline constexpr seconds silence{300};
-/// All of the last exchange, sessionEnd. Its answer is not used, so the program's end must not wait for it.
+/// The whole sessionEnd call at exit. Short, because its response is not used.
 inline constexpr seconds sessionEnd{3};
-/// All of a query in the background: one that hangs must not hold up those behind it for long.
+/// A whole background query. A query that hangs delays those queued behind it.
 inline constexpr seconds background{60};
 
-// The locator's download.
+// Download of the locator document.
 
-/// Longest wait for a connection or for the next byte.
+/// Maximum wait for a connection or for the next byte.
 inline constexpr seconds locatorSilence{30};
-/// All of it, with redirects and a second attempt; the silence alone would let a document that comes byte by
-/// byte last for days.
+/// The whole download, including redirects and the second attempt. Also limits a server that sends byte by
+/// byte, which `locatorSilence` alone would not.
 inline constexpr seconds locatorWhole{90};
-/// Before the second and last attempt to connect.
+/// Delay before the second and last attempt to connect.
 inline constexpr seconds locatorRetry{1};
 
-// The search for a proxy.
+// Proxy discovery.
 
-/// One question to the helper program. A look-up of a name on a dead network takes longer.
+/// One query of the helper program. Shorter than a name lookup on a dead network.
 inline constexpr seconds proxyQuestion{8};
-/// The download of the network's configuration script: a wait for its next byte, and all of it.
+/// Download of the network's proxy configuration script: maximum wait for the next byte, and total time.
 inline constexpr seconds proxyScriptSilence{5};
 inline constexpr seconds proxyScriptWhole{10};
-/// Processor time of the script, which comes from the network and may loop for ever.
+/// CPU time of the script, which is untrusted and may loop forever.
 inline constexpr seconds proxyScriptRun{2};
 
-// The count of a document's pages.
+// Counting the pages of a document.
 
-/// The helper program may take this long; a document made to do harm would never end.
+/// Run time of the helper program. A malicious document may never finish.
 inline constexpr seconds pageCount{10};
 
-// What the user sees of a wait.
+// Waits that the user sees.
 
-/// Until a wait that its caller gave no progress box shows one. Most exchanges end sooner.
+/// Delay before a wait without a progress box shows one. Most calls end sooner.
 inline constexpr milliseconds untilBox{300};
-/// Of exchanges under one box, before it offers Cancel.
+/// Total time of the tasks under one progress box before it offers Cancel.
 inline constexpr seconds untilCancel{10};
-/// The same for a query of many statuses, which is often started by mistake or takes longer than it is worth.
+/// The same for a query of many statuses, which users often start by mistake or lose patience with.
 inline constexpr seconds untilStatusCancel{3};
-/// From the end of a user's call to the next query in the background. One action of the user is often several
-/// calls in a row.
+/// Delay between the end of a user's call and the next background query, because one user action is often a
+/// sequence of calls.
 inline constexpr milliseconds untilBackground{200};
-/// How long a background query may take to end when the program does, before it is left behind.
-inline constexpr milliseconds untilLeftBehind{500};
-/// How long a cancelled exchange may take to end before it is left behind.
+/// How long exit waits for a cancelled background query to end before it is abandoned.
+inline constexpr milliseconds untilAbandoned{500};
+/// How long to wait for a cancelled call to end before it is abandoned.
 inline constexpr seconds afterCancel{2};
 
 }  // namespace parlexo::timeouts

@@ -5,11 +5,8 @@
 #include <QLatin1String>
 
 #include "contacts/contact_file_format.h"
-#include "contacts/group_file_name.h"
 
 namespace parlexo {
-
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -20,8 +17,8 @@ QString withSeparator(const QString& folder) {
 
 }  // namespace
 
-AddressBook::AddressBook(const QString& folder, ItemDatabase& database, Notifier& notifier)
-    : folder_(withSeparator(folder)), database_(database), notifier_(notifier) {}
+AddressBook::AddressBook(const QString& folder, ItemDatabase& database)
+    : folder_(withSeparator(folder)), database_(database) {}
 
 void AddressBook::clear() {
   ++revision_;
@@ -40,68 +37,82 @@ const GroupFile* AddressBook::findGroup(const QString& name) const {
   return found == groups_.end() ? nullptr : &found->second;
 }
 
-bool AddressBook::saveContact(const ContactRecord& contact, bool writeToFile) {
+void AddressBook::insertContact(const ContactRecord& contact) {
   ++revision_;
+  // The caller's record may be the one that is replaced.
   const QString name = contact.name;
-  const bool isNew = contacts_.insert_or_assign(name, contact).second;
-  if (!writeToFile) return true;
+  contacts_.insert_or_assign(name, contact);
+}
+
+StoreResult AddressBook::saveContact(const ContactRecord& contact) {
+  const QString name = contact.name;
+  const bool isNew = !findContact(name);
+  insertContact(contact);
   QString error;
   if (database_.writeItem(error, nameWidth, contactsPath(), contactRecordSize, packContact(contact),
                           timeoutSeconds))
-    return unsaved_.remove(name) == 0 || writePendingMembers(name);
+    return unsaved_.remove(name) == 0 ? StoreResult() : writePendingMembers(name);
   if (isNew || unsaved_.contains(name)) unsaved_[name] = error;
-  showFailure(u"There was a problem trying to save your contact to the database. Error="_s, error);
-  return false;
+  return StoreResult({StoreError::Operation::SaveContact, error});
 }
 
-bool AddressBook::writePendingMembers(const QString& contactName) {
-  bool written = true;
+StoreResult AddressBook::writePendingMembers(const QString& contactName) {
+  StoreResult result;
   for (const auto& [groupName, group] : groups_)
-    if (group.contains(contactName)) written = writeMember(group, contactName) && written;
-  return written;
+    if (group.contains(contactName)) result.append(writeMember(group, contactName));
+  return result;
 }
 
-bool AddressBook::deleteContact(const QString& name, bool writeToFile) {
+void AddressBook::eraseContact(const QString& name) {
   const auto found = contacts_.find(name);
-  if (found == contacts_.end()) return true;
-  // `name` may be a key of a group's members, which goes before the contact does.
-  const QString& ownName = found->first;
-  bool written = !writeToFile || deleteName(contactsPath(), packName(ownName), contactRecordSize);
-  for (auto& [groupName, group] : groups_)
-    if (group.contains(ownName)) written = deleteMember(group, ownName, writeToFile) && written;
+  if (found == contacts_.end()) return;
   ++revision_;
+  // `name` may refer to the key of a member, which is erased before the contact.
+  const QString& ownName = found->first;
+  for (auto& [groupName, group] : groups_) group.members_.erase(ownName);
   unsaved_.remove(ownName);
   contacts_.erase(found);
-  return written;
 }
 
-bool AddressBook::renameContact(const QString& oldName, const ContactRecord& contact) {
+StoreResult AddressBook::deleteContact(const QString& name) {
+  if (!findContact(name)) return {};
+  StoreResult result = deleteRecord(contactsPath(), name, contactRecordSize);
+  for (const auto& [groupName, group] : groups_)
+    if (group.contains(name)) result.append(deleteMemberRecords(group, name));
+  eraseContact(name);
+  return result;
+}
+
+StoreResult AddressBook::renameContact(const QString& oldName, const ContactRecord& contact) {
   if (oldName == contact.name) return saveContact(contact);
-  const bool isSaved = saveContact(contact);
-  bool written = isSaved;
-  for (const QString& groupName : groupsWith(oldName))
-    written = addMember(groupName, contact.name) && written;
-  // Names that differ only behind the key's width share the records just written.
+  StoreResult result = saveContact(contact);
+  const bool isSaved = static_cast<bool>(result);
+  for (const QString& groupName : groupsWith(oldName)) result.append(addMember(groupName, contact.name));
+  // Names that differ only beyond the key's width share the records just written.
   const bool hasOwnRecords = packName(oldName) != packName(contact.name);
-  return deleteContact(oldName, isSaved && hasOwnRecords) && written;
+  if (isSaved && hasOwnRecords)
+    result.append(deleteContact(oldName));
+  else
+    eraseContact(oldName);
+  return result;
 }
 
-bool AddressBook::createGroup(const QString& name, const QStringList& memberNames, bool writeToFile) {
+void AddressBook::insertGroup(const QString& name) {
   ++revision_;
-  const GroupFile& group = groups_.try_emplace(name, name, newGroupFileName(name)).first->second;
-  bool written = true;
-  if (writeToFile) {
-    QString error;
-    written = database_.createDb(error, folder_ + group.fileNames_.first());
-    if (!written)
-      showFailure(u"There was a problem trying to create your group in the database Error="_s, error);
-  }
-  for (const QString& memberName : memberNames)
-    if (findContact(memberName)) written = addMember(name, memberName, writeToFile) && written;
-  return written;
+  groups_.try_emplace(name, name, newGroupFileName(name));
 }
 
-bool AddressBook::deleteGroup(const QString& name) {
+StoreResult AddressBook::createGroup(const QString& name, const QStringList& memberNames) {
+  insertGroup(name);
+  StoreResult result;
+  QString error;
+  if (!database_.createDb(error, folder_ + findGroup(name)->fileNames_.first()))
+    result.append(StoreResult({StoreError::Operation::CreateGroup, error}));
+  for (const QString& memberName : memberNames) result.append(addMember(name, memberName));
+  return result;
+}
+
+StoreResult AddressBook::deleteGroup(const QString& name) {
   const auto group = groups_.find(name);
   const QStringList fileNames =
       group == groups_.end() ? QStringList(newGroupFileName(name)) : group->second.fileNames_;
@@ -109,61 +120,60 @@ bool AddressBook::deleteGroup(const QString& name) {
   if (group != groups_.end()) groups_.erase(group);
   bool removed = true;
   for (const QString& fileName : fileNames) removed = database_.removeDb(folder_ + fileName) && removed;
-  if (removed) return true;
-  showFailure(u"There was a problem trying to delete your group from the database"_s);
-  return false;
+  return removed ? StoreResult() : StoreResult({StoreError::Operation::RemoveGroup});
 }
 
-bool AddressBook::addMember(const QString& groupName, const QString& contactName, bool writeToFile) {
+void AddressBook::insertMember(const QString& groupName, const QString& contactName) {
   const auto group = groups_.find(groupName);
   const ContactRecord* contact = findContact(contactName);
-  if (group == groups_.end() || !contact) return false;
+  if (group == groups_.end() || !contact) return;
   ++revision_;
   group->second.members_[contact->name] = contact;
-  return !writeToFile || writeMember(group->second, contact->name);
 }
 
-bool AddressBook::writeMember(const GroupFile& group, const QString& contactName) {
+StoreResult AddressBook::addMember(const QString& groupName, const QString& contactName) {
+  const GroupFile* group = findGroup(groupName);
+  if (!group || !findContact(contactName)) return {};
+  insertMember(groupName, contactName);
+  return writeMember(*group, contactName);
+}
+
+StoreResult AddressBook::writeMember(const GroupFile& group, const QString& contactName) {
   QString error = unsaved_.value(contactName);
   if (error.isEmpty() && database_.writeItem(error, nameWidth, folder_ + group.fileNames_.first(),
                                              memberRecordSize, packMember(contactName), timeoutSeconds))
-    return true;
-  showFailure(u"There was a problem saving your contact to the database group. Error="_s, error);
-  return false;
+    return {};
+  return StoreResult({StoreError::Operation::SaveMember, error});
 }
 
-bool AddressBook::removeMember(const QString& groupName, const QString& contactName, bool writeToFile) {
+void AddressBook::eraseMember(const QString& groupName, const QString& contactName) {
   const auto group = groups_.find(groupName);
-  return group != groups_.end() && deleteMember(group->second, contactName, writeToFile);
-}
-
-bool AddressBook::deleteMember(GroupFile& group, const QString& contactName, bool writeToFile) {
-  bool written = true;
-  for (const QString& fileName : group.fileNames_) {
-    if (!writeToFile) break;
-    written = deleteName(folder_ + fileName, packName(contactName), memberRecordSize) && written;
-  }
+  if (group == groups_.end()) return;
   ++revision_;
-  group.members_.erase(contactName);
-  return written;
+  group->second.members_.erase(contactName);
 }
 
-bool AddressBook::deleteName(const QString& path, const QByteArray& name, int recordSize) {
+StoreResult AddressBook::removeMember(const QString& groupName, const QString& contactName) {
+  const GroupFile* group = findGroup(groupName);
+  if (!group) return {};
+  StoreResult result = deleteMemberRecords(*group, contactName);
+  eraseMember(groupName, contactName);
+  return result;
+}
+
+StoreResult AddressBook::deleteMemberRecords(const GroupFile& group, const QString& contactName) {
+  StoreResult result;
+  for (const QString& fileName : group.fileNames_)
+    result.append(deleteRecord(folder_ + fileName, contactName, memberRecordSize));
+  return result;
+}
+
+StoreResult AddressBook::deleteRecord(const QString& path, const QString& name, int recordSize) {
   QString error;
   bool deleted = false;
-  if (database_.deleteItem(error, nameWidth, path, name, recordSize, deleted, timeoutSeconds)) return true;
-  showDeletionFailure(error);
-  return false;
-}
-
-void AddressBook::showDeletionFailure(const QString& error) {
-  showFailure(u"There was a problem deleting a contact from your database. Error="_s, error);
-}
-
-void AddressBook::showFailure(const QString& sentence, const QString& error) {
-  if (shownOnce_ && shownOnce_->contains(sentence)) return;
-  if (shownOnce_) shownOnce_->append(sentence);
-  notifier_.error(sentence + error);
+  if (database_.deleteItem(error, nameWidth, path, packName(name), recordSize, deleted, timeoutSeconds))
+    return {};
+  return StoreResult({StoreError::Operation::DeleteRecord, error});
 }
 
 QStringList AddressBook::groupsWith(const QString& contactName) const {

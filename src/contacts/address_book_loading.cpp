@@ -13,7 +13,6 @@
 #include "base/message_texts.h"
 #include "contacts/address_book.h"
 #include "contacts/contact_file_format.h"
-#include "contacts/group_file_name.h"
 
 namespace parlexo {
 
@@ -22,21 +21,14 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int contactsPerProgress = 20;
-// Room is made at once for as many contacts as the file has, but not for more than this: a broken file may
-// claim any length.
+// Limits the memory reserved up front: a damaged file may have any length.
 constexpr qint64 contactsToExpect = 1'000'000;
-// For the contacts while a group's file is locked: less than the time after which other programs that wait
-// for that file give up.
+// For reading the contacts while a group's file is locked. Shorter than the timeout of other programs that
+// wait for that file.
 constexpr int recheckTimeoutSeconds = 30;
 
-QString connectingProblem(const QString& error) {
-  return u"There was a problem connecting to the database. Please ensure you can connect to the database "
-         "storage location. Error="_s +
-         error;
-}
-
-// The group files of a folder. One whose name can't be told as text is left out, because opening it by
-// that text would create another file.
+// Returns the names of the group files in `folder`. Omits a file whose name can't be converted to text,
+// because opening it by that text would create another file.
 QStringList groupFileNames(const QString& folder) {
   const QDir dir(folder);
   QStringList names;
@@ -47,22 +39,23 @@ QStringList groupFileNames(const QString& folder) {
 
 }  // namespace
 
-bool AddressBook::loadAll(Progress& progress) {
-  createPersonalGroup();
-  return loadContacts(progress) && loadGroups(progress);
+bool AddressBook::loadAll(Progress& progress, const ErrorHandler& onError) {
+  createPersonalGroup(onError);
+  if (!loadContacts(progress, onError)) return false;
+  const QStringList fileNames = groupFileNames(folder_);
+  return std::all_of(fileNames.begin(), fileNames.end(),
+                     [&](const QString& fileName) { return loadGroup(fileName, progress, onError); });
 }
 
-void AddressBook::createPersonalGroup() {
+void AddressBook::createPersonalGroup(const ErrorHandler& onError) {
   const QString path = folder_ + newGroupFileName(QLatin1String(personalContactsName));
   QString error;
-  if (database_.createDb(error, path)) return;
-  notifier_.show(u"Can't create the personal contacts database: "_s + path + u" Error="_s + error,
-                 message_style::ok);
+  if (!database_.createDb(error, path)) onError({StoreError::Operation::CreatePersonalGroup, error, path});
 }
 
-bool AddressBook::loadContacts(Progress& progress) {
-  progress.setText(u"Loading all Contacts..."_s);
-  const QString loadedText = u"Loading all Contacts (%i Loaded)..."_s;
+bool AddressBook::loadContacts(Progress& progress, const ErrorHandler& onError) {
+  progress.setText(tr("Loading all Contacts..."));
+  const QString loadedText = tr("Loading all Contacts (%i Loaded)...");
   int loaded = 0;
   contacts_.reserve(static_cast<std::size_t>(
       std::min(QFileInfo(contactsPath()).size() / contactRecordSize, contactsToExpect)));
@@ -75,22 +68,16 @@ bool AddressBook::loadContacts(Progress& progress) {
   };
   QString error;
   if (database_.readAllItems(error, contactRecordSize, contactsPath(), add, timeoutSeconds)) return true;
-  notifier_.error(connectingProblem(error));
+  onError({StoreError::Operation::ReadFile, error});
   return false;
 }
 
-bool AddressBook::loadGroups(Progress& progress) {
-  for (const QString& fileName : groupFileNames(folder_))
-    if (!loadGroup(fileName, progress)) return false;
-  return true;
-}
-
-bool AddressBook::loadGroup(const QString& fileName, Progress& progress) {
+bool AddressBook::loadGroup(const QString& fileName, Progress& progress, const ErrorHandler& onError) {
   const QString name = decodeGroupFileName(fileName, QLatin1String(groupExtension));
   const auto [entry, isFirstFile] = groups_.try_emplace(name, name, fileName);
   GroupFile& group = entry->second;
   if (!isFirstFile) group.fileNames_.append(fileName);
-  progress.setText(u"Loading Group \"%1\"..."_s.arg(name));
+  progress.setText(tr("Loading Group \"%1\"...").arg(name));
   QSet<QByteArray> orphans;
   const auto add = [&](QByteArrayView record) {
     const QByteArray key = unpackMember(record);
@@ -100,10 +87,11 @@ bool AddressBook::loadGroup(const QString& fileName, Progress& progress) {
   QString error;
   const QString path = folder_ + fileName;
   if (!database_.readAllItems(error, memberRecordSize, path, add, timeoutSeconds)) {
-    notifier_.error(connectingProblem(error));
+    onError({StoreError::Operation::ReadFile, error});
     return false;
   }
-  if (!orphans.isEmpty()) deleteOrphans(group, path, orphans);
+  if (!orphans.isEmpty() && !deleteOrphans(error, group, path, orphans))
+    onError({StoreError::Operation::DeleteRecord, error});
   return true;
 }
 
@@ -113,26 +101,25 @@ bool AddressBook::addLoadedMember(GroupFile& group, const QByteArray& key) const
   return contact != nullptr;
 }
 
-// A colleague may have stored a contact and its membership after the contacts were read here. Programs write
-// the contact first, so once the group's file is locked, a contact that is not in the database has no
-// acknowledged membership that it could lose.
-void AddressBook::deleteOrphans(GroupFile& group, const QString& path, const QSet<QByteArray>& orphans) {
-  const auto stillMissing = [&](QString& error) -> std::optional<QSet<QByteArray>> {
-    if (!loadNewContacts(error, orphans)) return std::nullopt;
+// Another user may have stored a contact and its membership after the contacts were read here. Programs write
+// the contact first. Once the group's file is locked, a member whose contact is missing from the database is
+// therefore one that no program has finished writing.
+bool AddressBook::deleteOrphans(QString& error, GroupFile& group, const QString& path,
+                                const QSet<QByteArray>& orphans) {
+  const auto stillMissing = [&](QString& readError) -> std::optional<QSet<QByteArray>> {
+    if (!loadNewContacts(readError, orphans)) return std::nullopt;
     QSet<QByteArray> missing;
     for (const QByteArray& key : orphans)
       if (!addLoadedMember(group, key)) missing.insert(key);
     return missing;
   };
-  QString error;
-  if (!database_.deleteItems(error, nameWidth, path, memberRecordSize, stillMissing, timeoutSeconds))
-    showDeletionFailure(error);
+  return database_.deleteItems(error, nameWidth, path, memberRecordSize, stillMissing, timeoutSeconds);
 }
 
-// Loads those of the contacts with these keys that are in the database by now.
+// Loads the contacts with these keys that have been stored since.
 bool AddressBook::loadNewContacts(QString& error, const QSet<QByteArray>& keys) {
   const auto add = [&](QByteArrayView record) {
-    if (keys.contains(unpackMember(record))) saveContact(unpackContact(record), false);
+    if (keys.contains(unpackMember(record))) insertContact(unpackContact(record));
     return true;
   };
   return database_.readAllItems(error, contactRecordSize, contactsPath(), add, recheckTimeoutSeconds);

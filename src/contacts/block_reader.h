@@ -12,8 +12,8 @@
 
 namespace parlexo {
 
-/// Reads the records of an open database file one after the other, in blocks of about 1 MB: one system call
-/// per record would make reading a large database over a network slow.
+/// Reads the records of an open database file in order, in blocks of about 1 MB. One system call per record
+/// would be slow for a large database on a network folder.
 class BlockReader {
  public:
   struct Record {
@@ -25,12 +25,12 @@ class BlockReader {
     Failure read;
   };
 
-  /// Reads `file`, open at its beginning and `size` bytes long, in records of `recordSize` bytes. Throws
-  /// `failures.outOfMemory` when there is no memory for a block.
+  /// `file` is open at its beginning and contains `size` bytes, in records of `recordSize` bytes. Throws
+  /// `failures.outOfMemory` if no block can be allocated.
   BlockReader(SharedFile& file, qint64 size, qint64 recordSize, const Failures& failures);
 
-  /// The next record, or nothing at the end of the file. A record that the end of the file cuts short is
-  /// completed from the one before it. Throws `failures.read` when reading fails.
+  /// Returns the next record, or nullopt at the end of the file. An incomplete last record is filled up from
+  /// the record before it. Throws `failures.read` if reading fails.
   [[nodiscard]] std::optional<Record> next();
 
  private:
@@ -42,11 +42,11 @@ class BlockReader {
   qint64 recordSize_;
   Failures failures_;
   qint64 capacity_;
-  // The record before the block, then the block.
+  // The record before the block, followed by the block.
   std::vector<char> buffer_;
   qint64 position_ = 0;
-  qint64 read_ = 0;    // bytes of the block that come from the file
-  qint64 filled_ = 0;  // the same with the last record completed
+  qint64 read_ = 0;    // bytes of the block read from the file
+  qint64 filled_ = 0;  // likewise, including the completion of the last record
 };
 
 }  // namespace parlexo

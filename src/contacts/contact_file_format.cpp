@@ -3,12 +3,16 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
+
+#include <QRegularExpression>
 
 #include "base/code_page.h"
 #include "contacts/item_database.h"
-#include "contacts/zero_ended.h"
 
 namespace parlexo {
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -30,12 +34,12 @@ constexpr std::array<Field, ContactRecord::extraCount> extraFields = {{{183, ext
                                                                        {343, extraWidth},
                                                                        {383, extraWidth}}};
 
-// The rest of the field is zero already.
+// The record is zero-filled.
 void put(QByteArray& record, Field field, const QString& value) {
   const QByteArray bytes = toCodePage(value);
-  const QByteArrayView kept =
+  const QByteArrayView truncated =
       untilZero(bytes).first(std::min<qsizetype>(untilZero(bytes).size(), field.width));
-  std::copy(kept.begin(), kept.end(), record.begin() + field.offset);
+  std::copy(truncated.begin(), truncated.end(), record.begin() + field.offset);
 }
 
 QString get(QByteArrayView record, Field field) {
@@ -48,7 +52,46 @@ QByteArray emptyRecord(int size) {
   return record;
 }
 
+// Plain and encoded characters, in the order in which both directions replace them throughout the name.
+constexpr std::array<std::pair<const char*, const char*>, 12> replacements = {{
+    {"-", "--"},
+    {"%", "-1"},
+    {"\\", "-2"},
+    {":", "-3"},
+    {"/", "-4"},
+    {"*", "-5"},
+    {"?", "-6"},
+    {"\"", "-7"},
+    {"'", "-8"},
+    {".", "-9"},
+    {"<", "-A"},
+    {">", "-B"},
+}};
+
 }  // namespace
+
+QString encodeGroupFileName(const QString& name, const QString& extension) {
+  QString encoded = name;
+  for (const auto& [plain, code] : replacements) encoded.replace(QLatin1String(plain), QLatin1String(code));
+  return encoded + extension;
+}
+
+QString decodeGroupFileName(const QString& fileName, const QString& extension) {
+  QString name = fileName;
+  for (const auto& [plain, code] : replacements) name.replace(QLatin1String(code), QLatin1String(plain));
+  if (name.endsWith(extension)) name.chop(extension.size());
+  return name;
+}
+
+QString groupNameAfterRestart(const QString& name) {
+  const QLatin1String extension(groupExtension);
+  return decodeGroupFileName(encodeGroupFileName(name, extension), extension);
+}
+
+QString stableGroupName(const QString& name) {
+  static const QRegularExpression misread(u"-+(?=[1-9AB])"_s);
+  return QString(name).replace(misread, u" "_s).trimmed();
+}
 
 QByteArray packName(const QString& name) {
   const QByteArray bytes = toCodePage(name).left(nameWidth);

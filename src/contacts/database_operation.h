@@ -10,26 +10,26 @@
 
 namespace parlexo {
 
-/// How the operations of ItemDatabase fail: their parts throw, and the operation turns what it catches into
-/// its message and its result.
+// Error handling of the operations of ItemDatabase: their steps throw, and runOperation() converts the
+// exception to a message and a return value.
 
-/// Ends an operation with the message of this number and text.
+/// Thrown to end an operation with this message.
 struct Failure {
   int number;
   const char* text;
 };
 
-/// Ends an operation whose message is in the caller's error string already.
+/// Thrown to end an operation whose message has already been appended to the error string.
 struct Reported {};
 
-/// Appends the message of a failed operation, as in "[readAllItems:5 - Read from database error!]".
+/// Appends the message of a failed operation, such as "[readAllItems:5 - Read from database error!]".
 inline void appendMessage(QString& error, const char* operation, const Failure& failure) {
   error += QStringLiteral("[%1:%2 - %3]")
                .arg(QLatin1String(operation), QString::number(failure.number), QLatin1String(failure.text));
 }
 
-/// Runs the body of `operation`. Returns false when it threw, after appending one message to `error`: that of
-/// a Failure, or "Unknown error!" under `unknownNumber` for any other exception.
+/// Runs the body of `operation`. If it throws, appends one message to `error` and returns false. The message
+/// is that of a Failure, or "Unknown error!" with `unknownNumber` for any other exception.
 template <typename Body>
 bool runOperation(QString& error, const char* operation, int unknownNumber, Body body) {
   try {
@@ -49,7 +49,7 @@ inline void require(bool success, const Failure& failure) {
   if (!success) throw failure;
 }
 
-/// `size` zero bytes. Throws `failure` when there is no memory for them.
+/// Returns `size` zero bytes. Throws `failure` if they can't be allocated.
 inline std::vector<char> allocate(qint64 size, const Failure& failure) {
   try {
     return std::vector<char>(static_cast<std::size_t>(size), '\0');

@@ -12,13 +12,13 @@
 
 namespace parlexo {
 
-/// One group of contacts: its name, its members by name, and the files that hold it. The members belong to
-/// the address book, which removes a contact from every group before it deletes the contact.
+/// A group of contacts: its name, its members by name, and its files. The members are owned by the address
+/// book, which removes a contact from every group before deleting it.
 class GroupFile {
  public:
   using Members = std::unordered_map<QString, const ContactRecord*>;
 
-  /// `fileName` is the group's file, without the folder.
+  /// `fileName` is the group's file name without the folder.
   GroupFile(QString name, const QString& fileName) : name_(std::move(name)), fileNames_(fileName) {}
 
   [[nodiscard]] const QString& name() const { return name_; }
@@ -29,7 +29,7 @@ class GroupFile {
   friend class AddressBook;
 
   QString name_;
-  // Several where the names of several files read as the same group. Members are added to the first.
+  // More than one if several file names decode to this group's name. Members are added to the first file.
   QStringList fileNames_;
   Members members_;
 };

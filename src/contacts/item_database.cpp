@@ -6,7 +6,6 @@
 #include <vector>
 
 #include "contacts/database_operation.h"
-#include "contacts/zero_ended.h"
 
 namespace parlexo {
 
@@ -32,13 +31,13 @@ void requireOpened(SharedFile::OpenResult result, const Failure& shared, const F
   }
 }
 
-qint64 sizeOf(const SharedFile& file, const Failure& failure) {
+qint64 requireSize(const SharedFile& file, const Failure& failure) {
   const std::optional<qint64> size = file.size();
   require(size.has_value(), failure);
   return *size;
 }
 
-// Tells the waiter when its pauses are over.
+// Notifies the waiter after its last pause.
 class Wait {
  public:
   explicit Wait(LockWaiter& waiter) : waiter_(waiter) {}
@@ -64,7 +63,7 @@ struct ItemDatabase::RecordForm {
   qint64 size;
   qint64 keyWidth;
 
-  [[nodiscard]] QByteArrayView keyOf(QByteArrayView record) const {
+  [[nodiscard]] QByteArrayView key(QByteArrayView record) const {
     return untilZero(record.sliced(stateWidth, keyWidth));
   }
   [[nodiscard]] qint64 headWidth() const { return stateWidth + keyWidth; }
@@ -73,7 +72,7 @@ struct ItemDatabase::RecordForm {
 struct ItemDatabase::Lookup {
   bool found;
   qint32 recordNumber;  // -1 when not found
-  qint32 recordCount;   // whole records in the file, as far as the index knows
+  qint32 recordCount;   // complete records in the file according to the index
 };
 
 ItemDatabase::ItemDatabase(ItemIndexCache& cache, LockWaiter& waiter) : cache_(cache), waiter_(waiter) {}
@@ -105,7 +104,7 @@ void ItemDatabase::readRecords(const QString& path, qint64 recordSize, int timeo
   SharedFile file;
   requireOpened(openWithWait(file, path, SharedFile::Mode::Read, timeout), {1, shareError},
                 {2, "Database open error!"});
-  const qint64 size = sizeOf(file, {3, sizeError});
+  const qint64 size = requireSize(file, {3, sizeError});
   if (size == 0) return;
   BlockReader reader(file, size, recordSize, {{4, outOfMemory}, {5, "Read from database error!"}});
   while (const auto record = reader.next())
@@ -129,12 +128,12 @@ ItemDatabase::Lookup ItemDatabase::getItemIndex(QString& error, const QString& p
   return {true, found.value(), index->recordCount};
 }
 
-// An index that could not be read whole stays in the cache: its count no longer fits the file, so that the
-// next write of a new key throws it away.
+// An incomplete index stays in the cache. Its count does not match the file, so the next write of a new key
+// discards it.
 void ItemDatabase::fillIndex(QString& error, ItemIndex& index, const QString& path, const RecordForm& form) {
   qint32 number = 0;
   const auto add = [&](const BlockReader::Record& record) {
-    index.recordNumbers[form.keyOf(record.bytes).toByteArray()] = number++;
+    index.recordNumbers[form.key(record.bytes).toByteArray()] = number++;
     if (record.isWhole) ++index.recordCount;
     return true;
   };
@@ -144,7 +143,7 @@ void ItemDatabase::fillIndex(QString& error, ItemIndex& index, const QString& pa
 
 namespace {
 
-// Looks for the record's slot from `start` on and stores the record there, or behind the last one.
+// Searches for the record's slot from `start` on and stores the record there, or appends it.
 class ItemStorer {
  public:
   ItemStorer(SharedFile& file, qint64 fileSize, QByteArrayView record, qint64 headWidth)
@@ -155,7 +154,7 @@ class ItemStorer {
         key_(untilZero(record.sliced(stateWidth, headWidth - stateWidth))),
         head_(allocate(headWidth, {7, outOfMemory})) {}
 
-  // Returns the number of the record when it had to be appended.
+  // Returns the number of the record if it was appended.
   std::optional<qint64> storeFrom(qint64 start) {
     seek(start, 6);
     for (qint64 position = start; position < fileSize_; position += record_.size()) {
@@ -184,7 +183,7 @@ class ItemStorer {
     return *count == headWidth_ && untilZero(head.sliced(stateWidth)) == key_;
   }
 
-  // The file stands behind the key of the record at `position`.
+  // The file position is after the key of the record at `position`.
   void storeAt(qint64 position) {
     if (head_.front() != ItemDatabase::recordDeleted) {
       require(file_.write(QByteArrayView(record_).sliced(headWidth_)), {9, "Can't write to database!"});
@@ -194,8 +193,8 @@ class ItemStorer {
     require(file_.write(record_), {11, "Can't write to the database!"});
   }
 
-  // Where the file ends within a record, that one is left incomplete and the next record boundary taken:
-  // otherwise all records written from now on would be out of step.
+  // Appends at a record boundary even if the last record is incomplete. All later records would be misaligned
+  // otherwise.
   qint64 append() {
     const qint64 records = (fileSize_ + record_.size() - 1) / record_.size();
     seek(records * record_.size(), 6);
@@ -224,15 +223,15 @@ bool ItemDatabase::writeItem(QString& error, int keyWidth, const QString& path, 
   });
 }
 
-// False when the index turned out to be older than the file; it is dropped then.
+// Returns false, after dropping the index, if the index is older than the file.
 bool ItemDatabase::tryWrite(QString& error, const QString& path, QByteArrayView record,
                             const RecordForm& form, int timeout) {
-  const QByteArrayView key = form.keyOf(record);
+  const QByteArrayView key = form.key(record);
   const Lookup lookup = getItemIndex(error, path, key, form);
   SharedFile file;
   requireOpened(openWithWait(file, path, SharedFile::Mode::Write, timeout), {2, shareError},
                 {3, "Database open error!"});
-  const qint64 size = sizeOf(file, {4, sizeError});
+  const qint64 size = requireSize(file, {4, sizeError});
   if (!lookup.found && size / form.size != lookup.recordCount) {
     file.close();
     cache_.dropItemIndex(path);
@@ -244,9 +243,9 @@ bool ItemDatabase::tryWrite(QString& error, const QString& path, QByteArrayView 
   return true;
 }
 
-// A record that went elsewhere than behind the last one known shows that the index does not fit the file: a
-// key that the index knew was no longer there, so the file was deleted and created again, or the file ended
-// within a record, whose place now holds another key. A wrong record number would lead to doubled records.
+// The index does not match the file if the record was not appended after the last indexed one. Either an
+// indexed key was missing because the file was deleted and created again, or an incomplete last record has
+// been replaced by another key. Wrong record numbers would cause duplicate records.
 void ItemDatabase::updateIndex(const QString& path, QByteArrayView key, const Lookup& lookup,
                                qint64 appendedNumber) {
   const std::shared_ptr<ItemIndex> index = cache_.find(path);
@@ -272,14 +271,14 @@ bool ItemDatabase::eraseItem(QString& error, const QString& path, QByteArrayView
   if (!lookup.found) return false;
   SharedFile file;
   requireOpened(openWithWait(file, path, SharedFile::Mode::Erase, timeout), {1, shareError}, {2, shareError});
-  const qint64 size = sizeOf(file, {3, sizeError});
+  const qint64 size = requireSize(file, {3, sizeError});
   qint64 position = lookup.recordNumber * form.size;
   require(file.seek(position), {4, positionError});
   std::vector<char> buffer = allocate(form.size, {5, outOfMemory});
   const QByteArrayView record(buffer.data(), form.size);
   for (; position < size; position += form.size) {
     require(file.read(buffer.data(), form.size).has_value(), {6, "Read item error!"});
-    if (record.front() == recordDeleted || form.keyOf(record) != key) continue;
+    if (record.front() == recordDeleted || form.key(record) != key) continue;
     require(file.seek(position), {7, positionError});
     require(file.write(QByteArrayView(&recordDeleted, stateWidth)), {8, "Can't write item to database!"});
     return true;
@@ -299,26 +298,26 @@ bool ItemDatabase::deleteItems(QString& error, int keyWidth, const QString& path
   });
 }
 
-// Throws the failures of deleteItem(). Adjacent records are marked with one write: every write waits for the
-// storage, while the file is locked.
+// Throws the failures of deleteItem(). Marks adjacent records with one write, because every write waits for
+// the storage while the file is locked.
 void ItemDatabase::markDeleted(SharedFile& file, const QSet<QByteArray>& keys, const RecordForm& form) {
   struct Run {
     qint64 position;
     QByteArray bytes;
   };
-  const qint64 size = sizeOf(file, {3, sizeError});
+  const qint64 size = requireSize(file, {3, sizeError});
   if (size == 0) return;
   BlockReader reader(file, size, form.size, {{5, outOfMemory}, {6, "Read item error!"}});
   std::vector<Run> runs;
   for (qint64 position = 0; const auto record = reader.next(); position += form.size) {
     const bool isInUse = record->bytes.front() != recordDeleted;
-    if (!isInUse || !keys.contains(form.keyOf(record->bytes).toByteArray())) continue;
+    if (!isInUse || !keys.contains(form.key(record->bytes).toByteArray())) continue;
     if (runs.empty() || runs.back().position + runs.back().bytes.size() != position)
       runs.push_back({position, {}});
     runs.back().bytes.append(recordDeleted).append(record->bytes.sliced(stateWidth));
   }
   for (Run& run : runs) {
-    // The file may end within the last record, which must not become longer.
+    // The last record may be incomplete. It must not become longer.
     run.bytes.chop(form.size - stateWidth);
     require(file.seek(run.position), {7, positionError});
     require(file.write(run.bytes), {8, "Can't write item to database!"});

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <algorithm>
 #include <functional>
 #include <optional>
 
@@ -16,17 +17,22 @@
 
 namespace parlexo {
 
+/// Returns the bytes of a fixed-width field up to its first zero byte, or all of them if the field is full.
+[[nodiscard]] inline QByteArrayView untilZero(QByteArrayView bytes) {
+  return bytes.first(std::find(bytes.begin(), bytes.end(), '\0') - bytes.begin());
+}
+
 /// Reads and writes flat files of fixed-size records, each with a state byte and a fixed-width text key
-/// (docs/file-formats.md), that several users may share on a network folder. Every operation opens the
-/// file, does its work and closes it; a missing file is created empty.
+/// (docs/file-formats.md). Several users may share the files on a network folder. Every operation opens and
+/// closes the file; a missing file is created empty.
 ///
-/// All operations but createDb() and removeDb() wait while others hold the file: they try again every
-/// 500 ms until more than `timeout` whole seconds have gone by. On failure an operation appends one
-/// bracketed message, as in "[readAllItems:5 - Read from database error!]", to `error` and returns false;
-/// on success it leaves `error` alone.
+/// All operations except createDb() and removeDb() retry every 500 ms while another user has locked the file,
+/// until more than `timeout` whole seconds have passed. On failure an operation appends one bracketed
+/// message, such as "[readAllItems:5 - Read from database error!]", to `error` and returns false. On success
+/// `error` is unchanged.
 class ItemDatabase {
  public:
-  /// Gets each record; true to go on, false to stop. The bytes are valid during the call only.
+  /// Called with each record; returns false to stop. The bytes are only valid during the call.
   using Visitor = std::function<bool(QByteArrayView record)>;
 
   static constexpr char recordDeleted = 0;
@@ -34,41 +40,40 @@ class ItemDatabase {
 
   ItemDatabase(ItemIndexCache& cache, LockWaiter& waiter);
 
-  /// Shows every record to `visitor` in the order of the file, deleted ones only with `includeDeleted`. A
-  /// short record at the end of the file is filled up from the record before it. Stopping early is success.
+  /// Calls `visitor` for every record in the order of the file; for deleted ones only if `includeDeleted`. An
+  /// incomplete last record is filled up from the record before it. Stopping early counts as success.
   bool readAllItems(QString& error, int recordSize, const QString& path, const Visitor& visitor, int timeout,
                     bool includeDeleted = false);
 
-  /// Stores `record` (`recordSize` bytes, key filled in; it is stored as in use whatever its state byte)
-  /// under its key: over the data of the record with that key, in the slot of a deleted one with that key,
-  /// or behind the last. A file that ends within a record gets the new one at the next record boundary.
-  /// Fails with message 5 when eleven times in a row the file had another number of whole records than the
-  /// index that was just read from it.
+  /// Stores `record` (`recordSize` bytes including the key; its state byte is ignored and stored as in use).
+  /// Overwrites the data of the record with that key, reuses the slot of a deleted record with that key, or
+  /// appends. If the last record of the file is incomplete, appends at the next record boundary. Fails with
+  /// message 5 if the number of complete records differed eleven times in a row from the index just read.
   bool writeItem(QString& error, int keyWidth, const QString& path, int recordSize, QByteArrayView record,
                  int timeout);
 
-  /// Marks the record in use with this key as deleted; `deleted` tells whether there was one.
+  /// Marks the record in use with this key as deleted. Sets `deleted` to whether there was one.
   bool deleteItem(QString& error, int keyWidth, const QString& path, QByteArrayView key, int recordSize,
                   bool& deleted, int timeout);
 
-  /// Returns the keys to delete, or nothing after appending a message to `error`.
+  /// Returns the keys to delete, or nullopt after appending a message to `error`.
   using KeyFinder = std::function<std::optional<QSet<QByteArray>>(QString& error)>;
 
-  /// Marks every record in use with one of the keys that `findKeys` returns as deleted. The file is locked
-  /// against reading and writing from before that call until the last mark is written, so what
-  /// `findKeys` reads in other files is newer than any record found here. It must not use this file. Fails
-  /// like deleteItem(), with its messages, and when `findKeys` fails.
+  /// Marks all records in use with the keys returned by `findKeys` as deleted. The file is locked against
+  /// reading and writing from before that call until all marks are written. What `findKeys` reads from other
+  /// files is therefore newer than any record of this file, which it must not access. Fails like
+  /// deleteItem(), with the same messages, or if `findKeys` fails.
   bool deleteItems(QString& error, int keyWidth, const QString& path, int recordSize,
                    const KeyFinder& findKeys, int timeout);
 
-  /// Makes sure that the file exists. A file that others hold exists.
+  /// Creates the file unless it exists. A file locked by another user exists.
   bool createDb(QString& error, const QString& path);
 
-  /// Removes the file and drops its index. False, without a message, when the file does not exist, can't
-  /// be removed or is held by somebody else.
+  /// Removes the file and drops its index. Returns false, without a message, if the file does not exist,
+  /// can't be removed or is locked by another user.
   bool removeDb(const QString& path);
 
-  /// See ItemIndexCache; always true.
+  /// See ItemIndexCache. Always return true.
   bool dropItemIndex(const QString& path) { return cache_.dropItemIndex(path); }
   bool dropAllItemIndexes() { return cache_.dropAllItemIndexes(); }
 

@@ -10,29 +10,40 @@
 
 namespace parlexo {
 
-/// The records of a database file as this program last saw them, deleted ones included.
+/// The records of a database file when this program last read it, including deleted ones.
 struct ItemIndex {
-  /// By key; of several records with one key the last.
+  /// By key; the last one if several records have the same key.
   QHash<QByteArray, qint32> recordNumbers;
-  /// Records with all their bytes in the file. Not the number of keys: a key may be there twice, and the file
-  /// may end within a record whose key is known.
+  /// The number of complete records. It may differ from the number of keys: a key may occur twice, and the
+  /// last record may be incomplete.
   qint32 recordCount = 0;
 };
 
-/// The item indexes of all databases that this run has looked a key up in. One object for the whole run,
-/// created by the application and used by the interface thread alone: it has no lock.
+/// The item indexes of all databases in which this process has searched a key. Owned by the application. Not
+/// thread-safe: only the interface thread uses it.
 class ItemIndexCache {
  public:
-  /// The index of the database at `path`, or null. Shared, so that whoever is filling it may finish after
-  /// it was dropped.
-  [[nodiscard]] std::shared_ptr<ItemIndex> find(const QString& path) const;
-  /// Puts an empty index for `path` in place and returns it.
-  std::shared_ptr<ItemIndex> create(const QString& path);
+  /// Returns the index of the database at `path`, or null. The shared pointer keeps an index alive that is
+  /// dropped while it is being filled.
+  [[nodiscard]] std::shared_ptr<ItemIndex> find(const QString& path) const {
+    const auto found = indexes_.find(path);
+    return found == indexes_.end() ? nullptr : found->second;
+  }
+  /// Creates an empty index for `path`, which replaces an existing one.
+  std::shared_ptr<ItemIndex> create(const QString& path) {
+    return indexes_[path] = std::make_shared<ItemIndex>();
+  }
 
-  /// Forgets the index of one database; nothing happens when there is none. Always true.
-  bool dropItemIndex(const QString& path);
-  /// Forgets all indexes, at the end of the run. Always true.
-  bool dropAllItemIndexes();
+  /// Removes the index of one database. No-op when there is none. Always returns true.
+  bool dropItemIndex(const QString& path) {
+    indexes_.erase(path);
+    return true;
+  }
+  /// Removes all indexes. Always returns true.
+  bool dropAllItemIndexes() {
+    indexes_.clear();
+    return true;
+  }
 
  private:
   std::unordered_map<QString, std::shared_ptr<ItemIndex>> indexes_;

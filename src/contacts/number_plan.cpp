@@ -9,7 +9,7 @@ namespace parlexo {
 
 namespace {
 
-/// Cuts the part up to `separator` off the beginning of `rest`.
+/// Removes the part up to `separator` from the beginning of `rest` and returns it.
 std::string_view nextPart(std::string_view& rest, char separator) {
   const std::size_t end = std::min(rest.find(separator), rest.size());
   const std::string_view part = rest.substr(0, end);
@@ -17,7 +17,7 @@ std::string_view nextPart(std::string_view& rest, char separator) {
   return part;
 }
 
-/// Whether the digit is in a class such as "1-35", brackets excluded.
+/// Returns whether the digit is in a class such as "1-35".
 bool isInClass(char digit, std::string_view members) {
   for (std::size_t i = 0; i < members.size(); ++i) {
     const bool isRange = i + 2 < members.size() && members[i + 1] == '-';
@@ -28,7 +28,7 @@ bool isInClass(char digit, std::string_view members) {
   return false;
 }
 
-/// How many digits of the number a prefix covers; 0 when the number begins otherwise.
+/// Returns how many digits of the number the prefix matches, or 0.
 std::size_t prefixLength(std::string_view prefix, std::string_view number) {
   const std::string_view stem = prefix.substr(0, prefix.find('['));
   if (!number.starts_with(stem)) return 0;
@@ -44,7 +44,7 @@ bool beginsWithAny(std::string_view prefixes, std::string_view number) {
   return false;
 }
 
-/// Whether the length is in a list such as "6-8,10".
+/// Returns whether the length is in a list such as "6-8,10".
 bool isInLengths(std::size_t length, std::string_view lengths) {
   while (!lengths.empty()) {
     const std::string_view range = nextPart(lengths, ',');
@@ -59,8 +59,8 @@ bool isInLengths(std::size_t length, std::string_view lengths) {
 }
 
 struct PlanMatch {
-  bool length = false;     ///< there are numbers of this length
-  bool beginning = false;  ///< there are numbers with this beginning
+  bool length = false;  ///< there are numbers of this length
+  bool prefix = false;  ///< there are numbers with this prefix
   bool both = false;
 };
 
@@ -69,15 +69,15 @@ PlanMatch matchPlan(std::string_view plan, std::string_view number) {
   while (!plan.empty()) {
     std::string_view prefixes = nextPart(plan, ';');
     const bool hasLength = isInLengths(number.size(), nextPart(prefixes, ':'));
-    const bool hasBeginning = beginsWithAny(prefixes, number);
+    const bool hasPrefix = beginsWithAny(prefixes, number);
     match.length |= hasLength;
-    match.beginning |= hasBeginning;
-    match.both |= hasLength && hasBeginning;
+    match.prefix |= hasPrefix;
+    match.both |= hasLength && hasPrefix;
   }
   return match;
 }
 
-/// Cuts the calling code of `country` off.
+/// Returns `digits` without the calling code of `country`.
 std::string_view nationalPart(const CallingCode& country, std::string_view digits) {
   return digits.substr(std::string_view(country.code).size());
 }
@@ -95,14 +95,14 @@ void appendWithout(std::string_view prefixes, std::string_view digits, std::vect
 
 }  // namespace
 
-// As no code is the beginning of another, only the last one that does not sort behind the digits can match.
+// No code is a prefix of another, so only the last code that does not sort after the digits can match.
 const CallingCode* findCallingCode(std::string_view digits) {
   const auto codes = callingCodes();
-  const auto behind = std::upper_bound(
+  const auto after = std::upper_bound(
       codes.begin(), codes.end(), digits,
       [](std::string_view searched, const CallingCode& known) { return searched < known.code; });
-  if (behind == codes.begin()) return nullptr;
-  const CallingCode& last = *std::prev(behind);
+  if (after == codes.begin()) return nullptr;
+  const CallingCode& last = *std::prev(after);
   return digits.starts_with(last.code) ? &last : nullptr;
 }
 
@@ -112,7 +112,7 @@ bool isPlanned(std::string_view digits) {
 
 bool isPossible(std::string_view digits) {
   const PlanMatch match = matchNumber(digits);
-  return match.both || (match.length && !match.beginning && withoutTrunkPrefix(digits).empty());
+  return match.both || (match.length && !match.prefix && withoutTrunkPrefix(digits).empty());
 }
 
 std::vector<std::string> withoutTrunkPrefix(std::string_view digits) {

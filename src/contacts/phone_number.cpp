@@ -18,28 +18,28 @@ namespace {
 
 using Problem = PhoneNumber::Problem;
 
-constexpr qsizetype longestCallingCode = 4;
+constexpr qsizetype maxCallingCode = 4;
 constexpr QChar minusSign(0x2212);
-// A slash is decoration between area code and number. Behind a whole number it introduces another extension
-// or a second number: "030 123456/78", "04105 1234/1235".
-constexpr qsizetype mostDigitsBeforeSlash = 6;
-constexpr qsizetype longestCodeBeforeSlash = 3;
-constexpr qsizetype fewestDigitsBehindSlash = 4;
+// A slash may separate area code and number. After a complete number it introduces another extension or a
+// second number: "030 123456/78", "04105 1234/1235".
+constexpr qsizetype maxDigitsBeforeSlash = 6;
+constexpr qsizetype maxCodeBeforeSlash = 3;
+constexpr qsizetype minDigitsAfterSlash = 4;
 
-bool isDecoration(QChar c) {
+bool isSeparator(QChar c) {
   return c.isSpace() || c.category() == QChar::Punctuation_Dash || c.category() == QChar::Other_Format ||
          c == minusSign || c == u'.' || c == u'(' || c == u')' || c == u'[' || c == u']';
 }
 
-QString withoutDecoration(QStringView number) {
+QString withoutSeparators(QStringView number) {
   QString bare;
   std::copy_if(number.begin(), number.end(), std::back_inserter(bare),
-               [](QChar c) { return !isDecoration(c); });
+               [](QChar c) { return !isSeparator(c); });
   return bare;
 }
 
-/// Without what spreadsheet programs and web pages write before a number. Direction marks may be anywhere.
-QString withoutIntroduction(QStringView written) {
+/// Removes what spreadsheet programs and web pages write before a number, and direction marks anywhere.
+QString withoutPreamble(QStringView written) {
   QString number = written.toString();
   number.removeIf([](QChar c) { return c.category() == QChar::Other_Format; });
   number = number.trimmed();
@@ -48,20 +48,19 @@ QString withoutIntroduction(QStringView written) {
   return number;
 }
 
-bool isSlashDecoration(const QString& number, qsizetype slash) {
-  const qsizetype prefix = number.startsWith(u'+')    ? 1 + longestCodeBeforeSlash
-                           : number.startsWith(u"00") ? 2 + longestCodeBeforeSlash
+bool isSlashSeparator(const QString& number, qsizetype slash) {
+  const qsizetype prefix = number.startsWith(u'+')    ? 1 + maxCodeBeforeSlash
+                           : number.startsWith(u"00") ? 2 + maxCodeBeforeSlash
                                                       : 0;
-  return slash > 0 && slash <= prefix + mostDigitsBeforeSlash &&
-         number.size() - slash > fewestDigitsBehindSlash;
+  return slash > 0 && slash <= prefix + maxDigitsBeforeSlash && number.size() - slash > minDigitsAfterSlash;
 }
 
 QString bareNumber(QString number) {
-  // Programs that hold a column of numbers as floating point write 61491570156.0.
+  // Programs that store numbers as floating point write 61491570156.0.
   static const QRegularExpression fraction(uR"(^(\+?\d{7,})\.0$)"_s);
-  number = withoutDecoration(number.replace(fraction, u"\\1"_s));
+  number = withoutSeparators(number.replace(fraction, u"\\1"_s));
   const qsizetype slash = number.indexOf(u'/');
-  if (isSlashDecoration(number, slash)) number.remove(slash, 1);
+  if (isSlashSeparator(number, slash)) number.remove(slash, 1);
   return number;
 }
 
@@ -78,7 +77,7 @@ QString international(std::string_view digits) {
   return u'+' + QString::fromLatin1(digits.data(), static_cast<qsizetype>(digits.size()));
 }
 
-/// The numbers that a text can be. One that a numbering plan has is preferred to one that is merely possible.
+/// The possible interpretations of a text. Numbers in a numbering plan take precedence over possible ones.
 class Readings {
  public:
   explicit Readings(std::string defaultCode) : defaultCode_(std::move(defaultCode)) {}
@@ -109,7 +108,7 @@ class Readings {
     if (isPossible(digits)) possible_.emplace(digits);
   }
 
-  /// Also without the trunk prefix, which people leave behind the calling code.
+  /// Also tries without the trunk prefix, which some people write after the calling code.
   void addPlanned(const std::string& digits) {
     if (isPlanned(digits)) planned_.insert(digits);
     for (const std::string& shorter : withoutTrunkPrefix(digits))
@@ -121,41 +120,41 @@ class Readings {
   std::set<std::string> possible_;
 };
 
-/// What is wrong with a number that has an international prefix.
+/// Returns the problem of an invalid number with an international prefix.
 Problem internationalProblem(std::string_view digits) {
   return findCallingCode(digits) ? Problem::WrongLength : Problem::UnknownCallingCode;
 }
 
-/// What is wrong with a number without plus sign that can't be read in any way.
-Problem problemOfUnreadable(std::string_view digits, const QString& callingCode) {
+/// Returns the problem of a number without plus sign that has no interpretation.
+Problem unreadableProblem(std::string_view digits, const QString& callingCode) {
   if (digits.starts_with("00")) return internationalProblem(digits.substr(2));
   if (callingCode.isEmpty()) return Problem::NoCallingCode;
   return PhoneNumber::isCallingCodeInUse(callingCode) ? Problem::NoReading : Problem::UnknownCallingCode;
 }
 
-QString textOfProblem(Problem problem, const QString& number, const QString& callingCode) {
+QString problemMessage(Problem problem, const QString& number, const QString& callingCode) {
   switch (problem) {
     case Problem::Empty:
     case Problem::NotANumber:
-    case Problem::Ambiguous:  // names the readings
+    case Problem::Ambiguous:  // see ambiguityText()
       return {};
     case Problem::Rounded:
-      return u"A spreadsheet program has rounded the number."_s;
+      return PhoneNumber::tr("A spreadsheet program has rounded the number.");
     case Problem::NoCallingCode:
-      return u"The number %1 has no country code."_s.arg(number);
+      return PhoneNumber::tr("The number %1 has no country code.").arg(number);
     case Problem::UnknownCallingCode:
-      return u"The country code of the number %1 is not in use."_s.arg(number);
+      return PhoneNumber::tr("The country code of the number %1 is not in use.").arg(number);
     case Problem::WrongLength:
-      return u"The number %1 has a wrong length."_s.arg(number);
+      return PhoneNumber::tr("The number %1 has a wrong length.").arg(number);
     case Problem::NoReading:
-      return u"The number %1 is not valid in %2."_s.arg(number, callingCode);
+      return PhoneNumber::tr("The number %1 is not valid in %2.").arg(number, callingCode);
   }
   Q_UNREACHABLE();
 }
 
 QString ambiguityText(const QString& number, const std::set<std::string>& readings) {
-  return u"The number %1 can be %2 or %3. Write it with a plus sign."_s.arg(
-      number, international(*readings.begin()), international(*readings.rbegin()));
+  return PhoneNumber::tr("The number %1 can be %2 or %3. Write it with a plus sign.")
+      .arg(number, international(*readings.begin()), international(*readings.rbegin()));
 }
 
 }  // namespace
@@ -164,10 +163,10 @@ PhoneNumber::PhoneNumber(QString text, std::optional<Problem> problem, QString p
     : text_(std::move(text)), problem_(problem), problemText_(std::move(problemText)) {}
 
 PhoneNumber PhoneNumber::parse(QStringView written, const QString& callingCode) {
-  QString introduced = withoutIntroduction(written);
-  const QString number = bareNumber(introduced);
+  QString text = withoutPreamble(written);
+  const QString number = bareNumber(text);
   const auto failed = [&](Problem problem) {
-    return PhoneNumber(number, problem, textOfProblem(problem, number, callingCode));
+    return PhoneNumber(number, problem, problemMessage(problem, number, callingCode));
   };
   if (number.isEmpty()) return failed(Problem::Empty);
   if (isRounded(number)) return failed(Problem::Rounded);
@@ -177,25 +176,25 @@ PhoneNumber PhoneNumber::parse(QStringView written, const QString& callingCode) 
 
   Readings readings(callingCode.mid(1).toStdString());
   readings.add(digits, hasPlus);
-  // "+44 (0)20 ...": the zero is for callers inside the country.
-  if (introduced.contains(QLatin1String("(0)"))) {
-    const QString shorter = bareNumber(introduced.remove(QLatin1String("(0)")));
+  // "+44 (0)20 ...": the zero is only dialled inside the country.
+  if (text.contains(QLatin1String("(0)"))) {
+    const QString shorter = bareNumber(text.remove(QLatin1String("(0)")));
     readings.add(shorter.sliced(hasPlus ? 1 : 0).toStdString(), hasPlus);
   }
   const std::set<std::string>& numbers = readings.numbers();
   if (numbers.size() > 1) return {number, Problem::Ambiguous, ambiguityText(number, numbers)};
   if (numbers.size() == 1) return {international(*numbers.begin()), std::nullopt, QString()};
-  return failed(hasPlus ? internationalProblem(digits) : problemOfUnreadable(digits, callingCode));
+  return failed(hasPlus ? internationalProblem(digits) : unreadableProblem(digits, callingCode));
 }
 
 std::optional<QString> PhoneNumber::parseCallingCode(QStringView typed) {
-  QString digits = withoutDecoration(typed);
+  QString digits = withoutSeparators(typed);
   if (digits.isEmpty()) return QString();
   if (digits.startsWith(u'+'))
     digits.remove(0, 1);
   else if (digits.startsWith(u"00"))
     digits.remove(0, 2);
-  if (!isDigits(digits.toStdString()) || digits.startsWith(u'0') || digits.size() > longestCallingCode)
+  if (!isDigits(digits.toStdString()) || digits.startsWith(u'0') || digits.size() > maxCallingCode)
     return std::nullopt;
   return u'+' + digits;
 }

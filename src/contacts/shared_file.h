@@ -10,22 +10,22 @@
 
 namespace parlexo {
 
-/// An open file that several users of a network folder share: how it was opened decides who else may have
-/// it open meanwhile. The file is closed, and given free to the others, when the object goes.
+/// A file on a network folder shared by several users. The mode in which it is opened determines how others
+/// may open it at the same time. The destructor closes the file.
 class SharedFile {
  public:
-  /// What the file is opened for; this also says who is shut out until it is closed.
+  /// The access, and the users who are locked out until the file is closed.
   enum class Mode {
-    Read,    ///< reading; other readers may come in, writers may not
-    Write,   ///< reading and writing; nobody else
-    Erase,   ///< reading and writing, to mark a record deleted; no other writer
-    Create,  ///< nothing but making sure that the file exists; everybody else
-    Remove,  ///< remove(); nobody else. The only mode that does not create a missing file
+    Read,    ///< read; allows other readers
+    Write,   ///< read and write; exclusive
+    Erase,   ///< read and write, to mark records deleted; allows readers
+    Create,  ///< only creates a missing file; allows readers and writers
+    Remove,  ///< remove(); exclusive. The only mode that does not create a missing file
   };
   enum class OpenResult {
     Opened,
-    SharingViolation,  ///< somebody else has the file open in a way that excludes this one: try later
-    Failed,            ///< anything else; trying again is no use
+    SharingViolation,  ///< locked by another user; a retry may succeed
+    Failed,            ///< any other error; a retry is pointless
   };
 
   SharedFile() = default;
@@ -33,33 +33,33 @@ class SharedFile {
   SharedFile(const SharedFile&) = delete;
   SharedFile& operator=(const SharedFile&) = delete;
 
-  /// Opens the file at `path` without waiting, and creates it empty when it is missing. A file that was
-  /// open before is closed. What is written goes to the storage before a write returns.
+  /// Opens the file at `path` without waiting, and creates it if missing. Closes a file that was open before.
+  /// Writes are synchronous: data is on the storage when write() returns.
   [[nodiscard]] OpenResult open(const QString& path, Mode mode);
   void close();
 
-  /// The length in bytes; nothing when it can't be found out.
+  /// Returns the length in bytes, or nullopt on error.
   [[nodiscard]] std::optional<qint64> size() const;
 
-  /// Moves to a byte position, which may lie behind the end. False on failure.
+  /// Moves to a byte position, which may be beyond the end. Returns false on error.
   [[nodiscard]] bool seek(qint64 position);
 
-  /// Reads up to `length` bytes from the position on, moving it. Returns how many there were, fewer than
-  /// `length` only at the end of the file; nothing on failure.
+  /// Reads up to `length` bytes at the position and advances it. Returns the number of bytes, less than
+  /// `length` only at the end of the file, or nullopt on error.
   [[nodiscard]] std::optional<qint64> read(char* buffer, qint64 length);
 
-  /// Writes all bytes at the position, moving it. False on failure; the file is then no longer than it was
-  /// before, so that a half-written record at its end can't shift those that come later.
+  /// Writes all bytes at the position and advances it. On error returns false and truncates the file to its
+  /// previous length, because an incomplete record would misalign the following ones.
   [[nodiscard]] bool write(QByteArrayView bytes);
 
-  /// Removes the file, which was opened with Mode::Remove. False on failure.
+  /// Removes the file, which must be open in Mode::Remove. Returns false on error.
   [[nodiscard]] bool remove();
 
  private:
   static constexpr std::intptr_t noHandle = -1;
 
-  std::intptr_t handle_ = noHandle;  ///< as the system gave it
-  QByteArray path_;                  ///< where a file is removed by its name
+  std::intptr_t handle_ = noHandle;  ///< the system's handle or descriptor
+  QByteArray path_;                  ///< on POSIX, where files are removed by path
 };
 
 }  // namespace parlexo

@@ -15,8 +15,7 @@ namespace parlexo {
 namespace {
 
 constexpr int noDescriptor = -1;
-// How often a file that was replaced between opening and locking is opened again at once; after that it
-// counts as in use.
+// How often a file that was replaced between opening and locking is reopened before it counts as in use.
 constexpr int replacementTries = 20;
 constexpr mode_t newFilePermissions = 0666;
 
@@ -28,7 +27,7 @@ auto uninterrupted(Call call) {
   return result;
 }
 
-// Without O_NONBLOCK a pipe in the place of the file would hold the program until somebody writes into it.
+// Without O_NONBLOCK, opening a pipe would block until another process writes to it.
 constexpr int commonFlags = O_CLOEXEC | O_NONBLOCK;
 
 int openFlags(SharedFile::Mode mode) {
@@ -44,7 +43,7 @@ int openFlags(SharedFile::Mode mode) {
   return O_RDONLY | commonFlags;
 }
 
-// An SMB server answers so when a program on Windows holds the file.
+// Errors of SMB servers if a program on Windows has the file open.
 bool isHeldByOthers(int error) {
   return error == EBUSY || error == ETXTBSY || error == EWOULDBLOCK;
 }
@@ -53,9 +52,9 @@ SharedFile::OpenResult failure(int error) {
   return isHeldByOthers(error) ? SharedFile::OpenResult::SharingViolation : SharedFile::OpenResult::Failed;
 }
 
-// An SMB server keeps a removed file until the last user has closed it, and lets nobody open the file or make
-// it anew meanwhile: it looks missing in a folder that is there. So does the target of a link that leads
-// nowhere.
+// An SMB server keeps a removed file until the last user has closed it. Until then the file can be neither
+// opened nor created: it appears missing although its folder exists. The same is true of a dangling link,
+// which is excluded here.
 bool isBeingRemoved(const QByteArray& path) {
   struct stat status {};
   const QByteArray folder = path.left(path.lastIndexOf('/') + 1) + '.';
@@ -63,8 +62,8 @@ bool isBeingRemoved(const QByteArray& path) {
   return ::lstat(path.constData(), &status) != 0 || !S_ISLNK(status.st_mode);
 }
 
-// Asking for creation of a file that exists is refused in some shared folders even to those who may write
-// it, so creation is asked for only when there is none.
+// Some shared folders refuse O_CREAT for an existing file even to users who may write to it. O_CREAT is
+// therefore only set if the file is missing.
 int openOrCreate(const QByteArray& path, SharedFile::Mode mode) {
   const int flags = openFlags(mode);
   const int handle = uninterrupted([&] { return ::open(path.constData(), flags); });
@@ -75,9 +74,9 @@ int openOrCreate(const QByteArray& path, SharedFile::Mode mode) {
   return created;
 }
 
-// Whoever waited for the lock may hold a file that was meanwhile deleted; a write into it would be lost. To
-// look at the path is not enough: an SMB mount answers that from memory, but asks the server to open a file,
-// unless it has it open with the very same flags. So these are flags that nothing else here uses.
+// The file may have been deleted while this program waited for the lock; a write to it would be lost. Calling
+// stat() on the path is not enough, because an SMB mount answers from its cache. It asks the server when a
+// file is opened, unless it is already open with the same flags; hence flags that are not used elsewhere.
 bool isAt(const char* path, const struct stat& opened) {
   const int handle = uninterrupted([=] { return ::open(path, O_RDONLY | O_SYNC | commonFlags); });
   if (handle == noDescriptor) return false;
@@ -92,11 +91,11 @@ SharedFile::OpenResult lock(int handle, SharedFile::Mode mode) {
   const int kind = mode == SharedFile::Mode::Read ? LOCK_SH : LOCK_EX;
   const int result = uninterrupted([=] { return ::flock(handle, kind | LOCK_NB); });
   if (result == 0) return SharedFile::OpenResult::Opened;
-  // Where the lock is a server's, a refusal may come back in these words.
+  // Some servers refuse a lock with this error.
   return errno == EACCES ? SharedFile::OpenResult::SharingViolation : failure(errno);
 }
 
-// Nothing when the file that was opened is not the one at the path any more.
+// Returns nullopt if the path no longer refers to the opened file.
 std::optional<SharedFile::OpenResult> lockFile(int handle, const char* path, SharedFile::Mode mode) {
   const SharedFile::OpenResult locked = lock(handle, mode);
   if (locked != SharedFile::OpenResult::Opened) return locked;
@@ -119,7 +118,7 @@ SharedFile::~SharedFile() {
 SharedFile::OpenResult SharedFile::open(const QString& path, Mode mode) {
   close();
   path_ = QFile::encodeName(path);
-  // The system would end the path there and open another file.
+  // The system would truncate the path at the zero character and open a different file.
   if (path_.contains('\0')) return OpenResult::Failed;
   for (int tries = 0; tries < replacementTries; ++tries) {
     const int opened = openOrCreate(path_, mode);
@@ -166,7 +165,7 @@ bool SharedFile::write(QByteArrayView bytes) {
     const auto count = uninterrupted(
         [&] { return ::write(descriptor(handle_), bytes.data(), static_cast<std::size_t>(bytes.size())); });
     if (count <= 0) {
-      // Nothing better can be done when cutting back fails too: the caller reports the failed write.
+      // The result is the same if truncating fails as well: the caller reports the failed write.
       if (size() > before && ::ftruncate(descriptor(handle_), *before) != 0) return false;
       return false;
     }

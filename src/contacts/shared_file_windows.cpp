@@ -32,12 +32,12 @@ OpenMode openMode(SharedFile::Mode mode) {
   return {GENERIC_READ, FILE_SHARE_READ};
 }
 
-HANDLE handleOf(std::intptr_t number) {
+HANDLE toHandle(std::intptr_t number) {
   return reinterpret_cast<HANDLE>(number);
 }
 
-// Programs that reach the folder over SMB from elsewhere can't shut anybody out by a share mode; while they
-// read, they hold a lock on the whole file instead. An eraser must not come in then, nor let them in.
+// Programs on other systems that access the folder over SMB can't set a share mode. While reading they lock
+// the whole file instead. Mode::Erase must fail then, although its share mode allows readers.
 bool isLockedElsewhere(HANDLE handle) {
   OVERLAPPED fromTheStart{};
   constexpr DWORD how = LOCKFILE_EXCLUSIVE_LOCK | LOCKFILE_FAIL_IMMEDIATELY;
@@ -45,7 +45,7 @@ bool isLockedElsewhere(HANDLE handle) {
   return GetLastError() == ERROR_LOCK_VIOLATION;
 }
 
-// What was appended of a record that did not fit must not shift those that come later.
+// An incomplete record would misalign the following ones.
 void cutBack(HANDLE handle, qint64 length) {
   LARGE_INTEGER end;
   end.QuadPart = length;
@@ -60,7 +60,7 @@ SharedFile::~SharedFile() {
 
 SharedFile::OpenResult SharedFile::open(const QString& path, Mode mode) {
   close();
-  // The system would end the path there and open another file.
+  // The system would truncate the path at the zero character and open a different file.
   if (path.contains(QChar::Null)) return OpenResult::Failed;
   const auto native = QDir::toNativeSeparators(path).toStdWString();
   const OpenMode how = openMode(mode);
@@ -69,7 +69,7 @@ SharedFile::OpenResult SharedFile::open(const QString& path, Mode mode) {
   if (handle == INVALID_HANDLE_VALUE)
     return GetLastError() == ERROR_SHARING_VIOLATION ? OpenResult::SharingViolation : OpenResult::Failed;
   handle_ = reinterpret_cast<std::intptr_t>(handle);
-  // Names such as "con" and "nul" open devices in whatever folder they are looked for.
+  // Names such as "con" and "nul" open devices in any folder.
   const bool isFile = GetFileType(handle) == FILE_TYPE_DISK;
   const bool isInUse = isFile && mode == Mode::Erase && isLockedElsewhere(handle);
   if (isFile && !isInUse) return OpenResult::Opened;
@@ -78,27 +78,27 @@ SharedFile::OpenResult SharedFile::open(const QString& path, Mode mode) {
 }
 
 void SharedFile::close() {
-  if (handle_ != noHandle) CloseHandle(handleOf(handle_));
+  if (handle_ != noHandle) CloseHandle(toHandle(handle_));
   handle_ = noHandle;
 }
 
 std::optional<qint64> SharedFile::size() const {
   LARGE_INTEGER length;
-  if (!GetFileSizeEx(handleOf(handle_), &length)) return std::nullopt;
+  if (!GetFileSizeEx(toHandle(handle_), &length)) return std::nullopt;
   return length.QuadPart;
 }
 
 bool SharedFile::seek(qint64 position) {
   LARGE_INTEGER wanted;
   wanted.QuadPart = position;
-  return SetFilePointerEx(handleOf(handle_), wanted, nullptr, FILE_BEGIN) != 0;
+  return SetFilePointerEx(toHandle(handle_), wanted, nullptr, FILE_BEGIN) != 0;
 }
 
 std::optional<qint64> SharedFile::read(char* buffer, qint64 length) {
   qint64 done = 0;
   while (done < length) {
     DWORD count = 0;
-    if (!ReadFile(handleOf(handle_), buffer + done, static_cast<DWORD>(length - done), &count, nullptr))
+    if (!ReadFile(toHandle(handle_), buffer + done, static_cast<DWORD>(length - done), &count, nullptr))
       return std::nullopt;
     if (count == 0) break;
     done += count;
@@ -111,15 +111,15 @@ bool SharedFile::write(QByteArrayView bytes) {
   if (!before) return false;
   DWORD count = 0;
   const auto wanted = static_cast<DWORD>(bytes.size());
-  const bool done = WriteFile(handleOf(handle_), bytes.data(), wanted, &count, nullptr) && count == wanted;
-  if (!done && size() > before) cutBack(handleOf(handle_), *before);
+  const bool done = WriteFile(toHandle(handle_), bytes.data(), wanted, &count, nullptr) && count == wanted;
+  if (!done && size() > before) cutBack(toHandle(handle_), *before);
   return done;
 }
 
-// The file goes with its last handle, which is this one: nobody else was let in.
+// The file is deleted when its last handle is closed, which is this one: it was opened exclusively.
 bool SharedFile::remove() {
   FILE_DISPOSITION_INFO disposition{TRUE};
-  return SetFileInformationByHandle(handleOf(handle_), FileDispositionInfo, &disposition,
+  return SetFileInformationByHandle(toHandle(handle_), FileDispositionInfo, &disposition,
                                     sizeof disposition) != 0;
 }
 

@@ -2,6 +2,8 @@
 #include "demo/demo.h"
 
 #include <array>
+#include <tuple>
+#include <utility>
 
 #include <QDateTime>
 #include <QDir>
@@ -9,6 +11,7 @@
 #include <QLocale>
 #include <QTemporaryDir>
 
+#include "base/message_type.h"
 #include "base/notifier.h"
 #include "base/settings.h"
 #include "contacts/samples/sample_contacts.h"
@@ -26,55 +29,44 @@ namespace {
 constexpr int sampleContactCount = 60;
 constexpr int sampleGroupCount = 8;
 
-struct EarlierMessage {
-  const char* phone;
-  const char* type;
-  const char* status;
-  int hoursAgo;
-};
-
+// Phone number, type, status, age in hours.
+using EarlierMessage = std::tuple<const char*, MessageType, const char*, int>;
 constexpr std::array earlierMessages = {
-    EarlierMessage{"+447700900137", "SMS", "Delivered to handset", 3},
-    EarlierMessage{"+447700900174", "SMS", "Sent to network", 3},
-    EarlierMessage{"+447700900211", "SMS", "Delivered to handset", 26},
-    EarlierMessage{"+442079460100", "Fax", "Delivered to handset", 50},
-    EarlierMessage{"+447700900248", "MMS", "Queued at gateway", 75},
-    EarlierMessage{"+447700900285", "WAP", "Delivered to handset", 98},
+    EarlierMessage{"+447700900137", MessageType::Sms, "Delivered to handset", 3},
+    EarlierMessage{"+447700900174", MessageType::Sms, "Sent to network", 3},
+    EarlierMessage{"+447700900211", MessageType::Sms, "Delivered to handset", 26},
+    EarlierMessage{"+442079460100", MessageType::Fax, "Delivered to handset", 50},
+    EarlierMessage{"+447700900248", MessageType::Mms, "Queued at gateway", 75},
+    EarlierMessage{"+447700900285", MessageType::Wap, "Delivered to handset", 98},
 };
 
-struct EarlierPayment {
-  double amount;
-  const char* description;
-  int hoursAgo;
-};
-
+// Amount, description, age in hours.
+using EarlierPayment = std::tuple<double, const char*, int>;
 constexpr std::array earlierPayments = {
     EarlierPayment{105.00, "Credit card payment", 720}, EarlierPayment{-0.10, "WAP to 1 number", 98},
     EarlierPayment{-0.25, "MMS to 1 number", 75},       EarlierPayment{-0.15, "Fax to 1 number", 50},
     EarlierPayment{-0.05, "SMS to 1 number", 26},       EarlierPayment{-0.10, "SMS to 2 numbers", 3},
 };
 
-struct SampleTemplate {
-  const char* name;
-  const char* text;
-};
-
+// Name and text.
 constexpr std::array sampleTemplates = {
-    SampleTemplate{"Appointment reminder",
-                   "A friendly reminder of your appointment tomorrow. Reply YES to confirm."},
-    SampleTemplate{"Roster changed",
-                   "The roster for next week has changed. Please look at the notice board."},
+    std::pair{"Appointment reminder",
+              "A friendly reminder of your appointment tomorrow. Reply YES to confirm."},
+    std::pair{"Roster changed", "The roster for next week has changed. Please look at the notice board."},
 };
 
-StatusLog earlierLog() {
+StatusLog sampleLog() {
   const QDateTime now = QDateTime::currentDateTime();
   StatusLog log;
   int number = 1;
-  for (const auto& message : earlierMessages) {
+  for (const auto& [phone, type, status, hoursAgo] : earlierMessages) {
     const QString receipt = u"DEMO-%1"_s.arg(number++, 4, 10, QChar(u'0'));
-    const QDateTime sent = now.addSecs(-3600LL * message.hoursAgo);
-    log.add({QLatin1String(message.phone), receipt, QLatin1String(message.status),
-             QLatin1String(message.type), QLocale::c().toString(sent, u"dd/MM/yyyy HH:mm:ss"_s)});
+    const QDateTime sent = now.addSecs(-3600LL * hoursAgo);
+    log.add({.phone = QLatin1String(phone),
+             .receipt = receipt,
+             .status = QLatin1String(status),
+             .type = toWord(type),
+             .date = QLocale::c().toString(sent, u"dd/MM/yyyy HH:mm:ss"_s)});
   }
   return log;
 }
@@ -109,19 +101,24 @@ QString Demo::site() const {
 QString Demo::start() {
   if (temporary_ && !temporary_->isValid()) return temporary_->errorString();
   simulator::Options options;
-  // The second one belongs to the first and has no numbers of its own.
-  options.accounts = {{user(), password(), 100.0, true, {}},
-                      {u"crew@"_s + user(), password(), 20.0, false, {}}};
+  // The second is a subaccount of the first and has no receiving numbers.
+  options.accounts = {
+      {.user = user(), .password = password(), .balance = 100.0, .maySetSenderId = true, .email = {}},
+      {.user = u"crew@"_s + user(),
+       .password = password(),
+       .balance = 20.0,
+       .maySetSenderId = false,
+       .email = {}}};
   simulator_ = std::make_unique<simulator::Simulator>(options);
   if (!simulator_->start()) return simulator_->errorText();
-  rememberPayments();
+  addPayments();
   for (const QString& problem : {fillContacts(), fillTemplates(), fillStatusLog()}) {
     if (!problem.isEmpty()) return problem;
   }
   return {};
 }
 
-void Demo::rememberPayments() {
+void Demo::addPayments() {
   const QDateTime now = QDateTime::currentDateTime();
   for (const auto& [amount, description, hoursAgo] : earlierPayments)
     simulator_->rememberTransaction(user(), amount, now.addSecs(-3600LL * hoursAgo),
@@ -139,9 +136,9 @@ QString Demo::fillTemplates() const {
   if (folder.exists()) return {};
   makeFolderPath(folder.path());
   const TemplateFolder templates(folder.path());
-  for (const auto& sample : sampleTemplates) {
-    if (!templates.save(QLatin1String(sample.name), {{}, QLatin1String(sample.text)}))
-      return u"Can't write the template %1"_s.arg(QLatin1String(sample.name));
+  for (const auto& [name, message] : sampleTemplates) {
+    if (!templates.save(QLatin1String(name), {.displayList = {}, .message = QLatin1String(message)}))
+      return tr("Can't write the template %1").arg(QLatin1String(name));
   }
   return {};
 }
@@ -150,11 +147,11 @@ QString Demo::fillStatusLog() {
   StatusFile file(Settings(dataFolder_).statusFile());
   StatusLog log;
   if (QFileInfo::exists(file.path())) {
-    SilentNotifier silent;  // the client reads the file again and tells what is wrong with it
+    SilentNotifier silent;  // the client loads the file again and reports any error
     file.load(log, silent);
   } else {
-    log = earlierLog();
-    if (!file.save(log)) return u"Can't write %1"_s.arg(file.path());
+    log = sampleLog();
+    if (!file.save(log)) return tr("Can't write %1").arg(file.path());
   }
   for (const auto& [receipt, entry] : log.entries()) simulator_->rememberReceipt(user(), receipt);
   return {};

@@ -3,6 +3,7 @@
 
 #include <memory>
 
+#include <QCoreApplication>
 #include <QString>
 
 class QTemporaryDir;
@@ -13,29 +14,31 @@ namespace simulator {
 class Simulator;
 }
 
-/// A world to try the program in: the gateway simulator inside the process and a data folder with sample
-/// contacts, groups, templates and messages sent on earlier days.
+/// The environment of `--demo`: the gateway simulator inside the process, and a data folder with sample
+/// contacts, groups, templates and sent messages.
 class Demo {
+  Q_DECLARE_TR_FUNCTIONS(Demo)
+
  public:
-  /// With an empty `dataFolder` the demo works in a temporary folder that goes away with it; otherwise in the
-  /// given one, where only what is missing is filled in.
+  /// Uses a temporary folder, deleted with the object, if `dataFolder` is empty. In an existing folder only
+  /// missing data are added.
   explicit Demo(const QString& dataFolder = {});
   ~Demo();
   Demo(const Demo&) = delete;
   Demo& operator=(const Demo&) = delete;
 
-  /// Starts the simulator and fills the folder. Returns an empty text, or why the demo can't be had: no
-  /// port is free, or the folder can't be written.
+  /// Starts the simulator and fills the folder. Returns an error message if no port is free or the folder
+  /// can't be written, and an empty string on success.
   [[nodiscard]] QString start();
 
   [[nodiscard]] const QString& dataFolder() const { return dataFolder_; }
-  /// Where the client finds the gateway's location document, "http://HOST:PORT".
+  /// The site of the location document, "http://HOST:PORT".
   [[nodiscard]] QString site() const;
   [[nodiscard]] static QString user();
   [[nodiscard]] static QString password();
 
  private:
-  void rememberPayments();
+  void addPayments();
   [[nodiscard]] QString fillContacts() const;
   [[nodiscard]] QString fillTemplates() const;
   [[nodiscard]] QString fillStatusLog();

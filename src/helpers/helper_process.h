@@ -5,9 +5,9 @@
 
 namespace parlexo {
 
-/// Makes this process, for good, a reader of what strangers made: it may use `memory` bytes beyond those that
-/// it uses now and `seconds` of processor time, it ends in silence when it crashes, and its standard input
-/// gives every byte as it is.
-void confineHelper(std::size_t memory, unsigned seconds);
+/// Sandboxes this process for parsing untrusted input. It may use `memory` more bytes than it uses now and
+/// `seconds` of CPU time; it crashes without a dialog or core dump; standard input is binary. Cannot be
+/// undone. Failures are ignored.
+void sandboxProcess(std::size_t memory, unsigned seconds);
 
 }  // namespace parlexo

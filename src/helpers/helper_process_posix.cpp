@@ -22,7 +22,7 @@ rlim_t memoryInUse() {
 
 }  // namespace
 
-void confineHelper(std::size_t memory, unsigned seconds) {
+void sandboxProcess(std::size_t memory, unsigned seconds) {
   limit(RLIMIT_CPU, seconds);
   limit(RLIMIT_AS, memoryInUse() + memory);
   limit(RLIMIT_CORE, 0);

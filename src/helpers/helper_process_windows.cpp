@@ -10,27 +10,27 @@
 namespace parlexo {
 namespace {
 
-constexpr UINT crashed = 3;  // as the C library's abort()
+constexpr UINT crashed = 3;  // the exit code of abort()
 constexpr LONGLONG ticksPerSecond = 10'000'000;
 
-// Else the system would show a window, or call a debugger.
-LONG WINAPI endAtOnce(EXCEPTION_POINTERS* /*what*/) {
+// By default the system would show a dialog or start a debugger.
+LONG WINAPI terminateOnCrash(EXCEPTION_POINTERS* /*exception*/) {
   TerminateProcess(GetCurrentProcess(), crashed);
   return EXCEPTION_EXECUTE_HANDLER;
 }
 
 }  // namespace
 
-void confineHelper(std::size_t memory, unsigned seconds) {
+void sandboxProcess(std::size_t memory, unsigned seconds) {
   SetErrorMode(SEM_FAILCRITICALERRORS | SEM_NOGPFAULTERRORBOX);
-  SetUnhandledExceptionFilter(endAtOnce);
+  SetUnhandledExceptionFilter(terminateOnCrash);
   JOBOBJECT_EXTENDED_LIMIT_INFORMATION limits{};
   limits.BasicLimitInformation.LimitFlags =
       JOB_OBJECT_LIMIT_PROCESS_MEMORY | JOB_OBJECT_LIMIT_PROCESS_TIME | JOB_OBJECT_LIMIT_ACTIVE_PROCESS;
   limits.BasicLimitInformation.PerProcessUserTimeLimit.QuadPart = seconds * ticksPerSecond;
   limits.BasicLimitInformation.ActiveProcessLimit = 1;
   limits.ProcessMemoryLimit = memory;
-  // The job lasts as long as its process, and so does the handle.
+  // The handle is deliberately not closed: the limits must last as long as the process.
   const HANDLE job = CreateJobObjectW(nullptr, nullptr);
   SetInformationJobObject(job, JobObjectExtendedLimitInformation, &limits, sizeof limits);
   AssignProcessToJobObject(job, GetCurrentProcess());

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The program parlexo-page-counter: counts the pages of the document on its standard input. A document may be
-// damaged or made to do harm, so that whatever reading it leads to happens in a process of its own.
-//   tiff   the pages of a TIFF, without the reduced pictures of them
-//   pdf    those of a PDF that opens without a password
-// Exit code 0 with the number on the standard output, 1 without one, 2 when the question is not understood.
+// The program parlexo-page-counter: counts the pages of the document on standard input. It runs in a separate
+// process, because a damaged or malicious document may crash the libraries that read it.
+//   parlexo-page-counter tiff   counts the pages of a TIFF, without thumbnails
+//   parlexo-page-counter pdf    counts the pages of a PDF that opens without a password
+// Exit code 0 with the number on standard output, 1 on failure, 2 for wrong usage.
 
 #include <algorithm>
 #include <array>
@@ -26,12 +26,12 @@
 
 namespace {
 
-constexpr int answered = 0;
-constexpr int noAnswer = 1;
-constexpr int notUnderstood = 2;
+constexpr int success = 0;
+constexpr int failure = 1;
+constexpr int wrongUsage = 2;
 
-constexpr std::size_t mostMemory = 512u << 20;  // bytes
-constexpr unsigned mostSeconds = 10;
+constexpr std::size_t maxMemory = 512u << 20;  // bytes
+constexpr unsigned maxSeconds = 10;
 
 struct TiffCloser {
   void operator()(TIFF* tiff) const { TIFFClose(tiff); }
@@ -40,7 +40,7 @@ using Tiff = std::unique_ptr<TIFF, TiffCloser>;
 
 struct PdfCloser {
   void operator()(qpdf_data pdf) const {
-    qpdf_get_error(pdf);  // an error that nobody has asked for would be printed
+    qpdf_get_error(pdf);  // errors that were not retrieved would be printed
     qpdf_cleanup(&pdf);
   }
 };
@@ -60,7 +60,7 @@ bool isReduced(TIFF* tiff) {
   return TIFFGetField(tiff, TIFFTAG_SUBFILETYPE, &type) == 1 && (type & FILETYPE_REDUCEDIMAGE) != 0;
 }
 
-/// 0 when the document can't be read to its end.
+/// Returns 0 if the document can't be read completely.
 std::size_t tiffPages(std::string document) {
   TIFFSetErrorHandler(nullptr);
   TIFFSetWarningHandler(nullptr);
@@ -75,7 +75,7 @@ std::size_t tiffPages(std::string document) {
   }
 }
 
-/// 0 when the document can't be read. The library's warnings, which a repaired document brings, don't count.
+/// Returns 0 if the document can't be read. Warnings, as for a repaired document, are ignored.
 std::size_t pdfPages(const std::string& document) {
   const Pdf pdf(qpdf_init());
   qpdf_set_suppress_warnings(pdf.get(), QPDF_TRUE);
@@ -85,25 +85,25 @@ std::size_t pdfPages(const std::string& document) {
   return static_cast<std::size_t>(std::max(pages, 0));
 }
 
-int tellPages(std::size_t pages) {
-  if (pages == 0) return noAnswer;
+int printPageCount(std::size_t pages) {
+  if (pages == 0) return failure;
   std::printf("%zu\n", pages);
-  return answered;
+  return success;
 }
 
-int answer(std::string_view kind) {
-  if (kind == "tiff") return tellPages(tiffPages(readDocument()));
-  if (kind == "pdf") return tellPages(pdfPages(readDocument()));
-  return notUnderstood;
+int run(std::string_view format) {
+  if (format == "tiff") return printPageCount(tiffPages(readDocument()));
+  if (format == "pdf") return printPageCount(pdfPages(readDocument()));
+  return wrongUsage;
 }
 
 }  // namespace
 
 int main(int argc, char** argv) {
-  parlexo::confineHelper(mostMemory, mostSeconds);
+  parlexo::sandboxProcess(maxMemory, maxSeconds);
   try {
-    return argc == 2 ? answer(argv[1]) : notUnderstood;
+    return argc == 2 ? run(argv[1]) : wrongUsage;
   } catch (const std::exception&) {
-    return noAnswer;
+    return failure;
   }
 }

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The program parlexo-proxy-finder: answers the questions about proxies that may block or run foreign code,
-// so that the client can kill it whenever it likes. The answer goes to the standard output, a line each:
-//   setting ADDRESS            the proxies that libproxy names for the address, first the best
-//   detect                     the address of the network's configuration script
-//   script FILE ADDRESS HOST   what the configuration script in FILE answers
-// Exit code 0 with an answer, 1 without one, 2 when the question is not understood.
+// The program parlexo-proxy-finder: runs the proxy queries that may block or execute untrusted scripts, so
+// that the client can kill them. Prints the results on standard output, one per line:
+//   parlexo-proxy-finder setting ADDRESS            the proxies that libproxy returns for ADDRESS, best first
+//   parlexo-proxy-finder detect                     the address of the network's configuration script
+//   parlexo-proxy-finder script FILE ADDRESS HOST   the result of the configuration script in FILE
+// Exit code 0 with a result, 1 without one, 2 for wrong usage.
 
 #include <netdb.h>
 #include <pacparser.h>
@@ -24,32 +24,32 @@
 
 namespace {
 
-constexpr int answered = 0;
-constexpr int noAnswer = 1;
-constexpr int notUnderstood = 2;
+constexpr int success = 0;
+constexpr int noResult = 1;
+constexpr int wrongUsage = 2;
 
-constexpr std::size_t longestAnswer = 4096;
+constexpr std::size_t maxLineLength = 4096;
 constexpr std::size_t scriptMemory = 256u << 20;  // bytes
 
-void print(std::string_view answer) {
-  answer = answer.substr(0, longestAnswer);
-  std::printf("%.*s\n", static_cast<int>(answer.size()), answer.data());
+void print(std::string_view line) {
+  line = line.substr(0, maxLineLength);
+  std::printf("%.*s\n", static_cast<int>(line.size()), line.data());
 }
 
-int tellSetting(const char* address) {
+int printConfiguredProxies(const char* address) {
   const std::unique_ptr<pxProxyFactory, void (*)(pxProxyFactory*)> factory(px_proxy_factory_new(),
                                                                            px_proxy_factory_free);
-  if (!factory) return noAnswer;
+  if (!factory) return noResult;
   char** proxies = px_proxy_factory_get_proxies(factory.get(), address);
-  if (!proxies) return noAnswer;
+  if (!proxies) return noResult;
   for (char** proxy = proxies; *proxy; ++proxy) print(*proxy);
   px_proxy_factory_free_proxies(proxies);
-  return answered;
+  return success;
 }
 
-/// The script's address where the environment names one in libproxy's manner. libproxy itself only answers
-/// with what a script said, and without an engine of its own says "direct".
-std::string scriptOfEnvironment() {
+/// Returns the address of the script in the environment, in libproxy's syntax; empty if there is none.
+/// libproxy only returns the result of a script, and always "direct" if it was built without a script engine.
+std::string environmentScript() {
   constexpr std::string_view prefix = "pac+";
   for (const char* name : {"http_proxy", "HTTP_PROXY"}) {
     const char* value = std::getenv(name);
@@ -58,55 +58,54 @@ std::string scriptOfEnvironment() {
   return {};
 }
 
-/// The resolver's search list puts the local domains behind the bare name.
+/// The resolver's search list appends the local domains to the bare name.
 bool networkHasScriptHost() {
-  addrinfo wanted{};
-  wanted.ai_socktype = SOCK_STREAM;
-  addrinfo* found = nullptr;
-  if (getaddrinfo("wpad", "80", &wanted, &found) != 0) return false;
-  freeaddrinfo(found);
+  addrinfo hints{};
+  hints.ai_socktype = SOCK_STREAM;
+  addrinfo* addresses = nullptr;
+  if (getaddrinfo("wpad", "80", &hints, &addresses) != 0) return false;
+  freeaddrinfo(addresses);
   return true;
 }
 
-int tellScriptAddress() {
-  if (const std::string address = scriptOfEnvironment(); !address.empty()) {
+int printScriptAddress() {
+  if (const std::string address = environmentScript(); !address.empty()) {
     print(address);
   } else if (networkHasScriptHost()) {
     print("http://wpad/wpad.dat");
   } else {
-    return noAnswer;
+    return noResult;
   }
-  return answered;
+  return success;
 }
 
-int dropMessage(const char* /*format*/, std::va_list /*values*/) {
+int ignoreMessage(const char* /*format*/, std::va_list /*arguments*/) {
   return 0;
 }
 
-int tellScriptAnswer(const char* file, const char* address, const char* host) {
-  // The script comes from the network: it may use the processor, memory and little else.
-  parlexo::confineHelper(scriptMemory, parlexo::timeouts::proxyScriptRun.count());
-  pacparser_set_error_printer(dropMessage);
-  if (!pacparser_init() || !pacparser_parse_pac_file(file)) return noAnswer;
-  const char* answer = pacparser_find_proxy(address, host);
-  if (!answer) return noAnswer;
-  print(answer);
-  return answered;
+int printScriptResult(const char* file, const char* address, const char* host) {
+  parlexo::sandboxProcess(scriptMemory, parlexo::timeouts::proxyScriptRun.count());
+  pacparser_set_error_printer(ignoreMessage);
+  if (!pacparser_init() || !pacparser_parse_pac_file(file)) return noResult;
+  const char* proxy = pacparser_find_proxy(address, host);
+  if (!proxy) return noResult;
+  print(proxy);
+  return success;
 }
 
-int answer(int argc, char** argv) {
-  const std::vector<std::string_view> words(argv + 1, argv + argc);
-  if (words.size() == 2 && words[0] == "setting") return tellSetting(argv[2]);
-  if (words.size() == 1 && words[0] == "detect") return tellScriptAddress();
-  if (words.size() == 4 && words[0] == "script") return tellScriptAnswer(argv[2], argv[3], argv[4]);
-  return notUnderstood;
+int run(int argc, char** argv) {
+  const std::vector<std::string_view> arguments(argv + 1, argv + argc);
+  if (arguments.size() == 2 && arguments[0] == "setting") return printConfiguredProxies(argv[2]);
+  if (arguments.size() == 1 && arguments[0] == "detect") return printScriptAddress();
+  if (arguments.size() == 4 && arguments[0] == "script") return printScriptResult(argv[2], argv[3], argv[4]);
+  return wrongUsage;
 }
 
 }  // namespace
 
 int main(int argc, char** argv) {
-  const int result = answer(argc, argv);
+  const int result = run(argc, argv);
   std::fflush(stdout);
-  // Past the libraries' own endings: the script engine need not be taken apart with a script's objects in it.
+  // Skips the libraries' clean-up, which would destroy the script engine while objects of the script exist.
   std::_Exit(result);
 }

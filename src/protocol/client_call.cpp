@@ -13,9 +13,11 @@ namespace {
 
 constexpr char defaultEndpoint[] = "http://" PARLEXO_SERVICE_HOST ":8080/ccx/onlineCommunication";
 constexpr char actionPrefix[] = "capeconnect:onlineCommunication:onlineCommunicationPortType#";
-/// The nesting level of the body's children: a mismatch there means that another element stands in the
-/// place of the response.
+/// The nesting level of the body's children. A tag mismatch there means that the response element is missing
+/// and another one, such as a fault, is in its place.
 constexpr unsigned bodyLevel = 2;
+/// The result of a call without a context.
+constexpr int noContext = 16;
 
 int sendRequest(::soap& context, const SoapCall& call) {
   const std::string element = requestElement(call.operation);
@@ -35,8 +37,8 @@ int sendRequest(::soap& context, const SoapCall& call) {
   return SOAP_OK;
 }
 
-/// The runtime reads a well-formed envelope whatever the HTTP status was.
-int httpVerdict(const ::soap& context) {
+/// The runtime reads a well-formed envelope regardless of the HTTP status.
+int httpResult(const ::soap& context) {
   const bool isError = context.status >= 300 && context.status < 600;
   return isError ? context.status : SOAP_OK;
 }
@@ -45,17 +47,17 @@ bool isFault(int result) {
   return result == SOAP_CLI_FAULT || result == SOAP_SVR_FAULT || result == SOAP_FAULT;
 }
 
-/// An error that the gateway reports is an answer. One that a proxy reports for it (502, 504) is none, nor is
-/// a reply that breaks off or can't be read.
-bool tellsTheOutcome(const ::soap& context, int result) {
-  const bool isProxysError = context.status == 502 || context.status == 504;
-  return result == SOAP_OK || isFault(result) || (httpVerdict(context) != SOAP_OK && !isProxysError);
+/// An error reported by the gateway is an outcome. An error reported by a proxy on its behalf (502, 504) is
+/// not, nor is a truncated or unreadable reply.
+bool isOutcomeKnown(const ::soap& context, int result) {
+  const bool isProxyError = context.status == 502 || context.status == 504;
+  return result == SOAP_OK || isFault(result) || (httpResult(context) != SOAP_OK && !isProxyError);
 }
 
 int receiveResponse(::soap& context, const SoapCall& call) {
   if (readToBody(context)) return context.error;
   if (readRecord(context, responseElement(call.operation), call.response) == SOAP_OK) {
-    return httpVerdict(context);
+    return httpResult(context);
   }
   if (context.error == SOAP_TAG_MISMATCH && context.level == bodyLevel) soap_recv_fault(&context, 0);
   return context.error;
@@ -64,13 +66,14 @@ int receiveResponse(::soap& context, const SoapCall& call) {
 }  // namespace
 
 int runSoapCall(::soap* context, const SoapCall& call) {
+  if (!context) return noContext;
   int result = sendRequest(*context, call);
   if (result == SOAP_OK) {
     if (call.outcomeUnknown) *call.outcomeUnknown = true;
     result = receiveResponse(*context, call);
-    if (call.outcomeUnknown) *call.outcomeUnknown = !tellsTheOutcome(*context, result);
+    if (call.outcomeUnknown) *call.outcomeUnknown = !isOutcomeKnown(*context, result);
   }
-  // Closing may report an error of its own; the first one is the one that tells.
+  // Ignores an error on closing: the result of the call is more useful.
   soap_closesock(context);
   return result;
 }

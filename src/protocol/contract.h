@@ -10,8 +10,8 @@
 
 namespace parlexo::protocol {
 
-/// One operation of the gateway: its name on the wire, its two records and their fields in wire order.
-/// The request element has the operation's name, the response element that name and "Response".
+/// An operation of the gateway: its name on the wire, its two records and their fields in wire order. The
+/// request element has the operation's name, the response element that name with "Response" appended.
 template <class RequestRecord, class ResponseRecord, class RequestFields, class ResponseFields>
 struct Operation {
   using Request = RequestRecord;
@@ -30,10 +30,10 @@ constexpr auto operation(std::string_view name, RequestFields request, ResponseF
   return Operation<Request, Response, RequestFields, ResponseFields>{name, request, response};
 }
 
-/// The contract with the gateway, in the order of its own definition; the only place that names a field of
-/// the wire. Field names, their order and their spelling are the service's, irregularities included: a
-/// schedule puts its time before the session, some answers begin with their code, and editEmailMessaging
-/// has a name and a place of its own for the double-line flag.
+/// The contract with the gateway, in the order in which the service defines it. This is the only place that
+/// names the fields of the wire. Names, order and spelling are the service's, irregularities included: the
+/// schedule has its time before the session, some responses start with their code, and editEmailMessaging has
+/// another name and position for the double-line flag.
 // clang-format off
 inline constexpr std::tuple operations{
     operation<sessionStart, sessionStartResponse>(
@@ -202,7 +202,7 @@ inline constexpr std::tuple operations{
         [](auto& a) { return Fields{{"nErrorCode", a.nErrorCode}}; })};
 // clang-format on
 
-/// The operation that has `Record` as its request or its response.
+/// The operation whose request or response is `Record`.
 template <class Record, std::size_t I = 0>
 constexpr const auto& operationWith() {
   using Candidate = std::tuple_element_t<I, std::remove_const_t<decltype(operations)>>;
@@ -214,8 +214,8 @@ constexpr const auto& operationWith() {
   }
 }
 
-/// Calls `visitor(operation)` for the operation called `name`; its nested types Request and Response tell
-/// which one it is. Returns false, and calls nothing, when there is none of that name.
+/// Calls `visitor(operation)` for the operation named `name`; its nested types Request and Response identify
+/// it. Returns false if there is no such operation.
 template <class Visitor>
 bool visitOperation(std::string_view name, Visitor&& visitor) {
   return std::apply(

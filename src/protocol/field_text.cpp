@@ -22,7 +22,7 @@ std::string_view trimmed(std::string_view text) {
 
 template <class Number>
 std::optional<Number> numberFromText(std::string_view text) {
-  // Unlike XML, from_chars knows no leading plus sign.
+  // Unlike XML, from_chars rejects a leading plus sign.
   if (text.starts_with('+') && !text.starts_with("+-")) text.remove_prefix(1);
   Number value{};
   const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
@@ -30,7 +30,7 @@ std::optional<Number> numberFromText(std::string_view text) {
   return value;
 }
 
-/// The six bits that a base64 digit stands for, or -1.
+/// The value of a base64 digit, or -1 if it is none.
 int sextet(char digit) {
   if (digit >= 'A' && digit <= 'Z') return digit - 'A';
   if (digit >= 'a' && digit <= 'z') return digit - 'a' + 26;
@@ -72,7 +72,7 @@ std::optional<double> realFromText(std::string_view text) {
   if (word == "NaN") return std::numeric_limits<double>::quiet_NaN();
   if (word == "INF") return std::numeric_limits<double>::infinity();
   if (word == "-INF") return -std::numeric_limits<double>::infinity();
-  // from_chars takes other spellings of these words, XML does not.
+  // from_chars accepts other spellings of these words, XML does not.
   if (word.find_first_not_of("0123456789+-.eE") != std::string_view::npos) return std::nullopt;
   return numberFromText<double>(word);
 }

@@ -8,27 +8,26 @@
 
 namespace parlexo::protocol {
 
-/// Values of fields as the text that stands in XML. The process's locale has no say in it: a decimal comma
-/// on the wire would be read as another number.
+/// Conversion of field values to and from their XML text, independent of the locale: a decimal comma on the
+/// wire would be misread.
 
 [[nodiscard]] std::string toText(std::int32_t value);
-/// The shortest text that reads back as the same number.
+/// The shortest text that converts back to the same number.
 [[nodiscard]] std::string toText(double value);
 [[nodiscard]] std::string toText(bool value);
 
-/// The value, or nothing when the text is not one of that type. Blanks around it don't matter.
+/// Leading and trailing blanks are ignored. nullopt if the text is not a value of that type.
 [[nodiscard]] std::optional<std::int32_t> integerFromText(std::string_view text);
 [[nodiscard]] std::optional<double> realFromText(std::string_view text);
-/// "true" and "false", or "1" and "0".
+/// Accepts "true", "false", "1" and "0".
 [[nodiscard]] std::optional<bool> booleanFromText(std::string_view text);
-/// Blanks anywhere are passed over; nothing when another character is no base64 or the length is wrong.
+/// Blanks anywhere are ignored. nullopt if another character is not base64 or the length is wrong.
 [[nodiscard]] std::optional<std::string> fromBase64(std::string_view text);
 
-/// Whether `text` has bytes that no XML document may hold.
+/// Whether `text` contains bytes that XML forbids.
 [[nodiscard]] bool hasForbiddenCharacters(std::string_view text);
 
-/// `text` with "?" for every byte that no XML document may hold: the control characters but tab and the two
-/// of line ends.
+/// Replaces every byte that XML forbids, a control character except tab, LF and CR, by "?".
 [[nodiscard]] std::string withoutForbiddenCharacters(std::string text);
 
 }  // namespace parlexo::protocol

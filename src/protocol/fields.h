@@ -9,29 +9,31 @@
 
 namespace parlexo::protocol {
 
-/// The kinds of member that a record has; each stands for one XML type.
+/// The member types of records, each with its XML type.
 enum class FieldType {
-  Text,          ///< std::string: xsd:string that the record owns
-  BorrowedText,  ///< const char*: xsd:string that someone else owns, null when absent
+  Text,          ///< std::string or SecretText: xsd:string, owned by the record
+  BorrowedText,  ///< const char*: xsd:string, not owned, null if absent
   Integer,       ///< std::int32_t: xsd:int
   Real,          ///< double: xsd:double
-  Boolean,       ///< bool: xsd:boolean
+  Boolean,       ///< bool or Flag: xsd:boolean
   Binary,        ///< BinaryData: xsd:base64Binary
 };
 
-/// One field of one record in hand: its name on the wire and where its value lies. The type follows from the
-/// member.
+/// A field of a particular record: its name on the wire and a pointer to the member, which must outlive it.
 struct Field {
   Field(const char* wireName, std::string& member) : Field(wireName, FieldType::Text, &member) {}
+  Field(const char* wireName, SecretText& member) : Field(wireName, member.text) {}
   Field(const char* wireName, const char*& member) : Field(wireName, FieldType::BorrowedText, &member) {}
   Field(const char* wireName, std::int32_t& member) : Field(wireName, FieldType::Integer, &member) {}
   Field(const char* wireName, double& member) : Field(wireName, FieldType::Real, &member) {}
   Field(const char* wireName, bool& member) : Field(wireName, FieldType::Boolean, &member) {}
+  template <class Tag>
+  Field(const char* wireName, Flag<Tag>& member) : Field(wireName, member.value) {}
   Field(const char* wireName, BinaryData& member) : Field(wireName, FieldType::Binary, &member) {}
 
   const char* name;
   FieldType type;
-  void* value;  ///< points to the type that `type` names
+  void* value;  ///< points to a value of type `type`
 
  private:
   Field(const char* wireName, FieldType fieldType, void* member)

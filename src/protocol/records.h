@@ -1,32 +1,95 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 
 namespace parlexo::protocol {
 
-/// What travels between client and gateway: for every operation a request record, named after the operation,
-/// and a response record. Members have the names and the order of the wire, where the first letter tells the
-/// type, so the misspellings are the service's own. The text of a request is bytes, one character each; that
-/// of a response is UTF-8.
+/// What travels between client and gateway: a request and a response record for each operation. The names of
+/// the records and their members are those of the wire, misspellings included; the first letter of a member
+/// gives its type. Text in requests is encoded in the code page, one character per byte; text in responses is
+/// UTF-8. Operations whose records have the same members share a template, whose parameter only makes each
+/// record a distinct type.
 
-/// A file's content. The bytes are not owned: in a request to send they are the caller's, in a received one
-/// the reader's.
+/// The content of a file. Does not own the bytes: the caller owns those of a request that is sent, the reader
+/// those of a request that was received.
 struct BinaryData {
   const unsigned char* data = nullptr;
   std::int32_t length = 0;  ///< bytes
 };
 
+/// A password in a request. Overwrites its memory before it is destroyed or assigned.
+class SecretText {
+ public:
+  SecretText() = default;
+  SecretText(const std::string& password) : text(password) {}
+  SecretText(const SecretText&) = default;
+  SecretText& operator=(const SecretText& other) {
+    if (this != &other) {
+      wipe();
+      text = other.text;
+    }
+    return *this;
+  }
+  ~SecretText() { wipe(); }
+
+  operator const std::string&() const { return text; }
+
+  std::string text;
+
+ private:
+  void wipe() {
+    volatile char* const characters = text.data();
+    for (std::size_t i = 0; i < text.size(); ++i) characters[i] = '\0';
+  }
+};
+
+/// A boolean with a distinct type. Two operations have the flags below in opposite order; distinct types
+/// turn a swap into a compile error.
+template <class Tag>
+class Flag {
+ public:
+  Flag() = default;
+  explicit Flag(bool isSet) : value(isSet) {}
+  operator bool() const { return value; }
+
+  bool value = false;
+};
+using StopsAtEndKeyword = Flag<struct StopsAtEndKeywordTag>;
+using StopsAtDoubleLine = Flag<struct StopsAtDoubleLineTag>;
+
 // Requests.
+
+template <class Tag>
+struct EmptyRequest {};
+using getVersion = EmptyRequest<struct getVersionTag>;
+using getNews = EmptyRequest<struct getNewsTag>;
+
+template <class Tag>
+struct SessionRequest {
+  std::string sSession;
+};
+using sessionEnd = SessionRequest<struct sessionEndTag>;
+using getAccountBalance = SessionRequest<struct getAccountBalanceTag>;
+using scheduleMessageDisable = SessionRequest<struct scheduleMessageDisableTag>;
+using getAccountHistory = SessionRequest<struct getAccountHistoryTag>;
+using getEmailMessaging = SessionRequest<struct getEmailMessagingTag>;
+using partnerEndSessionForSubUser = SessionRequest<struct partnerEndSessionForSubUserTag>;
+
+template <class Tag>
+struct UserRequest {
+  std::string sSession;
+  std::string sUser;
+  std::string sEmail;
+};
+using partnerAddUser = UserRequest<struct partnerAddUserTag>;
+using partnerEditUser = UserRequest<struct partnerEditUserTag>;
 
 struct sessionStart {
   std::string sUser;
-  std::string sPassword;
-};
-
-struct sessionEnd {
-  std::string sSession;
+  SecretText sPassword;
 };
 
 struct sendSms {
@@ -35,8 +98,6 @@ struct sendSms {
   bool bFlash = false;
   std::string sListPhoneNumbers;
 };
-
-struct getVersion {};
 
 struct sendMms {
   std::string sSession;
@@ -72,10 +133,6 @@ struct sendVoice_File {
   std::string sListPhoneNumbers;
 };
 
-struct getAccountBalance {
-  std::string sSession;
-};
-
 struct getStatus {
   std::string sSession;
   std::string sReciept;
@@ -94,26 +151,10 @@ struct scheduleMessageEnable {
   std::string sSession;
 };
 
-struct scheduleMessageDisable {
-  std::string sSession;
-};
-
-struct getNews {};
-
-struct getAccountHistory {
-  std::string sSession;
-};
-
 struct setAccountPassword {
   std::string sSession;
-  std::string sOldPassword;
-  std::string sNewPassword;
-};
-
-struct partnerAddUser {
-  std::string sSession;
-  std::string sUser;
-  std::string sEmail;
+  SecretText sOldPassword;
+  SecretText sNewPassword;
 };
 
 struct partnerAddEvent {
@@ -142,12 +183,6 @@ struct partnerGetCostByPhoneNumber {
   std::string sServiceType;
 };
 
-struct partnerEditUser {
-  std::string sSession;
-  std::string sUser;
-  std::string sEmail;
-};
-
 struct partnerEditEmailMessaging {
   std::string sSession;
   std::string sUser;
@@ -158,17 +193,13 @@ struct partnerEditEmailMessaging {
   std::string sEmailFilter2;
   std::string sEmailFilter3;
   bool bEmailSmsSplit = false;
-  bool bEmailEndDoubleLine = false;
-  bool bEmailEndStop = false;
+  StopsAtDoubleLine bEmailEndDoubleLine;
+  StopsAtEndKeyword bEmailEndStop;
 };
 
 struct partnerGetEmailMessaging {
   std::string sSession;
   std::string sUser;
-};
-
-struct getEmailMessaging {
-  std::string sSession;
 };
 
 struct editEmailMessaging {
@@ -180,18 +211,14 @@ struct editEmailMessaging {
   std::string sEmailFilter2;
   std::string sEmailFilter3;
   bool bEmailSmsSplit = false;
-  bool bEmailEndStop = false;
-  bool bEmailDoubleLine = false;
+  StopsAtEndKeyword bEmailEndStop;
+  StopsAtDoubleLine bEmailDoubleLine;
 };
 
 struct partnerStartSessionForSubUser {
   std::string sUser;
-  std::string sPassword;
+  SecretText sPassword;
   std::string sSubUser;
-};
-
-struct partnerEndSessionForSubUser {
-  std::string sSession;
 };
 
 struct setSmsSenderId {
@@ -199,45 +226,63 @@ struct setSmsSenderId {
   std::string sSenderId;
 };
 
-// Responses. Their strings belong to the context that received them and are null where the field was
-// absent or nil.
+// Responses. The context that received them owns their strings, which are null where the field was absent or
+// nil.
 
-struct sessionStartResponse {
+template <class Request>
+struct CodeResponse {
+  std::int32_t nErrorCode = 0;
+};
+using sessionEndResponse = CodeResponse<sessionEnd>;
+using scheduleMessageEnableResponse = CodeResponse<scheduleMessageEnable>;
+using scheduleMessageDisableResponse = CodeResponse<scheduleMessageDisable>;
+using setAccountPasswordResponse = CodeResponse<setAccountPassword>;
+using partnerAddUserResponse = CodeResponse<partnerAddUser>;
+using partnerAddEventResponse = CodeResponse<partnerAddEvent>;
+using partnerEditUserResponse = CodeResponse<partnerEditUser>;
+using partnerEditEmailMessagingResponse = CodeResponse<partnerEditEmailMessaging>;
+using editEmailMessagingResponse = CodeResponse<editEmailMessaging>;
+using partnerEndSessionForSubUserResponse = CodeResponse<partnerEndSessionForSubUser>;
+using setSmsSenderIdResponse = CodeResponse<setSmsSenderId>;
+
+template <class Request>
+struct SessionResponse {
   const char* sSession = nullptr;
   std::int32_t nErrorCode = 0;
 };
+using sessionStartResponse = SessionResponse<sessionStart>;
+using partnerStartSessionForSubUserResponse = SessionResponse<partnerStartSessionForSubUser>;
 
-struct sessionEndResponse {
-  std::int32_t nErrorCode = 0;
-};
-
-struct sendSmsResponse {
+template <class Request>
+struct ReceiptsResponse {
   const char* sListReciepts = nullptr;
   std::int32_t nErrorCode = 0;
 };
+using sendSmsResponse = ReceiptsResponse<sendSms>;
+using sendMmsResponse = ReceiptsResponse<sendMms>;
+using sendFaxResponse = ReceiptsResponse<sendFax>;
+using sendVoice_TextResponse = ReceiptsResponse<sendVoice_Text>;
+using sendVoice_FileResponse = ReceiptsResponse<sendVoice_File>;
+using sendWapResponse = ReceiptsResponse<sendWap>;
+
+template <class Request>
+struct EmailMessagingResponse {
+  bool bEmailEnable = false;
+  const char* sEmailCode = nullptr;
+  bool bEmailFilter = false;
+  const char* sEmailFilter1 = nullptr;
+  const char* sEmailFilter2 = nullptr;
+  const char* sEmailFilter3 = nullptr;
+  bool bEmailSmsSplit = false;
+  bool bEmailEndDoubleLine = false;
+  bool bEmailEndStop = false;
+  std::int32_t nErrorCode = 0;
+};
+using partnerGetEmailMessagingResponse = EmailMessagingResponse<partnerGetEmailMessaging>;
+using getEmailMessagingResponse = EmailMessagingResponse<getEmailMessaging>;
 
 struct getVersionResponse {
   std::int32_t nVersion = 0;
-};
-
-struct sendMmsResponse {
-  const char* sListReciepts = nullptr;
-  std::int32_t nErrorCode = 0;
-};
-
-struct sendFaxResponse {
-  const char* sListReciepts = nullptr;
-  std::int32_t nErrorCode = 0;
-};
-
-struct sendVoice_TextResponse {
-  std::int32_t nErrorCode = 0;
-  const char* sListReciepts = nullptr;
-};
-
-struct sendVoice_FileResponse {
-  const char* sListReciepts = nullptr;
-  std::int32_t nErrorCode = 0;
 };
 
 struct getAccountBalanceResponse {
@@ -250,19 +295,6 @@ struct getStatusResponse {
   const char* sStatus = nullptr;
 };
 
-struct sendWapResponse {
-  const char* sListReciepts = nullptr;
-  std::int32_t nErrorCode = 0;
-};
-
-struct scheduleMessageEnableResponse {
-  std::int32_t nErrorCode = 0;
-};
-
-struct scheduleMessageDisableResponse {
-  std::int32_t nErrorCode = 0;
-};
-
 struct getNewsResponse {
   const char* sNews = nullptr;
   std::int32_t nErrorCode = 0;
@@ -270,18 +302,6 @@ struct getNewsResponse {
 
 struct getAccountHistoryResponse {
   const char* sXmlAccountHistory = nullptr;
-  std::int32_t nErrorCode = 0;
-};
-
-struct setAccountPasswordResponse {
-  std::int32_t nErrorCode = 0;
-};
-
-struct partnerAddUserResponse {
-  std::int32_t nErrorCode = 0;
-};
-
-struct partnerAddEventResponse {
   std::int32_t nErrorCode = 0;
 };
 
@@ -302,57 +322,6 @@ struct partnerGetCostByPhoneNumberResponse {
   double dCostResellerPerHalfMin = 0;
   const char* sCountry = nullptr;
   const char* sNetworks = nullptr;
-};
-
-struct partnerEditUserResponse {
-  std::int32_t nErrorCode = 0;
-};
-
-struct partnerEditEmailMessagingResponse {
-  std::int32_t nErrorCode = 0;
-};
-
-struct partnerGetEmailMessagingResponse {
-  bool bEmailEnable = false;
-  const char* sEmailCode = nullptr;
-  bool bEmailFilter = false;
-  const char* sEmailFilter1 = nullptr;
-  const char* sEmailFilter2 = nullptr;
-  const char* sEmailFilter3 = nullptr;
-  bool bEmailSmsSplit = false;
-  bool bEmailEndDoubleLine = false;
-  bool bEmailEndStop = false;
-  std::int32_t nErrorCode = 0;
-};
-
-struct getEmailMessagingResponse {
-  bool bEmailEnable = false;
-  const char* sEmailCode = nullptr;
-  bool bEmailFilter = false;
-  const char* sEmailFilter1 = nullptr;
-  const char* sEmailFilter2 = nullptr;
-  const char* sEmailFilter3 = nullptr;
-  bool bEmailSmsSplit = false;
-  bool bEmailEndDoubleLine = false;
-  bool bEmailEndStop = false;
-  std::int32_t nErrorCode = 0;
-};
-
-struct editEmailMessagingResponse {
-  std::int32_t nErrorCode = 0;
-};
-
-struct partnerStartSessionForSubUserResponse {
-  const char* sSession = nullptr;
-  std::int32_t nErrorCode = 0;
-};
-
-struct partnerEndSessionForSubUserResponse {
-  std::int32_t nErrorCode = 0;
-};
-
-struct setSmsSenderIdResponse {
-  std::int32_t nErrorCode = 0;
 };
 
 }  // namespace parlexo::protocol

@@ -3,7 +3,7 @@
 
 namespace parlexo::protocol {
 
-const char* meaningOf(ResultCode code) {
+const char* describe(ResultCode code) {
   switch (code) {
     case ResultCode::Success:
       return "success";
@@ -24,7 +24,7 @@ const char* meaningOf(ResultCode code) {
     case ResultCode::BadFile:
       return "the file is empty, has no name or is larger than its limit";
     case ResultCode::BadSchedule:
-      return "the schedule is not YYYY/MM/DD hh:mm:ss or lies too far ahead";
+      return "the schedule is not YYYY/MM/DD hh:mm:ss or too far ahead";
     case ResultCode::UnknownReceipt:
       return "this account has no message with that receipt";
     case ResultCode::WeakPassword:

@@ -5,8 +5,8 @@
 
 namespace parlexo::protocol {
 
-/// What the gateway returns in `nErrorCode`. The client gives Success, BadEmailSettings, WrongCredentials and
-/// SessionExpired a meaning of their own; it shows any other code to the user as a number.
+/// The values of `nErrorCode`. The client handles Success, BadEmailSettings, WrongCredentials and
+/// SessionExpired; it shows any other code to the user as a number.
 enum class ResultCode : std::int32_t {
   Success = 0,
   InternalError = 1,
@@ -30,12 +30,13 @@ enum class ResultCode : std::int32_t {
   return static_cast<std::int32_t>(code);
 }
 
-/// Compares a number from the wire, which may be none of the codes above.
+/// Compares a number from the wire, which need not be one of the codes above.
 [[nodiscard]] constexpr bool operator==(std::int32_t number, ResultCode code) {
   return number == toNumber(code);
 }
 
-/// One line of help for a code, without a full stop.
-[[nodiscard]] const char* meaningOf(ResultCode code);
+/// A one-line description for the simulator's help and log, without a full stop. "unknown" for a value
+/// outside the enumeration.
+[[nodiscard]] const char* describe(ResultCode code);
 
 }  // namespace parlexo::protocol

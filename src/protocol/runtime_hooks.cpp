@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// What the runtime expects of a program that does not use its code generator: the namespace table, and hooks
-// for headers, faults and referenced elements. Their names, and the namespace they stand in, are the
-// runtime's.
+// The symbols that the runtime requires of a program that does not use its code generator: the namespace
+// table, and hooks for headers, faults and referenced elements. Their names are given by the runtime.
 
 #include <stdsoap2.h>
 
@@ -15,7 +14,7 @@ struct Namespace namespaces[] = {
     {"ns3", "http://www.parlexo.example/onlineCommunication/binding", nullptr, nullptr},
     {nullptr, nullptr, nullptr, nullptr}};
 
-/// A fault in its SOAP 1.1 and its SOAP 1.2 form; what was absent is null. The texts are the context's.
+/// A fault in its SOAP 1.1 and SOAP 1.2 forms; missing parts are null. The context owns the strings.
 struct SOAP_ENV__Fault {
   char* faultcode;
   char* faultstring;
@@ -59,13 +58,13 @@ int readReason(::soap& context, SOAP_ENV__Fault& fault) {
   });
 }
 
-/// Details are markup of whatever kind; they are kept as they stand.
+/// Reads the detail of a fault, which may be any markup, without parsing it.
 int readMarkup(::soap& context, const char* tag, char** markup) {
   return soap_inliteral(&context, tag, markup) ? SOAP_OK : context.error;
 }
 
-/// Codes are read as they stand and not as qualified names: the runtime would put its own prefix in the place
-/// of the sender's and then fail to recognise the code.
+/// Codes are read as plain text. Read as qualified names, the sender's prefix would be replaced by the
+/// runtime's own, and the runtime would then not recognise the code.
 int readFaultPart(::soap& context, SOAP_ENV__Fault& fault) {
   if (isAt(context, "faultcode")) return readText(context, "faultcode", &fault.faultcode);
   if (isAt(context, "faultstring")) return readText(context, "faultstring", &fault.faultstring);
@@ -79,14 +78,15 @@ int readFaultPart(::soap& context, SOAP_ENV__Fault& fault) {
   return skipElement(context);
 }
 
-SOAP_ENV__Fault& faultOf(::soap* context) {
+/// Creates the fault if there is none.
+SOAP_ENV__Fault& ensureFault(::soap* context) {
   soap_fault(context);
   return *context->fault;
 }
 
-/// The part of the context's fault that its SOAP version uses; the runtime reads it and may set it.
-const char** inForm(::soap* context, char* SOAP_ENV__Fault::*soap11, char* SOAP_ENV__Fault::*soap12) {
-  SOAP_ENV__Fault& fault = faultOf(context);
+/// The part of the fault that belongs to the context's SOAP version. The runtime reads it and may set it.
+const char** partForVersion(::soap* context, char* SOAP_ENV__Fault::*soap11, char* SOAP_ENV__Fault::*soap12) {
+  SOAP_ENV__Fault& fault = ensureFault(context);
   return const_cast<const char**>(context->version == 2 ? &(fault.*soap12) : &(fault.*soap11));
 }
 
@@ -94,8 +94,8 @@ const char** inForm(::soap* context, char* SOAP_ENV__Fault::*soap11, char* SOAP_
 
 }  // namespace parlexo::protocol
 
-using parlexo::protocol::faultOf;
-using parlexo::protocol::inForm;
+using parlexo::protocol::ensureFault;
+using parlexo::protocol::partForVersion;
 
 void soap_header(struct soap*) {}
 
@@ -105,7 +105,7 @@ int soap_putheader(struct soap*) {
   return SOAP_OK;
 }
 
-/// "Tag mismatch" is how the runtime is told that there was no header.
+/// Returns a tag mismatch if there is no header, as the runtime expects.
 int soap_getheader(struct soap* context) {
   context->part = SOAP_IN_HEADER;
   const int result = parlexo::protocol::readElement(*context, "SOAP-ENV:Header",
@@ -124,32 +124,32 @@ void soap_serializefault(struct soap* context) {
   soap_fault(context);
 }
 
-/// Faults are written as an envelope of their own, never by the runtime.
+/// Not used: writeFaultEnvelope() writes faults.
 int soap_putfault(struct soap*) {
   return SOAP_OK;
 }
 
 int soap_getfault(struct soap* context) {
   context->fault = nullptr;
-  SOAP_ENV__Fault& fault = faultOf(context);
+  SOAP_ENV__Fault& fault = ensureFault(context);
   return parlexo::protocol::readElement(*context, "SOAP-ENV:Fault",
                                         [&] { return parlexo::protocol::readFaultPart(*context, fault); });
 }
 
 const char** soap_faultcode(struct soap* context) {
-  return inForm(context, &SOAP_ENV__Fault::faultcode, &SOAP_ENV__Fault::codeValue);
+  return partForVersion(context, &SOAP_ENV__Fault::faultcode, &SOAP_ENV__Fault::codeValue);
 }
 
 const char** soap_faultsubcode(struct soap* context) {
-  return inForm(context, &SOAP_ENV__Fault::faultcode, &SOAP_ENV__Fault::subcodeValue);
+  return partForVersion(context, &SOAP_ENV__Fault::faultcode, &SOAP_ENV__Fault::subcodeValue);
 }
 
 const char** soap_faultstring(struct soap* context) {
-  return inForm(context, &SOAP_ENV__Fault::faultstring, &SOAP_ENV__Fault::reasonText);
+  return partForVersion(context, &SOAP_ENV__Fault::faultstring, &SOAP_ENV__Fault::reasonText);
 }
 
 const char** soap_faultdetail(struct soap* context) {
-  return inForm(context, &SOAP_ENV__Fault::detail, &SOAP_ENV__Fault::newDetail);
+  return partForVersion(context, &SOAP_ENV__Fault::detail, &SOAP_ENV__Fault::newDetail);
 }
 
 const char* soap_fault_subcode(struct soap* context) {
@@ -166,7 +166,7 @@ const char* soap_fault_detail(struct soap* context) {
 
 extern "C" {
 
-/// Independent elements are read where they are met, with their fields, and never for the runtime.
+/// Not used: the serializer reads referenced elements itself.
 void* soap_getelement(struct soap* context, const char* /*tag*/, int* /*type*/) {
   context->error = SOAP_TAG_MISMATCH;
   return nullptr;

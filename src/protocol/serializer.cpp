@@ -36,7 +36,7 @@ int writeBinary(::soap& context, const char* name, const BinaryData& value) {
 int writeOwnedText(::soap& context, const char* name, const std::string& text) {
   if (hasForbiddenCharacters(text))
     return writeText(context, name, "xsd:string", withoutForbiddenCharacters(text));
-  // Passwords pass here, and their owner wipes them: no copy.
+  // Not copied, because it may be a password, of which only the owner's copy is wiped.
   return writeText(context, name, "xsd:string", text);
 }
 
@@ -76,8 +76,8 @@ int endEnvelope(::soap& context) {
   return SOAP_OK;
 }
 
-/// A field's text as it arrives. Values are taken into the record only when the whole message has been read:
-/// a reference may be resolved as late as that, and half a record must never be seen.
+/// The text of a field as received. Values are assigned to the record only after the whole message has been
+/// read, because a reference may be resolved as late as that.
 struct ReceivedField {
   const Field* field;
   char* text = nullptr;
@@ -85,7 +85,8 @@ struct ReceivedField {
 };
 using ReceivedFields = std::vector<ReceivedField>;
 
-/// Reads the element at hand into the first field of its name that has not come yet; passes over others.
+/// Reads the current element into the first field of that name that is not present yet; skips it if there is
+/// none.
 int readField(::soap& context, ReceivedFields& received) {
   for (ReceivedField& each : received) {
     if (each.isPresent || soap_match_tag(&context, context.tag, each.field->name) != SOAP_OK) continue;
@@ -95,10 +96,10 @@ int readField(::soap& context, ReceivedFields& received) {
   return skipElement(context);
 }
 
-/// Reads what stands in the body behind its first element: the values that references point to.
+/// Reads an element after the first one in the body: a value that a reference points to.
 int readReferencedElement(::soap& context) {
-  const bool isAwaited = *context.id && soap_lookup_type(&context, context.id) == textType;
-  return isAwaited ? readText(context, nullptr, nullptr) : skipElement(context);
+  const bool isReferenced = *context.id && soap_lookup_type(&context, context.id) == textType;
+  return isReferenced ? readText(context, nullptr, nullptr) : skipElement(context);
 }
 
 int readMessage(::soap& context, const std::string& element, ReceivedFields& received) {
@@ -119,21 +120,21 @@ bool assign(void* member, const std::optional<Value>& value) {
 bool readBinary(::soap& context, std::string_view text, BinaryData& value) {
   const auto bytes = fromBase64(text);
   if (!bytes) return false;
-  auto* kept = static_cast<unsigned char*>(soap_malloc(&context, bytes->size() + 1));
-  if (!kept) return false;
-  std::copy(bytes->begin(), bytes->end(), kept);
-  value = {kept, static_cast<std::int32_t>(bytes->size())};
+  auto* copy = static_cast<unsigned char*>(soap_malloc(&context, bytes->size() + 1));
+  if (!copy) return false;
+  std::copy(bytes->begin(), bytes->end(), copy);
+  value = {copy, static_cast<std::int32_t>(bytes->size())};
   return true;
 }
 
-/// The copy belongs to the context; false when there is no memory for it.
+/// The context owns the copy. Returns false if out of memory.
 bool assignBorrowed(::soap& context, void* member, const std::string& text) {
   const char* copy = soap_strdup(&context, text.c_str());
   *static_cast<const char**>(member) = copy;
   return copy != nullptr;
 }
 
-/// Reads a field's text into the record; false when it is not of the field's type.
+/// Converts `text` and assigns it to the field. Returns false if it is not of the field's type.
 bool readValue(::soap& context, const Field& field, const std::string& text) {
   switch (field.type) {
     case FieldType::Text:
@@ -155,13 +156,13 @@ bool readValue(::soap& context, const Field& field, const std::string& text) {
 
 bool readValue(::soap& context, const ReceivedField& received) {
   const Field& field = *received.field;
-  return readsUnicode(context) ? readValue(context, field, textOfContent(received.text))
+  return readsUnicode(context) ? readValue(context, field, decodeContent(received.text))
                                : readValue(context, field, received.text);
 }
 
-/// A reply's numbers may only be absent when its code says that the gateway refused: read as 0, a missing
-/// balance would look like an empty account.
-bool hasItsNumbers(const ReceivedFields& received) {
+/// Numbers other than the code may be missing only if the code reports an error. Read as 0, a missing balance
+/// would look like an empty account.
+bool hasRequiredNumbers(const ReceivedFields& received) {
   const auto lacksCode = [](const ReceivedField& each) {
     return !each.text && each.field->type == FieldType::Integer;
   };
@@ -231,7 +232,7 @@ int readRecord(::soap& context, const std::string& element, const Fields& fields
   for (const ReceivedField& each : received) {
     if (each.text && !readValue(context, each)) return context.error = SOAP_TYPE;
   }
-  return hasItsNumbers(received) ? SOAP_OK : context.error = SOAP_OCCURS;
+  return hasRequiredNumbers(received) ? SOAP_OK : context.error = SOAP_OCCURS;
 }
 
 }  // namespace parlexo::protocol

@@ -14,14 +14,10 @@ namespace parlexo::protocol {
 
 namespace {
 
-struct ContextDeleter {
-  void operator()(::soap* context) const { freeContext(context); }
-};
-
-/// Lets `write` fill one envelope; empty when there is no memory for it.
+/// Returns the envelope that `write` produces; empty if out of memory.
 template <class Write>
-std::string written(Write write) {
-  const std::unique_ptr<::soap, ContextDeleter> context(newStreamContext());
+std::string writeToString(Write write) {
+  const std::unique_ptr<::soap, decltype(&freeContext)> context(newStreamContext(), freeContext);
   if (!context) return {};
   std::ostringstream envelope;
   context->os = &envelope;
@@ -58,11 +54,12 @@ bool RequestReader::readFields(std::string_view operation, const Fields& fields)
 }
 
 std::string responseEnvelope(std::string_view operation, const Fields& fields) {
-  return written([&](::soap& context) { return writeEnvelope(context, responseElement(operation), fields); });
+  return writeToString(
+      [&](::soap& context) { return writeEnvelope(context, responseElement(operation), fields); });
 }
 
 std::string faultEnvelope(std::string_view code, std::string_view text, std::string_view detail) {
-  return written([&](::soap& context) {
+  return writeToString([&](::soap& context) {
     return writeFaultEnvelope(context, std::string(code), std::string(text), std::string(detail));
   });
 }

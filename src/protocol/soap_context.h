@@ -11,35 +11,36 @@ struct soap;
 
 namespace parlexo::protocol {
 
-/// Finds the addresses of a host, in their numeric form and in the order in which they should be tried; empty
-/// when it has none. May block; is called on a separate thread that may outlive the exchange.
+/// Resolves a host name to numeric addresses, in the order in which to try them; empty on failure. May block.
+/// Called on a separate thread that may outlive the call.
 using Resolver = std::function<std::vector<std::string>(const std::string& host)>;
 
-/// How long the input and output of a context may take, and who may end them early.
+/// Time limits and callbacks for the network I/O of a context.
 struct IoPatience {
-  std::chrono::milliseconds connect{};      ///< looking up the name and connecting, all addresses together
-  std::chrono::milliseconds nextAddress{};  ///< how long one address is tried before the next joins it
-  std::chrono::milliseconds silence{};      ///< longest wait for the next byte, sending and receiving
-  /// When the exchange ends at the latest, even in the middle of a transfer.
+  std::chrono::milliseconds connect{};      ///< name lookup and connecting, for all addresses together
+  std::chrono::milliseconds nextAddress{};  ///< how long to try one address before also trying the next
+  std::chrono::milliseconds silence{};      ///< maximum wait for the next byte, sending or receiving
+  /// When the call ends at the latest, even during a transfer.
   std::chrono::steady_clock::time_point deadline = std::chrono::steady_clock::time_point::max();
-  /// Polled every 50 ms while the context waits; true ends the exchange with an error. May be empty.
+  /// Polled every 50 ms during waits; the call fails when it returns true. May be empty.
   std::function<bool()> isCancelled{};
-  /// Called with the number of bytes each time that the system has taken some of the request. May be empty.
+  /// Called with the number of bytes of the request that the system has just accepted. May be empty.
   std::function<void(std::size_t)> onSent{};
-  /// Empty for the system's.
+  /// Empty for the system's resolver.
   Resolver resolve{};
 };
 
-/// A context for one exchange with the gateway: the gateway's namespaces, limits on what a hostile peer may
-/// make it read, and waits that obey `patience`, which must outlive the context. Strings are written one
-/// character per byte and read as UTF-8. Null when there is no memory for it. The caller frees it with
-/// freeContext().
+/// Creates a context for one call to the gateway, with the gateway's namespaces and limits on what a
+/// malicious peer can make it read. Its I/O is subject to `patience`, which must outlive it. Strings are
+/// written one character per byte and read as UTF-8. The caller owns the context and frees it with
+/// freeContext(). Null if out of memory.
 [[nodiscard]] ::soap* newClientContext(const IoPatience& patience);
 
-/// The same without a connection: for envelopes that are read from a stream (`is`) or written to one (`os`).
+/// Creates a context without a connection, for reading envelopes from a stream (`is`) and writing them to one
+/// (`os`).
 [[nodiscard]] ::soap* newStreamContext();
 
-/// Releases what the context has handed out, and the context itself. Null is allowed.
+/// Frees a context and everything allocated in it. No-op for null.
 void freeContext(::soap* context);
 
 }  // namespace parlexo::protocol

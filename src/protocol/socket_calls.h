@@ -10,36 +10,36 @@ namespace parlexo::protocol {
 
 enum class Direction { Sending, Receiving };
 
-// The calls on sockets that every system makes in its own way. Unless they say otherwise they leave the
-// reason of a failure to soap_socket_errno.
+// The socket calls that differ per platform. On failure the error code is in soap_socket_errno.
 
-/// Must be called before a name is looked up; calling it again does nothing.
+/// Initialises the socket library. Call before resolving a name; further calls are no-ops.
 void prepareSockets();
 
-/// A socket for `address` whose calls return at once, or SOAP_INVALID_SOCKET.
+/// Creates a non-blocking socket for `address`. Returns SOAP_INVALID_SOCKET on failure.
 [[nodiscard]] SOAP_SOCKET openSocket(const addrinfo& address);
 
-/// Begins to connect, which has come to its end when the socket is ready for sending. False when it was
-/// refused at once.
+/// Starts to connect; the socket becomes ready for sending when the attempt has ended. Returns false if it
+/// failed immediately.
 [[nodiscard]] bool startConnecting(SOAP_SOCKET socket, const addrinfo& address);
 
-/// Whether connecting, which has come to its end, succeeded.
+/// Whether a connection attempt that has ended was successful.
 [[nodiscard]] bool hasConnected(SOAP_SOCKET socket);
 
-/// Makes pieces of a request go out at once, and keeps what waits unsent in the system small.
+/// Disables Nagle's algorithm and limits how much unsent data the system buffers.
 void tuneForRequests(SOAP_SOCKET socket);
 
-/// Waits until the socket is ready for `direction` or has failed, which the next call on it tells: positive
-/// then, 0 when `patience` has passed before, negative on failure.
+/// Waits up to `patience` until the socket is ready for `direction` or has failed; the next call on it
+/// reports the failure. Returns a positive value then, 0 on timeout, a negative value if waiting failed.
 [[nodiscard]] int waitForSocket(SOAP_SOCKET socket, Direction direction, std::chrono::milliseconds patience);
 
-/// Sends what the system takes of `count` bytes. How many these were, or negative.
+/// Sends up to `count` bytes. Returns the number of bytes sent, or a negative value on failure.
 [[nodiscard]] std::ptrdiff_t sendSome(SOAP_SOCKET socket, const char* bytes, std::size_t count);
 
-/// Receives up to `size` bytes. How many there were, 0 at the end of the stream, or negative.
+/// Receives up to `size` bytes. Returns their number, 0 at the end of the stream, or a negative value on
+/// failure.
 [[nodiscard]] std::ptrdiff_t receiveSome(SOAP_SOCKET socket, char* buffer, std::size_t size);
 
-/// Whether the last call failed only because it would have had to wait.
-[[nodiscard]] bool wouldWait();
+/// Whether the last call failed only because it would have blocked.
+[[nodiscard]] bool wouldBlock();
 
 }  // namespace parlexo::protocol

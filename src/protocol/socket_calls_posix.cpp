@@ -12,9 +12,9 @@ namespace parlexo::protocol {
 
 namespace {
 
-/// What may wait unsent in the system. Its own measure is megabytes: a whole file would be gone at once as
-/// far as anybody can see, and a cancelled one would go on.
-constexpr int unsentBytes = 64 * 1024;
+/// How much unsent data the system buffers, in bytes. With the default of some megabytes a whole file would
+/// count as sent at once, and would still go out after cancelling.
+constexpr int maxUnsentBytes = 64 * 1024;
 
 }  // namespace
 
@@ -37,7 +37,7 @@ bool hasConnected(SOAP_SOCKET socket) {
 void tuneForRequests(SOAP_SOCKET socket) {
   const int on = 1;
   setsockopt(socket, IPPROTO_TCP, TCP_NODELAY, &on, sizeof on);
-  setsockopt(socket, IPPROTO_TCP, TCP_NOTSENT_LOWAT, &unsentBytes, sizeof unsentBytes);
+  setsockopt(socket, IPPROTO_TCP, TCP_NOTSENT_LOWAT, &maxUnsentBytes, sizeof maxUnsentBytes);
 }
 
 int waitForSocket(SOAP_SOCKET socket, Direction direction, std::chrono::milliseconds patience) {
@@ -55,7 +55,7 @@ std::ptrdiff_t receiveSome(SOAP_SOCKET socket, char* buffer, std::size_t size) {
   return ::recv(socket, buffer, size, 0);
 }
 
-bool wouldWait() {
+bool wouldBlock() {
   return errno == EAGAIN || errno == EINTR;
 }
 

@@ -5,17 +5,14 @@ namespace parlexo::protocol {
 
 namespace {
 
-/// What may wait unsent in the system; with more a cancelled file would go on, and its progress would be
-/// ahead of what has gone out.
-constexpr int unsentBytes = 64 * 1024;
+/// The size of the system's send buffer in bytes. With a larger one the progress of a file would run ahead,
+/// and data would still go out after cancelling.
+constexpr int maxUnsentBytes = 64 * 1024;
 
-class Winsock {
- public:
-  Winsock() {
-    WSADATA data;
-    WSAStartup(MAKEWORD(2, 2), &data);
-  }
-};
+int startWinsock() {
+  WSADATA data;
+  return WSAStartup(MAKEWORD(2, 2), &data);
+}
 
 int setOption(SOAP_SOCKET socket, int level, int option, int value) {
   return setsockopt(socket, level, option, reinterpret_cast<const char*>(&value), sizeof value);
@@ -24,7 +21,7 @@ int setOption(SOAP_SOCKET socket, int level, int option, int value) {
 }  // namespace
 
 void prepareSockets() {
-  static const Winsock winsock;
+  [[maybe_unused]] static const int result = startWinsock();
 }
 
 SOAP_SOCKET openSocket(const addrinfo& address) {
@@ -35,7 +32,7 @@ SOAP_SOCKET openSocket(const addrinfo& address) {
 }
 
 bool startConnecting(SOAP_SOCKET socket, const addrinfo& address) {
-  return connect(socket, address.ai_addr, static_cast<int>(address.ai_addrlen)) == 0 || wouldWait();
+  return connect(socket, address.ai_addr, static_cast<int>(address.ai_addrlen)) == 0 || wouldBlock();
 }
 
 bool hasConnected(SOAP_SOCKET socket) {
@@ -46,10 +43,10 @@ bool hasConnected(SOAP_SOCKET socket) {
 
 void tuneForRequests(SOAP_SOCKET socket) {
   setOption(socket, IPPROTO_TCP, TCP_NODELAY, 1);
-  setOption(socket, SOL_SOCKET, SO_SNDBUF, unsentBytes);
+  setOption(socket, SOL_SOCKET, SO_SNDBUF, maxUnsentBytes);
 }
 
-// WSAPoll keeps silent about a refused connection on systems before Windows 10 of 2020; select() tells it.
+// WSAPoll does not report refused connections before Windows 10 version 2004; select() does.
 int waitForSocket(SOAP_SOCKET socket, Direction direction, std::chrono::milliseconds patience) {
   fd_set ready;
   FD_ZERO(&ready);
@@ -69,7 +66,7 @@ std::ptrdiff_t receiveSome(SOAP_SOCKET socket, char* buffer, std::size_t size) {
   return ::recv(socket, buffer, static_cast<int>(size), 0);
 }
 
-bool wouldWait() {
+bool wouldBlock() {
   return WSAGetLastError() == WSAEWOULDBLOCK;
 }
 

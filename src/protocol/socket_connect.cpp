@@ -23,19 +23,19 @@ struct AddressListDeleter {
 };
 using AddressList = std::unique_ptr<addrinfo, AddressListDeleter>;
 
-AddressList askResolver(const std::string& host, const std::string& port, int flags) {
+AddressList resolve(const std::string& host, const std::string& port, int flags) {
   prepareSockets();
   addrinfo hints{};
   hints.ai_flags = flags;
   hints.ai_family = AF_UNSPEC;
   hints.ai_socktype = SOCK_STREAM;
-  addrinfo* found = nullptr;
-  return AddressList(getaddrinfo(host.c_str(), port.c_str(), &hints, &found) == 0 ? found : nullptr);
+  addrinfo* list = nullptr;
+  return AddressList(getaddrinfo(host.c_str(), port.c_str(), &hints, &list) == 0 ? list : nullptr);
 }
 
 Addresses systemAddresses(const std::string& host) {
   Addresses addresses;
-  const AddressList list = askResolver(host, "0", 0);
+  const AddressList list = resolve(host, "0", 0);
   for (const addrinfo* each = list.get(); each; each = each->ai_next) {
     char text[NI_MAXHOST];
     if (getnameinfo(each->ai_addr, static_cast<socklen_t>(each->ai_addrlen), text, sizeof text, nullptr, 0,
@@ -45,23 +45,25 @@ Addresses systemAddresses(const std::string& host) {
   return addresses;
 }
 
-/// A look-up can't be interrupted, so it runs on a thread that is left behind when it takes too long.
-Addresses lookUp(const std::string& host, Clock::time_point deadline, const IoPatience& patience) {
-  if (askResolver(host, "0", AI_NUMERICHOST)) return {host};
+/// A name lookup can't be interrupted, so it runs on a thread that is detached if it takes too long. Returns
+/// no address then.
+Addresses resolveAddresses(const std::string& host, Clock::time_point deadline, const IoPatience& patience) {
+  if (resolve(host, "0", AI_NUMERICHOST)) return {host};
   std::packaged_task<Addresses()> task(
-      [host, resolve = patience.resolve ? patience.resolve : systemAddresses] { return resolve(host); });
-  std::future<Addresses> found = task.get_future();
+      [host, resolver = patience.resolve ? patience.resolve : systemAddresses] { return resolver(host); });
+  std::future<Addresses> addresses = task.get_future();
   try {
     std::thread(std::move(task)).detach();
   } catch (const std::system_error&) {
     return {};
   }
   while (!isCancelled(patience) && Clock::now() < deadline) {
-    if (found.wait_for(waitingSlice) == std::future_status::ready) return found.get();
+    if (addresses.wait_for(pollInterval) == std::future_status::ready) return addresses.get();
   }
   return {};
 }
 
+/// Closes its socket on destruction.
 class Socket {
  public:
   explicit Socket(SOAP_SOCKET socket) : socket_(socket) {}
@@ -81,7 +83,7 @@ class Socket {
   SOAP_SOCKET socket_;
 };
 
-/// Tries several addresses of one host, the later ones with a delay.
+/// Tries the addresses of a host, starting each with a delay while earlier attempts are pending.
 class ConnectionRace {
  public:
   ConnectionRace(Addresses addresses, int port, const IoPatience& patience)
@@ -91,7 +93,7 @@ class ConnectionRace {
     while (!isCancelled(patience_) && Clock::now() < deadline) {
       if (next_ < addresses_.size() && (running_.empty() || Clock::now() >= nextStart_)) startNext();
       if (running_.empty() && next_ == addresses_.size()) break;
-      const SOAP_SOCKET winner = waitForOne();
+      const SOAP_SOCKET winner = waitForConnection();
       if (soap_valid_socket(winner)) return winner;
     }
     return SOAP_INVALID_SOCKET;
@@ -99,7 +101,7 @@ class ConnectionRace {
 
  private:
   void startNext() {
-    const AddressList address = askResolver(addresses_[next_++], port_, AI_NUMERICHOST);
+    const AddressList address = resolve(addresses_[next_++], port_, AI_NUMERICHOST);
     nextStart_ = Clock::now() + patience_.nextAddress;
     if (!address) return;
     Socket socket(openSocket(*address));
@@ -107,9 +109,10 @@ class ConnectionRace {
       running_.push_back(std::move(socket));
   }
 
-  /// Gives every attempt its share of one slice; drops those that have failed.
-  SOAP_SOCKET waitForOne() {
-    const auto share = waitingSlice / static_cast<int>(std::max<std::size_t>(running_.size(), 1));
+  /// Waits for one interval in total and drops attempts that have failed. Returns SOAP_INVALID_SOCKET if none
+  /// has connected.
+  SOAP_SOCKET waitForConnection() {
+    const auto share = pollInterval / static_cast<int>(std::max<std::size_t>(running_.size(), 1));
     for (std::size_t i = 0; i < running_.size();) {
       const int ready = waitForSocket(running_[i].get(), Direction::Sending, share);
       if (ready > 0 && hasConnected(running_[i].get())) return running_[i].release();
@@ -139,7 +142,7 @@ bool isCancelled(const IoPatience& patience) {
 
 SOAP_SOCKET connectToHost(const std::string& host, int port, const IoPatience& patience) {
   const auto deadline = std::min(Clock::now() + patience.connect, patience.deadline);
-  return ConnectionRace(lookUp(host, deadline, patience), port, patience).run(deadline);
+  return ConnectionRace(resolveAddresses(host, deadline, patience), port, patience).run(deadline);
 }
 
 }  // namespace parlexo::protocol

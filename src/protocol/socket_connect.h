@@ -10,16 +10,15 @@
 
 namespace parlexo::protocol {
 
-/// How often a wait looks whether it was cancelled.
-inline constexpr std::chrono::milliseconds waitingSlice{50};
+/// The interval at which waits poll for cancellation.
+inline constexpr std::chrono::milliseconds pollInterval{50};
 
 [[nodiscard]] bool isCancelled(const IoPatience& patience);
 
-/// Connects to `host`, a name or a numeric address. Its addresses are tried in the resolver's order: the next
-/// one when the last has failed, or beside it when it has not connected within `patience.nextAddress`. The
-/// first connection wins, the others are dropped. Returns a socket whose calls don't block;
-/// SOAP_INVALID_SOCKET when the host has no address, none of them connects in time, or the exchange was
-/// cancelled.
+/// Connects to `host`, a name or numeric address. Tries its addresses in the resolver's order: the next one
+/// as soon as one has failed, or in parallel if one has not connected within `patience.nextAddress`. The
+/// first connection is used, the others are dropped. Blocks. Returns a non-blocking socket, or
+/// SOAP_INVALID_SOCKET if the host has no address, no attempt succeeds in time, or the call is cancelled.
 [[nodiscard]] SOAP_SOCKET connectToHost(const std::string& host, int port, const IoPatience& patience);
 
 }  // namespace parlexo::protocol

@@ -7,25 +7,22 @@
 #include <cstdint>
 #include <optional>
 #include <system_error>
+#include <utility>
 
 namespace parlexo::protocol {
 
 namespace {
 
-/// More than any reference needs, with some leading zeros; a search without an end would make a text full of
-/// ampersands slow.
-constexpr std::size_t longestReference = 16;
+/// Enough for any reference with some leading zeros. Bounds the search for the semicolon, which would
+/// otherwise be slow in a text full of ampersands.
+constexpr std::size_t maxReferenceLength = 16;
 
-struct NamedCharacter {
-  std::string_view name;
-  char32_t character;
-};
-
+using NamedCharacter = std::pair<std::string_view, char32_t>;
 constexpr std::array xmlEntities = {NamedCharacter{"amp", U'&'}, NamedCharacter{"lt", U'<'},
                                     NamedCharacter{"gt", U'>'}, NamedCharacter{"quot", U'"'},
                                     NamedCharacter{"apos", U'\''}};
 
-/// HTML's names for U+00A0 to U+00FF, in the order of their numbers.
+/// HTML's entities for U+00A0 to U+00FF, in the order of their code points.
 constexpr std::array<std::string_view, 96> latinEntities = {
     "nbsp",   "iexcl",  "cent",   "pound",  "curren", "yen",    "brvbar", "sect",   "uml",    "copy",
     "ordf",   "laquo",  "not",    "shy",    "reg",    "macr",   "deg",    "plusmn", "sup2",   "sup3",
@@ -38,7 +35,7 @@ constexpr std::array<std::string_view, 96> latinEntities = {
     "eth",    "ntilde", "ograve", "oacute", "ocirc",  "otilde", "ouml",   "divide", "oslash", "ugrave",
     "uacute", "ucirc",  "uuml",   "yacute", "thorn",  "yuml"};
 
-std::optional<char32_t> characterNumbered(std::string_view digits, int base) {
+std::optional<char32_t> characterFromNumber(std::string_view digits, int base) {
   std::uint32_t number = 0;
   const char* const last = digits.data() + digits.size();
   const auto [end, error] = std::from_chars(digits.data(), last, number, base);
@@ -46,12 +43,12 @@ std::optional<char32_t> characterNumbered(std::string_view digits, int base) {
   return error == std::errc() && number <= 0x10FFFF ? number : U'\uFFFD';
 }
 
-/// `name` is the part between "&" and ";".
-std::optional<char32_t> characterNamed(std::string_view name) {
-  if (name.starts_with("#x") || name.starts_with("#X")) return characterNumbered(name.substr(2), 16);
-  if (name.starts_with('#')) return characterNumbered(name.substr(1), 10);
-  for (const NamedCharacter& each : xmlEntities)
-    if (each.name == name) return each.character;
+/// `name` is the part between "&" and ";". nullopt for an unknown name.
+std::optional<char32_t> characterFromName(std::string_view name) {
+  if (name.starts_with("#x") || name.starts_with("#X")) return characterFromNumber(name.substr(2), 16);
+  if (name.starts_with('#')) return characterFromNumber(name.substr(1), 10);
+  for (const auto& [entity, character] : xmlEntities)
+    if (entity == name) return character;
   const auto* const latin = std::find(latinEntities.begin(), latinEntities.end(), name);
   if (latin == latinEntities.end()) return std::nullopt;
   return static_cast<char32_t>(0xA0 + (latin - latinEntities.begin()));
@@ -59,26 +56,26 @@ std::optional<char32_t> characterNamed(std::string_view name) {
 
 void appendUtf8(std::string& text, char32_t character) {
   const auto append = [&text](char32_t byte) { text.push_back(static_cast<char>(byte)); };
-  const auto following = [&](int shift) { append(0x80 | (character >> shift & 0x3F)); };
+  const auto appendContinuation = [&](int shift) { append(0x80 | (character >> shift & 0x3F)); };
   if (character < 0x80) {
     append(character);
   } else if (character < 0x800) {
     append(0xC0 | character >> 6);
-    following(0);
+    appendContinuation(0);
   } else if (character < 0x10000) {
     append(0xE0 | character >> 12);
-    for (const int shift : {6, 0}) following(shift);
+    for (const int shift : {6, 0}) appendContinuation(shift);
   } else {
     append(0xF0 | character >> 18);
-    for (const int shift : {12, 6, 0}) following(shift);
+    for (const int shift : {12, 6, 0}) appendContinuation(shift);
   }
 }
 
-/// Takes the reference off the front of `content`.
+/// Removes the reference at the start of `content` and appends its character to `text`.
 void readReference(std::string_view& content, std::string& text) {
-  const std::size_t end = content.substr(0, longestReference).find(';');
+  const std::size_t end = content.substr(0, maxReferenceLength).find(';');
   const auto character =
-      end == std::string_view::npos ? std::nullopt : characterNamed(content.substr(1, end - 1));
+      end == std::string_view::npos ? std::nullopt : characterFromName(content.substr(1, end - 1));
   if (character)
     appendUtf8(text, *character);
   else
@@ -86,7 +83,8 @@ void readReference(std::string_view& content, std::string& text) {
   content.remove_prefix(character ? end + 1 : 1);
 }
 
-/// Takes the section, or else the "<" of a tag, off the front of `content`.
+/// Removes the CDATA section, comment or processing instruction at the start of `content`, or just the "<" of
+/// a tag, and appends its text to `text`.
 void readMarkup(std::string_view& content, std::string& text) {
   struct Section {
     std::string_view begin;
@@ -109,7 +107,7 @@ void readMarkup(std::string_view& content, std::string& text) {
 
 }  // namespace
 
-std::string textOfContent(std::string_view content) {
+std::string decodeContent(std::string_view content) {
   std::string text;
   text.reserve(content.size());
   while (!content.empty()) {

@@ -31,9 +31,9 @@ QByteArray reasonFor(int status) {
 }  // namespace
 
 QByteArray HttpRequest::header(const QByteArray& name) const {
-  const auto found = std::find_if(headers.begin(), headers.end(),
-                                  [&name](const auto& entry) { return entry.first == name; });
-  return found == headers.end() ? QByteArray() : found->second;
+  const auto entry =
+      std::find_if(headers.begin(), headers.end(), [&name](const auto& each) { return each.first == name; });
+  return entry == headers.end() ? QByteArray() : entry->second;
 }
 
 QByteArray HttpRequest::path() const {

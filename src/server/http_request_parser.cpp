@@ -13,10 +13,10 @@ constexpr int bodyTooLarge = 413;
 constexpr int headerTooLarge = 431;
 constexpr int notImplemented = 501;
 
-// A length of digits alone; none for anything else, and for what no body may reach anyway.
-std::optional<std::int64_t> readLength(const QByteArray& text, int base) {
-  constexpr qsizetype mostDigits = 15;
-  const bool plain = !text.isEmpty() && text.size() <= mostDigits &&
+// nullopt if `text` has characters other than digits, or more digits than any accepted length.
+std::optional<std::int64_t> parseLength(const QByteArray& text, int base) {
+  constexpr qsizetype maxDigits = 15;
+  const bool plain = !text.isEmpty() && text.size() <= maxDigits &&
                      std::all_of(text.begin(), text.end(), [base](char character) {
                        const bool digit = character >= '0' && character <= '9';
                        const char lower = static_cast<char>(character | 0x20);
@@ -35,18 +35,18 @@ HttpRequestParser::State HttpRequestParser::feed(const QByteArray& bytes) {
   return stage_ == Stage::Refused ? State::Refused : State::NeedsMore;
 }
 
-bool HttpRequestParser::takeContinueWish() {
-  return std::exchange(continueWish_, false);
+bool HttpRequestParser::consumeExpectContinue() {
+  return std::exchange(expectsContinue_, false);
 }
 
-HttpRequest HttpRequestParser::take() {
+HttpRequest HttpRequestParser::releaseRequest() {
   stage_ = Stage::StartLine;
   headerBytes_ = 0;
   chunkLineBytes_ = 0;
   return std::exchange(request_, {});
 }
 
-// Makes one step; false when more bytes are needed or the request is at its end.
+// Advances by one step. Returns false if more bytes are needed or the request is complete or refused.
 bool HttpRequestParser::advance() {
   switch (stage_) {
     case Stage::StartLine:
@@ -68,7 +68,7 @@ bool HttpRequestParser::advance() {
 }
 
 bool HttpRequestParser::readHeadLine() {
-  const std::optional<QByteArray> line = takeLine();
+  const std::optional<QByteArray> line = readLine();
   if (!line) return false;
   if (stage_ == Stage::StartLine)
     readStartLine(*line);
@@ -82,17 +82,17 @@ bool HttpRequestParser::readHeadLine() {
 }
 
 bool HttpRequestParser::readBody(Stage next) {
-  const std::int64_t taken = std::min<std::int64_t>(bodyBytesLeft_, buffer_.size());
-  request_.body.append(buffer_.constData(), taken);
-  buffer_.remove(0, taken);
-  bodyBytesLeft_ -= taken;
+  const std::int64_t count = std::min<std::int64_t>(bodyBytesLeft_, buffer_.size());
+  request_.body.append(buffer_.constData(), count);
+  buffer_.remove(0, count);
+  bodyBytesLeft_ -= count;
   if (bodyBytesLeft_ > 0) return false;
   stage_ = next;
   return true;
 }
 
 bool HttpRequestParser::readChunkLine() {
-  const std::optional<QByteArray> line = takeLine();
+  const std::optional<QByteArray> line = readLine();
   if (!line) return false;
   if (stage_ == Stage::ChunkSize)
     readChunkSize(*line);
@@ -104,7 +104,7 @@ bool HttpRequestParser::readChunkLine() {
 }
 
 void HttpRequestParser::readStartLine(const QByteArray& line) {
-  if (line.isEmpty()) return;  // some clients end their last body with an empty line too much
+  if (line.isEmpty()) return;  // some clients send an extra empty line after a body
   const QList<QByteArray> words = line.split(' ');
   if (words.size() != 3 || words[0].isEmpty() || words[1].isEmpty()) return refuse(badRequest);
   if (words[2] != "HTTP/1.0" && words[2] != "HTTP/1.1") return refuse(badRequest);
@@ -126,10 +126,10 @@ void HttpRequestParser::finishHeaders() {
   if (connection.contains("keep-alive")) request_.keepAlive = true;
   chooseBody();
   const bool hasBody = stage_ == Stage::Body || stage_ == Stage::ChunkSize;
-  continueWish_ = hasBody && request_.header("expect").toLower() == "100-continue";
+  expectsContinue_ = hasBody && request_.header("expect").toLower() == "100-continue";
 }
 
-// A request with two lengths, or a length and chunks, is how one request is hidden inside another.
+// Refuses requests with two lengths, or a length and chunks, which are used for request smuggling.
 void HttpRequestParser::chooseBody() {
   const auto count = [this](const char* name) {
     return std::count_if(request_.headers.begin(), request_.headers.end(),
@@ -143,7 +143,7 @@ void HttpRequestParser::chooseBody() {
     stage_ = Stage::ChunkSize;
     return;
   }
-  const auto length = lengths == 1 ? readLength(request_.header("content-length"), 10) : 0;
+  const auto length = lengths == 1 ? parseLength(request_.header("content-length"), 10) : 0;
   if (!length) return refuse(badRequest);
   if (*length > maxBodyBytes) return refuse(bodyTooLarge);
   bodyBytesLeft_ = *length;
@@ -152,16 +152,16 @@ void HttpRequestParser::chooseBody() {
 
 void HttpRequestParser::readChunkSize(const QByteArray& line) {
   const qsizetype extension = line.indexOf(';');
-  const auto size = readLength((extension < 0 ? line : line.left(extension)).trimmed(), 16);
+  const auto size = parseLength((extension < 0 ? line : line.left(extension)).trimmed(), 16);
   if (!size) return refuse(badRequest);
   if (*size > maxBodyBytes - request_.body.size()) return refuse(bodyTooLarge);
   bodyBytesLeft_ = *size;
   stage_ = *size == 0 ? Stage::Trailers : Stage::ChunkData;
 }
 
-// The next line without its end. The lines of a request count toward a limit, so that neither an endless
-// header nor endless tiny chunks are read for ever.
-std::optional<QByteArray> HttpRequestParser::takeLine() {
+// Returns the next line without its end; nullopt if it is not complete. Counts the bytes of the lines, so
+// that neither endless headers nor endless tiny chunks are accepted.
+std::optional<QByteArray> HttpRequestParser::readLine() {
   const bool betweenChunks = stage_ == Stage::ChunkSize || stage_ == Stage::ChunkEnd;
   std::int64_t& used = betweenChunks ? chunkLineBytes_ : headerBytes_;
   const qsizetype end = buffer_.indexOf('\n');

@@ -10,8 +10,8 @@
 
 namespace parlexo::server {
 
-/// Reads HTTP/1.0 and 1.1 requests from bytes that arrive in any pieces, bodies by length or in chunks. What
-/// a peer may make it hold is bounded: 16 KiB of header, 8 MiB of body and 1 MiB of lines between chunks.
+/// Incremental parser of HTTP/1.0 and 1.1 requests, with bodies by length or in chunks. Memory is bounded: 16
+/// KiB of headers, 8 MiB of body and 1 MiB of chunk size lines.
 class HttpRequestParser {
  public:
   enum class State { NeedsMore, Complete, Refused };
@@ -20,14 +20,14 @@ class HttpRequestParser {
   static constexpr std::int64_t maxBodyBytes = 8 * 1024 * 1024;
   static constexpr std::int64_t maxChunkLineBytes = 1024 * 1024;
 
-  /// Takes the next bytes. Once complete, further bytes are kept for the request after take().
+  /// Parses more bytes. Bytes after the end of a complete request are buffered for the next one.
   State feed(const QByteArray& bytes);
-  /// The status to refuse the request with.
+  /// The HTTP status for a refused request.
   [[nodiscard]] int refusalStatus() const { return refusalStatus_; }
-  /// True once when the client waits for "100 Continue" before it sends the body.
-  [[nodiscard]] bool takeContinueWish();
-  /// Hands out the complete request and begins the next one.
-  [[nodiscard]] HttpRequest take();
+  /// Returns true, once per request, if the client waits for "100 Continue" before it sends the body.
+  [[nodiscard]] bool consumeExpectContinue();
+  /// Returns the complete request and starts to parse the next one.
+  [[nodiscard]] HttpRequest releaseRequest();
 
  private:
   enum class Stage { StartLine, Headers, Body, ChunkSize, ChunkData, ChunkEnd, Trailers, Complete, Refused };
@@ -41,7 +41,7 @@ class HttpRequestParser {
   void finishHeaders();
   void chooseBody();
   void readChunkSize(const QByteArray& line);
-  [[nodiscard]] std::optional<QByteArray> takeLine();
+  [[nodiscard]] std::optional<QByteArray> readLine();
   void refuse(int status);
 
   Stage stage_ = Stage::StartLine;
@@ -51,7 +51,7 @@ class HttpRequestParser {
   std::int64_t chunkLineBytes_ = 0;
   std::int64_t bodyBytesLeft_ = 0;
   int refusalStatus_ = 0;
-  bool continueWish_ = false;
+  bool expectsContinue_ = false;
 };
 
 }  // namespace parlexo::server

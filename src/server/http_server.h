@@ -10,19 +10,19 @@
 
 namespace parlexo::server {
 
-/// What an HTTP server asks its owner; called on the server's thread.
+/// Callbacks of an HTTP server, called on its thread.
 struct HttpHooks {
-  /// Whether the connection that was just made is closed without a word.
+  /// Whether to close a new connection without a reply.
   std::function<bool()> refusesConnection;
   std::function<HttpReply(const HttpRequest& request)> answer;
 };
 
-/// Serves many connections on the thread it lives in.
+/// Serves concurrent connections on its own QObject thread.
 class HttpServer final : public QTcpServer {
  public:
-  /// A connection that does not bring a whole request, or does not take its reply, within `patience` is cut.
-  /// With an `uploadRate` other than 0 each connection takes in so many bytes a second, and patience is
-  /// reckoned from the last of them.
+  /// A connection is closed if it does not send a complete request, or does not receive its reply, within
+  /// `patience`. If `uploadRate` is not 0, each connection reads at most that many bytes per second, and
+  /// `patience` limits the time since the last of them.
   HttpServer(HttpHooks hooks, std::chrono::milliseconds patience, int uploadRate = 0);
 
  protected:

@@ -13,30 +13,34 @@
 
 namespace parlexo::simulator {
 
-/// A message that the gateway has taken for delivery.
+/// A message that the gateway has accepted for delivery.
 struct AcceptedMessage {
   MessageType type = MessageType::Sms;
-  QString user;
-  QString text;          ///< as a person reads it; the description of an MMS, the note of a WAP push
-  QByteArray rawText;    ///< as it came over the wire
-  bool unicode = false;  ///< the text came in its hexadecimal form
+  QString user{};
+  QString text{};        ///< decoded; the description of an MMS or the note of a WAP push
+  QByteArray rawText{};  ///< as received
+  bool unicode = false;  ///< the text was received in its hexadecimal form
   bool flash = false;
-  QStringList numbers;   ///< every recipient as given, failed ones too
-  QStringList receipts;  ///< one for each number, "FAIL" for a failed one
-  QString fileName;
-  std::int64_t fileSize = 0;          ///< bytes
-  QByteArray fileSha256;              ///< lower-case hexadecimal; empty when there is no file
-  QString senderId;                   ///< empty when the session has set none
-  std::optional<QDateTime> schedule;  ///< UTC; none for "now"
-  QDateTime time;                     ///< when it was accepted, UTC
-  int parts = 1;                      ///< SMS that each recipient gets
-  std::int64_t costCents = 0;         ///< what it took from the balance
+  QStringList numbers{};   ///< all recipients as given, including failed ones
+  QStringList receipts{};  ///< one for each number, "FAIL" for a failed one
+  QString fileName{};
+  std::int64_t fileSize = 0;            ///< bytes
+  QByteArray fileSha256{};              ///< lower-case hexadecimal; empty without a file
+  QString senderId{};                   ///< empty if the session has set none
+  std::optional<QDateTime> schedule{};  ///< UTC; nullopt for immediate delivery
+  QDateTime time{};                     ///< when it was accepted, in UTC
+  int parts = 1;                        ///< number of SMS for each recipient
+  std::int64_t costCents = 0;           ///< amount deducted from the balance
 };
 
-/// One operation that a client has asked for, whatever became of it.
+/// An operation that a client has called, regardless of its outcome.
 struct RecordedCall {
   QString operation;
-  QString session;  ///< as sent; empty for operations without one
+  QString session;  ///< as sent; empty for operations without a session
 };
+
+/// Describes `message` in several log lines: type, recipients, text and file. The log is for developers and
+/// not translated.
+[[nodiscard]] QStringList toLogLines(const AcceptedMessage& message);
 
 }  // namespace parlexo::simulator

@@ -10,21 +10,21 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr std::size_t shownTransactions = 500;
+constexpr std::size_t maxShownTransactions = 500;
 
-// A field of the history: what separates fields and records may not stand inside one.
-QString plainField(QString text) {
+// Replaces control characters, as tabs and line breaks separate fields and records.
+QString toHistoryField(QString text) {
   for (QChar& character : text)
     if (character.category() == QChar::Other_Control) character = u' ';
   return text;
 }
 
-QString recordOf(const Transaction& transaction) {
+QString toHistoryRecord(const Transaction& transaction) {
   const QStringList fields = {
       QString::number(transaction.id),
       transaction.date.toUTC().toString(u"dd/MM/yyyy HH:mm:ss"_s),
       QString::number(toAmount(transaction.cents), 'f', 2),
-      plainField(transaction.description),
+      toHistoryField(transaction.description),
   };
   return fields.join(u'\t') + u"\r\n"_s;
 }
@@ -51,13 +51,13 @@ AccountBook::AccountBook(const std::vector<AccountOptions>& accounts) {
 }
 
 Account* AccountBook::find(const QString& user) {
-  const auto found = accounts_.find(user);
-  return found == accounts_.end() ? nullptr : &found->second;
+  const auto it = accounts_.find(user);
+  return it == accounts_.end() ? nullptr : &it->second;
 }
 
 const Account* AccountBook::find(const QString& user) const {
-  const auto found = accounts_.find(user);
-  return found == accounts_.end() ? nullptr : &found->second;
+  const auto it = accounts_.find(user);
+  return it == accounts_.end() ? nullptr : &it->second;
 }
 
 bool AccountBook::addBelow(const Account& parent, const QString& user, const QString& email) {
@@ -76,22 +76,22 @@ void AccountBook::post(Account& account, std::int64_t cents, const QDateTime& da
 }
 
 QString historyText(const Account& account) {
-  const std::size_t skipped = account.history.size() - std::min(account.history.size(), shownTransactions);
+  const std::size_t skipped = account.history.size() - std::min(account.history.size(), maxShownTransactions);
   QString text;
-  for (std::size_t i = skipped; i < account.history.size(); ++i) text += recordOf(account.history[i]);
+  for (std::size_t i = skipped; i < account.history.size(); ++i) text += toHistoryRecord(account.history[i]);
   return text;
 }
 
 bool isAcceptablePassword(const QString& password) {
-  constexpr int shortest = 6;
-  constexpr int longest = 10;
+  constexpr int minLength = 6;
+  constexpr int maxLength = 10;
   const auto has = [&password](auto test) { return std::any_of(password.begin(), password.end(), test); };
-  return password.size() >= shortest && password.size() <= longest &&
+  return password.size() >= minLength && password.size() <= maxLength &&
          has([](QChar character) { return character.isLetter(); }) &&
          has([](QChar character) { return character.isDigit(); });
 }
 
-bool areAcceptable(const EmailPreferences& preferences) {
+bool areComplete(const EmailPreferences& preferences) {
   if (!preferences.enabled) return true;
   if (preferences.code.isEmpty()) return false;
   return !preferences.filter || !preferences.address1.isEmpty() || !preferences.address2.isEmpty() ||

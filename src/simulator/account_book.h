@@ -21,8 +21,8 @@ struct Transaction {
 
 struct Account {
   QString user;
-  QString password;  ///< empty: only the parent may open a session for this account
-  QString parent;    ///< empty for an account of its own
+  QString password;  ///< empty if only the parent may open sessions
+  QString parent;    ///< user name of the parent account; empty for a top-level account
   QString email;
   std::int64_t balanceCents = 0;
   bool maySetSenderId = true;
@@ -30,26 +30,26 @@ struct Account {
   std::vector<Transaction> history;
 };
 
-/// `amount` in hundredths, rounded; what is not a number or out of all bounds becomes 0.
+/// Converts `amount` to hundredths, rounded. Returns 0 for NaN and amounts beyond a billion.
 [[nodiscard]] std::int64_t toCents(double amount);
 
-/// Hundredths as an amount of the account's currency.
+/// Converts hundredths to an amount in the account's currency.
 [[nodiscard]] constexpr double toAmount(std::int64_t cents) {
   constexpr double centsPerUnit = 100.0;
   return static_cast<double>(cents) / centsPerUnit;
 }
 
-/// The accounts of the gateway and the money on them.
+/// The accounts of the gateway with their balances.
 class AccountBook {
  public:
   explicit AccountBook(const std::vector<AccountOptions>& accounts);
 
-  /// The account of `user` (names are case-sensitive), or null.
+  /// Returns the account of `user` (case-sensitive), or null.
   [[nodiscard]] Account* find(const QString& user);
   [[nodiscard]] const Account* find(const QString& user) const;
-  /// Opens an account below `parent`. False when the name is taken.
+  /// Adds an account below `parent`. Returns false if the name is taken.
   bool addBelow(const Account& parent, const QString& user, const QString& email);
-  /// Adds `cents`, which may be negative, to the balance and writes it into the history.
+  /// Adds `cents`, which may be negative, to the balance and records the transaction in the history.
   void post(Account& account, std::int64_t cents, const QDateTime& date, const QString& description);
 
  private:
@@ -57,14 +57,14 @@ class AccountBook {
   int lastTransaction_ = 0;
 };
 
-/// The last 500 transactions as the wire carries them: ID, date, amount and description with a tab between
-/// them, each record ended by "\r\n".
+/// Returns the last 500 transactions in wire format: ID, date, amount and description separated by tabs, each
+/// record terminated by "\r\n".
 [[nodiscard]] QString historyText(const Account& account);
 
-/// Whether `password` may be chosen: 6 to 10 characters, at least a letter and a digit.
+/// Returns whether `password` is valid: 6 to 10 characters with at least one letter and one digit.
 [[nodiscard]] bool isAcceptablePassword(const QString& password);
 
-/// Whether `preferences` are complete: an identity code when enabled, an address when filtered.
-[[nodiscard]] bool areAcceptable(const EmailPreferences& preferences);
+/// Returns whether `preferences` have an identity code if enabled, and an address if filtered.
+[[nodiscard]] bool areComplete(const EmailPreferences& preferences);
 
 }  // namespace parlexo::simulator

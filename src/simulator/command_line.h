@@ -11,19 +11,18 @@
 
 namespace parlexo::simulator {
 
-/// What the command line of parlexo-simulator asks for.
+/// The parsed command line of parlexo-simulator. If `help`, `version` or `problem` is set, the rest is
+/// unused.
 struct CommandLine {
   Options options;
   std::vector<Fault> faults;
-  bool help = false;
-  bool version = false;
-  QString problem;  ///< what is wrong with the arguments; empty when nothing is
+  QString help;          ///< the text to print for --help
+  bool version = false;  ///< print the version
+  QString problem;       ///< what is wrong with the arguments; empty if they are valid
 };
 
-/// Reads the arguments that follow the program's name. Nothing is read behind the first problem.
-[[nodiscard]] CommandLine readCommandLine(const QStringList& arguments);
-
-/// The text of --help.
-[[nodiscard]] QString helpText();
+/// Parses `arguments`, whose first element is the program as it was called. Needs a QCoreApplication. The
+/// texts are not translated, as the simulator is a tool for developers.
+[[nodiscard]] CommandLine parseCommandLine(const QStringList& arguments);
 
 }  // namespace parlexo::simulator

@@ -14,29 +14,31 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+// The value that a kind of fault needs.
 enum class Value { None, Number, OptionalText, Text };
-enum class Place { Connection, Anywhere, Operation, OperationWithText, GetVersion, Locator };
+// The operations that a kind of fault applies to.
+enum class Scope { Connection, Anywhere, Operation, OperationWithText, GetVersion, Locator };
 
 struct KindRule {
   FaultKind kind;
   const char* word;
   Value value;
-  Place place;
+  Scope scope;
 };
 
 constexpr std::array kindRules = {
-    KindRule{FaultKind::Refuse, "refuse", Value::None, Place::Connection},
-    KindRule{FaultKind::Close, "close", Value::None, Place::Anywhere},
-    KindRule{FaultKind::Cut, "cut", Value::None, Place::Anywhere},
-    KindRule{FaultKind::Late, "late", Value::Number, Place::Anywhere},
-    KindRule{FaultKind::HttpError, "http500", Value::None, Place::Anywhere},
-    KindRule{FaultKind::NotXml, "notxml", Value::None, Place::Anywhere},
-    KindRule{FaultKind::SoapFault, "soapfault", Value::OptionalText, Place::Operation},
-    KindRule{FaultKind::Code, "code", Value::Number, Place::Operation},
-    KindRule{FaultKind::Text, "text", Value::Text, Place::OperationWithText},
-    KindRule{FaultKind::Version, "version", Value::Number, Place::GetVersion},
-    KindRule{FaultKind::ClientVersion, "clientversion", Value::Text, Place::Locator},
-    KindRule{FaultKind::BadLocator, "badlocator", Value::None, Place::Locator},
+    KindRule{FaultKind::Refuse, "refuse", Value::None, Scope::Connection},
+    KindRule{FaultKind::Close, "close", Value::None, Scope::Anywhere},
+    KindRule{FaultKind::Cut, "cut", Value::None, Scope::Anywhere},
+    KindRule{FaultKind::Late, "late", Value::Number, Scope::Anywhere},
+    KindRule{FaultKind::HttpError, "http500", Value::None, Scope::Anywhere},
+    KindRule{FaultKind::NotXml, "notxml", Value::None, Scope::Anywhere},
+    KindRule{FaultKind::SoapFault, "soapfault", Value::OptionalText, Scope::Operation},
+    KindRule{FaultKind::Code, "code", Value::Number, Scope::Operation},
+    KindRule{FaultKind::Text, "text", Value::Text, Scope::OperationWithText},
+    KindRule{FaultKind::Version, "version", Value::Number, Scope::GetVersion},
+    KindRule{FaultKind::ClientVersion, "clientversion", Value::Text, Scope::Locator},
+    KindRule{FaultKind::BadLocator, "badlocator", Value::None, Scope::Locator},
 };
 
 const QString anyOperation = u"any"_s;
@@ -48,11 +50,11 @@ const KindRule& ruleFor(FaultKind kind) {
                        [kind](const KindRule& rule) { return rule.kind == kind; });
 }
 
-bool answersWithText(const QString& operation) {
+bool hasTextInResponse(const QString& operation) {
   bool hasText = false;
-  protocol::visitOperation(operation.toStdString(), [&hasText](const auto& found) {
-    typename std::remove_cvref_t<decltype(found)>::Response response;
-    const protocol::Fields fields = found.fields(response);
+  protocol::visitOperation(operation.toStdString(), [&hasText](const auto& contract) {
+    typename std::remove_cvref_t<decltype(contract)>::Response response;
+    const protocol::Fields fields = contract.fields(response);
     hasText = std::any_of(fields.begin(), fields.end(), [](const protocol::Field& field) {
       return field.type == protocol::FieldType::BorrowedText;
     });
@@ -60,35 +62,35 @@ bool answersWithText(const QString& operation) {
   return hasText;
 }
 
-QString problemWithPlace(const Fault& fault) {
+QString findScopeProblem(const Fault& fault) {
   const QString word = QString::fromLatin1(ruleFor(fault.kind).word);
-  switch (ruleFor(fault.kind).place) {
-    case Place::Connection:
-      if (fault.operation != anyOperation) return u"%1 goes with any only"_s.arg(word);
+  switch (ruleFor(fault.kind).scope) {
+    case Scope::Connection:
+      if (fault.operation != anyOperation) return u"%1 applies to any only"_s.arg(word);
       return {};
-    case Place::Operation:
-      if (fault.operation == locatorDownload) return u"%1 does not go with locator"_s.arg(word);
+    case Scope::Operation:
+      if (fault.operation == locatorDownload) return u"%1 does not apply to locator"_s.arg(word);
       if (fault.kind == FaultKind::Code && fault.operation == versionQuery)
-        return u"the answer of getVersion has no code"_s;
+        return u"the reply of getVersion has no code"_s;
       return {};
-    case Place::OperationWithText:
-      if (fault.operation != anyOperation && !answersWithText(fault.operation))
-        return u"the answer of %1 has no text"_s.arg(fault.operation);
+    case Scope::OperationWithText:
+      if (fault.operation != anyOperation && !hasTextInResponse(fault.operation))
+        return u"the reply of %1 has no text"_s.arg(fault.operation);
       return {};
-    case Place::GetVersion:
-      if (fault.operation != versionQuery) return u"%1 goes with getVersion only"_s.arg(word);
+    case Scope::GetVersion:
+      if (fault.operation != versionQuery) return u"%1 applies to getVersion only"_s.arg(word);
       return {};
-    case Place::Locator:
-      if (fault.operation != locatorDownload) return u"%1 goes with locator only"_s.arg(word);
+    case Scope::Locator:
+      if (fault.operation != locatorDownload) return u"%1 applies to locator only"_s.arg(word);
       return {};
-    case Place::Anywhere:
+    case Scope::Anywhere:
       return {};
   }
   return {};
 }
 
-// Fills the value of `fault` from what stands behind "="; an absent value has nothing there.
-QString readValue(Fault& fault, const KindRule& rule, const std::optional<QString>& value) {
+// Sets the value of `fault`; nullopt if the text has no "=". Returns what is wrong, or an empty string.
+QString setValue(Fault& fault, const KindRule& rule, const std::optional<QString>& value) {
   const QString word = QString::fromLatin1(rule.word);
   switch (rule.value) {
     case Value::None:
@@ -108,7 +110,8 @@ QString readValue(Fault& fault, const KindRule& rule, const std::optional<QStrin
   return {};
 }
 
-QString readKind(Fault& fault, const QString& text) {
+// Parses "KIND[=VALUE]" into `fault`. Returns what is wrong, or an empty string.
+QString parseKind(Fault& fault, const QString& text) {
   const qsizetype equals = text.indexOf(u'=');
   const QString word = equals < 0 ? text : text.left(equals);
   const auto* rule = std::find_if(kindRules.begin(), kindRules.end(), [&word](const KindRule& candidate) {
@@ -116,7 +119,7 @@ QString readKind(Fault& fault, const QString& text) {
   });
   if (rule == kindRules.end()) return u"unknown kind of fault \"%1\""_s.arg(word);
   fault.kind = rule->kind;
-  return readValue(fault, *rule, equals < 0 ? std::nullopt : std::optional<QString>(text.mid(equals + 1)));
+  return setValue(fault, *rule, equals < 0 ? std::nullopt : std::optional<QString>(text.mid(equals + 1)));
 }
 
 }  // namespace
@@ -132,15 +135,15 @@ const QStringList& operationNames() {
   return names;
 }
 
-QString problemWith(const Fault& fault) {
+QString findProblem(const Fault& fault) {
   if (fault.operation != anyOperation && fault.operation != locatorDownload &&
       !operationNames().contains(fault.operation))
     return u"unknown operation \"%1\""_s.arg(fault.operation);
   if (fault.kind == FaultKind::Late && fault.number < 0) return u"late needs a time of 0 ms or more"_s;
-  return problemWithPlace(fault);
+  return findScopeProblem(fault);
 }
 
-QString describe(const Fault& fault) {
+QString toString(const Fault& fault) {
   const KindRule& rule = ruleFor(fault.kind);
   QString word = QString::fromLatin1(rule.word);
   switch (rule.value) {
@@ -155,23 +158,46 @@ QString describe(const Fault& fault) {
   return word;
 }
 
-ParsedFault parseFault(const QString& text) {
-  ParsedFault parsed;
+std::variant<Fault, QString> parseFault(const QString& text) {
+  Fault fault;
   QString rest = text;
   constexpr QLatin1String onceSuffix(":next");
   if (rest.endsWith(onceSuffix)) {
-    parsed.fault.once = true;
+    fault.once = true;
     rest.chop(onceSuffix.size());
   }
   const qsizetype colon = rest.indexOf(u':');
-  if (colon < 0) {
-    parsed.problem = u"expected OPERATION:KIND"_s;
-    return parsed;
-  }
-  parsed.fault.operation = rest.left(colon);
-  parsed.problem = readKind(parsed.fault, rest.mid(colon + 1));
-  if (parsed.problem.isEmpty()) parsed.problem = problemWith(parsed.fault);
-  return parsed;
+  if (colon < 0) return u"expected OPERATION:KIND"_s;
+  fault.operation = rest.left(colon);
+  QString problem = parseKind(fault, rest.mid(colon + 1));
+  if (problem.isEmpty()) problem = findProblem(fault);
+  if (!problem.isEmpty()) return problem;
+  return fault;
+}
+
+template <class Applies>
+std::optional<Fault> FaultPlan::next(Applies applies) {
+  const auto it = std::find_if(faults_.begin(), faults_.end(), applies);
+  if (it == faults_.end()) return std::nullopt;
+  Fault fault = *it;
+  if (fault.once) faults_.erase(it);
+  return fault;
+}
+
+std::optional<Fault> FaultPlan::nextFor(const QString& operation) {
+  return next([&operation](const Fault& fault) {
+    if (fault.kind == FaultKind::Refuse) return false;
+    if (fault.operation == operation) return true;
+    if (fault.operation != anyOperation || operation == locatorDownload) return false;
+    // A code or text does not apply to responses without such a field.
+    Fault specific = fault;
+    specific.operation = operation;
+    return findProblem(specific).isEmpty();
+  });
+}
+
+bool FaultPlan::refusesConnection() {
+  return next([](const Fault& fault) { return fault.kind == FaultKind::Refuse; }).has_value();
 }
 
 }  // namespace parlexo::simulator

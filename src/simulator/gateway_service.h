@@ -2,17 +2,12 @@
 #pragma once
 
 #include <mutex>
-#include <optional>
-#include <utility>
-#include <vector>
 
 #include <QByteArray>
 #include <QString>
 #include <QStringList>
 
 #include "server/http_message.h"
-#include "simulator/accepted_message.h"
-#include "simulator/fault_plan.h"
 #include "simulator/gateway_state.h"
 
 namespace parlexo::protocol {
@@ -21,25 +16,16 @@ class RequestReader;
 
 namespace parlexo::simulator {
 
-/// Everything that lies behind one lock.
-struct ServiceState {
-  explicit ServiceState(const Options& options) : gateway(options) {}
-
-  GatewayState gateway;
-  FaultPlan faults;
-  std::vector<RecordedCall> calls;
-};
-
-/// The gateway behind its HTTP server: turns requests into operations and operations into replies, with the
-/// faults that are set. Every function may be called from any thread.
+/// Handles the requests of the HTTP server: executes operations and applies the active faults. Thread-safe.
 class GatewayService {
  public:
   explicit GatewayService(const Options& options) : options_(options), state_(options) {}
 
   [[nodiscard]] server::HttpReply answer(const server::HttpRequest& request);
+  /// Returns whether a new connection must be closed.
   [[nodiscard]] bool refusesConnection();
 
-  /// Calls `access(state)` while nobody else touches the state, and returns its result.
+  /// Locks the state, calls `access(state)` and returns its result. `access` must not call this object.
   template <class Access>
   auto with(Access access) {
     const std::lock_guard lock(mutex_);
@@ -52,12 +38,12 @@ class GatewayService {
   [[nodiscard]] server::HttpReply answerOperation(const server::HttpRequest& request);
   template <class Operation>
   [[nodiscard]] server::HttpReply perform(const Operation& operation, protocol::RequestReader& reader);
-  void note(const QString& line);
+  void appendToLog(const QString& line);
 
   const Options options_;
   std::mutex mutex_;
-  ServiceState state_;
-  QStringList unwrittenLog_;
+  GatewayState state_;
+  QStringList pendingLog_;  ///< passed to Options::log after unlocking
 };
 
 }  // namespace parlexo::simulator

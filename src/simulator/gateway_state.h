@@ -1,30 +1,46 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <memory>
+#include <vector>
 
+#include <QDateTime>
 #include <QString>
 
+#include "simulator/accepted_message.h"
 #include "simulator/account_book.h"
-#include "simulator/clock.h"
+#include "simulator/fault.h"
 #include "simulator/outbox.h"
 #include "simulator/session_table.h"
 #include "simulator/simulator_options.h"
 
 namespace parlexo::simulator {
 
-/// All that the gateway remembers. Not safe between threads: who owns it locks.
+/// The whole state of the simulated gateway. Not thread-safe.
 struct GatewayState {
-  explicit GatewayState(const Options& given);
+  explicit GatewayState(const Options& given)
+      : options(given),
+        accounts(given.accounts),
+        sessions(given.sessionLifetime),
+        outbox(given.deliveryStep, given.now()),
+        news(given.news.isEmpty() ? defaultNews() : given.news) {}
 
-  [[nodiscard]] QDateTime now() const { return clock->now(); }
+  /// The current time in UTC.
+  [[nodiscard]] QDateTime now() const { return options.now(); }
 
-  Options options;
-  std::shared_ptr<const Clock> clock;
+  [[nodiscard]] static QString defaultNews() {
+    return QStringLiteral(
+        "Welcome to the Parlexo gateway simulator.\r\n\r\n"
+        "Messages go nowhere, cost nothing real, and are printed in the simulator's log. "
+        "Numbers that end in 99 fail.");
+  }
+
+  const Options options;
   AccountBook accounts;
   SessionTable sessions;
   Outbox outbox;
   QString news;
+  FaultPlan faults;
+  std::vector<RecordedCall> calls;
 };
 
 }  // namespace parlexo::simulator

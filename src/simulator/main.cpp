@@ -4,8 +4,8 @@
 #include <QByteArray>
 #include <QCoreApplication>
 
-#include "base/process_end.h"
 #include "base/product.h"
+#include "base/program.h"
 #include "simulator/command_line.h"
 #include "simulator/simulator.h"
 #include "simulator/stop_signals.h"
@@ -16,7 +16,8 @@ namespace {
 
 using parlexo::simulator::CommandLine;
 
-constexpr int usageError = 2;
+constexpr int startFailed = 1;
+constexpr int wrongUsage = 2;
 
 void print(std::FILE* stream, const QString& line) {
   const QByteArray bytes = line.toUtf8() + '\n';
@@ -30,9 +31,9 @@ int serve(const CommandLine& line) {
   if (!simulator.start()) {
     print(stderr, u"parlexo-simulator: cannot listen on port %1: %2"_s.arg(line.options.port)
                       .arg(simulator.errorText()));
-    return 1;
+    return startFailed;
   }
-  print(stdout, u"Gateway simulator at %1 (Ctrl+C ends it)"_s.arg(simulator.site()));
+  print(stdout, u"Gateway simulator at %1 (press Ctrl+C to stop)"_s.arg(simulator.site()));
   parlexo::simulator::waitForStopSignal();
   simulator.stop();
   print(stdout, u"Ended after %1 messages"_s.arg(simulator.messages().size()));
@@ -40,15 +41,15 @@ int serve(const CommandLine& line) {
 }
 
 int runProgram(int argc, char** argv) {
-  parlexo::simulator::holdStopSignals();
+  parlexo::simulator::blockStopSignals();
   const QCoreApplication application(argc, argv);
-  CommandLine line = parlexo::simulator::readCommandLine(QCoreApplication::arguments().mid(1));
+  CommandLine line = parlexo::simulator::parseCommandLine(QCoreApplication::arguments());
   if (!line.problem.isEmpty()) {
-    print(stderr, u"parlexo-simulator: %1\nTry --help."_s.arg(line.problem));
-    return usageError;
+    print(stderr, u"parlexo-simulator: %1\nTry \"parlexo-simulator --help\"."_s.arg(line.problem));
+    return wrongUsage;
   }
-  if (line.help) {
-    print(stdout, parlexo::simulator::helpText());
+  if (!line.help.isEmpty()) {
+    print(stdout, line.help);
     return 0;
   }
   if (line.version) {

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <optional>
+#include <utility>
 
 #include "base/code_page.h"
 
@@ -14,15 +15,12 @@ namespace {
 
 constexpr QByteArrayView unicodePrefix = "%%UNICODE%%";
 
-struct PartSizes {
-  int single;
-  int concatenated;
-};
+// Units in a single SMS and in each part of a concatenated one.
+using PartSizes = std::pair<int, int>;
 constexpr PartSizes standardSizes{160, 152};
 constexpr PartSizes unicodeSizes{70, 67};
 
-// The characters that the 7-bit alphabet of SMS reaches by an escape only. 0xA4 stands where the ISO
-// character set of the network has the euro sign.
+// Characters that need an escape in the 7-bit alphabet of SMS. 0xA4 is the euro sign in ISO 8859-15.
 constexpr QByteArrayView escapedCharacters = "\x0C[\\]^{|}~\xA4";
 
 bool isHexDigit(char character) {
@@ -49,22 +47,23 @@ int countStandardUnits(const QByteArray& raw) {
   return static_cast<int>(raw.size() + escaped);
 }
 
-int partsFor(int units, PartSizes sizes) {
-  return units <= sizes.single ? 1 : (units + sizes.concatenated - 1) / sizes.concatenated;
+int countParts(int units, PartSizes sizes) {
+  const auto& [single, concatenated] = sizes;
+  return units <= single ? 1 : (units + concatenated - 1) / concatenated;
 }
 
 }  // namespace
 
-MessageText readMessageText(const QByteArray& raw) {
+MessageText parseMessageText(const QByteArray& raw) {
   if (const std::optional<QString> text = decodeUnicode(raw)) {
     const int units = static_cast<int>(text->size());
-    return {*text, true, units, partsFor(units, unicodeSizes)};
+    return {*text, true, units, countParts(units, unicodeSizes)};
   }
   const int units = countStandardUnits(raw);
-  return {fromCodePage(raw), false, units, partsFor(units, standardSizes)};
+  return {fromCodePage(raw), false, units, countParts(units, standardSizes)};
 }
 
-QString forLog(const QString& text) {
+QString escapeForLog(const QString& text) {
   QString line;
   line.reserve(text.size());
   for (qsizetype i = 0; i < text.size(); ++i) {

@@ -6,22 +6,22 @@
 
 namespace parlexo::simulator {
 
-/// A text message as it came over the wire and as a person reads it.
+/// A decoded text message.
 struct MessageText {
   QString readable;
   bool unicode = false;
-  int units = 0;  ///< SMS characters: an escaped character of the standard set counts two
-  int parts = 1;  ///< SMS that it takes
+  int units = 0;  ///< number of SMS characters; escaped characters of the standard alphabet count as two
+  int parts = 1;  ///< number of SMS
 };
 
-/// Reads `raw`: "%%UNICODE%%" followed by whole groups of four hexadecimal digits is UTF-16, anything else is
-/// text of the code page.
-[[nodiscard]] MessageText readMessageText(const QByteArray& raw);
+/// Decodes `raw`: "%%UNICODE%%" followed by complete groups of four hexadecimal digits is UTF-16, everything
+/// else is text in the code page.
+[[nodiscard]] MessageText parseMessageText(const QByteArray& raw);
 
-/// Most SMS that one message may take.
-inline constexpr int mostParts = 5;
+/// Maximum number of SMS of one message.
+inline constexpr int maxParts = 5;
 
-/// `text` for a log: lines joined by "⏎", other control characters as "\x1B".
-[[nodiscard]] QString forLog(const QString& text);
+/// Escapes untrusted `text` for a log line: line breaks become "⏎", other control characters "\x1b".
+[[nodiscard]] QString escapeForLog(const QString& text);
 
 }  // namespace parlexo::simulator

@@ -7,12 +7,12 @@
 
 namespace parlexo::simulator {
 
-QString textOf(const std::string& wire) {
+QString toText(const std::string& wire) {
   return fromCodePage(QByteArrayView(wire.data(), static_cast<qsizetype>(wire.size())));
 }
 
 Session* Operations::session(const std::string& token) {
-  return state_.sessions.use(textOf(token), state_.now());
+  return state_.sessions.use(toText(token), state_.now());
 }
 
 Account* Operations::account(const std::string& token) {
@@ -21,42 +21,45 @@ Account* Operations::account(const std::string& token) {
 }
 
 const Account* Operations::accountWithPassword(const std::string& user, const std::string& password) const {
-  const Account* found = std::as_const(state_.accounts).find(textOf(user));
-  const bool matches = found && !found->password.isEmpty() && found->password == textOf(password);
-  return matches ? found : nullptr;
+  const Account* account = std::as_const(state_.accounts).find(toText(user));
+  const bool matches = account && !account->password.isEmpty() && account->password == toText(password);
+  return matches ? account : nullptr;
 }
 
-const char* Operations::keep(const QString& text) {
+const char* Operations::toWire(const QString& text) {
   QString wire;
   for (const char32_t each : text.toUcs4()) {
     const QString character = QString::fromUcs4(&each, 1);
     wire += fitsCodePage(character) ? QString::fromLatin1(toCodePage(character)) : character;
   }
-  return kept_.emplace_back(wire.toUtf8()).constData();
+  return wireTexts_.emplace_back(wire.toUtf8()).constData();
 }
 
-protocol::ResultCode Operations::endSession(const std::string& token) {
-  const bool closed = state_.sessions.close(textOf(token), state_.now());
-  return closed ? protocol::ResultCode::Success : protocol::ResultCode::SessionExpired;
+ResultCode Operations::endSession(const std::string& token) {
+  const bool closed = state_.sessions.close(toText(token), state_.now());
+  return closed ? ResultCode::Success : ResultCode::SessionExpired;
 }
 
-void Operations::handle(const protocol::sessionStart& request, protocol::sessionStartResponse& response) {
-  if (const Account* owner = accountWithPassword(request.sUser, request.sPassword))
-    response.sSession = keep(state_.sessions.open(owner->user, state_.now()));
-  else
-    response.nErrorCode = toNumber(protocol::ResultCode::WrongCredentials);
+ResultCode Operations::handle(const protocol::sessionStart& request,
+                              protocol::sessionStartResponse& response) {
+  const Account* owner = accountWithPassword(request.sUser, request.sPassword);
+  if (!owner) return ResultCode::WrongCredentials;
+  response.sSession = toWire(state_.sessions.open(owner->user, state_.now()));
+  return ResultCode::Success;
 }
 
-void Operations::handle(const protocol::sessionEnd& request, protocol::sessionEndResponse& response) {
-  response.nErrorCode = toNumber(endSession(request.sSession));
+ResultCode Operations::handle(const protocol::sessionEnd& request, protocol::sessionEndResponse&) {
+  return endSession(request.sSession);
 }
 
-void Operations::handle(const protocol::getVersion&, protocol::getVersionResponse& response) {
+ResultCode Operations::handle(const protocol::getVersion&, protocol::getVersionResponse& response) {
   response.nVersion = state_.options.protocolVersion;
+  return ResultCode::Success;
 }
 
-void Operations::handle(const protocol::getNews&, protocol::getNewsResponse& response) {
-  response.sNews = keep(state_.news);
+ResultCode Operations::handle(const protocol::getNews&, protocol::getNewsResponse& response) {
+  response.sNews = toWire(state_.news);
+  return ResultCode::Success;
 }
 
 }  // namespace parlexo::simulator

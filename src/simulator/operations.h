@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <deque>
 #include <string>
+#include <utility>
 
 #include <QByteArray>
 #include <QString>
@@ -17,98 +18,106 @@
 
 namespace parlexo::simulator {
 
-/// Carries out the operations of the gateway on its state: one function for each, from a request record to a
-/// response record. The texts of the responses live as long as this object.
+using protocol::ResultCode;
+
+/// Executes the operations of the gateway on its state. Each operation has an overload of handle(), which
+/// fills the response except for its error code and returns that code. Texts in responses are owned by this
+/// object.
 class Operations {
  public:
+  /// `state` must outlive this object.
   explicit Operations(GatewayState& state) : state_(state) {}
 
-  void handle(const protocol::sessionStart& request, protocol::sessionStartResponse& response);
-  void handle(const protocol::sessionEnd& request, protocol::sessionEndResponse& response);
-  void handle(const protocol::getVersion& request, protocol::getVersionResponse& response);
-  void handle(const protocol::getNews& request, protocol::getNewsResponse& response);
+  [[nodiscard]] ResultCode handle(const protocol::sessionStart& request,
+                                  protocol::sessionStartResponse& response);
+  [[nodiscard]] ResultCode handle(const protocol::sessionEnd& request, protocol::sessionEndResponse&);
+  [[nodiscard]] ResultCode handle(const protocol::getVersion&, protocol::getVersionResponse& response);
+  [[nodiscard]] ResultCode handle(const protocol::getNews&, protocol::getNewsResponse& response);
 
-  void handle(const protocol::sendSms& request, protocol::sendSmsResponse& response);
-  void handle(const protocol::sendMms& request, protocol::sendMmsResponse& response);
-  void handle(const protocol::sendFax& request, protocol::sendFaxResponse& response);
-  void handle(const protocol::sendWap& request, protocol::sendWapResponse& response);
-  void handle(const protocol::sendVoice_Text& request, protocol::sendVoice_TextResponse& response);
-  void handle(const protocol::sendVoice_File& request, protocol::sendVoice_FileResponse& response);
-  void handle(const protocol::getStatus& request, protocol::getStatusResponse& response);
-  /// The schedule holds for the session until it is disabled. A time that has passed means "now".
-  void handle(const protocol::scheduleMessageEnable& request,
-              protocol::scheduleMessageEnableResponse& response);
-  void handle(const protocol::scheduleMessageDisable& request,
-              protocol::scheduleMessageDisableResponse& response);
-  /// The sender ID holds for the session's next message: a client that has none to set makes no call, and
-  /// must not send under the one before.
-  void handle(const protocol::setSmsSenderId& request, protocol::setSmsSenderIdResponse& response);
+  [[nodiscard]] ResultCode handle(const protocol::sendSms& request, protocol::sendSmsResponse& response);
+  [[nodiscard]] ResultCode handle(const protocol::sendMms& request, protocol::sendMmsResponse& response);
+  [[nodiscard]] ResultCode handle(const protocol::sendFax& request, protocol::sendFaxResponse& response);
+  [[nodiscard]] ResultCode handle(const protocol::sendWap& request, protocol::sendWapResponse& response);
+  [[nodiscard]] ResultCode handle(const protocol::sendVoice_Text& request,
+                                  protocol::sendVoice_TextResponse& response);
+  [[nodiscard]] ResultCode handle(const protocol::sendVoice_File& request,
+                                  protocol::sendVoice_FileResponse& response);
+  [[nodiscard]] ResultCode handle(const protocol::getStatus& request, protocol::getStatusResponse& response);
+  /// Schedules all further messages of the session until scheduling is disabled. Messages scheduled for a
+  /// time in the past are sent immediately.
+  [[nodiscard]] ResultCode handle(const protocol::scheduleMessageEnable& request,
+                                  protocol::scheduleMessageEnableResponse&);
+  [[nodiscard]] ResultCode handle(const protocol::scheduleMessageDisable& request,
+                                  protocol::scheduleMessageDisableResponse&);
+  /// Sets the sender ID of the session's next message only: a client without a sender ID does not call this,
+  /// and its message must not be sent with a previous one.
+  [[nodiscard]] ResultCode handle(const protocol::setSmsSenderId& request, protocol::setSmsSenderIdResponse&);
 
-  void handle(const protocol::getAccountBalance& request, protocol::getAccountBalanceResponse& response);
-  void handle(const protocol::getAccountHistory& request, protocol::getAccountHistoryResponse& response);
-  void handle(const protocol::setAccountPassword& request, protocol::setAccountPasswordResponse& response);
-  void handle(const protocol::getEmailMessaging& request, protocol::getEmailMessagingResponse& response);
-  void handle(const protocol::editEmailMessaging& request, protocol::editEmailMessagingResponse& response);
+  [[nodiscard]] ResultCode handle(const protocol::getAccountBalance& request,
+                                  protocol::getAccountBalanceResponse& response);
+  [[nodiscard]] ResultCode handle(const protocol::getAccountHistory& request,
+                                  protocol::getAccountHistoryResponse& response);
+  [[nodiscard]] ResultCode handle(const protocol::setAccountPassword& request,
+                                  protocol::setAccountPasswordResponse&);
+  [[nodiscard]] ResultCode handle(const protocol::getEmailMessaging& request,
+                                  protocol::getEmailMessagingResponse& response);
+  [[nodiscard]] ResultCode handle(const protocol::editEmailMessaging& request,
+                                  protocol::editEmailMessagingResponse&);
 
-  void handle(const protocol::partnerAddUser& request, protocol::partnerAddUserResponse& response);
-  void handle(const protocol::partnerEditUser& request, protocol::partnerEditUserResponse& response);
-  void handle(const protocol::partnerAddEvent& request, protocol::partnerAddEventResponse& response);
-  void handle(const protocol::partnerGetCostByCountry& request,
-              protocol::partnerGetCostByCountryResponse& response);
-  void handle(const protocol::partnerGetCostByPhoneNumber& request,
-              protocol::partnerGetCostByPhoneNumberResponse& response);
-  void handle(const protocol::partnerGetEmailMessaging& request,
-              protocol::partnerGetEmailMessagingResponse& response);
-  void handle(const protocol::partnerEditEmailMessaging& request,
-              protocol::partnerEditEmailMessagingResponse& response);
-  void handle(const protocol::partnerStartSessionForSubUser& request,
-              protocol::partnerStartSessionForSubUserResponse& response);
-  void handle(const protocol::partnerEndSessionForSubUser& request,
-              protocol::partnerEndSessionForSubUserResponse& response);
+  [[nodiscard]] ResultCode handle(const protocol::partnerAddUser& request, protocol::partnerAddUserResponse&);
+  [[nodiscard]] ResultCode handle(const protocol::partnerEditUser& request,
+                                  protocol::partnerEditUserResponse&);
+  [[nodiscard]] ResultCode handle(const protocol::partnerAddEvent& request,
+                                  protocol::partnerAddEventResponse&);
+  [[nodiscard]] ResultCode handle(const protocol::partnerGetCostByCountry& request,
+                                  protocol::partnerGetCostByCountryResponse& response);
+  [[nodiscard]] ResultCode handle(const protocol::partnerGetCostByPhoneNumber& request,
+                                  protocol::partnerGetCostByPhoneNumberResponse& response);
+  [[nodiscard]] ResultCode handle(const protocol::partnerGetEmailMessaging& request,
+                                  protocol::partnerGetEmailMessagingResponse& response);
+  [[nodiscard]] ResultCode handle(const protocol::partnerEditEmailMessaging& request,
+                                  protocol::partnerEditEmailMessagingResponse&);
+  [[nodiscard]] ResultCode handle(const protocol::partnerStartSessionForSubUser& request,
+                                  protocol::partnerStartSessionForSubUserResponse& response);
+  [[nodiscard]] ResultCode handle(const protocol::partnerEndSessionForSubUser& request,
+                                  protocol::partnerEndSessionForSubUserResponse&);
 
-  /// `text` as a response carries it, in UTF-8; lives as long as this object. What the code page has is sent
-  /// as the character of its byte's number, as requests do; only what it lacks is sent as itself.
-  [[nodiscard]] const char* keep(const QString& text);
+  /// Encodes `text` for a response, in UTF-8. Characters of the code page are sent as U+0000 to U+00FF by
+  /// their byte values, like in requests; only others are sent as themselves. The result is owned by this
+  /// object.
+  [[nodiscard]] const char* toWire(const QString& text);
 
-  /// What a person should read in the log about the operation; empty for most.
+  /// Log lines that describe the accepted message; empty for most operations.
   [[nodiscard]] const QStringList& remarks() const { return remarks_; }
 
  private:
-  struct Sending {
-    protocol::ResultCode code = protocol::ResultCode::Success;
-    QString receipts;
-  };
-
+  /// Returns the open session of `token`, or null.
   [[nodiscard]] Session* session(const std::string& token);
+  /// Returns the account of the open session of `token`, or null.
   [[nodiscard]] Account* account(const std::string& token);
+  /// Returns the account if the password is correct, otherwise null.
   [[nodiscard]] const Account* accountWithPassword(const std::string& user,
                                                    const std::string& password) const;
-  /// The account `user` when it belongs to the one of the session.
+  /// Returns the account of `user` if it is below `parent`, otherwise null.
   [[nodiscard]] Account* subAccount(const Account& parent, const std::string& user);
-  [[nodiscard]] protocol::ResultCode check(const AcceptedMessage& message) const;
-  [[nodiscard]] Sending send(const std::string& token, AcceptedMessage message, const std::string& numbers);
-  [[nodiscard]] std::int64_t costOf(const AcceptedMessage& message) const;
-  [[nodiscard]] protocol::ResultCode endSession(const std::string& token);
+  [[nodiscard]] ResultCode endSession(const std::string& token);
+  [[nodiscard]] ResultCode validate(const AcceptedMessage& message) const;
+  [[nodiscard]] std::int64_t totalCost(const AcceptedMessage& message) const;
+  /// Completes `message` and accepts it for delivery. Returns the list of receipts, empty on failure.
+  [[nodiscard]] std::pair<ResultCode, QString> accept(const std::string& token, AcceptedMessage message,
+                                                      const std::string& numbers);
+  template <class Request, class Response>
+  [[nodiscard]] ResultCode send(const Request& request, AcceptedMessage&& message, Response& response);
 
   GatewayState& state_;
-  std::deque<QByteArray> kept_;
+  std::deque<QByteArray> wireTexts_;
   QStringList remarks_;
 };
 
-/// Text of a request as characters.
-[[nodiscard]] QString textOf(const std::string& wire);
+/// Decodes a text of a request.
+[[nodiscard]] QString toText(const std::string& wire);
 
-/// Reads "YYYY/MM/DD hh:mm:ss" as a moment of GMT; invalid when it is anything else.
-[[nodiscard]] QDateTime readSchedule(const QString& text);
-
-/// What a message of this type costs to one number, an SMS for each of its parts, in hundredths.
-[[nodiscard]] std::int64_t priceOf(const Tariff& tariff, MessageType type);
-
-/// A sender ID is a phone number ("+" and 5 to 15 digits, the plus optional) or up to 11 letters, digits and
-/// blanks.
-[[nodiscard]] bool isSenderId(const QString& text);
-
-/// Whether delivery to `number` fails: it ends in 99 or is not "+" and digits.
-[[nodiscard]] bool isUndeliverable(const QString& number);
+/// Price of one message to one number in hundredths of the account's currency; for an SMS, of each part.
+[[nodiscard]] std::int64_t unitPrice(const Tariff& tariff, MessageType type);
 
 }  // namespace parlexo::simulator

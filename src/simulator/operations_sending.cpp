@@ -5,7 +5,6 @@
 #include <QCryptographicHash>
 #include <QRegularExpression>
 
-#include "simulator/message_remarks.h"
 #include "simulator/message_text.h"
 #include "simulator/operations.h"
 
@@ -15,32 +14,26 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr qsizetype longestDescription = 10240;
-constexpr qsizetype longestNote = 120;
-
-AcceptedMessage messageOf(MessageType type) {
-  AcceptedMessage message;
-  message.type = type;
-  return message;
-}
+constexpr qsizetype maxDescriptionLength = 10240;
+constexpr qsizetype maxNoteLength = 120;
 
 void addText(AcceptedMessage& message, const std::string& text) {
   message.rawText = QByteArray::fromStdString(text);
-  const MessageText read = readMessageText(message.rawText);
-  message.text = read.readable;
-  message.unicode = read.unicode;
-  message.parts = message.type == MessageType::Sms ? read.parts : 1;
+  const MessageText parsed = parseMessageText(message.rawText);
+  message.text = parsed.readable;
+  message.unicode = parsed.unicode;
+  message.parts = message.type == MessageType::Sms ? parsed.parts : 1;
 }
 
 void addFile(AcceptedMessage& message, const std::string& name, const protocol::BinaryData& file) {
-  message.fileName = textOf(name);
+  message.fileName = toText(name);
   message.fileSize = file.length;
   const QByteArrayView bytes(reinterpret_cast<const char*>(file.data), file.data ? file.length : 0);
   message.fileSha256 = QCryptographicHash::hash(bytes.toByteArray(), QCryptographicHash::Sha256).toHex();
 }
 
 QStringList splitNumbers(const std::string& list) {
-  return list.empty() ? QStringList() : textOf(list).split(u',');
+  return list.empty() ? QStringList() : toText(list).split(u',');
 }
 
 QString joinReceipts(const AcceptedMessage& message) {
@@ -53,8 +46,8 @@ QString joinReceipts(const AcceptedMessage& message) {
 
 QString historyNote(const AcceptedMessage& message) {
   const qsizetype count = message.numbers.size();
-  const QString form = count == 1 ? u"%1 to %2 number"_s : u"%1 to %2 numbers"_s;
-  return form.arg(toWord(message.type)).arg(count);
+  const QString format = count == 1 ? u"%1 to %2 number"_s : u"%1 to %2 numbers"_s;
+  return format.arg(toWord(message.type)).arg(count);
 }
 
 bool needsText(MessageType type, bool hasFile) {
@@ -69,11 +62,11 @@ bool isTextTooLong(const AcceptedMessage& message) {
   switch (message.type) {
     case MessageType::Sms:
     case MessageType::Voice:
-      return message.parts > mostParts;
+      return message.parts > maxParts;
     case MessageType::Mms:
-      return message.text.size() > longestDescription;
+      return message.text.size() > maxDescriptionLength;
     case MessageType::Wap:
-      return message.text.size() > longestNote;
+      return message.text.size() > maxNoteLength;
     case MessageType::Fax:
       return false;
   }
@@ -81,13 +74,12 @@ bool isTextTooLong(const AcceptedMessage& message) {
 }
 
 int fileLimit(const Options& options, MessageType type) {
-  const bool toMobile = type == MessageType::Mms || type == MessageType::Wap;
-  return toMobile ? options.maxMobileFileSize : options.maxFileSize;
+  const bool isForMobile = type == MessageType::Mms || type == MessageType::Wap;
+  return isForMobile ? options.maxMobileFileSize : options.maxFileSize;
 }
 
-}  // namespace
-
-QDateTime readSchedule(const QString& text) {
+// Parses "YYYY/MM/DD hh:mm:ss" in GMT. Returns an invalid time if the format is wrong.
+QDateTime parseSchedule(const QString& text) {
   static const QRegularExpression form(u"\\A[0-9]{4}/[0-9]{2}/[0-9]{2} [0-9]{2}:[0-9]{2}:[0-9]{2}\\z"_s);
   if (!form.match(text).hasMatch()) return {};
   QDateTime time = QDateTime::fromString(text, u"yyyy/MM/dd HH:mm:ss"_s);
@@ -95,6 +87,8 @@ QDateTime readSchedule(const QString& text) {
   return time;
 }
 
+// A sender ID is a phone number (5 to 15 digits, optionally after "+") or up to 11 letters, digits and
+// spaces.
 bool isSenderId(const QString& text) {
   static const QRegularExpression number(u"\\A\\+?[0-9]{5,15}\\z"_s);
   static const QRegularExpression name(u"\\A[A-Za-z0-9 ]{1,11}\\z"_s);
@@ -106,7 +100,9 @@ bool isUndeliverable(const QString& number) {
   return number.endsWith(QLatin1String("99")) || !form.match(number).hasMatch();
 }
 
-std::int64_t priceOf(const Tariff& tariff, MessageType type) {
+}  // namespace
+
+std::int64_t unitPrice(const Tariff& tariff, MessageType type) {
   switch (type) {
     case MessageType::Sms:
       return tariff.smsPart;
@@ -122,146 +118,126 @@ std::int64_t priceOf(const Tariff& tariff, MessageType type) {
   return 0;
 }
 
-std::int64_t Operations::costOf(const AcceptedMessage& message) const {
+std::int64_t Operations::totalCost(const AcceptedMessage& message) const {
   const auto delivered =
       message.numbers.size() - std::count_if(message.numbers.begin(), message.numbers.end(), isUndeliverable);
-  return priceOf(state_.options.tariff, message.type) * message.parts * delivered;
+  return unitPrice(state_.options.tariff, message.type) * message.parts * delivered;
 }
 
-protocol::ResultCode Operations::check(const AcceptedMessage& message) const {
+ResultCode Operations::validate(const AcceptedMessage& message) const {
   const bool hasFile = needsFile(message);
-  if (!hasFile && message.text.isEmpty()) return protocol::ResultCode::EmptyMessage;
-  if (isTextTooLong(message)) return protocol::ResultCode::MessageTooLong;
-  const bool goodFile = !message.fileName.isEmpty() && message.fileSize > 0 &&
-                        message.fileSize <= fileLimit(state_.options, message.type);
-  if (hasFile && !goodFile) return protocol::ResultCode::BadFile;
-  return message.numbers.isEmpty() ? protocol::ResultCode::NoRecipients : protocol::ResultCode::Success;
+  if (!hasFile && message.text.isEmpty()) return ResultCode::EmptyMessage;
+  if (isTextTooLong(message)) return ResultCode::MessageTooLong;
+  const bool isValidFile = !message.fileName.isEmpty() && message.fileSize > 0 &&
+                           message.fileSize <= fileLimit(state_.options, message.type);
+  if (hasFile && !isValidFile) return ResultCode::BadFile;
+  return message.numbers.isEmpty() ? ResultCode::NoRecipients : ResultCode::Success;
 }
 
-Operations::Sending Operations::send(const std::string& token, AcceptedMessage message,
-                                     const std::string& numbers) {
+std::pair<ResultCode, QString> Operations::accept(const std::string& token, AcceptedMessage message,
+                                                  const std::string& numbers) {
   Session* open = session(token);
   Account* account = open ? state_.accounts.find(open->user) : nullptr;
-  if (!account) return {protocol::ResultCode::SessionExpired, {}};
+  if (!account) return {ResultCode::SessionExpired, {}};
   message.numbers = splitNumbers(numbers);
-  const protocol::ResultCode checked = check(message);
-  if (checked != protocol::ResultCode::Success) return {checked, {}};
-  message.costCents = costOf(message);
-  if (message.costCents > account->balanceCents) return {protocol::ResultCode::BalanceTooLow, {}};
+  const ResultCode code = validate(message);
+  if (code != ResultCode::Success) return {code, {}};
+  message.costCents = totalCost(message);
+  if (message.costCents > account->balanceCents) return {ResultCode::BalanceTooLow, {}};
 
   message.user = account->user;
   message.time = state_.now();
   message.schedule = open->schedule;
   message.senderId = std::exchange(open->senderId, {});
-  const AcceptedMessage& taken = state_.outbox.take(std::move(message), isUndeliverable);
-  state_.accounts.post(*account, -taken.costCents, taken.time, historyNote(taken));
-  remarks_ = remarksOn(taken);
-  return {protocol::ResultCode::Success, joinReceipts(taken)};
+  const AcceptedMessage& accepted = state_.outbox.accept(std::move(message), isUndeliverable);
+  state_.accounts.post(*account, -accepted.costCents, accepted.time, historyNote(accepted));
+  remarks_ = toLogLines(accepted);
+  return {ResultCode::Success, joinReceipts(accepted)};
 }
 
-namespace {
-
-template <class Sending, class Response>
-void report(const Sending& sending, Response& response, const char* receipts) {
-  response.nErrorCode = toNumber(sending.code);
-  response.sListReciepts = receipts;
+template <class Request, class Response>
+ResultCode Operations::send(const Request& request, AcceptedMessage&& message, Response& response) {
+  const auto [code, receipts] = accept(request.sSession, std::move(message), request.sListPhoneNumbers);
+  response.sListReciepts = toWire(receipts);
+  return code;
 }
 
-}  // namespace
-
-void Operations::handle(const protocol::sendSms& request, protocol::sendSmsResponse& response) {
-  AcceptedMessage message = messageOf(MessageType::Sms);
+ResultCode Operations::handle(const protocol::sendSms& request, protocol::sendSmsResponse& response) {
+  AcceptedMessage message{.type = MessageType::Sms, .flash = request.bFlash};
   addText(message, request.sMessage);
-  message.flash = request.bFlash;
-  const Sending sending = send(request.sSession, std::move(message), request.sListPhoneNumbers);
-  report(sending, response, keep(sending.receipts));
+  return send(request, std::move(message), response);
 }
 
-void Operations::handle(const protocol::sendMms& request, protocol::sendMmsResponse& response) {
-  AcceptedMessage message = messageOf(MessageType::Mms);
+ResultCode Operations::handle(const protocol::sendMms& request, protocol::sendMmsResponse& response) {
+  AcceptedMessage message{.type = MessageType::Mms};
   addText(message, request.sDescription);
   addFile(message, request.sFileName, request.oData);
-  const Sending sending = send(request.sSession, std::move(message), request.sListPhoneNumbers);
-  report(sending, response, keep(sending.receipts));
+  return send(request, std::move(message), response);
 }
 
-void Operations::handle(const protocol::sendFax& request, protocol::sendFaxResponse& response) {
-  AcceptedMessage message = messageOf(MessageType::Fax);
+ResultCode Operations::handle(const protocol::sendFax& request, protocol::sendFaxResponse& response) {
+  AcceptedMessage message{.type = MessageType::Fax};
   addFile(message, request.sFileName, request.oData);
-  const Sending sending = send(request.sSession, std::move(message), request.sListPhoneNumbers);
-  report(sending, response, keep(sending.receipts));
+  return send(request, std::move(message), response);
 }
 
-void Operations::handle(const protocol::sendWap& request, protocol::sendWapResponse& response) {
-  AcceptedMessage message = messageOf(MessageType::Wap);
+ResultCode Operations::handle(const protocol::sendWap& request, protocol::sendWapResponse& response) {
+  AcceptedMessage message{.type = MessageType::Wap};
   addText(message, request.sMessage);
   addFile(message, request.sFileName, request.oData);
-  const Sending sending = send(request.sSession, std::move(message), request.sListPhoneNumbers);
-  report(sending, response, keep(sending.receipts));
+  return send(request, std::move(message), response);
 }
 
-void Operations::handle(const protocol::sendVoice_Text& request, protocol::sendVoice_TextResponse& response) {
-  AcceptedMessage message = messageOf(MessageType::Voice);
+ResultCode Operations::handle(const protocol::sendVoice_Text& request,
+                              protocol::sendVoice_TextResponse& response) {
+  AcceptedMessage message{.type = MessageType::Voice};
   addText(message, request.sMessage);
-  const Sending sending = send(request.sSession, std::move(message), request.sListPhoneNumbers);
-  report(sending, response, keep(sending.receipts));
+  return send(request, std::move(message), response);
 }
 
-void Operations::handle(const protocol::sendVoice_File& request, protocol::sendVoice_FileResponse& response) {
-  AcceptedMessage message = messageOf(MessageType::Voice);
+ResultCode Operations::handle(const protocol::sendVoice_File& request,
+                              protocol::sendVoice_FileResponse& response) {
+  AcceptedMessage message{.type = MessageType::Voice};
   addFile(message, request.sFileName, request.oData);
-  const Sending sending = send(request.sSession, std::move(message), request.sListPhoneNumbers);
-  report(sending, response, keep(sending.receipts));
+  return send(request, std::move(message), response);
 }
 
-void Operations::handle(const protocol::getStatus& request, protocol::getStatusResponse& response) {
+ResultCode Operations::handle(const protocol::getStatus& request, protocol::getStatusResponse& response) {
   const Account* owner = account(request.sSession);
-  if (!owner) {
-    response.nErrorCode = toNumber(protocol::ResultCode::SessionExpired);
-    return;
-  }
-  const auto state = state_.outbox.state(owner->user, textOf(request.sReciept), state_.now());
-  if (state)
-    response.sStatus = keep(*state);
-  else
-    response.nErrorCode = toNumber(protocol::ResultCode::UnknownReceipt);
+  if (!owner) return ResultCode::SessionExpired;
+  const auto status = state_.outbox.status(owner->user, toText(request.sReciept), state_.now());
+  if (!status) return ResultCode::UnknownReceipt;
+  response.sStatus = toWire(*status);
+  return ResultCode::Success;
 }
 
-void Operations::handle(const protocol::scheduleMessageEnable& request,
-                        protocol::scheduleMessageEnableResponse& response) {
+ResultCode Operations::handle(const protocol::scheduleMessageEnable& request,
+                              protocol::scheduleMessageEnableResponse&) {
   Session* open = session(request.sSession);
-  if (!open) {
-    response.nErrorCode = toNumber(protocol::ResultCode::SessionExpired);
-    return;
-  }
-  const QDateTime time = readSchedule(textOf(request.sDateTimeGmt));
+  if (!open) return ResultCode::SessionExpired;
+  const QDateTime time = parseSchedule(toText(request.sDateTimeGmt));
   const QDateTime latest = state_.now().addDays(state_.options.scheduleDaysAhead);
-  if (!time.isValid() || time > latest) {
-    response.nErrorCode = toNumber(protocol::ResultCode::BadSchedule);
-    return;
-  }
+  if (!time.isValid() || time > latest) return ResultCode::BadSchedule;
   open->schedule = time;
+  return ResultCode::Success;
 }
 
-void Operations::handle(const protocol::scheduleMessageDisable& request,
-                        protocol::scheduleMessageDisableResponse& response) {
+ResultCode Operations::handle(const protocol::scheduleMessageDisable& request,
+                              protocol::scheduleMessageDisableResponse&) {
   Session* open = session(request.sSession);
-  if (open)
-    open->schedule.reset();
-  else
-    response.nErrorCode = toNumber(protocol::ResultCode::SessionExpired);
+  if (!open) return ResultCode::SessionExpired;
+  open->schedule.reset();
+  return ResultCode::Success;
 }
 
-void Operations::handle(const protocol::setSmsSenderId& request, protocol::setSmsSenderIdResponse& response) {
+ResultCode Operations::handle(const protocol::setSmsSenderId& request, protocol::setSmsSenderIdResponse&) {
   Session* open = session(request.sSession);
   const Account* owner = open ? state_.accounts.find(open->user) : nullptr;
-  const QString senderId = textOf(request.sSenderId);
-  if (!owner)
-    response.nErrorCode = toNumber(protocol::ResultCode::SessionExpired);
-  else if (!owner->maySetSenderId || !isSenderId(senderId))
-    response.nErrorCode = toNumber(protocol::ResultCode::SenderIdRefused);
-  else
-    open->senderId = senderId;
+  const QString senderId = toText(request.sSenderId);
+  if (!owner) return ResultCode::SessionExpired;
+  if (!owner->maySetSenderId || !isSenderId(senderId)) return ResultCode::SenderIdRefused;
+  open->senderId = senderId;
+  return ResultCode::Success;
 }
 
 }  // namespace parlexo::simulator

@@ -21,20 +21,21 @@ Outbox::Outbox(std::chrono::milliseconds deliveryStep, const QDateTime& started)
     : deliveryStep_(deliveryStep),
       receiptPrefix_(QString::number(started.toSecsSinceEpoch(), 16).toUpper()) {}
 
-std::optional<QString> Outbox::state(const QString& user, const QString& receipt,
-                                     const QDateTime& now) const {
+std::optional<QString> Outbox::status(const QString& user, const QString& receipt,
+                                      const QDateTime& now) const {
   if (receipt == failedReceipt()) return notAccepted;
-  const auto found = deliveries_.find(receipt);
-  if (found == deliveries_.end() || found->second.user != user) return std::nullopt;
-  const QDateTime& begins = found->second.begins;
-  if (!begins.isValid()) return delivered;
-  const qint64 elapsed = begins.msecsTo(now);
+  const auto it = deliveries_.find(receipt);
+  if (it == deliveries_.end()) return std::nullopt;
+  const auto& [owner, start] = it->second;
+  if (owner != user) return std::nullopt;
+  if (!start.isValid()) return delivered;
+  const qint64 elapsed = start.msecsTo(now);
   if (elapsed < deliveryStep_.count()) return queued;
   return elapsed < 2 * deliveryStep_.count() ? sent : delivered;
 }
 
-void Outbox::remember(const QString& user, const QString& receipt) {
-  deliveries_[receipt] = Delivery{user, {}};
+void Outbox::addDelivered(const QString& user, const QString& receipt) {
+  deliveries_[receipt] = {user, {}};
 }
 
 QString Outbox::nextReceipt() {
@@ -42,9 +43,9 @@ QString Outbox::nextReceipt() {
 }
 
 const AcceptedMessage& Outbox::store(AcceptedMessage message) {
-  const QDateTime begins = std::max(message.schedule.value_or(message.time), message.time);
+  const QDateTime start = std::max(message.schedule.value_or(message.time), message.time);
   for (const QString& receipt : std::as_const(message.receipts))
-    if (receipt != failedReceipt()) deliveries_[receipt] = Delivery{message.user, begins};
+    if (receipt != failedReceipt()) deliveries_[receipt] = {message.user, start};
   messages_.push_back(std::move(message));
   return messages_.back();
 }

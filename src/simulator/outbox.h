@@ -4,6 +4,7 @@
 #include <chrono>
 #include <map>
 #include <optional>
+#include <utility>
 #include <vector>
 
 #include <QDateTime>
@@ -13,35 +14,30 @@
 
 namespace parlexo::simulator {
 
-/// The messages on their way: hands out receipts and knows how far each message has come.
+/// The accepted messages with their receipts and delivery statuses.
 class Outbox {
  public:
-  /// `started` makes the receipts of one run differ from those of every other.
+  /// The delivery status advances every `deliveryStep`. The start time makes receipts unique across runs.
   Outbox(std::chrono::milliseconds deliveryStep, const QDateTime& started);
 
-  /// Takes `message` for delivery; gives every number its receipt, "FAIL" where `failed(number)`.
+  /// Accepts `message` and adds a receipt for each number, "FAIL" if `failed(number)`.
   template <class Failed>
-  const AcceptedMessage& take(AcceptedMessage message, Failed failed) {
+  const AcceptedMessage& accept(AcceptedMessage message, Failed failed) {
     for (const QString& number : message.numbers)
       message.receipts.append(failed(number) ? failedReceipt() : nextReceipt());
     return store(std::move(message));
   }
 
-  /// How far the message with `receipt` has come for `user`; none when that user has no such message.
-  [[nodiscard]] std::optional<QString> state(const QString& user, const QString& receipt,
-                                             const QDateTime& now) const;
-  /// Takes in a receipt of earlier days, long delivered.
-  void remember(const QString& user, const QString& receipt);
+  /// Returns the delivery status of `receipt`, or nullopt if `user` has no such message.
+  [[nodiscard]] std::optional<QString> status(const QString& user, const QString& receipt,
+                                              const QDateTime& now) const;
+  /// Adds the receipt of an earlier message that has been delivered.
+  void addDelivered(const QString& user, const QString& receipt);
 
   [[nodiscard]] const std::vector<AcceptedMessage>& messages() const { return messages_; }
   [[nodiscard]] static QString failedReceipt() { return QStringLiteral("FAIL"); }
 
  private:
-  struct Delivery {
-    QString user;
-    QDateTime begins;  ///< invalid: delivered long ago
-  };
-
   [[nodiscard]] QString nextReceipt();
   const AcceptedMessage& store(AcceptedMessage message);
 
@@ -49,7 +45,8 @@ class Outbox {
   QString receiptPrefix_;
   int lastReceipt_ = 0;
   std::vector<AcceptedMessage> messages_;
-  std::map<QString, Delivery> deliveries_;
+  /// User and start of delivery by receipt; an invalid start means delivered.
+  std::map<QString, std::pair<QString, QDateTime>> deliveries_;
 };
 
 }  // namespace parlexo::simulator

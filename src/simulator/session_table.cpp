@@ -20,31 +20,31 @@ QString newToken() {
 }  // namespace
 
 QString SessionTable::open(const QString& user, const QDateTime& now) {
-  forgetExpired(now);
+  removeExpired(now);
   QString token = newToken();
   sessions_[token] = Session{user, now, std::nullopt, {}};
   return token;
 }
 
 Session* SessionTable::use(const QString& token, const QDateTime& now) {
-  forgetExpired(now);
-  const auto found = sessions_.find(token);
-  if (found == sessions_.end()) return nullptr;
-  found->second.lastUse = now;
-  return &found->second;
+  removeExpired(now);
+  const auto it = sessions_.find(token);
+  if (it == sessions_.end()) return nullptr;
+  it->second.lastUse = now;
+  return &it->second;
 }
 
 bool SessionTable::close(const QString& token, const QDateTime& now) {
-  forgetExpired(now);
+  removeExpired(now);
   return sessions_.erase(token) > 0;
 }
 
 int SessionTable::countOpen(const QDateTime& now) {
-  forgetExpired(now);
+  removeExpired(now);
   return static_cast<int>(sessions_.size());
 }
 
-void SessionTable::forgetExpired(const QDateTime& now) {
+void SessionTable::removeExpired(const QDateTime& now) {
   std::erase_if(sessions_,
                 [&](const auto& entry) { return entry.second.lastUse.msecsTo(now) >= lifetime_.count(); });
 }

@@ -10,30 +10,31 @@
 
 namespace parlexo::simulator {
 
-/// What the gateway remembers between the calls of one login.
+/// The state of a login between calls.
 struct Session {
   QString user;
   QDateTime lastUse;
-  std::optional<QDateTime> schedule;  ///< when the next messages go out, UTC; none for at once
-  QString senderId;                   ///< for the next message; empty for none
+  std::optional<QDateTime> schedule;  ///< delivery time of the next messages, UTC; nullopt for immediately
+  QString senderId;                   ///< of the next message; empty for none
 };
 
-/// The open sessions by their tokens. A session expires when it has not been used for its lifetime.
+/// The open sessions by token. A session expires after it has been idle for the lifetime.
 class SessionTable {
  public:
   explicit SessionTable(std::chrono::milliseconds lifetime) : lifetime_(lifetime) {}
 
-  /// Opens a session and returns its token, which cannot be guessed.
+  /// Opens a session and returns its unguessable token.
   [[nodiscard]] QString open(const QString& user, const QDateTime& now);
-  /// The live session with this token, its lifetime begun anew; null when there is none.
+  /// Returns the session of `token` and restarts its idle time; null if there is none.
   [[nodiscard]] Session* use(const QString& token, const QDateTime& now);
-  /// False when there was no live session with this token.
+  /// Returns false if there is no open session with this token.
   bool close(const QString& token, const QDateTime& now);
   void closeAll() { sessions_.clear(); }
+  /// The number of open sessions.
   [[nodiscard]] int countOpen(const QDateTime& now);
 
  private:
-  void forgetExpired(const QDateTime& now);
+  void removeExpired(const QDateTime& now);
 
   std::chrono::milliseconds lifetime_;
   std::map<QString, Session> sessions_;

@@ -7,21 +7,20 @@
 
 #include <QThread>
 
+#include "server/gateway_replies.h"
 #include "server/http_server.h"
-#include "server/locator_document.h"
 #include "simulator/gateway_service.h"
 
 namespace parlexo::simulator {
 
 using namespace Qt::StringLiterals;
 
-/// The service and the thread that serves it. The mutex guards starting and stopping; the service has its
-/// own.
+/// The service with its server and thread. The mutex serialises start() and stop(); the service locks itself.
 class Simulator::Engine {
  public:
   explicit Engine(const Options& options) : options_(options), service_(options) {
     thread_.setObjectName(u"gateway simulator"_s);
-    // Without a context the call is made on the thread that finishes: the server must end where it lived.
+    // A connection without a context object runs on the finishing thread, where the server must be destroyed.
     QObject::connect(&thread_, &QThread::finished, [this] { server_.reset(); });
   }
   ~Engine() { stop(); }
@@ -36,19 +35,19 @@ class Simulator::Engine {
   [[nodiscard]] GatewayService& service() { return service_; }
 
  private:
-  [[nodiscard]] std::unique_ptr<server::HttpServer> newServer();
-  void endThread();
+  [[nodiscard]] std::unique_ptr<server::HttpServer> createServer();
+  void stopThread();
 
   const Options options_;
   GatewayService service_;
   mutable std::mutex mutex_;
   QThread thread_;
-  std::unique_ptr<server::HttpServer> server_;  // made here, then lives and dies on thread_
+  std::unique_ptr<server::HttpServer> server_;  // used and destroyed on thread_
   std::atomic<quint16> port_ = 0;
   QString errorText_;
 };
 
-std::unique_ptr<server::HttpServer> Simulator::Engine::newServer() {
+std::unique_ptr<server::HttpServer> Simulator::Engine::createServer() {
   server::HttpHooks hooks{[this] { return service_.refusesConnection(); },
                           [this](const server::HttpRequest& request) { return service_.answer(request); }};
   return std::make_unique<server::HttpServer>(std::move(hooks), options_.requestTimeout, options_.uploadRate);
@@ -57,27 +56,27 @@ std::unique_ptr<server::HttpServer> Simulator::Engine::newServer() {
 bool Simulator::Engine::start() {
   const std::lock_guard lock(mutex_);
   if (server_) return true;
-  server_ = newServer();
+  server_ = createServer();
   server_->moveToThread(&thread_);
   thread_.start();
-  bool listening = false;
+  bool isListening = false;
   QMetaObject::invokeMethod(
-      server_.get(), [&] { listening = server_->listen(options_.address, options_.port); },
+      server_.get(), [&] { isListening = server_->listen(options_.address, options_.port); },
       Qt::BlockingQueuedConnection);
-  if (listening)
+  if (isListening)
     port_ = server_->serverPort();
   else
     errorText_ = server_->errorString();
-  if (!listening) endThread();
-  return listening;
+  if (!isListening) stopThread();
+  return isListening;
 }
 
 void Simulator::Engine::stop() {
   const std::lock_guard lock(mutex_);
-  if (server_) endThread();
+  if (server_) stopThread();
 }
 
-void Simulator::Engine::endThread() {
+void Simulator::Engine::stopThread() {
   thread_.quit();
   thread_.wait();
 }
@@ -88,7 +87,7 @@ QString Simulator::Engine::errorText() const {
 }
 
 QString Simulator::Engine::site() const {
-  // A gateway that listens everywhere is reached here by the loopback address.
+  // A gateway that listens on all addresses is reachable by the loopback address.
   const bool everywhere = options_.address == QHostAddress::Any || options_.address == QHostAddress::AnyIPv4;
   const QHostAddress address = everywhere ? QHostAddress(QHostAddress::LocalHost) : options_.address;
   return u"http://%1:%2"_s.arg(server::hostText(address)).arg(port());
@@ -119,22 +118,22 @@ QString Simulator::site() const {
 }
 
 bool Simulator::setFault(const Fault& fault) {
-  if (!problemWith(fault).isEmpty()) return false;
-  engine_->service().with([&fault](ServiceState& state) { state.faults.add(fault); });
+  if (!findProblem(fault).isEmpty()) return false;
+  engine_->service().with([&fault](GatewayState& state) { state.faults.add(fault); });
   return true;
 }
 
 void Simulator::clearFaults() {
-  engine_->service().with([](ServiceState& state) { state.faults.clear(); });
+  engine_->service().with([](GatewayState& state) { state.faults.clear(); });
 }
 
 void Simulator::expireSessions() {
-  engine_->service().with([](ServiceState& state) { state.gateway.sessions.closeAll(); });
+  engine_->service().with([](GatewayState& state) { state.sessions.closeAll(); });
 }
 
 bool Simulator::setBalance(const QString& user, double balance) {
-  return engine_->service().with([&](ServiceState& state) {
-    Account* account = state.gateway.accounts.find(user);
+  return engine_->service().with([&](GatewayState& state) {
+    Account* account = state.accounts.find(user);
     if (account) account->balanceCents = toCents(balance);
     return account != nullptr;
   });
@@ -142,47 +141,47 @@ bool Simulator::setBalance(const QString& user, double balance) {
 
 bool Simulator::rememberTransaction(const QString& user, double amount, const QDateTime& date,
                                     const QString& description) {
-  return engine_->service().with([&](ServiceState& state) {
-    Account* account = state.gateway.accounts.find(user);
+  return engine_->service().with([&](GatewayState& state) {
+    Account* account = state.accounts.find(user);
     if (!account) return false;
     const std::int64_t balance = account->balanceCents;
-    state.gateway.accounts.post(*account, toCents(amount), date, description);
+    state.accounts.post(*account, toCents(amount), date, description);
     account->balanceCents = balance;
     return true;
   });
 }
 
 double Simulator::balance(const QString& user) const {
-  return engine_->service().with([&user](ServiceState& state) {
-    const Account* account = state.gateway.accounts.find(user);
+  return engine_->service().with([&user](GatewayState& state) {
+    const Account* account = state.accounts.find(user);
     return account ? toAmount(account->balanceCents) : 0.0;
   });
 }
 
 EmailPreferences Simulator::emailPreferences(const QString& user) const {
-  return engine_->service().with([&user](ServiceState& state) {
-    const Account* account = state.gateway.accounts.find(user);
+  return engine_->service().with([&user](GatewayState& state) {
+    const Account* account = state.accounts.find(user);
     return account ? account->emailPreferences : EmailPreferences{};
   });
 }
 
 bool Simulator::hasPassword(const QString& user, const QString& password) const {
-  return engine_->service().with([&](ServiceState& state) {
-    const Account* account = state.gateway.accounts.find(user);
+  return engine_->service().with([&](GatewayState& state) {
+    const Account* account = state.accounts.find(user);
     return account && account->password == password;
   });
 }
 
 void Simulator::rememberReceipt(const QString& user, const QString& receipt) {
-  engine_->service().with([&](ServiceState& state) { state.gateway.outbox.remember(user, receipt); });
+  engine_->service().with([&](GatewayState& state) { state.outbox.addDelivered(user, receipt); });
 }
 
 std::vector<AcceptedMessage> Simulator::messages() const {
-  return engine_->service().with([](ServiceState& state) { return state.gateway.outbox.messages(); });
+  return engine_->service().with([](GatewayState& state) { return state.outbox.messages(); });
 }
 
 std::vector<RecordedCall> Simulator::calls() const {
-  return engine_->service().with([](ServiceState& state) { return state.calls; });
+  return engine_->service().with([](GatewayState& state) { return state.calls; });
 }
 
 QStringList Simulator::calledOperations() const {
@@ -192,16 +191,15 @@ QStringList Simulator::calledOperations() const {
 }
 
 int Simulator::openSessions() const {
-  return engine_->service().with(
-      [](ServiceState& state) { return state.gateway.sessions.countOpen(state.gateway.now()); });
+  return engine_->service().with([](GatewayState& state) { return state.sessions.countOpen(state.now()); });
 }
 
 QString Simulator::news() const {
-  return engine_->service().with([](ServiceState& state) { return state.gateway.news; });
+  return engine_->service().with([](GatewayState& state) { return state.news; });
 }
 
 void Simulator::setNews(const QString& news) {
-  engine_->service().with([&news](ServiceState& state) { state.gateway.news = news; });
+  engine_->service().with([&news](GatewayState& state) { state.news = news; });
 }
 
 }  // namespace parlexo::simulator

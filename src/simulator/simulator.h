@@ -14,8 +14,8 @@
 
 namespace parlexo::simulator {
 
-/// A gateway that lives inside the process: it serves the locator document and all operations over a real
-/// connection, on a thread of its own. Every function may be called from any thread.
+/// A gateway inside the process. It serves the locator document and all operations over TCP, on a separate
+/// thread. Thread-safe.
 class Simulator {
  public:
   explicit Simulator(const Options& options = {});
@@ -23,42 +23,43 @@ class Simulator {
   Simulator(const Simulator&) = delete;
   Simulator& operator=(const Simulator&) = delete;
 
-  /// Begins to listen; true when it does or did already. On failure errorText() tells why (the port is taken
-  /// or may not be used). Accounts, sessions and messages last from one start to the next.
+  /// Starts to listen. Returns true on success or if already listening; otherwise errorText() is set.
+  /// Accounts, sessions and messages survive stop() and another start().
   [[nodiscard]] bool start();
-  /// Ends every connection and stops listening, so that clients are refused; harmless when stopped.
+  /// Closes all connections and stops listening; a no-op if stopped.
   void stop();
-  /// The port of the last successful start; 0 before it.
+  /// The port of the last successful start; 0 before.
   [[nodiscard]] quint16 port() const;
+  /// Why the last start failed.
   [[nodiscard]] QString errorText() const;
-  /// The address for the client's option --site, "http://HOST:PORT".
+  /// The URL "http://HOST:PORT" for the client's option --site.
   [[nodiscard]] QString site() const;
 
-  /// Adds a misbehaviour. Several may stand for the same operation: the oldest applies, one that is set for
-  /// the next call goes away with it. False, and nothing set, when problemWith() the fault.
+  /// Adds a fault. If several match a call, only the oldest applies. Returns false without a change if
+  /// `fault` is invalid according to findProblem().
   bool setFault(const Fault& fault);
   void clearFaults();
 
-  /// Makes every session answer 7 from now on.
+  /// Ends all sessions; further calls with their tokens return ResultCode::SessionExpired.
   void expireSessions();
-  /// Sets an account's balance, rounded to hundredths. False when there is no such user.
+  /// Sets an account's balance, rounded to hundredths. Returns false if there is no such user.
   bool setBalance(const QString& user, double balance);
-  /// The balance of an account; 0 when there is no such user.
+  /// The balance of an account; 0 if there is no such user.
   [[nodiscard]] double balance(const QString& user) const;
-  /// Writes a movement of earlier days into an account's history; the balance stays. False when there is no
-  /// such user.
+  /// Adds an earlier transaction to an account's history without changing the balance. Returns false if there
+  /// is no such user.
   bool rememberTransaction(const QString& user, double amount, const QDateTime& date,
                            const QString& description);
   [[nodiscard]] EmailPreferences emailPreferences(const QString& user) const;
   [[nodiscard]] bool hasPassword(const QString& user, const QString& password) const;
-  /// Lets an account ask for a receipt of earlier days; it answers with the last delivery state.
+  /// Adds a receipt of an earlier message of `user`, which has been delivered.
   void rememberReceipt(const QString& user, const QString& receipt);
 
-  /// Everything accepted for delivery, oldest first.
+  /// All accepted messages, oldest first.
   [[nodiscard]] std::vector<AcceptedMessage> messages() const;
-  /// Every operation asked for, in order; the locator's download stands as "locator".
+  /// All calls in order; a download of the locator document is recorded as "locator".
   [[nodiscard]] std::vector<RecordedCall> calls() const;
-  /// The names alone of calls().
+  /// The operation names of calls().
   [[nodiscard]] QStringList calledOperations() const;
   [[nodiscard]] int openSessions() const;
   [[nodiscard]] QString news() const;

@@ -4,24 +4,24 @@
 #include <chrono>
 #include <cstdint>
 #include <functional>
-#include <memory>
 #include <vector>
 
+#include <QDateTime>
 #include <QHostAddress>
 #include <QString>
 
-#include "simulator/clock.h"
+#include "base/product.h"
 
 namespace parlexo::simulator {
 
-/// An account's wishes for messages sent by e-mail.
+/// An account's settings for messages sent by e-mail.
 struct EmailPreferences {
   bool enabled = false;
-  QString code;
+  QString code{};
   bool filter = false;
-  QString address1;
-  QString address2;
-  QString address3;
+  QString address1{};
+  QString address2{};
+  QString address3{};
   bool splitLong = false;
   bool endAtDoubleLine = false;
   bool endAtKeyword = false;
@@ -29,7 +29,7 @@ struct EmailPreferences {
   [[nodiscard]] bool operator==(const EmailPreferences&) const = default;
 };
 
-/// An account as it is when the simulator starts.
+/// The initial state of an account.
 struct AccountOptions {
   QString user;
   QString password;
@@ -38,7 +38,7 @@ struct AccountOptions {
   EmailPreferences email;
 };
 
-/// Price of one message to one number, in hundredths of the account's currency. An SMS pays for each part.
+/// Price of a message to one number, in hundredths of the account's currency; for an SMS, of each part.
 struct Tariff {
   std::int64_t smsPart = 5;
   std::int64_t mms = 25;
@@ -47,25 +47,26 @@ struct Tariff {
   std::int64_t voice = 30;
 };
 
-/// How a simulator behaves; the defaults suit tests and demonstrations on one machine.
+/// The configuration of a simulator.
 struct Options {
   QHostAddress address{QHostAddress::LocalHost};
-  quint16 port = 0;  ///< 0 picks a free one
+  quint16 port = 0;  ///< 0 for any free port
   std::vector<AccountOptions> accounts{{QStringLiteral("demo"), QStringLiteral("demo1234"), 100.0, true, {}}};
   Tariff tariff;
-  std::chrono::milliseconds latency{0};                  ///< added to every answer
-  std::chrono::milliseconds sessionLifetime{3'600'000};  ///< idle time after which a session has expired
-  std::chrono::milliseconds deliveryStep{5'000};         ///< time from each delivery state to the next
-  std::chrono::milliseconds requestTimeout{30'000};  ///< longest wait for a whole request, and between two
-  int uploadRate = 0;                                ///< bytes a second taken in; 0 for no limit
-  int scheduleDaysAhead = 365;
-  int maxFileSize = 2 * 1024 * 1024;  ///< bytes of a fax or voice file
-  int maxMobileFileSize = 50 * 1024;  ///< bytes of an MMS or WAP file
-  QString clientVersion{QStringLiteral("2.24")};
-  int protocolVersion = 103;
-  QString news;                        ///< empty for a text about the simulator
-  std::shared_ptr<const Clock> clock;  ///< none for the computer's own
-  /// Receives the log line by line; called from the simulator's thread, one call at a time.
+  std::chrono::milliseconds latency{0};                  ///< added to every reply
+  std::chrono::milliseconds sessionLifetime{3'600'000};  ///< idle time after which a session expires
+  std::chrono::milliseconds deliveryStep{5'000};         ///< time between two delivery statuses
+  std::chrono::milliseconds requestTimeout{30'000};      ///< for receiving a request, and between requests
+  int uploadRate = 0;                                    ///< bytes per second and connection; 0 for no limit
+  int scheduleDaysAhead = 365;                           ///< how far in the future messages can be scheduled
+  int maxFileSize = 2 * 1024 * 1024;                     ///< bytes, of fax and voice files
+  int maxMobileFileSize = 50 * 1024;                     ///< bytes, of MMS and WAP files
+  QString clientVersion = QLatin1String(parlexo::clientVersion);
+  int protocolVersion = parlexo::protocolVersion;
+  QString news;  ///< empty for a text about the simulator
+  /// Returns the current time in UTC; replaceable for tests. Called from several threads.
+  std::function<QDateTime()> now = [] { return QDateTime::currentDateTimeUtc(); };
+  /// Called with each log line, on the simulator's thread.
   std::function<void(const QString& line)> log;
 };
 

@@ -3,11 +3,11 @@
 
 namespace parlexo::simulator {
 
-/// Makes SIGINT and SIGTERM (on Windows: Ctrl+C and closing the console) wait to be taken; to be called
-/// before any thread is started. Peers that are gone no longer end the program.
-void holdStopSignals();
+/// Blocks SIGINT and SIGTERM (on Windows: handles Ctrl+C and closing of the console) for waitForStopSignal()
+/// and ignores SIGPIPE. Must be called before any thread is started.
+void blockStopSignals();
 
-/// Waits until the user or the system asks the program to end.
+/// Blocks until a stop signal arrives.
 void waitForStopSignal();
 
 }  // namespace parlexo::simulator

@@ -17,7 +17,7 @@ sigset_t stopSignals() {
 
 }  // namespace
 
-void holdStopSignals() {
+void blockStopSignals() {
   const sigset_t signals = stopSignals();
   pthread_sigmask(SIG_BLOCK, &signals, nullptr);
   signal(SIGPIPE, SIG_IGN);
@@ -25,8 +25,8 @@ void holdStopSignals() {
 
 void waitForStopSignal() {
   const sigset_t signals = stopSignals();
-  int taken = 0;
-  while (sigwait(&signals, &taken) != 0) {
+  int received = 0;
+  while (sigwait(&signals, &received) != 0) {
   }
 }
 

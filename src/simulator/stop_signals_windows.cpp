@@ -12,9 +12,9 @@ HANDLE stopEvent() {
   return event;
 }
 
-// Runs on a thread of the system's. Closing the console ends the process as soon as this returns, so it
-// stays here and leaves that to main().
-BOOL WINAPI takeStop(DWORD kind) {
+// Called on a system thread. When the console is closed, Windows ends the process as soon as this returns, so
+// this sleeps until main() has returned.
+BOOL WINAPI handleStop(DWORD kind) {
   SetEvent(stopEvent());
   if (kind != CTRL_C_EVENT && kind != CTRL_BREAK_EVENT) Sleep(INFINITE);
   return TRUE;
@@ -22,9 +22,9 @@ BOOL WINAPI takeStop(DWORD kind) {
 
 }  // namespace
 
-void holdStopSignals() {
+void blockStopSignals() {
   stopEvent();
-  SetConsoleCtrlHandler(takeStop, TRUE);
+  SetConsoleCtrlHandler(handleStop, TRUE);
 }
 
 void waitForStopSignal() {

@@ -1,16 +1,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include <cstdio>
+#include <variant>
 
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QDir>
 
 #include "app/application.h"
-#include "app/process.h"
-#include "base/process_end.h"
+#include "app/core/command_line.h"
+#include "app/platform.h"
+#include "base/program.h"
 #include "demo/demo.h"
 #include "tour/tour.h"
-#include "tour/tour_plan.h"
 #include "ui/look.h"
 
 namespace {
@@ -18,50 +18,56 @@ namespace {
 using namespace parlexo;
 using namespace Qt::StringLiterals;
 
-constexpr int wrongUsage = 2;
+const QString programName = u"parlexo-tour"_s;
+constexpr int tourFailed = 1;
 
-int fail(int exitCode, const QString& message) {
-  std::fputs(qUtf8Printable(u"parlexo-tour: "_s + message + u'\n'), stderr);
-  return exitCode;
+struct TourOptions {
+  ProgramOptions client;
+  QString pictures;  ///< absolute path of the folder for the screenshots
+};
+
+// Uses a QCoreApplication, so that --help, --version and usage errors work without a display.
+std::variant<TourOptions, EarlyExit> parseArguments(int argc, char** argv) {
+  const QCoreApplication application(argc, argv);
+  QCommandLineParser parser;
+  parser.setApplicationDescription(
+      u"Drives the client through all its pages on the built-in gateway simulator: sends messages, queries\n"
+      "their status and saves a screenshot of every step."_s);
+  parser.addPositionalArgument(u"DIR"_s, u"Folder for the screenshots; created if missing."_s);
+  const auto parsed = parseCommandLine(parser, programName, QCoreApplication::arguments());
+  if (const auto* exit = std::get_if<EarlyExit>(&parsed)) return *exit;
+  if (parser.positionalArguments().size() != 1)
+    return wrongUsage(programName, u"exactly one folder for the screenshots is needed"_s);
+  return TourOptions{.client = std::get<ProgramOptions>(parsed),
+                     .pictures = QDir(parser.positionalArguments().constFirst()).absolutePath()};
 }
 
-int takeTour(ProgramOptions options, const QString& pictures) {
-  Demo demo(options.dataDir);
+int runTour(const TourOptions& options) {
+  Demo demo(options.client.dataDir);
   const QString problem = demo.start();
-  if (!problem.isEmpty()) return fail(1, u"the demo can't start: "_s + problem);
-  options.dataDir = demo.dataFolder();
-  if (options.site.isEmpty()) options.site = demo.site();
-  // The tour finds its way by Qt's own controls, which the system's file dialogs lack.
+  if (!problem.isEmpty())
+    return printEarlyExit(failure(tourFailed, programName, u"cannot start the demo: "_s + problem));
+  ProgramOptions client = options.client;
+  client.dataDir = demo.dataFolder();
+  if (client.site.isEmpty()) client.site = demo.site();
+  // The tour finds controls as Qt widgets, which native file dialogs lack.
   QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
-  Application client(options);
-  Tour tour(tourPlan(Demo::user(), Demo::password(), pictures), pictures);
+  Application application(client);
+  Tour tour(createTourPlan(Demo::user(), Demo::password(), options.pictures), options.pictures);
   tour.start();
-  const int exitCode = client.run();
-  return exitCode == 0 && !tour.succeeded() ? 1 : exitCode;
+  const int exitCode = application.run();
+  return exitCode == 0 && !tour.succeeded() ? tourFailed : exitCode;
 }
 
 int runProgram(int argc, char** argv) {
   prepareProcess();
+  const auto parsed = parseArguments(argc, argv);
+  if (const auto* exit = std::get_if<EarlyExit>(&parsed)) return printEarlyExit(*exit);
   QApplication application(argc, argv);
-  // Between login and main window no window is open, and that must not end the event loops to come.
+  // Otherwise the program would quit between the login and the main window, when no window is open.
   QApplication::setQuitOnLastWindowClosed(false);
   applyLook(application);
-  QCommandLineParser parser;
-  parser.setApplicationDescription(
-      u"Drives the client through all its pages on the built-in simulator: sends a message, asks for its\n"
-      "status and saves a picture of every step."_s);
-  parser.addHelpOption();
-  parser.addPositionalArgument(u"DIR"_s, u"Folder for the pictures."_s);
-  const QCommandLineOption site(u"site"_s, u"Use the gateway whose locator document is at URL."_s, u"URL"_s);
-  const QCommandLineOption data(u"data-dir"_s, u"Keep contacts, templates and settings in DIR."_s, u"DIR"_s);
-  parser.addOptions({site, data});
-  parser.process(application);
-  if (parser.positionalArguments().size() != 1)
-    return fail(wrongUsage, u"name one folder for the pictures"_s);
-  ProgramOptions options;
-  options.site = parser.value(site);
-  if (parser.isSet(data)) options.dataDir = QDir(parser.value(data)).absolutePath();
-  return takeTour(options, QDir(parser.positionalArguments().constFirst()).absolutePath());
+  return runTour(std::get<TourOptions>(parsed));
 }
 
 }  // namespace

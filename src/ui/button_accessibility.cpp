@@ -58,13 +58,13 @@ class AccessibleButton final : public QAccessibleWidget {
   void doAction(const QString& name) override {
     if (name != pressAction()) {
       QAccessibleWidget::doAction(name);
-    } else if (!InputBlock::holds(button_)) {
+    } else if (!InputBlock::isBlocked(button_)) {
       button_.click();
     }
   }
 
  private:
-  // The shortcut and not the text's mnemonic, because a page may have taken the key from the button.
+  // The shortcut rather than the mnemonic in the text, because a page may have removed the shortcut.
   [[nodiscard]] QString keyBinding() const { return button_.shortcut().toString(QKeySequence::NativeText); }
 
   QAbstractButton& button_;

@@ -3,8 +3,9 @@
 
 namespace parlexo {
 
-/// Exposes the program's own buttons, which Qt knows only as widgets, to assistive tools: role, name from the
-/// text without its mnemonic, key binding, and the press action. Cheap after the first call.
+/// Exposes PictureButton and HyperlinkLabel, which Qt would report as plain widgets, to assistive tools:
+/// role, name (the text without its mnemonic), keyboard shortcut and press action. Further calls have no
+/// effect.
 void installButtonAccessibility();
 
 }  // namespace parlexo

@@ -13,21 +13,21 @@ namespace parlexo {
 using namespace Qt::StringLiterals;
 
 QString askForCsvPath(QWidget* parent, const QString& suggestedName) {
-  QFileDialog dialog(parent, u"Export"_s,
+  QFileDialog dialog(parent, ExportButton::tr("Export"),
                      QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
   dialog.setAcceptMode(QFileDialog::AcceptSave);
-  dialog.setNameFilters({u"CSV files (*.csv)"_s, u"All files (*)"_s});
+  dialog.setNameFilters({ExportButton::tr("CSV files (*.csv)"), ExportButton::tr("All files (*)")});
   dialog.setDefaultSuffix(u"csv"_s);
   dialog.selectFile(suggestedName + u".csv"_s);
   return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
 }
 
 ExportButton::ExportButton(const RecordTable& table, Notifier& notifier, QWidget* parent)
-    : PictureButton(u"E&xport..."_s, parent), table_(table), notifier_(notifier) {
+    : PictureButton(tr("E&xport..."), parent), table_(table), notifier_(notifier) {
   setObjectName(u"exportButton"_s);
-  const auto followRows = [this] { setEnabled(table_.model()->rowCount() > 0); };
-  connect(table.model(), &QAbstractItemModel::modelReset, this, followRows);
-  followRows();
+  const auto updateEnabled = [this] { setEnabled(table_.model()->rowCount() > 0); };
+  connect(table.model(), &QAbstractItemModel::modelReset, this, updateEnabled);
+  updateEnabled();
   connect(this, &PictureButton::clicked, this, &ExportButton::exportRows);
 }
 

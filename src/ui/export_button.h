@@ -12,13 +12,13 @@ namespace parlexo {
 class Notifier;
 class RecordTable;
 
-/// Asks the user where to save a CSV file that is called `suggestedName` unless they say otherwise; returns
-/// its path, or an empty text when they think better of it. A file that exists is only named after the user
-/// has agreed to replace it.
+/// Asks the user where to save a CSV file and returns its path, or an empty string if the user cancelled.
+/// `suggestedName` is the default file name without extension. The user confirms before an existing file is
+/// returned.
 [[nodiscard]] QString askForCsvPath(QWidget* parent, const QString& suggestedName);
 
-/// The button "Export..." of a list: saves its rows, as they are shown, as a CSV file that spreadsheets open.
-/// Disabled while there are none. The user is told when the file could not be written.
+/// The "Export..." button of a list: saves the rows as displayed to a CSV file. Disabled while the list is
+/// empty. Reports an error if the file could not be written.
 class ExportButton final : public PictureButton {
   Q_OBJECT
 
@@ -28,8 +28,9 @@ class ExportButton final : public PictureButton {
   /// `table` and `notifier` must outlive the button.
   ExportButton(const RecordTable& table, Notifier& notifier, QWidget* parent = nullptr);
 
-  /// The name that is suggested for the file, without ".csv".
+  /// Sets the default file name, without the ".csv" extension.
   void setSuggestedName(const QString& name) { suggestedName_ = name; }
+  /// Replaces the file dialog, for tests.
   void setPathAsker(PathAsker asker) { askForPath_ = std::move(asker); }
 
  private:

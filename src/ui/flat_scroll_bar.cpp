@@ -28,8 +28,8 @@ int thumbLength(const QStyleOptionSlider& bar) {
   return std::clamp(int(proportional), std::min(shortestThumb, groove), groove);
 }
 
-/// The stretch of the bar that begins `from` pixels along it.
-QRect stretch(const QStyleOptionSlider& bar, int from, int extent) {
+/// The part of the bar that starts at `from` and is `extent` long, both in pixels along the bar.
+QRect section(const QStyleOptionSlider& bar, int from, int extent) {
   const QRect along = isHorizontal(bar) ? QRect(bar.rect.x() + from, bar.rect.y(), extent, bar.rect.height())
                                         : QRect(bar.rect.x(), bar.rect.y() + from, bar.rect.width(), extent);
   return QStyle::visualRect(isHorizontal(bar) ? bar.direction : Qt::LeftToRight, bar.rect, along);
@@ -47,13 +47,13 @@ QColor thumbColor(const QStyleOptionSlider& bar) {
 
 QRect partRect(const QStyleOptionSlider& bar, QStyle::SubControl part) {
   const int thumb = thumbLength(bar);
-  const int room = length(bar) - thumb;
+  const int travel = length(bar) - thumb;
   const int start =
-      QStyle::sliderPositionFromValue(bar.minimum, bar.maximum, bar.sliderPosition, room, bar.upsideDown);
+      QStyle::sliderPositionFromValue(bar.minimum, bar.maximum, bar.sliderPosition, travel, bar.upsideDown);
   if (part == QStyle::SC_ScrollBarGroove) return bar.rect;
-  if (part == QStyle::SC_ScrollBarSlider) return stretch(bar, start, thumb);
-  if (part == QStyle::SC_ScrollBarSubPage) return stretch(bar, 0, start);
-  if (part == QStyle::SC_ScrollBarAddPage) return stretch(bar, start + thumb, room - start);
+  if (part == QStyle::SC_ScrollBarSlider) return section(bar, start, thumb);
+  if (part == QStyle::SC_ScrollBarSubPage) return section(bar, 0, start);
+  if (part == QStyle::SC_ScrollBarAddPage) return section(bar, start + thumb, travel - start);
   return {};
 }
 

@@ -9,14 +9,14 @@ class QStyleOptionSlider;
 
 namespace parlexo {
 
-/// Thin scroll bars without arrow buttons: a pale groove and a rounded light-blue thumb that darkens under
-/// the mouse. The style asks these functions for every scroll bar of the program.
+/// Geometry and painting of thin scroll bars without arrow buttons: a pale groove and a rounded light-blue
+/// thumb that darkens on hover. LookStyle uses them for all scroll bars.
 namespace flat_scroll_bar {
 
 inline constexpr int thickness = 13;      ///< pixels across the bar
-inline constexpr int shortestThumb = 28;  ///< pixels along the bar, so that it can always be grabbed
+inline constexpr int shortestThumb = 28;  ///< pixels along the bar; a shorter thumb is hard to grab
 
-/// Where a part lies inside the bar; parts that a flat bar does not have are empty.
+/// Returns the rectangle of a part of the bar; empty for parts that a flat bar does not have.
 [[nodiscard]] QRect partRect(const QStyleOptionSlider& bar, QStyle::SubControl part);
 
 void draw(const QStyleOptionSlider& bar, QPainter& painter);

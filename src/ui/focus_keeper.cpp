@@ -7,14 +7,14 @@
 #include <QEvent>
 #include <QWidget>
 
-#include "ui/front_window.h"
+#include "ui/gradient_page.h"
 
 namespace parlexo {
 
 namespace {
 
-// Pauses between the checks, in milliseconds. Long enough in all for a window manager to handle what has
-// happened, and short enough that the user can't have switched to another program on purpose meanwhile.
+// Delays between the checks, in milliseconds. In total long enough for a window manager to process the
+// change, but too short for the user to switch to another program on purpose.
 constexpr std::array<int, 4> pauses{0, 60, 100, 140};
 
 bool isDialogOrMainWindow(const QObject* target) {
@@ -23,9 +23,9 @@ bool isDialogOrMainWindow(const QObject* target) {
   return widget->isWindow() && (widget->windowType() == Qt::Dialog || widget->windowType() == Qt::Window);
 }
 
-// A file dialog of the system's has a widget that is never shown. The system's own window has the focus then,
-// and no window of the program is active.
-bool mayTakeFocus(const QWidget& window) {
+// A native file dialog has a QWidget that is never shown. While it is open the system's own window has the
+// focus and no window of the program is active.
+bool canBeActivated(const QWidget& window) {
   return !window.testAttribute(Qt::WA_DontShowOnScreen) && !window.isMinimized();
 }
 
@@ -44,23 +44,23 @@ bool FocusKeeper::eventFilter(QObject* target, QEvent* event) {
 
 void FocusKeeper::observe(const QWidget& window, const QEvent& event) {
   if (event.type() == QEvent::WindowDeactivate) {
-    // A window that hides is deactivated first. Only then is it not another program that takes the focus.
-    if (window.isHidden()) startSettling();
+    // A hidden window is deactivated too. If it is still visible, another window or program got the focus.
+    if (window.isHidden()) restartChecks();
   } else if ((event.type() == QEvent::Show || event.type() == QEvent::Hide) && !event.spontaneous()) {
-    // Between two changes no window may be active for a moment; without a recent one that means that another
-    // program has the focus.
-    if (QApplication::activeWindow() || timer_.isActive()) startSettling();
+    // Right after another change there may briefly be no active window. Otherwise having none means that
+    // another program has the focus.
+    if (QApplication::activeWindow() || timer_.isActive()) restartChecks();
   }
 }
 
-void FocusKeeper::startSettling() {
+void FocusKeeper::restartChecks() {
   step_ = 0;
   timer_.start(pauses[step_]);
 }
 
 void FocusKeeper::check() {
   QWidget* front = frontWindow();
-  if (front && !QApplication::activeWindow() && mayTakeFocus(*front)) front->activateWindow();
+  if (front && !QApplication::activeWindow() && canBeActivated(*front)) front->activateWindow();
   if (++step_ < pauses.size()) timer_.start(pauses[step_]);
 }
 

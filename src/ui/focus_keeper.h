@@ -10,16 +10,16 @@ class QWidget;
 
 namespace parlexo {
 
-/// Keeps the keyboard in the program when windows open and close in quick succession. When a dialog and the
-/// question that it asked close together, a window manager may give the focus to the dialog just as that
-/// goes away, and then no window has it: no key reaches the program (openbox does this most of the time).
-/// While this object exists, the window below is activated after a dialog has closed, and once more if no
-/// window is active soon after. A program that is not in the foreground stays where it is.
+/// Restores the keyboard focus after dialogs have closed in quick succession. If a dialog and a message box
+/// over it close together, a window manager may focus the dialog while it is being destroyed, so that no
+/// window of the program receives keys (openbox usually does this). While this object exists, the front
+/// window is activated if none is active shortly after a window was shown or hidden. A program in the
+/// background is not brought to the foreground.
 class FocusKeeper final : public QObject {
   Q_OBJECT
 
  public:
-  /// Needs a QApplication.
+  /// The QApplication must exist.
   FocusKeeper();
 
  protected:
@@ -27,7 +27,7 @@ class FocusKeeper final : public QObject {
 
  private:
   void observe(const QWidget& window, const QEvent& event);
-  void startSettling();
+  void restartChecks();
   void check();
 
   QTimer timer_;

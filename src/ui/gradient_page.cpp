@@ -3,6 +3,7 @@
 
 #include <algorithm>
 
+#include <QApplication>
 #include <QKeyEvent>
 #include <QLayout>
 #include <QLinearGradient>
@@ -26,8 +27,8 @@ void paintGradient(QWidget& widget, const QRect& dirty) {
 }
 
 bool isEnter(const QKeyEvent& event) {
-  const bool plain = event.modifiers() == Qt::NoModifier && event.key() == Qt::Key_Return;
-  return plain || (!(event.modifiers() & ~Qt::KeypadModifier) && event.key() == Qt::Key_Enter);
+  const bool isReturn = event.modifiers() == Qt::NoModifier && event.key() == Qt::Key_Return;
+  return isReturn || (!(event.modifiers() & ~Qt::KeypadModifier) && event.key() == Qt::Key_Enter);
 }
 
 QSize fittingSize(const QWidget& dialog) {
@@ -58,7 +59,7 @@ GradientDialog::GradientDialog(QWidget* parent) : QDialog(parent) {
 }
 
 void GradientDialog::setVisible(bool visible) {
-  // Left to itself a window takes two thirds of the screen at most, and cuts texts off for that.
+  // By default Qt limits a new window to two thirds of the screen and cuts texts off.
   if (visible && !testAttribute(Qt::WA_Resized) && layout()) resize(fittingSize(*this));
   QDialog::setVisible(visible);
 }
@@ -74,6 +75,15 @@ void GradientDialog::keyPressEvent(QKeyEvent* event) {
     return;
   }
   QDialog::keyPressEvent(event);
+}
+
+QWidget* frontWindow() {
+  if (QWidget* modal = QApplication::activeModalWidget()) return modal;
+  if (QWidget* active = QApplication::activeWindow()) return active;
+  const QWidgetList windows = QApplication::topLevelWidgets();
+  for (QWidget* window : windows)
+    if (window->isVisible() && window->windowType() == Qt::Window) return window;
+  return nullptr;
 }
 
 }  // namespace parlexo

@@ -6,23 +6,23 @@
 
 namespace parlexo {
 
-/// A page of the main window on the light-blue gradient.
+/// A page of the main window with the light-blue gradient as background.
 class GradientPage : public QWidget {
   Q_OBJECT
 
  public:
   explicit GradientPage(QWidget* parent = nullptr);
 
-  /// Fetches anew what the page shows, where that can change behind its back.
+  /// Reloads the displayed data. Does nothing by default.
   virtual void refresh() {}
 
  protected:
   void paintEvent(QPaintEvent* event) override;
 };
 
-/// A dialog on the light-blue gradient, with the program's icon. Enter presses the PictureButton that has
-/// the focus, else the one that is the default; Escape rejects. It opens as high as its texts need, if the
-/// screen is.
+/// A dialog with the light-blue gradient as background and the program's icon. Enter presses the focused
+/// PictureButton, otherwise the default one; Escape rejects. The dialog opens large enough for its wrapped
+/// texts, limited by the screen.
 class GradientDialog : public QDialog {
   Q_OBJECT
 
@@ -35,5 +35,9 @@ class GradientDialog : public QDialog {
   void paintEvent(QPaintEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
 };
+
+/// Returns the window to use as parent of a new dialog: the topmost modal window, otherwise the active one,
+/// otherwise the main window, even while another program is active. Null if no window is open.
+[[nodiscard]] QWidget* frontWindow();
 
 }  // namespace parlexo

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/hyperlink_label.h"
 
+#include <QDesktopServices>
 #include <QKeyEvent>
 #include <QPainter>
 #include <QStyle>
@@ -10,11 +11,22 @@
 
 namespace parlexo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int margin = 3;
 
 }  // namespace
+
+bool isWebAddress(const QUrl& page) {
+  const bool isWeb = page.scheme() == u"https"_s || page.scheme() == u"http"_s;
+  return page.isValid() && isWeb && !page.host().isEmpty();
+}
+
+bool openInBrowser(const QUrl& page) {
+  return isWebAddress(page) && QDesktopServices::openUrl(page);
+}
 
 HyperlinkLabel::HyperlinkLabel(const QString& text, const QUrl& page, QWidget* parent)
     : QAbstractButton(parent) {
@@ -46,8 +58,8 @@ void HyperlinkLabel::paintEvent(QPaintEvent*) {
   QFont underlined = font();
   underlined.setUnderline(true);
   painter.setFont(underlined);
-  const QColor lit = underMouse() || isDown() ? look::selection : look::link;
-  painter.setPen(isEnabled() ? lit : look::disabledText);
+  const QColor color = underMouse() || isDown() ? look::selection : look::link;
+  painter.setPen(isEnabled() ? color : look::disabledText);
   const QRect area = rect().adjusted(margin, margin, -margin, -margin);
   const auto side = QStyle::visualAlignment(layoutDirection(), Qt::AlignLeft | Qt::AlignVCenter);
   painter.drawText(area, int(side) | Qt::TextShowMnemonic, text());

@@ -54,8 +54,8 @@ bool isKeyInput(QEvent::Type type) {
   }
 }
 
-/// The window that `target`, a widget, a native window, an action or a shortcut, belongs to.
-const QObject* windowOf(const QObject* target) {
+/// Returns the native window of `target`, which may be a widget, a window, an action or a shortcut.
+const QObject* findWindow(const QObject* target) {
   for (; target; target = target->parent()) {
     if (const auto* widget = qobject_cast<const QWidget*>(target)) return widget->window()->windowHandle();
     if (qobject_cast<const QWindow*>(target)) return target;
@@ -63,12 +63,12 @@ const QObject* windowOf(const QObject* target) {
   return nullptr;
 }
 
-constexpr char exemptMark[] = "takesInputDuringWaits";
+constexpr char exemptProperty[] = "acceptsInputDuringWaits";
 
 bool isExempt(const QObject* window) {
   const QWidgetList widgets = QApplication::topLevelWidgets();
   return window && std::ranges::any_of(widgets, [window](const QWidget* widget) {
-           return widget->windowHandle() == window && widget->property(exemptMark).toBool();
+           return widget->windowHandle() == window && widget->property(exemptProperty).toBool();
          });
 }
 
@@ -84,16 +84,16 @@ InputBlock::~InputBlock() {
   std::erase(activeBlocks(), this);
 }
 
-bool InputBlock::holds(const QWidget& widget) {
-  return std::ranges::any_of(activeBlocks(), [&](const auto* block) { return !block->lets(&widget); });
+bool InputBlock::isBlocked(const QWidget& widget) {
+  return std::ranges::any_of(activeBlocks(), [&](const auto* block) { return !block->isAllowed(&widget); });
 }
 
 void InputBlock::exempt(QWidget& window) {
-  window.setProperty(exemptMark, true);
+  window.setProperty(exemptProperty, true);
 }
 
-bool InputBlock::lets(const QObject* target) const {
-  const QObject* window = windowOf(target);
+bool InputBlock::isAllowed(const QObject* target) const {
+  const QObject* window = findWindow(target);
   if (isExempt(window)) return true;
   const QWidget* modal = QApplication::activeModalWidget();
   if (!modal || modal == modalBefore_) return false;
@@ -105,7 +105,7 @@ bool InputBlock::lets(const QObject* target) const {
 bool InputBlock::eventFilter(QObject* target, QEvent* event) {
   const bool isClose = event->type() == QEvent::Close && closeRequests_ == CloseRequests::Dropped;
   const bool isInput = isPointerInput(event->type()) || isKeyInput(event->type()) || isClose;
-  if (!isInput || lets(target)) return false;
+  if (!isInput || isAllowed(target)) return false;
   event->setAccepted(event->type() != QEvent::Close && event->type() != QEvent::ShortcutOverride);
   return true;
 }

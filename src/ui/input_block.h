@@ -7,34 +7,35 @@
 
 namespace parlexo {
 
-/// While it lives, clicks, keys, wheel, drops and shortcuts are dropped, not kept for later. Only modal
-/// windows that opened after it did still take input. Blocks may nest; they belong to the interface thread.
+/// Discards mouse, keyboard, touch, wheel, drop and shortcut input during its lifetime. Only modal windows
+/// opened after its construction still receive input. Blocks may nest. Use on the user-interface thread only.
 class InputBlock final : public QObject {
   Q_OBJECT
 
  public:
   enum class CloseRequests {
-    /// Also the close button of window frames is dropped. A close() or accept() in code looks the same to Qt,
-    /// so this is for waits in which no code of a page runs.
+    /// Close events are discarded as well. Qt can't distinguish a click on the close button from a close() or
+    /// accept() in code, so use this only for waits during which no code of a page runs.
     Dropped,
-    /// For blocks under a modal window, whose modality already holds the frames of the others.
+    /// Close events pass. For blocks under a modal window, which already disables the other windows' frames.
     LeftToModality,
   };
 
   explicit InputBlock(CloseRequests closeRequests = CloseRequests::LeftToModality);
   ~InputBlock() override;
 
-  /// Whether a press by an assistive tool, which is no input event, has to be dropped for `widget`.
-  [[nodiscard]] static bool holds(const QWidget& widget);
+  /// Returns whether input for `widget` is blocked. Needed for presses by assistive tools, which are not
+  /// input events.
+  [[nodiscard]] static bool isBlocked(const QWidget& widget);
 
-  /// From now on blocks let input for `window` pass, for a window in which a wait can be cancelled.
+  /// Exempts `window` from all blocks, for a window with a Cancel button for the wait.
   static void exempt(QWidget& window);
 
  protected:
   bool eventFilter(QObject* target, QEvent* event) override;
 
  private:
-  [[nodiscard]] bool lets(const QObject* target) const;
+  [[nodiscard]] bool isAllowed(const QObject* target) const;
 
   CloseRequests closeRequests_;
   QPointer<QWidget> modalBefore_;

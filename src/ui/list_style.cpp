@@ -19,7 +19,7 @@ namespace {
 constexpr int rowPadding = 6;
 constexpr int cellMargins = 12;
 
-/// Lists and trees ask their delegate how high a row is, tables their header.
+/// Adds padding to the rows of lists and trees. In a table the vertical header sets the row height.
 class PaddedRows final : public QStyledItemDelegate {
  public:
   using QStyledItemDelegate::QStyledItemDelegate;
@@ -47,8 +47,8 @@ void styleTable(QTableView& table) {
   styleHeader(*table.horizontalHeader());
 }
 
-/// Rows stay readable and recognisable as selected while another control has the focus.
-void keepSelectionColors(QPalette& palette) {
+/// Uses the same selection colours whether or not the list has the focus.
+void setSelectionColors(QPalette& palette) {
   for (const auto group : {QPalette::Active, QPalette::Inactive}) {
     palette.setColor(group, QPalette::Highlight, look::selection);
     palette.setColor(group, QPalette::HighlightedText, look::selectedText);
@@ -60,7 +60,7 @@ void keepSelectionColors(QPalette& palette) {
 void styleList(QAbstractItemView& view) {
   QPalette palette = view.palette();
   palette.setColor(QPalette::Base, look::listBackground);
-  keepSelectionColors(palette);
+  setSelectionColors(palette);
   view.setPalette(palette);
   view.setAlternatingRowColors(false);
   view.setSelectionBehavior(QAbstractItemView::SelectRows);

@@ -7,12 +7,12 @@ class QWidget;
 
 namespace parlexo {
 
-/// Gives a list, table or tree the program's look: light ground, whole rows selected and some room between
-/// them, flat left-bound header, no grid. Tab leaves a table instead of walking its cells.
+/// Applies the program's look to a list, table or tree: light background, selection of whole rows, row
+/// padding, flat left-aligned header, no grid. In a table, Tab moves to the next control, not the next cell.
 void styleList(QAbstractItemView& view);
 
-/// The width in pixels of a column that is `usual` pixels wide, or wider where the font of `list` needs more
-/// for `widest`, the longest text that must never be cut off.
+/// Returns a column width in pixels: `usual`, or more if the font of `list` requires it to show `widest`, the
+/// longest text that must not be cut off.
 [[nodiscard]] int fittingColumnWidth(const QWidget& list, int usual, const QString& widest);
 
 }  // namespace parlexo

@@ -11,7 +11,8 @@
 
 #include "ui/look_style.h"
 
-// The initialiser is declared outside every namespace; without the call a static library drops its resources.
+// Without this call the linker drops the resources of a static library. Q_INIT_RESOURCE must be used outside
+// of namespaces.
 static void loadResources() {
   Q_INIT_RESOURCE(ui);
 }
@@ -24,7 +25,7 @@ namespace {
 
 constexpr qreal smallestPointSize = 9;
 
-void setDisabled(QPalette& palette) {
+void setDisabledColors(QPalette& palette) {
   for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
     palette.setColor(QPalette::Disabled, role, look::disabledText);
   }
@@ -45,7 +46,7 @@ QPalette lookPalette() {
   palette.setColor(QPalette::Link, look::link);
   palette.setColor(QPalette::LinkVisited, look::link);
   palette.setColor(QPalette::PlaceholderText, look::disabledText);
-  setDisabled(palette);
+  setDisabledColors(palette);
   return palette;
 }
 

@@ -18,8 +18,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int itemPadding = 4;  // pixels that a list's row is higher than its text
-constexpr int focusWidth = 2;   // pixels of the frame around the list or edit that has the keyboard
+constexpr int itemPadding = 4;  // pixels added to the height of a list row
+constexpr int focusWidth = 2;   // pixels of the frame around a focused list or edit
 
 void drawOutline(QPainter& painter, const QRectF& frame, qreal radius, const QColor& color, qreal width) {
   painter.save();
@@ -33,28 +33,30 @@ void drawOutline(QPainter& painter, const QRectF& frame, qreal radius, const QCo
 
 void drawHeaderSection(const QStyleOption& option, QPainter& painter) {
   const QRect& area = option.rect;
-  const bool lit = option.state & (QStyle::State_MouseOver | QStyle::State_Sunken);
-  painter.fillRect(area, lit ? look::gradientBottom : look::dialogBackground);
+  const bool isHighlighted = option.state & (QStyle::State_MouseOver | QStyle::State_Sunken);
+  painter.fillRect(area, isHighlighted ? look::gradientBottom : look::dialogBackground);
   painter.fillRect(QRect(area.left(), area.bottom(), area.width(), 1), look::border);
   painter.fillRect(QRect(area.right(), area.top() + 3, 1, area.height() - 6), look::border);
 }
 
 void drawTab(const QStyleOptionTab& tab, QPainter& painter) {
-  const bool selected = tab.state & QStyle::State_Selected;
-  const bool lit = tab.state & QStyle::State_MouseOver;
-  const QRectF shape = QRectF(tab.rect).adjusted(0.5, selected ? 0.5 : 2.5, -0.5, 6);
+  const bool isSelected = tab.state & QStyle::State_Selected;
+  const bool isHighlighted = tab.state & QStyle::State_MouseOver;
+  const QRectF shape = QRectF(tab.rect).adjusted(0.5, isSelected ? 0.5 : 2.5, -0.5, 6);
   painter.save();
   painter.setRenderHint(QPainter::Antialiasing);
-  painter.setClipRect(tab.rect.adjusted(0, 0, 0, selected ? 1 : -1));
+  painter.setClipRect(tab.rect.adjusted(0, 0, 0, isSelected ? 1 : -1));
   painter.setPen(QPen(look::border, 1));
-  painter.setBrush(selected ? look::gradientTop : lit ? look::dialogBackground : look::gradientBottom);
+  painter.setBrush(isSelected      ? look::gradientTop
+                   : isHighlighted ? look::dialogBackground
+                                   : look::gradientBottom);
   painter.drawRoundedRect(shape, 4, 4);
-  if (selected)
+  if (isSelected)
     painter.fillRect(QRectF(shape.left() + 3, shape.top(), shape.width() - 6, 2), look::selection);
   painter.restore();
 }
 
-/// A selected row keeps its dark ground while the list is out of focus, so a mark inside it must be light.
+/// A focus mark inside a selected row must be light, as the row has a dark background.
 QColor focusColor(const QStyleOption& option) {
   const auto* mark = qstyleoption_cast<const QStyleOptionFocusRect*>(&option);
   const bool onSelection = mark && mark->backgroundColor == option.palette.color(QPalette::Highlight);
@@ -72,9 +74,9 @@ void LookStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opti
     return;
   }
   if (element == PE_Frame && qobject_cast<const QAbstractScrollArea*>(widget)) {
-    const bool focused = option->state & State_HasFocus;
-    drawOutline(*painter, option->rect, 2, focused ? look::selection : look::border,
-                focused ? focusWidth : 1);
+    const bool hasFocus = option->state & State_HasFocus;
+    drawOutline(*painter, option->rect, 2, hasFocus ? look::selection : look::border,
+                hasFocus ? focusWidth : 1);
     return;
   }
   if (element == PE_FrameGroupBox) {

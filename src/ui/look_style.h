@@ -5,8 +5,8 @@
 
 namespace parlexo {
 
-/// Fusion in the program's colours, with flat scroll bars, flat list headers and tabs, and a focus mark that
-/// shows wherever the keyboard is, not only after the first Tab.
+/// Qt's Fusion style with flat scroll bars, list headers and tabs in the program's colours. The focused
+/// control is always marked, not only after the first use of Tab.
 class LookStyle final : public QProxyStyle {
   Q_OBJECT
 

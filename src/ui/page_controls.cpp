@@ -2,6 +2,7 @@
 #include "ui/page_controls.h"
 
 #include <QBoxLayout>
+#include <QCoreApplication>
 #include <QDialog>
 #include <QLabel>
 #include <QLineEdit>
@@ -13,6 +14,8 @@
 #include "ui/picture_button.h"
 
 namespace parlexo {
+
+using namespace Qt::StringLiterals;
 
 QLineEdit* readOnlyField(const QString& objectName, QWidget* parent) {
   auto* field = new QLineEdit(parent);
@@ -64,9 +67,15 @@ QLayout* dialogButtonRow(QDialog& dialog, const DialogButton& accepting, const D
   return row;
 }
 
+QLayout* okAndCancelRow(QDialog& dialog) {
+  return dialogButtonRow(dialog, {u"okButton"_s, QCoreApplication::translate("DialogButtons", "&OK")},
+                         {u"cancelButton"_s, QCoreApplication::translate("DialogButtons", "&Cancel")});
+}
+
 void wipeField(QLineEdit& field) {
   QString text = field.text();
-  // Unlike clear(), this also drops what undo would bring back; then the text is ours alone.
+  // Unlike clear(), setText() also drops the undo history, which leaves `text` as the only reference to
+  // the data.
   field.setText({});
   wipe(text);
 }

@@ -14,37 +14,36 @@ namespace parlexo {
 
 class PictureButton;
 
-/// The small controls that pages and dialogs have in common.
-
-/// A field that shows a text of the program.
+/// Creates a line edit that only displays text.
 [[nodiscard]] QLineEdit* readOnlyField(const QString& objectName, QWidget* parent);
 
-/// A label whose mnemonic leads to `control`, with the same parent.
+/// Creates a label with the parent of `control`, which gets the focus when the mnemonic in `text` is pressed.
 [[nodiscard]] QLabel* labelFor(QWidget* control, const QString& text);
 
-/// A text that takes as many lines as it needs.
+/// Creates a label with word wrap.
 [[nodiscard]] QLabel* wrappedLabel(const QString& text, QWidget* parent);
 
-/// A line of a text and a link behind it that comes and goes: nothing else moves then. Where there is no room
-/// for both, the text is cut off.
+/// Creates a row with `text` followed by `link`. The row keeps its height when the link is hidden or shown.
+/// If it is too narrow for both, the text is cut off. The caller's layout takes ownership of the row.
 [[nodiscard]] QLayout* lineWithLink(QLabel& text, QWidget& link);
 
-/// A new button at the end of `row`.
+/// Creates a button and appends it to `row`.
 PictureButton* addButton(QBoxLayout& row, const QString& objectName, const QString& text);
 
-/// A button of a dialog's last row.
 struct DialogButton {
   QString objectName;
   QString text;
 };
 
-/// The last row of a dialog: the button that accepts it, its default, and the one that rejects it. The
-/// caller's layout takes the row.
+/// Creates the bottom row of a dialog: the default button, which accepts it, and a button that rejects it.
+/// The caller's layout takes ownership of the row.
 [[nodiscard]] QLayout* dialogButtonRow(QDialog& dialog, const DialogButton& accepting,
                                        const DialogButton& rejecting);
 
-/// Empties a field that held a password, also of what its undo would bring back, and overwrites the text in
-/// memory.
+/// The same with the buttons "OK" and "Cancel".
+[[nodiscard]] QLayout* okAndCancelRow(QDialog& dialog);
+
+/// Clears a password field and its undo history, and overwrites the text in memory.
 void wipeField(QLineEdit& field);
 
 }  // namespace parlexo

@@ -20,24 +20,24 @@ constexpr int topMargin = 5;
 constexpr int iconGap = 6;
 constexpr qreal cornerRadius = 5;
 
-struct Ground {
+struct Fill {
   QColor top;
   QColor bottom;
   QColor border;
 };
 
-Ground softGround(bool hovered) {
+Fill normalFill(bool hovered) {
   if (hovered) return {Qt::white, QColor(180, 220, 250), look::selection};
   return {QColor(250, 253, 255), QColor(196, 228, 251), look::border};
 }
 
-Ground strongGround(bool hovered) {
+Fill defaultFill(bool hovered) {
   const QColor base = look::selection;
   return {hovered ? QColor(44, 116, 178) : QColor(40, 112, 174), hovered ? base : QColor(18, 84, 146),
           look::focus};
 }
 
-constexpr Ground disabledGround{QColor(228, 241, 251), QColor(214, 232, 246), QColor(176, 204, 226)};
+constexpr Fill disabledFill{QColor(228, 241, 251), QColor(214, 232, 246), QColor(176, 204, 226)};
 
 }  // namespace
 
@@ -66,34 +66,34 @@ QSize PictureButton::minimumSizeHint() const {
 }
 
 QSize PictureButton::sizeHint() const {
-  const bool isWord = text().size() > 1;
-  const QSize smallest = dialogUnits(*this, isWord ? 50 : 14, 14);
+  const bool isLong = text().size() > 1;
+  const QSize smallest = dialogUnits(*this, isLong ? 50 : 14, 14);
   return minimumSizeHint().expandedTo(smallest);
 }
 
 void PictureButton::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
-  paintGround(painter);
+  paintBackground(painter);
   if (hasFocus()) paintFocus(painter);
   if (isDown()) painter.translate(0, 1);
   paintContent(painter);
 }
 
-void PictureButton::paintGround(QPainter& painter) const {
-  Ground ground = isStrong() ? strongGround(underMouse()) : softGround(underMouse());
-  if (!isEnabled()) ground = disabledGround;
-  if (isDown() || isChecked()) std::swap(ground.top, ground.bottom);
+void PictureButton::paintBackground(QPainter& painter) const {
+  Fill fill = isEmphasised() ? defaultFill(underMouse()) : normalFill(underMouse());
+  if (!isEnabled()) fill = disabledFill;
+  if (isDown() || isChecked()) std::swap(fill.top, fill.bottom);
   QLinearGradient gradient(0, 0, 0, height());
-  gradient.setColorAt(0, ground.top);
-  gradient.setColorAt(1, ground.bottom);
-  painter.setPen(QPen(ground.border, 1));
+  gradient.setColorAt(0, fill.top);
+  gradient.setColorAt(1, fill.bottom);
+  painter.setPen(QPen(fill.border, 1));
   painter.setBrush(gradient);
   painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), cornerRadius, cornerRadius);
 }
 
 void PictureButton::paintFocus(QPainter& painter) const {
-  painter.setPen(QPen(isStrong() ? look::selectedText : look::focus, 1.5));
+  painter.setPen(QPen(isEmphasised() ? look::selectedText : look::focus, 1.5));
   painter.setBrush(Qt::NoBrush);
   painter.drawRoundedRect(QRectF(rect()).adjusted(2.5, 2.5, -2.5, -2.5), cornerRadius - 2, cornerRadius - 2);
 }
@@ -102,13 +102,14 @@ void PictureButton::paintContent(QPainter& painter) const {
   QRect area = QStyle::alignedRect(layoutDirection(), Qt::AlignCenter, contentSize(), rect());
   if (!icon().isNull()) {
     const auto mode = isEnabled() ? QIcon::Normal : QIcon::Disabled;
-    const QSize room(iconSize().width(), area.height());
-    const QRect place = QStyle::alignedRect(layoutDirection(), Qt::AlignLeft | Qt::AlignVCenter, room, area);
-    icon().paint(&painter, place, Qt::AlignCenter, mode, isChecked() ? QIcon::On : QIcon::Off);
-    const QSize rest(area.width() - room.width() - (text().isEmpty() ? 0 : iconGap), area.height());
-    area = QStyle::alignedRect(layoutDirection(), Qt::AlignRight | Qt::AlignVCenter, rest, area);
+    const QSize iconArea(iconSize().width(), area.height());
+    const QRect iconRect =
+        QStyle::alignedRect(layoutDirection(), Qt::AlignLeft | Qt::AlignVCenter, iconArea, area);
+    icon().paint(&painter, iconRect, Qt::AlignCenter, mode, isChecked() ? QIcon::On : QIcon::Off);
+    const QSize textArea(area.width() - iconArea.width() - (text().isEmpty() ? 0 : iconGap), area.height());
+    area = QStyle::alignedRect(layoutDirection(), Qt::AlignRight | Qt::AlignVCenter, textArea, area);
   }
-  painter.setPen(isStrong() ? look::selectedText : isEnabled() ? look::text : look::disabledText);
+  painter.setPen(isEmphasised() ? look::selectedText : isEnabled() ? look::text : look::disabledText);
   painter.drawText(area, Qt::AlignCenter | Qt::TextShowMnemonic, text());
 }
 

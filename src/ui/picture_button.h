@@ -5,8 +5,8 @@
 
 namespace parlexo {
 
-/// The push button of the program: rounded, with a light-blue gradient, a text with mnemonic and an
-/// optional icon. Space and Enter press it; in a GradientDialog it can be the default button.
+/// The program's push button: rounded, with a light-blue gradient, a text with mnemonic and an optional icon.
+/// Space and Enter press it. In a GradientDialog it can be the default button.
 class PictureButton : public QAbstractButton {
   Q_OBJECT
   Q_PROPERTY(bool isDefault READ isDefault WRITE setDefault)
@@ -14,13 +14,12 @@ class PictureButton : public QAbstractButton {
  public:
   explicit PictureButton(const QString& text = {}, QWidget* parent = nullptr);
 
-  /// The default button stands out in the stronger blue and takes Enter from the dialog's other controls.
-  /// One per dialog.
+  /// The default button is painted in a darker blue and handles Enter for the dialog's other controls. At
+  /// most one per dialog.
   void setDefault(bool isDefault);
   [[nodiscard]] bool isDefault() const { return isDefault_; }
 
-  /// Room for text, icon and margins, at least 50 x 14 dialog units for a button with a text of several
-  /// letters.
+  /// Fits text, icon and margins. At least 50 x 14 dialog units; 14 x 14 for a text of one character or none.
   [[nodiscard]] QSize sizeHint() const override;
   [[nodiscard]] QSize minimumSizeHint() const override;
 
@@ -30,10 +29,10 @@ class PictureButton : public QAbstractButton {
 
  private:
   [[nodiscard]] QSize contentSize() const;
-  void paintGround(QPainter& painter) const;
+  void paintBackground(QPainter& painter) const;
   void paintFocus(QPainter& painter) const;
   void paintContent(QPainter& painter) const;
-  [[nodiscard]] bool isStrong() const { return isDefault_ && isEnabled(); }
+  [[nodiscard]] bool isEmphasised() const { return isDefault_ && isEnabled(); }
 
   bool isDefault_ = false;
 };

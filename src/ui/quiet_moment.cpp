@@ -51,7 +51,7 @@ void QuietMoment::check() {
 
 bool QuietMoment::isQuiet() const {
   const bool isInFront = window_.isActiveWindow() && !QApplication::activeModalWidget() &&
-                         !QApplication::activePopupWidget() && !InputBlock::holds(window_);
+                         !QApplication::activePopupWidget() && !InputBlock::isBlocked(window_);
   const bool isIdle = !sinceInput_.isValid() || sinceInput_.hasExpired(quietTime_.count());
   return isInFront && isIdle && QApplication::mouseButtons() == Qt::NoButton;
 }

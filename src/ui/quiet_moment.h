@@ -12,17 +12,16 @@ class QWidget;
 
 namespace parlexo {
 
-/// Finds a moment at which a dialog that opens by itself interrupts nothing: `window` is active with no menu,
-/// dialog or wait over it, and the user has pressed no key or mouse button for a while. Input from before its
-/// construction does not count.
+/// Waits for a moment at which a dialog can open by itself without interrupting the user: `window` is active
+/// with no menu, dialog or wait over it, no mouse button is pressed, and there has been no input for
+/// `quietTime`. Input before the construction is ignored.
 class QuietMoment final : public QObject {
   Q_OBJECT
 
  public:
   explicit QuietMoment(QWidget& window, std::chrono::milliseconds quietTime = std::chrono::seconds(2));
 
-  /// Calls `act` once, from the event loop, at the next quiet moment; replaces an earlier `act` that still
-  /// waits.
+  /// Calls `act` once, from the event loop, at the next quiet moment. Replaces a pending `act`.
   void await(std::function<void()> act);
 
  protected:

@@ -6,8 +6,8 @@
 
 namespace parlexo {
 
-/// What a RecordTable shows: headings, a text for every cell, and a number for cells whose text would sort
-/// wrongly. The rows are up to the derived class.
+/// Base class of the models for RecordTable: headings, a text per cell, and a sort key for cells whose text
+/// would sort in the wrong order. Derived classes provide the rows.
 class RecordListModel : public QAbstractTableModel {
   Q_OBJECT
 
@@ -23,7 +23,7 @@ class RecordListModel : public QAbstractTableModel {
  protected:
   [[nodiscard]] virtual int recordCount() const = 0;
   [[nodiscard]] virtual QString textAt(int row, int column) const = 0;
-  /// Invalid for a cell that is sorted by its text.
+  /// Numeric sort key of a cell; an invalid QVariant if the cell sorts by its text.
   [[nodiscard]] virtual QVariant sortNumberAt(int row, int column) const = 0;
 
  private:

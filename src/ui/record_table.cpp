@@ -19,11 +19,11 @@
 namespace parlexo {
 namespace {
 
-constexpr int headings = -1;
+constexpr int headingRow = -1;
 constexpr QColor gridLine(214, 230, 242);
 
-// What separates cells and rows on the clipboard may not stand inside a cell.
-QString onOneLine(QString cell) {
+// Tabs and line breaks separate cells and rows on the clipboard.
+QString withoutSeparators(QString cell) {
   for (QChar& character : cell)
     if (character == u'\t' || character == u'\r' || character == u'\n') character = u' ';
   return cell;
@@ -70,8 +70,8 @@ void RecordTable::copySelected() const {
   std::sort(shown.begin(), shown.end());
   QStringList lines;
   for (const QModelIndex& index : shown) {
-    QStringList cells = cellsOf(index.row());
-    for (QString& cell : cells) cell = onOneLine(cell);
+    QStringList cells = rowTexts(index.row());
+    for (QString& cell : cells) cell = withoutSeparators(cell);
     lines.append(cells.join(QChar(u'\t')));
   }
   QGuiApplication::clipboard()->setText(lines.join(QChar(u'\n')));
@@ -79,7 +79,7 @@ void RecordTable::copySelected() const {
 
 CsvWriter RecordTable::toCsv() const {
   CsvWriter csv(CsvCells::Harmless);
-  for (int row = headings; row < rows_->rowCount(); ++row) csv.addRow(cellsOf(row));
+  for (int row = headingRow; row < rows_->rowCount(); ++row) csv.addRow(rowTexts(row));
   return csv;
 }
 
@@ -101,7 +101,7 @@ void RecordTable::drawRow(QPainter* painter, const QStyleOptionViewItem& option,
 }
 
 void RecordTable::setUpSorting() {
-  // No indicator yet, or sorting would begin with the first column.
+  // Otherwise setSortingEnabled() would sort by the first column.
   header()->setSortIndicator(-1, Qt::AscendingOrder);
   header()->setSortIndicatorClearable(true);
   setSortingEnabled(true);
@@ -109,19 +109,19 @@ void RecordTable::setUpSorting() {
 }
 
 void RecordTable::setUpColumns(const std::vector<Column>& columns) {
-  const QList<int> kept = settings_.columnWidths(objectName());
+  const QList<int> saved = settings_.columnWidths(objectName());
   int column = 0;
   for (const auto& [usual, widest] : columns) {
     const int fitting = std::max(fittingColumnWidth(*this, usual, widest), header()->sectionSizeHint(column));
-    header()->resizeSection(column, kept.value(column) > 0 ? kept.value(column) : fitting);
+    header()->resizeSection(column, saved.value(column) > 0 ? saved.value(column) : fitting);
     ++column;
   }
   connect(header(), &QHeaderView::sectionResized, this,
-          [this](int resized, int /*before*/, int width) { keepWidth(resized, width); });
+          [this](int resized, int /*before*/, int width) { saveColumnWidth(resized, width); });
 }
 
-// The last column's width follows the window's.
-void RecordTable::keepWidth(int column, int width) {
+// The last column is not saved, as it stretches with the window.
+void RecordTable::saveColumnWidth(int column, int width) {
   if (header()->visualIndex(column) == header()->count() - 1) return;
   QList<int> widths = settings_.columnWidths(objectName());
   widths.resize(header()->count());
@@ -129,12 +129,12 @@ void RecordTable::keepWidth(int column, int width) {
   settings_.setColumnWidths(objectName(), widths);
 }
 
-QStringList RecordTable::cellsOf(int shownRow) const {
+QStringList RecordTable::rowTexts(int shownRow) const {
   QStringList cells;
   for (int place = 0; place < header()->count(); ++place) {
     const int column = header()->logicalIndex(place);
-    const QVariant cell = shownRow == headings ? rows_->headerData(column, Qt::Horizontal)
-                                               : rows_->index(shownRow, column).data();
+    const QVariant cell = shownRow == headingRow ? rows_->headerData(column, Qt::Horizontal)
+                                                 : rows_->index(shownRow, column).data();
     cells.append(cell.toString());
   }
   return cells;

@@ -13,35 +13,37 @@ namespace parlexo {
 class Settings;
 class SortedRows;
 
-/// A list of records that the user reads, sorts, copies and exports. A click on a heading sorts by that
-/// column, the next one turns the order round and a third brings the model's own order back. Ctrl+C copies
-/// the selected rows. Widths that the user gives to the columns last from run to run.
+/// A read-only list of records that can be sorted, copied and exported. A click on a heading sorts by that
+/// column, a second click reverses the order and a third one restores the order of the model. Ctrl+C copies
+/// the selected rows. Column widths are saved in the settings.
 class RecordTable final : public QTreeView {
   Q_OBJECT
 
  public:
   struct Column {
-    int usual;       ///< width in pixels
-    QString widest;  ///< what must never be cut off, whatever the font; may be empty
+    int usual;       ///< default width in pixels
+    QString widest;  ///< longest text that must not be cut off in any font; may be empty
   };
   struct Form {
-    QString name;   ///< object name, and the name under which the widths are kept
-    QString label;  ///< what a screen reader calls the list
+    QString name;   ///< object name, also the settings key of the column widths
+    QString label;  ///< accessible name
     std::vector<Column> columns;
     bool hasGrid = false;
   };
 
-  /// `records` and `settings` must outlive the table. `records` may change its cells and reset itself.
+  /// `records` and `settings` must outlive the table. `records` may change cells and be reset, but must not
+  /// insert or remove rows otherwise.
   RecordTable(QAbstractItemModel& records, const Form& form, Settings& settings, QWidget* parent = nullptr);
 
-  /// The rows of `records` that are selected, in the order in which they are shown.
+  /// Row numbers in `records` of the selected rows, in display order.
   [[nodiscard]] std::vector<int> selectedRecords() const;
-  /// Selects a row of `records` alone and scrolls to it.
+  /// Selects only this row of `records` and scrolls to it.
   void selectRecord(int row);
 
-  /// Puts the selected rows on the clipboard, with tabs between the cells, as the columns stand.
+  /// Copies the selected rows to the clipboard, with tabs between the cells, in display order.
   void copySelected() const;
-  /// All rows with their headings, as they stand. Cells that a spreadsheet would calculate are made harmless.
+  /// Returns all rows with their headings, in display order. Cells that a spreadsheet would evaluate as
+  /// formulas are escaped.
   [[nodiscard]] CsvWriter toCsv() const;
 
  protected:
@@ -52,14 +54,14 @@ class RecordTable final : public QTreeView {
  private:
   void setUpColumns(const std::vector<Column>& columns);
   void setUpSorting();
-  void keepWidth(int column, int width);
-  /// The cells of a shown row in the order of the columns; the headings for row -1.
-  [[nodiscard]] QStringList cellsOf(int shownRow) const;
+  void saveColumnWidth(int column, int width);
+  /// The texts of a displayed row, or the headings for row -1, in display order of the columns.
+  [[nodiscard]] QStringList rowTexts(int shownRow) const;
 
   SortedRows* rows_;
   Settings& settings_;
   bool hasGrid_;
-  bool scrollsWhenShown_ = false;  // a list without a place on the screen can't scroll to a row
+  bool scrollsWhenShown_ = false;  // scrolling has no effect while the list is hidden
 };
 
 }  // namespace parlexo

@@ -16,9 +16,9 @@
 
 namespace parlexo {
 
-RowListView::RowListView(QAbstractItemModel& model, std::function<QString(int row)> nameOf,
+RowListView::RowListView(QAbstractItemModel& model, std::function<QString(int row)> nameAt,
                          const QString& label, QWidget* parent)
-    : QTreeView(parent), nameOf_(std::move(nameOf)) {
+    : QTreeView(parent), nameAt_(std::move(nameAt)) {
   styleList(*this);
   setModel(&model);
   setAccessibleName(label);
@@ -52,28 +52,28 @@ std::vector<int> RowListView::selectedRows() const {
 
 QStringList RowListView::selectedNames() const {
   QStringList names;
-  for (const int row : selectedRows()) names.append(nameOf_(row));
+  for (const int row : selectedRows()) names.append(nameAt_(row));
   return names;
 }
 
 void RowListView::selectNames(const QStringList& names) {
-  const QSet<QString> wanted(names.begin(), names.end());
+  const QSet<QString> nameSet(names.begin(), names.end());
   QItemSelection selection;
-  for (int row = 0; !wanted.isEmpty() && row < model()->rowCount(); ++row)
-    if (wanted.contains(nameOf_(row))) selection.select(model()->index(row, 0), model()->index(row, 0));
+  for (int row = 0; !nameSet.isEmpty() && row < model()->rowCount(); ++row)
+    if (nameSet.contains(nameAt_(row))) selection.select(model()->index(row, 0), model()->index(row, 0));
   QModelIndex first;
   if (!selection.isEmpty()) first = selection.front().topLeft();
   selectionModel()->setCurrentIndex(first, QItemSelectionModel::NoUpdate);
   selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
 }
 
-void RowListView::keepPlace(const std::function<void()>& change) {
+void RowListView::preserveSelection(const std::function<void()>& change) {
   const QStringList selected = selectedNames();
   const int current = currentIndex().row();
-  const QString currentName = current < 0 ? QString() : nameOf_(current);
+  const QString currentName = current < 0 ? QString() : nameAt_(current);
   const int scrolled = verticalScrollBar()->value();
   change();
-  // A change that resets nothing has left both where they were.
+  // Nothing to restore if the model was not reset.
   if (currentIndex().row() == current && selectedNames() == selected) return;
   selectNames(selected);
   if (current >= 0) makeCurrent(currentName);
@@ -82,7 +82,7 @@ void RowListView::keepPlace(const std::function<void()>& change) {
 
 void RowListView::makeCurrent(const QString& name) {
   for (int row = 0; row < model()->rowCount(); ++row) {
-    if (nameOf_(row) != name) continue;
+    if (nameAt_(row) != name) continue;
     selectionModel()->setCurrentIndex(model()->index(row, 0), QItemSelectionModel::NoUpdate);
     return;
   }
@@ -96,20 +96,20 @@ int RowListView::chosenRow() const {
 }
 
 void RowListView::keyboardSearch(const QString& letters) {
-  const bool isFresh =
+  const bool isFirst =
       !sinceTyped_.isValid() || sinceTyped_.hasExpired(QApplication::keyboardInputInterval());
   sinceTyped_.start();
-  typed_ = isFresh ? letters : typed_ + letters;
-  // A fresh letter goes on to the next name; further letters of a name may stay where they are.
-  const int row = rowOfName(typed_, currentIndex().row() + (isFresh ? 1 : 0));
+  typed_ = isFirst ? letters : typed_ + letters;
+  // The first letter moves on to the next match; further letters may stay on the current row.
+  const int row = findName(typed_, currentIndex().row() + (isFirst ? 1 : 0));
   if (row >= 0) setCurrentIndex(model()->index(row, 0));
 }
 
-int RowListView::rowOfName(const QString& beginning, int from) const {
+int RowListView::findName(const QString& beginning, int from) const {
   const int count = model()->rowCount();
   for (int step = 0; step < count; ++step) {
     const int row = (std::max(from, 0) + step) % count;
-    if (nameOf_(row).startsWith(beginning, Qt::CaseInsensitive)) return row;
+    if (nameAt_(row).startsWith(beginning, Qt::CaseInsensitive)) return row;
   }
   return -1;
 }

@@ -11,33 +11,33 @@
 
 namespace parlexo {
 
-/// A list with columns in the program's look: whole rows are selected, several at a time, and typed letters
-/// find a name. Rows are of one height, so that long lists open at once.
+/// A list with columns in the program's look. Several whole rows can be selected, and typed letters select
+/// the next name that starts with them. All rows have the same height, so that long lists open without delay.
 class RowListView : public QTreeView {
   Q_OBJECT
 
  public:
-  /// `label` is what a screen reader calls the list; `nameOf` gives the name in a row of `model`. The model
-  /// must outlive the view.
-  RowListView(QAbstractItemModel& model, std::function<QString(int row)> nameOf, const QString& label,
+  /// `nameAt` returns the name in a row of `model`, `label` is the accessible name. The model must outlive
+  /// the view.
+  RowListView(QAbstractItemModel& model, std::function<QString(int row)> nameAt, const QString& label,
               QWidget* parent = nullptr);
 
-  /// Gives the columns these widths in pixels, or more where a header needs more to be read.
+  /// Sets the column widths in pixels. A column becomes wider if its header would not fit.
   void setColumnWidths(const std::vector<int>& widths);
 
-  /// The width at which all columns are seen beside the scroll bar.
+  /// The width in pixels at which all columns are visible beside the scroll bar.
   [[nodiscard]] int fittingWidth() const;
 
-  /// The selected rows from the top.
+  /// The selected rows in ascending order.
   [[nodiscard]] std::vector<int> selectedRows() const;
-  /// The names in the selected rows from the top.
+  /// The names in the selected rows, top to bottom.
   [[nodiscard]] QStringList selectedNames() const;
-  /// Selects the rows with these names, no others, and makes the first of them the current one.
+  /// Selects exactly the rows with these names and makes the first of them current.
   void selectNames(const QStringList& names);
-  /// Runs `change`, which may fill the model anew, and then brings selection, current row and scroll
-  /// position back, as far as the names are still there.
-  void keepPlace(const std::function<void()>& change);
-  /// The current row when it is selected, else the first that is; -1 when none is.
+  /// Calls `change`, which may reset the model, and restores selection, current row and scroll position for
+  /// names that still exist.
+  void preserveSelection(const std::function<void()>& change);
+  /// The current row if it is selected, otherwise the first selected row, or -1 if there is none.
   [[nodiscard]] int chosenRow() const;
 
   void keyboardSearch(const QString& letters) override;
@@ -47,9 +47,9 @@ class RowListView : public QTreeView {
 
  private:
   void makeCurrent(const QString& name);
-  [[nodiscard]] int rowOfName(const QString& beginning, int from) const;
+  [[nodiscard]] int findName(const QString& beginning, int from) const;
 
-  std::function<QString(int)> nameOf_;
+  std::function<QString(int)> nameAt_;
   QString typed_;
   QElapsedTimer sinceTyped_;
 };

@@ -7,20 +7,16 @@
 #include <QLabel>
 #include <QToolButton>
 
+#include "ui/look.h"
+
 namespace parlexo {
-
-using namespace Qt::StringLiterals;
-
-namespace {
-constexpr int captionGap = 6;
-}  // namespace
 
 SearchField::SearchField(const QString& hint, QAbstractItemView& list, QWidget* parent)
     : QLineEdit(parent), list_(list) {
   setPlaceholderText(hint);
   setAccessibleName(hint);
   setClearButtonEnabled(true);
-  if (auto* clearButton = findChild<QToolButton*>()) clearButton->setAccessibleName(u"Clear search"_s);
+  if (auto* clearButton = findChild<QToolButton*>()) clearButton->setAccessibleName(tr("Clear search"));
 }
 
 void SearchField::keyPressEvent(QKeyEvent* event) {
@@ -44,7 +40,7 @@ QHBoxLayout* searchRow(const QString& caption, SearchField& search) {
   auto* label = new QLabel(caption, search.parentWidget());
   label->setBuddy(&search);
   auto* row = new QHBoxLayout;
-  row->setSpacing(captionGap);
+  row->setSpacing(look::controlSpacing);
   row->addWidget(label);
   row->addWidget(&search, 1);
   return row;

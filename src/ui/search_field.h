@@ -8,13 +8,13 @@ class QHBoxLayout;
 
 namespace parlexo {
 
-/// The field above a list in which the user types what to look for. Down and Enter go on to the list, so
-/// that Enter never closes a dialog in the middle of a search; Escape first clears what was typed.
+/// The search field above a list. Down and Enter move the focus to the list, so Enter does not close the
+/// dialog during a search. Escape clears the text, or is passed on if the field is empty.
 class SearchField final : public QLineEdit {
   Q_OBJECT
 
  public:
-  /// `hint` stands in the empty field and is its name for a screen reader. `list` must outlive the field.
+  /// `hint` is the placeholder text and the accessible name. `list` must outlive the field.
   SearchField(const QString& hint, QAbstractItemView& list, QWidget* parent = nullptr);
 
  protected:
@@ -24,8 +24,8 @@ class SearchField final : public QLineEdit {
   QAbstractItemView& list_;
 };
 
-/// What stands above a list: its caption, whose mnemonic leads to the search, and the search. The caller's
-/// layout takes the row.
+/// Creates the row above a list: its caption, whose mnemonic focuses the search field, and the search field.
+/// The caller's layout takes ownership of the row.
 [[nodiscard]] QHBoxLayout* searchRow(const QString& caption, SearchField& search);
 
 }  // namespace parlexo

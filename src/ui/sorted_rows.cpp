@@ -8,14 +8,14 @@ namespace parlexo {
 
 SortedRows::SortedRows(QAbstractItemModel& source, QObject* parent) : QSortFilterProxyModel(parent) {
   setDynamicSortFilter(false);
-  connect(&source, &QAbstractItemModel::modelAboutToBeReset, this, &SortedRows::forgetKeys);
-  connect(&source, &QAbstractItemModel::dataChanged, this, &SortedRows::forgetKeys);
+  connect(&source, &QAbstractItemModel::modelAboutToBeReset, this, &SortedRows::clearKeys);
+  connect(&source, &QAbstractItemModel::dataChanged, this, &SortedRows::clearKeys);
   setSourceModel(&source);
 }
 
 void SortedRows::sort(int column, Qt::SortOrder order) {
-  forgetKeys();
-  // Without a column a descending order would turn the model's own upside down.
+  clearKeys();
+  // Column -1 with descending order would reverse the order of the model.
   QSortFilterProxyModel::sort(column, column < 0 ? Qt::AscendingOrder : order);
 }
 
@@ -27,13 +27,13 @@ bool SortedRows::lessThan(const QModelIndex& left, const QModelIndex& right) con
   return a.text.compare(b.text, Qt::CaseInsensitive) < 0;
 }
 
-SortedRows::Key SortedRows::keyOf(const QModelIndex& cell) {
-  const QVariant given = cell.data(recordSortRole);
-  if (given.isValid()) return {false, given.toDouble(), {}};
+SortedRows::Key SortedRows::toKey(const QModelIndex& cell) {
+  const QVariant sortKey = cell.data(recordSortRole);
+  if (sortKey.isValid()) return {false, sortKey.toDouble(), {}};
   QString text = cell.data().toString();
   bool isNumber = false;
   const double number = text.toDouble(&isNumber);
-  // "nan" is a number to Qt, but it has no place in an order.
+  // toDouble() accepts "nan", which has no place in an ordering.
   if (isNumber && std::isfinite(number)) return {false, number, std::move(text)};
   return {true, 0.0, std::move(text)};
 }
@@ -45,7 +45,7 @@ const SortedRows::Key& SortedRows::keyAt(const QModelIndex& cell) const {
     keys_.clear();
     keys_.reserve(rows);
     for (int row = 0; row < source.rowCount(); ++row)
-      keys_.push_back(keyOf(source.index(row, cell.column())));
+      keys_.push_back(toKey(source.index(row, cell.column())));
     keyedColumn_ = cell.column();
   }
   return keys_[static_cast<std::size_t>(cell.row())];

@@ -8,13 +8,13 @@
 
 namespace parlexo {
 
-/// The role under which a model may name a number to sort a cell by, where its text would sort wrongly
-/// (dates). Cells without one are sorted by their text.
+/// Item role for a numeric sort key, for cells whose text would sort in the wrong order, such as dates.
+/// Cells without one are sorted by their text.
 inline constexpr int recordSortRole = Qt::UserRole;
 
-/// The rows of a model in the order that the user asked for: numbers before texts, numbers by their value,
-/// texts without regard to case, equal ones in the model's order. Column -1 is the model's own order.
-/// Rows stay where they are while their cells change; the next sort or reset of the model moves them.
+/// Sorts the rows of a model by one column: numbers by value, before texts; texts case-insensitively; equal
+/// cells in the order of the model. Column -1 restores the order of the model. Rows are not moved when their
+/// cells change, only by the next sort or model reset.
 class SortedRows final : public QSortFilterProxyModel {
   Q_OBJECT
 
@@ -33,11 +33,11 @@ class SortedRows final : public QSortFilterProxyModel {
     QString text;
   };
 
-  [[nodiscard]] static Key keyOf(const QModelIndex& cell);
+  [[nodiscard]] static Key toKey(const QModelIndex& cell);
   [[nodiscard]] const Key& keyAt(const QModelIndex& cell) const;
-  void forgetKeys() { keys_.clear(); }
+  void clearKeys() { keys_.clear(); }
 
-  // Worked out once per row instead of once per comparison; empty when they have to be.
+  // Computed once per row instead of once per comparison; empty if outdated.
   mutable std::vector<Key> keys_;
   mutable int keyedColumn_ = -1;
 };

@@ -12,8 +12,6 @@
 namespace parlexo::test {
 namespace {
 
-using simulator::FaultKind;
-
 TEST(HistoryText, hasARecordForEveryTerminatedLine) {
   const Cases<const char*, std::vector<HistoryRecord>> cases = {
       {"", {}},
@@ -32,11 +30,10 @@ TEST(HistoryDate, isOrderedByTimeInTheUsualForm) {
   const QStringList inOrder = {u"31/12/2025 23:59:59"_s, u"01/01/2026 00:00:00"_s, u"01/01/2026 00:00:01"_s,
                                u"01/01/2026 00:01:00"_s, u"01/01/2026 01:00:00"_s, u"02/01/2026 00:00:00"_s,
                                u"01/02/2026 00:00:00"_s};
-  for (int i = 1; i < inOrder.size(); ++i)
-    EXPECT_LT(historyDateOrder(inOrder[i - 1]), historyDateOrder(inOrder[i])) << i;
-  EXPECT_TRUE(historyDateOrder(inOrder[0]));
+  for (int i = 1; i < inOrder.size(); ++i) EXPECT_LT(toSortKey(inOrder[i - 1]), toSortKey(inOrder[i])) << i;
+  EXPECT_TRUE(toSortKey(inOrder[0]));
   for (const auto& other : {u"2026-01-01"_s, u"1/1/2026 10:00:00"_s, u"01/01/2026 10:00:0x"_s, QString()})
-    EXPECT_FALSE(historyDateOrder(other)) << other.toStdString();
+    EXPECT_FALSE(toSortKey(other)) << other.toStdString();
 }
 
 class AccountHistory : public testing::Test, protected AccountRig {};
@@ -45,7 +42,7 @@ TEST_F(AccountHistory, isReadFromTheGateway) {
   const QDateTime date({2026, 1, 2}, {3, 4, 5}, Qt::UTC);
   simulator.rememberTransaction("demo", -0.05, date, u"SMS <to> Zoë & 1 €"_s);
   simulator.rememberTransaction("demo", 100, date.addDays(1), QString());
-  const auto records = AccountHistoryFlow(services()).load();
+  const auto records = fetchAccountHistory(services());
   ASSERT_TRUE(records);
   EXPECT_THAT(*records,
               ElementsAre(HistoryRecord{"1", "02/01/2026 03:04:05", "-0.05", u"SMS <to> Zoë & 1 €"_s},
@@ -56,7 +53,7 @@ TEST_F(AccountHistory, isReadFromTheGateway) {
 TEST_F(AccountHistory, everyFailureShowsTheSameMessage) {
   const auto failsWith = [this](const char* line) {
     journal.clear();
-    EXPECT_FALSE(AccountHistoryFlow(services()).load());
+    EXPECT_FALSE(fetchAccountHistory(services()));
     EXPECT_THAT(journal, ElementsAre("(box)", "(no box)", line));
   };
   setFault(FaultKind::Code, "getAccountHistory", 12);
@@ -66,9 +63,7 @@ TEST_F(AccountHistory, everyFailureShowsTheSameMessage) {
   failsWith("16 Could not successfully obtain history details. Error: 0");
 }
 
-struct EmailPreferencesTest : testing::Test, AccountRig {
-  EmailPreferencesFlow flow{services()};
-};
+struct EmailPreferencesTest : testing::Test, AccountRig {};
 
 TEST_F(EmailPreferencesTest, everySettingRoundTrips) {
   // One flag at a time: two swapped flags would otherwise go unnoticed.
@@ -80,8 +75,8 @@ TEST_F(EmailPreferencesTest, everySettingRoundTrips) {
                             .stopsAtEndKeyword = flag == 2,
                             .isFiltered = flag == 3,
                             .addresses = {"a@b.example", "\"odd one\"@c.example", "d@e.example"}};
-    EXPECT_EQ(flow.save(wanted), EmailSaveOutcome::Saved);
-    EXPECT_EQ(flow.load(), wanted) << flag;
+    EXPECT_EQ(saveEmailPreferences(services(), wanted), EmailSaveOutcome::Saved);
+    EXPECT_EQ(fetchEmailPreferences(services()), wanted) << flag;
     const simulator::EmailPreferences held = simulator.emailPreferences("demo");
     EXPECT_EQ(held.splitLong, flag == 0);
     EXPECT_EQ(held.endAtDoubleLine, flag == 1);
@@ -95,7 +90,7 @@ TEST_F(EmailPreferencesTest, everySettingRoundTrips) {
 TEST_F(EmailPreferencesTest, failedSaveNamesItsCause) {
   const auto saveFails = [this](EmailSaveOutcome outcome, const char* line) {
     journal.clear();
-    EXPECT_EQ(flow.save({.isEnabled = true}), outcome);
+    EXPECT_EQ(saveEmailPreferences(services(), {.isEnabled = true}), outcome);
     EXPECT_THAT(journal, ElementsAre("(box)", "(no box)", line));
   };
   constexpr char other[] = "16 An error occured while trying to save your email messaging preferences";
@@ -136,7 +131,7 @@ TEST_F(News, needsNoSessionAndIsUnchanged) {
 // The news with its links in brackets.
 std::string withMarkedLinks(const char* news) {
   QString text;
-  for (const NewsPart& part : newsParts(QString::fromUtf8(news)))
+  for (const NewsPart& part : splitNews(QString::fromUtf8(news)))
     text += part.page.isEmpty() ? part.text : u"[%1]"_s.arg(part.text);
   return text.toStdString();
 }
@@ -167,7 +162,7 @@ constexpr char mismatch[] =
 
 struct PasswordChange : testing::Test, AccountRig {
   std::optional<PasswordField> change(const PasswordDraft& draft) {
-    return PasswordChangeFlow(services()).change(draft);
+    return changePassword(services(), draft);
   }
 };
 
@@ -189,7 +184,7 @@ TEST_F(PasswordChange, invalidInputIsReportedInOrderBeforeAnyCall) {
   }
   EXPECT_TRUE(operations().isEmpty());
   for (const char* good : {"abcde1", "abcdefghi1"})
-    EXPECT_FALSE(problemWith({"abcdef", good, good}).has_value()) << good;
+    EXPECT_FALSE(validate({"abcdef", good, good}).has_value()) << good;
 }
 
 TEST_F(PasswordChange, validPasswordReachesTheGateway) {

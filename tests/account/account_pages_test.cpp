@@ -13,8 +13,6 @@
 namespace parlexo::test {
 namespace {
 
-using simulator::FaultKind;
-
 struct HistoryPage : testing::Test, AccountRig {
   void remember(double amount, const QDate& day) {
     simulator.rememberTransaction("demo", amount, QDateTime(day, {12, 0}, Qt::UTC), u"note"_s);

@@ -8,8 +8,6 @@
 namespace parlexo::test {
 namespace {
 
-using simulator::FaultKind;
-
 struct SettingsPage : testing::Test, AccountRig {
   void open() {
     page_ = std::make_unique<CSettingsDlg>(services(),
@@ -64,7 +62,7 @@ TEST_F(SettingsPage, incompletePreferencesFocusTheMissingField) {
 }
 
 TEST_F(SettingsPage, refreshLoadsMissingPreferencesButKeepsUserInput) {
-  ASSERT_EQ(EmailPreferencesFlow(services()).save({.identityCode = u"held"_s}), EmailSaveOutcome::Saved);
+  ASSERT_EQ(saveEmailPreferences(services(), {.identityCode = u"held"_s}), EmailSaveOutcome::Saved);
   notifier.shown.clear();
   for (const auto& [kind, code] : {std::pair(FaultKind::Code, 7), {FaultKind::HttpError, 0}}) {
     simulator.clearFaults();

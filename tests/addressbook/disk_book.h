@@ -13,13 +13,13 @@ struct DiskBook : AddressBookFixture {
   [[nodiscard]] AddressBookServices services() { return {book_, notifier_, progress_, settings_, runner_}; }
 
   void addContact(const QString& name, const QString& phone = "+61491570156") {
-    book_.saveContact({name, phone, "Y", "N", {}, {}, {}});
+    EXPECT_TRUE(book_.saveContact({name, phone, "Y", "N", {}, {}, {}}));
   }
 
   /// Clears the memory and reads the files.
   void reload() {
     book_.clear();
-    ASSERT_TRUE(book_.loadAll(progress_));
+    ASSERT_TRUE(loadAll(book_));
   }
 
   /// Makes all further writes fail.

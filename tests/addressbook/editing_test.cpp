@@ -5,10 +5,10 @@
 #include "addressbook/core/contact_export.h"
 #include "addressbook/core/contact_form.h"
 #include "addressbook/core/contact_index.h"
+#include "addressbook/core/contact_selection.h"
 #include "addressbook/core/contacts_flow.h"
 #include "addressbook/core/group_draft.h"
 #include "addressbook/core/import_row.h"
-#include "addressbook/core/sorted_book.h"
 #include "contacts/import/delimited_file.h"
 #include "tests/addressbook/disk_book.h"
 #include "tests/addressbook/sample_book.h"
@@ -53,7 +53,7 @@ TEST(ContactForm, reportsTheFirstProblem) {
       {typedContact("Bob", "+1", "", QString::fromUtf8("bob@bücher.de")), "Invalid Email Address"},
   };
   for (const auto& [typed, problem] : cases) {
-    const auto found = newContactForm().take(typed);
+    const auto found = newContactForm().apply(typed);
     EXPECT_EQ(found ? found->text : QString(), problem)
         << qPrintable(typed.name + ' ' + typed.phone + ' ' + typed.email);
   }
@@ -62,7 +62,7 @@ TEST(ContactForm, reportsTheFirstProblem) {
 TEST(ContactForm, trimsInputAndSetsTheFlagsOfValidContacts) {
   ContactForm form = newContactForm();
   ContactRecord typed{"  Bob ", " 12 ", "Y", "Y", " +3\t", " b@c.de ", {" x ", "", "", "", "", " y"}};
-  EXPECT_EQ(form.take(typed)->field, ContactProblem::Field::Phone);
+  EXPECT_EQ(form.apply(typed)->field, ContactProblem::Field::Phone);
   EXPECT_EQ(form.contact().name, "Bob");
   EXPECT_EQ(form.contact().phone, "12");
   EXPECT_EQ(form.contact().fax, "+3");
@@ -71,7 +71,7 @@ TEST(ContactForm, trimsInputAndSetsTheFlagsOfValidContacts) {
   EXPECT_EQ(form.contact().supportsSms, "");
   typed.phone = "+12";
   typed.supportsMedia = "N";
-  EXPECT_FALSE(form.take(typed));
+  EXPECT_FALSE(form.apply(typed));
   EXPECT_EQ(form.contact().supportsSms + form.contact().supportsMedia, "YN");
 }
 
@@ -80,7 +80,7 @@ TEST(ContactForm, existingContactKeepsItsName) {
   EXPECT_FALSE(form.isNew());
   EXPECT_TRUE(form.supportsSms());
   EXPECT_FALSE(form.supportsMedia());
-  EXPECT_FALSE(form.take(typedContact("Another", "+2")));
+  EXPECT_FALSE(form.apply(typedContact("Another", "+2")));
   EXPECT_EQ(form.contact().name, "Ann");
   EXPECT_EQ(form.contact().phone, "+2");
 }
@@ -116,13 +116,12 @@ TEST(GroupDraft, rejectsBlankAndExistingNames) {
       {"All Contacts", "A group with this name already exists."},
       {" Teams ", ""},
   };
-  for (const auto& [typed, problem] : cases)
-    EXPECT_EQ(GroupDraft(sample.book(), {}).takeName(typed), problem);
+  for (const auto& [typed, problem] : cases) EXPECT_EQ(GroupDraft(sample.book(), {}).setName(typed), problem);
   GroupDraft existing(sample.book(), "Team");
-  EXPECT_EQ(existing.takeName("other"), "");
+  EXPECT_EQ(existing.setName("other"), "");
   EXPECT_EQ(existing.name(), "Team");
   GroupDraft created(sample.book(), {});
-  EXPECT_EQ(created.takeName(" Teams "), "");
+  EXPECT_EQ(created.setName(" Teams "), "");
   EXPECT_EQ(created.changes().group, "Teams");
 }
 
@@ -178,7 +177,7 @@ TEST(ContactExport, isReadBackByTheImportUnchanged) {
                     {"=1+1", "a;b", "-", "@x", "1,5", "tab"});
   sample.addContact("+Plus", "", "N", "Y", "+61255501234", {"001", "", "", "", "", "'"});
   sample.addContact("Smith (42)", "+14155552671");
-  const CsvWriter csv = contactsAsCsv(sortedContacts(sample.book(), eligibilityFor(u"All")));
+  const CsvWriter csv = contactsAsCsv(sortedContacts(sample.book(), SelectionMode::All));
   const QTemporaryDir folder;
   const QString path = folder.filePath("out.csv");
   ASSERT_EQ(csv.save(path), "");
@@ -191,9 +190,9 @@ TEST(ContactExport, isReadBackByTheImportUnchanged) {
   for (int row = 1; row < reading.sheet.rowCount(); ++row) {
     const ImportRow read = readImportRow(reading.sheet, row, plan);
     EXPECT_EQ(read.refusal, "");
-    readBack.book().saveContact(newContact(read, plan), false);
+    readBack.book().insertContact(newContact(read, plan));
   }
-  EXPECT_EQ(contactsAsCsv(sortedContacts(readBack.book(), eligibilityFor(u"All"))).bytes(), csv.bytes());
+  EXPECT_EQ(contactsAsCsv(sortedContacts(readBack.book(), SelectionMode::All)).bytes(), csv.bytes());
   EXPECT_EQ(exportName({Kind::Group, "Parents/Carers: A?"}), "Parents_Carers_ A_");
 }
 
@@ -201,8 +200,8 @@ struct ContactsFlowTest : DiskBook {
   ContactsFlowTest() {
     addContact("Ann");
     addContact("Bob");
-    book_.createGroup("My Personal Contacts", {"Ann"});
-    book_.createGroup("Team", {"Ann", "Bob"});
+    EXPECT_TRUE(book_.createGroup("My Personal Contacts", {"Ann"}));
+    EXPECT_TRUE(book_.createGroup("Team", {"Ann", "Bob"}));
     notifier_.shown.clear();
   }
 

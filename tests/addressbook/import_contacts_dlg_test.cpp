@@ -15,7 +15,7 @@ namespace {
 /// The import dialog. `onDialog` answers the dialogs that it opens.
 struct ImportContactsDlgTest : DiskBook {
   ImportContactsDlgTest() {
-    book_.createGroup("Team");
+    EXPECT_TRUE(book_.createGroup("Team"));
     QObject::connect(&timer_, &QTimer::timeout, &timer_, [this] {
       auto* top = qobject_cast<QDialog*>(QApplication::activeModalWidget());
       if (top && top != &dialog_ && onDialog) onDialog(*top);
@@ -78,7 +78,7 @@ TEST_F(ImportContactsDlgTest, aBrokenFileIsReportedAndNotImported) {
 }
 
 TEST_F(ImportContactsDlgTest, importsAndSumsUp) {
-  book_.saveContact({"Ann", "+61491570150", "Y", "N", {}, {}, {}});
+  EXPECT_TRUE(book_.saveContact({"Ann", "+61491570150", "Y", "N", {}, {}, {}}));
   QString question;
   QString summary;
   const QString refusedFile = folder_.filePath("refused.csv");

@@ -12,7 +12,7 @@ namespace {
 
 /// A user who always gives the same answer and cancels at row `cancelAt`.
 struct ScriptedUser final : ImportUser {
-  [[nodiscard]] bool goOn(int done, int total) override {
+  [[nodiscard]] bool reportProgress(int done, int total) override {
     lastProgress = importProgressText(done, total);
     return done < cancelAt;
   }
@@ -29,9 +29,10 @@ struct ScriptedUser final : ImportUser {
 
 struct ContactImportTest : DiskBook {
   ContactImportTest() {
-    book_.saveContact({"Ann", "+61491570156", "N", "Y", "+61255501234", "ann@example.com", {"old", "kept"}});
-    book_.createGroup("Team");
-    book_.createGroup("Other", {"Ann"});
+    EXPECT_TRUE(book_.saveContact(
+        {"Ann", "+61491570156", "N", "Y", "+61255501234", "ann@example.com", {"old", "kept"}}));
+    EXPECT_TRUE(book_.createGroup("Team"));
+    EXPECT_TRUE(book_.createGroup("Other", {"Ann"}));
   }
 
   Sheet parseSheet(const QByteArray& text) {
@@ -47,7 +48,7 @@ struct ContactImportTest : DiskBook {
     plan_.columns = suggestColumns(sheet_, plan_.headingRow);
     plan_.group = group;
     EXPECT_EQ(planProblem(plan_), QString());
-    return importContacts(sheet_, plan_, book_, user_);
+    return importContacts(sheet_, plan_, book_, user_, notifier_);
   }
 
   [[nodiscard]] QString describe(const QString& name) const {
@@ -181,7 +182,7 @@ TEST_F(ContactImportTest, cancelAndWriteErrorsEndTheImport) {
 
   EXPECT_THAT(summaryText(outcome).toStdString(),
               HasSubstr("Imported: 2\nUpdated: 0\nSkipped: 0\nRefused: 0\n"
-                        "Not dealt with: 1"));
+                        "Not imported: 1"));
 
   user_.cancelAt = 1000;
   const Sheet sheets[] = {parseSheet("Name,Phone\nB,+61491570157\nC,+61491570157\n"),
@@ -189,7 +190,7 @@ TEST_F(ContactImportTest, cancelAndWriteErrorsEndTheImport) {
   loseFolder();
   user_.answer = {ImportUser::Choice::Overwrite, true};
   for (const Sheet& failing : sheets) {
-    outcome = importContacts(failing, plan_, book_, user_);
+    outcome = importContacts(failing, plan_, book_, user_, notifier_);
     EXPECT_EQ(outcome.end, ImportOutcome::End::WriteFailed);
     EXPECT_EQ(outcome.updated + outcome.imported, 0);
     EXPECT_THAT(summaryText(outcome).toStdString(), HasSubstr("stopped at row 2,"));
@@ -205,7 +206,7 @@ TEST_F(ContactImportTest, repeatedImportCompletesAGroup) {
   ImportOutcome outcome = import(rows, "Team");
   EXPECT_EQ(outcome.end, ImportOutcome::End::JoinFailed);
   EXPECT_EQ(outcome.names, QStringList("B"));
-  EXPECT_EQ(outcome.left, 1);
+  EXPECT_EQ(outcome.remaining, 1);
   EXPECT_EQ(memberNames("Team"), QStringList());
 
   ASSERT_TRUE(QDir().rmdir(file) && QFile::rename(file + ".away", file));

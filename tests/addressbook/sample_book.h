@@ -11,7 +11,6 @@
 #include "contacts/item_database.h"
 #include "contacts/item_index_cache.h"
 #include "contacts/lock_waiter.h"
-#include "tests/support/recording_notifier.h"
 
 namespace parlexo::test {
 
@@ -22,21 +21,21 @@ class SampleBook {
 
   void addContact(const QString& name, const QString& phone = {}, const QString& sms = "N",
                   const QString& media = "N", const QString& fax = {}, const Extra& extra = {}) {
-    book_.saveContact({name, phone, sms, media, fax, {}, extra}, false);
+    book_.insertContact({name, phone, sms, media, fax, {}, extra});
   }
   void addGroup(const QString& name, const QStringList& members = {}) {
-    book_.createGroup(name, members, false);
+    book_.insertGroup(name);
+    for (const QString& member : members) book_.insertMember(name, member);
   }
 
   [[nodiscard]] const AddressBook& book() const { return book_; }
   [[nodiscard]] AddressBook& book() { return book_; }
 
  private:
-  RecordingNotifier notifier_;
   ItemIndexCache cache_;
   SleepingLockWaiter waiter_;
   ItemDatabase database_{cache_, waiter_};
-  AddressBook book_{QString(), database_, notifier_};
+  AddressBook book_{QString(), database_};
 };
 
 /// The names in a list or selection of contacts.

@@ -4,9 +4,10 @@
 #include <QHeaderView>
 #include <QListView>
 
-#include "addressbook/screens/check_list_view.h"
+#include "addressbook/screens/check_list_model.h"
 #include "addressbook/screens/select_by_extra_dlg.h"
 #include "tests/addressbook/sample_book.h"
+#include "tests/support/recording_notifier.h"
 #include "tests/support/widgets.h"
 
 namespace parlexo::test {
@@ -14,7 +15,7 @@ namespace {
 
 /// The contact selection dialog.
 struct SelectContactsDlg : testing::Test {
-  void open(const SampleBook& sample, const QString& mode, const QStringList& initial = {}) {
+  void open(const SampleBook& sample, SelectionMode mode, const QStringList& initial = {}) {
     ContactSelection::Contacts picked;
     for (const QString& name : initial) picked.push_back(sample.book().findContact(name));
     dialog_ = std::make_unique<CSelectContactsDlg>(sample.book(), mode, ContactSelection(picked), notifier_);
@@ -59,7 +60,7 @@ struct SelectContactsDlg : testing::Test {
 };
 
 TEST_F(SelectContactsDlg, tickedContactsAreReturnedInTheOrderOfTheList) {
-  open(people_, "All", {"Cid"});
+  open(people_, SelectionMode::All, {"Cid"});
   EXPECT_EQ(ticked(), QStringList("Cid"));
   clickCell(contacts(), 4, 0);
   clickCell(contacts(), 1, 0);
@@ -77,14 +78,14 @@ TEST_F(SelectContactsDlg, tickedContactsAreReturnedInTheOrderOfTheList) {
 TEST_F(SelectContactsDlg, contactsAndGroupsWithoutNameAreShownAndFound) {
   people_.addContact({}, "+1");
   people_.addGroup({});
-  open(people_, "All", {});
+  open(people_, SelectionMode::All, {});
   for (const char* search : {"contactSearch", "groupSearch"}) type(search, "no name");
   EXPECT_EQ(columnCells(contacts(), 1), QStringList("(no name)"));
   EXPECT_EQ(columnCells(groups(), 1), QStringList("(no name)"));
 }
 
 TEST_F(SelectContactsDlg, keyboardAloneTicksAndSelects) {
-  open(people_, "All");
+  open(people_, SelectionMode::All);
   EXPECT_TRUE(contacts().hasFocus());
   QTest::keyClick(&contacts(), Qt::Key_Space);
   EXPECT_EQ(ticked(), QStringList("Ann"));
@@ -98,31 +99,33 @@ TEST_F(SelectContactsDlg, keyboardAloneTicksAndSelects) {
 }
 
 TEST_F(SelectContactsDlg, columnsShowFaxNumbersInFaxMode) {
-  open(people_, "Fax");
+  open(people_, SelectionMode::Fax);
   EXPECT_EQ(columnCells(contacts(), 2), QStringList("+61255501234"));
-  open(people_, "Phone");
+  open(people_, SelectionMode::Phone);
   EXPECT_EQ(columnCells(contacts(), 2), QStringList({"+61491570156", "+61491570157"}));
-  open(people_, "Voice", {"Ann"});
+  const SampleBook empty;
+  open(empty, SelectionMode::All);
   QTest::keyClick(&contacts(), Qt::Key_Space);
   press("selectButton");
   EXPECT_TRUE(selected().isEmpty()) << "a list without rows";
+  dialog_.reset();
 }
 
 TEST_F(SelectContactsDlg, searchFiltersByNameShownNumberAndExtra) {
   people_.addContact("Fay", "+61491570158", "Y", "N", "+61255509999", {"Perth", "", "", "", "", "vip"});
-  open(people_, "All");
+  open(people_, SelectionMode::All);
   type("contactSearch", "5550");
   EXPECT_EQ(columnCells(contacts(), 1), QStringList()) << "a fax number that is not shown";
   type("contactSearch", "57015 VIP fay perth");
   EXPECT_EQ(columnCells(contacts(), 1), QStringList("Fay"));
   EXPECT_EQ(columnCells(groups(), 1), QStringList({"all", "Team"})) << "each search has its own list";
-  open(people_, "Fax");
+  open(people_, SelectionMode::Fax);
   type("contactSearch", "5550");
   EXPECT_EQ(columnCells(contacts(), 1), QStringList({"Cid", "Fay"}));
 }
 
 TEST_F(SelectContactsDlg, searchKeepsTicksAndLimitsNewOnes) {
-  open(people_, "All", {"Cid"});
+  open(people_, SelectionMode::All, {"Cid"});
   EXPECT_EQ(countLine(), "1 of 5 contacts selected");
   QLineEdit& field = type("contactSearch", "an");
   EXPECT_EQ(countLine(), "1 of 5 contacts selected, 1 hidden by the search");
@@ -146,7 +149,7 @@ TEST_F(SelectContactsDlg, searchKeepsTicksAndLimitsNewOnes) {
 }
 
 TEST_F(SelectContactsDlg, searchWorksByKeyboard) {
-  open(people_, "All");
+  open(people_, SelectionMode::All);
   QTest::keyClick(&contacts(), Qt::Key_O, Qt::AltModifier);
   auto* field = dialog_->findChild<QLineEdit*>("contactSearch");
   ASSERT_TRUE(field->hasFocus());
@@ -171,7 +174,7 @@ TEST_F(SelectContactsDlg, searchWorksByKeyboard) {
 }
 
 TEST_F(SelectContactsDlg, hasNamesForScreenReaders) {
-  open(people_, "All");
+  open(people_, SelectionMode::All);
   EXPECT_EQ(groups().accessibleName(), "Groups:");
   EXPECT_EQ(contacts().accessibleName(), "Contacts:");
   EXPECT_EQ(contacts().model()->index(1, 0).data(Qt::AccessibleTextRole).toString(), "bob");
@@ -234,7 +237,7 @@ TEST_F(SelectByExtraDlg, searchKeepsTheChoice) {
 }
 
 TEST_F(SelectByExtraDlg, eligibleContactsAreTicked) {
-  open(people_, "SMS", {"Ann"});
+  open(people_, SelectionMode::Sms, {"Ann"});
   bool wasOpen = false;
   QTimer::singleShot(0, dialog_.get(), [&] {
     auto* extra = dialog_->findChild<CSelectByExtraDlg*>();

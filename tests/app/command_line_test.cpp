@@ -6,15 +6,19 @@
 namespace parlexo::test {
 namespace {
 
+auto parse(const QStringList& arguments) {
+  return parseCommandLine(QStringList("parlexo-client") + arguments);
+}
+
 TEST(CommandLine, setsTheOptions) {
   const Cases<QStringList, bool, QString, QString> cases = {
       {{"--site=http://[::1]:8081/", "--data-dir=/tmp/a=b"}, false, "http://[::1]:8081", "/tmp/a=b"},
       {{"--data-dir", "x"}, false, {}, QDir::currentPath() + "/x"},
-      {{"-platform", "offscreen", "-style=fusion", "--demo"}, true, {}, {}},
+      {{"-platform", "offscreen", "-style=fusion", "-reverse", "--demo"}, true, {}, {}},
   };
   for (const auto& [arguments, demo, site, dataDir] : cases) {
     SCOPED_TRACE(arguments.join(u' ').toStdString());
-    const auto parsed = parseCommandLine(arguments);
+    const auto parsed = parse(arguments);
     const auto* options = std::get_if<ProgramOptions>(&parsed);
     ASSERT_TRUE(options);
     EXPECT_EQ(options->demo, demo);
@@ -23,11 +27,14 @@ TEST(CommandLine, setsTheOptions) {
   }
 }
 
-TEST(CommandLine, endsWithACodeAndAText) {
+TEST(CommandLine, exitsEarlyWithACodeAndAText) {
   const Cases<QStringList, int, QString> cases = {
-      {{"--help"}, 0, "--data-dir DIR"},
+      {{"--help"}, 0, "--data-dir <DIR>"},
+      {{"-h"}, 0, "--site <http://HOST:PORT>"},
       {{"--version"}, 0, "Parlexo Client 2.24\n"},
-      {{"--demos"}, 2, "unknown option \"--demos\""},
+      {{"--demos"}, 2, "Unknown option 'demos'"},
+      {{"demo"}, 2, "unexpected argument \"demo\""},
+      {{"--data-dir"}, 2, "Missing value"},
       {{"--site", "--demo"}, 2, "option \"--site\" needs a value"},
       {{"--data-dir="}, 2, "option \"--data-dir\" needs a value"},
       {{"--site=https://a.example"}, 2, "is not a site"},
@@ -35,11 +42,11 @@ TEST(CommandLine, endsWithACodeAndAText) {
   };
   for (const auto& [arguments, exitCode, mentions] : cases) {
     SCOPED_TRACE(arguments.join(u' ').toStdString());
-    const auto parsed = parseCommandLine(arguments);
-    const auto* end = std::get_if<ImmediateEnd>(&parsed);
-    ASSERT_TRUE(end);
-    EXPECT_EQ(end->exitCode, exitCode);
-    EXPECT_TRUE(end->output.contains(mentions)) << end->output.toStdString();
+    const auto parsed = parse(arguments);
+    const auto* exit = std::get_if<EarlyExit>(&parsed);
+    ASSERT_TRUE(exit);
+    EXPECT_EQ(exit->exitCode, exitCode);
+    EXPECT_TRUE(exit->output.contains(mentions)) << exit->output.toStdString();
   }
 }
 

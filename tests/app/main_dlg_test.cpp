@@ -10,13 +10,12 @@
 #include "app/login_dlg.h"
 #include "app/main_tabs.h"
 #include "app/notification_dlg.h"
-#include "app/notification_notifier.h"
 #include "app/program_screens.h"
 #include "connection/client/background_queue.h"
 #include "messaging/screens/sms_dlg.h"
 #include "simulator/simulator.h"
 #include "tests/support/widgets.h"
-#include "ui/front_window.h"
+#include "ui/gradient_page.h"
 #include "ui/hyperlink_label.h"
 #include "ui/picture_button.h"
 #include "ui/waiting/progress_box.h"
@@ -182,10 +181,10 @@ struct MainTabsTest : testing::Test {
   BackgroundQueue queue_;
   BackgroundGateway background_{state_, queue_};
   ProgramScreens windows_{{state_, settings_, stores_, gateway_, background_, notifier_, progress_, runner_}};
-  CMainDlg window_{mainTabs({state_, gateway_, notifier_, progress_, windows_, stores_.addressBook(),
-                             stores_.statusLog(), stores_.statusFile(), stores_.templates(), settings_},
-                            {stores_.addressBook(), notifier_, progress_, settings_, runner_},
-                            {state_, settings_, gateway_, notifier_, progress_})};
+  CMainDlg window_{createMainTabs({state_, gateway_, notifier_, progress_, windows_, stores_.addressBook(),
+                                   stores_.statusLog(), stores_.statusFile(), stores_.templates(), settings_},
+                                  {stores_.addressBook(), notifier_, progress_, settings_, runner_},
+                                  {state_, settings_, gateway_, notifier_, progress_})};
 };
 
 TEST_F(MainTabsTest, sendPagesUpdateTheStatusPage) {
@@ -194,11 +193,11 @@ TEST_F(MainTabsTest, sendPagesUpdateTheStatusPage) {
   auto* sms = window_.findChild<CQuillonSMSDlg*>();
   const auto* type = tabs->widget(7)->findChild<QComboBox*>();
 
-  Q_EMIT sms->messageSent(u"Fax"_s);
+  Q_EMIT sms->messageSent(MessageType::Fax);
   EXPECT_EQ(type->currentText(), u"Fax"_s);
   EXPECT_EQ(tabs->currentIndex(), 0);
 
-  Q_EMIT sms->statusRequested(u"SMS"_s);
+  Q_EMIT sms->statusRequested(MessageType::Sms);
   EXPECT_EQ(type->currentText(), u"SMS"_s);
   EXPECT_EQ(tabs->tabText(tabs->currentIndex()), u"Status"_s);
 }

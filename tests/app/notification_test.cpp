@@ -6,7 +6,6 @@
 #include <QScrollBar>
 
 #include "app/notification_dlg.h"
-#include "app/notification_notifier.h"
 #include "tests/support/widgets.h"
 #include "ui/look.h"
 

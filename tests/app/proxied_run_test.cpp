@@ -6,7 +6,6 @@
 #include <QTcpSocket>
 
 #include "app/core/login_flow.h"
-#include "app/core/shut_down.h"
 #include "connection/locator/gateway_search.h"
 #include "tests/app/run_fakes.h"
 #include "tests/support/fake_gateway.h"

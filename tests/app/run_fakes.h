@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "app/core/run_stores.h"
 #include "app/core/start_up.h"
 #include "connection/locator/server_locator.h"
 #include "tests/support/logged_in_rig.h"

@@ -1,9 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include <tuple>
 
 #include "app/core/balance_check.h"
 #include "app/core/login_flow.h"
-#include "app/core/shut_down.h"
 #include "app/core/start_up.h"
 #include "base/message_texts.h"
 #include "tests/app/run_fakes.h"
@@ -11,8 +9,6 @@
 
 namespace parlexo::test {
 namespace {
-
-using simulator::FaultKind;
 
 struct BalanceCheckTest : RunTest {
   void SetUp() override {
@@ -37,7 +33,7 @@ TEST_F(BalanceCheckTest, amountIsShownAndLowOnesAreReported) {
   for (const auto& [balance, shown, messages, isZero] : amounts) {
     state.balanceIsZero = false;
     journal.clear();
-    EXPECT_EQ(BalanceCheck(state, gateway, notifier, progress).take(balance), shown);
+    EXPECT_EQ(BalanceCheck(state, gateway, notifier, progress).report(balance), shown);
     EXPECT_EQ(journal, messages) << balance;
     EXPECT_EQ(state.balanceIsZero, isZero) << balance;
   }

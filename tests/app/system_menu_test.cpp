@@ -1,12 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "app/system_menu.h"
-
 #include <windows.h>
 
 #include <array>
 
 #include "app/about_dlg.h"
 #include "app/main_dlg.h"
+#include "app/platform.h"
 #include "tests/support/widgets.h"
 
 namespace parlexo::test {

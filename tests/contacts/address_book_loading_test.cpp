@@ -23,7 +23,7 @@ struct AddressBookLoading : AddressBookFixture {
 };
 
 TEST_F(AddressBookLoading, ofEmptyFolderYieldsThePersonalGroup) {
-  EXPECT_TRUE(book_.loadAll(progress_));
+  EXPECT_TRUE(loadAll(book_));
   EXPECT_THAT(groupNames(), ElementsAre("My Personal Contacts"));
   EXPECT_TRUE(book_.contacts().empty());
   EXPECT_EQ(readBytes(filePath("My Personal Contacts.grp")), "");
@@ -35,7 +35,7 @@ TEST_F(AddressBookLoading, ofEmptyFolderYieldsThePersonalGroup) {
 
 TEST_F(AddressBookLoading, showsTheCountAfterEveryTwentiethContact) {
   ASSERT_EQ(writeSampleFolder(folder_.path(), 41, 0), QString());
-  EXPECT_TRUE(book_.loadAll(progress_));
+  EXPECT_TRUE(loadAll(book_));
   EXPECT_THAT(progress_.texts, ElementsAre("Loading all Contacts...", "Loading all Contacts (20 Loaded)...",
                                            "Loading all Contacts (40 Loaded)...",
                                            "Loading Group \"My Personal Contacts\"..."));
@@ -48,7 +48,7 @@ TEST_F(AddressBookLoading, loadsOnlyGroupFilesAndDecodesTheirNames) {
   put("notes.txt", packMember("Ann"));
   put("old.grp.bak", packMember("Ann"));
   ASSERT_TRUE(QDir(folder_.path()).mkdir("folder.grp"));
-  EXPECT_TRUE(book_.loadAll(progress_));
+  EXPECT_TRUE(loadAll(book_));
   EXPECT_THAT(groupNames(), ElementsAre("My Personal Contacts", "a%", "a.b"));
   EXPECT_EQ(book_.findGroup("a.b")->members().at("Ann"), book_.findContact("Ann"));
   EXPECT_THAT(progress_.texts, Contains("Loading Group \"a.b\"..."));
@@ -60,7 +60,7 @@ TEST_F(AddressBookLoading, marksMembersWithoutContactAsDeleted) {
   const QByteArray wrongCase = packMember("ann");
   put(contactsFile, contactBytes("Ann"));
   put("Team.grp", gone + ann + wrongCase);
-  EXPECT_TRUE(book_.loadAll(progress_));
+  EXPECT_TRUE(loadAll(book_));
   EXPECT_EQ(readBytes(filePath("Team.grp")), deletedRecord(gone) + ann + deletedRecord(wrongCase));
   EXPECT_EQ(book_.findGroup("Team")->members().size(), 1U);
   EXPECT_THAT(notifier_.popLines(), IsEmpty());
@@ -72,7 +72,7 @@ TEST_F(AddressBookLoading, membersAddedByAnotherUserMeanwhileStay) {
   put("Team.grp", gone + packMember("Back") + gone);
   ItemIndexCache otherCache;
   ItemDatabase otherDatabase(otherCache, waiter_);
-  AddressBook colleague(folder_.path(), otherDatabase, notifier_);
+  AddressBook colleague(folder_.path(), otherDatabase);
   // A change between reading contacts and group, and one during the clean-up of the group.
   progress_.onText = [&](const QString& text) {
     if (!text.contains("Team")) return;
@@ -83,7 +83,7 @@ TEST_F(AddressBookLoading, membersAddedByAnotherUserMeanwhileStay) {
       EXPECT_TRUE(colleague.saveContact({"Back", {}, {}, {}, {}, {}, {}}));
     };
   };
-  EXPECT_TRUE(book_.loadAll(progress_));
+  EXPECT_TRUE(loadAll(book_));
   EXPECT_EQ(readBytes(filePath("Team.grp")),
             deletedRecord(gone) + packMember("Back") + deletedRecord(gone) + packMember("New"));
   EXPECT_EQ(book_.findContact("New")->phone, "+1");
@@ -95,13 +95,13 @@ TEST_F(AddressBookLoading, groupIsChangedAndDeletedInAllItsFiles) {
   put("Team--A.grp", packMember("Ann"));
   put("Team-A.grp", packMember("Ann"));
   const QString team = "Team<";
-  EXPECT_TRUE(book_.loadAll(progress_));
+  EXPECT_TRUE(loadAll(book_));
   EXPECT_TRUE(book_.removeMember(team, "Ann") && book_.addMember(team, "Ben"));
   EXPECT_EQ(readBytes(filePath("Team--A.grp")), deletedRecord(packMember("Ann")) + packMember("Ben"));
   EXPECT_EQ(readBytes(filePath("Team-A.grp")), deletedRecord(packMember("Ann")));
   EXPECT_TRUE(book_.deleteGroup(book_.findGroup(team)->name()));
-  AddressBook next(folder_.path(), database_, notifier_);
-  EXPECT_TRUE(next.loadAll(progress_));
+  AddressBook next(folder_.path(), database_);
+  EXPECT_TRUE(loadAll(next));
   EXPECT_EQ(next.groups().size(), 1U) << "only the personal one";
 }
 
@@ -111,7 +111,7 @@ TEST_F(AddressBookLoading, failedCleanUpIsReportedOnceAndLoadingContinues) {
   put("Zebras.grp", packMember("Gone"));
   SharedFile otherReader;
   ASSERT_EQ(otherReader.open(filePath("Team.grp"), SharedFile::Mode::Read), SharedFile::OpenResult::Opened);
-  EXPECT_TRUE(book_.loadAll(progress_));
+  EXPECT_TRUE(loadAll(book_));
   EXPECT_EQ(readBytes(filePath("Team.grp")), orphans);
   EXPECT_EQ(readBytes(filePath("Zebras.grp")), deletedRecord(packMember("Gone")));
   EXPECT_THAT(notifier_.popLines(),
@@ -122,8 +122,8 @@ TEST_F(AddressBookLoading, failedCleanUpIsReportedOnceAndLoadingContinues) {
 TEST_F(AddressBookLoading, truncatedNamesMatchAfterARestart) {
   const QString longName(90, u'n');
   EXPECT_TRUE(book_.saveContact({longName, {}, {}, {}, {}, {}, {}}) && book_.createGroup("G", {longName}));
-  AddressBook next(folder_.path(), database_, notifier_);
-  EXPECT_TRUE(next.loadAll(progress_));
+  AddressBook next(folder_.path(), database_);
+  EXPECT_TRUE(loadAll(next));
   EXPECT_TRUE(next.findContact(QString(80, u'n')));
   EXPECT_TRUE(next.findGroup("G")->contains(QString(80, u'n')));
 }

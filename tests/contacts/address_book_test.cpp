@@ -68,8 +68,11 @@ TEST_F(AddressBookChanges, removedMemberReusesItsRecord) {
   EXPECT_EQ(fileBytes(teamFile_), deletedRecord(packMember(ann)) + packMember(ben));
   EXPECT_TRUE(book_.addMember(team, ann));
   EXPECT_EQ(fileBytes(teamFile_), packMember(ann) + packMember(ben));
-  EXPECT_FALSE(book_.addMember(team, "Nobody"));
-  EXPECT_FALSE(book_.removeMember("No group", ann));
+  EXPECT_TRUE(book_.addMember(team, "Nobody"));
+  EXPECT_FALSE(book_.findGroup(team)->contains("Nobody"));
+  EXPECT_TRUE(book_.addMember("No group", ann));
+  EXPECT_TRUE(book_.removeMember("No group", ann));
+  EXPECT_FALSE(book_.findGroup("No group"));
 }
 
 }  // namespace

@@ -48,7 +48,7 @@ struct GoldenFiles : AddressBookFixture {
   void SetUp() override {
     for (const QString& name : QDir(golden_).entryList(QDir::Files))
       ASSERT_TRUE(QFile::copy(golden_ + name, filePath(name)));
-    ASSERT_TRUE(book_.loadAll(progress_));
+    ASSERT_TRUE(loadAll(book_));
   }
   [[nodiscard]] QByteArray goldenRecord(const QString& file, int number, int size) const {
     return readBytes(golden_ + file).mid(number * size, size);
@@ -82,7 +82,7 @@ TEST_F(GoldenFiles, readingChangesNoByte) {
 }
 
 TEST_F(GoldenFiles, sameContactsAndMembersHaveTheSameBytes) {
-  AddressBook copy(filePath("copy"), database_, notifier_);
+  AddressBook copy(filePath("copy"), database_);
   ASSERT_TRUE(QDir(folder_.path()).mkdir("copy"));
   EXPECT_TRUE(copy.saveContact(zoeContact()) && copy.saveContact(everyContact()) &&
               copy.saveContact(fullContact()));

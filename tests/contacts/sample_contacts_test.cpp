@@ -12,8 +12,8 @@ class SampleFolder : public AddressBookFixture {};
 TEST_F(SampleFolder, isRestoredAndNotOverwritten) {
   const QString folder = filePath(u"new/contacts"_s);
   ASSERT_EQ(writeSampleFolder(folder, 300, 12), QString());
-  AddressBook book(folder, database_, notifier_);
-  EXPECT_TRUE(book.loadAll(progress_));
+  AddressBook book(folder, database_);
+  EXPECT_TRUE(loadAll(book));
   EXPECT_EQ(book.contacts().size(), 300U);
   EXPECT_EQ(book.groups().size(), 13U);
   EXPECT_EQ(book.findGroup(u"Customers"_s)->members().size(), 150U);

@@ -57,7 +57,16 @@ struct StoreFixture : testing::Test {
 struct AddressBookFixture : StoreFixture {
   RecordingNotifier notifier_;
   RecordingProgress progress_;
-  AddressBook book_{folder_.path(), database_, notifier_};
+  AddressBook book_{folder_.path(), database_};
+
+  bool loadAll(AddressBook& book) {
+    return book.loadAll(progress_, [this](const StoreError& error) { showError(error, notifier_); });
+  }
+  /// Shows the errors as the program does, and returns whether there were none.
+  bool report(const StoreResult& result) {
+    for (const StoreError& error : result.errors()) showError(error, notifier_);
+    return static_cast<bool>(result);
+  }
 };
 
 }  // namespace parlexo::test

@@ -7,12 +7,10 @@
 #include <QImage>
 #include <QMimeData>
 
-#include "messaging/screens/fax_dlg.h"
-#include "messaging/screens/file_look.h"
+#include "messaging/screens/file_details.h"
+#include "messaging/screens/file_page.h"
 #include "messaging/screens/message_edit.h"
-#include "messaging/screens/mms_dlg.h"
 #include "messaging/screens/picture_preview.h"
-#include "messaging/screens/wap_dlg.h"
 #include "tests/messaging/page_rig.h"
 #include "tests/support/file_bytes.h"
 #include "tests/support/widgets.h"
@@ -74,11 +72,11 @@ TYPED_TEST(FilePages, clearThemselvesOnlyAfterASuccessfulSend) {
   EXPECT_NE(this->page.draft().displayList, "");
   this->press("sendButton");
   ASSERT_THAT(sent, SizeIs(1));
-  EXPECT_EQ(sent.at(0).at(0).toString(), this->page.typeWord());
+  EXPECT_EQ(sent.at(0).at(0).template value<MessageType>(), this->page.messageType());
   EXPECT_EQ(this->page.draft().path, "");
   EXPECT_EQ(this->page.draft().note, "");
   EXPECT_EQ(this->page.draft().displayList, "");
-  EXPECT_EQ(toWord(this->simulator.messages().at(0).type), this->page.typeWord());
+  EXPECT_EQ(this->simulator.messages().at(0).type, this->page.messageType());
 }
 
 TYPED_TEST(FilePages, noteAndRecipientsStayVisibleAtEverySize) {
@@ -211,7 +209,7 @@ TEST_F(MmsPage, previewShowsAPictureUntilThePathChanges) {
   auto& preview = find<PicturePreview>("picturePreview");
   EXPECT_NE(factsFor(write("tall.png", makePicture({40, 4000}, "png"))), "");
   ASSERT_FALSE(preview.pixmap().isNull());
-  EXPECT_EQ(preview.pixmap().height(), preview.room().height());
+  EXPECT_EQ(preview.pixmap().height(), preview.maxPictureSize().height());
   path().clear();
   EXPECT_TRUE(preview.pixmap().isNull());
   EXPECT_NE(factsFor(write("text.png", "no picture")), "");
@@ -232,10 +230,10 @@ TEST_F(MmsPage, smallPicturesAreMadeFromImageFilesOnly) {
       {"nothing", "", {0, 0}},
   };
   for (const auto& [what, content, size] : samples) {
-    const QImage picture = smallPicture(write("picture.png", content), {100, 80});
+    const QImage picture = readThumbnail(write("picture.png", content), {100, 80});
     EXPECT_EQ(picture.size(), size) << what;
   }
-  EXPECT_TRUE(smallPicture(folder.path(), {100, 80}).isNull());
+  EXPECT_TRUE(readThumbnail(folder.path(), {100, 80}).isNull());
 }
 
 }  // namespace

@@ -14,16 +14,13 @@
 namespace parlexo::test {
 namespace {
 
-using simulator::FaultKind;
-
 constexpr int limitOfFax = 2 * 1024 * 1024;
 constexpr int limitOfMobile = 50 * 1024;
 
 /// The texts and rules of one message type.
 struct Page {
-  FileKind kind;
+  MessageType type;
   const char* operation;
-  const char* typeWord;
   int limit;
   bool usesSenderId;
   const char* noFile;
@@ -37,19 +34,19 @@ struct Page {
 };
 
 const Page pages[] = {
-    {FileKind::Fax, "sendFax", "Fax", limitOfFax, true, "No fax file has been selected. Select a fax file.",
+    {MessageType::Fax, "sendFax", limitOfFax, true, "No fax file has been selected. Select a fax file.",
      "Error opening Fax file:", "Fax files must be 2MB or less",
      "Error sending fax file. Insufficient memory", "Error sending fax file.",
      "An error occured while sending the fax file. Error code: 12",
      "Warning - The server was unable to send your fax file to the following numbers\n+61491570199\n",
      "Fax message successfully delivered to the server."},
-    {FileKind::Mms, "sendMms", "MMS", limitOfMobile, true,
+    {MessageType::Mms, "sendMms", limitOfMobile, true,
      "No MMS media file has been selected. Select a MMS media file.", "Error opening media file :",
      "Error media files must be 50Kb or less", "Error sending media file. Insufficient memory", unreachable,
      "An error occured while sending the media file. Error code: 12",
      "Warning - The server was unable to send your media file to the following numbers\n+61491570199\n",
      "Media message successfully delivered to the server."},
-    {FileKind::Wap, "sendWap", "WAP", limitOfMobile, false,
+    {MessageType::Wap, "sendWap", limitOfMobile, false,
      "No WAP media file has been selected. Select a WAP media file.", "Error opening WAP file :",
      "WAP files must be 50Kb or less", "Error sending WAP file. Insufficient memory", unreachable,
      "An error occured while sending the WAP file. Error code: 12",
@@ -58,7 +55,7 @@ const Page pages[] = {
 };
 
 void PrintTo(const Page& page, std::ostream* out) {
-  *out << page.typeWord;
+  *out << toWord(page.type).toStdString();
 }
 
 struct FileSending : testing::TestWithParam<Page>, GatewayRig {
@@ -79,7 +76,7 @@ struct FileSending : testing::TestWithParam<Page>, GatewayRig {
     return {path, {}, u"somebody"_s, numbers, {}};
   }
   FileDraft goodDraft() { return draftFor(write(u"good.bin"_s, content(1000))); }
-  SendOutcome send(const FileDraft& draft) { return FileSendFlow(services(), GetParam().kind).send(draft); }
+  SendOutcome send(const FileDraft& draft) { return FileSendFlow(services(), GetParam().type).send(draft); }
   std::string cannotOpen(const QString& path) {
     return GetParam().cannotOpen + QDir::toNativeSeparators(path).toStdString();
   }
@@ -98,14 +95,14 @@ TEST_P(FileSending, acceptedFileIsSentUnchangedAndLogged) {
   EXPECT_EQ(operations(), expected);
 
   const simulator::AcceptedMessage message = simulator.messages().at(0);
-  EXPECT_EQ(toWord(message.type), GetParam().typeWord);
+  EXPECT_EQ(message.type, GetParam().type);
   EXPECT_EQ(message.fileName, QString::fromUtf8("Gr\u00FC\u00DFe ?.jpg"));
   EXPECT_EQ(message.fileSha256, QCryptographicHash::hash(bytes, QCryptographicHash::Sha256).toHex());
-  EXPECT_EQ(message.text, GetParam().kind == FileKind::Fax ? QString() : draft.note);
+  EXPECT_EQ(message.text, GetParam().type == MessageType::Fax ? QString() : draft.note);
   EXPECT_EQ(message.senderId, GetParam().usesSenderId ? state.senderId : QString());
   ASSERT_THAT(log.entries(), SizeIs(2));
   const StatusEntry& entry = log.entries().at(message.receipts.at(0));
-  EXPECT_EQ(entry.type, GetParam().typeWord);
+  EXPECT_EQ(entry.type, toWord(GetParam().type));
 }
 
 TEST_P(FileSending, resultsHaveTheMessagesOfTheType) {
@@ -136,7 +133,7 @@ TEST_P(FileSending, missingInputIsReportedInOrderBeforeAnyCall) {
   expectRefusal(stop + "The contacts list is blank. Select contacts to send message to.",
                 SendOutcome::RecipientsAtFault);
   draft.displayList = u"Ann [+1]"_s;
-  if (GetParam().kind == FileKind::Mms)
+  if (GetParam().type == MessageType::Mms)
     expectRefusal(stop + "Description must be 10Kb or less", SendOutcome::MessageAtFault);
   draft.note.chop(1);
   expectRefusal("64 Your account balance is zero.\r\n", SendOutcome::NotSent);
@@ -170,7 +167,7 @@ TEST_P(FileSending, lackOfMemoryIsReportedAfterTheCallsBefore) {
 }
 
 INSTANTIATE_TEST_SUITE_P(, FileSending, testing::ValuesIn(pages),
-                         [](const auto& page) { return std::string(page.param.typeWord); });
+                         [](const auto& page) { return toWord(page.param.type).toStdString(); });
 
 /// The rules that all types share, checked for one of them over a slow connection.
 struct FaxSending : FileSending {
@@ -241,7 +238,7 @@ TEST_P(FaxSending, changedFileIsNotSentButARemovedOneIs) {
 }
 
 INSTANTIATE_TEST_SUITE_P(, FaxSending, testing::Values(pages[0]),
-                         [](const auto& page) { return std::string(page.param.typeWord); });
+                         [](const auto& page) { return toWord(page.param.type).toStdString(); });
 
 }  // namespace
 }  // namespace parlexo::test

@@ -1,6 +1,4 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "messaging/core/page_count.h"
-
 #include <QtEndian>
 
 #include "messaging/core/file_facts.h"

@@ -34,7 +34,7 @@ TEST(Schedule, hasTheSameInstantInBothTexts) {
     // Earlier calls of the C library must not matter.
     for (const QDate before : {QDate(2026, 1, 15), QDate(2026, 7, 15)}) {
       (void)QDateTime(before, QTime(12, 0)).toSecsSinceEpoch();
-      const Schedule schedule = scheduleAt(instantOfLocalTime(time.date(), time.time()));
+      const Schedule schedule = scheduleAt(fromLocalTime(time.date(), time.time()));
       EXPECT_EQ(schedule.text.toStdString(), local);
       EXPECT_EQ(schedule.value.toStdString(), gmt);
       EXPECT_FALSE(schedule.isNow());

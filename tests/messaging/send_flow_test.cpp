@@ -1,14 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "messaging/core/messaging_texts.h"
 #include "messaging/core/sms_send_flow.h"
 #include "tests/messaging/gateway_rig.h"
 #include "tests/support/test.h"
 
 namespace parlexo::test {
 namespace {
-
-using simulator::FaultKind;
 
 struct SmsSending : testing::Test, GatewayRig {
   static SmsDraft draftTo(const QStringList& numbers) {

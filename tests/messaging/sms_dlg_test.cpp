@@ -122,7 +122,7 @@ TEST_F(SmsPage, successfulSendClearsTheTextAndKeepsTheOptions) {
   QTest::keyClicks(&editor(), "Hi");
   press("sendButton");
   ASSERT_THAT(sent, SizeIs(1));
-  EXPECT_EQ(sent.at(0).at(0).toString(), "SMS");
+  EXPECT_EQ(sent.at(0).at(0).value<MessageType>(), MessageType::Sms);
   const simulator::AcceptedMessage message = simulator.messages().at(0);
   EXPECT_EQ(message.rawText.toStdString(), "%%UNICODE%%00480069");
   EXPECT_TRUE(message.flash);
@@ -141,7 +141,7 @@ TEST_F(SmsPage, aRefusedTextGetsTheFocus) {
 }
 
 TEST_F(SmsPage, outcomeUnknownNoticeStaysUntilTheNextReply) {
-  const auto& notice = find<QLabel>("unansweredNotice");
+  const auto& notice = find<QLabel>("outcomeUnknownNotice");
   select({"Ann"});
   QTest::keyClicks(&editor(), "Hi");
   EXPECT_FALSE(notice.isVisible());
@@ -271,7 +271,7 @@ TEST_F(SmsPage, tabKeyFollowsTheReadingOrder) {
 TEST_F(SmsPage, buttonsAskForStatusAndExplainTemplates) {
   QSignalSpy requested(&page, &CQuillonSMSDlg::statusRequested);
   press("getStatusButton");
-  EXPECT_EQ(requested.at(0).at(0).toString(), "SMS");
+  EXPECT_EQ(requested.at(0).at(0).value<MessageType>(), MessageType::Sms);
   press("templatesTipButton");
   EXPECT_EQ(notifier.shown.back().style, message_style::information);
 }

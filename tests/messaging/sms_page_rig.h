@@ -1,14 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <string>
-
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QLineEdit>
 #include <QListView>
 #include <QRadioButton>
-#include <QString>
 
 #include "messaging/screens/message_edit.h"
 #include "messaging/screens/sms_dlg.h"

@@ -74,11 +74,11 @@ TEST(SmsParts, cursorIsInThePartOfThePreviousCharacter) {
 
 TEST(UnicodeForm, isDecodedOnlyIfComplete) {
   const QString text = QString::fromUtf8("A\u4F60\U0001F600");
-  EXPECT_EQ(decodedUnicodeSms(composeSms(text, unicode).transmitText), text);
-  EXPECT_EQ(decodedUnicodeSms("%%UNICODE%%4f60"), QString::fromUtf8("\u4F60")) << "one character";
+  EXPECT_EQ(decodeUnicodeSms(composeSms(text, unicode).transmitText), text);
+  EXPECT_EQ(decodeUnicodeSms("%%UNICODE%%4f60"), QString::fromUtf8("\u4F60")) << "one character";
   for (const char* other : {"", "0048", "%%UNICODE%%", "%%UNICODE%%004", "%%UNICODE%%00480",
                             "%%UNICODE%%00G8", "%%UNICODE%%0048 0049", "x%%UNICODE%%0048", "%%unicode%%0048"})
-    EXPECT_EQ(decodedUnicodeSms(other), std::nullopt) << other;
+    EXPECT_EQ(decodeUnicodeSms(other), std::nullopt) << other;
 }
 
 }  // namespace

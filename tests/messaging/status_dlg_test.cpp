@@ -50,7 +50,7 @@ TEST_F(StatusPage, opensWithSmsInOrderAndTheFirstRowSelected) {
 TEST_F(StatusPage, selectTypeRefreshesEvenWhenTheTypeStays) {
   open();
   logMessage("new", "01/01/2026 10:00:00");
-  page_->selectType("SMS");
+  page_->selectType(MessageType::Sms);
   EXPECT_THAT(column(1), ElementsAre("new"));
   page_->hide();
   logMessage("newer", "01/01/2026 10:00:01");
@@ -115,10 +115,10 @@ TEST_F(StatusPage, countLineShowsTotalsAndTheFileLimit) {
   open();
   EXPECT_EQ(count(), "1 message of this type, 1 in all.");
   for (int i = 1; i < 1000; ++i) logMessage(qPrintable(u"R%1"_s.arg(i)), "", "Fax");
-  page_->selectType("Fax");
+  page_->selectType(MessageType::Fax);
   EXPECT_EQ(count(), "999 messages of this type, 1000 in all.");
   logMessage("R1000", "", "Fax");
-  page_->selectType("Voice");
+  page_->selectType(MessageType::Voice);
   EXPECT_EQ(count(),
             "0 messages of this type, 1001 in all. Only the newest 1000 are kept when the program ends.");
 }

@@ -147,10 +147,10 @@ TEST_F(StatusFileTest, tenRejectedFilesAreKept) {
 }
 
 TEST_F(StatusFileTest, aHugeFileIsRefusedAndRenamed) {
-  load(QByteArray(StatusFile::mostBytes + 1, ' '));
+  load(QByteArray(StatusFile::maxBytes + 1, ' '));
   EXPECT_THAT(notifier_.popTexts(), ElementsAre(HasSubstr("cannot be read: It is larger")));
   ASSERT_TRUE(file_.save(log_));
-  EXPECT_EQ(QFileInfo(path_ + ".1.bad").size(), StatusFile::mostBytes + 1);
+  EXPECT_EQ(QFileInfo(path_ + ".1.bad").size(), StatusFile::maxBytes + 1);
 }
 
 TEST_F(StatusFileTest, controlCharactersAreRemoved) {

@@ -8,8 +8,6 @@
 namespace parlexo::test {
 namespace {
 
-using simulator::FaultKind;
-
 // Three sent messages and an empty journal.
 struct StatusQuery : testing::Test, GatewayRig {
   StatusQuery() {
@@ -68,9 +66,9 @@ TEST_F(StatusQuery, aFailedReceiptIsSkippedAndReportedOnce) {
   EXPECT_THAT(journal,
               ElementsAre(QString::fromUtf8("(box) Getting the status (1 of 4)…"), "(no box)",
                           "16 An error occured while getting the status of the message.\r\nError code: 10"));
-  EXPECT_EQ(statusQueryText(outcome_), "2 could not be determined. 1 failed message was left out.");
+  EXPECT_EQ(outcome_.text(), "2 could not be determined. 1 failed message was left out.");
   query({receipts_[0]});
-  EXPECT_EQ(statusQueryText(outcome_), "");
+  EXPECT_EQ(outcome_.text(), "");
 }
 
 TEST_F(StatusQuery, queryStopsAfterThreeUnansweredReceipts) {
@@ -78,7 +76,7 @@ TEST_F(StatusQuery, queryStopsAfterThreeUnansweredReceipts) {
   query(receipts_ + receipts_);
   EXPECT_EQ(queries().size(), 3);
   EXPECT_THAT(notifier.popTexts(), ElementsAre(unreachable));
-  EXPECT_EQ(statusQueryText(outcome_), "6 could not be determined.");
+  EXPECT_EQ(outcome_.text(), "6 could not be determined.");
   EXPECT_EQ(status(0), "Delivered to Gateway");
 }
 
@@ -89,7 +87,7 @@ TEST_F(StatusQuery, cancelKeepsReceivedStatusesAndShowsNoError) {
   EXPECT_EQ(status(0), "Queued at gateway");
   EXPECT_EQ(status(2), "Delivered to Gateway");
   EXPECT_THAT(notifier.popTexts(), IsEmpty());
-  EXPECT_EQ(statusQueryText(outcome_), "Cancelled: 2 not asked for.");
+  EXPECT_EQ(outcome_.text(), "Cancelled: 2 not asked for.");
   EXPECT_FALSE(log.isModified());
 }
 

@@ -1,6 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "protocol/contract.h"
 
+#include <algorithm>
+#include <array>
+#include <new>
+#include <type_traits>
+
 #include <QRegularExpression>
 
 #include "tests/support/file_bytes.h"
@@ -43,11 +48,29 @@ TEST(Contract, everyFieldHasItsOwnMember) {
   protocol::forEachOperation([&](const auto& operation) {
     typename std::remove_cvref_t<decltype(operation)>::Request request;
     const protocol::Fields fields = operation.fields(request);
-    for (std::size_t i = 1; i < fields.size(); ++i) {
+    for (std::size_t i = 1; i < fields.size(); ++i)
       EXPECT_LT(fields[i - 1].value, fields[i].value) << operation.name << " " << fields[i].name;
-    }
   });
 }
+
+TEST(SecretText, leavesNothingOfItsTextInMemory) {
+  using protocol::SecretText;
+  constexpr std::string_view password = "s3cret-word";  // short enough to be stored inside std::string
+  alignas(SecretText) std::array<char, sizeof(SecretText)> memory{};
+  const auto containsPassword = [&] {
+    return std::search(memory.begin(), memory.end(), password.begin(), password.end()) != memory.end();
+  };
+  auto* secret = new (memory.data()) SecretText(std::string(password));
+  EXPECT_TRUE(containsPassword());
+  *secret = SecretText(std::string("x"));
+  EXPECT_FALSE(containsPassword()) << "after an assignment";
+  *secret = SecretText(std::string(password));
+  std::destroy_at(secret);
+  EXPECT_FALSE(containsPassword()) << "after its destruction";
+}
+
+static_assert(!std::is_convertible_v<bool, protocol::StopsAtDoubleLine>);
+static_assert(!std::is_convertible_v<protocol::StopsAtEndKeyword, protocol::StopsAtDoubleLine>);
 
 }  // namespace
 }  // namespace parlexo::test

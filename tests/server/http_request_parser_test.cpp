@@ -25,7 +25,7 @@ TEST(HttpRequestParser, readsBodiesByLengthAndInChunks) {
        }) {
     HttpRequestParser parser;
     ASSERT_EQ(feedSlowly(parser, request), State::Complete) << request.toStdString();
-    const HttpRequest read = parser.take();
+    const HttpRequest read = parser.releaseRequest();
     EXPECT_EQ(read.method, "POST");
     EXPECT_EQ(read.path(), "/p");
     EXPECT_EQ(read.body, "hello");
@@ -36,11 +36,11 @@ TEST(HttpRequestParser, parsesPipelinedRequests) {
   HttpRequestParser parser;
   ASSERT_EQ(parser.feed("GET /a HTTP/1.1\r\n\r\nGET http://host:1/b?c HTTP/1.0\r\nX-Y:  z \r\n\r\n"),
             State::Complete);
-  const HttpRequest first = parser.take();
+  const HttpRequest first = parser.releaseRequest();
   EXPECT_EQ(first.path(), "/a");
   EXPECT_TRUE(first.keepAlive);
   ASSERT_EQ(parser.feed({}), State::Complete);
-  const HttpRequest second = parser.take();
+  const HttpRequest second = parser.releaseRequest();
   EXPECT_EQ(second.path(), "/b");
   EXPECT_EQ(second.header("x-y"), "z");
   EXPECT_FALSE(second.keepAlive);
@@ -50,8 +50,8 @@ TEST(HttpRequestParser, supportsExpectContinue) {
   HttpRequestParser parser;
   EXPECT_EQ(parser.feed("POST / HTTP/1.1\r\nExpect: 100-continue\r\nContent-Length: 1\r\n\r\n"),
             State::NeedsMore);
-  EXPECT_TRUE(parser.takeContinueWish());
-  EXPECT_FALSE(parser.takeContinueWish());
+  EXPECT_TRUE(parser.consumeExpectContinue());
+  EXPECT_FALSE(parser.consumeExpectContinue());
   EXPECT_EQ(parser.feed("x"), State::Complete);
 }
 

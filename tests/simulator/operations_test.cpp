@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include <mutex>
+
 #include <QCryptographicHash>
 
 #include "simulator/simulator.h"
@@ -11,17 +13,36 @@ namespace {
 using namespace simulator;
 using std::chrono::seconds;
 
+// Stands still until it is moved on; used from several threads.
+class ManualClock {
+ public:
+  explicit ManualClock(const QDateTime& now) : now_(now) {}
+
+  QDateTime now() const {
+    const std::lock_guard lock(mutex_);
+    return now_;
+  }
+  void advance(std::chrono::milliseconds time) {
+    const std::lock_guard lock(mutex_);
+    now_ = now_.addMSecs(time.count());
+  }
+
+ private:
+  mutable std::mutex mutex_;
+  QDateTime now_;
+};
+
 const QDateTime start(QDate(2026, 3, 1), QTime(12, 0), Qt::UTC);
 
 struct GatewayOperations : testing::Test {
-  GatewayOperations() : clock_(std::make_shared<ManualClock>(start)), simulator_(options()) {
+  GatewayOperations() : simulator_(options()) {
     EXPECT_TRUE(simulator_.start());
     session_ = client().logIn();
   }
 
   Options options() {
     Options options;
-    options.clock = clock_;
+    options.now = [this] { return clock_.now(); };
     options.deliveryStep = seconds(10);
     options.sessionLifetime = std::chrono::minutes(30);
     options.log = [this](const QString& line) {
@@ -53,7 +74,7 @@ struct GatewayOperations : testing::Test {
     return elementText(call(operation, fields), "nErrorCode");
   }
 
-  std::shared_ptr<ManualClock> clock_;
+  ManualClock clock_{start};
   std::mutex logMutex_;
   QString log_;
   Simulator simulator_;
@@ -76,9 +97,9 @@ TEST_F(GatewayOperations, everyNumberHasAReceiptAndNumbersEndingIn99Fail) {
 TEST_F(GatewayOperations, deliveryAdvancesWithTime) {
   const QByteArray receipt = elementText(sendSms("Hello", "+61491570156"), "sListReciepts").split(':').last();
   EXPECT_EQ(elementText(queryStatus(receipt), "sStatus"), "Queued at gateway");
-  clock_->advance(seconds(10));
+  clock_.advance(seconds(10));
   EXPECT_EQ(elementText(queryStatus(receipt), "sStatus"), "Sent to network");
-  clock_->advance(seconds(10));
+  clock_.advance(seconds(10));
   EXPECT_EQ(elementText(queryStatus(receipt), "sStatus"), "Delivered to handset");
   EXPECT_EQ(elementText(queryStatus("FAIL"), "sStatus"), "Not accepted by gateway");
   EXPECT_EQ(elementText(queryStatus("nonsense"), "nErrorCode"), "10");
@@ -94,13 +115,13 @@ TEST_F(GatewayOperations, scheduledMessageWaitsForItsTime) {
   const QByteArray later = elementText(sendSms("Later", "+61491570156"), "sListReciepts").split(':').last();
   EXPECT_EQ(errorCode("scheduleMessageDisable"), "0");
   const QByteArray now = elementText(sendSms("Now", "+61491570156"), "sListReciepts").split(':').last();
-  clock_->advance(std::chrono::minutes(10));
+  clock_.advance(std::chrono::minutes(10));
   EXPECT_EQ(elementText(queryStatus(later), "sStatus"), "Queued at gateway");
   EXPECT_EQ(elementText(queryStatus(now), "sStatus"), "Delivered to handset");
-  clock_->advance(std::chrono::minutes(25));
+  clock_.advance(std::chrono::minutes(25));
   EXPECT_EQ(elementText(queryStatus(later), "sStatus"), "Queued at gateway");
-  clock_->advance(std::chrono::minutes(25));
-  clock_->advance(seconds(10));
+  clock_.advance(std::chrono::minutes(25));
+  clock_.advance(seconds(10));
   EXPECT_EQ(elementText(queryStatus(later), "sStatus"), "Sent to network");
 
   for (const char* bad : {"2027/03/02 00:00:00", "2026/3/1 13:00:00", "2026/02/30 13:00:00", "",
@@ -110,11 +131,11 @@ TEST_F(GatewayOperations, scheduledMessageWaitsForItsTime) {
 
 TEST_F(GatewayOperations, sessionsExpire) {
   const auto balanceCode = [this] { return errorCode("getAccountBalance"); };
-  clock_->advance(std::chrono::minutes(29));
+  clock_.advance(std::chrono::minutes(29));
   EXPECT_EQ(balanceCode(), "0");
-  clock_->advance(std::chrono::minutes(29));
+  clock_.advance(std::chrono::minutes(29));
   EXPECT_EQ(balanceCode(), "0") << "use begins the lifetime anew";
-  clock_->advance(std::chrono::minutes(30));
+  clock_.advance(std::chrono::minutes(30));
   EXPECT_EQ(balanceCode(), "7");
 
   session_ = client().logIn();

@@ -17,7 +17,9 @@ QString program() {
 
 TEST(CommandLine, problemIsReported) {
   const Cases<const char*, const char*> cases = {
-      {"--colour red", "unknown option \"--colour\""},
+      {"--colour red", "Unknown option 'colour'."},
+      {"port", "unexpected argument \"port\""},
+      {"--port", "Missing value after '--port'."},
       {"--port 70000", "--port 70000: needs a port from 0 to 65535"},
       {"--listen nowhere", "--listen nowhere: needs an IP address"},
       {"--account ann:b:nan", "--account ann:b:nan: needs USER:PASSWORD[:BALANCE[:nosenderid]]"},
@@ -25,7 +27,26 @@ TEST(CommandLine, problemIsReported) {
       {"--fault x", "--fault x: expected OPERATION:KIND"},
   };
   for (const auto& [arguments, problem] : cases)
-    EXPECT_EQ(readCommandLine(QString::fromLatin1(arguments).split(u' ')).problem.toStdString(), problem);
+    EXPECT_EQ(
+        parseCommandLine(QStringLiteral("parlexo-simulator %1").arg(QLatin1String(arguments)).split(u' '))
+            .problem.toStdString(),
+        problem);
+}
+
+TEST(CommandLine, readsValuesAndHelp) {
+  const CommandLine line =
+      parseCommandLine({u"parlexo-simulator"_s, u"--account=ann:secret:5"_s, u"--latency"_s, u"20"_s,
+                        u"--account"_s, u"bob:secret"_s, u"--fault"_s, u"sendSms:code=12:next"_s});
+  EXPECT_EQ(line.problem.toStdString(), "");
+  ASSERT_EQ(line.options.accounts.size(), 2);
+  EXPECT_EQ(line.options.accounts[0].balance, 5.0);
+  EXPECT_EQ(line.options.accounts[1].user, u"bob"_s);
+  EXPECT_EQ(line.options.latency.count(), 20);
+  ASSERT_EQ(line.faults.size(), 1);
+  EXPECT_EQ(toString(line.faults[0]), u"code=12"_s);
+  const std::string help = parseCommandLine({u"parlexo-simulator"_s, u"-h"_s}).help.toStdString();
+  for (const char* part : {"--upload-rate <N>", "clientversion=TEXT", "\n   7  "})
+    EXPECT_THAT(help, HasSubstr(part));
 }
 
 TEST(GatewayProgram, servesUntilTerminated) {
@@ -49,7 +70,7 @@ TEST(GatewayProgram, badOptionIsReported) {
   process.start(program(), {u"--prot"_s});
   ASSERT_TRUE(process.waitForFinished(10000));
   EXPECT_EQ(process.exitCode(), 2);
-  EXPECT_THAT(process.readAllStandardError().toStdString(), StartsWith("parlexo-simulator: unknown option"));
+  EXPECT_THAT(process.readAllStandardError().toStdString(), StartsWith("parlexo-simulator: Unknown option"));
 }
 
 TEST(MessageText, countsUnitsAndParts) {
@@ -62,7 +83,7 @@ TEST(MessageText, countsUnitsAndParts) {
       {"%%UNICODE%%123", 14, 1, false},
   };
   for (const auto& [raw, units, parts, unicode] : cases) {
-    const MessageText text = readMessageText(raw);
+    const MessageText text = parseMessageText(raw);
     EXPECT_EQ(text.units, units) << raw.left(20).toStdString();
     EXPECT_EQ(text.parts, parts) << raw.left(20).toStdString();
     EXPECT_EQ(text.unicode, unicode) << raw.left(20).toStdString();
@@ -70,7 +91,7 @@ TEST(MessageText, countsUnitsAndParts) {
 }
 
 TEST(MessageText, logLineHasNoControlCharacters) {
-  EXPECT_EQ(forLog(u"a\r\nb\nc\x1B[31m\r"_s), u"a⏎b⏎c\\x1b[31m\\x0d"_s);
+  EXPECT_EQ(escapeForLog(u"a\r\nb\nc\x1B[31m\r"_s), u"a⏎b⏎c\\x1b[31m\\x0d"_s);
 }
 
 }  // namespace

@@ -20,6 +20,8 @@
 
 namespace parlexo::test {
 
+using simulator::FaultKind;
+
 /// The message about a gateway that could not be reached.
 inline constexpr char unreachable[] =
     "Could not connect to the Parlexo gateway server.\r\n\r\nPlease make sure you have internet "
@@ -68,14 +70,13 @@ class SimulatorRig {
   }
 
   /// Makes all calls of `operation` fail in this way from now on.
-  void setFault(simulator::FaultKind kind, const QString& operation, int number = 0,
-                const QString& text = {}) {
+  void setFault(FaultKind kind, const QString& operation, int number = 0, const QString& text = {}) {
     simulator::Fault fault;
     fault.kind = kind;
     fault.operation = operation;
     fault.number = number;
     fault.text = text;
-    if (!simulator.setFault(fault)) qFatal("%s", qPrintable(simulator::problemWith(fault)));
+    if (!simulator.setFault(fault)) qFatal("%s", qPrintable(simulator::findProblem(fault)));
   }
 
   Journal journal;

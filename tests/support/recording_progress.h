@@ -22,7 +22,7 @@ struct RecordingProgress final : Progress {
     texts << text;
     if (onText) onText(text);
   }
-  void follow(const Transfer& transfer) override { transfers.push_back(transfer); }
+  void setTransfer(const Transfer& transfer) override { transfers.push_back(transfer); }
   void hide() override {
     if (journal_) *journal_ << QStringLiteral("(no box)");
   }

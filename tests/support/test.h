@@ -29,6 +29,7 @@ inline void PrintTo(const QString& text, std::ostream* out) {
 namespace parlexo::test {
 
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
 using testing::AllOf;
 using testing::Contains;
 using testing::Each;

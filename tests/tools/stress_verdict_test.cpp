@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The stress program must find the faults of a store that loses or damages data.
+// Tests that the stress program detects a contact store that loses, tears or duplicates records.
 
 #include <fstream>
 
@@ -25,14 +25,14 @@ struct StressVerdict : testing::Test {
   std::vector<std::string> problems(const std::string& journal) {
     write("journal", journal);
     write("database", file_);
-    return judge(Kind::Contacts, filePath("database"), {filePath("journal")}).problems;
+    return check(Kind::Contacts, filePath("database"), {filePath("journal")}).problems;
   }
 
   Verdict memberVerdict(const std::string& journal, const std::string& contactJournal) {
     write("journal", journal);
     write("contacts", contactJournal);
     write("database", file_);
-    return judge(Kind::Members, filePath("database"), {filePath("journal")}, {filePath("contacts")});
+    return check(Kind::Members, filePath("database"), {filePath("journal")}, {filePath("contacts")});
   }
 
   // Replaces "@" in the journal by the group's file.
@@ -41,7 +41,7 @@ struct StressVerdict : testing::Test {
       journal.replace(at, 1, "group|");
     write("journal", journal);
     write("group", file_);
-    return judgeGroups({filePath("group")}, {filePath("journal")}).problems;
+    return checkGroups({filePath("group")}, {filePath("journal")}).problems;
   }
 
   std::string file_;
@@ -91,11 +91,11 @@ TEST_F(StressVerdict, damagedFileIsFound) {
     damage();
     return problems(twoWrites);
   };
-  EXPECT_THAT(problemsWith([this] { stored("Ann", "second"); }), ElementsAre(HasSubstr("is there twice")));
+  EXPECT_THAT(problemsWith([this] { stored("Ann", "second"); }), ElementsAre(HasSubstr("occurs twice")));
   EXPECT_THAT(problemsWith([this] { file_[300] ^= 1; }), ElementsAre(HasSubstr("torn or mixed up")));
   EXPECT_THAT(problemsWith([this] { file_ += "x"; }), ElementsAre(HasSubstr("ends within a record")));
   EXPECT_THAT(problemsWith([this] { stored("Bob", "from nowhere"); }),
-              ElementsAre(HasSubstr("Bob: nobody wrote this")));
+              ElementsAre(HasSubstr("Bob: was never written")));
 }
 
 TEST_F(StressVerdict, memberMayBeMissingOnlyWithItsContact) {
@@ -135,7 +135,7 @@ TEST_F(StressVerdict, memberMustStayUnlessItMayHaveBeenRemoved) {
   file_ += recordFor(Kind::Members, "Ann", {}) + recordFor(Kind::Members, "Bob", {});
   const std::string both = added + "begin\tw\t70\t@Bob\tmember\ndone\t80\n";
   EXPECT_THAT(groupProblems(both), IsEmpty());
-  EXPECT_THAT(groupProblems(added), ElementsAre(HasSubstr("Bob: nobody wrote this")));
+  EXPECT_THAT(groupProblems(added), ElementsAre(HasSubstr("Bob: was never written")));
   file_ += "x";
   EXPECT_THAT(groupProblems(both), ElementsAre(HasSubstr("ends within a record")));
 }

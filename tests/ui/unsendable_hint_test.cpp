@@ -6,6 +6,17 @@
 namespace parlexo::test {
 namespace {
 
+TEST(UnsendableCharacters, areListedOnceInReadableForm) {
+  const QString family = QString::fromUtf8("\U0001F468\u200D\U0001F469");
+  EXPECT_EQ(unsendableCharacters(QString::fromUtf8("\u4F60a\u20AC\u00E9\u4F60\u200B\u0161 ") + family),
+            QStringList({QString::fromUtf8("\u4F60"), "U+200B", family}));
+  EXPECT_EQ(unsendableCharacters(QString::fromUtf8("e\u0301")), QStringList(QString::fromUtf8("e\u0301")));
+  EXPECT_TRUE(unsendableCharacters(QString::fromUtf8("tab\tline\r\n[\u0081\x7F]")).isEmpty());
+  EXPECT_EQ(unsendableCharacters(QChar(0) + QString::fromUtf8("\x07\x0B\x1B\x1B\x1F\u0085")),
+            QStringList({"NUL (null)", "BEL (bell)", "VT (vertical tab)", "ESC (escape)",
+                         "US (unit separator)", "NEL (next line)"}));
+}
+
 TEST(UnsendableHint, coversAllFieldsAndHidesPasswords) {
   QLineEdit user;
   QLineEdit password;

@@ -36,8 +36,8 @@ void JournalWriter::endWithoutEffect() {
   line("nothing");
 }
 
-void JournalWriter::complain(const std::string& what) {
-  line("complaint\t" + what);
+void JournalWriter::complain(const std::string& message) {
+  line("complaint\t" + message);
 }
 
 void JournalWriter::line(const std::string& text) {
@@ -49,7 +49,7 @@ void JournalWriter::line(const std::string& text) {
 
 namespace {
 
-std::vector<std::string> fieldsOf(const std::string& line) {
+std::vector<std::string> splitFields(const std::string& line) {
   std::vector<std::string> fields;
   std::istringstream stream(line);
   for (std::string field; std::getline(stream, field, '\t');) fields.push_back(field);
@@ -63,7 +63,7 @@ Journal readJournal(const std::string& path) {
   std::ifstream file(path);
   std::string line;
   while (std::getline(file, line) && !file.eof()) {
-    const std::vector<std::string> fields = fieldsOf(line);
+    const std::vector<std::string> fields = splitFields(line);
     if (fields[0] == "begin") {
       Operation operation;
       operation.action = static_cast<Action>(fields[1][0]);

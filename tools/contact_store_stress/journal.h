@@ -9,8 +9,8 @@ namespace parlexo::stress {
 
 enum class Action : char { Write = 'w', Delete = 'd', RemoveFile = 'r', Start = 's' };
 
-/// One operation of one process as its journal tells it. Times are nanoseconds of the machine's monotonic
-/// clock, which all processes share.
+/// An operation of a process, as recorded in its journal. Times are in nanoseconds of the monotonic clock,
+/// which all processes share.
 struct Operation {
   static constexpr std::int64_t never = INT64_MAX;
 
@@ -18,15 +18,15 @@ struct Operation {
   std::string key;
   std::string value;  ///< empty for a deletion
   std::int64_t begun = 0;
-  std::int64_t ended = never;  ///< never when the process was killed in between or the operation failed
-  bool acknowledged = false;   ///< the store had said that it was done
+  std::int64_t ended = never;  ///< never if the process was killed before the end or the operation failed
+  bool acknowledged = false;   ///< the store reported success
 };
 
-/// What a process writes down about its operations: first what it is about to do, then that it was done.
-/// The lines reach the kernel one by one, so that they outlast the process being killed.
+/// Records the operations of a process: one line before an operation, one after it. Each line is written to
+/// the kernel at once, so it survives the killing of the process.
 class JournalWriter {
  public:
-  /// Opens the file for appending; a failure ends the process with a message.
+  /// Opens the file for appending. Exits the process with a message on error.
   explicit JournalWriter(const std::string& path);
   ~JournalWriter();
   JournalWriter(const JournalWriter&) = delete;
@@ -34,10 +34,10 @@ class JournalWriter {
 
   void begin(Action action, const std::string& key, const std::string& value);
   void end(bool success);
-  /// The store said that it found nothing to do.
+  /// Records that the store had nothing to do.
   void endWithoutEffect();
-  /// Something that must never happen; it makes the whole run fail.
-  void complain(const std::string& what);
+  /// Records an error that makes the whole test fail.
+  void complain(const std::string& message);
 
  private:
   void line(const std::string& text);
@@ -46,15 +46,15 @@ class JournalWriter {
 };
 
 struct Journal {
-  std::vector<Operation> operations;  ///< without those that had nothing to do
+  std::vector<Operation> operations;  ///< without operations that had no effect
   std::vector<std::string> complaints;
 };
 
-/// Reads a journal; a last line that the process did not finish is passed over.
+/// Reads a journal. Ignores an incomplete last line.
 [[nodiscard]] Journal readJournal(const std::string& path);
 
-/// What stands before the keys of a group's file where one journal tells of several: the file's name without
-/// the folder, to which several ways may lead.
+/// Returns the prefix of keys in a journal shared by several group files: the file name, without the folder,
+/// which may be accessible by several paths.
 [[nodiscard]] std::string groupPrefix(const std::string& path);
 
 [[nodiscard]] std::int64_t nowNanoseconds();

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// contact-store-stress: many processes write, delete and read in one contacts folder and are killed at
-// random moments; afterwards the files are held against what each of them had been told.
+// contact-store-stress: many processes write, delete and read in one contacts folder and are killed at random
+// moments. Afterwards the files are compared with the results that the store reported to each of them.
 
 #include <sys/wait.h>
 #include <unistd.h>
@@ -29,7 +29,7 @@ namespace {
 
 using namespace parlexo::stress;
 
-// Of so many processes one is a starting program, the others change contacts and members.
+// One of this many processes is a starting program, the others change contacts and members.
 constexpr int rolesInTurn = 3;
 
 struct RunOptions {
@@ -37,12 +37,12 @@ struct RunOptions {
   int seconds = 5;
   int killWithin = 100;  // milliseconds
   std::uint64_t seed = 1;
-  QStringList folders;  // ways to one contacts folder, which the processes take in turn
+  QStringList folders;  // paths of one contacts folder, which the processes use in turn
   QString journals;
   bool groups = false;
 };
 
-// Starts processes, kills one now and then and starts another in its place.
+// Starts processes, kills one at random intervals and replaces it by another.
 class Arena {
  public:
   explicit Arena(const RunOptions& options)
@@ -55,7 +55,7 @@ class Arena {
     while (nowNanoseconds() < until_) {
       const auto longest = options_.killWithin * std::uint64_t{1'000'000};
       pause(std::min(static_cast<std::int64_t>(random_() % longest), until_ - nowNanoseconds()));
-      killSomebody();
+      killRandomWorker();
       startWorker();
     }
     for (const auto& [process, number] : workers_) ::waitpid(process, nullptr, 0);
@@ -74,7 +74,11 @@ class Arena {
     const int number = static_cast<int>(journals_.size());
     journals_.push_back(options_.journals.toStdString() + "/journal-" + std::to_string(number));
     const QString& folder = options_.folders[number % options_.folders.size()];
-    const WorkerTask task = {folder.toStdString(), journals_.back(), number, random_(), until_};
+    const WorkerTask task = {.folder = folder.toStdString(),
+                             .journal = journals_.back(),
+                             .number = number,
+                             .seed = random_(),
+                             .until = until_};
     const pid_t process = ::fork();
     if (process == 0) {
       work(task);
@@ -92,7 +96,7 @@ class Arena {
       workOnContacts(task);
   }
 
-  void killSomebody() {
+  void killRandomWorker() {
     if (workers_.empty()) return;
     const auto chosen = std::next(workers_.begin(), static_cast<std::ptrdiff_t>(random_() % workers_.size()));
     ::kill(chosen->first, SIGKILL);
@@ -112,20 +116,20 @@ class Arena {
 
 void describeOptions(QCommandLineParser& parser) {
   parser.setApplicationDescription(
-      u"Lets processes work in one contacts folder, kills some, and checks that nothing promised was lost."_s);
+      u"Lets processes work in one contacts folder, kills some, and checks that no acknowledged change was lost."_s);
   parser.addHelpOption();
   parser.addOptions(
-      {{u"processes"_s, u"How many work at the same time."_s, u"N"_s, u"4"_s},
-       {u"seconds"_s, u"How long they work."_s, u"S"_s, u"5"_s},
-       {u"kill-within"_s, u"The longest time until the next of them is killed, in milliseconds."_s, u"MS"_s,
+      {{u"processes"_s, u"The number of processes at the same time."_s, u"N"_s, u"4"_s},
+       {u"seconds"_s, u"The duration in seconds."_s, u"S"_s, u"5"_s},
+       {u"kill-within"_s, u"The maximum time until the next process is killed, in milliseconds."_s, u"MS"_s,
         u"100"_s},
-       {u"seed"_s, u"Seed of what they choose and when they die."_s, u"K"_s, u"1"_s},
+       {u"seed"_s, u"The seed of all random choices."_s, u"K"_s, u"1"_s},
        {u"folder"_s,
-        u"Where to work, and leave the files; a temporary folder without it. Given "
-        "several times: ways to one folder, such as mounts of one share."_s,
+        u"The contacts folder; default: a temporary folder. Give several paths of one "
+        "folder, such as mounts of one share, by repeating the option."_s,
         u"DIR"_s},
-       {u"journals"_s, u"Where the processes keep their journals; the first folder without it."_s, u"DIR"_s},
-       {u"groups"_s, u"Delete group files and make them anew under the others' hands."_s}});
+       {u"journals"_s, u"The folder for the journals; default: the first contacts folder."_s, u"DIR"_s},
+       {u"groups"_s, u"Delete and recreate group files while other processes use them."_s}});
 }
 
 RunOptions parseOptions(const QCoreApplication& application) {
@@ -136,16 +140,16 @@ RunOptions parseOptions(const QCoreApplication& application) {
   bool secondsOk = false;
   bool killWithinOk = false;
   bool seedOk = false;
-  RunOptions options = {parser.value(u"processes"_s).toInt(&processesOk),
-                        parser.value(u"seconds"_s).toInt(&secondsOk),
-                        parser.value(u"kill-within"_s).toInt(&killWithinOk),
-                        parser.value(u"seed"_s).toULongLong(&seedOk),
-                        parser.values(u"folder"_s),
-                        parser.value(u"journals"_s),
-                        parser.isSet(u"groups"_s)};
+  RunOptions options = {.processes = parser.value(u"processes"_s).toInt(&processesOk),
+                        .seconds = parser.value(u"seconds"_s).toInt(&secondsOk),
+                        .killWithin = parser.value(u"kill-within"_s).toInt(&killWithinOk),
+                        .seed = parser.value(u"seed"_s).toULongLong(&seedOk),
+                        .folders = parser.values(u"folder"_s),
+                        .journals = parser.value(u"journals"_s),
+                        .groups = parser.isSet(u"groups"_s)};
   if (!processesOk || !secondsOk || !killWithinOk || !seedOk || options.processes < 1 ||
       options.seconds < 1 || options.killWithin < 1) {
-    std::fputs("The numbers are whole ones, and all but the seed at least 1.\n", stderr);
+    std::fputs("All numbers must be whole numbers, and at least 1 except the seed.\n", stderr);
     std::exit(2);
   }
   return options;
@@ -163,16 +167,16 @@ bool report(const char* what, const Verdict& verdict) {
 
 bool isStoreSound(const Arena& arena, const std::string& folder, bool groups) {
   std::printf("%zu processes, %d killed\n", arena.journals().size(), arena.killed());
-  if (groups) return report("groups", judgeGroups(groupPaths(folder), arena.journals()));
+  if (groups) return report("groups", checkGroups(groupPaths(folder), arena.journals()));
   std::vector<std::string> memberJournals;
   std::vector<std::string> startJournals;
   for (const std::string& journal : arena.journals()) {
     memberJournals.push_back(memberJournal(journal));
     startJournals.push_back(startJournal(journal));
   }
-  const bool starts = report("starts", judgeStarts(startJournals));
-  const bool contacts = report("contacts", judge(Kind::Contacts, contactsPath(folder), arena.journals()));
-  return report("members", judge(Kind::Members, membersPath(folder), memberJournals, arena.journals())) &&
+  const bool starts = report("starts", checkStarts(startJournals));
+  const bool contacts = report("contacts", check(Kind::Contacts, contactsPath(folder), arena.journals()));
+  return report("members", check(Kind::Members, membersPath(folder), memberJournals, arena.journals())) &&
          contacts && starts;
 }
 
@@ -186,7 +190,7 @@ int main(int argc, char** argv) {
   if (options.journals.isEmpty()) options.journals = options.folders.first();
   for (const QString& folder : options.folders + QStringList(options.journals)) {
     if (QDir().mkpath(folder) && QDir(folder).isEmpty()) continue;
-    std::fprintf(stderr, "%s can't be made or is not empty.\n", qUtf8Printable(folder));
+    std::fprintf(stderr, "%s can't be created or is not empty.\n", qUtf8Printable(folder));
     return 2;
   }
   Arena arena(options);

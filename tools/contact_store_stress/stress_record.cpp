@@ -14,7 +14,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// FNV-1a; any hash that spreads would do.
+// FNV-1a; the choice of hash is arbitrary.
 QString digest(const std::string& key, const std::string& value, int field) {
   std::uint64_t hash = 0xcbf29ce484222325u + static_cast<std::uint64_t>(field);
   for (const char byte : key + '\0' + value)
@@ -37,7 +37,7 @@ ContactRecord contactFor(const std::string& key, const std::string& value) {
 
 }  // namespace
 
-int recordSizeOf(Kind kind) {
+int recordWidth(Kind kind) {
   return kind == Kind::Contacts ? contactRecordSize : memberRecordSize;
 }
 
@@ -47,7 +47,7 @@ std::string recordFor(Kind kind, const std::string& key, const std::string& valu
 }
 
 CheckedRecord checkRecord(Kind kind, const char* record) {
-  const QByteArrayView bytes(record, recordSizeOf(kind));
+  const QByteArrayView bytes(record, recordWidth(kind));
   CheckedRecord checked = {unpackMember(bytes).toStdString(), memberValue, {}};
   if (kind == Kind::Contacts) checked.value = unpackContact(bytes).email.toStdString();
   const std::string expected = recordFor(kind, checked.key, checked.value);

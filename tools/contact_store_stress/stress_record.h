@@ -5,20 +5,20 @@
 
 namespace parlexo::stress {
 
-/// The two kinds of database that the store keeps.
+/// The two kinds of database files.
 enum class Kind { Contacts, Members };
 
-/// What every member record counts as: it is there or not.
+/// The value of every member record, which has no data except its key.
 inline constexpr char memberValue[] = "member";
 
-/// The bytes of one record.
-[[nodiscard]] int recordSizeOf(Kind kind);
+/// Returns the size of a record in bytes.
+[[nodiscard]] int recordWidth(Kind kind);
 
-/// The record that carries a value. A contact has the value in one field and a digest of key and value in
-/// all others, so that a torn record or one made of two can't pass; a member has nothing but its name.
+/// Returns the record with this key and value. A contact contains the value in one field and a digest of key
+/// and value in all others, which reveals torn and mixed records. A member only contains its name.
 [[nodiscard]] std::string recordFor(Kind kind, const std::string& key, const std::string& value);
 
-/// Key and value of a record, or a text that says what is wrong with it.
+/// Key and value of a record, and an error message if it is invalid.
 struct CheckedRecord {
   std::string key;
   std::string value;

@@ -14,7 +14,7 @@ namespace parlexo::stress {
 namespace {
 
 using History = std::map<std::string, std::vector<Operation>>;
-// The values of all records with one key, in the order of the file; nothing for a deleted one.
+// The values of all records with one key, in the order of the file; nullopt for a deleted record.
 struct Stored {
   std::vector<std::optional<std::string>> values;
 
@@ -42,22 +42,22 @@ History readHistory(const std::vector<std::string>& journals, Verdict& verdict) 
 Contents readContents(Kind kind, const std::string& path, Verdict& verdict) {
   std::ifstream file(path, std::ios::binary);
   const std::string bytes((std::istreambuf_iterator<char>(file)), {});
-  const auto recordSize = static_cast<std::size_t>(recordSizeOf(kind));
+  const auto recordSize = static_cast<std::size_t>(recordWidth(kind));
   if (bytes.size() % recordSize != 0) verdict.problems.push_back(path + " ends within a record");
   Contents contents;
   for (std::size_t at = 0; at + recordSize <= bytes.size(); at += recordSize) {
     ++verdict.records;
     const CheckedRecord record = checkRecord(kind, &bytes[at]);
     if (!record.problem.empty()) verdict.problems.push_back(record.key + ": " + record.problem);
-    auto& found = contents[record.key];
-    found.values.push_back(bytes[at] == ItemDatabase::recordInUse ? std::optional(record.value)
-                                                                  : std::nullopt);
-    if (found.values.size() > 1) ++verdict.doubled;
+    auto& stored = contents[record.key];
+    stored.values.push_back(bytes[at] == ItemDatabase::recordInUse ? std::optional(record.value)
+                                                                   : std::nullopt);
+    if (stored.values.size() > 1) ++verdict.doubled;
   }
   return contents;
 }
 
-// Another process was told that its later operation was done, so this one can't be the last any more.
+// An acknowledged operation began later, so this one can't have been the last.
 bool isSuperseded(const Operation& operation, const std::vector<Operation>& all) {
   return std::any_of(all.begin(), all.end(), [&](const Operation& other) {
     return other.acknowledged && other.begun > operation.ended;
@@ -69,7 +69,7 @@ bool explains(const Operation& operation, const std::optional<std::string>& foun
   return found == operation.value;
 }
 
-// True when one of the operations that may have been the last left what was found.
+// Returns whether an operation that may have been the last produced the value found.
 bool isExplained(const std::vector<Operation>& all, const std::optional<std::string>& found) {
   const bool anyAcknowledged =
       std::any_of(all.begin(), all.end(), [](const Operation& operation) { return operation.acknowledged; });
@@ -79,7 +79,7 @@ bool isExplained(const std::vector<Operation>& all, const std::optional<std::str
   });
 }
 
-// What was promised to be there, is, unless something may have taken it away since.
+// Returns whether an acknowledged write is lost that no later operation may have removed.
 bool isMissing(const std::vector<Operation>& all, const std::vector<Operation>& removals) {
   const auto mayUndo = [](const Operation& add) {
     return
@@ -94,12 +94,12 @@ bool isMissing(const std::vector<Operation>& all, const std::vector<Operation>& 
 
 }  // namespace
 
-Verdict judge(Kind kind, const std::string& database, const std::vector<std::string>& journals,
+Verdict check(Kind kind, const std::string& database, const std::vector<std::string>& journals,
               const std::vector<std::string>& contactJournals) {
   Verdict verdict;
   const History history = readHistory(journals, verdict);
-  Verdict ofContacts;
-  const History contactHistory = readHistory(contactJournals, ofContacts);
+  Verdict ignored;
+  const History contactHistory = readHistory(contactJournals, ignored);
   const Contents contents = readContents(kind, database, verdict);
   for (const auto& [key, operations] : history) {
     const auto stored = contents.find(key);
@@ -113,22 +113,22 @@ Verdict judge(Kind kind, const std::string& database, const std::vector<std::str
     if (isExplained(operations, found) || mayBeOrphan) continue;
     if (isMissed) ++verdict.missing;
     verdict.problems.push_back(key + ": shows \"" + found.value_or("(deleted)") +
-                               "\", which no operation that may have been the last has left");
+                               "\", which no operation that may have been the last produced");
   }
   for (const auto& [key, stored] : contents) {
-    if (stored.values.size() > 1) verdict.problems.push_back(key + ": is there twice");
-    if (history.count(key) == 0) verdict.problems.push_back(key + ": nobody wrote this");
+    if (stored.values.size() > 1) verdict.problems.push_back(key + ": occurs twice");
+    if (history.count(key) == 0) verdict.problems.push_back(key + ": was never written");
   }
   return verdict;
 }
 
-Verdict judgeStarts(const std::vector<std::string>& journals) {
+Verdict checkStarts(const std::vector<std::string>& journals) {
   Verdict verdict;
   readHistory(journals, verdict);
   return verdict;
 }
 
-Verdict judgeGroups(const std::vector<std::string>& databases, const std::vector<std::string>& journals) {
+Verdict checkGroups(const std::vector<std::string>& databases, const std::vector<std::string>& journals) {
   Verdict verdict;
   const History history = readHistory(journals, verdict);
   for (const std::string& database : databases) {
@@ -145,7 +145,7 @@ Verdict judgeGroups(const std::vector<std::string>& databases, const std::vector
       verdict.problems.push_back(key + ": is missing");
     }
     for (const auto& [key, stored] : contents)
-      if (history.count(prefix + key) == 0) verdict.problems.push_back(key + ": nobody wrote this");
+      if (history.count(prefix + key) == 0) verdict.problems.push_back(key + ": was never written");
   }
   return verdict;
 }

@@ -8,7 +8,6 @@
 #include <QByteArray>
 #include <QString>
 
-#include "base/notifier.h"
 #include "base/progress.h"
 #include "contacts/address_book.h"
 #include "contacts/contact_file_format.h"
@@ -27,7 +26,7 @@ constexpr int groupCount = 3;
 constexpr int timeoutSeconds = 60;
 constexpr long pauseNanoseconds = 500'000;
 
-// Tries often instead of sleeping: the fight for the file is what this program is about.
+// Retries quickly, because this program tests contention.
 class ImpatientWaiter final : public LockWaiter {
  public:
   [[nodiscard]] qint64 nowSeconds() override { return nowNanoseconds() / 1'000'000'000; }
@@ -37,8 +36,8 @@ class ImpatientWaiter final : public LockWaiter {
   }
 };
 
-// One database as one process uses it: what is done to it goes into a journal. `prefix` goes before the
-// keys there, where several databases share a journal.
+// A database whose operations are recorded in a journal. `prefix` is prepended to the keys in a journal
+// shared by several databases.
 class JournaledStore {
  public:
   JournaledStore(Kind kind, const std::string& path, JournalWriter& journal, ItemDatabase& database,
@@ -49,7 +48,7 @@ class JournaledStore {
         database_(database),
         prefix_(prefix) {}
 
-  // What has to be stored before is part of the operation, and when that fails there is no operation.
+  // `storeBefore` is part of the operation. If it fails, the operation has no effect.
   bool write(
       const std::string& key, const std::string& value,
       const std::function<bool()>& storeBefore = [] { return true; }) {
@@ -59,7 +58,7 @@ class JournaledStore {
       journal_.endWithoutEffect();
       return false;
     }
-    const bool written = database_.writeItem(error_, nameWidth, path_, recordSizeOf(kind_),
+    const bool written = database_.writeItem(error_, nameWidth, path_, recordWidth(kind_),
                                              QByteArrayView(record), timeoutSeconds);
     finish(written);
     return written;
@@ -69,8 +68,8 @@ class JournaledStore {
     bool deleted = false;
     journal_.begin(Action::Delete, prefix_ + key, {});
     const bool success = database_.deleteItem(error_, nameWidth, path_, QByteArray::fromStdString(key),
-                                              recordSizeOf(kind_), deleted, timeoutSeconds);
-    // A key that came after this process had read its index is not found, and the store says so.
+                                              recordWidth(kind_), deleted, timeoutSeconds);
+    // A key stored after this process read its index is not found, which the store reports.
     if (success && !deleted)
       journal_.endWithoutEffect();
     else
@@ -83,12 +82,12 @@ class JournaledStore {
       if (!checked.problem.empty()) journal_.complain("read " + checked.key + ": " + checked.problem);
       return true;
     };
-    if (!database_.readAllItems(error_, recordSizeOf(kind_), path_, check, timeoutSeconds))
+    if (!database_.readAllItems(error_, recordWidth(kind_), path_, check, timeoutSeconds))
       journal_.complain("reading: " + error_.toStdString());
     error_.clear();
   }
 
-  // The file goes with all that is in it. It may be gone already, or in use.
+  // Removes the file with all its records. It may be missing or in use.
   void removeFile() {
     journal_.begin(Action::RemoveFile, prefix_, {});
     if (database_.removeDb(path_))
@@ -97,7 +96,7 @@ class JournaledStore {
       journal_.endWithoutEffect();
   }
 
-  void makeFile() {
+  void createFile() {
     if (!database_.createDb(error_, path_)) journal_.complain(error_.toStdString());
     error_.clear();
   }
@@ -105,7 +104,7 @@ class JournaledStore {
  private:
   void finish(bool success) {
     journal_.end(success);
-    // Eleven times in a row somebody else may append first; nothing is stored then and nothing promised.
+    // Message 5: other processes appended first eleven times in a row, and nothing was stored.
     if (!success && !error_.contains(QLatin1String("[writeItem:5"))) journal_.complain(error_.toStdString());
     error_.clear();
   }
@@ -118,9 +117,9 @@ class JournaledStore {
   QString error_;
 };
 
-// What both kinds of work need.
+// The state of a worker process.
 struct Process {
-  explicit Process(const WorkerTask& given) : task(given), random(given.seed) {}
+  explicit Process(const WorkerTask& workerTask) : task(workerTask), random(workerTask.seed) {}
 
   [[nodiscard]] bool hasTime() const { return nowNanoseconds() < task.until; }
   std::uint64_t pick(std::uint64_t count) { return random() % count; }
@@ -136,20 +135,6 @@ void deleteContact(JournaledStore& contacts, JournaledStore& members, const std:
   contacts.erase(key);
   members.erase(key);
 }
-
-// A starting program shows no message.
-class ComplainingNotifier final : public Notifier {
- public:
-  explicit ComplainingNotifier(JournalWriter& journal) : journal_(journal) {}
-
-  MessageResult show(const QString& text, unsigned /*style*/, int /*number*/) override {
-    journal_.complain(text.toStdString());
-    return MessageResult::Ok;
-  }
-
- private:
-  JournalWriter& journal_;
-};
 
 class NoProgress final : public Progress {
  public:
@@ -192,13 +177,13 @@ void workOnContacts(const WorkerTask& task) {
 void workAsStartingProgram(const WorkerTask& task) {
   Process process(task);
   JournalWriter journal(startJournal(task.journal));
-  ComplainingNotifier notifier(journal);
   NoProgress progress;
   while (process.hasTime()) {
     process.cache.dropAllItemIndexes();
-    AddressBook book(QString::fromStdString(task.folder), process.database, notifier);
+    AddressBook book(QString::fromStdString(task.folder), process.database);
     journal.begin(Action::Start, "start", {});
-    journal.end(book.loadAll(progress));
+    journal.end(book.loadAll(
+        progress, [&](const StoreError& error) { journal.complain(error.message().toStdString()); }));
     process.waiter.pause();
   }
 }
@@ -216,7 +201,7 @@ void workOnGroups(const WorkerTask& task) {
     if (dice == 0)
       group.removeFile();
     else if (dice == 1)
-      group.makeFile();
+      group.createFile();
     else if (dice <= 4)
       group.readAll();
     else if (dice <= 12)

@@ -7,32 +7,32 @@
 
 namespace parlexo::stress {
 
-/// What one process does until it is killed or its time is over.
+/// The task of a process, which runs until it is killed or its time is over.
 struct WorkerTask {
   std::string folder;   ///< the contacts folder
   std::string journal;  ///< path of its journal
-  int number = 0;       ///< no two processes of a run have the same
+  int number = 0;       ///< unique among the processes of a test
   std::uint64_t seed = 0;
   std::int64_t until = 0;  ///< nanoseconds of the monotonic clock
 };
 
-/// Writes, updates and deletes contacts and members of one group as the program does: a contact before its
-/// membership, and a deletion in the same order. Some keys are its own, some are those of all processes.
-/// Reads everything now and then; every record must be whole. Returns when the time is over. The members have
-/// a journal of their own, named by memberJournal().
+/// Writes, updates and deletes contacts and members of one group like the program: a contact before its
+/// membership, and deletions in the same order. Some keys are private to the process, others shared by all.
+/// Occasionally reads all records, which must be complete. Returns when the time is over. Members have a
+/// separate journal, see memberJournal().
 void workOnContacts(const WorkerTask& task);
-/// Starts the program over and over, as far as the address book is concerned: loads everything and cleans up
-/// members without a contact. The journal is named by startJournal().
+/// Repeats the start of the program: loads the address book, which deletes members without a contact. Writes
+/// the journal named by startJournal().
 void workAsStartingProgram(const WorkerTask& task);
-/// Adds members to a few groups, takes them out, deletes the groups' files and makes them anew.
+/// Adds members to a few groups, removes them, and deletes and recreates the groups' files.
 void workOnGroups(const WorkerTask& task);
 
 [[nodiscard]] std::string memberJournal(const std::string& journal);
 [[nodiscard]] std::string startJournal(const std::string& journal);
 [[nodiscard]] std::string contactsPath(const std::string& folder);
-/// The file of the group that workOnContacts() fills.
+/// The file of the group used by workOnContacts().
 [[nodiscard]] std::string membersPath(const std::string& folder);
-/// The files that workOnGroups() makes and deletes.
+/// The files used by workOnGroups().
 [[nodiscard]] std::vector<std::string> groupPaths(const std::string& folder);
 
 }  // namespace parlexo::stress

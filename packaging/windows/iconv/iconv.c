@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "iconv.h"
 
 #include <stdint.h>
@@ -10,7 +11,7 @@ static const size_t failed = (size_t)-1;
 
 enum { utf16 = 1200, ascii = 20127, macRoman = 10000 };
 
-static unsigned codePageOf(const char* name) {
+static unsigned findCodePage(const char* name) {
   if (strcmp(name, "UTF-16LE") == 0) return utf16;
   if (strcmp(name, "ASCII") == 0) return ascii;
   if (strcmp(name, "MacRoman") == 0) return macRoman;
@@ -18,13 +19,13 @@ static unsigned codePageOf(const char* name) {
 }
 
 iconv_t iconv_open(const char* to, const char* from) {
-  const unsigned page = codePageOf(from);
+  const unsigned page = findCodePage(from);
   if (strcmp(to, "UTF-8") != 0 || page == 0) return noConverter;
   if (page != utf16 && !IsValidCodePage(page)) return noConverter;
   return (iconv_t)(uintptr_t)page;
 }
 
-/* The characters of the input, which the caller frees when they are not the input itself. */
+/* Returns the input as UTF-16, or NULL without memory. The caller frees it unless it is the input itself. */
 static wchar_t* toWide(unsigned page, char* bytes, int count, int* wideCount) {
   wchar_t* wide = NULL;
   if (page == utf16) {

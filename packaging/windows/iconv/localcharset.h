@@ -1,2 +1,2 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-/* libfreexl includes this and uses nothing of it. */
+/* Empty: libfreexl includes this header but uses no declaration from it. */

@@ -1,10 +1,11 @@
-/* What libfreexl is made to call in the place of fopen(), which takes names in the code page: many a file has
-   a name that no code page can write. */
+// SPDX-License-Identifier: GPL-3.0-or-later
+/* The replacement for fopen() in libfreexl. fopen() expects names in the code page, which cannot represent
+   every file name. */
 #include <stdio.h>
 #include <stdlib.h>
 #include <windows.h>
 
-/* As fopen() for reading bytes, but `path` is UTF-8. */
+/* Opens a file for reading in binary mode. `path` is UTF-8, `mode` is ignored. Returns NULL on error. */
 FILE* openUtf8(const char* path, const char* mode) {
   FILE* file = NULL;
   const int length = MultiByteToWideChar(CP_UTF8, 0, path, -1, NULL, 0);

@@ -4,6 +4,8 @@
 #include <algorithm>
 #include <utility>
 
+#include <QCoreApplication>
+
 #include "base/message_texts.h"
 #include "base/notifier.h"
 #include "base/progress.h"
@@ -22,7 +24,7 @@ HistoryRecord parseRecord(const QString& record) {
           record.section(tab, 3)};
 }
 
-auto askForHistory(const AccountServices& services) {
+auto requestHistory(const AccountServices& services) {
   const ProgressScope box(services.progress);
   return services.gateway.call<&GatewayClient::getAccountHistory>(services.state.session);
 }
@@ -40,23 +42,24 @@ std::vector<HistoryRecord> parseHistory(const QString& text) {
   return records;
 }
 
-std::optional<double> historyDateOrder(QStringView date) {
-  constexpr QStringView form = u"00/00/0000 00:00:00";
-  const auto fits = [](QChar given, QChar wanted) {
-    return wanted == u'0' ? given >= u'0' && given <= u'9' : given == wanted;
+std::optional<double> toSortKey(QStringView date) {
+  constexpr QStringView format = u"00/00/0000 00:00:00";
+  const auto matches = [](QChar actual, QChar expected) {
+    return expected == u'0' ? actual >= u'0' && actual <= u'9' : actual == expected;
   };
-  if (!std::equal(date.begin(), date.end(), form.begin(), form.end(), fits)) return std::nullopt;
+  if (!std::equal(date.begin(), date.end(), format.begin(), format.end(), matches)) return std::nullopt;
   QString digits;
-  constexpr std::pair<int, int> fromYearToSecond[] = {{6, 4}, {3, 2}, {0, 2}, {11, 2}, {14, 2}, {17, 2}};
-  for (const auto& [place, length] : fromYearToSecond) digits += date.mid(place, length);
+  constexpr std::pair<int, int> yearToSecond[] = {{6, 4}, {3, 2}, {0, 2}, {11, 2}, {14, 2}, {17, 2}};
+  for (const auto& [position, length] : yearToSecond) digits += date.mid(position, length);
   return digits.toDouble();
 }
 
-std::optional<std::vector<HistoryRecord>> AccountHistoryFlow::load() const {
-  const auto reply = askForHistory(services_);
+std::optional<std::vector<HistoryRecord>> fetchAccountHistory(const AccountServices& services) {
+  const auto reply = requestHistory(services);
   if (reply.answered() && reply->nErrorCode == 0) return parseHistory(fromWire(reply->sXmlAccountHistory));
-  services_.notifier.error(
-      withNumber(u"Could not successfully obtain history details. Error: %i"_s, reply->nErrorCode));
+  const QString message = QCoreApplication::translate(
+      "AccountHistory", "Could not successfully obtain history details. Error: %i");
+  services.notifier.error(withNumber(message, reply->nErrorCode));
   return std::nullopt;
 }
 

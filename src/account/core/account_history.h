@@ -10,7 +10,7 @@
 
 namespace parlexo {
 
-/// One movement on the account, its fields as the gateway sent them.
+/// One transaction of the account, with its fields as sent by the gateway.
 struct HistoryRecord {
   QString id;
   QString date;
@@ -20,26 +20,17 @@ struct HistoryRecord {
   bool operator==(const HistoryRecord&) const = default;
 };
 
-/// The records of a history text, in its order: each ends with "\r\n", its four fields are separated by tabs.
-/// Empty records are passed over, missing fields are empty, what follows a fourth tab belongs to the
-/// description, and text after the last "\r\n" is not a record.
+/// Parses a history text, in which each record ends with "\r\n" and its four fields are separated by tabs.
+/// Empty records are skipped, missing fields are empty and further tabs belong to the description. Text after
+/// the last "\r\n" is ignored.
 [[nodiscard]] std::vector<HistoryRecord> parseHistory(const QString& text);
 
-/// A number that orders dates of the form "dd/MM/yyyy HH:mm:ss" by time; none for a text of another form.
-[[nodiscard]] std::optional<double> historyDateOrder(QStringView date);
+/// Converts a date "dd/MM/yyyy HH:mm:ss" to a number by which dates sort in chronological order. Returns
+/// nullopt if `date` has another format.
+[[nodiscard]] std::optional<double> toSortKey(QStringView date);
 
-/// Fetches the account's last movements from the gateway.
-class AccountHistoryFlow {
- public:
-  /// `services` must refer to objects that outlive the flow.
-  explicit AccountHistoryFlow(const AccountServices& services) : services_(services) {}
-
-  /// Asks the gateway under the progress box. Nothing when it refused or could not be reached, which the user
-  /// has then been told with one and the same message; a session that is over is no exception.
-  [[nodiscard]] std::optional<std::vector<HistoryRecord>> load() const;
-
- private:
-  AccountServices services_;
-};
+/// Fetches the account's last transactions from the gateway and shows the progress box meanwhile. If that
+/// fails for any reason, including an expired session, reports the error to the user and returns nullopt.
+[[nodiscard]] std::optional<std::vector<HistoryRecord>> fetchAccountHistory(const AccountServices& services);
 
 }  // namespace parlexo

@@ -9,8 +9,7 @@ class Progress;
 class Settings;
 struct RunState;
 
-/// What the account pages and flows work with. The application owns it all and keeps it alive longer than
-/// any page.
+/// The dependencies of the account flows and pages. The application owns them; they outlive all pages.
 struct AccountServices {
   const RunState& state;
   Settings& settings;

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "account/core/email_preferences.h"
 
+#include <QCoreApplication>
+
 #include "base/notifier.h"
 #include "base/progress.h"
 #include "base/run_state.h"
@@ -8,8 +10,6 @@
 #include "protocol/result_code.h"
 
 namespace parlexo {
-
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -24,41 +24,45 @@ EmailPreferences fromResponse(const protocol::getEmailMessagingResponse& respons
                         fromWire(response.sEmailFilter3)}};
 }
 
+EmailSaveOutcome requestSave(const AccountServices& services, const EmailPreferences& preferences) {
+  const ProgressScope box(services.progress);
+  const auto& [first, second, third] = preferences.addresses;
+  const auto reply = services.gateway.call<&GatewayClient::editEmailMessaging>(
+      services.state.session, preferences.isEnabled, preferences.identityCode, preferences.isFiltered, first,
+      second, third, preferences.splitsLongSms, protocol::StopsAtEndKeyword(preferences.stopsAtEndKeyword),
+      protocol::StopsAtDoubleLine(preferences.stopsAtDoubleLine));
+  if (!reply.answered()) return EmailSaveOutcome::Failed;
+  if (reply->nErrorCode == protocol::ResultCode::BadEmailSettings) return EmailSaveOutcome::Incomplete;
+  return reply->nErrorCode == 0 ? EmailSaveOutcome::Saved : EmailSaveOutcome::Failed;
+}
+
 }  // namespace
 
-std::optional<EmailPreferences> EmailPreferencesFlow::load() const {
-  const auto reply = services_.gateway.call<&GatewayClient::getEmailMessaging>(services_.state.session);
+std::optional<EmailPreferences> fetchEmailPreferences(const AccountServices& services) {
+  const auto reply = services.gateway.call<&GatewayClient::getEmailMessaging>(services.state.session);
   if (!reply.answered() || reply->nErrorCode != 0) return std::nullopt;
   return fromResponse(*reply);
 }
 
-EmailSaveOutcome EmailPreferencesFlow::save(const EmailPreferences& preferences) const {
-  const EmailSaveOutcome outcome = ask(preferences);
+EmailSaveOutcome saveEmailPreferences(const AccountServices& services, const EmailPreferences& preferences) {
+  const EmailSaveOutcome outcome = requestSave(services, preferences);
   switch (outcome) {
     case EmailSaveOutcome::Saved:
-      services_.notifier.information(u"Saved email messaging preferences"_s);
+      services.notifier.information(
+          QCoreApplication::translate("EmailPreferences", "Saved email messaging preferences"));
       break;
     case EmailSaveOutcome::Incomplete:
-      services_.notifier.error(
-          u"Bad email messaging settings provided. You must provide an email code (and email "
-          "addresses to filter if email filtering is enabled)"_s);
+      services.notifier.error(QCoreApplication::translate(
+          "EmailPreferences",
+          "Bad email messaging settings provided. You must provide an email code (and email "
+          "addresses to filter if email filtering is enabled)"));
       break;
     case EmailSaveOutcome::Failed:
-      services_.notifier.error(u"An error occured while trying to save your email messaging preferences"_s);
+      services.notifier.error(QCoreApplication::translate(
+          "EmailPreferences", "An error occured while trying to save your email messaging preferences"));
       break;
   }
   return outcome;
-}
-
-EmailSaveOutcome EmailPreferencesFlow::ask(const EmailPreferences& preferences) const {
-  const ProgressScope box(services_.progress);
-  const auto& [first, second, third] = preferences.addresses;
-  const auto reply = services_.gateway.call<&GatewayClient::editEmailMessaging>(
-      services_.state.session, preferences.isEnabled, preferences.identityCode, preferences.isFiltered, first,
-      second, third, preferences.splitsLongSms, preferences.stopsAtEndKeyword, preferences.stopsAtDoubleLine);
-  if (!reply.answered()) return EmailSaveOutcome::Failed;
-  if (reply->nErrorCode == protocol::ResultCode::BadEmailSettings) return EmailSaveOutcome::Incomplete;
-  return reply->nErrorCode == 0 ? EmailSaveOutcome::Saved : EmailSaveOutcome::Failed;
 }
 
 }  // namespace parlexo

@@ -10,7 +10,7 @@
 
 namespace parlexo {
 
-/// How the gateway turns e-mails into messages of the account.
+/// How the gateway converts e-mails to messages of the account.
 struct EmailPreferences {
   bool isEnabled = false;
   QString identityCode{};
@@ -18,33 +18,24 @@ struct EmailPreferences {
   bool stopsAtDoubleLine = false;
   bool stopsAtEndKeyword = false;
   bool isFiltered = false;
-  std::array<QString, 3> addresses{};  ///< those that may send when the filter is on
+  std::array<QString, 3> addresses{};  ///< the allowed senders if `isFiltered`
 
   [[nodiscard]] bool operator==(const EmailPreferences&) const = default;
 };
 
 enum class EmailSaveOutcome {
   Saved,
-  Incomplete,  ///< the gateway misses the identity code or an address
+  Incomplete,  ///< the identity code or an address is missing
   Failed,
 };
 
-/// Fetches the account's e-mail preferences and saves changed ones.
-class EmailPreferencesFlow {
- public:
-  /// `services` must refer to objects that outlive the flow.
-  explicit EmailPreferencesFlow(const AccountServices& services) : services_(services) {}
+/// Fetches the account's e-mail preferences from the gateway. Returns nullopt if that fails, without a
+/// message.
+[[nodiscard]] std::optional<EmailPreferences> fetchEmailPreferences(const AccountServices& services);
 
-  /// What the gateway holds; none when it could not be had, of which the user is told nothing.
-  [[nodiscard]] std::optional<EmailPreferences> load() const;
-
-  /// Sends `preferences` as they are, the gateway being the judge, and tells the user what became of it.
-  [[nodiscard]] EmailSaveOutcome save(const EmailPreferences& preferences) const;
-
- private:
-  [[nodiscard]] EmailSaveOutcome ask(const EmailPreferences& preferences) const;
-
-  AccountServices services_;
-};
+/// Saves `preferences` at the gateway, which validates them, and reports the outcome to the user. Shows the
+/// progress box during the call.
+[[nodiscard]] EmailSaveOutcome saveEmailPreferences(const AccountServices& services,
+                                                    const EmailPreferences& preferences);
 
 }  // namespace parlexo

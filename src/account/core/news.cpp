@@ -11,26 +11,27 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QString showable(QString text) {
+QString withoutControlCharacters(QString text) {
   text.replace(u"\r\n"_s, u"\n"_s).replace(u'\r', u'\n');
   text.removeIf([](QChar c) { return c.category() == QChar::Other_Control && c != u'\n' && c != u'\t'; });
   return text;
 }
 
-// What closes a sentence or a bracket behind an address is no part of it.
-QString withoutClosing(QString address) {
+// Punctuation after an address and a closing bracket around it are not part of it.
+QString withoutTrailingPunctuation(QString address) {
   while (!address.isEmpty()) {
     const QChar last = address.back();
-    const bool closesOther = last == u')' && !address.contains(u'(');
-    if (!closesOther && !u".,;:!?'"_s.contains(last)) break;
+    const bool closesOuterBracket = last == u')' && !address.contains(u'(');
+    if (!closesOuterBracket && !u".,;:!?'"_s.contains(last)) break;
     address.chop(1);
   }
   return address;
 }
 
-QUrl pageOf(const QString& address) {
-  const QUrl page(address, QUrl::StrictMode);
-  return page.isValid() && !page.host().isEmpty() && page.userInfo().isEmpty() ? page : QUrl();
+QUrl toSafeUrl(const QString& address) {
+  // User info can make a URL look as if it had another host.
+  const QUrl url(address, QUrl::StrictMode);
+  return url.isValid() && !url.host().isEmpty() && url.userInfo().isEmpty() ? url : QUrl();
 }
 
 void append(std::vector<NewsPart>& parts, const QString& text, const QUrl& page = {}) {
@@ -47,22 +48,22 @@ void fetchNews(const BackgroundGateway& gateway, QObject& context,
       });
 }
 
-std::vector<NewsPart> newsParts(const QString& news) {
-  static const QRegularExpression addressLike(uR"(\bhttps?://[^\s<>"]+)"_s,
-                                              QRegularExpression::CaseInsensitiveOption);
-  const QString text = showable(news);
+std::vector<NewsPart> splitNews(const QString& news) {
+  static const QRegularExpression addressPattern(uR"(\bhttps?://[^\s<>"]+)"_s,
+                                                 QRegularExpression::CaseInsensitiveOption);
+  const QString text = withoutControlCharacters(news);
   std::vector<NewsPart> parts;
-  qsizetype taken = 0;
-  for (auto found = addressLike.globalMatch(text); found.hasNext();) {
-    const auto match = found.next();
-    const QString address = withoutClosing(match.captured());
-    const QUrl page = pageOf(address);
+  qsizetype parsed = 0;
+  for (auto matches = addressPattern.globalMatch(text); matches.hasNext();) {
+    const auto match = matches.next();
+    const QString address = withoutTrailingPunctuation(match.captured());
+    const QUrl page = toSafeUrl(address);
     if (page.isEmpty()) continue;
-    append(parts, text.mid(taken, match.capturedStart() - taken));
+    append(parts, text.mid(parsed, match.capturedStart() - parsed));
     append(parts, address, page);
-    taken = match.capturedStart() + address.size();
+    parsed = match.capturedStart() + address.size();
   }
-  append(parts, text.mid(taken));
+  append(parts, text.mid(parsed));
   return parts;
 }
 

@@ -13,22 +13,22 @@ namespace parlexo {
 
 class BackgroundGateway;
 
-/// Fetches the gateway's news, which need no session, in the background and passes them to `show` on the
-/// interface thread. `show` is not called when they could not be fetched, nor after `context` was destroyed.
+/// Fetches the gateway's news in the background, which needs no session, and passes it to `show` on the GUI
+/// thread. `show` is not called if the query fails or `context` has been destroyed.
 void fetchNews(const BackgroundGateway& gateway, QObject& context,
                std::function<void(const QString& news)> show);
 
-/// A stretch of a text: plain words, or a web address with the page it names.
+/// A part of a text: plain text or a web link.
 struct NewsPart {
   QString text;
-  QUrl page;  ///< empty for plain words
+  QUrl page;  ///< empty for plain text
 
   [[nodiscard]] bool operator==(const NewsPart&) const = default;
 };
 
-/// `news` from its beginning to its end, its web addresses set apart. Only http and https addresses count,
-/// and none that hides its host behind a user name. A line break is one "\n"; what can't be shown is left
-/// out; markup is text like any other.
-[[nodiscard]] std::vector<NewsPart> newsParts(const QString& news);
+/// Splits untrusted `news` into plain text and web links, in order. Only http and https URLs without user
+/// info become links. Line breaks become "\n" and other control characters except tabs are removed. Markup is
+/// not interpreted.
+[[nodiscard]] std::vector<NewsPart> splitNews(const QString& news);
 
 }  // namespace parlexo

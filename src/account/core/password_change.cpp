@@ -4,6 +4,8 @@
 #include <algorithm>
 #include <string>
 
+#include <QCoreApplication>
+
 #include "base/message_texts.h"
 #include "base/notifier.h"
 #include "base/progress.h"
@@ -12,8 +14,6 @@
 #include "connection/client/gateway.h"
 
 namespace parlexo {
-
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -33,51 +33,62 @@ bool hasLetterAndDigit(const QString& password) {
          std::any_of(password.begin(), password.end(), isDigit);
 }
 
+auto requestChange(const AccountServices& services, const PasswordDraft& draft) {
+  const ProgressScope box(services.progress);
+  return services.gateway.call<&GatewayClient::setAccountPassword>(
+      services.state.session, Secret(draft.oldPassword), Secret(draft.newPassword));
+}
+
 }  // namespace
 
-std::optional<PasswordProblem> problemWith(const PasswordDraft& draft) {
+std::optional<PasswordProblem> validate(const PasswordDraft& draft) {
   const auto& [oldPassword, newPassword, retyped] = draft;
+  const auto problem = [](const char* text, PasswordField field) {
+    return PasswordProblem{QCoreApplication::translate("PasswordChange", text), field};
+  };
   if (!hasPasswordLength(oldPassword))
-    return {
-        {u"No old password has been provided that is between 6 and 10 characters."_s, PasswordField::Old}};
+    return problem(
+        QT_TRANSLATE_NOOP("PasswordChange",
+                          "No old password has been provided that is between 6 and 10 characters."),
+        PasswordField::Old);
   if (!hasPasswordLength(newPassword))
-    return {
-        {u"No new password has been provided that is between 6 and 10 characters."_s, PasswordField::New}};
+    return problem(
+        QT_TRANSLATE_NOOP("PasswordChange",
+                          "No new password has been provided that is between 6 and 10 characters."),
+        PasswordField::New);
   if (!hasLetterAndDigit(retyped))
-    // Retyped as it was meant, it is the new password that has to be another one.
-    return {{u"Password must contain some characters and some numbers."_s,
-             retyped == newPassword ? PasswordField::New : PasswordField::Retyped}};
+    // If both are the same, retyping is not the mistake.
+    return problem(
+        QT_TRANSLATE_NOOP("PasswordChange", "Password must contain some characters and some numbers."),
+        retyped == newPassword ? PasswordField::New : PasswordField::Retyped);
   if (!hasPasswordLength(retyped))
-    return {{u"No new retype password has been provided that is between 6 and 10 characters."_s,
-             PasswordField::Retyped}};
+    return problem(
+        QT_TRANSLATE_NOOP("PasswordChange",
+                          "No new retype password has been provided that is between 6 and 10 characters."),
+        PasswordField::Retyped);
   if (newPassword != retyped)
-    return {
-        {u"The new password and retyped password does not match. Please enter the passwords "
-         "match."_s,
-         PasswordField::Retyped}};
+    return problem(QT_TRANSLATE_NOOP("PasswordChange",
+                                     "The new password and retyped password does not match. Please enter "
+                                     "the passwords match."),
+                   PasswordField::Retyped);
   return std::nullopt;
 }
 
-std::optional<PasswordField> PasswordChangeFlow::change(const PasswordDraft& draft) const {
-  if (const auto problem = problemWith(draft)) {
-    services_.notifier.error(problem->text);
-    return problem->field;
+std::optional<PasswordField> changePassword(const AccountServices& services, const PasswordDraft& draft) {
+  if (const auto problem = validate(draft)) {
+    services.notifier.error(problem->first);
+    return problem->second;
   }
-  const Answer answer = ask(draft);
-  if (answer.answered && answer.code == 0) {
-    services_.notifier.information(u"Your password has successfully been updated!"_s);
+  const auto reply = requestChange(services, draft);
+  if (reply.answered() && reply->nErrorCode == 0) {
+    services.notifier.information(
+        QCoreApplication::translate("PasswordChange", "Your password has successfully been updated!"));
     return std::nullopt;
   }
-  services_.notifier.error(
-      withNumber(u"Could not successfully set the new password. Error: %i"_s, answer.code));
+  const QString message =
+      QCoreApplication::translate("PasswordChange", "Could not successfully set the new password. Error: %i");
+  services.notifier.error(withNumber(message, reply->nErrorCode));
   return PasswordField::Old;
-}
-
-PasswordChangeFlow::Answer PasswordChangeFlow::ask(const PasswordDraft& draft) const {
-  const ProgressScope box(services_.progress);
-  const auto reply = services_.gateway.call<&GatewayClient::setAccountPassword>(
-      services_.state.session, Secret(draft.oldPassword), Secret(draft.newPassword));
-  return {reply.answered(), reply->nErrorCode};
 }
 
 }  // namespace parlexo

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <optional>
+#include <utility>
 
 #include <QString>
 
@@ -9,7 +10,7 @@
 
 namespace parlexo {
 
-/// What the user typed to get a new password.
+/// The user's input for a password change.
 struct PasswordDraft {
   QString oldPassword;
   QString newPassword;
@@ -18,35 +19,17 @@ struct PasswordDraft {
 
 enum class PasswordField { Old, New, Retyped };
 
-/// What keeps a draft from being sent, and where the user can mend it.
-struct PasswordProblem {
-  QString text;
-  PasswordField field = PasswordField::Old;
-};
+/// An error message and the field to correct.
+using PasswordProblem = std::pair<QString, PasswordField>;
 
-/// The first rule that `draft` breaks; none when it may be sent. Lengths count bytes of the code page, which
-/// is what the gateway sees. Letters and digits are looked for in the retyped password, before its length.
-[[nodiscard]] std::optional<PasswordProblem> problemWith(const PasswordDraft& draft);
+/// Validates `draft`. Returns the first violated rule, or nullopt if `draft` is valid. Lengths count bytes in
+/// the code page, as the gateway does. The retyped password is checked for letters and digits, before its
+/// length.
+[[nodiscard]] std::optional<PasswordProblem> validate(const PasswordDraft& draft);
 
-/// Gives the account a new password.
-class PasswordChangeFlow {
- public:
-  /// `services` must refer to objects that outlive the flow.
-  explicit PasswordChangeFlow(const AccountServices& services) : services_(services) {}
-
-  /// Checks `draft`, asks the gateway and tells the user what became of it. Returns nothing when the password
-  /// was changed, otherwise the field that the user should look at.
-  [[nodiscard]] std::optional<PasswordField> change(const PasswordDraft& draft) const;
-
- private:
-  /// 0, or the gateway's code; the code is 0 too when there was no answer.
-  struct Answer {
-    bool answered = false;
-    int code = 0;
-  };
-  [[nodiscard]] Answer ask(const PasswordDraft& draft) const;
-
-  AccountServices services_;
-};
+/// Validates `draft`, changes the account's password at the gateway and reports the outcome to the user.
+/// Shows the progress box during the call. Returns nullopt on success, otherwise the field to correct.
+[[nodiscard]] std::optional<PasswordField> changePassword(const AccountServices& services,
+                                                          const PasswordDraft& draft);
 
 }  // namespace parlexo

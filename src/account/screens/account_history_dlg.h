@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <vector>
+
+#include "account/core/account_history.h"
 #include "account/core/account_services.h"
-#include "account/screens/history_list_model.h"
 #include "ui/gradient_page.h"
+#include "ui/record_list_model.h"
 
 class QHBoxLayout;
 
@@ -11,19 +14,38 @@ namespace parlexo {
 
 class RecordTable;
 
-/// The account history: the last movements on the account, newest at the end.
+/// The rows of the account history, in the gateway's order.
+class HistoryListModel final : public RecordListModel {
+  Q_OBJECT
+
+ public:
+  explicit HistoryListModel(QObject* parent = nullptr);
+
+  /// Replaces all rows.
+  void setRecords(std::vector<HistoryRecord> records);
+
+ protected:
+  [[nodiscard]] int recordCount() const override { return static_cast<int>(records_.size()); }
+  [[nodiscard]] QString textAt(int row, int column) const override;
+  [[nodiscard]] QVariant sortNumberAt(int row, int column) const override;
+
+ private:
+  std::vector<HistoryRecord> records_;
+};
+
+/// The page with the account history: the last transactions, newest at the end.
 class CAccountHistoryDlg final : public GradientPage {
   Q_OBJECT
 
  public:
-  /// Fetches the history at once. `services` must refer to objects that outlive the page.
+  /// Fetches the history immediately. `services` must refer to objects that outlive the page.
   explicit CAccountHistoryDlg(const AccountServices& services, QWidget* parent = nullptr);
 
-  /// Fetches the history anew. After a failure the rows stay as they were.
+  /// Fetches the history again. If that fails, the old rows remain.
   void refresh() override;
 
  protected:
-  /// Another user may have logged in since the history was fetched.
+  /// Refreshes the page if another user has logged in since the history was fetched.
   void showEvent(QShowEvent* event) override;
 
  private:
@@ -34,7 +56,7 @@ class CAccountHistoryDlg final : public GradientPage {
   HistoryListModel model_;
   RecordTable* list_;
   bool isLoading_ = false;
-  QString shownUser_;  ///< whose history it is
+  QString shownUser_;  ///< the user whose history is shown
 };
 
 }  // namespace parlexo

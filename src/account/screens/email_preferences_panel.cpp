@@ -10,6 +10,7 @@
 
 #include "base/code_page.h"
 #include "base/run_state.h"
+#include "ui/look.h"
 #include "ui/page_controls.h"
 #include "ui/picture_button.h"
 #include "ui/unsendable_hint.h"
@@ -20,20 +21,20 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int filterColumn = 3;  // of the grid; the columns before it are for the switches and a gap
+constexpr int filterColumn = 3;  // of the grid, after the check boxes and a gap
 
-// What the gateway will make of a text, which knows no other characters than those of the code page.
-QString asSent(const QLineEdit& edit) {
+// Returns the text as the gateway receives it: converted to the code page and back.
+QString toSentText(const QLineEdit& edit) {
   return throughCodePage(edit.text());
 }
 
 }  // namespace
 
 EmailPreferencesPanel::EmailPreferencesPanel(const AccountServices& services, QWidget* parent)
-    : QGroupBox(u"Email Messaging:"_s, parent), state_(services.state), flow_(services) {
+    : QGroupBox(tr("Email Messaging:"), parent), services_(services) {
   setObjectName(u"emailPanel"_s);
   auto* grid = new QGridLayout(this);
-  grid->setColumnMinimumWidth(filterColumn - 1, 24);
+  grid->setColumnMinimumWidth(filterColumn - 1, look::groupSpacing);
   grid->setColumnStretch(1, 1);
   grid->setColumnStretch(filterColumn + 1, 1);
   createSwitches(*grid);
@@ -41,12 +42,12 @@ EmailPreferencesPanel::EmailPreferencesPanel(const AccountServices& services, QW
   auto* hint = new UnsendableHint(this);
   hint->watch({code_, addresses_[0], addresses_[1], addresses_[2]});
   grid->addWidget(hint, grid->rowCount(), 0, 1, -1);
-  show(held_);
+  setFields(saved_);
   load();
 }
 
 void EmailPreferencesPanel::reloadUnlessChanged() {
-  if (shown() == held_) load();
+  if (readFields() == saved_) load();
 }
 
 QCheckBox* EmailPreferencesPanel::addCheckBox(QGridLayout& grid, int row, int column, const char* name,
@@ -68,21 +69,21 @@ QLineEdit* EmailPreferencesPanel::addEdit(QGridLayout& grid, int row, int column
 }
 
 void EmailPreferencesPanel::createSwitches(QGridLayout& grid) {
-  enabled_ = addCheckBox(grid, 0, 0, "emailEnabled", u"Enable Email Messaging:"_s);
-  connect(enabled_, &QCheckBox::toggled, this, &EmailPreferencesPanel::enableWhatCounts);
-  code_ = addEdit(grid, 1, 0, "identityCode", u"&Identity Code:"_s);
-  split_ = addCheckBox(grid, 2, 0, "splitLongSms", u"Split long SMS into several SMS"_s);
-  doubleLine_ = addCheckBox(grid, 3, 0, "stopAtDoubleLine", u"Stop emails at blank double lines"_s);
-  endKeyword_ = addCheckBox(grid, 4, 0, "stopAtEndKeyword", u"Stop emails at ##END## keyword"_s);
+  enabled_ = addCheckBox(grid, 0, 0, "emailEnabled", tr("Enable Email Messaging:"));
+  connect(enabled_, &QCheckBox::toggled, this, &EmailPreferencesPanel::updateEnabled);
+  code_ = addEdit(grid, 1, 0, "identityCode", tr("&Identity Code:"));
+  split_ = addCheckBox(grid, 2, 0, "splitLongSms", tr("Split long SMS into several SMS"));
+  doubleLine_ = addCheckBox(grid, 3, 0, "stopAtDoubleLine", tr("Stop emails at blank double lines"));
+  endKeyword_ = addCheckBox(grid, 4, 0, "stopAtEndKeyword", tr("Stop emails at ##END## keyword"));
 }
 
 void EmailPreferencesPanel::createFilter(QGridLayout& grid) {
-  filter_ = addCheckBox(grid, 0, filterColumn, "emailFilter", u"Filter based on email addresses:"_s);
-  connect(filter_, &QCheckBox::toggled, this, &EmailPreferencesPanel::enableWhatCounts);
-  addresses_ = {addEdit(grid, 1, filterColumn, "emailAddress1", u"Email address &1:"_s),
-                addEdit(grid, 2, filterColumn, "emailAddress2", u"Email address &2:"_s),
-                addEdit(grid, 3, filterColumn, "emailAddress3", u"Email address &3:"_s)};
-  auto* button = new PictureButton(u"&Save Changes"_s, this);
+  filter_ = addCheckBox(grid, 0, filterColumn, "emailFilter", tr("Filter based on email addresses:"));
+  connect(filter_, &QCheckBox::toggled, this, &EmailPreferencesPanel::updateEnabled);
+  addresses_ = {addEdit(grid, 1, filterColumn, "emailAddress1", tr("Email address &1:")),
+                addEdit(grid, 2, filterColumn, "emailAddress2", tr("Email address &2:")),
+                addEdit(grid, 3, filterColumn, "emailAddress3", tr("Email address &3:"))};
+  auto* button = new PictureButton(tr("&Save Changes"), this);
   button->setObjectName(u"saveChangesButton"_s);
   connect(button, &PictureButton::clicked, this, &EmailPreferencesPanel::save);
   grid.addWidget(button, 4, filterColumn, 1, 2, Qt::AlignRight);
@@ -90,37 +91,37 @@ void EmailPreferencesPanel::createFilter(QGridLayout& grid) {
 
 void EmailPreferencesPanel::showEvent(QShowEvent* event) {
   QGroupBox::showEvent(event);
-  if (shownUser_ != state_.userName)
+  if (shownUser_ != services_.state.userName)
     QMetaObject::invokeMethod(this, &EmailPreferencesPanel::load, Qt::QueuedConnection);
 }
 
 void EmailPreferencesPanel::load() {
-  if (std::exchange(shownUser_, state_.userName) != state_.userName) {
-    held_ = {};
-    show(held_);
+  if (std::exchange(shownUser_, services_.state.userName) != services_.state.userName) {
+    saved_ = {};
+    setFields(saved_);
   }
-  const auto preferences = flow_.load();
+  const auto preferences = fetchEmailPreferences(services_);
   if (!preferences) return;
-  held_ = *preferences;
-  show(held_);
+  saved_ = *preferences;
+  setFields(saved_);
 }
 
 void EmailPreferencesPanel::save() {
-  const EmailPreferences wanted = shown();
-  show(wanted);
-  switch (flow_.save(wanted)) {
+  const EmailPreferences preferences = readFields();
+  setFields(preferences);
+  switch (saveEmailPreferences(services_, preferences)) {
     case EmailSaveOutcome::Saved:
-      held_ = wanted;
+      saved_ = preferences;
       break;
     case EmailSaveOutcome::Incomplete:
-      focusWhatMayMiss();
+      focusMissingField();
       break;
     case EmailSaveOutcome::Failed:
       break;
   }
 }
 
-void EmailPreferencesPanel::show(const EmailPreferences& preferences) {
+void EmailPreferencesPanel::setFields(const EmailPreferences& preferences) {
   enabled_->setChecked(preferences.isEnabled);
   code_->setText(preferences.identityCode);
   split_->setChecked(preferences.splitsLongSms);
@@ -128,20 +129,20 @@ void EmailPreferencesPanel::show(const EmailPreferences& preferences) {
   endKeyword_->setChecked(preferences.stopsAtEndKeyword);
   filter_->setChecked(preferences.isFiltered);
   for (std::size_t i = 0; i < addresses_.size(); ++i) addresses_[i]->setText(preferences.addresses[i]);
-  enableWhatCounts();
+  updateEnabled();
 }
 
-EmailPreferences EmailPreferencesPanel::shown() const {
+EmailPreferences EmailPreferencesPanel::readFields() const {
   return {.isEnabled = enabled_->isChecked(),
-          .identityCode = asSent(*code_),
+          .identityCode = toSentText(*code_),
           .splitsLongSms = split_->isChecked(),
           .stopsAtDoubleLine = doubleLine_->isChecked(),
           .stopsAtEndKeyword = endKeyword_->isChecked(),
           .isFiltered = filter_->isChecked(),
-          .addresses = {asSent(*addresses_[0]), asSent(*addresses_[1]), asSent(*addresses_[2])}};
+          .addresses = {toSentText(*addresses_[0]), toSentText(*addresses_[1]), toSentText(*addresses_[2])}};
 }
 
-void EmailPreferencesPanel::enableWhatCounts() {
+void EmailPreferencesPanel::updateEnabled() {
   const bool isOn = enabled_->isChecked();
   for (QWidget* control :
        {static_cast<QWidget*>(code_), static_cast<QWidget*>(split_), static_cast<QWidget*>(doubleLine_),
@@ -152,7 +153,7 @@ void EmailPreferencesPanel::enableWhatCounts() {
     if (label->buddy()) label->setEnabled(label->buddy()->isEnabled());
 }
 
-void EmailPreferencesPanel::focusWhatMayMiss() {
+void EmailPreferencesPanel::focusMissingField() {
   (code_->text().isEmpty() || !addresses_[0]->isEnabled() ? code_ : addresses_[0])->setFocus();
 }
 

@@ -5,6 +5,7 @@
 
 #include <QGroupBox>
 
+#include "account/core/account_services.h"
 #include "account/core/email_preferences.h"
 
 class QCheckBox;
@@ -13,19 +14,19 @@ class QLineEdit;
 
 namespace parlexo {
 
-/// The part of the settings page for messages sent by e-mail. What has no effect is disabled.
+/// The section of the settings page for messages sent by e-mail. Controls without effect are disabled.
 class EmailPreferencesPanel final : public QGroupBox {
   Q_OBJECT
 
  public:
-  /// Shows what the gateway holds. `services` must refer to objects that outlive the panel.
+  /// Fetches the preferences immediately. `services` must refer to objects that outlive the panel.
   explicit EmailPreferencesPanel(const AccountServices& services, QWidget* parent = nullptr);
 
-  /// Fetches anew what the gateway holds, unless the user has changed something and not saved it yet.
+  /// Fetches the preferences again, unless there are unsaved changes.
   void reloadUnlessChanged();
 
  protected:
-  /// Another user may have logged in since the preferences were fetched.
+  /// Reloads the preferences if another user has logged in since they were fetched.
   void showEvent(QShowEvent* event) override;
 
  private:
@@ -35,15 +36,14 @@ class EmailPreferencesPanel final : public QGroupBox {
   void createFilter(QGridLayout& grid);
   void load();
   void save();
-  void show(const EmailPreferences& preferences);
-  [[nodiscard]] EmailPreferences shown() const;
-  void enableWhatCounts();
-  void focusWhatMayMiss();
+  void setFields(const EmailPreferences& preferences);
+  [[nodiscard]] EmailPreferences readFields() const;
+  void updateEnabled();
+  void focusMissingField();
 
-  const RunState& state_;
-  EmailPreferencesFlow flow_;
-  EmailPreferences held_;  ///< what the gateway is known to hold
-  QString shownUser_;      ///< for whom
+  AccountServices services_;
+  EmailPreferences saved_;  ///< as last fetched from or saved at the gateway
+  QString shownUser_;       ///< the user whose preferences are shown
 
   QCheckBox* enabled_ = nullptr;
   QLineEdit* code_ = nullptr;

@@ -13,7 +13,7 @@
 #include "ui/look.h"
 #include "ui/page_controls.h"
 #include "ui/picture_button.h"
-#include "ui/waiting/box_column.h"
+#include "ui/waiting/animated_picture.h"
 
 namespace parlexo {
 
@@ -21,7 +21,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QTextCharFormat formatOf(const NewsPart& part) {
+QTextCharFormat toFormat(const NewsPart& part) {
   QTextCharFormat format;
   if (!isWebAddress(part.page)) return format;
   format.setAnchor(true);
@@ -34,7 +34,7 @@ QTextCharFormat formatOf(const NewsPart& part) {
 QTextBrowser* createBrowser(QWidget* parent) {
   auto* browser = new QTextBrowser(parent);
   browser->setObjectName(u"news"_s);
-  browser->setAccessibleName(u"News"_s);
+  browser->setAccessibleName(CNewsDlg::tr("News"));
   browser->setOpenLinks(false);
   QPalette palette = browser->palette();
   palette.setColor(QPalette::Base, look::listBackground);
@@ -46,9 +46,9 @@ QTextBrowser* createBrowser(QWidget* parent) {
 
 CNewsDlg::CNewsDlg(const QString& news, QWidget* parent) : GradientDialog(parent) {
   setObjectName(u"newsDialog"_s);
-  setWindowTitle(u"Parlexo(TM) : News"_s);
+  setWindowTitle(tr("Parlexo(TM) : News"));
   text_ = createBrowser(this);
-  connect(text_, &QTextBrowser::anchorClicked, this, &CNewsDlg::follow);
+  connect(text_, &QTextBrowser::anchorClicked, this, &CNewsDlg::openPage);
   fill(news);
   auto* row = new QHBoxLayout;
   row->addStretch();
@@ -64,10 +64,10 @@ CNewsDlg::CNewsDlg(const QString& news, QWidget* parent) : GradientDialog(parent
 
 void CNewsDlg::fill(const QString& news) {
   QTextCursor cursor(text_->document());
-  for (const NewsPart& part : newsParts(news)) cursor.insertText(part.text, formatOf(part));
+  for (const NewsPart& part : splitNews(news)) cursor.insertText(part.text, toFormat(part));
 }
 
-void CNewsDlg::follow(const QUrl& page) const {
+void CNewsDlg::openPage(const QUrl& page) const {
   if (isWebAddress(page) && opener_) opener_(page);
 }
 

@@ -5,14 +5,14 @@
 #include <QUrl>
 
 #include "ui/gradient_page.h"
-#include "ui/web_opener.h"
+#include "ui/hyperlink_label.h"
 
 class QTextBrowser;
 
 namespace parlexo {
 
-/// Shows the gateway's news as plain text in which web addresses can be followed. The text comes from
-/// outside: nothing in it is taken for markup, and nothing is loaded for it.
+/// Shows the gateway's news as plain text with web links. The text is untrusted: markup is not interpreted
+/// and nothing is loaded.
 class CNewsDlg final : public GradientDialog {
   Q_OBJECT
 
@@ -23,7 +23,7 @@ class CNewsDlg final : public GradientDialog {
 
  private:
   void fill(const QString& news);
-  void follow(const QUrl& page) const;
+  void openPage(const QUrl& page) const;
 
   QTextBrowser* text_ = nullptr;
   WebOpener opener_ = openInBrowser;

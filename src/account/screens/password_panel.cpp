@@ -14,13 +14,13 @@ namespace parlexo {
 using namespace Qt::StringLiterals;
 
 PasswordPanel::PasswordPanel(const AccountServices& services, QWidget* parent)
-    : QGroupBox(u"Change Password:"_s, parent), flow_(services) {
+    : QGroupBox(tr("Change Password:"), parent), services_(services) {
   setObjectName(u"passwordPanel"_s);
   auto* form = new QFormLayout;
-  old_ = addEdit(*form, "oldPassword", u"&Old password:"_s);
-  new_ = addEdit(*form, "newPassword", u"&New Password:"_s);
-  retyped_ = addEdit(*form, "retypedPassword", u"&Retype New Password:"_s);
-  auto* button = new PictureButton(u"Change &Password"_s, this);
+  old_ = addEdit(*form, "oldPassword", tr("&Old password:"));
+  new_ = addEdit(*form, "newPassword", tr("&New Password:"));
+  retyped_ = addEdit(*form, "retypedPassword", tr("&Retype New Password:"));
+  auto* button = new PictureButton(tr("Change &Password"), this);
   button->setObjectName(u"changePasswordButton"_s);
   connect(button, &PictureButton::clicked, this, &PasswordPanel::change);
   auto* column = new QVBoxLayout(this);
@@ -47,18 +47,18 @@ QLineEdit* PasswordPanel::addEdit(QFormLayout& form, const char* name, const QSt
 }
 
 void PasswordPanel::change() {
-  // The draft is gone before the fields are wiped: memory that it shares with them would stay as it is.
-  const auto atFault = flow_.change({old_->text(), new_->text(), retyped_->text()});
-  if (!atFault) return wipeFields();
-  editFor(*atFault)->setFocus();
-  editFor(*atFault)->selectAll();
+  // The draft is destroyed before wiping, as its strings share their memory with the fields.
+  const auto wrongField = changePassword(services_, {old_->text(), new_->text(), retyped_->text()});
+  if (!wrongField) return wipeFields();
+  findField(*wrongField)->setFocus();
+  findField(*wrongField)->selectAll();
 }
 
 void PasswordPanel::wipeFields() {
   for (QLineEdit* field : {old_, new_, retyped_}) wipeField(*field);
 }
 
-QLineEdit* PasswordPanel::editFor(PasswordField field) const {
+QLineEdit* PasswordPanel::findField(PasswordField field) const {
   switch (field) {
     case PasswordField::Old:
       return old_;

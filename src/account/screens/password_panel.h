@@ -3,6 +3,7 @@
 
 #include <QGroupBox>
 
+#include "account/core/account_services.h"
 #include "account/core/password_change.h"
 
 class QFormLayout;
@@ -10,8 +11,8 @@ class QLineEdit;
 
 namespace parlexo {
 
-/// The part of the settings page that gives the account a new password. The passwords are wiped once they
-/// have served, and with the panel.
+/// The section of the settings page for changing the password. The fields are wiped after a change and by the
+/// destructor.
 class PasswordPanel final : public QGroupBox {
   Q_OBJECT
 
@@ -26,9 +27,9 @@ class PasswordPanel final : public QGroupBox {
   QLineEdit* addEdit(QFormLayout& form, const char* name, const QString& label);
   void change();
   void wipeFields();
-  [[nodiscard]] QLineEdit* editFor(PasswordField field) const;
+  [[nodiscard]] QLineEdit* findField(PasswordField field) const;
 
-  PasswordChangeFlow flow_;
+  AccountServices services_;
   QLineEdit* old_ = nullptr;
   QLineEdit* new_ = nullptr;
   QLineEdit* retyped_ = nullptr;

@@ -3,7 +3,8 @@
 
 #include <array>
 
-#include "account/core/receiving_numbers.h"
+#include <QtGlobal>
+
 #include "ui/gradient_page.h"
 
 class QLabel;
@@ -14,8 +15,19 @@ namespace parlexo {
 
 struct RunState;
 
-/// The page that tells under which numbers replies to the account's messages arrive. An account that belongs
-/// to a parent account has none and is told so.
+/// A number of the service that receives messages for accounts.
+struct ReceivingNumber {
+  const char* country;  ///< English; part of the label and, in lower case, of the object names
+  const char* number;
+};
+
+inline constexpr std::array<ReceivingNumber, 3> receivingNumbers{
+    {{QT_TRANSLATE_NOOP("parlexo::CReceiveMessagesDlg", "Australian"), "+61491570156"},
+     {QT_TRANSLATE_NOOP("parlexo::CReceiveMessagesDlg", "Malaysian"), "+60312345678"},
+     {QT_TRANSLATE_NOOP("parlexo::CReceiveMessagesDlg", "China"), "+861012345678"}}};
+
+/// The page with the numbers that receive replies to the account's messages. An account below a parent
+/// account has no numbers; the page says so.
 class CReceiveMessagesDlg final : public GradientPage {
   Q_OBJECT
 
@@ -23,20 +35,20 @@ class CReceiveMessagesDlg final : public GradientPage {
   /// `state` must outlive the page.
   explicit CReceiveMessagesDlg(const RunState& state, QWidget* parent = nullptr);
 
-  void refresh() override { showUser(); }
+  void refresh() override { updateUser(); }
 
  protected:
-  /// Another user may have logged in since the page was seen last.
+  /// Updates the page, as another user may have logged in since it was last visible.
   void showEvent(QShowEvent* event) override;
 
  private:
   [[nodiscard]] QWidget* createNumbers();
   [[nodiscard]] QWidget* createExplanation();
-  void showUser();
+  void updateUser();
 
   const RunState& state_;
   QLabel* introduction_ = nullptr;
-  QWidget* ownNumbers_ = nullptr;  ///< all that an account below a parent does not see
+  QWidget* ownNumbers_ = nullptr;  ///< hidden for an account below a parent account
   std::array<QLineEdit*, receivingNumbers.size()> users_{};
 };
 

@@ -6,6 +6,7 @@
 
 #include "account/screens/email_preferences_panel.h"
 #include "account/screens/password_panel.h"
+#include "ui/look.h"
 
 namespace parlexo {
 
@@ -16,12 +17,12 @@ CSettingsDlg::CSettingsDlg(const AccountServices& services, const FolderChooser&
   setObjectName(u"settingsPage"_s);
   email_ = new EmailPreferencesPanel(services, this);
   auto* lower = new QHBoxLayout;
-  lower->setSpacing(14);
+  lower->setSpacing(look::sectionSpacing);
   lower->addWidget(new PasswordPanel(services, this), 2);
   lower->addWidget(new StorageFoldersPanel(services, chooser, this), 3);
   auto* column = new QVBoxLayout(this);
-  column->setContentsMargins(14, 10, 14, 12);
-  column->setSpacing(10);
+  column->setContentsMargins(look::pageMargins);
+  column->setSpacing(look::rowSpacing);
   column->addWidget(email_);
   column->addLayout(lower);
   column->addStretch(1);

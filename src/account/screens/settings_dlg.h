@@ -8,13 +8,13 @@ namespace parlexo {
 
 class EmailPreferencesPanel;
 
-/// The settings page: the account's e-mail preferences and password, which the gateway keeps, and the folders
-/// on this computer.
+/// The settings page: the account's e-mail preferences and password, which are stored by the gateway, and the
+/// storage folders of this client.
 class CSettingsDlg final : public GradientPage {
   Q_OBJECT
 
  public:
-  /// Asks the gateway for the e-mail preferences. `services` must refer to objects that outlive the page.
+  /// Fetches the e-mail preferences immediately. `services` must refer to objects that outlive the page.
   explicit CSettingsDlg(const AccountServices& services, const FolderChooser& chooser = chooseFolder,
                         QWidget* parent = nullptr);
 

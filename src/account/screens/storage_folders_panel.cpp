@@ -23,19 +23,23 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QString promptFor(const QString& what) {
-  return u"Select the folder where your %1 will be stored. Store this on a network if you wish to share "
-         "with other users."_s.arg(what);
+QString promptFor(const QString& content) {
+  return StorageFoldersPanel::tr(
+             "Select the folder where your %1 will be stored. Store this on a network if you wish to share "
+             "with other users.")
+      .arg(content);
 }
 
-QString warningFor(const QString& what) {
-  return u"You have changed your storage directory for your %1. You must exit application and restart "
-         "application before using"_s.arg(what);
+QString warningFor(const QString& content) {
+  return StorageFoldersPanel::tr(
+             "You have changed your storage directory for your %1. You must exit application and restart "
+             "application before using")
+      .arg(content);
 }
 
 void showPath(QLineEdit& field, const QString& path) {
   field.setText(path);
-  field.setCursorPosition(0);  // a field too narrow for its text shows the beginning
+  field.setCursorPosition(0);  // shows the start of a path that is too long
   field.setToolTip(path);
 }
 
@@ -45,9 +49,9 @@ QString chooseFolder(QWidget* parent, const QString& prompt, const QString& star
   QFileDialog dialog(parent, prompt, start);
   dialog.setFileMode(QFileDialog::Directory);
   dialog.setOption(QFileDialog::ShowDirsOnly);
-  // Too long for most title bars, but only where the dialog is Qt's own is there another place.
+  // The prompt is too long for most title bars. Only Qt's own dialog has room for it elsewhere.
   if (auto* grid = qobject_cast<QGridLayout*>(dialog.layout())) {
-    dialog.setWindowTitle(u"Browse for Folder"_s);
+    dialog.setWindowTitle(StorageFoldersPanel::tr("Browse for Folder"));
     grid->addWidget(wrappedLabel(prompt, &dialog), grid->rowCount(), 0, 1, grid->columnCount());
   }
   return dialog.exec() == QDialog::Accepted ? QDir::toNativeSeparators(dialog.selectedFiles().value(0))
@@ -56,28 +60,32 @@ QString chooseFolder(QWidget* parent, const QString& prompt, const QString& star
 
 StorageFoldersPanel::StorageFoldersPanel(const AccountServices& services, FolderChooser chooser,
                                          QWidget* parent)
-    : QGroupBox(u"Storage Folders (Use Network Location to share between Users):"_s, parent),
+    : QGroupBox(tr("Storage Folders (Use Network Location to share between Users):"), parent),
       services_(services),
       chooser_(std::move(chooser)) {
   setObjectName(u"foldersPanel"_s);
   auto* column = new QVBoxLayout(this);
   Settings& settings = services_.settings;
-  addFolder(*column,
-            {u"Contacts"_s, u"&Contacts Folder: "_s, [&settings] { return settings.contactsFolder(); },
-             [&settings](const QString& path) { settings.setContactsFolder(path); }});
-  addFolder(*column,
-            {u"Templates"_s, u"&Templates Folder:"_s, [&settings] { return settings.templatesFolder(); },
-             [&settings](const QString& path) { settings.setTemplatesFolder(path); }});
+  addFolder(*column, {.objectName = u"contacts"_s,
+                      .content = tr("Contacts"),
+                      .label = tr("&Contacts Folder: "),
+                      .read = [&settings] { return settings.contactsFolder(); },
+                      .write = [&settings](const QString& path) { settings.setContactsFolder(path); }});
+  addFolder(*column, {.objectName = u"templates"_s,
+                      .content = tr("Templates"),
+                      .label = tr("&Templates Folder:"),
+                      .read = [&settings] { return settings.templatesFolder(); },
+                      .write = [&settings](const QString& path) { settings.setTemplatesFolder(path); }});
   column->addStretch(1);
 }
 
 void StorageFoldersPanel::addFolder(QVBoxLayout& column, const Folder& folder) {
-  auto* path = readOnlyField(folder.what.toLower() + u"Folder"_s, this);
+  auto* path = readOnlyField(folder.objectName + u"Folder"_s, this);
   showPath(*path, folder.read());
   auto* browse = new PictureButton(u"..."_s, this);
-  browse->setObjectName(folder.what.toLower() + u"BrowseButton"_s);
+  browse->setObjectName(folder.objectName + u"BrowseButton"_s);
   browse->setFixedWidth(dialogUnits(*this, 20, 14).width());
-  browse->setToolTip(u"Choose the folder for %1"_s.arg(folder.what));
+  browse->setToolTip(tr("Choose the folder for %1").arg(folder.content));
   browse->setAccessibleName(browse->toolTip());
   connect(browse, &PictureButton::clicked, this, [this, folder, path] { choose(folder, *path); });
   column.addWidget(labelFor(path, folder.label));
@@ -88,11 +96,11 @@ void StorageFoldersPanel::addFolder(QVBoxLayout& column, const Folder& folder) {
 }
 
 void StorageFoldersPanel::choose(const Folder& folder, QLineEdit& path) {
-  const QString chosen = chooser_(window(), promptFor(folder.what), path.text());
+  const QString chosen = chooser_(window(), promptFor(folder.content), path.text());
   if (chosen.isEmpty()) return;
   showPath(path, chosen);
   folder.write(chosen);
-  services_.notifier.warning(warningFor(folder.what));
+  services_.notifier.warning(warningFor(folder.content));
 }
 
 }  // namespace parlexo

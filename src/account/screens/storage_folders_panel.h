@@ -13,14 +13,15 @@ class QVBoxLayout;
 
 namespace parlexo {
 
-/// Lets the user choose a folder, beginning at `start`; empty when none was chosen. Replaced in tests.
+/// Asks the user for a folder, starting at `start`. Returns an empty string if the user cancelled.
+/// Replaceable for tests.
 using FolderChooser = std::function<QString(QWidget* parent, const QString& prompt, const QString& start)>;
 
-/// The system's dialog for choosing a folder.
+/// Asks for a folder with the system's dialog.
 [[nodiscard]] QString chooseFolder(QWidget* parent, const QString& prompt, const QString& start);
 
-/// The part of the settings page for the folders of contacts and templates. A folder that the user chooses
-/// is remembered at once and used from the next start on.
+/// The section of the settings page for the contacts and templates folders. A new folder is saved to the
+/// settings immediately and used from the next start on.
 class StorageFoldersPanel final : public QGroupBox {
   Q_OBJECT
 
@@ -29,9 +30,9 @@ class StorageFoldersPanel final : public QGroupBox {
   StorageFoldersPanel(const AccountServices& services, FolderChooser chooser, QWidget* parent = nullptr);
 
  private:
-  /// One of the two folders; `what` is its name in the texts.
   struct Folder {
-    QString what;
+    QString objectName;  ///< prefix of the object names of its controls
+    QString content;     ///< translated, for messages
     QString label;
     std::function<QString()> read;
     std::function<void(const QString&)> write;

@@ -9,14 +9,13 @@ class Notifier;
 class Progress;
 class Settings;
 
-/// What the address book's page and dialogs work with. The application owns it all and keeps it alive
-/// longer than any page.
+/// The objects used by the address book's page and dialogs. Owned by the application, which outlives them.
 struct AddressBookServices {
   AddressBook& book;
   Notifier& notifier;
   Progress& progress;
   Settings& settings;
-  CallRunner& runner;  ///< for reading files that others may hold or that are large
+  CallRunner& runner;  ///< for reading large files and files on slow folders
 };
 
 }  // namespace parlexo

@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "addressbook/core/contact_export.h"
 
+#include <QCoreApplication>
 #include <QLatin1String>
 #include <QStringList>
 
+#include "addressbook/core/contact_selection.h"
 #include "addressbook/core/import_columns.h"
-#include "addressbook/core/name_order.h"
 #include "contacts/address_book.h"
 
 namespace parlexo {
@@ -21,7 +22,7 @@ constexpr ImportField exportedFields[] = {
 
 QStringList exportHeadings() {
   QStringList headings;
-  for (const ImportField field : exportedFields) headings.append(fieldLabel(field));
+  for (const ImportField field : exportedFields) headings.append(fieldHeading(field));
   return headings;
 }
 
@@ -47,9 +48,9 @@ QString exportName(const ContactFolder& folder) {
     case ContactFolder::Kind::AllContacts:
       return QLatin1String(allContactsName);
     case ContactFolder::Kind::Letter:
-      return u"Contacts "_s + folder.name;
+      return QCoreApplication::translate("ContactExport", "Contacts %1").arg(folder.name);
     case ContactFolder::Kind::Other:
-      return u"Contacts Other"_s;
+      return QCoreApplication::translate("ContactExport", "Contacts Other");
     case ContactFolder::Kind::Group:
       break;
   }

@@ -3,18 +3,18 @@
 
 #include <QString>
 
-#include "addressbook/core/contact_folder.h"
+#include "addressbook/core/contact_index.h"
 #include "addressbook/core/contact_selection.h"
 #include "base/csv_writer.h"
 
 namespace parlexo {
 
-/// The contacts as a table with all their fields and the headings that the import knows, so that it reads
-/// them back unchanged.
+/// Returns a table of the contacts with all fields and with headings that the import recognises. An import
+/// reads the contacts back unchanged.
 [[nodiscard]] CsvWriter contactsAsCsv(const ContactSelection::Contacts& contacts);
 
-/// What a file with the contacts of `folder` is best called: its name, with "_" for every character that no
-/// file system likes.
+/// Returns the suggested name of a file with the contacts of `folder`, without extension. Replaces characters
+/// that file systems don't support by "_".
 [[nodiscard]] QString exportName(const ContactFolder& folder);
 
 }  // namespace parlexo

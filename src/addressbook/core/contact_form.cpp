@@ -17,7 +17,7 @@ namespace {
 
 using Field = ContactProblem::Field;
 
-// Blanks inside or around a number make it a wrong one: only a match of the whole value counts.
+// The pattern must match the whole value, including white space.
 bool matchesWhole(const QString& value, const QRegularExpression& pattern) {
   const QRegularExpressionMatch match = pattern.match(value);
   return match.hasMatch() && match.capturedLength() == value.size();
@@ -46,24 +46,24 @@ ContactForm::ContactForm(ContactRecord contact, NameTest isNameTaken)
     : contact_(std::move(contact)), isNameTaken_(std::move(isNameTaken)), isNew_(contact_.name.isEmpty()) {}
 
 bool ContactForm::supportsSms() const {
-  return eligibilityFor(u"SMS")(contact_);
+  return isEligible(contact_, SelectionMode::Sms);
 }
 
 bool ContactForm::supportsMedia() const {
-  return eligibilityFor(u"Media")(contact_);
+  return isEligible(contact_, SelectionMode::Media);
 }
 
-std::optional<ContactProblem> ContactForm::take(const ContactRecord& typed) {
-  takeTexts(typed);
+std::optional<ContactProblem> ContactForm::apply(const ContactRecord& typed) {
+  applyTexts(typed);
   if (auto problem = firstBadValue()) return problem;
   contact_.supportsMedia = typed.supportsMedia;
   contact_.supportsSms = typed.supportsSms;
   if (isNew_ && isNameTaken_(contact_.name))
-    return ContactProblem{Field::Name, u"A contact with this name already exists"_s};
+    return ContactProblem{Field::Name, tr("A contact with this name already exists")};
   return {};
 }
 
-void ContactForm::takeTexts(const ContactRecord& typed) {
+void ContactForm::applyTexts(const ContactRecord& typed) {
   if (isNew_) contact_.name = typed.name.trimmed();
   contact_.fax = typed.fax.trimmed();
   contact_.phone = typed.phone.trimmed();
@@ -72,17 +72,16 @@ void ContactForm::takeTexts(const ContactRecord& typed) {
 }
 
 std::optional<ContactProblem> ContactForm::firstBadValue() const {
-  if (contact_.name.isEmpty()) return ContactProblem{Field::Name, u"No contact name was given."_s};
+  if (contact_.name.isEmpty()) return ContactProblem{Field::Name, tr("No contact name was given.")};
   if (!contact_.email.isEmpty() && !isEmailAddress(contact_.email))
-    return ContactProblem{Field::Email, u"Invalid Email Address"_s};
+    return ContactProblem{Field::Email, tr("Invalid Email Address")};
   if (!contact_.phone.isEmpty() && !isInternationalNumber(contact_.phone))
-    return ContactProblem{Field::Phone,
-                          u"Invalid Phone Number. Ensure that the phone number "
-                          "is in an International format."_s};
+    return ContactProblem{Field::Phone, tr("Invalid Phone Number. Ensure that the phone number "
+                                           "is in an International format.")};
   if (!contact_.fax.isEmpty() && !isInternationalNumber(contact_.fax))
-    return ContactProblem{Field::Fax, u"Invalid Fax Number"_s};
+    return ContactProblem{Field::Fax, tr("Invalid Fax Number")};
   if (contact_.phone.isEmpty() && contact_.fax.isEmpty())
-    return ContactProblem{Field::Phone, u"You must provide a valid phone number or valid fax number. "_s};
+    return ContactProblem{Field::Phone, tr("You must provide a valid phone number or valid fax number. ")};
   return {};
 }
 

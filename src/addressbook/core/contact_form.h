@@ -4,19 +4,20 @@
 #include <functional>
 #include <optional>
 
+#include <QCoreApplication>
 #include <QString>
 
 #include "contacts/contact_record.h"
 
 namespace parlexo {
 
-/// `typed` as a contact can hold it: without control characters, and with "?" for what the code page lacks.
+/// Removes control characters from `typed` and replaces characters that are not in the code page by "?".
 [[nodiscard]] QString asContactText(const QString& typed);
 
-/// Whether the dialog accepts `value` as an e-mail address.
+/// Returns whether `value` is a valid e-mail address.
 [[nodiscard]] bool isEmailAddress(const QString& value);
 
-/// What is wrong with a contact that was typed, and where.
+/// The first invalid field of a contact.
 struct ContactProblem {
   enum class Field { Name, Email, Phone, Fax };
 
@@ -24,29 +25,31 @@ struct ContactProblem {
   QString text;  ///< for the user
 };
 
-/// The rules of entering one contact. It works on a copy, so that nothing reaches the address book before
-/// the dialog was closed with OK.
+/// Validates the contact that the user edits. Works on a copy, which the caller saves when the dialog is
+/// accepted.
 class ContactForm {
+  Q_DECLARE_TR_FUNCTIONS(ContactForm)
+
  public:
   using NameTest = std::function<bool(const QString& name)>;
 
-  /// A contact without a name is a new one, which must not get a name that `isNameTaken` answers with true.
-  /// The name of any other contact is its key and stays.
+  /// A contact without a name is new: the user enters a name, for which `isNameTaken` must return false. The
+  /// name of any other contact is its key and can't be changed.
   ContactForm(ContactRecord contact, NameTest isNameTaken);
 
   [[nodiscard]] bool isNew() const { return isNew_; }
   [[nodiscard]] bool supportsSms() const;
   [[nodiscard]] bool supportsMedia() const;
-  /// What was given, or what take() made of it.
+  /// The contact given, with the values of the last apply().
   [[nodiscard]] const ContactRecord& contact() const { return contact_; }
 
-  /// Takes over what was typed, blanks at both ends trimmed, and then checks it: the values stay also when
-  /// there is a problem. Only the two flags, "Y" or "N", are left alone by a contact with a bad value.
-  /// Returns the first problem, or nothing when the contact is fine.
-  [[nodiscard]] std::optional<ContactProblem> take(const ContactRecord& typed);
+  /// Copies the typed values, trimmed, to the contact and validates them. Invalid values are copied too; the
+  /// two flags are only copied if all values are valid. Returns the first problem, or nullopt if there is
+  /// none.
+  [[nodiscard]] std::optional<ContactProblem> apply(const ContactRecord& typed);
 
  private:
-  void takeTexts(const ContactRecord& typed);
+  void applyTexts(const ContactRecord& typed);
   [[nodiscard]] std::optional<ContactProblem> firstBadValue() const;
 
   ContactRecord contact_;

@@ -3,7 +3,7 @@
 
 #include <vector>
 
-#include <QByteArray>
+#include <QCoreApplication>
 #include <QString>
 #include <QStringList>
 
@@ -14,21 +14,22 @@ namespace parlexo {
 
 class AddressBook;
 class CsvWriter;
+class Notifier;
 
-/// The user's side of an import that is running.
+/// Callbacks of a running import to the user interface.
 class ImportUser {
  public:
   enum class Choice { Overwrite, Skip, Cancel };
   struct Answer {
     Choice choice = Choice::Cancel;
-    bool forAll = false;  ///< Overwrite and Skip then hold for all contacts still to come
+    bool forAll = false;  ///< Overwrite or Skip also applies to all following contacts
   };
 
   virtual ~ImportUser() = default;
 
-  /// Told before every row; false ends the import there.
-  [[nodiscard]] virtual bool goOn(int done, int total) = 0;
-  /// Asked about a contact that the address book has already.
+  /// Called before every row with the number of rows so far. Returns false to cancel the import.
+  [[nodiscard]] virtual bool reportProgress(int done, int total) = 0;
+  /// Asks what to do with a contact that already exists.
   [[nodiscard]] virtual Answer contactExists(const QString& name) = 0;
 
  protected:
@@ -37,51 +38,51 @@ class ImportUser {
   ImportUser& operator=(const ImportUser&) = default;
 };
 
-/// What became of an import.
+/// The result of an import.
 struct ImportOutcome {
+  Q_DECLARE_TR_FUNCTIONS(ImportOutcome)
+
+ public:
   enum class End {
     Complete,
     Cancelled,
-    WriteFailed,  ///< a contact is not saved; the address book has shown why
-    JoinFailed,   ///< a contact is saved, but is not in the plan's group; the address book has shown why
+    WriteFailed,  ///< a contact could not be saved
+    JoinFailed,   ///< a contact was saved, but could not be added to the plan's group
   };
-  struct Refused {
-    int row;  ///< of the sheet
-    QString reason;
-  };
-  struct Remark {
+  struct RowNote {
     int row;  ///< of the sheet
     QString text;
   };
 
   End end = End::Complete;
-  int lastRow = 0;  ///< of the sheet: where an import ended that is not complete
-  int left = 0;     ///< rows that it has not dealt with
+  int lastRow = 0;    ///< of the sheet; where an incomplete import ended
+  int remaining = 0;  ///< rows that were not processed
   int imported = 0;
   int updated = 0;
   int skipped = 0;
-  QStringList names;  ///< of the contacts that were imported or updated
-  std::vector<Refused> refused;
-  std::vector<Remark> remarks;  ///< on rows that were imported, but not with all their values
+  QStringList names;             ///< of the contacts that were imported or updated
+  std::vector<RowNote> refused;  ///< rows that could not be imported, with the reason
+  std::vector<RowNote> remarks;  ///< on rows that were imported without some of their values
 };
 
-/// Why the plan can't work, as the user is told: no column for the name or for a number. Empty when it can.
+/// Returns a message for the user if the plan lacks a column for the name or for a number, otherwise an empty
+/// string.
 [[nodiscard]] QString planProblem(const ImportPlan& plan);
 
-/// Takes the rows of `sheet` into `book` one after the other, each durably, and into the plan's group.
-/// Blank rows count for nothing. What was imported stays, whatever ends the import; what could not be written
-/// is not in memory either, so that the same import can be repeated.
+/// Imports the rows of `sheet` into `book` and the plan's group, saving each contact at once. Ignores blank
+/// rows. Shows a write error through `notifier` and ends the import there. Contacts imported before remain. A
+/// contact that could not be written is removed from memory too, so the import can be repeated.
 [[nodiscard]] ImportOutcome importContacts(const Sheet& sheet, const ImportPlan& plan, AddressBook& book,
-                                           ImportUser& user);
+                                           ImportUser& user, Notifier& notifier);
 
 /// "Importing contacts (3 / 10). Please wait..."
 [[nodiscard]] QString importProgressText(int done, int total);
 
-/// What the user is told at the end.
+/// Returns the closing message.
 [[nodiscard]] QString summaryText(const ImportOutcome& outcome);
 
-/// The refused rows as they stand in the sheet, below its headings, with the reason in a further column: to
-/// be put right and imported again.
+/// Writes the refused rows unchanged, below the sheet's headings, with the reason in an additional column.
+/// The user can correct and import the file.
 void writeRefusedRows(const Sheet& sheet, const ImportPlan& plan, const ImportOutcome& outcome,
                       CsvWriter& file);
 

@@ -3,31 +3,30 @@
 
 #include <utility>
 
-#include "addressbook/core/name_order.h"
-#include "addressbook/core/sorted_book.h"
+#include "addressbook/core/contact_selection.h"
 #include "contacts/address_book.h"
 
 namespace parlexo {
 
 void ContactIndex::read() {
-  forget();
-  contacts_ = sortedContacts(book_, [](const ContactRecord&) { return true; });
-  placeOf_.reserve(contacts_.size());
+  clear();
+  contacts_ = sortedContacts(book_, SelectionMode::All);
+  places_.reserve(contacts_.size());
   for (std::size_t place = 0; place < contacts_.size(); ++place) {
-    placeOf_.emplace(contacts_[place], place);
-    byInitial_[initialOf(contacts_[place]->name)].push_back(contacts_[place]);
+    places_.emplace(contacts_[place], place);
+    byInitial_[initialIndex(contacts_[place]->name)].push_back(contacts_[place]);
   }
 }
 
-void ContactIndex::forget() {
+void ContactIndex::clear() {
   contacts_.clear();
-  placeOf_.clear();
+  places_.clear();
   byInitial_.fill({});
   search_ = {};
   isSearchReady_ = false;
 }
 
-std::size_t ContactIndex::initialOf(const QString& name) {
+std::size_t ContactIndex::initialIndex(const QString& name) {
   const char16_t initial = name.isEmpty() ? u'\0' : name.front().toUpper().unicode();
   return initial >= u'A' && initial <= u'Z' ? static_cast<std::size_t>(initial - u'A') : otherInitial;
 }
@@ -40,21 +39,21 @@ ContactIndex::Contacts ContactIndex::contactsIn(const ContactFolder& folder) con
     case ContactFolder::Kind::Group:
       return members(folder.name);
     case ContactFolder::Kind::Letter:
-      return byInitial_[initialOf(folder.name)];
+      return byInitial_[initialIndex(folder.name)];
     case ContactFolder::Kind::Other:
       return byInitial_[otherInitial];
   }
   Q_UNREACHABLE();
 }
 
-// Marking the members among all contacts brings them in order without a single comparison of names.
+// Selecting the members from the sorted contacts avoids sorting them.
 ContactIndex::Contacts ContactIndex::members(const QString& groupName) const {
   const GroupFile* group = book_.findGroup(groupName);
   if (!group) return {};
   std::vector<bool> isMember(contacts_.size(), false);
   for (const auto& [name, contact] : group->members()) {
-    const auto found = placeOf_.find(contact);
-    if (found != placeOf_.end()) isMember[found->second] = true;
+    const auto found = places_.find(contact);
+    if (found != places_.end()) isMember[found->second] = true;
   }
   Contacts members;
   members.reserve(group->members().size());

@@ -2,10 +2,9 @@
 #include "addressbook/core/contact_selection.h"
 
 #include <algorithm>
-#include <iterator>
 #include <utility>
 
-#include "addressbook/core/name_order.h"
+#include "contacts/address_book.h"
 
 namespace parlexo {
 
@@ -15,30 +14,22 @@ bool isYes(const QString& flag) {
   return flag.compare(QLatin1String("Y"), Qt::CaseInsensitive) == 0;
 }
 
-struct ModeRule {
-  QLatin1String mode;
-  Eligibility isEligible;
-};
-
-constexpr ModeRule modeRules[] = {
-    {QLatin1String("All"), [](const ContactRecord&) { return true; }},
-    {QLatin1String("SMS"), [](const ContactRecord& contact) { return isYes(contact.supportsSms); }},
-    {QLatin1String("Media"), [](const ContactRecord& contact) { return isYes(contact.supportsMedia); }},
-    {QLatin1String("Fax"), [](const ContactRecord& contact) { return !contact.fax.isEmpty(); }},
-    {QLatin1String("Phone"), [](const ContactRecord& contact) { return !contact.phone.isEmpty(); }},
-};
-
 }  // namespace
 
-Eligibility eligibilityFor(QStringView mode) {
-  const auto rule = std::find_if(std::begin(modeRules), std::end(modeRules),
-                                 [mode](const ModeRule& candidate) { return candidate.mode == mode; });
-  if (rule == std::end(modeRules)) return [](const ContactRecord&) { return false; };
-  return rule->isEligible;
-}
-
-bool showsFaxNumbers(QStringView mode) {
-  return mode.compare(QLatin1String("Fax"), Qt::CaseInsensitive) == 0;
+bool isEligible(const ContactRecord& contact, SelectionMode mode) {
+  switch (mode) {
+    case SelectionMode::All:
+      return true;
+    case SelectionMode::Sms:
+      return isYes(contact.supportsSms);
+    case SelectionMode::Media:
+      return isYes(contact.supportsMedia);
+    case SelectionMode::Fax:
+      return !contact.fax.isEmpty();
+    case SelectionMode::Phone:
+      return !contact.phone.isEmpty();
+  }
+  Q_UNREACHABLE();
 }
 
 ContactSelection::ContactSelection(Contacts contacts) : contacts_(std::move(contacts)) {
@@ -47,7 +38,7 @@ ContactSelection::ContactSelection(Contacts contacts) : contacts_(std::move(cont
   contacts_.erase(std::unique(contacts_.begin(), contacts_.end(), sameName), contacts_.end());
 }
 
-ContactSelection ContactSelection::ofSorted(Contacts contacts) {
+ContactSelection ContactSelection::fromSorted(Contacts contacts) {
   ContactSelection selection;
   selection.contacts_ = std::move(contacts);
   return selection;
@@ -59,6 +50,23 @@ bool ContactSelection::contains(const QString& name) const {
   };
   const auto found = std::lower_bound(contacts_.begin(), contacts_.end(), NameKey(name), before);
   return found != contacts_.end() && (*found)->name == name;
+}
+
+ContactSelection::Contacts sortedContacts(const AddressBook& book, SelectionMode mode) {
+  ContactSelection::Contacts contacts;
+  contacts.reserve(book.contacts().size());
+  for (const auto& [name, contact] : book.contacts()) {
+    if (isEligible(contact, mode)) contacts.push_back(&contact);
+  }
+  sortByName(contacts, [](const ContactRecord* contact) { return contact->name; });
+  return contacts;
+}
+
+std::vector<const GroupFile*> sortedGroups(const AddressBook& book) {
+  std::vector<const GroupFile*> groups;
+  for (const auto& [name, group] : book.groups()) groups.push_back(&group);
+  sortByName(groups, [](const GroupFile* group) { return group->name(); });
+  return groups;
 }
 
 }  // namespace parlexo

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "addressbook/core/contacts_flow.h"
 
+#include <set>
+
 #include <QLatin1String>
 
 #include "base/notifier.h"
@@ -14,16 +16,18 @@ using namespace Qt::StringLiterals;
 namespace {
 
 QString membershipText() {
-  return u"Adding/removing contacts in Group..."_s;
+  return ContactsFlow::tr("Adding/removing contacts in Group...");
 }
 
 QString deletionQuestion(const ContactFolder& folder, int count) {
-  QString question = folder.isGroup()
-                         ? u"Are you sure you want to remove this contact from the selected Group?"_s
-                         : u"Are you sure you want to delete this contact completely from your Address Book "
-                           "and all groups?"_s;
+  QString question =
+      folder.isGroup()
+          ? ContactsFlow::tr("Are you sure you want to remove this contact from the selected Group?")
+          : ContactsFlow::tr(
+                "Are you sure you want to delete this contact completely from your Address Book "
+                "and all groups?");
   if (count == 1) return question;
-  return question + u"\n\n(%1 contacts are selected.)"_s.arg(count);
+  return question + u"\n\n"_s + ContactsFlow::tr("(%1 contacts are selected.)").arg(count);
 }
 
 bool canBeDeleted(const ContactFolder& folder) {
@@ -32,74 +36,90 @@ bool canBeDeleted(const ContactFolder& folder) {
 
 }  // namespace
 
+/// Shows the errors of one action, each kind once, because many writes may fail for the same reason.
+class ContactsFlow::ErrorReport {
+ public:
+  explicit ErrorReport(Notifier& notifier) : notifier_(notifier) {}
+
+  void add(const StoreResult& result) {
+    for (const StoreError& error : result.errors())
+      if (shown_.insert(error.operation).second) showError(error, notifier_);
+  }
+
+ private:
+  Notifier& notifier_;
+  std::set<StoreError::Operation> shown_;
+};
+
 bool ContactsFlow::acceptsNewContact(const ContactFolder& folder) const {
   if (folder.isGroup()) return true;
   services_.notifier.error(
-      u"You must select a \"Group\" or \"My Personal Contacts\" Folder. Contacts can only be "
-      "added into these Folders."_s);
+      tr("You must select a \"Group\" or \"My Personal Contacts\" Folder. Contacts can only be "
+         "added into these Folders."));
   return false;
 }
 
 bool ContactsFlow::acceptsImport(const ContactFolder& folder) const {
   if (folder.isGroup()) return true;
   services_.notifier.error(
-      u"You must select a \"Group\" or \"My Personal Contacts\" Folder. Contacts can only be "
-      "imported into these Folders."_s);
+      tr("You must select a \"Group\" or \"My Personal Contacts\" Folder. Contacts can only be "
+         "imported into these Folders."));
   return false;
 }
 
 bool ContactsFlow::hasProperties(const ContactFolder& folder) const {
   if (folder.isGroup()) return true;
-  services_.notifier.information(u"Can only get properties on \"Group\" folders."_s);
+  services_.notifier.information(tr("Can only get properties on \"Group\" folders."));
   return false;
 }
 
 void ContactsFlow::addContact(const ContactRecord& contact, const QString& group) const {
-  services_.book.saveContact(contact);
+  ErrorReport report(services_.notifier);
+  report.add(services_.book.saveContact(contact));
   const ProgressScope progress(services_.progress, membershipText());
-  services_.book.addMember(group, contact.name);
+  report.add(services_.book.addMember(group, contact.name));
 }
 
 void ContactsFlow::changeContact(const QString& oldName, const ContactRecord& contact) const {
-  const AddressBook::MessagesOnce once(services_.book);
-  services_.book.renameContact(oldName, contact);
+  ErrorReport(services_.notifier).add(services_.book.renameContact(oldName, contact));
 }
 
 void ContactsFlow::saveGroup(const GroupChanges& changes) const {
-  const AddressBook::MessagesOnce once(services_.book);
+  ErrorReport report(services_.notifier);
   if (changes.isNew) {
-    const ProgressScope progress(services_.progress, u"Creating the Group..."_s);
-    saveContacts(changes);
-    services_.book.createGroup(changes.group);
-    changeMembers(changes);
+    const ProgressScope progress(services_.progress, tr("Creating the Group..."));
+    saveContacts(changes, report);
+    report.add(services_.book.createGroup(changes.group));
+    changeMembers(changes, report);
     return;
   }
   if (changes.added.isEmpty() && changes.removed.isEmpty()) {
-    saveContacts(changes);
+    saveContacts(changes, report);
     return;
   }
   const ProgressScope progress(services_.progress, membershipText());
-  saveContacts(changes);
-  changeMembers(changes);
+  saveContacts(changes, report);
+  changeMembers(changes, report);
 }
 
-void ContactsFlow::saveContacts(const GroupChanges& changes) const {
+void ContactsFlow::saveContacts(const GroupChanges& changes, ErrorReport& report) const {
   for (const ContactRecord& contact : changes.contacts)
-    services_.book.renameContact(contact.name == changes.newName ? QString() : contact.name, contact);
+    report.add(
+        services_.book.renameContact(contact.name == changes.newName ? QString() : contact.name, contact));
 }
 
-void ContactsFlow::changeMembers(const GroupChanges& changes) const {
+void ContactsFlow::changeMembers(const GroupChanges& changes, ErrorReport& report) const {
   for (const QString& name : changes.added) {
-    keepAlive();
-    services_.book.addMember(changes.group, name);
+    refreshProgress();
+    report.add(services_.book.addMember(changes.group, name));
   }
   for (const QString& name : changes.removed) {
-    keepAlive();
-    services_.book.removeMember(changes.group, name);
+    refreshProgress();
+    report.add(services_.book.removeMember(changes.group, name));
   }
 }
 
-void ContactsFlow::keepAlive() const {
+void ContactsFlow::refreshProgress() const {
   services_.progress.setText(services_.progress.text());
 }
 
@@ -108,32 +128,32 @@ bool ContactsFlow::confirmDeletion(const ContactFolder& folder, int count) const
 }
 
 void ContactsFlow::deleteContacts(const ContactFolder& folder, const QStringList& names) const {
-  const AddressBook::MessagesOnce once(services_.book);
+  ErrorReport report(services_.notifier);
   if (folder.isGroup()) {
     const ProgressScope progress(services_.progress, membershipText());
-    changeMembers({folder.name, false, {}, {}, names});
+    changeMembers({.group = folder.name, .removed = names}, report);
     return;
   }
-  const ProgressScope progress(services_.progress, u"Deleting the contacts..."_s);
+  const ProgressScope progress(services_.progress, tr("Deleting the contacts..."));
   for (const QString& name : names) {
-    keepAlive();
-    services_.book.deleteContact(name);
+    refreshProgress();
+    report.add(services_.book.deleteContact(name));
   }
 }
 
 bool ContactsFlow::confirmGroupDeletion(const ContactFolder& folder) const {
   if (!canBeDeleted(folder)) {
     services_.notifier.error(
-        u"Select a \"Group\" Folder that you wish to delete. You can only delete Groups that "
-        "you created."_s);
+        tr("Select a \"Group\" Folder that you wish to delete. You can only delete Groups that "
+           "you created."));
     return false;
   }
-  return services_.notifier.confirm(u"Are you sure you want to delete this group from your Address Book?"_s);
+  return services_.notifier.confirm(tr("Are you sure you want to delete this group from your Address Book?"));
 }
 
 void ContactsFlow::deleteGroup(const QString& group) const {
-  const ProgressScope progress(services_.progress, u"Deleting the Group..."_s);
-  services_.book.deleteGroup(group);
+  const ProgressScope progress(services_.progress, tr("Deleting the Group..."));
+  ErrorReport(services_.notifier).add(services_.book.deleteGroup(group));
 }
 
 }  // namespace parlexo

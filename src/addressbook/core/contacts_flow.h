@@ -1,51 +1,57 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QCoreApplication>
 #include <QString>
 #include <QStringList>
 
 #include "addressbook/core/addressbook_services.h"
-#include "addressbook/core/contact_folder.h"
+#include "addressbook/core/contact_index.h"
 #include "addressbook/core/group_draft.h"
 #include "contacts/contact_record.h"
 
 namespace parlexo {
 
-/// What can be done with contacts and groups, in which folder, after which question and under which text of
-/// the progress box. Every write is tried, whatever became of those before; the book in memory follows the
-/// user even where its files could not, and tells a failure once per action.
+/// The user's actions on contacts and groups: the folders that allow them, their confirmation questions and
+/// progress texts. A failed write does not prevent the following ones. Memory follows the user even where the
+/// files could not be written. Each kind of error is shown once per action.
 class ContactsFlow {
+  Q_DECLARE_TR_FUNCTIONS(ContactsFlow)
+
  public:
   explicit ContactsFlow(const AddressBookServices& services) : services_(services) {}
 
-  /// Each asks whether `folder` is one for the purpose, and tells the user when it is not.
+  /// Each returns whether `folder` supports the action, and shows a message if not.
   [[nodiscard]] bool acceptsNewContact(const ContactFolder& folder) const;
   [[nodiscard]] bool acceptsImport(const ContactFolder& folder) const;
   [[nodiscard]] bool hasProperties(const ContactFolder& folder) const;
 
-  /// Saves a new contact and makes it a member of the group.
+  /// Saves a new contact and adds it to the group.
   void addContact(const ContactRecord& contact, const QString& group) const;
-  /// Saves the contact that was called `oldName`. Only one without a name can have got another one; it stays
-  /// in its groups.
+  /// Saves the contact that was named `oldName`. The name can only have changed if it was empty. The contact
+  /// stays in its groups.
   void changeContact(const QString& oldName, const ContactRecord& contact) const;
-  /// Writes what the user made of a group.
+  /// Saves a new or edited group.
   void saveGroup(const GroupChanges& changes) const;
 
-  /// Asks before `count` contacts, at least one, are deleted in `folder`: in a group they only leave the
-  /// group, anywhere else they are deleted completely.
+  /// Asks whether `count` contacts, at least one, may be deleted in `folder`: removed from a group, or
+  /// deleted completely in any other folder. Returns true for yes.
   [[nodiscard]] bool confirmDeletion(const ContactFolder& folder, int count) const;
-  /// Carries that out. The names must not lie in records or groups of the book, which go meanwhile.
+  /// Deletes them. `names` must not refer to strings owned by the address book.
   void deleteContacts(const ContactFolder& folder, const QStringList& names) const;
 
-  /// Asks before the folder's group is deleted. False also where there is none to delete, after a message.
+  /// Asks whether the folder's group may be deleted. Shows a message and returns false if it can't be
+  /// deleted.
   [[nodiscard]] bool confirmGroupDeletion(const ContactFolder& folder) const;
   void deleteGroup(const QString& group) const;
 
  private:
-  void saveContacts(const GroupChanges& changes) const;
-  void changeMembers(const GroupChanges& changes) const;
-  /// Lets the progress box live on between two writes.
-  void keepAlive() const;
+  class ErrorReport;
+
+  void saveContacts(const GroupChanges& changes, ErrorReport& report) const;
+  void changeMembers(const GroupChanges& changes, ErrorReport& report) const;
+  /// Repaints the progress box between two writes.
+  void refreshProgress() const;
 
   AddressBookServices services_;
 };

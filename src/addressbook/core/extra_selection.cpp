@@ -3,52 +3,40 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <vector>
 
-#include "addressbook/core/name_order.h"
+#include <QCoreApplication>
+
+#include "addressbook/core/contact_selection.h"
 #include "contacts/address_book.h"
 
 namespace parlexo {
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
-/// Collects the values of one Extra field.
-class ValueCollector {
- public:
-  void add(const QString& value) {
-    if (value.isEmpty()) return;
-    // Most contacts share few spellings: those are found without folding again.
-    if (spellings_.contains(value)) return;
-    spellings_.insert(value);
-    const QString folded = value.toCaseFolded();
-    if (folded_.contains(folded)) return;
-    folded_.insert(folded);
-    values_.push_back(value);
+QStringList distinctValues(const AddressBook& book, std::size_t field) {
+  QSet<QString> spellings;
+  QSet<QString> folded;
+  std::vector<QString> values;
+  for (const auto& [name, contact] : book.contacts()) {
+    const QString& value = contact.extra[field];
+    // Most contacts share a few spellings. Finding those first avoids folding them again.
+    if (value.isEmpty() || spellings.contains(value)) continue;
+    spellings.insert(value);
+    const QString foldedValue = value.toCaseFolded();
+    if (folded.contains(foldedValue)) continue;
+    folded.insert(foldedValue);
+    values.push_back(value);
   }
-
-  [[nodiscard]] QStringList sorted() {
-    sortByName(values_, [](const QString& value) { return value; });
-    return {values_.begin(), values_.end()};
-  }
-
- private:
-  QSet<QString> spellings_;
-  QSet<QString> folded_;
-  std::vector<QString> values_;
-};
+  sortByName(values, [](const QString& value) { return value; });
+  return {values.begin(), values.end()};
+}
 
 }  // namespace
 
 ExtraValues distinctExtraValues(const AddressBook& book) {
-  std::array<ValueCollector, ContactRecord::extraCount> collectors;
-  for (const auto& [name, contact] : book.contacts()) {
-    for (std::size_t field = 0; field < collectors.size(); ++field)
-      collectors[field].add(contact.extra[field]);
-  }
   ExtraValues values;
-  std::transform(collectors.begin(), collectors.end(), values.begin(),
-                 [](ValueCollector& collector) { return collector.sorted(); });
+  for (std::size_t field = 0; field < values.size(); ++field) values[field] = distinctValues(book, field);
   return values;
 }
 
@@ -73,7 +61,9 @@ ContactSelection::Contacts contactsMatching(const AddressBook& book, const Extra
 }
 
 QString nothingChosenText() {
-  return u"You have not selected one or more Extra properties you would like to filter your Contacts on."_s;
+  return QCoreApplication::translate(
+      "ExtraSelection",
+      "You have not selected one or more Extra properties you would like to filter your Contacts on.");
 }
 
 }  // namespace parlexo

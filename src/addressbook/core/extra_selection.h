@@ -14,28 +14,28 @@ namespace parlexo {
 
 class AddressBook;
 
-/// What can be chosen for each Extra field, as six sorted lists.
+/// The available values of each Extra field, sorted.
 using ExtraValues = std::array<QStringList, ContactRecord::extraCount>;
 
-/// What the user has chosen for each Extra field; an empty set leaves its field untested.
+/// The values chosen for each Extra field. A field with an empty set is not tested.
 using ExtraChoice = std::array<QSet<QString>, ContactRecord::extraCount>;
 
-/// The distinct values of every Extra field over all contacts of `book`, empty ones left out. Values that
-/// differ only in case count as one, and the spelling met first stands for them.
+/// Returns the distinct non-empty values of each Extra field of all contacts in `book`. Of values that differ
+/// only in case, the first spelling found is used.
 [[nodiscard]] ExtraValues distinctExtraValues(const AddressBook& book);
 
-/// Whether the user has chosen anything at all.
+/// Returns whether any value is chosen.
 [[nodiscard]] bool hasChoice(const ExtraChoice& choice);
 
-/// Whether `contact` has, in every field with a choice, one of the chosen values. Here case counts, unlike
-/// in distinctExtraValues(): a value that was not listed because of its case can't be chosen. Existing
-/// contact lists are kept in step with that, so it must stay.
+/// Returns whether `contact` has one of the chosen values in every field with a choice. The comparison is
+/// case-sensitive, unlike distinctExtraValues(), so a spelling that is not listed can't be matched. Users
+/// rely on this in existing address books.
 [[nodiscard]] bool matchesChoice(const ContactRecord& contact, const ExtraChoice& choice);
 
-/// All contacts of `book` that match, in the order in which the book gives them.
+/// Returns all matching contacts of `book`, unsorted.
 [[nodiscard]] ContactSelection::Contacts contactsMatching(const AddressBook& book, const ExtraChoice& choice);
 
-/// What the user is told who asks for contacts without choosing a value.
+/// The message if the user has not chosen any value.
 [[nodiscard]] QString nothingChosenText();
 
 }  // namespace parlexo

@@ -7,13 +7,11 @@
 #include <QLatin1String>
 #include <QSet>
 
-#include "addressbook/core/name_order.h"
+#include "addressbook/core/contact_selection.h"
 #include "contacts/address_book.h"
-#include "contacts/group_file_name.h"
+#include "contacts/contact_file_format.h"
 
 namespace parlexo {
-
-using namespace Qt::StringLiterals;
 
 GroupDraft::GroupDraft(const AddressBook& book, const std::optional<QString>& name)
     : book_(book), isNew_(!name), name_(name.value_or(QString())) {
@@ -38,7 +36,7 @@ ContactSelection GroupDraft::selection() const {
   Contacts picked;
   for (const ContactRecord* member : members_)
     if (const ContactRecord* contact = book_.findContact(member->name)) picked.push_back(contact);
-  return ContactSelection::ofSorted(std::move(picked));
+  return ContactSelection::fromSorted(std::move(picked));
 }
 
 bool GroupDraft::isContactNameTaken(const QString& name) const {
@@ -62,11 +60,12 @@ void GroupDraft::remove(const QStringList& names) {
 }
 
 void GroupDraft::put(const ContactRecord& contact) {
-  const ContactRecord& kept = pending_[contact.name] = contact;
+  const ContactRecord& saved = pending_[contact.name] = contact;
   Contacts members = std::move(members_);
-  std::erase_if(
-      members, [&kept](const ContactRecord* member) { return member == &kept || member->name == kept.name; });
-  members.push_back(&kept);
+  std::erase_if(members, [&saved](const ContactRecord* member) {
+    return member == &saved || member->name == saved.name;
+  });
+  members.push_back(&saved);
   setMembers(std::move(members));
 }
 
@@ -76,15 +75,15 @@ void GroupDraft::putNameless(const ContactRecord& contact) {
   put(contact);
 }
 
-QString GroupDraft::takeName(const QString& typed) {
+QString GroupDraft::setName(const QString& typed) {
   if (!isNew_) return {};
   name_ = typed.trimmed();
-  if (name_.isEmpty()) return u"Group name cannot be blank"_s;
-  if (isNameInUse(name_)) return u"A group with this name already exists."_s;
+  if (name_.isEmpty()) return tr("Group name cannot be blank");
+  if (isNameInUse(name_)) return tr("A group with this name already exists.");
   return {};
 }
 
-// Where file names know no case, groups whose names differ in nothing else would share a file.
+// Groups whose names differ only in case would share a file on a case-insensitive file system.
 bool GroupDraft::isNameInUse(const QString& name) const {
   const auto isSame = [&name](const QString& other) { return name.compare(other, Qt::CaseInsensitive) == 0; };
   return isSame(QLatin1String(allContactsName)) ||
@@ -97,11 +96,11 @@ std::optional<UnstableGroupName> GroupDraft::unstableName(const QString& typed) 
   const QString afterRestart = groupNameAfterRestart(name);
   if (!isNew_ || afterRestart == name) return std::nullopt;
   const auto different = std::mismatch(name.begin(), name.end(), afterRestart.begin(), afterRestart.end());
-  return UnstableGroupName{afterRestart, groupNameThatStays(name), different.first - name.begin()};
+  return UnstableGroupName{afterRestart, stableGroupName(name), different.first - name.begin()};
 }
 
 GroupChanges GroupDraft::changes() const {
-  GroupChanges changes{name_, isNew_, {}, {}, {}, newName_};
+  GroupChanges changes{.group = name_, .isNew = isNew_, .newName = newName_};
   for (const auto& [name, contact] : pending_) changes.contacts.push_back(contact);
   sortByName(changes.contacts, [](const ContactRecord& contact) { return contact.name; });
   const GroupFile* before = isNew_ ? nullptr : book_.findGroup(name_);

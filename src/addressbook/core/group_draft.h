@@ -5,6 +5,7 @@
 #include <unordered_map>
 #include <vector>
 
+#include <QCoreApplication>
 #include <QHashFunctions>  // std::hash of QString
 #include <QString>
 #include <QStringList>
@@ -16,57 +17,60 @@ namespace parlexo {
 
 class AddressBook;
 
-/// What has to be written so that a group becomes what the user made of it.
+/// The changes to save after the user has edited a group.
 struct GroupChanges {
   QString group;
-  bool isNew = false;                   ///< the group has to be created
-  std::vector<ContactRecord> contacts;  ///< new or changed ones, to be saved first
-  QStringList added;                    ///< contacts that become members
-  QStringList removed;                  ///< members that leave
-  /// The name given to the contact that had none, which is among `contacts`; empty when none was given.
+  bool isNew = false;                        ///< the group must be created
+  std::vector<ContactRecord> contacts = {};  ///< new or changed contacts, to be saved first
+  QStringList added = {};                    ///< names of new members
+  QStringList removed = {};                  ///< names of removed members
+  /// The new name of the contact without a name, which is among `contacts`; empty if it has not got one.
   QString newName = {};
 };
 
-/// A name for a new group that would be another one after the next start of the program.
+/// A name for a new group that would be different after a restart of the program, because its file name
+/// decodes to another name.
 struct UnstableGroupName {
   QString afterRestart;
-  QString suggestion;   ///< a similar name that stays
-  qsizetype place = 0;  ///< of the first character that would be another one
+  QString suggestion;   ///< a similar stable name
+  qsizetype place = 0;  ///< position of the first different character
 };
 
-/// A group while it is being edited: members come and go, contacts are created and changed, and nothing of
-/// it is in the address book before changes() are written. The book must outlive the draft and stay as it is.
+/// A group being edited, with its new and changed contacts. The address book is not changed until the caller
+/// saves changes(). It must outlive the draft and must not change in between.
 class GroupDraft {
+  Q_DECLARE_TR_FUNCTIONS(GroupDraft)
+
  public:
   using Contacts = ContactSelection::Contacts;
 
-  /// Without a `name` a new group, otherwise the group of `book` with this name, which may be empty.
+  /// Edits the group of `book` with this name, which may be empty, or a new group for nullopt.
   GroupDraft(const AddressBook& book, const std::optional<QString>& name);
 
   [[nodiscard]] bool isNew() const { return isNew_; }
   [[nodiscard]] const QString& name() const { return name_; }
-  /// The members by name; the records are good until the next change.
+  /// The members, sorted by name. The pointers are valid until the next change.
   [[nodiscard]] const Contacts& members() const { return members_; }
-  /// The members as far as they are contacts of the address book.
+  /// The members that are contacts of the address book.
   [[nodiscard]] ContactSelection selection() const;
-  /// Whether a new contact would meet another one of this name.
+  /// Whether a contact with this name exists in the address book or the draft.
   [[nodiscard]] bool isContactNameTaken(const QString& name) const;
 
-  /// Makes the picked contacts the members, and keeps those that are yet to be created.
+  /// Replaces the members by `picked`, except for new contacts, which remain members.
   void setSelection(const ContactSelection& picked);
-  /// Takes members out. A contact that was created here is dropped as a whole.
+  /// Removes members. A contact created in this draft is discarded.
   void remove(const QStringList& names);
-  /// Takes a new contact in, or the changed values of a member.
+  /// Adds a new contact, or replaces the values of a member.
   void put(const ContactRecord& contact);
-  /// Takes the changed values of the member without a name, a name among them.
+  /// Replaces the values of the member without a name, including the name.
   void putNameless(const ContactRecord& contact);
 
-  /// Gives the group the name that was typed, blanks at both ends trimmed. Returns what is wrong with it, or
-  /// an empty text. The name of a group that exists is not looked at: it stays.
-  [[nodiscard]] QString takeName(const QString& typed);
+  /// Sets the name of a new group, trimmed. Returns a message for the user if it is invalid, otherwise an
+  /// empty string. No-op for an existing group.
+  [[nodiscard]] QString setName(const QString& typed);
 
-  /// Whether a new group can't keep the name that was typed, blanks at both ends trimmed. The name of an
-  /// existing group is never unstable.
+  /// Returns details if the name typed for a new group, trimmed, would change after a restart. Always nullopt
+  /// for an existing group.
   [[nodiscard]] std::optional<UnstableGroupName> unstableName(const QString& typed) const;
 
   [[nodiscard]] GroupChanges changes() const;
@@ -80,7 +84,7 @@ class GroupDraft {
   bool isNew_;
   QString name_;
   std::unordered_map<QString, ContactRecord> pending_;  // new and changed contacts
-  QString newName_;                                     // of the contact without a name
+  QString newName_;                                     // the new name of the contact without a name
   Contacts members_;
 };
 

@@ -11,7 +11,7 @@
 
 namespace parlexo {
 
-/// What a column of an imported file becomes.
+/// The contact field to which a column of an imported file is mapped.
 enum class ImportField {
   Nothing,
   Name,
@@ -31,20 +31,24 @@ enum class ImportField {
   SupportsMedia,
 };
 
-/// One field a column.
+/// The field of each column.
 using ImportColumns = std::vector<ImportField>;
 
-/// All fields, in the order in which the user is offered them.
+/// All fields, in the order in which they are offered to the user.
 [[nodiscard]] const std::vector<ImportField>& importFields();
+
+/// The field's heading in exported files. Not translated, because the import must recognise it.
+[[nodiscard]] QString fieldHeading(ImportField field);
 
 /// The field's name for the user.
 [[nodiscard]] QString fieldLabel(ImportField field);
 
-/// The row that seems to hold headings, perhaps below title rows; nullopt when the first row is a contact.
+/// Returns the row that probably contains headings, possibly below title rows, or nullopt if the first row is
+/// a contact.
 [[nodiscard]] std::optional<int> findHeadingRow(const Sheet& sheet);
 
-/// The fields that the headings in that row name; without one, the fields that the first columns are likely
-/// to hold. No field comes twice.
+/// Returns the fields according to the headings in `headingRow`. Without a heading row, guesses name and
+/// phone number from the first row. No field occurs twice.
 [[nodiscard]] ImportColumns suggestColumns(const Sheet& sheet, std::optional<int> headingRow);
 
 }  // namespace parlexo

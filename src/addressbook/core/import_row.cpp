@@ -17,8 +17,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// A cell as a field of a contact can hold it: one line of composed characters. Invisible marks, blanks and
-/// dashes that the code page lacks are removed or replaced before they could become "?".
+/// Converts a cell to the text of a contact's field: one line of composed characters. Removes or replaces
+/// invisible marks, spaces and dashes that are not in the code page, which would become "?" otherwise.
 QString fieldText(QStringView cell) {
   QString text;
   for (const QChar c : cell.toString().normalized(QString::NormalizationForm_C)) {
@@ -45,7 +45,7 @@ struct RowTexts {
   }
 };
 
-RowTexts textsOf(const Sheet& sheet, int row, const ImportColumns& columns) {
+RowTexts readTexts(const Sheet& sheet, int row, const ImportColumns& columns) {
   RowTexts texts;
   for (std::size_t column = 0; column < columns.size(); ++column)
     if (columns[column] != ImportField::Nothing)
@@ -54,9 +54,9 @@ RowTexts textsOf(const Sheet& sheet, int row, const ImportColumns& columns) {
   return texts;
 }
 
-QString nameOf(const RowTexts& texts, const ImportPlan& plan) {
+QString contactName(const RowTexts& texts, const ImportPlan& plan) {
   const QString& whole = texts[ImportField::Name];
-  // Beside first names in a column of their own, "Name" is the full name.
+  // If there is a column of first names, "Name" is the full name.
   const bool isFull = !whole.isEmpty() && plan.maps(ImportField::FirstName);
   QString name = whole.isEmpty() ? texts[ImportField::FirstName] : whole;
   if (!isFull && !texts[ImportField::Surname].isEmpty()) {
@@ -68,8 +68,8 @@ QString nameOf(const RowTexts& texts, const ImportPlan& plan) {
   return name;
 }
 
-/// "Y" or "N" where the cell says it, else empty.
-QString flagOf(const QString& text) {
+/// Returns "Y" or "N", or an empty string for anything else.
+QString parseFlag(const QString& text) {
   for (const char* yes : {"y", "yes", "true", "1", "x"})
     if (text.compare(QLatin1String(yes), Qt::CaseInsensitive) == 0) return u"Y"_s;
   for (const char* no : {"n", "no", "false", "0"})
@@ -78,34 +78,37 @@ QString flagOf(const QString& text) {
 }
 
 QString nameRefusal(const QString& name) {
-  if (name.isEmpty()) return u"The row has no name."_s;
-  if (!fitsCodePage(name)) return u"The name \"%1\" has characters that can't be stored."_s.arg(name);
-  // Another program has lost them already: such names would all look alike.
+  if (name.isEmpty()) return ImportRow::tr("The row has no name.");
+  if (!fitsCodePage(name))
+    return ImportRow::tr("The name \"%1\" has characters that can't be stored.").arg(name);
+  // Another program has lost the characters. Different names would become the same one.
   if (name.contains(u'?') &&
       std::none_of(name.begin(), name.end(), [](QChar c) { return c.isLetterOrNumber(); }))
-    return u"The name has no letter or digit that the address book can keep."_s;
-  if (toCodePage(name).size() > nameWidth) return u"The name is longer than %1 characters."_s.arg(nameWidth);
+    return ImportRow::tr("The name has no letter or digit that the address book can keep.");
+  if (toCodePage(name).size() > nameWidth)
+    return ImportRow::tr("The name is longer than %1 characters.").arg(nameWidth);
   return {};
 }
 
-QString refusalOf(const ContactRecord& contact, const PhoneNumber& phone, const PhoneNumber& fax) {
+QString validationError(const ContactRecord& contact, const PhoneNumber& phone, const PhoneNumber& fax) {
   if (QString refusal = nameRefusal(contact.name); !refusal.isEmpty()) return refusal;
-  if (contact.phone.isEmpty() && contact.fax.isEmpty()) return u"The row has no number."_s;
+  if (contact.phone.isEmpty() && contact.fax.isEmpty()) return ImportRow::tr("The row has no number.");
   for (const PhoneNumber& number : {phone, fax})
     if (!number.problemText().isEmpty()) return number.problemText();
-  // Beyond that, what holds for contacts that are typed.
-  const auto problem = ContactForm({}, [](const QString&) { return false; }).take(contact);
+  // The rules for typed contacts apply too.
+  const auto problem = ContactForm({}, [](const QString&) { return false; }).apply(contact);
   return problem ? problem->text : QString();
 }
 
-/// Leaves out an address that the dialog would refuse or the file would cut. Returns what to say about it.
+/// Removes an address that is invalid or too long for the file. Returns a remark in this case.
 QString checkEmail(QString& email) {
   if (email.isEmpty()) return {};
   QString remark;
   if (!isEmailAddress(email))
-    remark = u"The invalid e-mail address \"%1\" is left out."_s.arg(email);
+    remark = ImportRow::tr("The invalid e-mail address \"%1\" is left out.").arg(email);
   else if (toCodePage(email).size() > emailWidth)
-    remark = u"The e-mail address is longer than %1 characters and is left out."_s.arg(emailWidth);
+    remark =
+        ImportRow::tr("The e-mail address is longer than %1 characters and is left out.").arg(emailWidth);
   if (!remark.isEmpty()) email.clear();
   return remark;
 }
@@ -114,16 +117,16 @@ ImportField extraField(std::size_t number) {
   return static_cast<ImportField>(static_cast<std::size_t>(ImportField::Extra1) + number);
 }
 
-/// Cuts an extra field to what the file can hold. Returns what to say about it.
+/// Truncates an Extra field to the width of the file's field. Returns a remark in this case.
 QString checkExtra(QString& value, std::size_t number) {
   if (toCodePage(value).size() <= extraWidth) return {};
   value.truncate(extraWidth);  // a character has at least one byte
   while (toCodePage(value).size() > extraWidth || value.back().isHighSurrogate()) value.chop(1);
-  return u"%1 is cut to %2 characters."_s.arg(fieldLabel(extraField(number))).arg(extraWidth);
+  return ImportRow::tr("%1 is cut to %2 characters.").arg(fieldLabel(extraField(number))).arg(extraWidth);
 }
 
-/// A fax machine alone gets no SMS, even when the other contacts of the import do.
-void withdrawSmsWithoutPhone(ContactRecord& contact) {
+/// A contact with only a fax number can't receive SMS, regardless of the default of the import.
+void disableSmsWithoutPhone(ContactRecord& contact) {
   if (contact.phone.isEmpty()) contact.supportsSms = u"N"_s;
 }
 
@@ -138,26 +141,26 @@ bool ImportPlan::maps(ImportField field) const {
 }
 
 ImportRow readImportRow(const Sheet& sheet, int row, const ImportPlan& plan) {
-  const RowTexts texts = textsOf(sheet, row, plan.columns);
+  const RowTexts texts = readTexts(sheet, row, plan.columns);
   const PhoneNumber phone = PhoneNumber::parse(texts[ImportField::Phone], plan.countryCode);
   const PhoneNumber fax = PhoneNumber::parse(texts[ImportField::Fax], plan.countryCode);
   ImportRow read;
   ContactRecord& contact = read.contact;
-  contact.name = nameOf(texts, plan);
+  contact.name = contactName(texts, plan);
   contact.phone = phone.text();
   contact.fax = fax.text();
-  contact.supportsSms = flagOf(texts[ImportField::SupportsSms]);
-  contact.supportsMedia = flagOf(texts[ImportField::SupportsMedia]);
+  contact.supportsSms = parseFlag(texts[ImportField::SupportsSms]);
+  contact.supportsMedia = parseFlag(texts[ImportField::SupportsMedia]);
   contact.email = throughCodePage(texts[ImportField::Email]);
   QStringList remarks = {checkEmail(contact.email)};
-  read.leavesOutEmail = !remarks.first().isEmpty();
+  read.omitsEmail = !remarks.first().isEmpty();
   for (std::size_t i = 0; i < contact.extra.size(); ++i) {
     contact.extra[i] = throughCodePage(texts[extraField(i)]);
     remarks << checkExtra(contact.extra[i], i);
   }
   remarks.removeAll(QString());
   read.remark = remarks.join(u' ');
-  read.refusal = refusalOf(contact, phone, fax);
+  read.refusal = validationError(contact, phone, fax);
   return read;
 }
 
@@ -165,7 +168,7 @@ ContactRecord newContact(const ImportRow& row, const ImportPlan& plan) {
   ContactRecord contact = row.contact;
   if (contact.supportsSms.isEmpty()) contact.supportsSms = yesOrNo(plan.supportsSms);
   if (contact.supportsMedia.isEmpty()) contact.supportsMedia = yesOrNo(plan.supportsMedia);
-  withdrawSmsWithoutPhone(contact);
+  disableSmsWithoutPhone(contact);
   return contact;
 }
 
@@ -173,12 +176,12 @@ ContactRecord overwritten(const ContactRecord& existing, const ImportRow& row, c
   ContactRecord contact = existing;
   if (plan.maps(ImportField::Phone)) contact.phone = row.contact.phone;
   if (plan.maps(ImportField::Fax)) contact.fax = row.contact.fax;
-  if (plan.maps(ImportField::Email) && !row.leavesOutEmail) contact.email = row.contact.email;
+  if (plan.maps(ImportField::Email) && !row.omitsEmail) contact.email = row.contact.email;
   if (!row.contact.supportsSms.isEmpty()) contact.supportsSms = row.contact.supportsSms;
   if (!row.contact.supportsMedia.isEmpty()) contact.supportsMedia = row.contact.supportsMedia;
   for (std::size_t i = 0; i < contact.extra.size(); ++i)
     if (plan.maps(extraField(i))) contact.extra[i] = row.contact.extra[i];
-  withdrawSmsWithoutPhone(contact);
+  disableSmsWithoutPhone(contact);
   return contact;
 }
 

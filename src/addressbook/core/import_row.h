@@ -3,6 +3,7 @@
 
 #include <optional>
 
+#include <QCoreApplication>
 #include <QString>
 
 #include "addressbook/core/import_columns.h"
@@ -11,35 +12,38 @@
 
 namespace parlexo {
 
-/// How the rows of a sheet become contacts.
+/// How the rows of a sheet are converted to contacts.
 struct ImportPlan {
   ImportColumns columns;
-  std::optional<int> headingRow = 0;  ///< contacts begin below it; without one, in the first row
-  QString countryCode;                ///< "+" and digits for numbers without one; may be empty
-  bool supportsSms = true;            ///< for contacts with a phone number whose row does not say it
+  std::optional<int> headingRow = 0;  ///< contacts follow below it; without one, they begin in the first row
+  QString countryCode;                ///< default for numbers without one, "+" and digits; may be empty
+  bool supportsSms = true;            ///< default for rows with a phone number that don't specify it
   bool supportsMedia = false;
-  QString group;  ///< that the contacts join; may be empty
+  QString group;  ///< to which the contacts are added; may be empty
 
   [[nodiscard]] bool maps(ImportField field) const;
   [[nodiscard]] int firstRow() const { return headingRow ? *headingRow + 1 : 0; }
 };
 
-/// One row as the import understands it.
+/// The contact of one row, and problems found.
 struct ImportRow {
-  ContactRecord contact;        ///< fields that the plan does not map are empty
-  QString refusal;              ///< why the row can't be imported; empty when it can
-  QString remark;               ///< what is left out or cut although the row can be imported; may be empty
-  bool leavesOutEmail = false;  ///< the row's address; that of an existing contact stays
+  Q_DECLARE_TR_FUNCTIONS(ImportRow)
+
+ public:
+  ContactRecord contact;    ///< unmapped fields are empty
+  QString refusal;          ///< why the row can't be imported; empty if it can
+  QString remark;           ///< which values are omitted or truncated; may be empty
+  bool omitsEmail = false;  ///< the address is invalid; an existing contact's address is preserved
 };
 
-/// Reads a row of `sheet`. Texts are passed through the code page, as in all contacts; a name that would lose
-/// characters there is refused, as two people could end up as one contact.
+/// Reads a row of `sheet`. Converts texts to the code page and back, as in all contacts. Rejects a name with
+/// characters that are not in the code page, because different names could become the same one.
 [[nodiscard]] ImportRow readImportRow(const Sheet& sheet, int row, const ImportPlan& plan);
 
-/// The new contact, with what the plan says for all contacts of this import.
+/// Returns the new contact, with the defaults of the plan.
 [[nodiscard]] ContactRecord newContact(const ImportRow& row, const ImportPlan& plan);
 
-/// `existing` with the values of the row in the fields that the plan maps.
+/// Returns `existing` with the values of the row in the mapped fields.
 [[nodiscard]] ContactRecord overwritten(const ContactRecord& existing, const ImportRow& row,
                                         const ImportPlan& plan);
 

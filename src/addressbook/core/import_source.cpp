@@ -10,22 +10,21 @@
 
 namespace parlexo {
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
-constexpr int untilBox = 200;  // milliseconds; sooner than the runner's own box, which speaks of the gateway
+// Milliseconds; less than the delay of the runner's own progress box, whose text is about the gateway.
+constexpr int boxDelay = 200;
 
-/// Shows the progress box once a reading has lasted a while.
+/// Shows the progress box after a delay.
 class LateBox {
  public:
   explicit LateBox(Progress& progress) : progress_(progress) {
     timer_.setSingleShot(true);
     QObject::connect(&timer_, &QTimer::timeout, &timer_, [this] {
-      progress_.show(u"Reading the file. Please wait..."_s);
+      progress_.show(ImportSource::tr("Reading the file. Please wait..."));
       isShown_ = true;
     });
-    timer_.start(untilBox);
+    timer_.start(boxDelay);
   }
   ~LateBox() {
     if (isShown_) progress_.hide();
@@ -39,12 +38,12 @@ class LateBox {
   bool isShown_ = false;
 };
 
-constexpr int rowsToShow = ImportSource::previewRows + 1;
+constexpr int previewRowsAndHeading = ImportSource::previewRows + 1;
 
 }  // namespace
 
-/// What an opening finds out. The reading that does it owns it together with the source, which may have to
-/// leave the reading behind.
+/// The results of opening a file. Shared with the task that reads it, because the source may abandon the
+/// task.
 struct ImportSource::Opening {
   std::shared_ptr<CSpreadSheet> workbook;
   DelimitedFormat format;
@@ -59,12 +58,12 @@ struct ImportSource::Opening {
       problem = workbook->read(path, limits, cancel);
     } else {
       format = detectFormat(path, limits, cancel);
-      text = readDelimited(path, format, limits, cancel, rowsToShow);
+      text = readDelimited(path, format, limits, cancel, previewRowsAndHeading);
       problem = text.problem;
-      // It has bytes, but no more than a byte order mark.
-      if (problem.isEmpty() && text.sheet.rowCount() == 0) problem = u"The file is empty."_s;
+      // The file only consists of a byte order mark.
+      if (problem.isEmpty() && text.sheet.rowCount() == 0) problem = ImportSource::tr("The file is empty.");
     }
-    if (cancel.isRaised()) problem = u"The reading was cancelled."_s;
+    if (cancel.isRaised()) problem = ImportSource::tr("The reading was cancelled.");
   }
 };
 
@@ -87,7 +86,7 @@ void ImportSource::open(const QString& path) {
 
 void ImportSource::setFormat(const DelimitedFormat& format) {
   format_ = format;
-  readText(rowsToShow);
+  readText(previewRowsAndHeading);
 }
 
 void ImportSource::chooseSheet(int number) {
@@ -120,7 +119,7 @@ void ImportSource::readText(int maxRows) {
   run([reading, maxRows, path = path_, format = format_, limits = limits_](const CancelFlag& cancel) {
     reading->problem = fileProblem(path, limits);
     if (reading->problem.isEmpty()) *reading = readDelimited(path, format, limits, cancel, maxRows);
-    if (cancel.isRaised()) reading->problem = u"The reading was cancelled."_s;
+    if (cancel.isRaised()) reading->problem = ImportSource::tr("The reading was cancelled.");
   });
   if (!problem_.isEmpty()) return;
   problem_ = reading->problem;
@@ -130,7 +129,7 @@ void ImportSource::readText(int maxRows) {
 void ImportSource::run(const CallRunner::Task& reading) {
   problem_.clear();
   const LateBox box(progress_);
-  if (!runner_.run(reading)) problem_ = u"The file could not be read."_s;
+  if (!runner_.run(reading)) problem_ = tr("The file could not be read.");
 }
 
 }  // namespace parlexo

@@ -3,6 +3,7 @@
 
 #include <memory>
 
+#include <QCoreApplication>
 #include <QString>
 #include <QStringList>
 
@@ -15,37 +16,39 @@ namespace parlexo {
 class CSpreadSheet;
 class Progress;
 
-/// The file that an import reads from, and how it is read. Large files and slow folders are read by the
-/// services' runner, under a progress box when that lasts.
+/// The file that an import reads, and its format. The file is read by a call runner. A progress box appears
+/// if reading takes more than a moment. `runner` and `progress` must outlive the source.
 class ImportSource {
+  Q_DECLARE_TR_FUNCTIONS(ImportSource)
+
  public:
-  /// How many rows are enough for a look at the file; headings come on top.
+  /// The number of rows for a preview, plus headings.
   static constexpr int previewRows = 20;
 
   ImportSource(CallRunner& runner, Progress& progress, const ImportLimits& limits = {});
 
-  /// Opens a file of any kind that can be imported and finds out its format. What is wrong with it is in
-  /// problem() afterwards.
+  /// Opens a file and detects its format. Sets problem() on error.
   void open(const QString& path);
-  /// Reads the beginning of a text file anew in another format.
+  /// Reads the beginning of a text file again with another format.
   void setFormat(const DelimitedFormat& format);
-  /// Chooses a sheet of a workbook, counted from 0.
+  /// Selects a sheet of a workbook, counted from 0.
   void chooseSheet(int number);
 
   [[nodiscard]] const QString& path() const { return path_; }
   [[nodiscard]] bool isWorkbook() const { return workbook_ != nullptr; }
   [[nodiscard]] const DelimitedFormat& format() const { return format_; }
-  /// Of a workbook, those with cells.
+  /// The non-empty sheets of a workbook.
   [[nodiscard]] QStringList sheetNames() const;
 
-  /// All rows of a workbook's sheet, the first rows of a text file.
+  /// All rows of the selected sheet, or the first rows of a text file.
   [[nodiscard]] const Sheet& preview() const;
-  /// What the user should know of the file although it can be imported; may be empty.
+  /// A warning for the user about a file that can be imported; may be empty.
   [[nodiscard]] QString remark() const;
-  /// What is wrong with the file, as the user is told; empty when it can be imported as far as it was read.
+  /// The error message for the user; empty if no error has occurred.
   [[nodiscard]] const QString& problem() const { return problem_; }
 
-  /// Reads all rows of a text file, after which preview() has them. False, with a problem, when that fails.
+  /// Reads all rows of a text file; preview() returns them afterwards. Returns false and sets problem() on
+  /// error.
   [[nodiscard]] bool readAll();
 
  private:

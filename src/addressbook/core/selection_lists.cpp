@@ -7,7 +7,7 @@
 
 #include <QSet>
 
-#include "addressbook/core/sorted_book.h"
+#include "addressbook/core/contact_selection.h"
 #include "contacts/group_file.h"
 
 namespace parlexo {
@@ -16,19 +16,19 @@ void RowSpan::include(int row) {
   *this = isEmpty() ? RowSpan{row, row} : RowSpan{std::min(first, row), std::max(last, row)};
 }
 
-SelectionLists::SelectionLists(const AddressBook& book, const QString& mode, const ContactSelection& initial)
-    : contacts_(sortedContacts(book, eligibilityFor(mode))),
+SelectionLists::SelectionLists(const AddressBook& book, SelectionMode mode, const ContactSelection& initial)
+    : contacts_(sortedContacts(book, mode)),
       contactTicks_(contacts_.size(), false),
       groups_(sortedGroups(book)),
       groupTicks_(groups_.size(), false) {
-  rowOf_.reserve(contacts_.size());
+  rows_.reserve(contacts_.size());
   for (std::size_t row = 0; row < contacts_.size(); ++row)
-    rowOf_.emplace(contacts_[row], static_cast<int>(row));
+    rows_.emplace(contacts_[row], static_cast<int>(row));
   tickInitial(initial);
 }
 
 void SelectionLists::tickInitial(const ContactSelection& initial) {
-  // A name is what makes a contact the same one, also in a selection that holds copies of the records.
+  // Contacts are identified by name, because the selection may contain copies of the records.
   QSet<QString> names;
   for (const ContactRecord* contact : initial) names.insert(contact->name);
   if (names.isEmpty()) return;
@@ -38,8 +38,8 @@ void SelectionLists::tickInitial(const ContactSelection& initial) {
 }
 
 void SelectionLists::setTicked(const ContactRecord* contact, bool ticked, RowSpan& changed) {
-  const auto found = rowOf_.find(contact);
-  if (found == rowOf_.end()) return;
+  const auto found = rows_.find(contact);
+  if (found == rows_.end()) return;
   contactTicks_[found->second] = ticked;
   changed.include(found->second);
 }
@@ -71,7 +71,7 @@ ContactSelection SelectionLists::tickedContacts() const {
   for (std::size_t row = 0; row < contacts_.size(); ++row) {
     if (contactTicks_[row]) ticked.push_back(contacts_[row]);
   }
-  return ContactSelection::ofSorted(std::move(ticked));
+  return ContactSelection::fromSorted(std::move(ticked));
 }
 
 }  // namespace parlexo

@@ -14,23 +14,23 @@ namespace parlexo {
 class AddressBook;
 class GroupFile;
 
-/// A span of rows, both ends included; empty when last is before first.
+/// A range of rows, inclusive; empty if last < first.
 struct RowSpan {
   int first = 0;
   int last = -1;
 
   [[nodiscard]] bool isEmpty() const { return last < first; }
-  /// Widens the span so that it takes in `row`.
+  /// Extends the range to include `row`.
   void include(int row);
 };
 
-/// The groups and the eligible contacts that the user can tick, both sorted by name, with their ticks. It
-/// knows no widget. The address book must outlive it and must not change meanwhile.
+/// The groups and eligible contacts for a selection dialog, both sorted by name, with their ticks. The
+/// address book must outlive it and must not change.
 class SelectionLists {
  public:
-  /// Lists all groups, unticked, and the contacts that are eligible for `mode`; those whose names are in
-  /// `initial` are ticked.
-  SelectionLists(const AddressBook& book, const QString& mode, const ContactSelection& initial);
+  /// Lists all groups, unticked, and the eligible contacts for `mode`. Ticks those whose names are in
+  /// `initial`.
+  SelectionLists(const AddressBook& book, SelectionMode mode, const ContactSelection& initial);
 
   [[nodiscard]] int contactCount() const { return static_cast<int>(contacts_.size()); }
   [[nodiscard]] const ContactRecord& contact(int row) const { return *contacts_[row]; }
@@ -40,19 +40,19 @@ class SelectionLists {
   [[nodiscard]] int groupCount() const { return static_cast<int>(groups_.size()); }
   [[nodiscard]] const GroupFile& group(int row) const { return *groups_[row]; }
   [[nodiscard]] bool isGroupTicked(int row) const { return groupTicks_[row]; }
-  /// Ticks or unticks a group and with it its eligible members. Returns the span of contact rows that may
-  /// have changed.
+  /// Ticks or unticks a group and its eligible members. Returns the range of contact rows that may have
+  /// changed.
   RowSpan setGroupTicked(int row, bool ticked);
 
-  /// Ticks those of `contacts` that are listed. Returns the span of contact rows that may have changed.
+  /// Ticks the listed contacts among `contacts`. Returns the range of contact rows that may have changed.
   RowSpan tickContacts(const ContactSelection::Contacts& contacts);
 
   /// Unticks every contact and every group.
   void clear();
 
-  /// How many contacts are ticked.
+  /// The number of ticked contacts.
   [[nodiscard]] int tickedCount() const;
-  /// The ticked contacts. Ticked groups count only through the contacts that they ticked.
+  /// The ticked contacts, regardless of the ticks of groups.
   [[nodiscard]] ContactSelection tickedContacts() const;
 
  private:
@@ -61,7 +61,7 @@ class SelectionLists {
 
   std::vector<const ContactRecord*> contacts_;
   std::vector<bool> contactTicks_;
-  std::unordered_map<const ContactRecord*, int> rowOf_;
+  std::unordered_map<const ContactRecord*, int> rows_;
   std::vector<const GroupFile*> groups_;
   std::vector<bool> groupTicks_;
 };

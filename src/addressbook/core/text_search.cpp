@@ -13,7 +13,7 @@ namespace parlexo {
 
 namespace {
 
-constexpr char fieldEnd = '\t';  // a blank like those between words, so that no word can hold it
+constexpr char fieldEnd = '\t';  // separates words like a space, so no word contains it
 constexpr char16_t lastAscii = 0x7F;
 constexpr std::size_t usualTextSize = 64;
 
@@ -22,26 +22,22 @@ char lowered(QChar ascii) {
   return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter - 'A' + 'a') : letter;
 }
 
-// UTF-8 can be searched byte by byte: no character's bytes begin inside another's.
+// UTF-8 can be searched bytewise, because it is self-synchronising.
 QByteArray searchable(const QString& text) {
   return text.toCaseFolded().toUtf8();
 }
 
-class Words {
- public:
-  explicit Words(const QString& typed) {
-    for (const QString& word : typed.simplified().split(u' ', Qt::SkipEmptyParts))
-      words_.push_back(searchable(word).toStdString());
-  }
+std::vector<std::string> searchableWords(const QString& typed) {
+  std::vector<std::string> words;
+  for (const QString& word : typed.simplified().split(u' ', Qt::SkipEmptyParts))
+    words.push_back(searchable(word).toStdString());
+  return words;
+}
 
-  [[nodiscard]] bool allIn(std::string_view text) const {
-    return std::all_of(words_.begin(), words_.end(),
-                       [text](const std::string& word) { return text.find(word) != std::string_view::npos; });
-  }
-
- private:
-  std::vector<std::string> words_;
-};
+bool containsAll(std::string_view text, const std::vector<std::string>& words) {
+  return std::all_of(words.begin(), words.end(),
+                     [text](const std::string& word) { return text.find(word) != std::string_view::npos; });
+}
 
 }  // namespace
 
@@ -52,7 +48,7 @@ void TextSearch::reserve(std::size_t texts) {
 
 void TextSearch::addField(QStringView field) {
   if (field.isEmpty()) return;
-  // Nearly every field is plain ASCII, which needs none of Unicode's tables.
+  // Fast path: most fields are ASCII and don't need Unicode case folding.
   const std::size_t begin = block_.size();
   for (const QChar character : field) {
     if (character.unicode() > lastAscii) {
@@ -73,14 +69,14 @@ std::vector<int> TextSearch::find(const QString& typed) const {
 }
 
 std::vector<int> TextSearch::find(const QString& typed, const std::vector<int>& among) const {
-  const Words words(typed);
+  const std::vector<std::string> words = searchableWords(typed);
   const std::string_view block = block_;
   std::vector<int> found;
   found.reserve(among.size());
   std::copy_if(among.begin(), among.end(), std::back_inserter(found), [&](int number) {
     const auto text = static_cast<std::size_t>(number);
     const std::size_t begin = text == 0 ? 0 : ends_[text - 1];
-    return words.allIn(block.substr(begin, ends_[text] - begin));
+    return containsAll(block.substr(begin, ends_[text] - begin), words);
   });
   return found;
 }

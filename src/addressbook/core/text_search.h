@@ -10,21 +10,22 @@
 
 namespace parlexo {
 
-/// Finds among many short texts those that hold what the user types. Each text is folded and encoded once
-/// and all lie behind each other in one block, so that 100,000 contacts can be searched at every keystroke.
+/// Searches many short texts for the words that the user types. The texts are case-folded once and stored in
+/// one block of UTF-8, which makes searching 100,000 contacts at every keystroke fast enough.
 class TextSearch {
  public:
-  /// Makes room for this many texts.
+  /// Reserves memory for this many texts.
   void reserve(std::size_t texts);
-  /// Adds a field to the text that is being built; no match crosses from one field into the next.
+  /// Appends a field to the current text. Matches don't span fields.
   void addField(QStringView field);
-  /// Ends the text; the next field begins another one.
+  /// Ends the current text; the next field begins a new one.
   void endText() { ends_.push_back(block_.size()); }
 
-  /// The numbers, from 0 and rising, of the texts in which every word of `typed` occurs, without regard to
-  /// case and in any order. Words are separated by white space; without a word every text is found.
+  /// Returns the indices, ascending from 0, of the texts that contain every word of `typed`,
+  /// case-insensitively and in any order. Words are separated by white space. Returns all texts if there is
+  /// no word.
   [[nodiscard]] std::vector<int> find(const QString& typed) const;
-  /// Likewise, looking only at the texts in `among`.
+  /// Likewise, for the texts with indices in `among`.
   [[nodiscard]] std::vector<int> find(const QString& typed, const std::vector<int>& among) const;
 
  private:

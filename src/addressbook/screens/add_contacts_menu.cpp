@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "addressbook/screens/add_contacts_menu.h"
 
+#include <QCoreApplication>
 #include <QMenu>
 
 #include "addressbook/core/contacts_flow.h"
@@ -33,8 +34,8 @@ std::optional<QStringList> importContacts(const AddressBookServices& services, Q
 std::optional<QStringList> addOrImportContacts(const AddressBookServices& services, QWidget& button) {
   QMenu menu(&button);
   menu.setObjectName(u"addContactsMenu"_s);
-  const QAction* add = menu.addAction(u"&New Contact..."_s);
-  const QAction* import = menu.addAction(u"&Import..."_s);
+  const QAction* add = menu.addAction(QCoreApplication::translate("AddContactsMenu", "&New Contact..."));
+  const QAction* import = menu.addAction(QCoreApplication::translate("AddContactsMenu", "&Import..."));
   const QAction* chosen = menu.exec(button.mapToGlobal(button.rect().bottomLeft()));
   if (chosen == add) return addContact(services, button.window());
   if (chosen == import) return importContacts(services, button.window());

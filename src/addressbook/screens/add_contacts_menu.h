@@ -11,9 +11,9 @@ class QWidget;
 
 namespace parlexo {
 
-/// Lets the user add a contact or import contacts, from a menu below `button`; they join "My Personal
-/// Contacts". Returns their names, or nothing when the user left it at looking. A name may stand for no
-/// contact when it could not be saved, which the user has been told.
+/// Shows a menu below `button` to add a contact to the group "My Personal Contacts" or to import contacts
+/// into it. Returns the names of the new contacts, or nullopt if the user cancelled. If a contact could not
+/// be saved, which has been reported to the user, its name is returned all the same.
 [[nodiscard]] std::optional<QStringList> addOrImportContacts(const AddressBookServices& services,
                                                              QWidget& button);
 

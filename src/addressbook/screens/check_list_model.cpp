@@ -5,6 +5,9 @@
 #include <numeric>
 #include <utility>
 
+#include <QItemSelectionModel>
+#include <QKeyEvent>
+
 namespace parlexo {
 
 CheckListModel::CheckListModel(const QStringList& headers, int entryCount, QObject* parent)
@@ -41,7 +44,7 @@ QVariant CheckListModel::data(const QModelIndex& index, int role) const {
   if (role == Qt::DisplayRole) return cell(index.row(), index.column());
   if (index.column() != SelectColumn) return {};
   if (role == Qt::CheckStateRole) return int(isTicked(index.row()) ? Qt::Checked : Qt::Unchecked);
-  // A bare check box would say nothing to who can't see the name beside it.
+  // A screen reader announces the check box by the name beside it.
   if (role == Qt::AccessibleTextRole) return cell(index.row(), NameColumn);
   return {};
 }
@@ -61,8 +64,8 @@ int CheckListModel::tickedRowCount() const {
 void CheckListModel::setTicked(const std::vector<int>& rows, bool ticked) {
   RowSpan changed;
   for (const int row : rows) {
-    setEntryTicked(entryOf(row), ticked);
-    changed.include(entryOf(row));
+    setEntryTicked(entryAt(row), ticked);
+    changed.include(entryAt(row));
   }
   refreshTicks(changed);
 }
@@ -88,14 +91,40 @@ void CheckListModel::prepareSearch() {
 
 void CheckListModel::search(const QString& typed) {
   prepareSearch();
-  // What is typed behind a text can only take rows away.
+  // Appending to the search text can only remove rows.
   const bool narrows = typed.startsWith(searched_);
-  std::vector<int> found = narrows ? search_.find(typed, shown_) : search_.find(typed);
+  std::vector<int> matches = narrows ? search_.find(typed, shown_) : search_.find(typed);
   searched_ = typed;
-  if (found == shown_) return;
+  if (matches == shown_) return;
   beginResetModel();
-  shown_ = std::move(found);
+  shown_ = std::move(matches);
   endResetModel();
+}
+
+CheckListView::CheckListView(CheckListModel& model, const QString& label, QWidget* parent)
+    : RowListView(
+          model, [&model](int row) { return model.cell(row, CheckListModel::NameColumn); }, label, parent),
+      model_(model) {}
+
+void CheckListView::keyPressEvent(QKeyEvent* event) {
+  const bool isPlain = !(event->modifiers() & ~Qt::KeypadModifier);
+  if (isPlain && (event->key() == Qt::Key_Space || event->key() == Qt::Key_Select)) {
+    toggleSelectedRows();
+    return;
+  }
+  RowListView::keyPressEvent(event);
+}
+
+void CheckListView::toggleSelectedRows() {
+  const std::vector<int> rows = rowsToToggle();
+  if (!rows.empty()) model_.setTicked(rows, !model_.isTicked(currentIndex().row()));
+}
+
+std::vector<int> CheckListView::rowsToToggle() const {
+  if (!currentIndex().isValid()) return {};
+  const int current = currentIndex().row();
+  if (!selectionModel()->isRowSelected(current)) return {current};
+  return selectedRows();
 }
 
 }  // namespace parlexo

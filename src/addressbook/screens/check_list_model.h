@@ -9,13 +9,13 @@
 
 #include "addressbook/core/selection_lists.h"
 #include "addressbook/core/text_search.h"
+#include "ui/row_list_view.h"
 
 namespace parlexo {
 
-/// A table whose first column is a check box for the row and whose second column is the row's name: what
-/// the two lists of the contact selection dialog have in common. Its rows are those of the entries that the
-/// user searches for, all of them at first. It holds no text of its own but the search's, so that 100,000
-/// entries cost next to nothing until they are painted.
+/// Base class of the models of the two lists in the contact selection dialog. The first column is a check
+/// box, the second a name. The rows are the entries that match the search, initially all of them. Cell texts
+/// are not stored, which keeps a list of 100,000 entries cheap; only the search has a copy of them.
 class CheckListModel : public QAbstractTableModel {
   Q_OBJECT
 
@@ -29,23 +29,23 @@ class CheckListModel : public QAbstractTableModel {
   [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
   bool setData(const QModelIndex& index, const QVariant& value, int role) override;
 
-  /// The text of a cell, empty for the check box column.
-  [[nodiscard]] QString cell(int row, int column) const { return entryCell(entryOf(row), column); }
-  [[nodiscard]] bool isTicked(int row) const { return isEntryTicked(entryOf(row)); }
-  /// How many of the rows are ticked.
+  /// The text of a cell; empty in the check box column.
+  [[nodiscard]] QString cell(int row, int column) const { return entryCell(entryAt(row), column); }
+  [[nodiscard]] bool isTicked(int row) const { return isEntryTicked(entryAt(row)); }
+  /// The number of ticked rows.
   [[nodiscard]] int tickedRowCount() const;
-  /// Ticks or unticks the rows, which must exist; the view is told once for all of them.
+  /// Ticks or unticks the rows, which must exist. Notifies views once for all rows.
   void setTicked(const std::vector<int>& rows, bool ticked);
-  /// Tells the view that the check boxes of these entries, shown or not, may have changed.
+  /// Notifies views that the ticks of these entries, visible or not, may have changed.
   void refreshTicks(RowSpan entries);
 
-  /// Reads all entries for searches to come. The first search does so where nobody has, but is slow then.
+  /// Prepares the text of all entries for searching. Otherwise the first search does so and takes longer.
   void prepareSearch();
-  /// Shows the entries that have every word of `typed`, in the same order as before; ticks stay as they are.
+  /// Shows only the entries that contain every word of `typed`. Order and ticks do not change.
   void search(const QString& typed);
 
  Q_SIGNALS:
-  /// Ticks of shown or hidden entries may have changed.
+  /// Ticks of visible or hidden entries may have changed.
   void ticksChanged();
 
  protected:
@@ -55,10 +55,10 @@ class CheckListModel : public QAbstractTableModel {
   [[nodiscard]] virtual QString entryCell(int entry, int column) const = 0;
   [[nodiscard]] virtual bool isEntryTicked(int entry) const = 0;
   virtual void setEntryTicked(int entry, bool ticked) = 0;
-  /// Gives `search` the fields of the entry in which the user can look for something.
+  /// Adds the searchable fields of the entry to `search`.
   virtual void addSearchedFields(int entry, TextSearch& search) const = 0;
 
-  [[nodiscard]] int entryOf(int row) const { return shown_[static_cast<std::size_t>(row)]; }
+  [[nodiscard]] int entryAt(int row) const { return shown_[static_cast<std::size_t>(row)]; }
 
   QStringList headers_;
   int entryCount_;
@@ -66,6 +66,24 @@ class CheckListModel : public QAbstractTableModel {
   TextSearch search_;
   bool isSearchReady_ = false;
   QString searched_;
+};
+
+/// A list view of a CheckListModel in which the space bar ticks or unticks the selected rows.
+class CheckListView final : public RowListView {
+  Q_OBJECT
+
+ public:
+  /// `label` is the accessible name. `model` must outlive the view.
+  CheckListView(CheckListModel& model, const QString& label, QWidget* parent = nullptr);
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override;
+
+ private:
+  void toggleSelectedRows();
+  [[nodiscard]] std::vector<int> rowsToToggle() const;
+
+  CheckListModel& model_;
 };
 
 }  // namespace parlexo

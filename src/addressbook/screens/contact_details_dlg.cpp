@@ -13,8 +13,6 @@
 #include <QUrl>
 #include <QVBoxLayout>
 
-#include "addressbook/screens/contact_text_validator.h"
-#include "addressbook/screens/ok_and_cancel.h"
 #include "base/notifier.h"
 #include "base/product.h"
 #include "ui/hyperlink_label.h"
@@ -29,7 +27,7 @@ namespace {
 
 constexpr int extraRows = ContactRecord::extraCount / 2;
 
-QString flagOf(const QCheckBox& box) {
+QString toFlag(const QCheckBox& box) {
   return box.isChecked() ? u"Y"_s : u"N"_s;
 }
 
@@ -41,7 +39,7 @@ QCheckBox* flagBox(const char* name, const QString& text, bool isChecked, QWidge
 }
 
 HyperlinkLabel* formatLink(QWidget* parent) {
-  auto* link = new HyperlinkLabel(u"Country and area codes, phone number formats"_s,
+  auto* link = new HyperlinkLabel(CContactDetailsDlg::tr("Country and area codes, phone number formats"),
                                   QUrl(webPage(u"/phonenumbers.php"_s)), parent);
   link->setObjectName(u"numberFormatLink"_s);
   return link;
@@ -49,11 +47,17 @@ HyperlinkLabel* formatLink(QWidget* parent) {
 
 }  // namespace
 
+QValidator::State ContactTextValidator::validate(QString& input, int& cursor) const {
+  cursor = static_cast<int>(asContactText(input.left(cursor)).size());
+  input = asContactText(input);
+  return Acceptable;
+}
+
 CContactDetailsDlg::CContactDetailsDlg(const ContactRecord& contact, ContactForm::NameTest isNameTaken,
                                        Notifier& notifier, QWidget* parent)
     : GradientDialog(parent), form_(contact, std::move(isNameTaken)), notifier_(notifier) {
   setObjectName(u"contactDetailsDialog"_s);
-  setWindowTitle(u"Parlexo(TM) : Contact Details"_s);
+  setWindowTitle(tr("Parlexo(TM) : Contact Details"));
   createEdits();
   createLayout();
   (form_.isNew() ? name_ : email_)->setFocus(Qt::OtherFocusReason);
@@ -81,8 +85,8 @@ void CContactDetailsDlg::createEdits() {
 
 void CContactDetailsDlg::createLayout() {
   auto* layout = new QVBoxLayout(this);
-  layout->setContentsMargins(16, 14, 16, 14);
-  layout->setSpacing(8);
+  layout->setContentsMargins(look::dialogMargins);
+  layout->setSpacing(look::fieldSpacing);
   layout->addLayout(addressRows());
   layout->addLayout(flagRows());
   layout->addWidget(extraBox());
@@ -97,13 +101,13 @@ QLayout* CContactDetailsDlg::addressRows() {
     grid->addWidget(labelFor(edit, label), row, column);
     grid->addWidget(edit, row, column + 1);
   };
-  add(0, 0, u"&Name:"_s, name_);
-  add(0, 2, u"&Email:"_s, email_);
-  add(1, 0, u"&Phone:"_s, phone_);
-  add(1, 2, u"&Fax:"_s, fax_);
-  grid->addWidget(wrappedLabel(u"All phone and fax numbers must be entered in the international format, "
-                               "for example +61491570156. Follow the link to find country and area "
-                               "codes."_s,
+  add(0, 0, tr("&Name:"), name_);
+  add(0, 2, tr("&Email:"), email_);
+  add(1, 0, tr("&Phone:"), phone_);
+  add(1, 2, tr("&Fax:"), fax_);
+  grid->addWidget(wrappedLabel(tr("All phone and fax numbers must be entered in the international format, "
+                                  "for example +61491570156. Follow the link to find country and area "
+                                  "codes."),
                                this),
                   2, 0, 1, 4);
   grid->addWidget(formatLink(this), 3, 0, 1, 4, Qt::AlignLeft);
@@ -113,30 +117,30 @@ QLayout* CContactDetailsDlg::addressRows() {
 }
 
 QLayout* CContactDetailsDlg::flagRows() {
-  sms_ = flagBox("smsBox", u"Supports &SMS"_s, form_.supportsSms(), this);
-  media_ = flagBox("mediaBox", u"Supports &Media (WAP and/or MMS)"_s, form_.supportsMedia(), this);
+  sms_ = flagBox("smsBox", tr("Supports &SMS"), form_.supportsSms(), this);
+  media_ = flagBox("mediaBox", tr("Supports &Media (WAP and/or MMS)"), form_.supportsMedia(), this);
   auto* boxes = new QHBoxLayout;
-  boxes->setSpacing(24);
+  boxes->setSpacing(look::groupSpacing);
   boxes->addWidget(sms_);
   boxes->addWidget(media_);
   boxes->addStretch(1);
   auto* column = new QVBoxLayout;
   column->addWidget(
-      wrappedLabel(u"Select the SMS checkbox if the number supports SMS messaging and select the Media "
-                   "checkbox if the number supports WAP and/or MMS. If you do not correctly set the check "
-                   "boxes, then you will not be able to select your contact when sending SMS, WAP and/or "
-                   "MMS."_s,
+      wrappedLabel(tr("Select the SMS checkbox if the number supports SMS messaging and select the Media "
+                      "checkbox if the number supports WAP and/or MMS. If you do not correctly set the check "
+                      "boxes, then you will not be able to select your contact when sending SMS, WAP and/or "
+                      "MMS."),
                    this));
   column->addLayout(boxes);
   return column;
 }
 
 QGroupBox* CContactDetailsDlg::extraBox() {
-  auto* box = new QGroupBox(u"Extra fields"_s, this);
+  auto* box = new QGroupBox(tr("Extra fields"), this);
   auto* grid = new QGridLayout(box);
-  grid->addWidget(wrappedLabel(u"Use the Extra fields to assign attributes to your contacts. These can be "
-                               "used for selecting contact for messaging. For example: the Extra 1 field "
-                               "can be state/province/area, Extra 2 can be employer name etc."_s,
+  grid->addWidget(wrappedLabel(tr("Use the Extra fields to assign attributes to your contacts. These can be "
+                                  "used for selecting contact for messaging. For example: the Extra 1 field "
+                                  "can be state/province/area, Extra 2 can be employer name etc."),
                                box),
                   0, 0, 1, 4);
   for (int field = 0; field < ContactRecord::extraCount; ++field) {
@@ -146,7 +150,7 @@ QGroupBox* CContactDetailsDlg::extraBox() {
     extra_[place]->setObjectName(u"extra%1Edit"_s.arg(number));
     const int row = 1 + field % extraRows;
     const int column = 2 * (field / extraRows);
-    grid->addWidget(labelFor(extra_[place], u"Extra &%1:"_s.arg(number)), row, column);
+    grid->addWidget(labelFor(extra_[place], tr("Extra &%1:").arg(number)), row, column);
     grid->addWidget(extra_[place], row, column + 1);
   }
   grid->setColumnStretch(1, 1);
@@ -155,13 +159,18 @@ QGroupBox* CContactDetailsDlg::extraBox() {
 }
 
 ContactRecord CContactDetailsDlg::typed() const {
-  ContactRecord typed{
-      name_->text(), phone_->text(), flagOf(*sms_), flagOf(*media_), fax_->text(), email_->text(), {}};
+  ContactRecord typed{.name = name_->text(),
+                      .phone = phone_->text(),
+                      .supportsSms = toFlag(*sms_),
+                      .supportsMedia = toFlag(*media_),
+                      .fax = fax_->text(),
+                      .email = email_->text(),
+                      .extra = {}};
   for (std::size_t i = 0; i < extra_.size(); ++i) typed.extra[i] = extra_[i]->text();
   return typed;
 }
 
-QLineEdit* CContactDetailsDlg::editOf(ContactProblem::Field field) const {
+QLineEdit* CContactDetailsDlg::fieldEdit(ContactProblem::Field field) const {
   switch (field) {
     case ContactProblem::Field::Name:
       return name_;
@@ -176,13 +185,13 @@ QLineEdit* CContactDetailsDlg::editOf(ContactProblem::Field field) const {
 }
 
 void CContactDetailsDlg::accept() {
-  const auto problem = form_.take(typed());
+  const auto problem = form_.apply(typed());
   if (!problem) {
     GradientDialog::accept();
     return;
   }
   notifier_.error(problem->text);
-  QLineEdit* edit = editOf(problem->field);
+  QLineEdit* edit = fieldEdit(problem->field);
   edit->setFocus(Qt::OtherFocusReason);
   edit->selectAll();
 }

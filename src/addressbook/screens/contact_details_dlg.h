@@ -3,6 +3,8 @@
 
 #include <array>
 
+#include <QValidator>
+
 #include "addressbook/core/contact_form.h"
 #include "contacts/contact_record.h"
 #include "ui/gradient_page.h"
@@ -16,19 +18,30 @@ namespace parlexo {
 
 class Notifier;
 
-/// Edits a copy of one contact, a new one or one that exists; the caller saves what comes out.
+/// Converts typed or pasted text immediately to what a contact can store, so that the user sees the text that
+/// will be saved.
+class ContactTextValidator final : public QValidator {
+  Q_OBJECT
+
+ public:
+  using QValidator::QValidator;
+
+  [[nodiscard]] State validate(QString& input, int& cursor) const override;
+};
+
+/// Edits a copy of a new or existing contact. The caller saves the result.
 class CContactDetailsDlg final : public GradientDialog {
   Q_OBJECT
 
  public:
-  /// A contact without a name is a new one, see ContactForm. `notifier` must outlive the dialog.
+  /// A contact without a name is new, see ContactForm. `notifier` must outlive the dialog.
   CContactDetailsDlg(const ContactRecord& contact, ContactForm::NameTest isNameTaken, Notifier& notifier,
                      QWidget* parent = nullptr);
 
-  /// What was typed, once the dialog was accepted.
+  /// The edited contact; valid once the dialog has been accepted.
   [[nodiscard]] const ContactRecord& contact() const { return form_.contact(); }
 
-  /// Closes with the contact; when something is wrong with it, tells the user and stays open.
+  /// Closes the dialog if the contact is valid. Otherwise reports the error and stays open.
   void accept() override;
 
  private:
@@ -39,7 +52,7 @@ class CContactDetailsDlg final : public GradientDialog {
   [[nodiscard]] QLayout* flagRows();
   [[nodiscard]] QGroupBox* extraBox();
   [[nodiscard]] ContactRecord typed() const;
-  [[nodiscard]] QLineEdit* editOf(ContactProblem::Field field) const;
+  [[nodiscard]] QLineEdit* fieldEdit(ContactProblem::Field field) const;
 
   ContactForm form_;
   Notifier& notifier_;

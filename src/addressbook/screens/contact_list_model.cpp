@@ -2,16 +2,14 @@
 #include "addressbook/screens/contact_list_model.h"
 
 #include "addressbook/core/contact_selection.h"
-#include "addressbook/core/name_order.h"
+#include "contacts/group_file.h"
 
 namespace parlexo {
 
-using namespace Qt::StringLiterals;
-
-ContactListModel::ContactListModel(SelectionLists& lists, const QString& mode, QObject* parent)
-    : CheckListModel({u"Select"_s, u"Name"_s, u"Phone"_s}, lists.contactCount(), parent),
+ContactListModel::ContactListModel(SelectionLists& lists, SelectionMode mode, QObject* parent)
+    : CheckListModel({tr("Select"), tr("Name"), tr("Phone")}, lists.contactCount(), parent),
       lists_(lists),
-      showsFax_(showsFaxNumbers(mode)) {}
+      showsFax_(mode == SelectionMode::Fax) {}
 
 QString ContactListModel::entryCell(int entry, int column) const {
   const ContactRecord& contact = lists_.contact(entry);
@@ -34,6 +32,25 @@ void ContactListModel::addSearchedFields(int entry, TextSearch& search) const {
   search.addField(contact.phone);
   if (showsFax_) search.addField(contact.fax);
   for (const QString& extra : contact.extra) search.addField(extra);
+}
+
+GroupListModel::GroupListModel(SelectionLists& lists, QObject* parent)
+    : CheckListModel({tr("Select"), tr("Name")}, lists.groupCount(), parent), lists_(lists) {}
+
+QString GroupListModel::entryCell(int entry, int column) const {
+  return column == NameColumn ? shownName(lists_.group(entry).name()) : QString();
+}
+
+bool GroupListModel::isEntryTicked(int entry) const {
+  return lists_.isGroupTicked(entry);
+}
+
+void GroupListModel::setEntryTicked(int entry, bool ticked) {
+  Q_EMIT contactTicksChanged(lists_.setGroupTicked(entry, ticked));
+}
+
+void GroupListModel::addSearchedFields(int entry, TextSearch& search) const {
+  search.addField(shownName(lists_.group(entry).name()));
 }
 
 }  // namespace parlexo

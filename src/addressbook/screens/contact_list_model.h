@@ -7,14 +7,14 @@
 
 namespace parlexo {
 
-/// The "Contacts:" list of the contact selection dialog: check box, name, and phone or fax number.
+/// Model of the "Contacts:" list of the contact selection dialog: check box, name, phone or fax number.
 class ContactListModel final : public CheckListModel {
   Q_OBJECT
 
  public:
-  /// `lists` must outlive the model; `mode` decides whether phone or fax numbers are shown,
-  /// in a column that is called "Phone" either way.
-  ContactListModel(SelectionLists& lists, const QString& mode, QObject* parent = nullptr);
+  /// `lists` must outlive the model. `mode` determines whether phone or fax numbers are shown; the column
+  /// heading is "Phone" in both cases.
+  ContactListModel(SelectionLists& lists, SelectionMode mode, QObject* parent = nullptr);
 
  private:
   [[nodiscard]] QString entryCell(int entry, int column) const override;
@@ -24,6 +24,28 @@ class ContactListModel final : public CheckListModel {
 
   SelectionLists& lists_;
   bool showsFax_;
+};
+
+/// Model of the "Groups:" list of the contact selection dialog: check box and name. Ticking a group also
+/// ticks its members.
+class GroupListModel final : public CheckListModel {
+  Q_OBJECT
+
+ public:
+  /// `lists` must outlive the model.
+  explicit GroupListModel(SelectionLists& lists, QObject* parent = nullptr);
+
+ Q_SIGNALS:
+  /// The ticks of these entries of the contact list may have changed.
+  void contactTicksChanged(parlexo::RowSpan rows);
+
+ private:
+  [[nodiscard]] QString entryCell(int entry, int column) const override;
+  [[nodiscard]] bool isEntryTicked(int entry) const override;
+  void setEntryTicked(int entry, bool ticked) override;
+  void addSearchedFields(int entry, TextSearch& search) const override;
+
+  SelectionLists& lists_;
 };
 
 }  // namespace parlexo

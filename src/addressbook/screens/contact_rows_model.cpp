@@ -3,50 +3,26 @@
 
 #include <utility>
 
-#include "addressbook/core/name_order.h"
+#include "addressbook/core/contact_selection.h"
 
 namespace parlexo {
-
-using namespace Qt::StringLiterals;
 
 namespace {
 
 using Column = ContactRowsModel::Column;
 
-QString headingOf(Column column) {
+QString columnHeading(Column column) {
   switch (column) {
     case Column::NameColumn:
-      return u"Name"_s;
+      return ContactRowsModel::tr("Name");
     case Column::PhoneColumn:
-      return u"Phone"_s;
+      return ContactRowsModel::tr("Phone");
     case Column::SmsColumn:
-      return u"SMS"_s;
+      return ContactRowsModel::tr("SMS");
     case Column::MediaColumn:
-      return u"Media"_s;
+      return ContactRowsModel::tr("Media");
     case Column::FaxColumn:
-      return u"Fax"_s;
-    case Column::columnTotal:
-      break;
-  }
-  return {};
-}
-
-QString yesOrNo(const ContactRecord& contact, QStringView mode) {
-  return eligibilityFor(mode)(contact) ? u"yes"_s : u"no"_s;
-}
-
-QString cellOf(const ContactRecord& contact, Column column) {
-  switch (column) {
-    case Column::NameColumn:
-      return shownName(contact.name);
-    case Column::PhoneColumn:
-      return contact.phone;
-    case Column::SmsColumn:
-      return yesOrNo(contact, u"SMS");
-    case Column::MediaColumn:
-      return yesOrNo(contact, u"Media");
-    case Column::FaxColumn:
-      return contact.fax;
+      return ContactRowsModel::tr("Fax");
     case Column::columnTotal:
       break;
   }
@@ -54,6 +30,24 @@ QString cellOf(const ContactRecord& contact, Column column) {
 }
 
 }  // namespace
+
+QString ContactRowsModel::cellText(const ContactRecord& contact, Column column) const {
+  switch (column) {
+    case Column::NameColumn:
+      return shownName(contact.name);
+    case Column::PhoneColumn:
+      return contact.phone;
+    case Column::SmsColumn:
+      return isEligible(contact, SelectionMode::Sms) ? yes_ : no_;
+    case Column::MediaColumn:
+      return isEligible(contact, SelectionMode::Media) ? yes_ : no_;
+    case Column::FaxColumn:
+      return contact.fax;
+    case Column::columnTotal:
+      break;
+  }
+  return {};
+}
 
 void ContactRowsModel::setContacts(ContactSelection::Contacts contacts) {
   if (contacts == contacts_) {
@@ -75,7 +69,7 @@ int ContactRowsModel::columnCount(const QModelIndex& parent) const {
 
 QVariant ContactRowsModel::headerData(int section, Qt::Orientation orientation, int role) const {
   if (orientation != Qt::Horizontal) return {};
-  if (role == Qt::DisplayRole) return headingOf(static_cast<Column>(section));
+  if (role == Qt::DisplayRole) return columnHeading(static_cast<Column>(section));
   if (role == Qt::TextAlignmentRole) return int(Qt::AlignLeft | Qt::AlignVCenter);
   return {};
 }
@@ -87,7 +81,7 @@ Qt::ItemFlags ContactRowsModel::flags(const QModelIndex& index) const {
 
 QVariant ContactRowsModel::data(const QModelIndex& index, int role) const {
   if (role != Qt::DisplayRole || !checkIndex(index, CheckIndexOption::IndexIsValid)) return {};
-  return cellOf(contact(index.row()), static_cast<Column>(index.column()));
+  return cellText(contact(index.row()), static_cast<Column>(index.column()));
 }
 
 }  // namespace parlexo

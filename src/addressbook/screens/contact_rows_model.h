@@ -4,14 +4,16 @@
 #include <vector>
 
 #include <QAbstractTableModel>
+#include <QString>
 
 #include "addressbook/core/contact_selection.h"
 #include "contacts/contact_record.h"
 
 namespace parlexo {
 
-/// Contacts as rows with name, numbers and what they can receive. It keeps pointers alone, so that 100,000
-/// contacts cost next to nothing until they are painted; whoever deletes a contact takes it out before.
+/// A table of contacts: name, numbers, and which message types they can receive. Only pointers are stored,
+/// which keeps a list of 100,000 contacts cheap. Contacts must be removed from the model before they are
+/// deleted.
 class ContactRowsModel final : public QAbstractTableModel {
   Q_OBJECT
 
@@ -20,7 +22,8 @@ class ContactRowsModel final : public QAbstractTableModel {
 
   using QAbstractTableModel::QAbstractTableModel;
 
-  /// Shows these contacts, in this order. The same contacts as before keep selection and scroll position.
+  /// Shows these contacts in the given order. Does not reset the model, which would clear the selection, if
+  /// the contacts are the same as before.
   void setContacts(ContactSelection::Contacts contacts);
 
   [[nodiscard]] const ContactSelection::Contacts& contacts() const { return contacts_; }
@@ -35,6 +38,11 @@ class ContactRowsModel final : public QAbstractTableModel {
   [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
 
  private:
+  [[nodiscard]] QString cellText(const ContactRecord& contact, Column column) const;
+
+  // Translated once, as every painted row needs them.
+  const QString yes_ = tr("yes");
+  const QString no_ = tr("no");
   ContactSelection::Contacts contacts_;
 };
 

@@ -20,7 +20,7 @@
 #include <QVBoxLayout>
 
 #include "addressbook/core/contact_export.h"
-#include "addressbook/core/sorted_book.h"
+#include "addressbook/core/contact_selection.h"
 #include "addressbook/screens/contact_details_dlg.h"
 #include "addressbook/screens/folder_tree.h"
 #include "addressbook/screens/group_details_dlg.h"
@@ -40,25 +40,26 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QString informationOn(const ContactFolder& folder) {
-  const QString lower(8, u'\n');
-  if (folder.kind == ContactFolder::Kind::Root) return lower + u"Your Address Book for all your Contacts"_s;
-  return lower +
-         u"All your contacts sorted in Alphabetic order. You cannot create contacts\n"
-         "under these folders as they are READONLY. Deleting or modifying is permitted"_s;
+QString informationText(const ContactFolder& folder) {
+  const QString topPadding(8, u'\n');
+  if (folder.kind == ContactFolder::Kind::Root)
+    return topPadding + CContactsPage::tr("Your Address Book for all your Contacts");
+  return topPadding + CContactsPage::tr(
+                          "All your contacts sorted in Alphabetic order. You cannot create contacts\n"
+                          "under these folders as they are READONLY. Deleting or modifying is permitted");
 }
 
 bool hasList(const ContactFolder& folder) {
   return folder.kind != ContactFolder::Kind::Root && folder.kind != ContactFolder::Kind::AllContacts;
 }
 
-// A key that is held down, or pressed twice, arrives here until the dialog that it opened has the focus.
+// A repeated key press still reaches the page until the dialog that it opened has the focus.
 bool isBehindDialog(const QWidget& widget) {
   const QWidget* modal = QApplication::activeModalWidget();
   return modal && modal != widget.window();
 }
 
-void onKey(QWidget* widget, const QKeySequence& key, const std::function<void()>& action) {
+void addShortcut(QWidget* widget, const QKeySequence& key, const std::function<void()>& action) {
   auto* shortcut = new QShortcut(key, widget);
   shortcut->setContext(Qt::WidgetShortcut);
   shortcut->setAutoRepeat(false);
@@ -68,9 +69,12 @@ void onKey(QWidget* widget, const QKeySequence& key, const std::function<void()>
 }
 
 QString countText(int count, int selected, bool isSearching) {
-  QString text = count == 1 ? u"1 contact"_s : u"%1 contacts"_s.arg(count);
-  if (isSearching) text += u" found in the whole address book"_s;
-  return selected < 2 ? text : text + u", %1 selected"_s.arg(selected);
+  const QString one = isSearching ? CContactsPage::tr("1 contact found in the whole address book")
+                                  : CContactsPage::tr("1 contact");
+  const QString several = isSearching ? CContactsPage::tr("%1 contacts found in the whole address book")
+                                      : CContactsPage::tr("%1 contacts");
+  const QString text = count == 1 ? one : several.arg(count);
+  return selected < 2 ? text : CContactsPage::tr("%1, %2 selected").arg(text).arg(selected);
 }
 
 }  // namespace
@@ -90,16 +94,16 @@ void CContactsPage::createTree() {
   connect(tree_, &FolderTree::folderChosen, this, [this] {
     const QSignalBlocker blocker(search_);
     search_->clear();
-    showFresh();
+    resetList();
   });
   tree_->setContextMenuPolicy(Qt::CustomContextMenu);
   connect(tree_, &QWidget::customContextMenuRequested, this, [this](const QPoint& where) {
     if (QTreeWidgetItem* item = tree_->itemAt(where)) tree_->setCurrentItem(item);
-    // Whoever points at a folder means the folder.
+    // The menu applies to the folder, not to selected contacts.
     list_->clearSelection();
     openMenu(*tree_->viewport(), where);
   });
-  onKey(tree_, QKeySequence::Delete, [this] {
+  addShortcut(tree_, QKeySequence::Delete, [this] {
     list_->clearSelection();
     remove();
   });
@@ -107,14 +111,15 @@ void CContactsPage::createTree() {
 
 void CContactsPage::createList() {
   list_ = new RowListView(
-      model_, [this](int row) { return model_.contact(row).name; }, u"Contacts"_s, this);
+      model_, [this](int row) { return model_.contact(row).name; }, tr("Contacts"), this);
   list_->setObjectName(u"contactList"_s);
   // The longest international number has 15 digits.
   const int numberWidth = fittingColumnWidth(*list_, 120, u"+000000000000000"_s);
   list_->setColumnWidths({150, numberWidth, 40, 40, numberWidth});
   connect(list_, &QAbstractItemView::doubleClicked, this, &CContactsPage::edit);
-  for (const auto key : {Qt::Key_Return, Qt::Key_Enter}) onKey(list_, QKeySequence(key), [this] { edit(); });
-  onKey(list_, QKeySequence::Delete, [this] { remove(); });
+  for (const auto key : {Qt::Key_Return, Qt::Key_Enter})
+    addShortcut(list_, QKeySequence(key), [this] { edit(); });
+  addShortcut(list_, QKeySequence::Delete, [this] { remove(); });
   connect(list_->selectionModel(), &QItemSelectionModel::selectionChanged, this, &CContactsPage::showCount);
   list_->setContextMenuPolicy(Qt::CustomContextMenu);
   connect(list_, &QWidget::customContextMenuRequested, this,
@@ -122,7 +127,7 @@ void CContactsPage::createList() {
 
   information_ = new QPlainTextEdit(this);
   information_->setObjectName(u"informationPanel"_s);
-  information_->setAccessibleName(u"Information"_s);
+  information_->setAccessibleName(tr("Information"));
   information_->setReadOnly(true);
   information_->setTabChangesFocus(true);
   QPalette palette = information_->palette();
@@ -131,9 +136,9 @@ void CContactsPage::createList() {
 }
 
 void CContactsPage::createSearch() {
-  search_ = new SearchField(u"Search all contacts: name, number or Extra"_s, *list_, this);
+  search_ = new SearchField(tr("Search all contacts: name, number or Extra"), *list_, this);
   search_->setObjectName(u"contactSearch"_s);
-  connect(search_, &QLineEdit::textChanged, this, &CContactsPage::showFresh);
+  connect(search_, &QLineEdit::textChanged, this, &CContactsPage::resetList);
   auto* find = new QShortcut(QKeySequence(QKeySequence::Find), this);
   connect(find, &QShortcut::activated, this, [this] {
     search_->setFocus(Qt::ShortcutFocusReason);
@@ -149,11 +154,11 @@ void CContactsPage::createMenu() {
   const auto add = [this](const QString& text, void (CContactsPage::*action)()) {
     connect(menu_->addAction(text), &QAction::triggered, this, action);
   };
-  add(u"New Contact..."_s, &CContactsPage::newContact);
-  add(u"New Group..."_s, &CContactsPage::newGroup);
+  add(tr("New Contact..."), &CContactsPage::newContact);
+  add(tr("New Group..."), &CContactsPage::newGroup);
   menu_->addSeparator();
-  add(u"Edit..."_s, &CContactsPage::edit);
-  add(u"Delete"_s, &CContactsPage::remove);
+  add(tr("Edit..."), &CContactsPage::edit);
+  add(tr("Delete"), &CContactsPage::remove);
 }
 
 void CContactsPage::openMenu(QWidget& at, const QPoint& where) {
@@ -163,17 +168,17 @@ void CContactsPage::openMenu(QWidget& at, const QPoint& where) {
 void CContactsPage::createLayout() {
   auto* contacts = new QWidget(this);
   contacts->setLayout(contactsColumn());
-  auto* halves = new QSplitter(this);
-  halves->setChildrenCollapsible(false);
-  halves->addWidget(tree_);
-  halves->addWidget(contacts);
-  halves->setStretchFactor(1, 1);
+  auto* splitter = new QSplitter(this);
+  splitter->setChildrenCollapsible(false);
+  splitter->addWidget(tree_);
+  splitter->addWidget(contacts);
+  splitter->setStretchFactor(1, 1);
   tree_->setMinimumWidth(dialogUnits(*this, 80, 0).width());
-  halves->setSizes({dialogUnits(*this, 120, 0).width(), list_->fittingWidth()});
+  splitter->setSizes({dialogUnits(*this, 120, 0).width(), list_->fittingWidth()});
   auto* layout = new QVBoxLayout(this);
-  layout->setContentsMargins(14, 10, 14, 12);
-  layout->setSpacing(10);
-  layout->addWidget(halves, 1);
+  layout->setContentsMargins(look::pageMargins);
+  layout->setSpacing(look::rowSpacing);
+  layout->addWidget(splitter, 1);
   layout->addLayout(buttonRow());
   setTabOrder(tree_, search_);
   setTabOrder(search_, list_);
@@ -186,8 +191,8 @@ QLayout* CContactsPage::contactsColumn() {
   stack_->addWidget(information_);
   auto* column = new QVBoxLayout;
   column->setContentsMargins({});
-  column->setSpacing(6);
-  column->addLayout(searchRow(u"&Find:"_s, *search_));
+  column->setSpacing(look::controlSpacing);
+  column->addLayout(searchRow(tr("&Find:"), *search_));
   column->addWidget(stack_, 1);
   column->addWidget(count_);
   return column;
@@ -200,15 +205,15 @@ QLayout* CContactsPage::buttonRow() {
     connect(button, &PictureButton::clicked, this, action);
     return button;
   };
-  add(u"newContactButton"_s, u"&New Contact..."_s, &CContactsPage::newContact);
-  add(u"newGroupButton"_s, u"New &Group..."_s, &CContactsPage::newGroup);
-  add(u"importButton"_s, u"&Import..."_s, &CContactsPage::importContacts);
-  add(u"exportButton"_s, u"E&xport..."_s, &CContactsPage::exportContacts);
+  add(u"newContactButton"_s, tr("&New Contact..."), &CContactsPage::newContact);
+  add(u"newGroupButton"_s, tr("New &Group..."), &CContactsPage::newGroup);
+  add(u"importButton"_s, tr("&Import..."), &CContactsPage::importContacts);
+  add(u"exportButton"_s, tr("E&xport..."), &CContactsPage::exportContacts);
   row->addStretch(1);
-  add(u"editButton"_s, u"&Edit..."_s, &CContactsPage::edit);
-  add(u"deleteButton"_s, u"&Delete"_s, &CContactsPage::remove);
-  auto* details = add(u"detailsButton"_s, u"D&etails"_s, &CContactsPage::edit);
-  // "&Edit..." does the same under the same key; with two to claim it, the key would only move the focus.
+  add(u"editButton"_s, tr("&Edit..."), &CContactsPage::edit);
+  add(u"deleteButton"_s, tr("&Delete"), &CContactsPage::remove);
+  auto* details = add(u"detailsButton"_s, tr("D&etails"), &CContactsPage::edit);
+  // "&Edit..." has the same mnemonic and action. An ambiguous mnemonic would only move the focus.
   details->setShortcut({});
   return row;
 }
@@ -230,7 +235,7 @@ void CContactsPage::readBook() {
   showPanel();
   model_.setContacts(contactsToShow());
   showCount();
-  // Once the list is seen and before anybody can type.
+  // After the list has been painted, but before the user can type.
   QTimer::singleShot(0, this, [this] { index_.prepareSearch(); });
 }
 
@@ -240,10 +245,10 @@ ContactIndex::Contacts CContactsPage::contactsToShow() {
   return hasList(folder) ? index_.contactsIn(folder) : ContactIndex::Contacts();
 }
 
-void CContactsPage::showFresh() {
+void CContactsPage::resetList() {
   showPanel();
   ContactIndex::Contacts contacts = contactsToShow();
-  // A view looks at every row that may have changed, which would be felt with every letter of a search.
+  // Setting equal contacts makes the view check every row, which would slow down typing in the search.
   if (contacts != model_.contacts()) model_.setContacts(std::move(contacts));
   list_->clearSelection();
   list_->setCurrentIndex({});
@@ -253,18 +258,18 @@ void CContactsPage::showFresh() {
 
 void CContactsPage::showPanel() {
   const ContactFolder folder = tree_->selected();
-  information_->setPlainText(informationOn(folder));
+  information_->setPlainText(informationText(folder));
   stack_->setCurrentWidget(isSearching() || hasList(folder) ? static_cast<QWidget*>(list_) : information_);
 }
 
 void CContactsPage::refresh() {
-  list_->keepPlace([this] { readBook(); });
+  list_->preserveSelection([this] { readBook(); });
 }
 
 void CContactsPage::showEvent(QShowEvent* event) {
   const bool isFirst = !shownRevision_;
   if (shownRevision_ != services_.book.revision()) refresh();
-  // New contacts can be added here at once, which the root does not allow.
+  // Unlike the root, this group accepts new contacts.
   if (isFirst) tree_->select({ContactFolder::Kind::Group, QLatin1String(personalContactsName)});
   GradientPage::showEvent(event);
 }
@@ -275,7 +280,7 @@ void CContactsPage::showCount() {
   count_->setText(showsList ? countText(model_.rowCount(), selected, isSearching()) : QString());
 }
 
-std::optional<ContactRecord> CContactsPage::editedByUser(const ContactRecord& contact) {
+std::optional<ContactRecord> CContactsPage::runDetailsDialog(const ContactRecord& contact) {
   const auto isTaken = [this](const QString& name) { return services_.book.findContact(name) != nullptr; };
   CContactDetailsDlg dialog(contact, isTaken, services_.notifier, this);
   if (dialog.exec() != QDialog::Accepted) return {};
@@ -285,7 +290,7 @@ std::optional<ContactRecord> CContactsPage::editedByUser(const ContactRecord& co
 void CContactsPage::newContact() {
   const ContactFolder folder = tree_->selected();
   if (!flow_.acceptsNewContact(folder)) return;
-  const auto contact = editedByUser({});
+  const auto contact = runDetailsDialog({});
   if (!contact) return;
   flow_.addContact(*contact, folder.name);
   search_->clear();
@@ -309,7 +314,7 @@ void CContactsPage::importContacts() {
 }
 
 void CContactsPage::exportContacts() {
-  const QString path = askForPath_(this, isSearching() ? u"Contacts found"_s : exportName(shownFolder()));
+  const QString path = askForPath_(this, isSearching() ? tr("Contacts found") : exportName(shownFolder()));
   if (path.isEmpty()) return;
   const ContactIndex::Contacts contacts =
       isSearching() ? model_.contacts() : index_.contactsIn(shownFolder());
@@ -328,15 +333,15 @@ void CContactsPage::edit() {
 
 void CContactsPage::editContact(int row) {
   const QString oldName = model_.contact(row).name;
-  const auto contact = editedByUser(model_.contact(row));
+  const auto contact = runDetailsDialog(model_.contact(row));
   if (!contact) return;
   if (contact->name == oldName) {
     flow_.changeContact(oldName, *contact);
     refresh();
     return;
   }
-  list_->keepPlace([&] {
-    forgetContacts();
+  list_->preserveSelection([&] {
+    clearContacts();
     flow_.changeContact(oldName, *contact);
     readBook();
   });
@@ -350,8 +355,8 @@ void CContactsPage::editGroup(const QString& group) {
 }
 
 void CContactsPage::saveGroup(const GroupChanges& changes) {
-  list_->keepPlace([&] {
-    if (!changes.newName.isEmpty()) forgetContacts();
+  list_->preserveSelection([&] {
+    if (!changes.newName.isEmpty()) clearContacts();
     flow_.saveGroup(changes);
     readBook();
   });
@@ -371,18 +376,18 @@ void CContactsPage::removeContacts(const QStringList& names) {
   if (!flow_.confirmDeletion(folder, static_cast<int>(names.size()))) return;
   const int scrolled = list_->verticalScrollBar()->value();
   const int place = list_->selectedRows().front();
-  forgetContacts();
+  clearContacts();
   flow_.deleteContacts(folder, names);
   readBook();
   list_->verticalScrollBar()->setValue(scrolled);
-  // The keyboard goes on where it was; nothing is selected, so that a further Delete can't hit by accident.
+  // The next row becomes current but is not selected, so that pressing Delete again does not delete it.
   const int row = std::min(place, model_.rowCount() - 1);
   list_->selectionModel()->setCurrentIndex(model_.index(row, 0), QItemSelectionModel::NoUpdate);
 }
 
-void CContactsPage::forgetContacts() {
+void CContactsPage::clearContacts() {
   model_.setContacts({});
-  index_.forget();
+  index_.clear();
 }
 
 void CContactsPage::removeGroup(const ContactFolder& folder) {

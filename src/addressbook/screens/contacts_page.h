@@ -9,7 +9,6 @@
 #include <QtGlobal>
 
 #include "addressbook/core/addressbook_services.h"
-#include "addressbook/core/contact_folder.h"
 #include "addressbook/core/contact_index.h"
 #include "addressbook/core/contacts_flow.h"
 #include "addressbook/screens/contact_rows_model.h"
@@ -28,23 +27,23 @@ class FolderTree;
 class RowListView;
 class SearchField;
 
-/// The address book's page: folders and groups on the left, their contacts on the right, and everything
-/// that can be done with them. A search shows what it finds in the whole address book, whatever the folder.
+/// The "Contacts" page: the folder tree on the left, the contacts of the selected folder on the right, and
+/// all operations on them. A search covers the whole address book, regardless of the selected folder.
 class CContactsPage final : public GradientPage {
   Q_OBJECT
 
  public:
-  /// `services` must refer to objects that outlive the page.
+  /// The objects that `services` refers to must outlive the page.
   explicit CContactsPage(const AddressBookServices& services, QWidget* parent = nullptr);
 
-  /// Asks for the path of the file to export to; replaced in tests.
+  /// Replaces the file dialog of the export, for tests.
   void setPathAsker(ExportButton::PathAsker asker) { askForPath_ = std::move(asker); }
 
-  /// Reads the selected folder anew; selection and scroll position stay.
+  /// Reloads the address book. Preserves selection and scroll position.
   void refresh() override;
 
  protected:
-  /// Reads the address book, at first and when it has changed since the list was filled.
+  /// Loads the address book when the page is shown for the first time or the book has changed.
   void showEvent(QShowEvent* event) override;
 
  private:
@@ -56,12 +55,13 @@ class CContactsPage final : public GradientPage {
   [[nodiscard]] QLayout* contactsColumn();
   [[nodiscard]] QLayout* buttonRow();
 
-  /// What the user made of the contact in the dialog; nothing when it was cancelled.
-  [[nodiscard]] std::optional<ContactRecord> editedByUser(const ContactRecord& contact);
+  /// Runs the details dialog. Returns the edited contact, or nullopt if the user cancelled.
+  [[nodiscard]] std::optional<ContactRecord> runDetailsDialog(const ContactRecord& contact);
   void newContact();
   void newGroup();
   void importContacts();
-  /// Saves what is shown: the found contacts, or those of the folder; all where it has no list.
+  /// Exports the search result or the contacts of the selected folder; all contacts if the folder has no
+  /// list.
   void exportContacts();
   void edit();
   void editContact(int row);
@@ -71,15 +71,15 @@ class CContactsPage final : public GradientPage {
   void removeContacts(const QStringList& names);
   void removeGroup(const ContactFolder& folder);
   /// Empties the list before contacts are deleted, as it may be painted while the store waits for a file.
-  void forgetContacts();
+  void clearContacts();
 
-  /// The folder whose contacts the list shows: what a search finds belongs to no group.
+  /// The displayed folder: "All Contacts" during a search, otherwise the selected one.
   [[nodiscard]] ContactFolder shownFolder() const;
   [[nodiscard]] bool isSearching() const;
   void readBook();
   [[nodiscard]] ContactIndex::Contacts contactsToShow();
-  /// Shows another folder or another search, with nothing selected.
-  void showFresh();
+  /// Shows the contacts of another folder or search, with nothing selected.
+  void resetList();
   void showPanel();
   void showCount();
   void openMenu(QWidget& at, const QPoint& where);
@@ -88,7 +88,7 @@ class CContactsPage final : public GradientPage {
   ContactsFlow flow_;
   ContactIndex index_;
   ContactRowsModel model_;
-  std::optional<quint64> shownRevision_;  // none before the page is seen
+  std::optional<quint64> shownRevision_;  // nullopt until the page is first shown
 
   ExportButton::PathAsker askForPath_ = askForCsvPath;
 

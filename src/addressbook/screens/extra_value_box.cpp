@@ -21,21 +21,21 @@ ExtraValueBox::ExtraValueBox(const QStringList& values, const QString& label, QW
     search_.addField(value);
     search_.endText();
   }
-  connect(selectionModel(), &QItemSelectionModel::selectionChanged, this, &ExtraValueBox::takeChoice);
+  connect(selectionModel(), &QItemSelectionModel::selectionChanged, this, &ExtraValueBox::updateChosen);
 }
 
 void ExtraValueBox::search(const QString& typed) {
-  QStringList found;
-  for (const int number : search_.find(typed)) found << values_[number];
-  if (found == shown_.stringList()) return;
-  // The new rows begin unselected without a word to anybody, so that what was chosen is still known.
-  shown_.setStringList(found);
-  showChoice();
+  QStringList matches;
+  for (const int index : search_.find(typed)) matches << values_[index];
+  if (matches == shown_.stringList()) return;
+  // Resetting the model clears the selection without a signal, so chosen_ stays valid.
+  shown_.setStringList(matches);
+  selectChosen();
 }
 
-void ExtraValueBox::showChoice() {
+void ExtraValueBox::selectChosen() {
   if (chosen_.isEmpty()) return;
-  // Neighbours make one range, so that thousands of chosen values are selected as quickly as one.
+  // Adjacent rows form one range, as selecting thousands of single rows would be slow.
   QItemSelection selection;
   RowSpan run;
   for (int row = 0; row <= shown_.rowCount(); ++row) {
@@ -49,7 +49,7 @@ void ExtraValueBox::showChoice() {
   selectionModel()->select(selection, QItemSelectionModel::Select);
 }
 
-void ExtraValueBox::takeChoice(const QItemSelection& selected, const QItemSelection& deselected) {
+void ExtraValueBox::updateChosen(const QItemSelection& selected, const QItemSelection& deselected) {
   for (const QModelIndex& index : selected.indexes()) chosen_.insert(index.data().toString());
   for (const QModelIndex& index : deselected.indexes()) chosen_.remove(index.data().toString());
   Q_EMIT chosenChanged();

@@ -11,27 +11,27 @@
 
 namespace parlexo {
 
-/// The list box of one Extra field: every click and every press of the space bar chooses a value or takes
-/// it back. A search hides values; the hidden ones stay chosen.
+/// The list box of one Extra field. A click or the space bar selects or deselects a value. Values hidden by a
+/// search stay selected.
 class ExtraValueBox final : public QListView {
   Q_OBJECT
 
  public:
-  /// `label` is what a screen reader calls the list.
+  /// `label` is the accessible name.
   ExtraValueBox(const QStringList& values, const QString& label, QWidget* parent = nullptr);
 
-  /// The chosen values, shown or not.
+  /// The chosen values, including hidden ones.
   [[nodiscard]] const QSet<QString>& chosen() const { return chosen_; }
 
-  /// Shows the values that have every word of `typed`.
+  /// Shows only the values that contain every word of `typed`.
   void search(const QString& typed);
 
  Q_SIGNALS:
   void chosenChanged();
 
  private:
-  void takeChoice(const QItemSelection& selected, const QItemSelection& deselected);
-  void showChoice();
+  void updateChosen(const QItemSelection& selected, const QItemSelection& deselected);
+  void selectChosen();
 
   QStringList values_;
   TextSearch search_;

@@ -5,7 +5,7 @@
 #include <QSignalBlocker>
 #include <QTreeWidgetItemIterator>
 
-#include "addressbook/core/name_order.h"
+#include "addressbook/core/contact_selection.h"
 #include "contacts/address_book.h"
 #include "ui/list_style.h"
 
@@ -18,12 +18,12 @@ namespace {
 constexpr int kindRole = Qt::UserRole;
 constexpr int nameRole = Qt::UserRole + 1;
 
-ContactFolder folderOf(const QTreeWidgetItem& item) {
+ContactFolder toFolder(const QTreeWidgetItem& item) {
   return {static_cast<ContactFolder::Kind>(item.data(0, kindRole).toInt()),
           item.data(0, nameRole).toString()};
 }
 
-QTreeWidgetItem* folderItem(const QString& text, const ContactFolder& folder) {
+QTreeWidgetItem* createItem(const QString& text, const ContactFolder& folder) {
   auto* item = new QTreeWidgetItem({text});
   item->setData(0, kindRole, static_cast<int>(folder.kind));
   item->setData(0, nameRole, folder.name);
@@ -35,7 +35,7 @@ QTreeWidgetItem* folderItem(const QString& text, const ContactFolder& folder) {
 
 FolderTree::FolderTree(QWidget* parent) : QTreeWidget(parent) {
   setObjectName(u"folderTree"_s);
-  setAccessibleName(u"Folders"_s);
+  setAccessibleName(tr("Folders"));
   setColumnCount(1);
   setHeaderHidden(true);
   styleList(*this);
@@ -45,15 +45,15 @@ FolderTree::FolderTree(QWidget* parent) : QTreeWidget(parent) {
 }
 
 void FolderTree::addFixedFolders() {
-  root_ = folderItem(u"Address Book"_s, {ContactFolder::Kind::Root, {}});
+  root_ = createItem(tr("Address Book"), {ContactFolder::Kind::Root, {}});
   addTopLevelItem(root_);
-  allContacts_ = folderItem(QLatin1String(allContactsName), {ContactFolder::Kind::AllContacts, {}});
+  allContacts_ = createItem(QLatin1String(allContactsName), {ContactFolder::Kind::AllContacts, {}});
   root_->addChild(allContacts_);
   for (char letter = 'A'; letter <= 'Z'; ++letter) {
     const QString name{QLatin1Char(letter)};
-    allContacts_->addChild(folderItem(name, {ContactFolder::Kind::Letter, name}));
+    allContacts_->addChild(createItem(name, {ContactFolder::Kind::Letter, name}));
   }
-  allContacts_->addChild(folderItem(u"Other"_s, {ContactFolder::Kind::Other, {}}));
+  allContacts_->addChild(createItem(tr("Other"), {ContactFolder::Kind::Other, {}}));
   root_->setExpanded(true);
 }
 
@@ -63,23 +63,23 @@ void FolderTree::setGroups(const QStringList& names) {
   while (root_->child(0) != allContacts_) delete root_->child(0);
   QList<QTreeWidgetItem*> groups;
   for (const QString& name : names)
-    groups.append(folderItem(shownName(name), {ContactFolder::Kind::Group, name}));
+    groups.append(createItem(shownName(name), {ContactFolder::Kind::Group, name}));
   root_->insertChildren(0, groups);
-  QTreeWidgetItem* item = itemOf(before);
+  QTreeWidgetItem* item = findItem(before);
   setCurrentItem(item ? item : root_);
 }
 
 ContactFolder FolderTree::selected() const {
-  return currentItem() ? folderOf(*currentItem()) : ContactFolder();
+  return currentItem() ? toFolder(*currentItem()) : ContactFolder();
 }
 
 void FolderTree::select(const ContactFolder& folder) {
-  if (QTreeWidgetItem* item = itemOf(folder)) setCurrentItem(item);
+  if (QTreeWidgetItem* item = findItem(folder)) setCurrentItem(item);
 }
 
-QTreeWidgetItem* FolderTree::itemOf(const ContactFolder& folder) const {
+QTreeWidgetItem* FolderTree::findItem(const ContactFolder& folder) const {
   for (QTreeWidgetItemIterator item(root_); *item; ++item)
-    if (folderOf(**item) == folder) return *item;
+    if (toFolder(**item) == folder) return *item;
   return nullptr;
 }
 

@@ -4,32 +4,32 @@
 #include <QStringList>
 #include <QTreeWidget>
 
-#include "addressbook/core/contact_folder.h"
+#include "addressbook/core/contact_index.h"
 
 namespace parlexo {
 
-/// The folders of the address book: the root, its groups, and "All Contacts" with its letters.
+/// The folder tree of the address book: the root, its groups, and "All Contacts" with one folder per letter.
 class FolderTree final : public QTreeWidget {
   Q_OBJECT
 
  public:
   explicit FolderTree(QWidget* parent = nullptr);
 
-  /// Shows these groups, in this order; the selected folder stays as far as it still exists, else the root
-  /// takes its place. Nothing is told of that.
+  /// Replaces the groups, in the given order. Preserves the selected folder or, if it no longer exists,
+  /// selects the root. Does not emit folderChosen().
   void setGroups(const QStringList& names);
 
   [[nodiscard]] ContactFolder selected() const;
-  /// Selects a folder that exists; another one changes nothing.
+  /// Selects a folder; no-op if it does not exist.
   void select(const ContactFolder& folder);
 
  Q_SIGNALS:
-  /// The user, or select(), has chosen another folder.
+  /// Another folder has been selected, by the user or by select().
   void folderChosen();
 
  private:
   void addFixedFolders();
-  [[nodiscard]] QTreeWidgetItem* itemOf(const ContactFolder& folder) const;
+  [[nodiscard]] QTreeWidgetItem* findItem(const ContactFolder& folder) const;
 
   QTreeWidgetItem* root_ = nullptr;
   QTreeWidgetItem* allContacts_ = nullptr;

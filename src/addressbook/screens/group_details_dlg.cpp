@@ -11,10 +11,8 @@
 #include <QShortcut>
 #include <QVBoxLayout>
 
-#include "addressbook/core/name_order.h"
+#include "addressbook/core/contact_selection.h"
 #include "addressbook/screens/contact_details_dlg.h"
-#include "addressbook/screens/contact_text_validator.h"
-#include "addressbook/screens/ok_and_cancel.h"
 #include "addressbook/screens/select_contacts_dlg.h"
 #include "base/notifier.h"
 #include "contacts/address_book.h"
@@ -31,7 +29,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// The name, or of a long one the part around its character number `place`.
+// Quotes the name. A long one is shortened to the part around the character at index `place`.
 QString quoted(const QString& name, qsizetype place) {
   constexpr qsizetype longest = 40;
   const QString dots = u"..."_s;
@@ -49,7 +47,7 @@ CGroupDetailsDlg::CGroupDetailsDlg(const AddressBookServices& services, const st
                                    QWidget* parent)
     : GradientDialog(parent), services_(services), draft_(services.book, group) {
   setObjectName(u"groupDetailsDialog"_s);
-  setWindowTitle(u"Parlexo(TM) : Group Details"_s);
+  setWindowTitle(tr("Parlexo(TM) : Group Details"));
   createControls();
   createLayout();
   showMembers({});
@@ -72,7 +70,7 @@ void CGroupDetailsDlg::createControls() {
     name_->setText(shownName(draft_.name()));
   }
   list_ = new RowListView(
-      model_, [this](int row) { return model_.contact(row).name; }, u"Group Members:"_s, this);
+      model_, [this](int row) { return model_.contact(row).name; }, tr("Group Members:"), this);
   list_->setObjectName(u"memberList"_s);
   // The longest international number has 15 digits.
   const int numberWidth = fittingColumnWidth(*list_, 100, u"+000000000000000"_s);
@@ -88,17 +86,17 @@ void CGroupDetailsDlg::createControls() {
 
 void CGroupDetailsDlg::createLayout() {
   auto* list = new QVBoxLayout;
-  list->setSpacing(4);
-  list->addWidget(labelFor(list_, u"Group &Members:"_s));
+  list->setSpacing(look::captionSpacing);
+  list->addWidget(labelFor(list_, tr("Group &Members:")));
   list->addWidget(list_, 1);
   auto* middle = new QHBoxLayout;
-  middle->setSpacing(12);
+  middle->setSpacing(look::columnSpacing);
   middle->addLayout(list, 1);
   middle->addLayout(buttonColumn());
 
   auto* layout = new QVBoxLayout(this);
-  layout->setContentsMargins(16, 14, 16, 14);
-  layout->setSpacing(10);
+  layout->setContentsMargins(look::dialogMargins);
+  layout->setSpacing(look::rowSpacing);
   layout->addLayout(nameRows());
   layout->addLayout(middle, 1);
   layout->addLayout(okAndCancelRow(*this));
@@ -122,8 +120,8 @@ QLayout* CGroupDetailsDlg::nameRows() {
     if (const auto unstable = draft_.unstableName(name_->text())) name_->setText(unstable->suggestion);
   });
   auto* rows = new QGridLayout;
-  rows->setVerticalSpacing(2);
-  rows->addWidget(labelFor(name_, u"&Group Name:"_s), 0, 0);
+  rows->setVerticalSpacing(look::lineSpacing);
+  rows->addWidget(labelFor(name_, tr("&Group Name:")), 0, 0);
   rows->addWidget(name_, 0, 1);
   rows->addWidget(nameWarning_, 1, 1);
   rows->addWidget(useSuggestion_, 2, 1);
@@ -140,32 +138,32 @@ void CGroupDetailsDlg::checkName() {
   name_->setAccessibleDescription({});
   if (!unstable) return;
   const QString warning =
-      u"After a restart this name would read %1."_s.arg(quoted(unstable->afterRestart, unstable->place));
+      tr("After a restart this name would read %1.").arg(quoted(unstable->afterRestart, unstable->place));
   nameWarning_->setText(warning);
   name_->setAccessibleDescription(warning);
-  const QString use = u"Use "_s + quoted(unstable->suggestion, unstable->place);
+  const QString use = tr("Use %1").arg(quoted(unstable->suggestion, unstable->place));
   useSuggestion_->setText(QString(use).replace(u'&', u"&&"_s));
   useSuggestion_->updateGeometry();
 }
 
 QLayout* CGroupDetailsDlg::buttonColumn() {
   auto* column = new QVBoxLayout;
-  column->addSpacing(fontMetrics().height() + 4);
+  column->addSpacing(fontMetrics().height() + look::captionSpacing);
   const auto add = [this, column](const QString& name, const QString& text, auto action) {
     PictureButton* button = addButton(*column, name, text);
     connect(button, &PictureButton::clicked, this, action);
     return button;
   };
-  add(u"selectButton"_s, u"&Select..."_s, &CGroupDetailsDlg::select);
-  removeButton_ = add(u"removeButton"_s, u"&Remove"_s, &CGroupDetailsDlg::remove);
-  add(u"newContactButton"_s, u"&New Contact..."_s, [this] { editContact(nullptr); });
-  propertiesButton_ = add(u"propertiesButton"_s, u"&Properties..."_s, &CGroupDetailsDlg::showProperties);
+  add(u"selectButton"_s, tr("&Select..."), &CGroupDetailsDlg::select);
+  removeButton_ = add(u"removeButton"_s, tr("&Remove"), &CGroupDetailsDlg::remove);
+  add(u"newContactButton"_s, tr("&New Contact..."), [this] { editContact(nullptr); });
+  propertiesButton_ = add(u"propertiesButton"_s, tr("&Properties..."), &CGroupDetailsDlg::showProperties);
   column->addStretch(1);
   return column;
 }
 
 void CGroupDetailsDlg::select() {
-  CSelectContactsDlg dialog(services_.book, u"All"_s, draft_.selection(), services_.notifier, this);
+  CSelectContactsDlg dialog(services_.book, SelectionMode::All, draft_.selection(), services_.notifier, this);
   if (dialog.exec() != QDialog::Accepted) return;
   const QStringList selected = list_->selectedNames();
   draft_.setSelection(dialog.selection());
@@ -175,8 +173,8 @@ void CGroupDetailsDlg::select() {
 void CGroupDetailsDlg::remove() {
   const QStringList names = list_->selectedNames();
   if (names.isEmpty()) return;
-  QString question = u"Are you sure you want to remove this contact from the group?"_s;
-  if (names.size() > 1) question += u"\n\n(%1 contacts are selected.)"_s.arg(names.size());
+  QString question = tr("Are you sure you want to remove this contact from the group?");
+  if (names.size() > 1) question += u"\n\n"_s + tr("(%1 contacts are selected.)").arg(names.size());
   if (!services_.notifier.confirm(question)) return;
   model_.setContacts({});
   draft_.remove(names);
@@ -214,7 +212,7 @@ void CGroupDetailsDlg::enableButtons() {
 
 void CGroupDetailsDlg::accept() {
   if (!ok_->isEnabled()) return;
-  const QString problem = draft_.takeName(name_->text());
+  const QString problem = draft_.setName(name_->text());
   if (problem.isEmpty()) {
     GradientDialog::accept();
     return;

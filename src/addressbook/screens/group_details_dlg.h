@@ -20,20 +20,21 @@ class HyperlinkLabel;
 class PictureButton;
 class RowListView;
 
-/// Edits a group, a new one or one that exists: its members, and contacts on the way. Nothing is written
-/// here; the caller writes the changes that come out.
+/// Edits a new or existing group: its members, and their contact details. The dialog saves nothing; the
+/// caller writes changes().
 class CGroupDetailsDlg final : public GradientDialog {
   Q_OBJECT
 
  public:
-  /// Without a `group` a new one is begun. What `services` refers to must outlive the dialog.
+  /// Without `group` the dialog creates a new one. The objects that `services` refers to must outlive the
+  /// dialog.
   CGroupDetailsDlg(const AddressBookServices& services, const std::optional<QString>& group,
                    QWidget* parent = nullptr);
 
-  /// What the user made of the group, once the dialog was accepted.
+  /// The changes to the group; valid once the dialog has been accepted.
   [[nodiscard]] GroupChanges changes() const { return draft_.changes(); }
 
-  /// Closes. When something is wrong with the name, shows a message and stays open.
+  /// Closes the dialog if the name is valid. Otherwise reports the error and stays open.
   void accept() override;
 
  private:
@@ -44,11 +45,11 @@ class CGroupDetailsDlg final : public GradientDialog {
   void select();
   void remove();
   void showProperties();
-  /// Null for a new contact.
+  /// `member` is null for a new contact.
   void editContact(const ContactRecord* member);
   void showMembers(const QStringList& selectedNames);
   void enableButtons();
-  /// Shows below the name what is wrong with it as long as the group could not keep it.
+  /// Shows a warning below the name if it would change after a restart.
   void checkName();
 
   AddressBookServices services_;

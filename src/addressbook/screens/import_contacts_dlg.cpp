@@ -20,7 +20,7 @@
 #include <QVBoxLayout>
 
 #include "addressbook/core/contact_import.h"
-#include "addressbook/core/name_order.h"
+#include "addressbook/core/contact_selection.h"
 #include "addressbook/screens/import_preview.h"
 #include "addressbook/screens/import_question_dlg.h"
 #include "addressbook/screens/import_summary_dlg.h"
@@ -37,18 +37,18 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr qint64 repaintPause = 30;  // milliseconds
+constexpr qint64 repaintInterval = 30;  // milliseconds
 
 QString delimiterName(QChar delimiter) {
   switch (delimiter.unicode()) {
     case u',':
-      return u"Comma"_s;
+      return CImportContactsDlg::tr("Comma");
     case u';':
-      return u"Semicolon"_s;
+      return CImportContactsDlg::tr("Semicolon");
     case u'\t':
-      return u"Tab"_s;
+      return CImportContactsDlg::tr("Tab");
     default:
-      return u"Vertical bar"_s;
+      return CImportContactsDlg::tr("Vertical bar");
   }
 }
 
@@ -60,13 +60,13 @@ QCheckBox* checkBox(const QString& text, const QString& objectName, QWidget* par
 
 }  // namespace
 
-/// Answers the running import from the dialog.
-class CImportContactsDlg::Running final : public ImportUser {
+/// Connects a running import to the dialog.
+class CImportContactsDlg::ImportDialogUser final : public ImportUser {
  public:
-  explicit Running(CImportContactsDlg& dialog) : dialog_(dialog) { sinceRepaint_.start(); }
+  explicit ImportDialogUser(CImportContactsDlg& dialog) : dialog_(dialog) { sinceRepaint_.start(); }
 
-  [[nodiscard]] bool goOn(int done, int total) override {
-    if (done > 0 && sinceRepaint_.elapsed() < repaintPause) return !dialog_.isCancelled_;
+  [[nodiscard]] bool reportProgress(int done, int total) override {
+    if (done > 0 && sinceRepaint_.elapsed() < repaintInterval) return !dialog_.isCancelled_;
     sinceRepaint_.restart();
     return dialog_.showProgress(done, total);
   }
@@ -88,7 +88,7 @@ CImportContactsDlg::CImportContactsDlg(const AddressBookServices& services, cons
       group_(selectedGroup),
       source_(services.runner, services.progress) {
   setObjectName(u"importContactsDialog"_s);
-  setWindowTitle(u"Parlexo(TM) : Import Contacts"_s);
+  setWindowTitle(tr("Parlexo(TM) : Import Contacts"));
   createFileControls();
   createPlanControls();
   createBottom();
@@ -100,25 +100,25 @@ CImportContactsDlg::CImportContactsDlg(const AddressBookServices& services, cons
 
 void CImportContactsDlg::createFileControls() {
   file_ = readOnlyField(u"fileField"_s, this);
-  file_->setPlaceholderText(u"A .csv, .txt, .tsv, .xls, .xlsx or .ods file"_s);
-  browse_ = new PictureButton(u"&Browse..."_s, this);
+  file_->setPlaceholderText(tr("A .csv, .txt, .tsv, .xls, .xlsx or .ods file"));
+  browse_ = new PictureButton(tr("&Browse..."), this);
   browse_->setObjectName(u"browseButton"_s);
   connect(browse_, &PictureButton::clicked, this, &CImportContactsDlg::browse);
 
   workbookRow_ = new QWidget(this);
   auto* workbook = new QHBoxLayout(workbookRow_);
   workbook->setContentsMargins({});
-  sheet_ = createChoice(u"sheetChoice"_s, u"S&heet:"_s, *workbook);
+  sheet_ = createChoice(u"sheetChoice"_s, tr("S&heet:"), *workbook);
   textRow_ = new QWidget(this);
   auto* text = new QHBoxLayout(textRow_);
   text->setContentsMargins({});
-  encoding_ = createChoice(u"encodingChoice"_s, u"&Encoding:"_s, *text);
-  delimiter_ = createChoice(u"delimiterChoice"_s, u"&Delimiter:"_s, *text);
+  encoding_ = createChoice(u"encodingChoice"_s, tr("&Encoding:"), *text);
+  delimiter_ = createChoice(u"delimiterChoice"_s, tr("&Delimiter:"), *text);
 
-  encoding_->addItem(u"UTF-8"_s, static_cast<int>(TextEncoding::Utf8));
-  encoding_->addItem(u"UTF-16, little end first"_s, static_cast<int>(TextEncoding::Utf16LittleEndian));
-  encoding_->addItem(u"UTF-16, big end first"_s, static_cast<int>(TextEncoding::Utf16BigEndian));
-  encoding_->addItem(u"Code page of the system"_s, static_cast<int>(TextEncoding::CodePage));
+  encoding_->addItem(tr("UTF-8"), static_cast<int>(TextEncoding::Utf8));
+  encoding_->addItem(tr("UTF-16, little-endian"), static_cast<int>(TextEncoding::Utf16LittleEndian));
+  encoding_->addItem(tr("UTF-16, big-endian"), static_cast<int>(TextEncoding::Utf16BigEndian));
+  encoding_->addItem(tr("System code page"), static_cast<int>(TextEncoding::CodePage));
   for (const QChar known : knownDelimiters) delimiter_->addItem(delimiterName(known), known);
   for (QComboBox* choice : {encoding_, delimiter_})
     connect(choice, &QComboBox::currentIndexChanged, this, &CImportContactsDlg::changeFormat);
@@ -134,7 +134,7 @@ QComboBox* CImportContactsDlg::createChoice(const QString& objectName, const QSt
   choice->setObjectName(objectName);
   row.addWidget(labelFor(choice, caption));
   row.addWidget(choice);
-  row.addSpacing(12);
+  row.addSpacing(look::columnSpacing);
   return choice;
 }
 
@@ -143,7 +143,7 @@ void CImportContactsDlg::createPlanControls() {
   showHeadingRow();
   connect(headings_, &QCheckBox::toggled, this, &CImportContactsDlg::showPreview);
   preview_ = new ImportPreview(this);
-  connect(preview_, &ImportPreview::columnsChanged, this, &CImportContactsDlg::judgeRows);
+  connect(preview_, &ImportPreview::columnsChanged, this, &CImportContactsDlg::validateRows);
   problem_ = wrappedLabel(QString(), this);
   problem_->setObjectName(u"problemLine"_s);
   problem_->setTextFormat(Qt::PlainText);
@@ -151,11 +151,12 @@ void CImportContactsDlg::createPlanControls() {
   countryCode_ = new QLineEdit(this);
   countryCode_->setObjectName(u"countryCode"_s);
   countryCode_->setPlaceholderText(u"+61"_s);
-  countryCode_->setMaximumWidth(countryCode_->fontMetrics().horizontalAdvance(u"+0000000"_s) + 16);
-  connect(countryCode_, &QLineEdit::textChanged, this, &CImportContactsDlg::judgeRows);
-  supportsSms_ = checkBox(u"Supports &SMS"_s, u"supportsSmsBox"_s, this);
+  countryCode_->setMaximumWidth(countryCode_->fontMetrics().horizontalAdvance(u"+0000000"_s) +
+                                look::fieldPadding);
+  connect(countryCode_, &QLineEdit::textChanged, this, &CImportContactsDlg::validateRows);
+  supportsSms_ = checkBox(tr("Supports &SMS"), u"supportsSmsBox"_s, this);
   supportsSms_->setChecked(true);
-  supportsMedia_ = checkBox(u"Supports &Media (WAP and/or MMS)"_s, u"supportsMediaBox"_s, this);
+  supportsMedia_ = checkBox(tr("Supports &Media (WAP and/or MMS)"), u"supportsMediaBox"_s, this);
 }
 
 void CImportContactsDlg::createBottom() {
@@ -163,10 +164,10 @@ void CImportContactsDlg::createBottom() {
   progressText_->setObjectName(u"progressText"_s);
   progressBar_ = new QProgressBar(this);
   progressBar_->setObjectName(u"progressBar"_s);
-  progressBar_->setAccessibleName(u"Importing contacts"_s);
+  progressBar_->setAccessibleName(tr("Importing contacts"));
   progressBar_->setTextVisible(false);
   progressBar_->hide();
-  import_ = new PictureButton(u"&Import"_s, this);
+  import_ = new PictureButton(tr("&Import"), this);
   import_->setObjectName(u"importButton"_s);
   import_->setDefault(true);
   connect(import_, &PictureButton::clicked, this, &CImportContactsDlg::startImport);
@@ -174,7 +175,7 @@ void CImportContactsDlg::createBottom() {
 
 void CImportContactsDlg::createLayout(const QString& group) {
   auto* fileRow = new QHBoxLayout;
-  fileRow->addWidget(labelFor(file_, u"&File:"_s));
+  fileRow->addWidget(labelFor(file_, tr("&File:")));
   fileRow->addWidget(file_, 1);
   fileRow->addWidget(browse_);
   auto* formatRow = new QHBoxLayout;
@@ -183,9 +184,9 @@ void CImportContactsDlg::createLayout(const QString& group) {
   formatRow->addWidget(headings_);
   formatRow->addStretch(1);
   auto* planRow = new QHBoxLayout;
-  planRow->addWidget(labelFor(countryCode_, u"&Country code for numbers without one:"_s));
+  planRow->addWidget(labelFor(countryCode_, tr("&Country code for numbers without one:")));
   planRow->addWidget(countryCode_);
-  planRow->addSpacing(12);
+  planRow->addSpacing(look::columnSpacing);
   planRow->addWidget(supportsSms_);
   planRow->addWidget(supportsMedia_);
   planRow->addStretch(1);
@@ -195,16 +196,17 @@ void CImportContactsDlg::createLayout(const QString& group) {
   options->setContentsMargins({});
   options->addLayout(fileRow);
   options->addLayout(formatRow);
-  options->addWidget(labelFor(preview_->table(), u"First &rows, and what each column becomes:"_s));
+  options->addWidget(labelFor(preview_->table(), tr("First &rows and column assignment:")));
   options->addWidget(preview_, 1);
   options->addWidget(problem_);
   options->addLayout(planRow);
   if (!group.isEmpty()) {
-    auto* joined = wrappedLabel(u"The contacts join the group \"%1\"."_s.arg(shownName(group)), options_);
-    joined->setTextFormat(Qt::PlainText);
-    options->addWidget(joined);
+    auto* groupNote =
+        wrappedLabel(tr("The contacts will be added to the group \"%1\".").arg(shownName(group)), options_);
+    groupNote->setTextFormat(Qt::PlainText);
+    options->addWidget(groupNote);
   }
-  auto* cancel = new PictureButton(u"Cancel"_s, this);
+  auto* cancel = new PictureButton(tr("Cancel"), this);
   cancel->setObjectName(u"cancelButton"_s);
   connect(cancel, &PictureButton::clicked, this, &CImportContactsDlg::reject);
   auto* bottom = new QHBoxLayout;
@@ -214,8 +216,8 @@ void CImportContactsDlg::createLayout(const QString& group) {
   bottom->addWidget(import_);
   bottom->addWidget(cancel);
   auto* layout = new QVBoxLayout(this);
-  layout->setContentsMargins(16, 14, 16, 14);
-  layout->setSpacing(10);
+  layout->setContentsMargins(look::dialogMargins);
+  layout->setSpacing(look::rowSpacing);
   layout->addWidget(options_, 1);
   layout->addLayout(bottom);
 }
@@ -226,8 +228,8 @@ void CImportContactsDlg::browse() {
                          : QFileInfo::exists(documents) ? documents
                                                         : QDir::homePath();
   const QString path =
-      QFileDialog::getOpenFileName(this, u"Import Contacts"_s, folder,
-                                   u"Contacts (*.csv *.txt *.tsv *.xls *.xlsx *.ods);;All files (*)"_s);
+      QFileDialog::getOpenFileName(this, tr("Import Contacts"), folder,
+                                   tr("Contacts (*.csv *.txt *.tsv *.xls *.xlsx *.ods);;All files (*)"));
   if (!path.isEmpty()) openFile(path);
 }
 
@@ -261,38 +263,38 @@ void CImportContactsDlg::changeFormat() {
 
 void CImportContactsDlg::suggestPlan() {
   const QSignalBlocker blocker(headings_);
-  const std::optional<int> found =
+  const std::optional<int> row =
       source_.problem().isEmpty() ? findHeadingRow(source_.preview()) : std::nullopt;
-  headings_->setChecked(found.has_value());
-  headingRow_ = found.value_or(0);
+  headings_->setChecked(row.has_value());
+  headingRow_ = row.value_or(0);
   showHeadingRow();
   showPreview();
 }
 
 void CImportContactsDlg::showHeadingRow() {
-  headings_->setText(headingRow_ == 0 ? u"The first row &names the columns"_s
-                                      : u"Row %1 &names the columns"_s.arg(headingRow_ + 1));
+  headings_->setText(headingRow_ == 0 ? tr("The first row contains column &names")
+                                      : tr("Row %1 contains column &names").arg(headingRow_ + 1));
 }
 
 void CImportContactsDlg::showPreview() {
   ImportPlan suggested = plan();
-  const Sheet nothing;
-  const Sheet& sheet = source_.problem().isEmpty() ? source_.preview() : nothing;
+  const Sheet emptySheet;
+  const Sheet& sheet = source_.problem().isEmpty() ? source_.preview() : emptySheet;
   suggested.columns = suggestColumns(sheet, suggested.headingRow);
   preview_->show(sheet, suggested);
-  preview_->setTabOrderBehind(headings_);
+  preview_->setTabOrderAfter(headings_);
   showProblem();
 }
 
-void CImportContactsDlg::judgeRows() {
-  preview_->judge(source_.preview(), plan());
+void CImportContactsDlg::validateRows() {
+  preview_->updateResults(source_.preview(), plan());
   showProblem();
 }
 
 void CImportContactsDlg::showProblem() {
   const bool isOpen = !source_.path().isEmpty() && source_.problem().isEmpty();
   QStringList problems =
-      isOpen ? QStringList{source_.remark(), problemOfPlan()} : QStringList{source_.problem()};
+      isOpen ? QStringList{source_.remark(), currentProblem()} : QStringList{source_.problem()};
   problems.removeAll(QString());
   QPalette palette = problem_->palette();
   palette.setColor(QPalette::WindowText, look::problemText);
@@ -310,17 +312,17 @@ ImportPlan CImportContactsDlg::plan() const {
           .group = group_};
 }
 
-QString CImportContactsDlg::problemOfPlan() const {
+QString CImportContactsDlg::currentProblem() const {
   const std::optional<QString> code = PhoneNumber::parseCallingCode(countryCode_->text());
-  if (!code) return u"The country code is a plus sign and one to four digits, as in +61."_s;
+  if (!code) return tr("The country code must be a plus sign and one to four digits, for example +61.");
   if (!code->isEmpty() && !PhoneNumber::isCallingCodeInUse(*code))
-    return u"The country code %1 is not in use."_s.arg(*code);
+    return tr("The country code %1 is not in use.").arg(*code);
   return planProblem(plan());
 }
 
 void CImportContactsDlg::startImport() {
   if (isImporting_ || !import_->isEnabled()) return;
-  if (const QString problem = problemOfPlan(); !problem.isEmpty()) {
+  if (const QString problem = currentProblem(); !problem.isEmpty()) {
     services_.notifier.error(problem);
     return;
   }
@@ -331,8 +333,9 @@ void CImportContactsDlg::startImport() {
   }
   const ImportPlan chosen = plan();
   setImporting(true);
-  Running user(*this);
-  const ImportOutcome outcome = importContacts(source_.preview(), chosen, services_.book, user);
+  ImportDialogUser user(*this);
+  const ImportOutcome outcome =
+      importContacts(source_.preview(), chosen, services_.book, user, services_.notifier);
   setImporting(false);
   importedNames_ = outcome.names;
   CImportSummaryDlg(source_.preview(), chosen, outcome, services_.notifier, this).exec();

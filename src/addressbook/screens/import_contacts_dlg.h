@@ -20,29 +20,29 @@ namespace parlexo {
 class ImportPreview;
 class PictureButton;
 
-/// Imports contacts from a delimited text file or a workbook: shows how the file will be read, lets the user
-/// change all of that, and imports. The dialog is accepted when an import has run, to its end or not.
+/// Imports contacts from a delimited text file or a workbook: previews the file, lets the user change how it
+/// is read, and runs the import. Accepted once an import has run, even if it was cancelled.
 class CImportContactsDlg : public GradientDialog {
   Q_OBJECT
 
  public:
-  /// `selectedGroup` is the group that the contacts join; without one they only come into the address book.
-  /// `services` must refer to objects that outlive the dialog.
+  /// The contacts are added to `selectedGroup`, unless it is empty. The objects that `services` refers to
+  /// must outlive the dialog.
   CImportContactsDlg(const AddressBookServices& services, const QString& selectedGroup,
                      QWidget* parent = nullptr);
 
-  /// Shows the file, as "Browse" does.
+  /// Loads and previews a file, like "Browse".
   void openFile(const QString& path);
-  /// Imports by what is chosen, and tells what became of it.
+  /// Runs the import with the current settings and shows a summary.
   void startImport();
-  /// The contacts that came into the address book or were updated there.
+  /// The names of the contacts that were added or updated.
   [[nodiscard]] const QStringList& importedNames() const { return importedNames_; }
 
-  /// Ends an import that is running, at its next row; else closes the dialog.
+  /// Cancels a running import at its next row; otherwise closes the dialog.
   void reject() override;
 
  private:
-  class Running;
+  class ImportDialogUser;
 
   void createFileControls();
   void createPlanControls();
@@ -56,12 +56,12 @@ class CImportContactsDlg : public GradientDialog {
   void suggestPlan();
   void showHeadingRow();
   void showPreview();
-  void judgeRows();
+  void validateRows();
   void showProblem();
   [[nodiscard]] ImportPlan plan() const;
-  [[nodiscard]] QString problemOfPlan() const;
+  [[nodiscard]] QString currentProblem() const;
   void setImporting(bool importing);
-  /// Shows how far the import has come. False when the user has cancelled.
+  /// Updates the progress bar and processes events. Returns false if the user has cancelled.
   [[nodiscard]] bool showProgress(int done, int total);
 
   AddressBookServices services_;
@@ -75,7 +75,7 @@ class CImportContactsDlg : public GradientDialog {
   QComboBox* encoding_;
   QComboBox* delimiter_;
   QCheckBox* headings_;
-  int headingRow_ = 0;  ///< of the sheet, where headings_ is checked
+  int headingRow_ = 0;  ///< row of the sheet; used if headings_ is checked
   ImportPreview* preview_;
   QLabel* problem_;
   QLineEdit* countryCode_;

@@ -22,36 +22,36 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// A file may have a thousand columns, of which a contact can take fourteen.
-constexpr int shownColumns = 60;
+// A file may have thousands of columns, but a contact has only fourteen fields.
+constexpr int maxColumns = 60;
 constexpr int resultColumn = 0;
 constexpr int firstFileColumn = 1;
-constexpr int narrowest = 120;
-constexpr int widest = 260;
-constexpr int resultWidth = 370;  // the commonest reasons are read without the tooltip
-constexpr qsizetype longestShown = 200;
+constexpr int minColumnWidth = 120;  // pixels
+constexpr int maxColumnWidth = 260;
+constexpr int resultWidth = 370;  // the most common reasons fit without the tooltip
+constexpr qsizetype maxCellLength = 200;
 
 QTableWidgetItem* cellItem(const QString& text) {
-  auto* item = new QTableWidgetItem(text.left(longestShown).simplified());
-  item->setToolTip(text.left(longestShown));
+  auto* item = new QTableWidgetItem(text.left(maxCellLength).simplified());
+  item->setToolTip(text.left(maxCellLength));
   return item;
 }
 
-/// The contact that a row becomes, or why it is refused; in red what is lost.
+/// The contact resulting from a row, or why the row is refused. Red if data is lost.
 QTableWidgetItem* resultItem(const ImportRow& row) {
   const QString number = row.contact.phone.isEmpty() ? row.contact.fax : row.contact.phone;
   const QString contact = u"%1 [%2]"_s.arg(row.contact.name, number);
-  auto* item = cellItem(!row.refusal.isEmpty() ? u"Refused: "_s + row.refusal
+  auto* item = cellItem(!row.refusal.isEmpty() ? ImportPreview::tr("Refused: %1").arg(row.refusal)
                         : row.remark.isEmpty() ? contact
-                                               : contact + u". "_s + row.remark);
+                                               : u"%1. %2"_s.arg(contact, row.remark));
   if (!row.refusal.isEmpty() || !row.remark.isEmpty()) item->setForeground(look::problemText);
   return item;
 }
 
-QString headingOf(const Sheet& sheet, int column, std::optional<int> headingRow) {
+QString columnHeading(const Sheet& sheet, int column, std::optional<int> headingRow) {
   const QString heading =
-      headingRow ? sheet.cell(*headingRow, column).toString().simplified().left(longestShown) : QString();
-  return heading.isEmpty() ? u"Column %1"_s.arg(column + 1) : heading;
+      headingRow ? sheet.cell(*headingRow, column).toString().simplified().left(maxCellLength) : QString();
+  return heading.isEmpty() ? ImportPreview::tr("Column %1").arg(column + 1) : heading;
 }
 
 }  // namespace
@@ -60,7 +60,7 @@ ImportPreview::ImportPreview(QWidget* parent)
     : QWidget(parent), strip_(new QWidget(this)), table_(new QTableWidget(this)) {
   styleList(*table_);
   table_->setObjectName(u"preview"_s);
-  table_->setAccessibleName(u"First rows, and what each column becomes:"_s);
+  table_->setAccessibleName(tr("First rows and column assignment:"));
   table_->setEditTriggers(QAbstractItemView::NoEditTriggers);
   table_->setSelectionMode(QAbstractItemView::NoSelection);
   table_->setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
@@ -84,14 +84,14 @@ void ImportPreview::show(const Sheet& sheet, const ImportPlan& plan) {
   choices_.clear();
   rows_.clear();
   columns_ = plan.columns;
-  const int columns = std::min(sheet.columnCount(), shownColumns);
+  const int columns = std::min(sheet.columnCount(), maxColumns);
   for (int row = plan.firstRow();
        row < sheet.rowCount() && rows_.size() < static_cast<std::size_t>(ImportSource::previewRows); ++row)
     if (!sheet.isBlank(row)) rows_.push_back(row);
   table_->setColumnCount(columns == 0 ? 0 : firstFileColumn + columns);
   table_->setRowCount(columns == 0 ? 0 : static_cast<int>(rows_.size()));
-  QStringList headings = {u"Contact"_s};
-  for (int column = 0; column < columns; ++column) headings << headingOf(sheet, column, plan.headingRow);
+  QStringList headings = {tr("Contact")};
+  for (int column = 0; column < columns; ++column) headings << columnHeading(sheet, column, plan.headingRow);
   table_->setHorizontalHeaderLabels(headings);
   for (int column = 0; column < columns; ++column)
     addChoice(column, plan.columns[static_cast<std::size_t>(column)]);
@@ -103,15 +103,15 @@ void ImportPreview::show(const Sheet& sheet, const ImportPlan& plan) {
 void ImportPreview::addChoice(int column, ImportField field) {
   auto* choice = new QComboBox(strip_);
   choice->setObjectName(u"column%1Choice"_s.arg(column + 1));
-  const QString purpose = u"What column %1 becomes"_s.arg(column + 1);
-  choice->setAccessibleName(purpose);
-  choice->setAccessibleDescription(purpose);  // Qt on Unix names a combo box by its value
+  const QString label = tr("Field for column %1").arg(column + 1);
+  choice->setAccessibleName(label);
+  choice->setAccessibleDescription(label);  // on Unix, Qt reports a combo box's value as its name
   for (const ImportField offered : importFields())
     choice->addItem(fieldLabel(offered), static_cast<int>(offered));
   choice->setCurrentIndex(choice->findData(static_cast<int>(field)));
   choice->setMaxVisibleItems(choice->count());
   choice->installEventFilter(this);
-  connect(choice, &QComboBox::currentIndexChanged, this, [this, column] { takeChoice(column); });
+  connect(choice, &QComboBox::currentIndexChanged, this, [this, column] { applyChoice(column); });
   choices_.push_back(choice);
   choice->show();
 }
@@ -139,16 +139,16 @@ void ImportPreview::scrollToChoice(const QComboBox& choice) {
   if (choice.x() < 0) bar.setValue(bar.value() + choice.x());
 }
 
-void ImportPreview::setTabOrderBehind(QWidget* before) {
+void ImportPreview::setTabOrderAfter(QWidget* previous) {
   for (QComboBox* choice : choices_) {
-    setTabOrder(before, choice);
-    before = choice;
+    setTabOrder(previous, choice);
+    previous = choice;
   }
-  setTabOrder(before, table_);
+  setTabOrder(previous, table_);
 }
 
-// A field can come from one column only: the column that had it before gives it up.
-void ImportPreview::takeChoice(int column) {
+// A field can be assigned to only one column, so the previous one is reset.
+void ImportPreview::applyChoice(int column) {
   const auto field =
       static_cast<ImportField>(choices_[static_cast<std::size_t>(column)]->currentData().toInt());
   for (std::size_t other = 0; other < columns_.size(); ++other) {
@@ -171,18 +171,18 @@ void ImportPreview::fillRows(const Sheet& sheet, const ImportPlan& plan) {
     for (std::size_t column = 0; column < choices_.size(); ++column)
       table_->setItem(static_cast<int>(i), firstFileColumn + static_cast<int>(column),
                       cellItem(sheet.cell(rows_[i], static_cast<int>(column)).toString()));
-  judge(sheet, plan);
+  updateResults(sheet, plan);
   table_->resizeColumnsToContents();
   for (int column = 0; column < table_->columnCount(); ++column)
-    table_->setColumnWidth(column, std::clamp(table_->columnWidth(column), narrowest, widest));
+    table_->setColumnWidth(column, std::clamp(table_->columnWidth(column), minColumnWidth, maxColumnWidth));
   if (table_->columnCount() > 0) table_->setColumnWidth(resultColumn, resultWidth);
 }
 
-void ImportPreview::judge(const Sheet& sheet, const ImportPlan& plan) {
-  const bool canBeRead = planProblem(plan).isEmpty();
+void ImportPreview::updateResults(const Sheet& sheet, const ImportPlan& plan) {
+  const bool isValid = planProblem(plan).isEmpty();
   for (std::size_t i = 0; i < rows_.size(); ++i)
     table_->setItem(static_cast<int>(i), resultColumn,
-                    canBeRead ? resultItem(readImportRow(sheet, rows_[i], plan)) : cellItem({}));
+                    isValid ? resultItem(readImportRow(sheet, rows_[i], plan)) : cellItem({}));
 }
 
 QSize ImportPreview::sizeHint() const {

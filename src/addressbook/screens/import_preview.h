@@ -13,26 +13,26 @@ class QTableWidget;
 
 namespace parlexo {
 
-/// The first rows of an imported file as they will be read. Above each column the user chooses what the
-/// column becomes; the first cell of each row shows the contact it will be, or why it will be refused.
+/// Preview of the first rows of a file to import. A combo box above each column assigns it to a contact
+/// field; the first cell of each row shows the resulting contact, or why the row will be refused.
 class ImportPreview final : public QWidget {
   Q_OBJECT
 
  public:
   explicit ImportPreview(QWidget* parent = nullptr);
 
-  /// Shows the sheet's first rows, with `columns` chosen above them.
+  /// Shows the first rows of `sheet`, with the columns assigned as in `plan`.
   void show(const Sheet& sheet, const ImportPlan& plan);
-  /// Reads the rows anew by another plan for the same columns.
-  void judge(const Sheet& sheet, const ImportPlan& plan);
+  /// Updates the resulting contacts for a plan with the same columns.
+  void updateResults(const Sheet& sheet, const ImportPlan& plan);
 
-  /// What the user chose.
+  /// The current assignment of the columns.
   [[nodiscard]] ImportColumns columns() const;
-  /// The table of rows, for a label to refer to.
+  /// The table, to be the buddy of a label.
   [[nodiscard]] QTableWidget* table() const { return table_; }
-  /// Puts the choices and then the table behind `before` in the tab order. To be repeated after show(), which
-  /// makes new choices.
-  void setTabOrderBehind(QWidget* before);
+  /// Places the combo boxes and then the table after `previous` in the tab order. Must be called after each
+  /// show(), which creates new combo boxes.
+  void setTabOrderAfter(QWidget* previous);
 
   [[nodiscard]] QSize sizeHint() const override;
   bool eventFilter(QObject* watched, QEvent* event) override;
@@ -41,18 +41,18 @@ class ImportPreview final : public QWidget {
   void columnsChanged();
 
  private:
-  /// Keeps the choices above their columns as the table is scrolled and its columns are resized.
+  /// Aligns the combo boxes with their columns after scrolling or resizing.
   void placeChoices();
   void scrollToChoice(const QComboBox& choice);
   void addChoice(int column, ImportField field);
-  void takeChoice(int column);
+  void applyChoice(int column);
   void fillRows(const Sheet& sheet, const ImportPlan& plan);
 
-  QWidget* strip_;  ///< the choices; in cells of the table, assistive tools would not find them
+  QWidget* strip_;  ///< parent of the combo boxes; assistive tools would not find them in table cells
   QTableWidget* table_;
   std::vector<QComboBox*> choices_;
   ImportColumns columns_;
-  std::vector<int> rows_;  ///< of the sheet
+  std::vector<int> rows_;  ///< row numbers in the sheet
 };
 
 }  // namespace parlexo

@@ -15,13 +15,14 @@ namespace parlexo {
 using namespace Qt::StringLiterals;
 
 CImportQuestionDlg::CImportQuestionDlg(const QString& contactName, QWidget* parent)
-    : GradientDialog(parent), forAll_(new QCheckBox(u"&Do this for all contacts that exist"_s, this)) {
+    : GradientDialog(parent), forAll_(new QCheckBox(tr("&Do this for all existing contacts"), this)) {
   constexpr int widthUnits = 230;
   setObjectName(u"importQuestionDialog"_s);
-  setWindowTitle(u"Parlexo(TM) : Import Contacts"_s);
+  setWindowTitle(tr("Parlexo(TM) : Import Contacts"));
   auto* question = new QLabel(
-      u"A contact with the name \"%1\" already exists. Do you want to overwrite it?\n\nFields that "
-      "the file does not have keep their values."_s.arg(contactName),
+      tr("A contact with the name \"%1\" already exists. Do you want to overwrite it?\n\nFields that "
+         "the file does not have keep their values.")
+          .arg(contactName),
       this);
   question->setObjectName(u"question"_s);
   question->setTextFormat(Qt::PlainText);
@@ -44,8 +45,8 @@ CImportQuestionDlg::CImportQuestionDlg(const QString& contactName, QWidget* pare
   auto* no = addButton(TextId::ButtonNo, u"noButton"_s, ImportUser::Choice::Skip);
   addButton(TextId::ButtonCancel, u"cancelButton"_s, ImportUser::Choice::Cancel);
   auto* layout = new QVBoxLayout(this);
-  layout->setContentsMargins(16, 14, 16, 14);
-  layout->setSpacing(12);
+  layout->setContentsMargins(look::dialogMargins);
+  layout->setSpacing(look::questionSpacing);
   layout->addWidget(question);
   layout->addWidget(forAll_);
   layout->addLayout(row);

@@ -8,14 +8,14 @@ class QCheckBox;
 
 namespace parlexo {
 
-/// Asks during an import what to do about a contact that the address book has already.
+/// Asks during an import what to do with a contact that already exists in the address book.
 class CImportQuestionDlg final : public GradientDialog {
   Q_OBJECT
 
  public:
   explicit CImportQuestionDlg(const QString& contactName, QWidget* parent = nullptr);
 
-  /// Cancel until the user has answered; so do Escape and the close box.
+  /// The user's answer; Cancel if the dialog was closed otherwise.
   [[nodiscard]] ImportUser::Answer answer() const;
 
  private:

@@ -22,13 +22,13 @@ CImportSummaryDlg::CImportSummaryDlg(const Sheet& sheet, const ImportPlan& plan,
                                      Notifier& notifier, QWidget* parent)
     : GradientDialog(parent), sheet_(sheet), plan_(plan), outcome_(outcome), notifier_(notifier) {
   setObjectName(u"importSummaryDialog"_s);
-  setWindowTitle(u"Parlexo(TM) : Import Contacts"_s);
+  setWindowTitle(tr("Parlexo(TM) : Import Contacts"));
   auto* layout = new QVBoxLayout(this);
-  layout->setContentsMargins(16, 14, 16, 14);
-  layout->setSpacing(10);
+  layout->setContentsMargins(look::dialogMargins);
+  layout->setSpacing(look::rowSpacing);
   auto* summary = new QLabel(summaryText(outcome), this);
   summary->setObjectName(u"summary"_s);
-  summary->setMinimumWidth(dialogUnits(*this, 170, 0).width());  // the title is read whole
+  summary->setMinimumWidth(dialogUnits(*this, 170, 0).width());  // fits the window title
   layout->addWidget(summary);
   if (!outcome.refused.empty() || !outcome.remarks.empty()) addRows(*layout);
   addButtons(*layout);
@@ -36,25 +36,25 @@ CImportSummaryDlg::CImportSummaryDlg(const Sheet& sheet, const ImportPlan& plan,
 
 QStringList CImportSummaryDlg::rowTexts() const {
   QStringList texts;
-  for (const ImportOutcome::Refused& refused : outcome_.refused)
-    texts << u"Row %1: %2"_s.arg(refused.row + 1).arg(refused.reason);
-  for (const ImportOutcome::Remark& remark : outcome_.remarks)
-    texts << u"Row %1 is imported in part: %2"_s.arg(remark.row + 1).arg(remark.text);
+  for (const ImportOutcome::RowNote& refused : outcome_.refused)
+    texts << tr("Row %1: %2").arg(refused.row + 1).arg(refused.text);
+  for (const ImportOutcome::RowNote& remark : outcome_.remarks)
+    texts << tr("Row %1 was imported partially: %2").arg(remark.row + 1).arg(remark.text);
   return texts;
 }
 
 void CImportSummaryDlg::addRows(QVBoxLayout& layout) {
-  constexpr qsizetype mostShown = 1000;
-  const QString caption = outcome_.remarks.empty()   ? u"&Refused rows:"_s
-                          : outcome_.refused.empty() ? u"&Rows imported in part:"_s
-                                                     : u"&Rows refused or imported in part:"_s;
+  constexpr qsizetype maxRows = 1000;
+  const QString caption = outcome_.remarks.empty()   ? tr("&Refused rows:")
+                          : outcome_.refused.empty() ? tr("&Rows imported partially:")
+                                                     : tr("&Rows refused or imported partially:");
   auto* list = new QListWidget(this);
   list->setObjectName(u"refusedList"_s);
   list->setAccessibleName(QString(caption).remove(u'&'));
   styleList(*list);
   const QStringList texts = rowTexts();
-  list->addItems(texts.mid(0, mostShown));
-  if (texts.size() > mostShown) list->addItem(u"and %L1 more"_s.arg(texts.size() - mostShown));
+  list->addItems(texts.mid(0, maxRows));
+  if (texts.size() > maxRows) list->addItem(tr("and %L1 more").arg(texts.size() - maxRows));
   list->setMinimumSize(dialogUnits(*this, 250, 80));
   auto* label = new QLabel(caption, this);
   label->setBuddy(list);
@@ -66,7 +66,7 @@ void CImportSummaryDlg::addButtons(QVBoxLayout& layout) {
   auto* row = new QHBoxLayout;
   row->addStretch(1);
   if (!outcome_.refused.empty()) {
-    auto* save = new PictureButton(u"&Save refused rows..."_s, this);
+    auto* save = new PictureButton(tr("&Save refused rows..."), this);
     save->setObjectName(u"saveRefusedButton"_s);
     connect(save, &PictureButton::clicked, this, &CImportSummaryDlg::saveRefused);
     row->addWidget(save);
@@ -81,7 +81,7 @@ void CImportSummaryDlg::addButtons(QVBoxLayout& layout) {
 }
 
 void CImportSummaryDlg::saveRefused() {
-  const QString path = askForCsvPath(this, u"refused rows"_s);
+  const QString path = askForCsvPath(this, tr("refused rows"));
   if (!path.isEmpty()) saveRefusedTo(path);
 }
 

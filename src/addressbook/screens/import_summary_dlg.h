@@ -12,17 +12,16 @@ namespace parlexo {
 
 class Notifier;
 
-/// Tells at the end of an import what became of it and which rows were refused, and lets the user save
-/// those.
+/// Shows the result of an import and the refused rows, which the user can save to a file.
 class CImportSummaryDlg final : public GradientDialog {
   Q_OBJECT
 
  public:
-  /// All must outlive the dialog.
+  /// All arguments must outlive the dialog.
   CImportSummaryDlg(const Sheet& sheet, const ImportPlan& plan, const ImportOutcome& outcome,
                     Notifier& notifier, QWidget* parent = nullptr);
 
-  /// Writes the refused rows into the file; true when that succeeded, else after a message.
+  /// Writes the refused rows to a CSV file. Reports an error and returns false on failure.
   bool saveRefusedTo(const QString& path);
 
  private:

@@ -17,19 +17,19 @@ class AddressBook;
 class ExtraValueBox;
 class Notifier;
 
-/// Lets the user pick every contact whose Extra fields carry chosen values: values within one field are
-/// alternatives, and all fields with a choice must match.
+/// Selects all contacts whose Extra fields have the chosen values. Values of one field are alternatives;
+/// every field with a chosen value must match.
 class CSelectByExtraDlg final : public GradientDialog {
   Q_OBJECT
 
  public:
-  /// Offers the values that the contacts of `book` have. `book` and `notifier` must outlive the dialog.
+  /// Offers the values used in `book`. `book` and `notifier` must outlive the dialog.
   CSelectByExtraDlg(const AddressBook& book, Notifier& notifier, QWidget* parent = nullptr);
 
-  /// The contacts that match, in the order of the book, once the dialog was accepted; empty before.
+  /// The matching contacts in the order of the book; empty until the dialog has been accepted.
   [[nodiscard]] const ContactSelection::Contacts& contacts() const { return matching_; }
 
-  /// Closes with the matching contacts; without any chosen value it tells the user and stays open.
+  /// Closes the dialog. Shows a warning and stays open if no value is chosen.
   void accept() override;
 
  private:

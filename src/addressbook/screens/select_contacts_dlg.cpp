@@ -7,7 +7,7 @@
 #include <QTimer>
 #include <QVBoxLayout>
 
-#include "addressbook/screens/check_list_view.h"
+#include "addressbook/screens/check_list_model.h"
 #include "addressbook/screens/select_by_extra_dlg.h"
 #include "ui/list_style.h"
 #include "ui/look.h"
@@ -26,14 +26,14 @@ constexpr int numberWidth = 100;
 constexpr int listHeightUnits = 190;
 
 QString contactCountText(int ticked, int all, int tickedAndShown) {
-  QString count = u"%1 of %2 contacts selected"_s.arg(ticked).arg(all);
+  QString count = CSelectContactsDlg::tr("%1 of %2 contacts selected").arg(ticked).arg(all);
   if (ticked == tickedAndShown) return count;
-  return count + u", %1 hidden by the search"_s.arg(ticked - tickedAndShown);
+  return CSelectContactsDlg::tr("%1, %2 hidden by the search").arg(count).arg(ticked - tickedAndShown);
 }
 
 }  // namespace
 
-CSelectContactsDlg::CSelectContactsDlg(const AddressBook& book, const QString& mode,
+CSelectContactsDlg::CSelectContactsDlg(const AddressBook& book, SelectionMode mode,
                                        const ContactSelection& initial, Notifier& notifier, QWidget* parent)
     : GradientDialog(parent),
       book_(book),
@@ -42,7 +42,7 @@ CSelectContactsDlg::CSelectContactsDlg(const AddressBook& book, const QString& m
       lists_(book, mode, initial),
       groups_(lists_),
       contacts_(lists_, mode) {
-  setWindowTitle(u"Parlexo(TM) : Contacts"_s);
+  setWindowTitle(tr("Parlexo(TM) : Contacts"));
   setObjectName(u"selectContactsDialog"_s);
   createLists();
   createSearches();
@@ -50,15 +50,15 @@ CSelectContactsDlg::CSelectContactsDlg(const AddressBook& book, const QString& m
   createLayout();
   showCount();
   contactView_->setFocus(Qt::OtherFocusReason);
-  // Once the dialog is seen and before anybody can type.
+  // After the dialog has been painted, but before the user can type.
   QTimer::singleShot(0, this, [this] { contacts_.prepareSearch(); });
 }
 
 void CSelectContactsDlg::createLists() {
-  groupView_ = new CheckListView(groups_, u"Groups:"_s, this);
+  groupView_ = new CheckListView(groups_, tr("Groups:"), this);
   groupView_->setObjectName(u"groupList"_s);
   groupView_->setColumnWidths({checkWidth, nameWidth});
-  contactView_ = new CheckListView(contacts_, u"Contacts:"_s, this);
+  contactView_ = new CheckListView(contacts_, tr("Contacts:"), this);
   contactView_->setObjectName(u"contactList"_s);
   // The longest international number has 15 digits.
   const int fittingNumberWidth = fittingColumnWidth(*contactView_, numberWidth, u"+000000000000000"_s);
@@ -71,10 +71,10 @@ void CSelectContactsDlg::createLists() {
 }
 
 void CSelectContactsDlg::createSearches() {
-  groupSearch_ = new SearchField(u"Search groups"_s, *groupView_, this);
+  groupSearch_ = new SearchField(tr("Search groups"), *groupView_, this);
   groupSearch_->setObjectName(u"groupSearch"_s);
   connect(groupSearch_, &QLineEdit::textChanged, &groups_, &CheckListModel::search);
-  contactSearch_ = new SearchField(u"Search name, number or Extra"_s, *contactView_, this);
+  contactSearch_ = new SearchField(tr("Search name, number or Extra"), *contactView_, this);
   contactSearch_->setObjectName(u"contactSearch"_s);
   connect(contactSearch_, &QLineEdit::textChanged, &contacts_, &CheckListModel::search);
   count_ = new QLabel(this);
@@ -91,23 +91,23 @@ void CSelectContactsDlg::createButtons() {
     return created;
   };
   extraButton_ =
-      button(u"Select by E&xtra..."_s, u"selectByExtraButton"_s, &CSelectContactsDlg::selectByExtra);
-  selectButton_ = button(u"&Select"_s, u"selectButton"_s, &QDialog::accept);
-  clearButton_ = button(u"&Clear All Selection"_s, u"clearAllButton"_s, &CSelectContactsDlg::clearTicks);
-  cancelButton_ = button(u"&Cancel"_s, u"cancelButton"_s, &QDialog::reject);
+      button(tr("Select by E&xtra..."), u"selectByExtraButton"_s, &CSelectContactsDlg::selectByExtra);
+  selectButton_ = button(tr("&Select"), u"selectButton"_s, &QDialog::accept);
+  clearButton_ = button(tr("&Clear All Selection"), u"clearAllButton"_s, &CSelectContactsDlg::clearTicks);
+  cancelButton_ = button(tr("&Cancel"), u"cancelButton"_s, &QDialog::reject);
   selectButton_->setDefault(true);
 }
 
 void CSelectContactsDlg::createLayout() {
   auto* lists = new QGridLayout;
-  lists->addLayout(searchRow(u"&Groups:"_s, *groupSearch_), 0, 0);
-  lists->addLayout(searchRow(u"C&ontacts:"_s, *contactSearch_), 0, 1);
+  lists->addLayout(searchRow(tr("&Groups:"), *groupSearch_), 0, 0);
+  lists->addLayout(searchRow(tr("C&ontacts:"), *contactSearch_), 0, 1);
   lists->addWidget(groupView_, 1, 0);
   lists->addWidget(contactView_, 1, 1);
   lists->addWidget(count_, 2, 1);
   lists->setColumnStretch(0, groupView_->fittingWidth());
   lists->setColumnStretch(1, contactView_->fittingWidth());
-  lists->setHorizontalSpacing(12);
+  lists->setHorizontalSpacing(look::columnSpacing);
 
   auto* buttons = new QHBoxLayout;
   buttons->addWidget(extraButton_);
@@ -116,7 +116,7 @@ void CSelectContactsDlg::createLayout() {
 
   auto* layout = new QVBoxLayout(this);
   layout->addLayout(lists, 1);
-  layout->addSpacing(6);
+  layout->addSpacing(look::controlSpacing);
   layout->addLayout(buttons);
   resize(sizeHint().width(), sizeHint().height() + dialogUnits(*this, 0, listHeightUnits / 2).height());
 }

@@ -6,7 +6,6 @@
 #include "addressbook/core/contact_selection.h"
 #include "addressbook/core/selection_lists.h"
 #include "addressbook/screens/contact_list_model.h"
-#include "addressbook/screens/group_list_model.h"
 #include "ui/gradient_page.h"
 
 class QLabel;
@@ -19,19 +18,18 @@ class Notifier;
 class PictureButton;
 class SearchField;
 
-/// Lets the user pick contacts by ticking them, ticking whole groups, or choosing values of their Extra
-/// fields. Searches hide rows of the lists; hidden rows keep their ticks and count.
+/// Selects contacts by ticking them, ticking whole groups, or choosing values of their Extra fields. Contacts
+/// hidden by a search keep their ticks and count as selected.
 class CSelectContactsDlg final : public GradientDialog {
   Q_OBJECT
 
  public:
-  /// Offers the contacts of `book` that are eligible for `mode` (see eligibilityFor()), with those of
+  /// Offers the contacts of `book` that are eligible for `mode` (see isEligible()), with those of
   /// `initial` ticked. `book` and `notifier` must outlive the dialog.
-  CSelectContactsDlg(const AddressBook& book, const QString& mode, const ContactSelection& initial,
+  CSelectContactsDlg(const AddressBook& book, SelectionMode mode, const ContactSelection& initial,
                      Notifier& notifier, QWidget* parent = nullptr);
 
-  /// The picked contacts once "Select" has been pressed; until then, and after "Cancel", the initial ones
-  /// as they were given.
+  /// The ticked contacts once the dialog has been accepted; otherwise `initial`.
   [[nodiscard]] const ContactSelection& selection() const { return selection_; }
 
   void accept() override;

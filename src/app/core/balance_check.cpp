@@ -11,8 +11,8 @@ namespace {
 
 constexpr double lowBalance = 2.0;
 
-// Two decimals whatever the locale; the widest double has max_exponent10 digits before the point.
-QString twoDecimals(double value) {
+// Independent of the locale. The largest double has max_exponent10 digits before the decimal point.
+QString formatAmount(double value) {
   std::array<char, std::numeric_limits<double>::max_exponent10 + 8> digits{};
   const auto end =
       std::to_chars(digits.data(), digits.data() + digits.size(), value, std::chars_format::fixed, 2);
@@ -23,19 +23,24 @@ QString twoDecimals(double value) {
 
 QString BalanceCheck::run() {
   const auto balance = query();
-  return balance ? take(*balance) : QString();
+  return balance ? report(*balance) : QString();
 }
 
 std::optional<QString> BalanceCheck::refresh() {
   const auto balance = query();
   if (!balance) return std::nullopt;
   if (*balance <= 0.0) state_.balanceIsZero = true;
-  return twoDecimals(*balance);
+  return formatAmount(*balance);
 }
 
-QString BalanceCheck::take(double balance) {
-  judge(balance);
-  return twoDecimals(balance);
+QString BalanceCheck::report(double balance) {
+  if (balance <= 0.0) {
+    state_.balanceIsZero = true;
+    warn(TextId::BalanceZero);
+  } else if (balance < lowBalance) {
+    warn(TextId::BalanceLow);
+  }
+  return formatAmount(balance);
 }
 
 std::optional<double> BalanceCheck::query() {
@@ -47,15 +52,6 @@ std::optional<double> BalanceCheck::query() {
   }
   if (reply->nErrorCode != 0) return std::nullopt;
   return reply->dValue;
-}
-
-void BalanceCheck::judge(double balance) {
-  if (balance <= 0.0) {
-    state_.balanceIsZero = true;
-    warn(TextId::BalanceZero);
-  } else if (balance < lowBalance) {
-    warn(TextId::BalanceLow);
-  }
 }
 
 void BalanceCheck::warn(TextId warning) {

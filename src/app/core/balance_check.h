@@ -13,30 +13,28 @@
 
 namespace parlexo {
 
-/// Asks for the account's balance when the main window is about to open and warns of a low one. All
-/// arguments of the constructor must outlive the check.
+/// Queries the account's balance for the main window and warns if it is low.
 class BalanceCheck {
  public:
+  /// All arguments must outlive this object.
   BalanceCheck(RunState& state, const Gateway& gateway, Notifier& notifier, Progress& progress)
       : state_(state), gateway_(gateway), notifier_(notifier), progress_(progress) {}
 
-  /// Returns the balance with two decimals, as the main window shows it, or an empty text when it could
-  /// not be had. A gateway out of reach is reported; one that refuses to tell is passed over in silence. A
-  /// balance of zero or less sets RunState::balanceIsZero for the rest of the run. The progress box is
-  /// hidden before any message.
+  /// Queries the balance for a main window that is about to open. Returns it with two decimals, or an empty
+  /// string if the query failed. Reports an unreachable gateway; an error code of the gateway is ignored.
+  /// Warns if the balance is low. A balance of zero or less sets RunState::balanceIsZero for the rest of the
+  /// run. Hides the progress box before any message.
   [[nodiscard]] QString run();
 
-  /// The current balance, for a user who asked for it: as run(), but none when it could not be had, and
-  /// without the warnings, which belong to the start of a run. What a balance of zero forbids, the send pages
-  /// say when asked to.
+  /// Like run(), but for a refresh by the user: without warnings, and nullopt if the query failed.
   [[nodiscard]] std::optional<QString> refresh();
 
-  /// Judges a balance that the gateway has told and returns it with two decimals.
-  [[nodiscard]] QString take(double balance);
+  /// Warns if `balance` is low and returns it with two decimals. A balance of zero or less sets
+  /// RunState::balanceIsZero.
+  [[nodiscard]] QString report(double balance);
 
  private:
   std::optional<double> query();
-  void judge(double balance);
   void warn(TextId warning);
 
   RunState& state_;

@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/core/command_line.h"
 
-#include <optional>
+#include <cstdio>
 
+#include <QCommandLineParser>
+#include <QCoreApplication>
 #include <QDir>
 #include <QUrl>
 
@@ -10,53 +12,39 @@
 
 namespace parlexo {
 
-namespace {
-
 using namespace Qt::StringLiterals;
 
-constexpr int wrongUsage = 2;
+namespace {
 
-QString helpText() {
-  return u"Usage: parlexo-client [options]\n"
-         "\n"
-         "Sends messages through the Parlexo gateway and follows their delivery.\n"
-         "\n"
-         "Options:\n"
-         "  --demo                  try the program out: a gateway simulator inside the process,\n"
-         "                          sample contacts, account demo with password demo1234\n"
-         "  --site http://HOST:PORT ask this web site where the gateway is, not %1\n"
-         "  --data-dir DIR          keep contacts, templates, status log and settings in DIR\n"
-         "  -v, --version           print the version and end\n"
-         "  -h, --help              print this text and end\n"_s.arg(defaultServiceHost());
+constexpr int wrongUsageCode = 2;
+const QString clientProgram = u"parlexo-client"_s;
+const QString siteOption = u"site"_s;
+const QString dataDirOption = u"data-dir"_s;
+
+// QApplication evaluates these later and removes them. They are declared so that the parser skips them with
+// their values and still refuses unknown options.
+QList<QCommandLineOption> toolkitOptions() {
+  QList<QCommandLineOption> options;
+  for (const auto* flag : {"reverse", "nograb", "dograb", "widgetcount"})
+    options << QCommandLineOption(QLatin1String(flag));
+  for (const auto* name :
+       {"platform", "platformtheme", "platformpluginpath", "plugin", "qwindowgeometry", "qwindowtitle",
+        "qwindowicon", "style", "stylesheet", "session", "display", "geometry", "title", "icon", "name"})
+    options << QCommandLineOption(QLatin1String(name), {}, u"VALUE"_s);
+  for (QCommandLineOption& option : options) option.setFlags(QCommandLineOption::HiddenFromHelp);
+  return options;
 }
 
-ImmediateEnd wrong(const QString& message) {
-  return {wrongUsage, u"parlexo-client: "_s + message + u"\nTry \"parlexo-client --help\".\n"_s};
-}
-
-bool isToolkitFlag(const QString& argument) {
-  static const QStringList names = {u"-reverse"_s, u"-nograb"_s, u"-dograb"_s, u"-widgetcount"_s};
-  return names.contains(argument) || argument.startsWith(u"-style="_s) ||
-         argument.startsWith(u"-stylesheet="_s);
-}
-
-bool isToolkitOptionWithValue(const QString& argument) {
-  static const QStringList names = {u"-platform"_s,
-                                    u"-platformtheme"_s,
-                                    u"-platformpluginpath"_s,
-                                    u"-plugin"_s,
-                                    u"-qwindowgeometry"_s,
-                                    u"-qwindowtitle"_s,
-                                    u"-qwindowicon"_s,
-                                    u"-style"_s,
-                                    u"-stylesheet"_s,
-                                    u"-session"_s,
-                                    u"-display"_s,
-                                    u"-geometry"_s,
-                                    u"-title"_s,
-                                    u"-icon"_s,
-                                    u"-name"_s};
-  return names.contains(argument);
+QList<QCommandLineOption> clientOptions() {
+  return {{siteOption,
+           QCoreApplication::translate("CommandLine",
+                                       "Download the locator document from this web site, not from %1.")
+               .arg(defaultServiceHost()),
+           u"http://HOST:PORT"_s},
+          {dataDirOption,
+           QCoreApplication::translate("CommandLine",
+                                       "Keep contacts, templates, the status log and the settings in DIR."),
+           u"DIR"_s}};
 }
 
 bool isSite(const QString& text) {
@@ -66,75 +54,78 @@ bool isSite(const QString& text) {
          bare;
 }
 
-// Walks over the arguments one by one; an option may carry its value behind "=" or as the next argument.
-class Parser {
- public:
-  explicit Parser(const QStringList& arguments) : rest_(arguments) {}
-
-  std::variant<ProgramOptions, ImmediateEnd> parse() {
-    while (!rest_.isEmpty() && !end_) take(rest_.takeFirst());
-    if (end_) return *end_;
-    return options_;
+// Returns what is wrong with the values of clientOptions(); empty if nothing is.
+QString findProblem(const QCommandLineParser& parser) {
+  for (const QString& option : {siteOption, dataDirOption}) {
+    // A value that looks like an option means that the actual value was forgotten.
+    const QString value = parser.value(option);
+    if (parser.isSet(option) && (value.isEmpty() || value.startsWith(u"--"_s)))
+      return QCoreApplication::translate("CommandLine", "option \"--%1\" needs a value").arg(option);
   }
-
- private:
-  void take(const QString& argument) {
-    if (isToolkitFlag(argument)) return;
-    if (!isToolkitOptionWithValue(argument)) return takeOwn(argument);
-    if (!rest_.isEmpty()) rest_.removeFirst();
-  }
-
-  void takeOwn(const QString& argument) {
-    if (argument == u"--help"_s || argument == u"-h"_s) {
-      end_ = ImmediateEnd{0, helpText()};
-    } else if (argument == u"--version"_s || argument == u"-v"_s) {
-      end_ = ImmediateEnd{0, u"Parlexo Client %1\n"_s.arg(QLatin1String(clientVersion))};
-    } else if (argument == u"--demo"_s) {
-      options_.demo = true;
-    } else {
-      takeWithValue(argument.section(u'=', 0, 0), argument);
-    }
-  }
-
-  void takeWithValue(const QString& name, const QString& argument) {
-    static const QStringList names = {u"--site"_s, u"--data-dir"_s};
-    if (!names.contains(name)) {
-      end_ = wrong(u"unknown option \"%1\""_s.arg(argument));
-      return;
-    }
-    const QString value = valueOf(argument);
-    if (value.isEmpty())
-      end_ = wrong(u"option \"%1\" needs a value"_s.arg(name));
-    else
-      store(name, value);
-  }
-
-  void store(const QString& name, const QString& value) {
-    if (name == u"--site"_s) return takeSite(value);
-    options_.dataDir = QDir(value).absolutePath();
-  }
-
-  QString valueOf(const QString& argument) {
-    if (argument.contains(u'=')) return argument.section(u'=', 1);
-    return rest_.isEmpty() || rest_.first().startsWith(u"--"_s) ? QString() : rest_.takeFirst();
-  }
-
-  void takeSite(const QString& value) {
-    if (isSite(value))
-      options_.site = value.endsWith(u'/') ? value.chopped(1) : value;
-    else
-      end_ = wrong(u"\"%1\" is not a site such as http://127.0.0.1:8080"_s.arg(value));
-  }
-
-  QStringList rest_;
-  ProgramOptions options_;
-  std::optional<ImmediateEnd> end_;
-};
+  const QString site = parser.value(siteOption);
+  if (parser.isSet(siteOption) && !isSite(site))
+    return QCoreApplication::translate("CommandLine", "\"%1\" is not a site such as http://127.0.0.1:8080")
+        .arg(site);
+  return {};
+}
 
 }  // namespace
 
-std::variant<ProgramOptions, ImmediateEnd> parseCommandLine(const QStringList& arguments) {
-  return Parser(arguments).parse();
+int printEarlyExit(const EarlyExit& exit) {
+  std::fputs(qUtf8Printable(exit.output), exit.exitCode == 0 ? stdout : stderr);
+  return exit.exitCode;
+}
+
+EarlyExit failure(int exitCode, const QString& program, const QString& problem) {
+  return {exitCode, u"%1: %2\n"_s.arg(program, problem)};
+}
+
+EarlyExit wrongUsage(const QString& program, const QString& problem) {
+  return failure(wrongUsageCode, program,
+                 QCoreApplication::translate("CommandLine", "%1\nTry \"%2 --help\".").arg(problem, program));
+}
+
+std::variant<ProgramOptions, EarlyExit> parseCommandLine(const QStringList& arguments) {
+  QCommandLineParser parser;
+  parser.setApplicationDescription(QCoreApplication::translate(
+      "CommandLine", "Sends messages through the Parlexo gateway and shows their delivery status."));
+  const QCommandLineOption demo(
+      u"demo"_s, QCoreApplication::translate(
+                     "CommandLine",
+                     "Try the program with a built-in gateway simulator and sample contacts. The "
+                     "account is demo, its password demo1234."));
+  parser.addOption(demo);
+  auto parsed = parseCommandLine(parser, clientProgram, arguments);
+  auto* options = std::get_if<ProgramOptions>(&parsed);
+  if (!options) return parsed;
+  if (const QStringList extra = parser.positionalArguments(); !extra.isEmpty())
+    return wrongUsage(
+        clientProgram,
+        QCoreApplication::translate("CommandLine", "unexpected argument \"%1\"").arg(extra.constFirst()));
+  options->demo = parser.isSet(demo);
+  return parsed;
+}
+
+std::variant<ProgramOptions, EarlyExit> parseCommandLine(QCommandLineParser& parser, const QString& program,
+                                                         const QStringList& arguments) {
+  const QCommandLineOption version({u"v"_s, u"version"_s},
+                                   QCoreApplication::translate("CommandLine", "Print the version and exit."));
+  const QCommandLineOption help({u"h"_s, u"help"_s},
+                                QCoreApplication::translate("CommandLine", "Print this help and exit."));
+  parser.addOptions(clientOptions());
+  parser.addOptions({version, help});
+  parser.addOptions(toolkitOptions());
+  // Qt's own options begin with a single dash.
+  parser.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
+  if (!parser.parse(arguments)) return wrongUsage(program, parser.errorText());
+  if (parser.isSet(help)) return EarlyExit{0, parser.helpText()};
+  if (parser.isSet(version)) return EarlyExit{0, u"Parlexo Client %1\n"_s.arg(QLatin1String(clientVersion))};
+  if (const QString problem = findProblem(parser); !problem.isEmpty()) return wrongUsage(program, problem);
+  ProgramOptions options;
+  options.site = parser.value(siteOption);
+  if (options.site.endsWith(u'/')) options.site.chop(1);
+  if (parser.isSet(dataDirOption)) options.dataDir = QDir(parser.value(dataDirOption)).absolutePath();
+  return options;
 }
 
 }  // namespace parlexo

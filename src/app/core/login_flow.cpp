@@ -7,8 +7,6 @@
 
 namespace parlexo {
 
-using namespace Qt::StringLiterals;
-
 LoginOutcome LoginFlow::attempt(const QString& user, const QString& password) {
   const auto reply = gateway_.call<&GatewayClient::sessionStart>(user, Secret(password));
   if (!reply.answered()) {
@@ -19,18 +17,18 @@ LoginOutcome LoginFlow::attempt(const QString& user, const QString& password) {
     showRefusal(reply->nErrorCode);
     return LoginOutcome::Refused;
   }
-  keepSession(fromWire(reply->sSession), user);
+  storeSession(fromWire(reply->sSession), user);
   return LoginOutcome::Accepted;
 }
 
 void LoginFlow::showRefusal(int errorCode) {
   if (errorCode == protocol::ResultCode::WrongCredentials)
-    notifier_.error(u"Invalid Username or Password. Passwords are case sensitive"_s);
+    notifier_.error(tr("Invalid Username or Password. Passwords are case sensitive"));
   else
-    notifier_.error(withNumber(u"An error occured while logging on. Error code: %d"_s, errorCode));
+    notifier_.error(withNumber(tr("An error occured while logging on. Error code: %d"), errorCode));
 }
 
-void LoginFlow::keepSession(const QString& session, const QString& user) {
+void LoginFlow::storeSession(const QString& session, const QString& user) {
   if (session.isEmpty()) return;
   state_.session = session;
   state_.userName = user;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QCoreApplication>
 #include <QString>
 
 #include "base/notifier.h"
@@ -11,25 +12,27 @@
 namespace parlexo {
 
 enum class LoginOutcome {
-  Accepted,  ///< the login dialog closes with OK
-  Refused,   ///< the user has been told why; the dialog stays open for another try
+  Accepted,  ///< a session is open
+  Refused,   ///< the reason was shown to the user, who may try again
 };
 
-/// Opens a session with the gateway: the rules behind the login dialog. All arguments of the constructor
-/// must outlive the flow.
+/// Opens a session with the gateway.
 class LoginFlow {
+  Q_DECLARE_TR_FUNCTIONS(LoginFlow)
+
  public:
+  /// All arguments must outlive the flow.
   LoginFlow(RunState& state, Settings& settings, const Gateway& gateway, Notifier& notifier)
       : state_(state), settings_(settings), gateway_(gateway), notifier_(notifier) {}
 
-  /// Tries one user name and password, as typed; empty ones too, because the gateway is the judge. An
-  /// accepted login replaces the session token and the user name and is remembered for the next start. A
-  /// gateway that accepts without a token is believed, but nothing is stored then.
+  /// Logs in with `user` and `password`, which are sent unchecked, even if empty. On success, stores the
+  /// session token and the user name in the run's state and remembers the name for the next start. If the
+  /// gateway returns success without a token, the login counts as accepted, but nothing is stored.
   [[nodiscard]] LoginOutcome attempt(const QString& user, const QString& password);
 
  private:
   void showRefusal(int errorCode);
-  void keepSession(const QString& session, const QString& user);
+  void storeSession(const QString& session, const QString& user);
 
   RunState& state_;
   Settings& settings_;

@@ -3,21 +3,32 @@
 
 #include "base/message_texts.h"
 #include "base/product.h"
+#include "connection/client/gateway_access.h"
 
 namespace parlexo {
 
-using namespace Qt::StringLiterals;
-
 namespace {
+
 constexpr int contactsUnreadable = -1;
 constexpr int finished = 0;
+
+// Does nothing if no session is open. The reply is ignored, so the timeout is short. This call bypasses the
+// proxy that all other calls use.
+void endSession(const RunState& state, CallRunner& runner) {
+  if (state.session.isEmpty()) return;
+  RunState direct = state;
+  direct.proxy = {};
+  const Gateway gateway(direct, runner, {.whole = timeouts::sessionEnd});
+  (void)gateway.call<&GatewayClient::sessionEnd>(state.session);
+}
+
 }  // namespace
 
 int StartUp::run() {
   if (!loadStores()) return contactsUnreadable;
-  if (!reachGateway()) return finished;
+  if (!connectToGateway()) return finished;
   parts_.progress.hide();
-  compareClientVersion();
+  checkClientVersion();
   if (!parts_.windows.logIn()) return finished;
   parts_.progress.show();
   parts_.windows.runMainWindow();
@@ -29,21 +40,21 @@ bool StartUp::loadStores() {
     parts_.notifier.error(withNumber(TextId::ModulePathFailed, error));
   makeFolderPath(parts_.settings.contactsFolder());
   makeFolderPath(parts_.settings.templatesFolder());
-  parts_.progress.show(u"Loading Contacts from Database..."_s);
+  parts_.progress.show(tr("Loading Contacts from Database..."));
   if (!parts_.stores.loadContacts()) return false;
   parts_.stores.loadStatusLog();
   return true;
 }
 
-bool StartUp::reachGateway() {
-  // The label still speaks of contacts, and a box that is showing takes a new one only this way.
+bool StartUp::connectToGateway() {
+  // Replaces the text about loading contacts by the default; show() does not change an open box.
   parts_.progress.setText({});
-  if (parts_.locate()) return gatewaySpeaksOurProtocol();
+  if (parts_.locate()) return checkProtocolVersion();
   parts_.notifier.error(text(TextId::LocatorUnreachable));
   return false;
 }
 
-bool StartUp::gatewaySpeaksOurProtocol() {
+bool StartUp::checkProtocolVersion() {
   const auto reply = parts_.gateway.call<&GatewayClient::getVersion>();
   if (reply.answered() && reply->nVersion == protocolVersion) return true;
   parts_.progress.hide();
@@ -54,10 +65,17 @@ bool StartUp::gatewaySpeaksOurProtocol() {
   return false;
 }
 
-void StartUp::compareClientVersion() {
+void StartUp::checkClientVersion() {
   const QString& latest = parts_.state.gateway.latestClientVersion;
-  // Any difference counts, an older announcement too: the service decides which version it wants.
+  // Older versions are offered as well: the service decides which version it wants.
   if (latest != QLatin1String(clientVersion)) parts_.windows.showUpgrade(latest);
+}
+
+void shutDown(const RunState& state, RunStores& stores, Progress& progress, CallRunner& runner) {
+  progress.hide();
+  stores.releaseContacts();
+  stores.saveStatusLog();
+  endSession(state, runner);
 }
 
 }  // namespace parlexo

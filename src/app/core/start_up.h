@@ -2,11 +2,12 @@
 #pragma once
 
 #include <functional>
-#include <optional>
+#include <utility>
 
+#include <QCoreApplication>
 #include <QString>
 
-#include "app/core/run_stores.h"
+#include "base/call_runner.h"
 #include "base/notifier.h"
 #include "base/progress.h"
 #include "base/run_state.h"
@@ -15,16 +16,36 @@
 
 namespace parlexo {
 
-/// The windows that start-up opens one after the other; each call returns when its window has closed.
+/// Data that is loaded at start-up and saved at shut-down.
+class RunStores {
+ public:
+  virtual ~RunStores() = default;
+
+  /// Loads contacts and groups and reports errors to the user. Returns false if the program can't continue.
+  [[nodiscard]] virtual bool loadContacts() = 0;
+  /// Loads the status log and reports errors to the user; none of them stops the program.
+  virtual void loadStatusLog() = 0;
+  /// Frees contacts and groups, whose files are always up to date.
+  virtual void releaseContacts() = 0;
+  /// Saves the status log.
+  virtual void saveStatusLog() = 0;
+
+ protected:
+  RunStores() = default;
+  RunStores(const RunStores&) = default;
+  RunStores& operator=(const RunStores&) = default;
+};
+
+/// The windows of start-up. Each function returns when its window has closed.
 class StartUpWindows {
  public:
   virtual ~StartUpWindows() = default;
 
-  /// Tells of another version; an empty `version` stands for a gateway that speaks another protocol.
+  /// Offers the upgrade to `version`; an empty `version` means that the gateway speaks another protocol.
   virtual void showUpgrade(const QString& version) = 0;
-  /// True when the user has logged in, false when he gave up.
+  /// Returns true if the user has logged in, false if the user cancelled.
   [[nodiscard]] virtual bool logIn() = 0;
-  /// Opens the main window, which hides the progress box once its balance is shown at the latest.
+  /// Runs the main window, which hides the progress box at the latest when it shows the balance.
   virtual void runMainWindow() = 0;
 
  protected:
@@ -33,7 +54,7 @@ class StartUpWindows {
   StartUpWindows& operator=(const StartUpWindows&) = default;
 };
 
-/// What start-up works with; everything must outlive it.
+/// The dependencies of StartUp, which must outlive it.
 struct StartUpParts {
   const RunState& state;
   Settings& settings;
@@ -42,27 +63,32 @@ struct StartUpParts {
   Notifier& notifier;
   Progress& progress;
   StartUpWindows& windows;
-  /// Downloads the locator document into the run's state; false when the gateway's place stays unknown.
+  /// Locates the gateway and stores its address in the run's state. Returns false if it can't be located.
   std::function<bool()> locate;
 };
 
-/// The run of the program from its first progress box to the end of its main window. Knows no widget.
+/// Runs the program from the first progress box until the main window has closed. Does not depend on widgets.
 class StartUp {
+  Q_DECLARE_TR_FUNCTIONS(StartUp)
+
  public:
   explicit StartUp(StartUpParts parts) : parts_(std::move(parts)) {}
 
-  /// Runs every step in order. Whatever goes wrong on the way has been shown to the user when this
-  /// returns. The result is the exit code of the program: -1 when the contacts could not be read,
-  /// otherwise 0. The caller closes the session afterwards in either case (ShutDown).
+  /// Runs all steps in order; a failed step is reported to the user and ends the run. Returns the program's
+  /// exit code: -1 if the contacts could not be loaded, otherwise 0. The caller calls shutDown() in any case.
   [[nodiscard]] int run();
 
  private:
   [[nodiscard]] bool loadStores();
-  [[nodiscard]] bool reachGateway();
-  [[nodiscard]] bool gatewaySpeaksOurProtocol();
-  void compareClientVersion();
+  [[nodiscard]] bool connectToGateway();
+  [[nodiscard]] bool checkProtocolVersion();
+  void checkClientVersion();
 
   StartUpParts parts_;
 };
+
+/// Ends the run, regardless of which step of start-up it reached: hides the progress box, releases the
+/// contacts, saves the status log and closes the session. Errors are not reported to the user.
+void shutDown(const RunState& state, RunStores& stores, Progress& progress, CallRunner& runner);
 
 }  // namespace parlexo

@@ -3,6 +3,8 @@
 
 #include <utility>
 
+#include <QScopeGuard>
+
 #include "base/task_thread.h"
 
 namespace parlexo {
@@ -15,7 +17,7 @@ ThreadBackgroundWorker::ThreadBackgroundWorker() = default;
 ThreadBackgroundWorker::~ThreadBackgroundWorker() = default;
 
 void ThreadBackgroundWorker::start(CallRunner::Task task, std::function<void()> onEnd) {
-  // Destroying the thread object stops it from posting, destroying the receiver drops what was posted.
+  // Destroying the thread object stops it from posting; destroying the receiver discards posted events.
   const auto post = [this, onEnd = std::move(onEnd)] {
     QMetaObject::invokeMethod(&receiver_, onEnd, Qt::QueuedConnection);
   };
@@ -35,15 +37,15 @@ BackgroundQueue::BackgroundQueue(std::unique_ptr<BackgroundWorker> worker,
 }
 
 void BackgroundQueue::add(BackgroundTask task) {
-  entries_.push_back({std::move(task)});
+  tasks_.push_back(std::move(task));
   proceed();
 }
 
 void BackgroundQueue::pause() {
   ++pauses_;
   resumption_.stop();
-  if (front_ != Front::Running || entries_.front().repeats == maxRepeats) return;
-  ++entries_.front().repeats;
+  if (front_ != Front::Running || repeats_ == maxRepeats) return;
+  ++repeats_;
   front_ = Front::Cancelled;
   worker_->cancel();
 }
@@ -59,10 +61,10 @@ void BackgroundQueue::proceed() {
 }
 
 void BackgroundQueue::startNext() {
-  while (!entries_.empty() && !entries_.front().task.isWanted()) entries_.pop_front();
-  if (entries_.empty()) return;
+  while (!tasks_.empty() && !tasks_.front().isWanted()) removeFront();
+  if (tasks_.empty()) return;
   front_ = Front::Running;
-  worker_->start(entries_.front().task.task, [this] { finish(); });
+  worker_->start(tasks_.front().task, [this] { finish(); });
 }
 
 void BackgroundQueue::finish() {
@@ -71,12 +73,23 @@ void BackgroundQueue::finish() {
 }
 
 void BackgroundQueue::deliver() {
-  const BackgroundTask task = std::move(entries_.front().task);
-  entries_.pop_front();
+  const BackgroundTask task = std::move(tasks_.front());
+  removeFront();
   front_ = Front::Waiting;
   startNext();
-  // Last, because it may open a dialog and return long after the next task has ended.
+  // Last, because it may open a dialog and return only after the next task has ended.
   if (task.isWanted()) task.deliver();
+}
+
+void BackgroundQueue::removeFront() {
+  tasks_.pop_front();
+  repeats_ = 0;
+}
+
+bool ForegroundRunner::run(Task task) {
+  background_.pause();
+  const auto resume = qScopeGuard([this] { background_.resume(); });
+  return runner_.run(std::move(task));
 }
 
 }  // namespace parlexo

@@ -16,15 +16,15 @@ namespace parlexo {
 
 class TaskThread;
 
-/// Runs one task at a time for a BackgroundQueue. All functions belong to the interface thread.
+/// Runs one task at a time for a BackgroundQueue. Interface thread only.
 class BackgroundWorker {
  public:
   virtual ~BackgroundWorker() = default;
 
-  /// Starts `task`; there is none under way. `onEnd` is called once on the interface thread, from the
-  /// event loop, after the task has ended, unless the worker is destroyed first.
+  /// Starts `task`. Must not be called while another task is running. `onEnd` is called once on the interface
+  /// thread, from the event loop, after the task has ended, unless the worker is destroyed first.
   virtual void start(CallRunner::Task task, std::function<void()> onEnd) = 0;
-  /// Raises the cancel flag of the task under way.
+  /// Raises the cancel flag of the running task.
   virtual void cancel() = 0;
 
  protected:
@@ -33,7 +33,8 @@ class BackgroundWorker {
   BackgroundWorker& operator=(const BackgroundWorker&) = default;
 };
 
-/// Runs each task on a new thread. Its destructor cancels the one under way and waits at most 500 ms.
+/// Runs each task on a new thread. The destructor cancels the running task and waits up to 500 ms for its
+/// end.
 class ThreadBackgroundWorker final : public BackgroundWorker {
  public:
   ThreadBackgroundWorker();
@@ -47,11 +48,11 @@ class ThreadBackgroundWorker final : public BackgroundWorker {
   std::unique_ptr<TaskThread> thread_;
 };
 
-/// The rules of background work: order, priority of the user's calls, unwanted results.
+/// Implements order, priority and repetition of background tasks.
 class BackgroundQueue final : public BackgroundRunner {
  public:
-  /// `untilResumed` is the time between the end of a user's call and the next task, because one action of
-  /// the user's is often several calls in a row.
+  /// `untilResumed` is the delay between the end of a user's call and the next task, because one user action
+  /// is often a sequence of calls.
   explicit BackgroundQueue(
       std::unique_ptr<BackgroundWorker> worker = std::make_unique<ThreadBackgroundWorker>(),
       std::chrono::milliseconds untilResumed = timeouts::untilBackground);
@@ -64,24 +65,36 @@ class BackgroundQueue final : public BackgroundRunner {
   enum class Front {
     Waiting,
     Running,
-    Cancelled,  ///< running until it notices the cancel, to be repeated
-    Ended       ///< to be delivered
-  };
-  struct Entry {
-    BackgroundTask task;
-    int repeats = 0;
+    Cancelled,  ///< running until it notices the cancel flag, then repeated
+    Ended       ///< ready for delivery
   };
 
   void proceed();
   void startNext();
   void finish();
   void deliver();
+  void removeFront();
 
-  std::deque<Entry> entries_;
-  Front front_ = Front::Waiting;  ///< where the front one of the entries is
+  std::deque<BackgroundTask> tasks_;
+  Front front_ = Front::Waiting;  ///< the state of the first task
+  int repeats_ = 0;               ///< of the first task
   int pauses_ = 0;
   QTimer resumption_;
   std::unique_ptr<BackgroundWorker> worker_;
+};
+
+/// Runs calls that the user waits for and pauses background work meanwhile.
+class ForegroundRunner final : public CallRunner {
+ public:
+  /// `runner` runs the calls. Both arguments must outlive this object.
+  ForegroundRunner(CallRunner& runner, BackgroundRunner& background)
+      : runner_(runner), background_(background) {}
+
+  [[nodiscard]] bool run(Task task) override;
+
+ private:
+  CallRunner& runner_;
+  BackgroundRunner& background_;
 };
 
 }  // namespace parlexo

@@ -4,53 +4,49 @@
 #include <memory>
 #include <string>
 #include <tuple>
-#include <utility>
+#include <type_traits>
 
 #include <QString>
 
-#include "base/transfer.h"
+#include "base/progress.h"
 #include "connection/client/gateway_client.h"
 #include "connection/client/wire_text.h"
 #include "protocol/records.h"
 
 namespace parlexo {
 
-/// A file that a call sends. The call owns the bytes, because it may be left behind.
+/// A file that a call sends. Shares ownership of the bytes, because the call may be abandoned.
 struct FileUpload {
   std::shared_ptr<const std::string> bytes;  ///< never null
-  Transfer transfer;                         ///< updated while the file goes out
+  Transfer transfer;                         ///< updated while the file is sent
 
   operator protocol::BinaryData() const {
     return {reinterpret_cast<const unsigned char*>(bytes->data()), static_cast<std::int32_t>(bytes->size())};
   }
 };
 
-/// What a call keeps of an argument until it runs on another thread: the wire form of text, anything else as
-/// it is.
-inline std::string toCallArgument(const QString& text) {
-  return toWire(text);
-}
-template <class Value>
-Value toCallArgument(Value value) {
-  return value;
+/// Converts an argument of Gateway::call() to a value that the call can own: text is encoded for the wire,
+/// anything else is copied.
+template <class Argument>
+auto toCallArgument(const Argument& argument) {
+  if constexpr (std::is_same_v<Argument, QString>)
+    return toWire(argument);
+  else
+    return argument;
 }
 
-/// Reports the progress of an upload; other arguments have none.
-inline void reportProgress(GatewayClient& client, const FileUpload& upload) {
-  client.follow(upload.transfer);
+/// Makes `client` update the transfer of a file. No-op for other arguments.
+template <class Argument>
+void attachTransfer(GatewayClient& client, const Argument& argument) {
+  if constexpr (std::is_same_v<Argument, FileUpload>) client.setTransfer(argument.transfer);
 }
-template <class Value>
-void reportProgress(GatewayClient&, const Value&) {}
+
+template <class... Parameters>
+auto responseParameter(int (GatewayClient::*)(Parameters...))
+    -> std::remove_reference_t<std::tuple_element_t<sizeof...(Parameters) - 1, std::tuple<Parameters...>>>;
 
 /// The response type of a method of GatewayClient: its last parameter.
-template <class Method>
-struct MethodResponse;
-template <class... Parameters>
-struct MethodResponse<int (GatewayClient::*)(Parameters...)> {
-  using Last = std::tuple_element_t<sizeof...(Parameters) - 1, std::tuple<Parameters...>>;
-  using Type = std::remove_reference_t<Last>;
-};
 template <auto method>
-using ResponseOf = typename MethodResponse<decltype(method)>::Type;
+using ResponseFor = decltype(responseParameter(method));
 
 }  // namespace parlexo

@@ -10,15 +10,15 @@
 
 namespace parlexo {
 
-/// Time-outs of one exchange. Tests shorten them here and nowhere else.
+/// Timeouts of one call. Tests pass shorter ones.
 struct GatewayTimeouts {
-  std::chrono::milliseconds connect = timeouts::connect;  ///< looking up the name and connecting
-  std::chrono::milliseconds silence = timeouts::silence;  ///< longest wait for the next byte
-  std::optional<std::chrono::milliseconds> whole{};       ///< all of the exchange; none for no limit
+  std::chrono::milliseconds connect = timeouts::connect;  ///< name lookup and connecting
+  std::chrono::milliseconds silence = timeouts::silence;  ///< maximum wait for the next byte
+  std::optional<std::chrono::milliseconds> whole{};       ///< the whole call; nullopt for no limit
 };
 
-/// All that one exchange with the gateway needs to know, copied out of the run's state so that the
-/// exchange owns it. Text is in the bytes of the code page.
+/// The connection parameters of one call, copied from the run state so that the call owns them. Text is
+/// encoded in the code page.
 struct GatewayAccess {
   std::string endpoint;
   std::string proxyUser;
@@ -28,7 +28,7 @@ struct GatewayAccess {
   GatewayTimeouts timeouts;
 };
 
-/// The access that `state` describes at this moment.
+/// Returns the parameters that follow from the current `state`.
 [[nodiscard]] GatewayAccess gatewayAccess(const RunState& state, const GatewayTimeouts& timeouts = {});
 
 }  // namespace parlexo

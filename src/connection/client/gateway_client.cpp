@@ -15,9 +15,6 @@ namespace parlexo {
 
 namespace {
 
-/// Result of every call of a client without a context.
-constexpr int noContext = 16;
-
 void installProxy(struct ::soap& context, const GatewayAccess& access) {
   if (!access.proxyUser.empty() && !access.proxyPassword.empty()) {
     context.proxy_userid = access.proxyUser.c_str();
@@ -29,8 +26,8 @@ void installProxy(struct ::soap& context, const GatewayAccess& access) {
   }
 }
 
-/// What `part` of `whole` makes of `total`.
-std::int64_t shareOf(std::int64_t total, std::size_t part, std::size_t whole) {
+/// Returns `total` times `part` / `whole`.
+std::int64_t scale(std::int64_t total, std::size_t part, std::size_t whole) {
   return static_cast<std::int64_t>(static_cast<double>(total) * static_cast<double>(part) /
                                    static_cast<double>(whole));
 }
@@ -48,7 +45,7 @@ GatewayClient::GatewayClient(const GatewayAccess& access)
 }
 
 GatewayClient::~GatewayClient() {
-  // The request may have held a password.
+  // The output buffer may contain a password.
   if (soap) wipe(std::as_writable_bytes(std::span(soap->buf)));
   protocol::freeContext(soap);
 }
@@ -57,27 +54,22 @@ void GatewayClient::watch(const CancelFlag& cancel) {
   patience_.isCancelled = [cancel] { return cancel.isRaised(); };
 }
 
-void GatewayClient::follow(const Transfer& transfer) {
+void GatewayClient::setTransfer(const Transfer& transfer) {
   patience_.onSent = [this, transfer, sent = std::size_t{0}](std::size_t bytes) mutable {
     sent = std::min(sent + bytes, requestLength_);
-    if (requestLength_ > 0) transfer.setDone(shareOf(transfer.total(), sent, requestLength_));
+    if (requestLength_ > 0) transfer.setDone(scale(transfer.total(), sent, requestLength_));
   };
 }
 
 template <class Request, class Response>
 int GatewayClient::call(Request&& request, Response& response) {
-  response = Response{};
-  if (!soap) return noContext;
   if (whole_) patience_.deadline = std::chrono::steady_clock::now() + *whole_;
   return protocol::call(soap, endpoint, request, response, &outcomeUnknown_, &requestLength_);
 }
 
 int GatewayClient::sessionStart(const std::string& sUser, const std::string& sPassword,
                                 protocol::sessionStartResponse& response) {
-  protocol::sessionStart request{sUser, sPassword};
-  const int result = call(request, response);
-  wipe(request.sPassword);
-  return result;
+  return call(protocol::sessionStart{sUser, sPassword}, response);
 }
 
 int GatewayClient::sessionEnd(const std::string& sSession, protocol::sessionEndResponse& response) {
@@ -86,7 +78,11 @@ int GatewayClient::sessionEnd(const std::string& sSession, protocol::sessionEndR
 
 int GatewayClient::sendSms(const std::string& sSession, const std::string& sMessage, bool bFlash,
                            const std::string& sListPhoneNumbers, protocol::sendSmsResponse& response) {
-  return call(protocol::sendSms{sSession, sMessage, bFlash, sListPhoneNumbers}, response);
+  return call(protocol::sendSms{.sSession = sSession,
+                                .sMessage = sMessage,
+                                .bFlash = bFlash,
+                                .sListPhoneNumbers = sListPhoneNumbers},
+              response);
 }
 
 int GatewayClient::getVersion(protocol::getVersionResponse& response) {
@@ -96,21 +92,34 @@ int GatewayClient::getVersion(protocol::getVersionResponse& response) {
 int GatewayClient::sendMms(const std::string& sSession, const std::string& sDescription,
                            const std::string& sFileName, const protocol::BinaryData& oData,
                            const std::string& sListPhoneNumbers, protocol::sendMmsResponse& response) {
-  return call(protocol::sendMms{sSession, sDescription, sFileName, oData, sListPhoneNumbers}, response);
+  return call(protocol::sendMms{.sSession = sSession,
+                                .sDescription = sDescription,
+                                .sFileName = sFileName,
+                                .oData = oData,
+                                .sListPhoneNumbers = sListPhoneNumbers},
+              response);
 }
 
 int GatewayClient::sendFax(const std::string& sSession, const std::string& sFileName,
                            const protocol::BinaryData& oData, const std::string& sListPhoneNumbers,
                            protocol::sendFaxResponse& response) {
-  return call(protocol::sendFax{sSession, sFileName, oData, sListPhoneNumbers}, response);
+  return call(protocol::sendFax{.sSession = sSession,
+                                .sFileName = sFileName,
+                                .oData = oData,
+                                .sListPhoneNumbers = sListPhoneNumbers},
+              response);
 }
 
 int GatewayClient::sendVoice_Text(const std::string& sSession, const std::string& sMessage, bool bPress1Key,
                                   bool bWaitForSilence, bool bAllowRepeat,
                                   const std::string& sListPhoneNumbers,
                                   protocol::sendVoice_TextResponse& response) {
-  return call(protocol::sendVoice_Text{sSession, sMessage, bPress1Key, bWaitForSilence, bAllowRepeat,
-                                       sListPhoneNumbers},
+  return call(protocol::sendVoice_Text{.sSession = sSession,
+                                       .sMessage = sMessage,
+                                       .bPress1Key = bPress1Key,
+                                       .bWaitForSilence = bWaitForSilence,
+                                       .bAllowRepeat = bAllowRepeat,
+                                       .sListPhoneNumbers = sListPhoneNumbers},
               response);
 }
 
@@ -118,8 +127,13 @@ int GatewayClient::sendVoice_File(const std::string& sSession, const std::string
                                   const protocol::BinaryData& oData, bool bPress1Key, bool bWaitForSilence,
                                   bool bAllowRepeat, const std::string& sListPhoneNumbers,
                                   protocol::sendVoice_FileResponse& response) {
-  return call(protocol::sendVoice_File{sSession, sFileName, oData, bPress1Key, bWaitForSilence, bAllowRepeat,
-                                       sListPhoneNumbers},
+  return call(protocol::sendVoice_File{.sSession = sSession,
+                                       .sFileName = sFileName,
+                                       .oData = oData,
+                                       .bPress1Key = bPress1Key,
+                                       .bWaitForSilence = bWaitForSilence,
+                                       .bAllowRepeat = bAllowRepeat,
+                                       .sListPhoneNumbers = sListPhoneNumbers},
               response);
 }
 
@@ -136,7 +150,12 @@ int GatewayClient::getStatus(const std::string& sSession, const std::string& sRe
 int GatewayClient::sendWap(const std::string& sSession, const std::string& sMessage,
                            const std::string& sFileName, const protocol::BinaryData& oData,
                            const std::string& sListPhoneNumbers, protocol::sendWapResponse& response) {
-  return call(protocol::sendWap{sSession, sMessage, sFileName, oData, sListPhoneNumbers}, response);
+  return call(protocol::sendWap{.sSession = sSession,
+                                .sMessage = sMessage,
+                                .sFileName = sFileName,
+                                .oData = oData,
+                                .sListPhoneNumbers = sListPhoneNumbers},
+              response);
 }
 
 int GatewayClient::scheduleMessageEnable(const std::string& sDateTimeGmt, const std::string& sSession,
@@ -161,11 +180,7 @@ int GatewayClient::getAccountHistory(const std::string& sSession,
 int GatewayClient::setAccountPassword(const std::string& sSession, const std::string& sOldPassword,
                                       const std::string& sNewPassword,
                                       protocol::setAccountPasswordResponse& response) {
-  protocol::setAccountPassword request{sSession, sOldPassword, sNewPassword};
-  const int result = call(request, response);
-  wipe(request.sOldPassword);
-  wipe(request.sNewPassword);
-  return result;
+  return call(protocol::setAccountPassword{sSession, sOldPassword, sNewPassword}, response);
 }
 
 int GatewayClient::partnerAddUser(const std::string& sSession, const std::string& sUser,
@@ -177,7 +192,12 @@ int GatewayClient::partnerAddEvent(const std::string& sSession, const std::strin
                                    const std::string& sEventType, const std::string& sPackageType,
                                    double dAmount, const std::string& sDescription,
                                    protocol::partnerAddEventResponse& response) {
-  return call(protocol::partnerAddEvent{sSession, sUser, sEventType, sPackageType, dAmount, sDescription},
+  return call(protocol::partnerAddEvent{.sSession = sSession,
+                                        .sUser = sUser,
+                                        .sEventType = sEventType,
+                                        .sPackageType = sPackageType,
+                                        .dAmount = dAmount,
+                                        .sDescription = sDescription},
               response);
 }
 
@@ -185,8 +205,12 @@ int GatewayClient::partnerGetCostByCountry(const std::string& sSession, const st
                                            bool bMobileNumber, const std::string& sPackageType,
                                            const std::string& sCurrency, const std::string& sServiceType,
                                            protocol::partnerGetCostByCountryResponse& response) {
-  return call(protocol::partnerGetCostByCountry{sSession, sCountry, bMobileNumber, sPackageType, sCurrency,
-                                                sServiceType},
+  return call(protocol::partnerGetCostByCountry{.sSession = sSession,
+                                                .sCountry = sCountry,
+                                                .bMobileNumber = bMobileNumber,
+                                                .sPackageType = sPackageType,
+                                                .sCurrency = sCurrency,
+                                                .sServiceType = sServiceType},
               response);
 }
 
@@ -194,9 +218,12 @@ int GatewayClient::partnerGetCostByPhoneNumber(const std::string& sSession, cons
                                                const std::string& sPackageType, const std::string& sCurrency,
                                                const std::string& sServiceType,
                                                protocol::partnerGetCostByPhoneNumberResponse& response) {
-  return call(
-      protocol::partnerGetCostByPhoneNumber{sSession, sPhoneNumber, sPackageType, sCurrency, sServiceType},
-      response);
+  return call(protocol::partnerGetCostByPhoneNumber{.sSession = sSession,
+                                                    .sPhoneNumber = sPhoneNumber,
+                                                    .sPackageType = sPackageType,
+                                                    .sCurrency = sCurrency,
+                                                    .sServiceType = sServiceType},
+              response);
 }
 
 int GatewayClient::partnerEditUser(const std::string& sSession, const std::string& sUser,
@@ -204,16 +231,22 @@ int GatewayClient::partnerEditUser(const std::string& sSession, const std::strin
   return call(protocol::partnerEditUser{sSession, sUser, sEmail}, response);
 }
 
-int GatewayClient::partnerEditEmailMessaging(const std::string& sSession, const std::string& sUser,
-                                             bool bEmailEnable, const std::string& sEmailCode,
-                                             bool bEmailFilter, const std::string& sEmailFilter1,
-                                             const std::string& sEmailFilter2,
-                                             const std::string& sEmailFilter3, bool bEmailSmsSplit,
-                                             bool bEmailEndDoubleLine, bool bEmailEndStop,
-                                             protocol::partnerEditEmailMessagingResponse& response) {
-  return call(protocol::partnerEditEmailMessaging{sSession, sUser, bEmailEnable, sEmailCode, bEmailFilter,
-                                                  sEmailFilter1, sEmailFilter2, sEmailFilter3, bEmailSmsSplit,
-                                                  bEmailEndDoubleLine, bEmailEndStop},
+int GatewayClient::partnerEditEmailMessaging(
+    const std::string& sSession, const std::string& sUser, bool bEmailEnable, const std::string& sEmailCode,
+    bool bEmailFilter, const std::string& sEmailFilter1, const std::string& sEmailFilter2,
+    const std::string& sEmailFilter3, bool bEmailSmsSplit, protocol::StopsAtDoubleLine bEmailEndDoubleLine,
+    protocol::StopsAtEndKeyword bEmailEndStop, protocol::partnerEditEmailMessagingResponse& response) {
+  return call(protocol::partnerEditEmailMessaging{.sSession = sSession,
+                                                  .sUser = sUser,
+                                                  .bEmailEnable = bEmailEnable,
+                                                  .sEmailCode = sEmailCode,
+                                                  .bEmailFilter = bEmailFilter,
+                                                  .sEmailFilter1 = sEmailFilter1,
+                                                  .sEmailFilter2 = sEmailFilter2,
+                                                  .sEmailFilter3 = sEmailFilter3,
+                                                  .bEmailSmsSplit = bEmailSmsSplit,
+                                                  .bEmailEndDoubleLine = bEmailEndDoubleLine,
+                                                  .bEmailEndStop = bEmailEndStop},
               response);
 }
 
@@ -231,21 +264,26 @@ int GatewayClient::editEmailMessaging(const std::string& sSession, bool bEmailEn
                                       const std::string& sEmailCode, bool bEmailFilter,
                                       const std::string& sEmailFilter1, const std::string& sEmailFilter2,
                                       const std::string& sEmailFilter3, bool bEmailSmsSplit,
-                                      bool bEmailEndStop, bool bEmailDoubleLine,
+                                      protocol::StopsAtEndKeyword bEmailEndStop,
+                                      protocol::StopsAtDoubleLine bEmailDoubleLine,
                                       protocol::editEmailMessagingResponse& response) {
-  return call(protocol::editEmailMessaging{sSession, bEmailEnable, sEmailCode, bEmailFilter, sEmailFilter1,
-                                           sEmailFilter2, sEmailFilter3, bEmailSmsSplit, bEmailEndStop,
-                                           bEmailDoubleLine},
+  return call(protocol::editEmailMessaging{.sSession = sSession,
+                                           .bEmailEnable = bEmailEnable,
+                                           .sEmailCode = sEmailCode,
+                                           .bEmailFilter = bEmailFilter,
+                                           .sEmailFilter1 = sEmailFilter1,
+                                           .sEmailFilter2 = sEmailFilter2,
+                                           .sEmailFilter3 = sEmailFilter3,
+                                           .bEmailSmsSplit = bEmailSmsSplit,
+                                           .bEmailEndStop = bEmailEndStop,
+                                           .bEmailDoubleLine = bEmailDoubleLine},
               response);
 }
 
 int GatewayClient::partnerStartSessionForSubUser(const std::string& sUser, const std::string& sPassword,
                                                  const std::string& sSubUser,
                                                  protocol::partnerStartSessionForSubUserResponse& response) {
-  protocol::partnerStartSessionForSubUser request{sUser, sPassword, sSubUser};
-  const int result = call(request, response);
-  wipe(request.sPassword);
-  return result;
+  return call(protocol::partnerStartSessionForSubUser{sUser, sPassword, sSubUser}, response);
 }
 
 int GatewayClient::partnerEndSessionForSubUser(const std::string& sSession,

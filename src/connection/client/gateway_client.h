@@ -8,40 +8,38 @@
 #include <string>
 
 #include "base/call_runner.h"
-#include "base/transfer.h"
+#include "base/progress.h"
 #include "connection/client/gateway_access.h"
 #include "protocol/records.h"
 #include "protocol/soap_context.h"
 
 namespace parlexo {
 
-/// The gateway's operations as methods, over one SOAP context of its own. Lives for one exchange: it is
-/// built, used for one call and destroyed, and the strings of the response go with it. Used by one thread
-/// at a time.
+/// The gateway's operations as methods. A client is created for one call and owns that call's SOAP context,
+/// in which the strings of the response live. Not thread-safe, except where noted.
 class GatewayClient {
  public:
-  /// Makes the context with the proxy and the time-outs of `access`, which must outlive the client.
+  /// Creates the context with the proxy and timeouts of `access`, which must outlive the client.
   explicit GatewayClient(const GatewayAccess& access);
   virtual ~GatewayClient();
   GatewayClient(const GatewayClient&) = delete;
   GatewayClient& operator=(const GatewayClient&) = delete;
 
-  /// From now on a raised `cancel` ends a running call within about 100 ms, with an error as its result
-  /// (a name look-up excepted).
+  /// Makes calls poll `cancel`: raising it ends a call within about 100 ms with an error.
   void watch(const CancelFlag& cancel);
 
-  /// From now on `transfer` tells how much of the file in a request has gone out, of which the file is taken
-  /// to be nearly all.
-  void follow(const Transfer& transfer);
+  /// Makes calls update `transfer`, on their thread. The share of the request that has been sent counts as
+  /// the share of the file.
+  void setTransfer(const Transfer& transfer);
 
-  /// Whether a request has gone out whole and no reply has told what became of it: the gateway may have
-  /// carried it out. Any thread may ask, also during a call.
+  /// Whether the whole request was sent and no readable reply has come: the gateway may have carried it out.
+  /// Thread-safe, also during a call.
   [[nodiscard]] bool outcomeUnknown() const { return outcomeUnknown_; }
 
-  // One method per operation, in the contract's order: the request's fields, then the response. Each returns
-  // the runtime's result: 0 when a well-formed response was read, 16 when there is no context (nothing is
-  // sent then), otherwise the error (docs/gateway-protocol.md lists them). The response is cleared first and
-  // stays cleared on failure.
+  // One method per operation, in the contract's order. The parameters are the fields of the request, then the
+  // response. Each method blocks and returns the runtime's result: 0 if a well-formed response was read, 16
+  // if there is no context and nothing was sent, otherwise an error (listed in docs/gateway-protocol.md). On
+  // error the response has its default values.
   virtual int sessionStart(const std::string& sUser, const std::string& sPassword,
                            protocol::sessionStartResponse& response);
   virtual int sessionEnd(const std::string& sSession, protocol::sessionEndResponse& response);
@@ -95,7 +93,8 @@ class GatewayClient {
                                         bool bEmailEnable, const std::string& sEmailCode, bool bEmailFilter,
                                         const std::string& sEmailFilter1, const std::string& sEmailFilter2,
                                         const std::string& sEmailFilter3, bool bEmailSmsSplit,
-                                        bool bEmailEndDoubleLine, bool bEmailEndStop,
+                                        protocol::StopsAtDoubleLine bEmailEndDoubleLine,
+                                        protocol::StopsAtEndKeyword bEmailEndStop,
                                         protocol::partnerEditEmailMessagingResponse& response);
   virtual int partnerGetEmailMessaging(const std::string& sSession, const std::string& sUser,
                                        protocol::partnerGetEmailMessagingResponse& response);
@@ -103,8 +102,10 @@ class GatewayClient {
   virtual int editEmailMessaging(const std::string& sSession, bool bEmailEnable,
                                  const std::string& sEmailCode, bool bEmailFilter,
                                  const std::string& sEmailFilter1, const std::string& sEmailFilter2,
-                                 const std::string& sEmailFilter3, bool bEmailSmsSplit, bool bEmailEndStop,
-                                 bool bEmailDoubleLine, protocol::editEmailMessagingResponse& response);
+                                 const std::string& sEmailFilter3, bool bEmailSmsSplit,
+                                 protocol::StopsAtEndKeyword bEmailEndStop,
+                                 protocol::StopsAtDoubleLine bEmailDoubleLine,
+                                 protocol::editEmailMessagingResponse& response);
   virtual int partnerStartSessionForSubUser(const std::string& sUser, const std::string& sPassword,
                                             const std::string& sSubUser,
                                             protocol::partnerStartSessionForSubUserResponse& response);
@@ -113,8 +114,7 @@ class GatewayClient {
   virtual int setSmsSenderId(const std::string& sSession, const std::string& sSenderId,
                              protocol::setSmsSenderIdResponse& response);
 
-  // The two fields that the service's client has always had, under their own names.
-  struct ::soap* soap = nullptr;   ///< the context, owned; null when it could not be made
+  struct ::soap* soap = nullptr;   ///< the context, owned; null if out of memory
   const char* endpoint = nullptr;  ///< the address of the gateway, not owned
 
  private:

@@ -12,21 +12,21 @@ namespace parlexo {
 
 namespace {
 
-/// Reads one character, or one byte that does not fit UTF-8. QString's own decoder refuses surrogates before
-/// they could be joined.
+/// Reads one character and advances `at`. A byte that is not part of valid UTF-8 counts as one character.
+/// QString's own decoder can't be used, because it rejects surrogates before they could be joined.
 char32_t readCharacter(const char*& at) {
-  // By the number of bytes that follow the first. A smaller one in as many bytes would bring in a U+0000.
+  // The smallest code point for each number of continuation bytes. Overlong forms could encode U+0000.
   constexpr std::array<char32_t, 4> smallest = {0, 0x80, 0x800, 0x10000};
   const auto lead = static_cast<unsigned char>(*at++);
-  const auto following = static_cast<std::size_t>(std::max(std::countl_one(lead) - 1, 0));
-  if (following == 0 || following >= smallest.size()) return lead;
-  char32_t character = lead & (0x3Fu >> following);
-  for (std::size_t i = 0; i < following; ++i) {
+  const auto continuations = static_cast<std::size_t>(std::max(std::countl_one(lead) - 1, 0));
+  if (continuations == 0 || continuations >= smallest.size()) return lead;
+  char32_t character = lead & (0x3Fu >> continuations);
+  for (std::size_t i = 0; i < continuations; ++i) {
     if ((at[i] & 0xC0) != 0x80) return lead;
     character = character << 6 | (at[i] & 0x3Fu);
   }
-  if (character < smallest[following]) return lead;
-  at += following;
+  if (character < smallest[continuations]) return lead;
+  at += continuations;
   return character;
 }
 
@@ -48,10 +48,10 @@ std::string toWire(const QString& text) {
 }
 
 QString fromWire(const char* text) {
-  QString read;
-  while (text && *text) append(read, readCharacter(text));
-  // A surrogate that is still alone would be lost, or refused, wherever the text is stored.
-  return read.isValidUtf16() ? read : QString::fromUcs4(read.toStdU32String().c_str());
+  QString decoded;
+  while (text && *text) append(decoded, readCharacter(text));
+  // A lone surrogate would be lost or rejected wherever the text is stored.
+  return decoded.isValidUtf16() ? decoded : QString::fromUcs4(decoded.toStdU32String().c_str());
 }
 
 }  // namespace parlexo

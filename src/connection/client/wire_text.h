@@ -7,13 +7,13 @@
 
 namespace parlexo {
 
-/// Text as the fields of a request carry it: bytes of the code page, "?" for a character that it lacks.
+/// Encodes `text` for the fields of a request, in the code page. Characters that it lacks become "?".
 [[nodiscard]] std::string toWire(const QString& text);
 
-/// The text of a response's field, which the runtime hands out as UTF-8; null, a field that was absent, gives
-/// an empty text. The gateway may repeat text that a client sent it as bytes, so U+0080 to U+009F are read as
-/// bytes of the code page. A pair of surrogates that arrives as two character references is joined; what is
-/// no Unicode character becomes U+FFFD.
+/// Decodes the text of a response field, which is UTF-8; empty for null, a missing field. Because the gateway
+/// may echo text that a client sent as bytes, U+0080 to U+009F are decoded as bytes of the code page. A
+/// surrogate pair that was sent as two character references is joined. Anything that is not a Unicode
+/// character becomes U+FFFD.
 [[nodiscard]] QString fromWire(const char* text);
 
 }  // namespace parlexo

@@ -14,25 +14,25 @@ class QNetworkRequest;
 
 namespace parlexo {
 
-/// How much of a document is read and how long it may take.
+/// Limits of a download.
 struct DownloadLimits {
-  std::chrono::milliseconds silence;  ///< longest wait for a connection or the next byte
-  std::chrono::milliseconds whole;    ///< longest time for all of it
-  qint64 bytes;                       ///< a longer document is read up to here
+  std::chrono::milliseconds silence;  ///< maximum wait for a connection or the next byte
+  std::chrono::milliseconds whole;    ///< maximum total time
+  qint64 bytes;                       ///< a longer document is truncated to this size
 };
 
-/// What came of one download.
+/// The result of a download.
 struct Download {
-  int status = 0;  ///< HTTP status, 0 when there was none
+  int status = 0;  ///< HTTP status, 0 without a reply
   QNetworkReply::NetworkError error = QNetworkReply::NoError;
-  bool wasSent = false;  ///< the request went out, so a connection had come about
-  bool isWhole = false;  ///< the document has arrived to its end or up to the limit
-  QUrl location;         ///< where a redirect points to, perhaps relative; empty when there is none
+  bool wasSent = false;  ///< the request was sent, so there was a connection
+  bool isWhole = false;  ///< the document is complete, or truncated at the size limit
+  QUrl location;         ///< target of a redirect, may be relative; empty if there is none
   QByteArray document;
 };
 
-/// Downloads what `request` asks for through `proxy`, waiting in a local event loop; any thread may call.
-/// Ends as soon as one of the limits is reached, and about 100 ms after `cancel` was raised.
+/// Downloads a document through `proxy`. Blocks in a local event loop until the download has ended, a limit
+/// is reached or, within about 100 ms, `cancel` is raised. May be called on any thread.
 [[nodiscard]] Download download(QNetworkRequest request, const QNetworkProxy& proxy,
                                 const DownloadLimits& limits, const CancelFlag& cancel = {});
 

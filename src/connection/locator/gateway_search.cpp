@@ -20,23 +20,19 @@ bool GatewaySearch::run(RunState& state) const {
 }
 
 ServerLocator::Outcome GatewaySearch::locate(RunState& state, const ProxyAddress& preconfigured) const {
-  struct Attempt {
-    ServerLocator locator;
-    ProxyAddress preconfigured;
-    RunState state;
-    ServerLocator::Outcome outcome = ServerLocator::Outcome::NotLocated;
-  };
-  auto attempt = std::make_shared<Attempt>(Attempt{parts_.locator, preconfigured, state});
-  const bool ended = parts_.runner.run([attempt](const CancelFlag& cancel) {
-    attempt->outcome = attempt->locator.locate(attempt->state, attempt->preconfigured, cancel);
-  });
+  const auto located = std::make_shared<RunState>(state);
+  const auto outcome = std::make_shared<ServerLocator::Outcome>(ServerLocator::Outcome::NotLocated);
+  const bool ended = parts_.runner.run(
+      [locator = parts_.locator, located, outcome, preconfigured](const CancelFlag& cancel) {
+        *outcome = locator.locate(*located, preconfigured, cancel);
+      });
   if (!ended) return ServerLocator::Outcome::NotLocated;
-  state.gateway = attempt->state.gateway;
-  return attempt->outcome;
+  state.gateway = located->gateway;
+  return *outcome;
 }
 
 void GatewaySearch::useConfiguredProxy(RunState& state) const {
-  // Asked again: the gateway may be on the local network, which the settings often except.
+  // Queried again, because settings often exclude the local network, where the gateway may be.
   const ProxyAddress proxy = parts_.discovery.configuredFor(QUrl(state.gateway.endpoint));
   state.proxy = {.password = {}, .user = {}, .host = proxy.host, .port = proxy.port};
 }
@@ -47,7 +43,7 @@ bool GatewaySearch::logInAndRepeat(RunState& state) const {
   if (!entered) return false;
   parts_.progress.show();
   state.proxy = *entered;
-  // Without a host the repeat would go straight, which is not what the user agreed to.
+  // Without a host the download would bypass the proxy, which the user did not ask for.
   if (state.proxy.host.isEmpty()) return false;
   return locate(state, {}) == ServerLocator::Outcome::Located;
 }

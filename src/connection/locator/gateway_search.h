@@ -11,12 +11,12 @@
 
 namespace parlexo {
 
-/// Asks the user for the address of a proxy and the login to it.
+/// Asks the user for the address and login of a proxy.
 class ProxyLogin {
  public:
   virtual ~ProxyLogin() = default;
 
-  /// What the user entered; nothing when he cancelled.
+  /// Returns nullopt if the user cancelled.
   [[nodiscard]] virtual std::optional<ProxySettings> ask() = 0;
 
  protected:
@@ -25,10 +25,10 @@ class ProxyLogin {
   ProxyLogin& operator=(const ProxyLogin&) = default;
 };
 
-/// Locates the gateway at the start of a run, with a proxy login in between where a proxy demands one.
+/// Locates the gateway at start-up, asking for a proxy login if a proxy requires one.
 class GatewaySearch {
  public:
-  /// All must outlive the search.
+  /// All of them must outlive the search.
   struct Parts {
     const ServerLocator& locator;
     const ProxyDiscovery& discovery;
@@ -39,10 +39,11 @@ class GatewaySearch {
 
   explicit GatewaySearch(const Parts& parts) : parts_(parts) {}
 
-  /// True when `state.gateway` is filled. The first download uses the proxy of the system's settings, if
-  /// any. When a proxy refuses it, the progress box is hidden, the user is asked once, the answer becomes
-  /// `state.proxy` and the download is repeated under the progress box; a second refusal is a failure. When
-  /// it went through without a login, `state.proxy` is what the settings name for the gateway's own address.
+  /// Sets `state.gateway` and returns true, or returns false if the gateway could not be located. The first
+  /// download uses the proxy of the system settings, if any. If that succeeds, `state.proxy` becomes the
+  /// proxy that the settings have for the gateway's own address. If a proxy requires a login, the progress
+  /// box is hidden while the user is asked once, the answer becomes `state.proxy`, and the download is
+  /// repeated under the progress box; a second refusal is a failure.
   [[nodiscard]] bool run(RunState& state) const;
 
  private:

@@ -6,7 +6,7 @@
 #include <QByteArrayList>
 
 #include "base/code_page.h"
-#include "connection/locator/leading_number.h"
+#include "connection/locator/proxy_text.h"
 
 namespace parlexo {
 
@@ -14,45 +14,40 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Reads a line from left to right against the expected text, the way a scanning pattern does.
-class LineScanner {
- public:
-  explicit LineScanner(const QByteArray& line) : rest_(line) {}
+bool isBlank(char c) {
+  return c == ' ' || (c >= '\t' && c <= '\r');
+}
 
-  /// Passes over `text`, whose blanks stand for any number of blanks, and returns the quoted value that
-  /// follows it; nothing when other text stands there, the value is empty or its closing quote is missing.
-  std::optional<QByteArray> valueAfter(const char* text) {
-    for (; *text; ++text) {
-      if (!passOver(*text)) return std::nullopt;
-    }
-    const qsizetype end = rest_.indexOf('"');
-    if (end <= 0) return std::nullopt;
-    const QByteArray value = rest_.left(end);
-    rest_.remove(0, end);
-    return value;
-  }
-
- private:
-  bool passOver(char expected) {
-    if (expected == ' ') {
-      const auto blank = [](char c) { return c == ' ' || (c >= '\t' && c <= '\r'); };
-      rest_.remove(0, std::find_if_not(rest_.begin(), rest_.end(), blank) - rest_.begin());
-      return true;
-    }
-    if (!rest_.startsWith(expected)) return false;
-    rest_.remove(0, 1);
+/// Removes `expected` from the start of `line`; a blank matches any number of blanks. Returns false if the
+/// line starts with something else.
+bool readCharacter(QByteArray& line, char expected) {
+  if (expected == ' ') {
+    line.remove(0, std::find_if_not(line.begin(), line.end(), isBlank) - line.begin());
     return true;
   }
+  if (!line.startsWith(expected)) return false;
+  line.remove(0, 1);
+  return true;
+}
 
-  QByteArray rest_;
-};
+/// Removes `text` and the value up to the next quote from the start of `line` and returns the value. nullopt
+/// if the line starts with something else, the value is empty or its closing quote is missing.
+std::optional<QByteArray> readValueAfter(QByteArray& line, const char* text) {
+  for (; *text; ++text) {
+    if (!readCharacter(line, *text)) return std::nullopt;
+  }
+  const qsizetype end = line.indexOf('"');
+  if (end <= 0) return std::nullopt;
+  const QByteArray value = line.left(end);
+  line.remove(0, end);
+  return value;
+}
 
-std::optional<GatewayLocation> parseServerLine(const QByteArray& line) {
-  LineScanner scanner(line);
-  const auto host = scanner.valueAfter("<server ip=\"");
-  const auto port = host ? scanner.valueAfter("\" port=\"") : std::nullopt;
-  const auto size = port ? scanner.valueAfter("\" maxfilesize=\"") : std::nullopt;
-  const auto sizeMobile = size ? scanner.valueAfter("\" maxfilesizemobile=\"") : std::nullopt;
+std::optional<GatewayLocation> parseServerLine(QByteArray line) {
+  const auto host = readValueAfter(line, "<server ip=\"");
+  const auto port = host ? readValueAfter(line, "\" port=\"") : std::nullopt;
+  const auto size = port ? readValueAfter(line, "\" maxfilesize=\"") : std::nullopt;
+  const auto sizeMobile = size ? readValueAfter(line, "\" maxfilesizemobile=\"") : std::nullopt;
   if (!sizeMobile) return std::nullopt;
   GatewayLocation location;
   location.host = fromCodePage(*host);
@@ -64,9 +59,8 @@ std::optional<GatewayLocation> parseServerLine(const QByteArray& line) {
   return location;
 }
 
-/// The lines of the document without their ends; a last line without an end counts, nothing after one
-/// doesn't.
-QByteArrayList linesOf(const QByteArray& document) {
+/// Returns the lines without LF. The last line may end without one.
+QByteArrayList splitLines(const QByteArray& document) {
   QByteArrayList lines = document.split('\n');
   if (lines.last().isEmpty()) lines.removeLast();
   return lines;
@@ -75,14 +69,15 @@ QByteArrayList linesOf(const QByteArray& document) {
 }  // namespace
 
 std::optional<GatewayLocation> parseLocatorDocument(const QByteArray& document) {
-  const QByteArrayList lines = linesOf(document);
+  const QByteArrayList lines = splitLines(document);
   if (lines.size() < 2) return std::nullopt;
   auto location = parseServerLine(lines[1].trimmed());
   if (!location) return std::nullopt;
-  const auto names = [](const QByteArray& line) { return line.contains("<version product=\"client\""); };
-  const auto line = std::find_if(lines.begin() + 2, lines.end(), names);
-  if (line == lines.end()) return std::nullopt;
-  const auto version = LineScanner(line->trimmed()).valueAfter("<version product=\"client\" version=\"");
+  const auto isVersion = [](const QByteArray& line) { return line.contains("<version product=\"client\""); };
+  const auto versionLine = std::find_if(lines.begin() + 2, lines.end(), isVersion);
+  if (versionLine == lines.end()) return std::nullopt;
+  QByteArray line = versionLine->trimmed();
+  const auto version = readValueAfter(line, "<version product=\"client\" version=\"");
   if (!version) return std::nullopt;
   location->latestClientVersion = fromCodePage(*version);
   return location;

@@ -9,10 +9,9 @@
 
 namespace parlexo {
 
-/// Where the gateway is, as the locator document tells. The document is read by lines and not as XML: line 1
-/// is skipped, line 2 is the server element with its four attributes, the first later line that names the
-/// product "client" tells its version. Numbers are read as atoi() does: what does not begin with one is 0.
-/// Returns nothing when a part is missing or has another form.
+/// Parses the locator document, line by line rather than as XML: line 1 is skipped, line 2 must be the server
+/// element with its four attributes, and the first later line for the product "client" must contain its
+/// version. Numbers are read as by leadingNumber(). Returns nullopt if a part is missing or malformed.
 [[nodiscard]] std::optional<GatewayLocation> parseLocatorDocument(const QByteArray& document);
 
 }  // namespace parlexo

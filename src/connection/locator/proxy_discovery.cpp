@@ -24,7 +24,7 @@ bool isOnThisMachine(const QString& host) {
   return host == QLatin1String("localhost") || QHostAddress(host).isLoopback();
 }
 
-/// The script's bytes; empty when it can't be had or is longer than any real one.
+/// Returns the script; empty if the download fails or exceeds the size limit.
 QByteArray downloadScript(const QUrl& address, const CancelFlag& cancel) {
   QNetworkRequest request(address);
   request.setAttribute(QNetworkRequest::RedirectPolicyAttribute, QNetworkRequest::NoLessSafeRedirectPolicy);
@@ -33,15 +33,16 @@ QByteArray downloadScript(const QUrl& address, const CancelFlag& cancel) {
   return isComplete ? script.document : QByteArray();
 }
 
-/// The proxy that the network's configuration script names, as text.
-QString askScript(const ProxySystem& system, const QUrl& address, const CancelFlag& cancel) {
-  const QUrl place = system.scriptAddress(cancel);
-  if (!place.isValid()) return {};
-  const QByteArray script = downloadScript(place, cancel);
+/// Returns the proxy that the network's configuration script returns, as text for parseProxyText(); empty if
+/// there is none.
+QString evaluateScript(const ProxySystem& system, const QUrl& address, const CancelFlag& cancel) {
+  const QUrl scriptAddress = system.scriptAddress(cancel);
+  if (!scriptAddress.isValid()) return {};
+  const QByteArray script = downloadScript(scriptAddress, cancel);
   const QTemporaryDir folder;
   QFile file(folder.filePath(u"proxy.pac"_s));
   if (script.isEmpty() || !file.open(QIODevice::WriteOnly) || file.write(script) != script.size()) return {};
-  // Who runs it may want to have the file alone.
+  // The script engine may require exclusive access.
   file.close();
   const QString answer = system.scriptAnswer(file.fileName(), address, cancel);
   const QLatin1String prefix("PROXY ");
@@ -56,8 +57,8 @@ ProxyDiscovery::ProxyDiscovery(QUrl address, CallRunner& runner, std::shared_ptr
 ProxyAddress ProxyDiscovery::configuredFor(const QUrl& address) const {
   if (isOnThisMachine(address.host())) return {};
   const QString list =
-      run(address, [](const ProxySystem& system, const QUrl& wanted, const CancelFlag& cancel) {
-        return system.configuredProxy(wanted, cancel);
+      run(address, [](const ProxySystem& system, const QUrl& target, const CancelFlag& cancel) {
+        return system.configuredProxy(target, cancel);
       });
   return httpProxyIn(list, address.scheme());
 }
@@ -66,16 +67,16 @@ ProxyAddress ProxyDiscovery::discover() const {
   return parseProxyText(
       run(address_, [](const ProxySystem& system, const QUrl& address, const CancelFlag& cancel) {
         const QString configured = system.configuredProxy(address, cancel);
-        return configured.isEmpty() ? askScript(system, address, cancel) : configured;
+        return configured.isEmpty() ? evaluateScript(system, address, cancel) : configured;
       }));
 }
 
 QString ProxyDiscovery::run(const QUrl& address, const Search& search) const {
-  const auto found = std::make_shared<QString>();
-  const bool ended = runner_.run([search, found, system = system_, address](const CancelFlag& cancel) {
-    *found = search(*system, address, cancel);
+  const auto result = std::make_shared<QString>();
+  const bool ended = runner_.run([search, result, system = system_, address](const CancelFlag& cancel) {
+    *result = search(*system, address, cancel);
   });
-  return ended ? *found : QString();
+  return ended ? *result : QString();
 }
 
 }  // namespace parlexo

@@ -13,27 +13,28 @@
 
 namespace parlexo {
 
-/// Finds out which proxy the system itself would use, so that the user need not know. Everything that may
-/// block is run by a CallRunner; without a network it is over after some seconds.
+/// Finds the proxy that the system would use. Queries that may block are run by a CallRunner; without a
+/// network they take some seconds.
 class ProxyDiscovery {
  public:
-  /// `address` is what the proxy is wanted for; its host decides too. `runner` must outlive this.
+  /// `address` is the target of the connection, on which the choice of proxy may depend. `runner` must
+  /// outlive this object.
   ProxyDiscovery(QUrl address, CallRunner& runner,
                  std::shared_ptr<const ProxySystem> system = makeProxySystem());
 
-  /// The HTTP proxy of the user's settings; empty when they name none. Programs of this machine are reached
-  /// without one, whatever the settings say.
+  /// The HTTP proxy of the user's settings; empty if there is none. Always empty for addresses of this
+  /// machine.
   [[nodiscard]] ProxyAddress configured() const { return configuredFor(address_); }
-  /// The same for another address: settings may make exceptions for a host or have a proxy for each scheme.
+  /// The same for another address: settings may exclude hosts or have a proxy per scheme.
   [[nodiscard]] ProxyAddress configuredFor(const QUrl& address) const;
-  /// The proxy of the settings, otherwise the one that the network's configuration script names. Empty when
-  /// neither does, the script can't be had or does not answer with "PROXY ".
+  /// The proxy of the settings, otherwise the one that the network's configuration script returns. Empty if
+  /// neither has one, or the script is not available or returns anything but "PROXY ...".
   [[nodiscard]] ProxyAddress discover() const;
 
  private:
   using Search = std::function<QString(const ProxySystem&, const QUrl& address, const CancelFlag&)>;
 
-  /// What `search` finds for `address`; empty when the user gave up waiting.
+  /// Returns the result of `search`; empty if it was cancelled.
   [[nodiscard]] QString run(const QUrl& address, const Search& search) const;
 
   QUrl address_;

@@ -12,19 +12,19 @@
 
 namespace parlexo {
 
-/// What the platform knows about proxies. All functions block, for some seconds at most, may be called from
-/// any thread and end soon after `cancel` was raised; what then or otherwise can't be told is empty.
+/// The platform's proxy configuration. Thread-safe. All functions block, for some seconds at most, and return
+/// soon after `cancel` is raised. On failure and when cancelled they return an empty value.
 class ProxySystem {
  public:
   virtual ~ProxySystem() = default;
 
-  /// The proxy that the user's settings name for `address`, as text for parseProxyText(); empty when they
-  /// name none.
+  /// The proxy that the user's settings have for `address`, as text for parseProxyText(); empty if there is
+  /// none.
   [[nodiscard]] virtual QString configuredProxy(const QUrl& address, const CancelFlag& cancel) const = 0;
-  /// Where the network says that its proxy configuration script lies; empty when it says nothing.
+  /// The address of the network's proxy configuration script; empty if it announces none.
   [[nodiscard]] virtual QUrl scriptAddress(const CancelFlag& cancel) const = 0;
-  /// What the configuration script in `file` answers for `address` and its host, such as
-  /// "PROXY proxy.local:8080; DIRECT"; empty when the script fails, takes too long or too much memory.
+  /// The result of the configuration script in `file` for `address` and its host, such as
+  /// "PROXY proxy.local:8080; DIRECT"; empty if the script fails or exceeds its limits on time and memory.
   [[nodiscard]] virtual QString scriptAnswer(const QString& file, const QUrl& address,
                                              const CancelFlag& cancel) const = 0;
 
@@ -34,7 +34,7 @@ class ProxySystem {
   ProxySystem& operator=(const ProxySystem&) = default;
 };
 
-/// The one of this platform. A question that is not answered within `patience` stays open.
+/// Creates the implementation of this platform. Queries fail after `patience`, where the platform allows.
 [[nodiscard]] std::shared_ptr<const ProxySystem> makeProxySystem(
     std::chrono::milliseconds patience = timeouts::proxyQuestion);
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// wininet.h needs what windows.h declares.
+// wininet.h requires windows.h.
 #include <windows.h>
 // clang-format off
 #include <wininet.h>
@@ -9,6 +9,7 @@
 #include <array>
 #include <memory>
 #include <type_traits>
+#include <utility>
 
 #include <QByteArray>
 #include <QFile>
@@ -37,11 +38,11 @@ Function function(const Library& library, const char* name) {
   return reinterpret_cast<Function>(reinterpret_cast<void*>(GetProcAddress(library.get(), name)));
 }
 
-/// The system's engine for proxy configuration scripts, with one script in it.
+/// The system's engine for proxy configuration scripts, with one script loaded.
 class ScriptEngine {
  public:
   explicit ScriptEngine(const QByteArray& file)
-      // Never one of that name that lies beside the program.
+      // Never load a DLL with that name from the program's folder.
       : library_(LoadLibraryExW(L"jsproxy.dll", nullptr, LOAD_LIBRARY_SEARCH_SYSTEM32)) {
     if (!library_) return;
     end_ = function<pfnInternetDeInitializeAutoProxyDll>(library_, "InternetDeInitializeAutoProxyDll");
@@ -61,14 +62,14 @@ class ScriptEngine {
     if (!isReady_) return {};
     QByteArray url = address.toEncoded();
     QByteArray host = address.host(QUrl::FullyEncoded).toLatin1();
-    char* found = nullptr;
+    char* proxy = nullptr;
     DWORD length = 0;
     if (!ask_(url.data(), static_cast<DWORD>(url.size()), host.data(), static_cast<DWORD>(host.size()),
-              &found, &length) ||
-        !found)
+              &proxy, &length) ||
+        !proxy)
       return {};
-    const QString text = QString::fromLatin1(found);
-    GlobalFree(found);
+    const QString text = QString::fromLatin1(proxy);
+    GlobalFree(proxy);
     return text;
   }
 
@@ -79,23 +80,19 @@ class ScriptEngine {
   bool isReady_ = false;
 };
 
-struct ProxySetting {
-  QString proxies;     ///< empty when the user's settings name none
-  QString exceptions;  ///< the hosts that are reached without them
-};
-
-ProxySetting proxySetting() {
+/// The proxies of the user's settings and the hosts that are excluded from them; empty if there are none.
+std::pair<QString, QString> proxySetting() {
   alignas(INTERNET_PROXY_INFO) std::array<char, settingSize> buffer{};
   DWORD size = settingSize;
   if (!InternetQueryOptionA(nullptr, INTERNET_OPTION_PROXY, buffer.data(), &size)) return {};
   const auto* setting = reinterpret_cast<const INTERNET_PROXY_INFO*>(buffer.data());
-  // The header gives the texts the character type of the build; this call fills in bytes.
+  // The header declares the strings with the character type of the build, but this call returns bytes.
   return {QString::fromLocal8Bit(reinterpret_cast<const char*>(setting->lpszProxy)),
           QString::fromLocal8Bit(reinterpret_cast<const char*>(setting->lpszProxyBypass))};
 }
 
-/// Whether `host` is one of `exceptions`: patterns such as "*.inside.example", and "<local>" for all names
-/// without a dot.
+/// Whether `host` matches `exceptions`, which are patterns such as "*.inside.example", or "<local>" for all
+/// names without a dot.
 bool isExcepted(const QString& host, const QString& exceptions) {
   static const QRegularExpression separators(u"[;\\s]+"_s);
   const QStringList patterns = exceptions.split(separators, Qt::SkipEmptyParts);
@@ -105,7 +102,7 @@ bool isExcepted(const QString& host, const QString& exceptions) {
   });
 }
 
-/// What a script that the user's settings point to names for `address`.
+/// The proxy that the script in the user's settings returns for `address`; empty if there is none.
 QString scriptedProxy(const QUrl& address) {
   const auto proxies = QNetworkProxyFactory::systemProxyForQuery(QNetworkProxyQuery(address));
   const QNetworkProxy first = proxies.value(0);
@@ -113,7 +110,7 @@ QString scriptedProxy(const QUrl& address) {
   return u"%1:%2"_s.arg(first.hostName()).arg(first.port());
 }
 
-/// Asks WinINet. Its calls can't be interrupted: a cancelled one is left to end by itself.
+/// Queries WinINet, whose calls can't be interrupted: a cancelled call runs to its end.
 class WindowsProxySystem final : public ProxySystem {
  public:
   [[nodiscard]] QString configuredProxy(const QUrl& address, const CancelFlag& cancel) const override {
@@ -124,10 +121,10 @@ class WindowsProxySystem final : public ProxySystem {
 
   [[nodiscard]] QUrl scriptAddress(const CancelFlag& cancel) const override {
     std::array<char, scriptAddressSize> address{};
-    const bool found =
+    const bool isDetected =
         !cancel.isRaised() && DetectAutoProxyUrl(address.data(), scriptAddressSize,
                                                  PROXY_AUTO_DETECT_TYPE_DHCP | PROXY_AUTO_DETECT_TYPE_DNS_A);
-    return found ? QUrl(QString::fromLatin1(address.data())) : QUrl();
+    return isDetected ? QUrl(QString::fromLatin1(address.data())) : QUrl();
   }
 
   [[nodiscard]] QString scriptAnswer(const QString& file, const QUrl& address,

@@ -2,12 +2,13 @@
 #include "connection/locator/proxy_text.h"
 
 #include <algorithm>
+#include <cstdlib>
+#include <limits>
 
 #include <QRegularExpression>
 #include <QUrl>
 
 #include "base/code_page.h"
-#include "connection/locator/leading_number.h"
 
 namespace parlexo {
 
@@ -56,6 +57,12 @@ ProxyAddress httpProxyIn(const QString& list, const QString& scheme) {
 
 QByteArray makeProxyAuthorisation(const QString& user, const QString& password) {
   return "Proxy-Authorization: Basic " + toCodePage(user + u':' + password).toBase64() + "\r\n";
+}
+
+int leadingNumber(const QByteArray& text) {
+  const long long number = std::strtoll(text.constData(), nullptr, 10);
+  return static_cast<int>(
+      std::clamp<long long>(number, std::numeric_limits<int>::min(), std::numeric_limits<int>::max()));
 }
 
 }  // namespace parlexo

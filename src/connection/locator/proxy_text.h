@@ -6,27 +6,32 @@
 
 namespace parlexo {
 
-/// Where a proxy listens.
+/// The address of a proxy.
 struct ProxyAddress {
-  QString host;  ///< empty stands for no proxy
+  QString host;  ///< empty for no proxy
   int port = 0;
 
   [[nodiscard]] bool isEmpty() const { return host.isEmpty(); }
 };
 
-/// Reads a proxy as system settings and configuration scripts write it, "HOST:PORT" or
-/// "http=HOST:PORT;https=...". The host is what stands between the first equals sign, if any, and the colon
-/// that follows it (or the end); the port is the number at the first digit after that, 0 when there is none.
+/// Parses a proxy in the format of system settings and configuration scripts, "HOST:PORT" or
+/// "http=HOST:PORT;https=...". The host is the text after the first equals sign, if any, up to the next colon
+/// or the end. The port is the number at the first digit after that, 0 if there is none.
 [[nodiscard]] ProxyAddress parseProxyText(const QString& text);
 
-/// The HTTP proxy that a list of the system's settings names for addresses of `scheme` ("http"), as such
-/// settings are written: "HOST:PORT" for every scheme or "http=HOST:PORT;ftp=HOST:PORT;socks=HOST:PORT", also
-/// separated by blanks and with "http://" before the host. An entry for the scheme comes before one for all;
-/// without a port it is 80. Empty when the list has none for the scheme, or only one of another protocol.
+/// Finds the HTTP proxy for addresses of `scheme` ("http") in a list of the system settings: "HOST:PORT" for
+/// all schemes or "http=HOST:PORT;ftp=HOST:PORT;socks=HOST:PORT", separated by semicolons or blanks,
+/// optionally with "http://" before the host. An entry for the scheme has priority over one for all schemes.
+/// The default port is
+/// 80. Empty if there is no entry for the scheme or it is not an HTTP proxy.
 [[nodiscard]] ProxyAddress httpProxyIn(const QString& list, const QString& scheme);
 
-/// The header line that logs in to a proxy, "Proxy-Authorization: Basic ...\r\n", of name and password in the
-/// bytes of the code page.
+/// Returns the header line "Proxy-Authorization: Basic ...\r\n", with user and password in the code page.
 [[nodiscard]] QByteArray makeProxyAuthorisation(const QString& user, const QString& password);
+
+/// Parses the decimal number at the start of `text` as atoi() does: leading blanks and a sign are accepted,
+/// text after the digits is ignored, and text without a number gives 0. Values out of range are clamped to
+/// int.
+[[nodiscard]] int leadingNumber(const QByteArray& text);
 
 }  // namespace parlexo

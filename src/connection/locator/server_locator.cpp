@@ -21,17 +21,17 @@ namespace {
 
 constexpr int statusOk = 200;
 constexpr int statusProxyLogin = 407;
-constexpr int mostRedirects = 5;
+constexpr int maxRedirects = 5;
 
-/// A port beyond 65535 would lose its upper bits and lead to another proxy.
+/// A port above 65535 would be truncated to that of another proxy.
 bool hasPort(const ProxyAddress& address) {
   return address.port > 0 && address.port <= std::numeric_limits<quint16>::max();
 }
 
 QNetworkProxy proxyAt(const ProxyAddress& address) {
-  // Without this Qt would take a proxy from the environment, which the gateway's own calls don't see.
+  // An explicit NoProxy, because Qt's default is the environment's proxy, which calls to the gateway ignore.
   if (address.isEmpty() || !hasPort(address)) return QNetworkProxy::NoProxy;
-  // Name and password go in the header: Qt would only send them after another refusal.
+  // User and password are sent in a header, because Qt would send them only after another 407.
   return {QNetworkProxy::HttpProxy, address.host, static_cast<quint16>(address.port)};
 }
 
@@ -44,19 +44,19 @@ bool isEncrypted(const QUrl& address) {
   return address.scheme() == QLatin1String("https");
 }
 
-/// The login goes to the proxy alone: in the header of a request that the proxy itself reads, but not in one
-/// that it passes on unseen to an encrypted site.
+/// The login must reach only the proxy. A request to an encrypted site is tunnelled, so its headers reach the
+/// site instead.
 bool headerCarriesLogin(const ProxySettings& login, const QUrl& address) {
   return !login.host.isEmpty() && !isEncrypted(address);
 }
 
-QNetworkRequest requestFor(const QUrl& address, const ProxySettings& login) {
+QNetworkRequest makeRequest(const QUrl& address, const ProxySettings& login) {
   QNetworkRequest request(address);
   addHeaderLine(request, "Accept: text/plain, text/html, text/htm, text/xml\r\n");
   addHeaderLine(request, "User-Agent: Parlexo/1.0\r\n");
   if (headerCarriesLogin(login, address))
     addHeaderLine(request, makeProxyAuthorisation(login.user, login.password));
-  // Qt would take the login's header along to an encrypted site.
+  // Redirects are followed manually, because Qt would send the login header to an encrypted site.
   request.setAttribute(QNetworkRequest::RedirectPolicyAttribute, QNetworkRequest::ManualRedirectPolicy);
   return request;
 }
@@ -75,16 +75,16 @@ bool isRedirect(int status) {
   return std::find(redirects.begin(), redirects.end(), status) != redirects.end();
 }
 
-/// On the way to an encrypted site the proxy refuses a connection instead of a request.
-bool wantsProxyLogin(const Download& download) {
+/// For an encrypted site the proxy rejects the tunnel, which has no HTTP status.
+bool needsProxyLogin(const Download& download) {
   return download.status == statusProxyLogin ||
          download.error == QNetworkReply::ProxyAuthenticationRequiredError;
 }
 
-/// True when no connection came about, so that another attempt may do better.
+/// Whether there was no connection, so that a second attempt may succeed.
 bool hasNotConnected(const Download& download) {
   return download.error != QNetworkReply::NoError && !download.wasSent && download.status == 0 &&
-         !wantsProxyLogin(download);
+         !needsProxyLogin(download);
 }
 
 void pause(std::chrono::milliseconds delay) {
@@ -99,8 +99,8 @@ QUrl redirectTarget(const QUrl& from, const QUrl& location) {
   const QUrl target = from.resolved(location);
   const bool isWeb = isEncrypted(target) || target.scheme() == QLatin1String("http");
   const bool isLessSafe = isEncrypted(from) && !isEncrypted(target);
-  const bool mayBeFollowed = !location.isEmpty() && target.isValid() && !target.host().isEmpty();
-  return mayBeFollowed && isWeb && !isLessSafe ? target : QUrl();
+  const bool hasTarget = !location.isEmpty() && target.isValid() && !target.host().isEmpty();
+  return hasTarget && isWeb && !isLessSafe ? target : QUrl();
 }
 
 ServerLocator::ServerLocator(const QUrl& site, const LocatorLimits& limits) : site_(site), limits_(limits) {}
@@ -110,20 +110,20 @@ Download ServerLocator::attempt(const ProxySettings& login, const ProxyAddress& 
   QUrl address(site_);
   address.setPath(u"/WSDLServerLocator.xml"_s);
   for (int redirects = 0;; ++redirects) {
-    Download reply = download(requestFor(address, login), proxyFor(address, login, preconfigured),
+    Download reply = download(makeRequest(address, login), proxyFor(address, login, preconfigured),
                               {.silence = limits_.transfer,
                                .whole = std::chrono::milliseconds(deadline.remainingTime()),
                                .bytes = limits_.documentBytes},
                               cancel);
     const QUrl next = isRedirect(reply.status) ? redirectTarget(address, reply.location) : QUrl();
-    if (next.isEmpty() || redirects == mostRedirects || cancel.isRaised()) return reply;
+    if (next.isEmpty() || redirects == maxRedirects || cancel.isRaised()) return reply;
     address = next;
   }
 }
 
 ServerLocator::Outcome ServerLocator::locate(RunState& state, const ProxyAddress& preconfigured,
                                              const CancelFlag& cancel) const {
-  // The login must not go anywhere but to its proxy.
+  // Without a valid port, the login would be sent elsewhere than to its proxy.
   if (!state.proxy.host.isEmpty() && !hasPort({state.proxy.host, state.proxy.port}))
     return Outcome::NotLocated;
   const QDeadlineTimer deadline(limits_.whole);
@@ -133,7 +133,7 @@ ServerLocator::Outcome ServerLocator::locate(RunState& state, const ProxyAddress
     download = attempt(state.proxy, preconfigured, deadline, cancel);
   }
   if (cancel.isRaised()) return Outcome::NotLocated;
-  if (wantsProxyLogin(download)) return Outcome::ProxyRefusal;
+  if (needsProxyLogin(download)) return Outcome::ProxyRefusal;
   if (download.status != statusOk || !download.isWhole) return Outcome::NotLocated;
   const auto location = parseLocatorDocument(download.document);
   if (!location) return Outcome::NotLocated;

@@ -14,37 +14,37 @@
 
 namespace parlexo {
 
-/// Patience and limits of the locator's download.
+/// Limits of the download of the locator document.
 struct LocatorLimits {
-  std::chrono::milliseconds transfer = timeouts::locatorSilence;  ///< until connected, and then between bytes
-  std::chrono::milliseconds retryDelay = timeouts::locatorRetry;  ///< before the second and last attempt
-  qint64 documentBytes = 64 * 1024;                               ///< a longer document is read up to here
-  std::chrono::milliseconds whole = timeouts::locatorWhole;       ///< all of it, with a second attempt
+  std::chrono::milliseconds transfer =
+      timeouts::locatorSilence;  ///< maximum wait for a connection or the next byte
+  std::chrono::milliseconds retryDelay =
+      timeouts::locatorRetry;                                ///< delay before the second and last attempt
+  qint64 documentBytes = 64 * 1024;                          ///< a longer document is truncated to this size
+  std::chrono::milliseconds whole = timeouts::locatorWhole;  ///< total time of all attempts
 };
 
-/// Where a redirect from `from` with the header "Location: `location`" leads; empty when it must not be
-/// followed: it leads away from HTTP, from an encrypted site to an open one, or nowhere.
+/// Returns the target of a redirect from `from` with the header "Location: `location`". Empty if the redirect
+/// must not be followed: it is invalid, leaves HTTP, or leads from HTTPS to HTTP.
 [[nodiscard]] QUrl redirectTarget(const QUrl& from, const QUrl& location);
 
-/// Downloads the locator document from the service's web site. Waits in a local event loop; any thread may
-/// use it.
+/// Downloads the locator document from the service's web site. May be used on any thread.
 class ServerLocator {
  public:
-  /// What an attempt to locate the gateway came to.
   enum class Outcome {
-    Located,       ///< everything is in the run's state
-    ProxyRefusal,  ///< a proxy wants a login (HTTP status 407); asking for one is the caller's
-    NotLocated,    ///< no connection, another status, or a document of another form
+    Located,       ///< the location is stored in the run state
+    ProxyRefusal,  ///< a proxy requires a login (HTTP status 407); the caller has to ask for one
+    NotLocated,    ///< no connection, another status, or a malformed document
   };
 
   /// `site` is the web site's base address, "http://HOST:PORT".
   explicit ServerLocator(const QUrl& site, const LocatorLimits& limits = {});
 
-  /// Downloads "/WSDLServerLocator.xml" and stores what it tells in `state.gateway`: all of it or, unless
-  /// the outcome is Located, nothing. Where the proxy of `state` has a host, the request goes through it and
-  /// carries its login; otherwise it goes through `preconfigured`, or straight when that is empty too. Up to
-  /// five redirects are followed, through the same proxy. About 100 ms after `cancel` was raised (a second,
-  /// where it waits for another attempt) it gives up.
+  /// Downloads "/WSDLServerLocator.xml" and stores the location in `state.gateway`, which is unchanged unless
+  /// the outcome is Located. Uses the proxy of `state` with its login if that has a host, otherwise
+  /// `preconfigured`, or no proxy if that is empty too. Up to five redirects are followed, through the same
+  /// proxy. Blocks in a local event loop; returns about 100 ms after `cancel` is raised, or up to a second
+  /// during the delay before the second attempt.
   [[nodiscard]] Outcome locate(RunState& state, const ProxyAddress& preconfigured = {},
                                const CancelFlag& cancel = {}) const;
 

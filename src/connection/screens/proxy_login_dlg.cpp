@@ -5,23 +5,18 @@
 #include <QLabel>
 #include <QLineEdit>
 
-#include "connection/locator/leading_number.h"
-#include "ui/front_window.h"
+#include "connection/locator/proxy_text.h"
+#include "ui/gradient_page.h"
 #include "ui/look.h"
 #include "ui/page_controls.h"
 #include "ui/unsendable_hint.h"
-#include "ui/waiting/box_column.h"
+#include "ui/waiting/animated_picture.h"
 
 namespace parlexo {
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-QString proxyExplanation() {
-  return u"You connect to the internet via the proxy. You must provide the proxy user name and the proxy "
-         "password (usually your windows login details)."_s;
-}
 
 QLineEdit* addRow(QGridLayout& grid, const char* name, const QString& text) {
   auto* field = new QLineEdit;
@@ -37,14 +32,17 @@ QLineEdit* addRow(QGridLayout& grid, const char* name, const QString& text) {
 CProxyLoginDlg::CProxyLoginDlg(const ProxyDiscovery& discovery, QWidget* parent) : GradientDialog(parent) {
   const ProxyAddress proxy = discovery.discover();
   setObjectName(u"proxyLoginDlg"_s);
-  setWindowTitle(u"Parlexo(TM) : Proxy Login"_s);
+  setWindowTitle(tr("Parlexo(TM) : Proxy Login"));
   QVBoxLayout* column = createColumn(*this);
   addFields(*column, proxy);
-  QLabel* explanation = wrappedLabel(proxyExplanation(), this);
+  QLabel* explanation = wrappedLabel(
+      tr("You connect to the internet via the proxy. You must provide the proxy user name and the proxy "
+         "password (usually your windows login details)."),
+      this);
   explanation->setObjectName(u"explanation"_s);
   column->addWidget(explanation);
   column->addStretch();
-  column->addLayout(dialogButtonRow(*this, {u"ok"_s, u"OK"_s}, {u"cancel"_s, u"Cancel"_s}));
+  column->addLayout(dialogButtonRow(*this, {u"ok"_s, tr("OK")}, {u"cancel"_s, tr("Cancel")}));
   setMinimumSize(dialogUnits(*this, 220, 139));
 }
 
@@ -54,11 +52,11 @@ CProxyLoginDlg::~CProxyLoginDlg() {
 
 void CProxyLoginDlg::addFields(QVBoxLayout& column, const ProxyAddress& proxy) {
   auto* grid = new QGridLayout;
-  user_ = addRow(*grid, "proxyUser", u"Proxy User Name:"_s);
-  password_ = addRow(*grid, "proxyPassword", u"Proxy Password:"_s);
+  user_ = addRow(*grid, "proxyUser", tr("Proxy User Name:"));
+  password_ = addRow(*grid, "proxyPassword", tr("Proxy Password:"));
   password_->setEchoMode(QLineEdit::Password);
-  host_ = addRow(*grid, "proxyHost", u"Proxy Host / Address:"_s);
-  port_ = addRow(*grid, "proxyPort", u"Proxy Port:"_s);
+  host_ = addRow(*grid, "proxyHost", tr("Proxy Host / Address:"));
+  port_ = addRow(*grid, "proxyPort", tr("Proxy Port:"));
   column.addLayout(grid);
   auto* hint = new UnsendableHint(this);
   hint->watch({user_, password_});
@@ -73,7 +71,7 @@ void CProxyLoginDlg::addFields(QVBoxLayout& column, const ProxyAddress& proxy) {
 ProxySettings CProxyLoginDlg::settings() const {
   return {.password = password_->text(),
           .user = user_->text(),
-          // Blanks come along when an address is pasted, and no host has any.
+          // Pasted addresses often have blanks around them.
           .host = host_->text().trimmed(),
           .port = leadingNumber(port_->text().toLatin1())};
 }

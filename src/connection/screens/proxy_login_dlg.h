@@ -11,18 +11,18 @@ class QVBoxLayout;
 
 namespace parlexo {
 
-/// Asks for the address of the proxy and for the login to it.
+/// Asks for the address and login of the proxy.
 class CProxyLoginDlg final : public GradientDialog {
   Q_OBJECT
 
  public:
-  /// Fills in the proxy that `discovery` finds, which may take some seconds; nothing found leaves its two
-  /// fields empty.
+  /// Fills in the address of the proxy that `discovery` finds, if any. Blocks for the discovery, which may
+  /// take some seconds.
   explicit CProxyLoginDlg(const ProxyDiscovery& discovery, QWidget* parent = nullptr);
   /// Also wipes the password field.
   ~CProxyLoginDlg() override;
 
-  /// What stands in the fields. The port is the number that its text begins with, 0 without one.
+  /// The contents of the fields. The port is 0 if its text does not start with a number.
   [[nodiscard]] ProxySettings settings() const;
 
  private:
@@ -34,10 +34,10 @@ class CProxyLoginDlg final : public GradientDialog {
   QLineEdit* port_ = nullptr;
 };
 
-/// Asks by means of the dialog.
+/// Shows CProxyLoginDlg.
 class ProxyLoginBox final : public ProxyLogin {
  public:
-  /// `discovery` must outlive this.
+  /// `discovery` must outlive this object.
   explicit ProxyLoginBox(const ProxyDiscovery& discovery) : discovery_(discovery) {}
 
   [[nodiscard]] std::optional<ProxySettings> ask() override;

@@ -10,27 +10,13 @@
 #include "ui/look.h"
 #include "ui/page_controls.h"
 #include "ui/picture_button.h"
-#include "ui/waiting/box_column.h"
+#include "ui/waiting/animated_picture.h"
 
 namespace parlexo {
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-QString announcement(const QString& version) {
-  if (version.isEmpty()) return {};
-  return u"A new version %1 is now available!"_s.arg(version);
-}
-
-QString warning() {
-  return u"Product software version mismatch. You MUST upgrade your software!"_s;
-}
-
-QString explanation() {
-  return u"The version of the client software you are using is out of date.\nPress the Download button to "
-         "download the latest version  of the program. Get the latest fixes and new features..."_s;
-}
 
 QLabel* addLabel(QBoxLayout& column, const char* name, const QString& text) {
   QLabel* label = wrappedLabel(text, column.parentWidget());
@@ -51,19 +37,25 @@ void makeBold(QWidget& widget) {
 CUpgradeDlg::CUpgradeDlg(const QString& latestVersion, QWidget* parent, WebOpener opener)
     : GradientDialog(parent) {
   setObjectName(u"upgradeDlg"_s);
-  setWindowTitle(u"Parlexo(TM) : Product UPGRADE"_s);
+  setWindowTitle(tr("Parlexo(TM) : Product UPGRADE"));
   QVBoxLayout* column = createColumn(*this);
-  makeBold(*addLabel(*column, "warning", warning()));
-  QLabel* news = addLabel(*column, "announcement", announcement(latestVersion));
-  news->setVisible(!latestVersion.isEmpty());
-  addLabel(*column, "explanation", explanation())->setMinimumWidth(dialogUnits(*this, 290, 0).width());
+  makeBold(*addLabel(*column, "warning",
+                     tr("Product software version mismatch. You MUST upgrade your software!")));
+  const QString announcement =
+      latestVersion.isEmpty() ? QString() : tr("A new version %1 is now available!").arg(latestVersion);
+  addLabel(*column, "announcement", announcement)->setVisible(!latestVersion.isEmpty());
+  addLabel(
+      *column, "explanation",
+      tr("The version of the client software you are using is out of date.\nPress the Download button to "
+         "download the latest version  of the program. Get the latest fixes and new features..."))
+      ->setMinimumWidth(dialogUnits(*this, 290, 0).width());
   column->addStretch();
 
   auto* buttons = new QHBoxLayout;
   buttons->addStretch();
-  auto* download = addButton(*buttons, u"download"_s, u"&Download"_s);
+  auto* download = addButton(*buttons, u"download"_s, tr("&Download"));
   download->setDefault(true);
-  auto* cancel = addButton(*buttons, u"cancel"_s, u"&Cancel"_s);
+  auto* cancel = addButton(*buttons, u"cancel"_s, tr("&Cancel"));
   column->addLayout(buttons);
   download->setFocus();
   connect(download, &PictureButton::clicked, this,

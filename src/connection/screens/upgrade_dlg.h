@@ -2,16 +2,17 @@
 #pragma once
 
 #include "ui/gradient_page.h"
-#include "ui/web_opener.h"
+#include "ui/hyperlink_label.h"
 
 namespace parlexo {
 
-/// Tells that this version of the program is too old for the gateway, and where a newer one is.
+/// Tells the user that this version of the program is too old for the gateway, and offers to open the
+/// download page.
 class CUpgradeDlg final : public GradientDialog {
   Q_OBJECT
 
  public:
-  /// `latestVersion` is the version that can be had; empty when it is not known.
+  /// `latestVersion` is the version available for download; empty if unknown.
   explicit CUpgradeDlg(const QString& latestVersion, QWidget* parent = nullptr,
                        WebOpener opener = openInBrowser);
 };

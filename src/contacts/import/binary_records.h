@@ -3,18 +3,25 @@
 
 #include <vector>
 
+#include <QByteArray>
 #include <QByteArrayView>
+#include <QStringView>
 
 namespace parlexo {
 
-/// What libfreexl does not report of a sheet in an .xls workbook.
+/// Returns the content of a stream, such as "Workbook", of a compound file, the container of .xls workbooks
+/// ([MS-CFB], versions 3 and 4). Returns an empty array if the stream is missing or the file is damaged.
+/// `file` is untrusted: chains of sectors are limited to the length of the file.
+[[nodiscard]] QByteArray readCompoundStream(QByteArrayView file, QStringView streamName);
+
+/// Properties of a sheet in an .xls workbook that libfreexl does not report.
 struct BinarySheet {
   bool isHidden = false;
-  bool hasFormulas = false;  ///< libfreexl shows their cells as empty
+  bool hasFormulas = false;  ///< libfreexl reads their cells as empty
 };
 
-/// The sheets of a workbook stream ([MS-XLS]; Excel 5 and later), in the order in which libfreexl counts
-/// them. `stream` is untrusted; records that it cuts short are ignored.
+/// Returns the sheets of a workbook stream ([MS-XLS]; Excel 5 and later) in the order of libfreexl. `stream`
+/// is untrusted; a truncated record is ignored.
 [[nodiscard]] std::vector<BinarySheet> readBinarySheets(QByteArrayView stream);
 
 }  // namespace parlexo

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Workbooks of the older binary format, through libfreexl.
+// Reads .xls workbooks with libfreexl.
 
 #include <freexl.h>
 
@@ -8,7 +8,6 @@
 #include <QFile>
 
 #include "contacts/import/binary_records.h"
-#include "contacts/import/compound_file.h"
 #include "contacts/import/number_format.h"
 #include "contacts/import/workbook_builder.h"
 #include "contacts/import/workbook_readers.h"
@@ -80,7 +79,7 @@ void readSheet(const Workbook& book, unsigned short number, const BinarySheet& p
     for (unsigned short column = 0; column < columns; ++column) readCell(book, sheet, row, column, builder);
 }
 
-std::vector<BinarySheet> sheetsOf(const QString& path) {
+std::vector<BinarySheet> readSheetProperties(const QString& path) {
   QFile file(path);
   if (!file.open(QIODevice::ReadOnly)) return {};
   const QByteArray bytes = file.readAll();
@@ -95,9 +94,9 @@ QString readBinaryWorkbook(const QString& path, const ImportLimits& limits, cons
                            NamedSheets& sheets) {
   const Workbook book(path);
   if (!book.isOpen() || book.info(FREEXL_BIFF_PASSWORD) == FREEXL_BIFF_OBFUSCATED)
-    return u"The workbook can't be read. It is damaged or protected by a password."_s;
+    return CSpreadSheet::tr("The workbook can't be read. It is damaged or protected by a password.");
   WorkbookBuilder builder(limits, cancel);
-  const std::vector<BinarySheet> properties = sheetsOf(path);
+  const std::vector<BinarySheet> properties = readSheetProperties(path);
   const unsigned count = book.info(FREEXL_BIFF_SHEET_COUNT);
   for (unsigned sheet = 0; sheet < count && builder.isOpen(); ++sheet)
     readSheet(book, static_cast<unsigned short>(sheet),

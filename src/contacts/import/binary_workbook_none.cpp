@@ -1,15 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Stands in for the reader of .xls in builds without libfreexl.
+// Replaces the reader of .xls workbooks in builds without libfreexl.
 
 #include "contacts/import/workbook_readers.h"
 
 namespace parlexo {
 
-using namespace Qt::StringLiterals;
-
 QString readBinaryWorkbook(const QString& /*path*/, const ImportLimits& /*limits*/,
                            const CancelFlag& /*cancel*/, NamedSheets& /*sheets*/) {
-  return u"This program was built without the reader of .xls workbooks. Save the sheet as CSV."_s;
+  return CSpreadSheet::tr(
+      "This program was built without the reader of .xls workbooks. Save the sheet as CSV.");
 }
 
 }  // namespace parlexo

@@ -23,9 +23,9 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr qint64 chunkBytes = 1 << 18;
-constexpr int rowsToJudge = 20;
+constexpr int sampledRows = 20;
 
-/// Turns the bytes of a file into text, chunk by chunk, without the byte order mark.
+/// Decodes a file chunk by chunk and removes the byte order mark.
 class TextDecoder {
  public:
   explicit TextDecoder(TextEncoding encoding) : converter_(converterFor(encoding)) {}
@@ -64,7 +64,7 @@ bool isUtf8(QFile& file, const CancelFlag& cancel) {
     const QString text = decoder.decode(file.read(chunkBytes));
     if (text.isEmpty() || decoder.hasError()) return false;
   }
-  // A sequence that the file's end cuts short shows by what follows it.
+  // The decoder only reports a truncated sequence at the end of the file when more bytes follow.
   const QString tail = decoder.decode("\n");
   return tail.size() == 1 && !decoder.hasError();
 }
@@ -77,7 +77,7 @@ TextEncoding detectEncoding(QFile& file, const CancelFlag& cancel) {
   return isUtf8(file, cancel) ? TextEncoding::Utf8 : TextEncoding::CodePage;
 }
 
-/// How many of the rows have the commonest number of cells, which must be more than one.
+/// Returns how many rows have the most frequent number of cells above one.
 int evenRows(const Sheet& sheet) {
   std::map<int, int> rowsByCells;
   for (int row = 0; row < sheet.rowCount(); ++row) {
@@ -89,22 +89,22 @@ int evenRows(const Sheet& sheet) {
   return most;
 }
 
-/// In how many rows the column that most often has a phone number has one.
+/// Returns the number of phone numbers in the column with the most of them.
 int rowsWithNumber(const Sheet& sheet) {
   int most = 0;
   for (int column = 0; column < sheet.columnCount(); ++column) {
     int rows = 0;
     for (int row = 0; row < sheet.rowCount(); ++row)
-      if (looksLikePhoneNumber(sheet.cell(row, column))) ++rows;
+      if (isPossiblePhoneNumber(sheet.cell(row, column))) ++rows;
     most = std::max(most, rows);
   }
   return most;
 }
 
-/// A first line such as "sep=;", which names the delimiter for spreadsheet programs.
+/// A first line such as "sep=;", which specifies the delimiter for spreadsheet programs.
 struct SeparatorLine {
   QChar delimiter;
-  qsizetype length = 0;  ///< line end included; 0 without such a line
+  qsizetype length = 0;  ///< including the line break; 0 if there is no such line
 };
 
 SeparatorLine findSeparatorLine(const QString& text) {
@@ -115,22 +115,22 @@ SeparatorLine findSeparatorLine(const QString& text) {
                           : SeparatorLine{};
 }
 
-QString beginningOf(const QString& path, TextEncoding encoding) {
+QString readBeginning(const QString& path, TextEncoding encoding) {
   QFile file(path);
   return file.open(QIODevice::ReadOnly) ? TextDecoder(encoding).decode(file.read(chunkBytes)) : QString();
 }
 
 QChar detectDelimiter(const QString& path, TextEncoding encoding, const ImportLimits& limits,
                       const CancelFlag& cancel) {
-  const SeparatorLine named = findSeparatorLine(beginningOf(path, encoding));
+  const SeparatorLine named = findSeparatorLine(readBeginning(path, encoding));
   if (std::count(std::begin(knownDelimiters), std::end(knownDelimiters), named.delimiter) != 0)
     return named.delimiter;
   QChar best = path.endsWith(QLatin1String(".tsv"), Qt::CaseInsensitive) ? u'\t' : u',';
-  // Evenly cut rows first; of equals the one that leaves a column of numbers.
+  // Even rows have priority over a column of numbers.
   std::pair<int, int> bestRows;
   for (const QChar delimiter : knownDelimiters) {
-    const SheetReading reading = readDelimited(path, {encoding, delimiter}, limits, cancel, rowsToJudge);
-    // Where the quotation marks make no sense, the delimiter is another.
+    const SheetReading reading = readDelimited(path, {encoding, delimiter}, limits, cancel, sampledRows);
+    // Misplaced quotation marks indicate a wrong delimiter.
     if (!reading.problem.isEmpty()) continue;
     const std::pair rows(evenRows(reading.sheet), rowsWithNumber(reading.sheet));
     if (rows.first == 0 || rows <= bestRows) continue;
@@ -144,15 +144,17 @@ QChar detectDelimiter(const QString& path, TextEncoding encoding, const ImportLi
 
 QString fileProblem(const QString& path, const ImportLimits& limits) {
   const QFileInfo info(path);
-  if (!info.exists()) return u"There is no such file: "_s + path;
-  // A pipe or a device might never come to its end.
-  if (!info.isFile()) return u"This is not a file: "_s + path;
+  if (!info.exists()) return SheetReading::tr("There is no such file: %1").arg(path);
+  // A pipe or device might never end.
+  if (!info.isFile()) return SheetReading::tr("This is not a file: %1").arg(path);
   if (info.size() > limits.fileBytes)
-    return u"The file has %L1 MB. Files of more than %L2 MB can't be imported."_s.arg(info.size() >> 20)
+    return SheetReading::tr("The file has %L1 MB. Files of more than %L2 MB can't be imported.")
+        .arg(info.size() >> 20)
         .arg(limits.fileBytes >> 20);
-  if (info.size() == 0) return u"The file is empty."_s;
+  if (info.size() == 0) return SheetReading::tr("The file is empty.");
   QFile file(path);
-  if (!file.open(QIODevice::ReadOnly)) return u"The file can't be opened: "_s + file.errorString();
+  if (!file.open(QIODevice::ReadOnly))
+    return SheetReading::tr("The file can't be opened: %1").arg(file.errorString());
   return {};
 }
 
@@ -168,7 +170,7 @@ SheetReading readDelimited(const QString& path, const DelimitedFormat& format, c
   SheetReading reading;
   QFile file(path);
   if (!file.open(QIODevice::ReadOnly)) {
-    reading.problem = u"The file can't be opened: "_s + file.errorString();
+    reading.problem = SheetReading::tr("The file can't be opened: %1").arg(file.errorString());
     return reading;
   }
   TextDecoder decoder(format.encoding);
@@ -184,8 +186,9 @@ SheetReading readDelimited(const QString& path, const DelimitedFormat& format, c
   }
   if (cancel.isRaised()) return reading;
   parser.finish();
-  reading.problem = file.error() == QFileDevice::NoError ? parser.problem()
-                                                         : u"The file can't be read: "_s + file.errorString();
+  reading.problem = file.error() == QFileDevice::NoError
+                        ? parser.problem()
+                        : SheetReading::tr("The file can't be read: %1").arg(file.errorString());
   return reading;
 }
 

@@ -3,17 +3,17 @@
 
 #include <limits>
 
+#include <QCoreApplication>
 #include <QString>
 
 #include "base/call_runner.h"
-#include "contacts/import/import_limits.h"
 #include "contacts/import/sheet.h"
 
 namespace parlexo {
 
 enum class TextEncoding { Utf8, Utf16LittleEndian, Utf16BigEndian, CodePage };
 
-/// How a text file is to be read.
+/// How to read a text file.
 struct DelimitedFormat {
   TextEncoding encoding = TextEncoding::Utf8;
   QChar delimiter = u',';
@@ -21,28 +21,31 @@ struct DelimitedFormat {
   bool operator==(const DelimitedFormat&) const = default;
 };
 
-/// The delimiters that are looked for, the likelier first.
+/// The delimiters that detectFormat() tries, the most likely first.
 inline constexpr QChar knownDelimiters[] = {u',', u';', u'\t', u'|'};
 
-/// What came of reading: the rows and, where something was wrong, a message for the user.
+/// The rows read, and a message for the user if an error occurred.
 struct SheetReading {
+  Q_DECLARE_TR_FUNCTIONS(SheetReading)
+
+ public:
   Sheet sheet;
   QString problem;
 };
 
-/// Why the file can't be imported before even looking into it: it is missing, no file, empty or too large;
-/// empty when nothing is in the way.
+/// Checks a file before it is read. Returns a message for the user if it is missing, not a regular file,
+/// empty, too large or can't be opened, otherwise an empty string.
 [[nodiscard]] QString fileProblem(const QString& path, const ImportLimits& limits = {});
 
-/// Detects the encoding: the byte order mark decides, else UTF-8 if all bytes are valid, else the code page.
-/// The delimiter is that of a first line "sep=;" if there is one, else the known one that cuts the first rows
-/// most evenly, where several do so the one that leaves a column of numbers. Reads the whole file once; a
-/// file that can't be read has some format.
+/// Detects the format of a text file. The encoding follows from the byte order mark; without one it is UTF-8
+/// if all bytes are valid, otherwise the code page. The delimiter is taken from a first line such as "sep=;";
+/// without one it is the known delimiter that splits the first rows most evenly, preferably with a column of
+/// numbers. Reads the whole file once. The result is unspecified if the file can't be read.
 [[nodiscard]] DelimitedFormat detectFormat(const QString& path, const ImportLimits& limits,
                                            const CancelFlag& cancel);
 
-/// Reads at most the first `maxRows` rows, without a first line "sep=;". The problem of a file that can't be
-/// read or is broken names the line; a cancelled reading ends early and has none.
+/// Reads up to `maxRows` rows, skipping a first line such as "sep=;". The message for malformed text contains
+/// the line number. Ends early, without a message, when `cancel` is raised.
 [[nodiscard]] SheetReading readDelimited(const QString& path, const DelimitedFormat& format,
                                          const ImportLimits& limits, const CancelFlag& cancel,
                                          int maxRows = std::numeric_limits<int>::max());

@@ -5,8 +5,6 @@
 
 namespace parlexo {
 
-using namespace Qt::StringLiterals;
-
 namespace {
 constexpr QChar quote = u'"';
 constexpr QChar carriageReturn = u'\r';
@@ -19,21 +17,21 @@ DelimitedParser::DelimitedParser(QChar delimiter, const ImportLimits& limits, in
 bool DelimitedParser::feed(QStringView piece) {
   for (const QChar character : piece) {
     if (state_ == State::Done) return false;
-    take(character);
+    parse(character);
   }
   return state_ != State::Done;
 }
 
 void DelimitedParser::finish() {
   if (state_ == State::Quoted)
-    fail(u"the quotation mark that opens a cell there is never closed."_s, quoteLine_);
+    fail(tr("the quotation mark that opens a cell there is never closed."), quoteLine_);
   else if (state_ != State::Done && (state_ != State::CellStart || sheet_.openRowCells() > 0))
     endRow();
 }
 
-void DelimitedParser::take(QChar character) {
+void DelimitedParser::parse(QChar character) {
   if (character.isNull()) {
-    fail(u"there is a zero character. The file is no text, or its encoding is another one."_s, line_);
+    fail(tr("there is a zero character. The file is no text, or its encoding is another one."), line_);
     return;
   }
   const bool endsPair = afterReturn_ && character == lineFeed;
@@ -42,20 +40,20 @@ void DelimitedParser::take(QChar character) {
   switch (state_) {
     case State::CellStart:
     case State::Plain:
-      if (!endsPair) takeOutsideQuotes(character);
+      if (!endsPair) parseOutsideQuotes(character);
       break;
     case State::Quoted:
-      takeQuoted(character);
+      parseQuoted(character);
       break;
     case State::AfterQuote:
-      takeAfterQuote(character);
+      parseAfterQuote(character);
       break;
     case State::Done:
       break;
   }
 }
 
-void DelimitedParser::takeOutsideQuotes(QChar character) {
+void DelimitedParser::parseOutsideQuotes(QChar character) {
   if (character == delimiter_) {
     endCell();
   } else if (character == carriageReturn || character == lineFeed) {
@@ -65,45 +63,45 @@ void DelimitedParser::takeOutsideQuotes(QChar character) {
     quoteLine_ = line_;
   } else {
     state_ = State::Plain;
-    takeText(character);
+    appendText(character);
   }
 }
 
-void DelimitedParser::takeQuoted(QChar character) {
+void DelimitedParser::parseQuoted(QChar character) {
   if (character == quote)
     state_ = State::AfterQuote;
   else
-    takeText(character);
+    appendText(character);
 }
 
-void DelimitedParser::takeAfterQuote(QChar character) {
+void DelimitedParser::parseAfterQuote(QChar character) {
   if (character == quote) {
     state_ = State::Quoted;
-    takeText(character);
+    appendText(character);
   } else if (character == delimiter_) {
     endCell();
   } else if (character == carriageReturn || character == lineFeed) {
     endRow();
   } else if (character != u' ') {
-    fail(u"a quotation mark inside a quoted cell is not doubled."_s, line_);
+    fail(tr("a quotation mark inside a quoted cell is not doubled."), line_);
   }
 }
 
-void DelimitedParser::takeText(QChar character) {
+void DelimitedParser::appendText(QChar character) {
   sheet_.append(character);
   if (sheet_.openCellLength() > limits_.cellLength)
-    fail(u"a cell has more than %L1 characters. Perhaps a quotation mark is not closed."_s.arg(
-             limits_.cellLength),
+    fail(tr("a cell has more than %L1 characters. Perhaps a quotation mark is not closed.")
+             .arg(limits_.cellLength),
          state_ == State::Quoted ? quoteLine_ : line_);
   else if (sheet_.textLength() > limits_.textLength)
-    fail(u"the file has too much text."_s, line_);
+    fail(tr("the file has too much text."), line_);
 }
 
 void DelimitedParser::endCell() {
   sheet_.endCell();
   state_ = State::CellStart;
   if (sheet_.openRowCells() >= limits_.columns)
-    fail(u"there are more than %L1 columns."_s.arg(limits_.columns), line_);
+    fail(tr("there are more than %L1 columns.").arg(limits_.columns), line_);
 }
 
 void DelimitedParser::endRow() {
@@ -111,12 +109,12 @@ void DelimitedParser::endRow() {
   sheet_.endRow();
   state_ = State::CellStart;
   if (sheet_.rowCount() >= std::min(maxRows_, limits_.rows + 1)) state_ = State::Done;
-  if (sheet_.rowCount() > limits_.rows) fail(u"there are more than %L1 rows."_s.arg(limits_.rows), line_);
+  if (sheet_.rowCount() > limits_.rows) fail(tr("there are more than %L1 rows.").arg(limits_.rows), line_);
 }
 
 void DelimitedParser::fail(const QString& problem, int line) {
   state_ = State::Done;
-  problem_ = u"Line %1: "_s.arg(line) + problem;
+  problem_ = tr("Line %1: %2").arg(line).arg(problem);
 }
 
 }  // namespace parlexo

@@ -1,39 +1,41 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QCoreApplication>
 #include <QString>
 #include <QStringView>
 
-#include "contacts/import/import_limits.h"
 #include "contacts/import/sheet.h"
 
 namespace parlexo {
 
-/// Reads delimited text as RFC 4180 describes it, piece by piece, into a sheet. Rows end with CR, LF or both,
-/// in any mixture. What is broken ends the reading with a message.
+/// Parses delimited text (RFC 4180) incrementally into a sheet. Rows may end with CR, LF or CRLF in any
+/// combination. Malformed text ends parsing with a message.
 class DelimitedParser {
+  Q_DECLARE_TR_FUNCTIONS(DelimitedParser)
+
  public:
-  /// Stops by itself after `maxRows` rows. `sheet` must be empty and outlive the parser.
+  /// Stops after `maxRows` rows. `sheet` must be empty. `limits` and `sheet` must outlive the parser.
   DelimitedParser(QChar delimiter, const ImportLimits& limits, int maxRows, Sheet& sheet);
 
-  /// Counts a line that was not fed.
+  /// Increments the line number for a line that is not passed to feed().
   void skipLine() { ++line_; }
-  /// Takes the next piece of the text. False when no more is wanted: all rows are there or a fault was found.
+  /// Parses the next piece of the text. Returns false after the last wanted row or an error.
   [[nodiscard]] bool feed(QStringView piece);
-  /// Ends the text, whose last row need not end with a line break.
+  /// Ends the text. The last row does not need a line break.
   void finish();
 
-  /// What is wrong with the text, as the user is told; empty while nothing is.
+  /// The message for the user; empty if no error has occurred.
   [[nodiscard]] const QString& problem() const { return problem_; }
 
  private:
   enum class State { CellStart, Plain, Quoted, AfterQuote, Done };
 
-  void take(QChar character);
-  void takeOutsideQuotes(QChar character);
-  void takeQuoted(QChar character);
-  void takeAfterQuote(QChar character);
-  void takeText(QChar character);
+  void parse(QChar character);
+  void parseOutsideQuotes(QChar character);
+  void parseQuoted(QChar character);
+  void parseAfterQuote(QChar character);
+  void appendText(QChar character);
   void endCell();
   void endRow();
   void fail(const QString& problem, int line);

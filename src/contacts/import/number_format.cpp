@@ -12,7 +12,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// Up to here every whole number is a double of its own.
+// The largest range in which a double represents every whole number.
 constexpr double largestWhole = 9'007'199'254'740'992.0;
 constexpr int typedDigits = 15;
 constexpr double lastDay = 2'958'465;  // the end of the year 9999
@@ -47,7 +47,7 @@ bool isDateFormat(QStringView format) {
     if (c == u'\\' || c == u'_' || c == u'*') ++i;
     if (c == u'[') bracketed = true;
     if (c == u']') bracketed = false;
-    // Colours and currencies stand in brackets.
+    // Brackets contain colours and currencies.
     if (!bracketed && (c == u'y' || c == u'm' || c == u'd' || c == u'h' || c == u's')) return true;
   }
   return false;
@@ -64,7 +64,7 @@ QString dateText(double serial, bool since1904) {
   return moment.toString(days == 0 ? u"HH:mm:ss"_s : u"yyyy-MM-dd HH:mm:ss"_s);
 }
 
-bool looksLikePhoneNumber(QStringView cell) {
+bool isPossiblePhoneNumber(QStringView cell) {
   constexpr qsizetype fewestDigits = 6;
   qsizetype digits = 0;
   for (const QChar c : cell) {

@@ -6,21 +6,21 @@
 
 namespace parlexo {
 
-/// A number as a user would type it: whole numbers with all their digits and without an exponent.
+/// Formats a number as a user would type it: whole numbers with all digits and without an exponent.
 [[nodiscard]] QString numberText(double value);
 
-/// The same for a number as it stands in a workbook's XML; digits alone stay as they are, however many.
-/// What is no number stays as well.
+/// Likewise for a number in a workbook's XML. Returns any number of plain digits, and text that is not a
+/// number, unchanged.
 [[nodiscard]] QString numberText(QStringView written);
 
-/// Whether a workbook's number format, like "dd/mm/yyyy", shows numbers as dates or times.
+/// Returns whether a workbook's number format, such as "dd/mm/yyyy", displays numbers as dates or times.
 [[nodiscard]] bool isDateFormat(QStringView format);
 
-/// The day, and the time where there is one, that a workbook's serial number stands for: days since the end
-/// of 1899, or since 1904 began. A number that is no such day gives its numberText().
+/// Formats a workbook's serial number, days since 30 December 1899 or 1 January 1904, as a date, with the
+/// time unless it is midnight. Returns numberText() for a number out of range.
 [[nodiscard]] QString dateText(double serial, bool since1904);
 
-/// Whether a cell may hold a phone number: six digits or more, no letter and no delimiter.
-[[nodiscard]] bool looksLikePhoneNumber(QStringView cell);
+/// Returns whether a cell may contain a phone number: at least six digits, no letter and no delimiter.
+[[nodiscard]] bool isPossiblePhoneNumber(QStringView cell);
 
 }  // namespace parlexo

@@ -20,24 +20,24 @@ QStringView odsAttribute(const WorkbookXml& xml, QStringView name) {
   return {};
 }
 
-int repeatsOf(const WorkbookXml& xml, QStringView name) {
+int repeatCount(const WorkbookXml& xml, QStringView name) {
   return std::max(1, odsAttribute(xml, name).toInt());
 }
 
-/// Counts past the last cell of any sheet stay there.
+/// Adds without overflow; positions are far beyond the last cell of any sheet then.
 void advance(int& position, int count) {
   position = std::min(position, std::numeric_limits<int>::max() / 2);
   position += std::min(count, std::numeric_limits<int>::max() / 2);
 }
 
-/// The text of the paragraph or of a stretch of it at which `xml` stands.
+/// Returns the text of the current paragraph or span.
 QString paragraphText(WorkbookXml& xml) {
   constexpr int longestBlank = 1000;
   QString text;
   while (!xml.atEnd() && xml.readNext() != WorkbookXml::EndElement) {
     if (xml.isCharacters()) text += xml.text();
     if (!xml.isStartElement()) continue;
-    if (xml.name() == u"s") text += QString(std::min(repeatsOf(xml, u"c"), longestBlank), u' ');
+    if (xml.name() == u"s") text += QString(std::min(repeatCount(xml, u"c"), longestBlank), u' ');
     if (xml.name() == u"tab" || xml.name() == u"line-break") text += u' ';
     if (xml.name() == u"annotation" || xml.name() == u"note")
       xml.skipCurrentElement();
@@ -47,7 +47,7 @@ QString paragraphText(WorkbookXml& xml) {
   return text;
 }
 
-/// What is written in the cell at which `xml` stands; notes are no part of it.
+/// Returns the displayed text of the current cell, without notes.
 QString shownText(WorkbookXml& xml) {
   QString text;
   while (xml.readNextStartElement()) {
@@ -61,7 +61,7 @@ QString shownText(WorkbookXml& xml) {
   return text;
 }
 
-/// The value of the cell where it has one that is not a text; null else.
+/// Returns the value of the current cell unless it is a text; null otherwise.
 QString valueText(const WorkbookXml& xml) {
   const QStringView type = odsAttribute(xml, u"value-type");
   if (type == u"float" || type == u"percentage" || type == u"currency")
@@ -85,7 +85,7 @@ bool OdsReader::read() {
   return !xml.hasError();
 }
 
-// The styles of tables come before the tables.
+// Table styles precede the tables.
 void OdsReader::readStyle(WorkbookXml& xml) {
   constexpr std::size_t mostStyles = 10'000;
   const QString name = odsAttribute(xml, u"name").toString();
@@ -97,7 +97,7 @@ void OdsReader::readStyle(WorkbookXml& xml) {
   }
 }
 
-// Rows may stand in groups and header groups.
+// Rows may be nested in groups and header groups.
 void OdsReader::readTable(WorkbookXml& xml) {
   const bool isHidden = hiddenStyles_.count(odsAttribute(xml, u"style-name").toString()) != 0;
   sheet_ = builder_.addSheet(odsAttribute(xml, u"name").toString(), isHidden);
@@ -110,7 +110,7 @@ void OdsReader::readTable(WorkbookXml& xml) {
 }
 
 void OdsReader::readRow(WorkbookXml& xml) {
-  const int repeats = repeatsOf(xml, u"number-rows-repeated");
+  const int repeats = repeatCount(xml, u"number-rows-repeated");
   column_ = 0;
   while (builder_.isOpen() && xml.readNextStartElement()) {
     if (xml.name() == u"table-cell" || xml.name() == u"covered-table-cell")
@@ -122,7 +122,7 @@ void OdsReader::readRow(WorkbookXml& xml) {
 }
 
 void OdsReader::readCell(WorkbookXml& xml, int repeats) {
-  const int columns = repeatsOf(xml, u"number-columns-repeated");
+  const int columns = repeatCount(xml, u"number-columns-repeated");
   QString text = valueText(xml);
   const QString shown = shownText(xml);
   if (text.isEmpty()) text = shown;

@@ -12,19 +12,19 @@ namespace parlexo {
 
 class WorkbookXml;
 
-/// Reads the cells of an .ods workbook.
+/// Reads the cells of an .ods workbook into a builder. `archive` and `builder` must outlive the reader.
 class OdsReader {
  public:
   OdsReader(ZipArchive& archive, WorkbookBuilder& builder) : archive_(archive), builder_(builder) {}
 
-  /// False when the content is missing or is no XML; the builder may have a better message.
+  /// Returns false if the content is missing or not XML; the builder may have a more specific message.
   [[nodiscard]] bool read();
 
  private:
   void readStyle(WorkbookXml& xml);
   void readTable(WorkbookXml& xml);
   void readRow(WorkbookXml& xml);
-  /// `repeats` rows from row_ on.
+  /// Sets the cell in `repeats` rows from row_ on.
   void readCell(WorkbookXml& xml, int repeats);
 
   ZipArchive& archive_;

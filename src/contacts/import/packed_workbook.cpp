@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Workbooks that are XML packed in a zip archive: .xlsx and .ods.
+// Reads .xlsx and .ods workbooks, which are XML in a zip archive.
 
 #include "contacts/import/ods_reader.h"
 #include "contacts/import/workbook_builder.h"
@@ -26,12 +26,14 @@ QString readPackedWorkbook(const QString& path, const ImportLimits& limits, cons
   WorkbookBuilder builder(limits, cancel);
   const bool isRead = archive.isOpen() && readParts(archive, builder);
   if (archive.isTooLarge())
-    return u"The workbook has more than %L1 MB once it is unpacked. That much can't be imported."_s.arg(
-        limits.unpackedBytes >> 20);
+    return CSpreadSheet::tr(
+               "The workbook has more than %L1 MB once it is unpacked. That much can't be imported.")
+        .arg(limits.unpackedBytes >> 20);
   if (!builder.problem().isEmpty() || cancel.isRaised()) return builder.problem();
   if (!isRead)
-    return u"The workbook can't be read. It is damaged, protected by a password, or no .xlsx or "
-           ".ods workbook."_s;
+    return CSpreadSheet::tr(
+        "The workbook can't be read. It is damaged, protected by a password, or no .xlsx or "
+        ".ods workbook.");
   sheets = builder.build();
   return builder.problem();
 }

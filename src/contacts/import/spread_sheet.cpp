@@ -9,8 +9,6 @@
 
 namespace parlexo {
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
 enum class WorkbookKind { None, Packed, Binary };
@@ -18,7 +16,7 @@ enum class WorkbookKind { None, Packed, Binary };
 constexpr QByteArrayView packedStart("PK\x03\x04", 4);
 constexpr QByteArrayView binaryStart("\xD0\xCF\x11\xE0\xA1\xB1\x1A\xE1", 8);
 
-WorkbookKind kindOf(const QString& path) {
+WorkbookKind detectKind(const QString& path) {
   QFile file(path);
   if (!file.open(QIODevice::ReadOnly)) return WorkbookKind::None;
   const QByteArray start = file.read(binaryStart.size());
@@ -30,18 +28,19 @@ WorkbookKind kindOf(const QString& path) {
 }  // namespace
 
 QString unreadFormulasText() {
-  return u"The formulas of this workbook can't be read, so their cells are empty here. "
-         "Save it as .xlsx and import that file."_s;
+  return CSpreadSheet::tr(
+      "The formulas of this workbook can't be read, so their cells are empty here. "
+      "Save it as .xlsx and import that file.");
 }
 
 bool CSpreadSheet::isWorkbook(const QString& path) {
-  return kindOf(path) != WorkbookKind::None;
+  return detectKind(path) != WorkbookKind::None;
 }
 
 QString CSpreadSheet::read(const QString& path, const ImportLimits& limits, const CancelFlag& cancel) {
   sheets_.clear();
   QString problem;
-  switch (kindOf(path)) {
+  switch (detectKind(path)) {
     case WorkbookKind::Packed:
       problem = readPackedWorkbook(path, limits, cancel, sheets_);
       break;
@@ -49,14 +48,14 @@ QString CSpreadSheet::read(const QString& path, const ImportLimits& limits, cons
       problem = readBinaryWorkbook(path, limits, cancel, sheets_);
       break;
     case WorkbookKind::None:
-      return u"The file is not a workbook."_s;
+      return tr("The file is not a workbook.");
   }
   std::stable_partition(sheets_.begin(), sheets_.end(),
                         [](const NamedSheet& sheet) { return !sheet.isHidden; });
   for (NamedSheet& sheet : sheets_)
-    if (sheet.isHidden) sheet.name += QLatin1String(" (hidden)");
+    if (sheet.isHidden) sheet.name = tr("%1 (hidden)").arg(sheet.name);
   if (problem.isEmpty() && sheets_.empty() && !cancel.isRaised())
-    problem = u"The workbook has no sheet with a cell in it."_s;
+    problem = tr("The workbook has no sheet with a cell in it.");
   return problem;
 }
 

@@ -3,35 +3,36 @@
 
 #include <vector>
 
+#include <QCoreApplication>
 #include <QString>
 
 #include "base/call_runner.h"
-#include "contacts/import/import_limits.h"
 #include "contacts/import/sheet.h"
 
 namespace parlexo {
 
-/// What to say of a sheet whose formulas can't be read.
+/// The message for a sheet whose formulas can't be read.
 [[nodiscard]] QString unreadFormulasText();
 
-/// The sheets of a workbook file (.xls, .xlsx or .ods) with their rows and cells as texts. Numbers keep all
-/// their digits. Of a formula the result that the file holds is read, except in .xls, whose reader finds
-/// none.
+/// The sheets of a workbook file (.xls, .xlsx or .ods) with their cells as text. Numbers have all their
+/// digits. A cell with a formula contains the result stored in the file, or is empty in .xls files.
 class CSpreadSheet {
+  Q_DECLARE_TR_FUNCTIONS(CSpreadSheet)
+
  public:
   struct NamedSheet {
     QString name;
     Sheet sheet;
     bool isHidden = false;
-    bool lacksFormulas = false;  ///< it has formulas whose results can't be read
+    bool lacksFormulas = false;  ///< contains formulas whose results can't be read
   };
 
-  /// Whether the file begins like a workbook, whatever its name says: programs give text files the names of
-  /// workbooks and the other way round.
+  /// Returns whether the content of the file begins like a workbook. The extension is ignored, because some
+  /// programs use it for text files and vice versa.
   [[nodiscard]] static bool isWorkbook(const QString& path);
 
-  /// Reads all sheets with cells; hidden ones come last and have "(hidden)" behind their names. Returns what
-  /// is wrong with the file, for the user; empty when nothing is. Raising `cancel` ends the reading early.
+  /// Reads all non-empty sheets. Hidden sheets come last, with "(hidden)" appended to their names. Returns a
+  /// message for the user on error, otherwise an empty string. Ends early when `cancel` is raised.
   [[nodiscard]] QString read(const QString& path, const ImportLimits& limits, const CancelFlag& cancel);
 
   [[nodiscard]] const std::vector<NamedSheet>& sheets() const { return sheets_; }

@@ -6,23 +6,21 @@
 
 namespace parlexo {
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
 QString textLimitProblem() {
-  return u"The file has too much text."_s;
+  return WorkbookBuilder::tr("The file has too much text.");
 }
 
 QString cellLimitProblem(const ImportLimits& limits) {
-  return u"The file has more than %L1 cells."_s.arg(limits.cells);
+  return WorkbookBuilder::tr("The file has more than %L1 cells.").arg(limits.cells);
 }
 
 }  // namespace
 
 std::size_t WorkbookBuilder::addSheet(const QString& name, bool isHidden) {
   if (sheets_.size() >= static_cast<std::size_t>(limits_.sheets))
-    problem_ = u"The file has more than %L1 sheets."_s.arg(limits_.sheets);
+    problem_ = tr("The file has more than %L1 sheets.").arg(limits_.sheets);
   else
     sheets_.push_back({.name = name, .isHidden = isHidden, .cells = {}});
   return sheets_.size() - 1;
@@ -43,12 +41,12 @@ std::size_t WorkbookBuilder::addText(const QString& text) {
   return texts_.size() - 1;
 }
 
-bool WorkbookBuilder::takes(int row, int column) {
+bool WorkbookBuilder::acceptsCell(int row, int column) {
   if (!isOpen() || row < 0 || column < 0) return false;
   if (column >= limits_.columns)
-    problem_ = u"The file has more than %L1 columns."_s.arg(limits_.columns);
+    problem_ = tr("The file has more than %L1 columns.").arg(limits_.columns);
   else if (row >= limits_.rows)
-    problem_ = u"The file has more than %L1 rows."_s.arg(limits_.rows);
+    problem_ = tr("The file has more than %L1 rows.").arg(limits_.rows);
   else
     countCell();
   return problem_.isEmpty();
@@ -59,7 +57,7 @@ void WorkbookBuilder::countCell() {
 }
 
 void WorkbookBuilder::setText(std::size_t sheet, int row, int column, std::size_t textNumber) {
-  if (textNumber >= texts_.size() || sheet >= sheets_.size() || !takes(row, column)) return;
+  if (textNumber >= texts_.size() || sheet >= sheets_.size() || !acceptsCell(row, column)) return;
   sheets_[sheet].cells.push_back({row, column, static_cast<quint32>(textNumber)});
 }
 
@@ -73,24 +71,27 @@ NamedSheets WorkbookBuilder::build() {
   for (RawSheet& raw : sheets_) {
     if (raw.cells.empty()) continue;
     for (const Cell& cell : raw.cells) length += texts_[cell.text].size();
-    // Few texts may be in many cells.
+    // A few texts may be used by many cells.
     if (length > limits_.textLength) problem_ = textLimitProblem();
     if (!isOpen()) return {};
-    built.push_back({raw.name, tableOf(raw.cells), raw.isHidden, raw.lacksFormulas});
+    built.push_back({.name = raw.name,
+                     .sheet = buildSheet(raw.cells),
+                     .isHidden = raw.isHidden,
+                     .lacksFormulas = raw.lacksFormulas});
   }
   return isOpen() ? std::move(built) : NamedSheets();
 }
 
-Sheet WorkbookBuilder::tableOf(std::vector<Cell>& cells) {
+Sheet WorkbookBuilder::buildSheet(std::vector<Cell>& cells) {
   const auto place = [](const Cell& cell) { return std::pair(cell.row, cell.column); };
   std::stable_sort(cells.begin(), cells.end(),
                    [&](const Cell& left, const Cell& right) { return place(left) < place(right); });
   Sheet sheet;
   for (std::size_t i = 0; i < cells.size() && isOpen(); ++i) {
-    // Of a cell that was told twice, the later one.
+    // The last one of duplicate cells counts.
     if (i + 1 < cells.size() && place(cells[i]) == place(cells[i + 1])) continue;
     while (sheet.rowCount() < cells[i].row) sheet.endRow();
-    // A gap takes room like a cell: a single one at the end of each row makes the whole table.
+    // A gap needs as much memory as a cell: one cell at the end of each row makes a full table.
     for (; sheet.openRowCells() < cells[i].column; sheet.endCell()) countCell();
     sheet.append(texts_[cells[i].text]);
     sheet.endCell();

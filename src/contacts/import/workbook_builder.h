@@ -3,36 +3,39 @@
 
 #include <vector>
 
+#include <QCoreApplication>
 #include <QString>
 
 #include "base/call_runner.h"
-#include "contacts/import/import_limits.h"
+#include "contacts/import/sheet.h"
 #include "contacts/import/workbook_readers.h"
 
 namespace parlexo {
 
-/// Collects the cells of a workbook in whatever order a reader tells them, within limits, and makes sheets
-/// of them. Once a limit is passed or the reading is cancelled it takes nothing more.
+/// Collects the cells of a workbook in any order, within limits, and builds sheets from them. Ignores further
+/// input once a limit is exceeded or reading is cancelled.
 class WorkbookBuilder {
+  Q_DECLARE_TR_FUNCTIONS(WorkbookBuilder)
+
  public:
   WorkbookBuilder(const ImportLimits& limits, const CancelFlag& cancel) : limits_(limits), cancel_(cancel) {}
 
-  /// Begins a further sheet and returns its number. Too many close the builder.
+  /// Adds a sheet and returns its number.
   std::size_t addSheet(const QString& name, bool isHidden = false);
-  /// Records that the sheet has formulas whose results can't be read.
+  /// Marks the sheet as containing formulas whose results can't be read.
   void setLacksFormulas(std::size_t sheet);
-  /// A text that cells refer to by the returned number.
+  /// Adds a text and returns its number for setText().
   std::size_t addText(const QString& text);
 
-  /// Sets a cell, rows and columns counted from 0; a text number that was never given out is passed over.
+  /// Sets a cell; rows and columns are counted from 0. Ignores unknown text numbers.
   void setText(std::size_t sheet, int row, int column, std::size_t textNumber);
   void setCell(std::size_t sheet, int row, int column, const QString& text);
 
-  /// Whether more cells are taken.
+  /// Whether more cells are accepted.
   [[nodiscard]] bool isOpen() const { return problem_.isEmpty() && !cancel_.isRaised(); }
   [[nodiscard]] const QString& problem() const { return problem_; }
 
-  /// The sheets that have a cell; none when they turn out too large.
+  /// Returns the non-empty sheets, or none if a limit is exceeded.
   [[nodiscard]] NamedSheets build();
 
  private:
@@ -48,9 +51,9 @@ class WorkbookBuilder {
     std::vector<Cell> cells;
   };
 
-  [[nodiscard]] bool takes(int row, int column);
+  [[nodiscard]] bool acceptsCell(int row, int column);
   void countCell();
-  [[nodiscard]] Sheet tableOf(std::vector<Cell>& cells);
+  [[nodiscard]] Sheet buildSheet(std::vector<Cell>& cells);
 
   const ImportLimits& limits_;
   const CancelFlag& cancel_;

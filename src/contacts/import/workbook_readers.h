@@ -6,13 +6,14 @@
 #include <QString>
 
 #include "base/call_runner.h"
-#include "contacts/import/import_limits.h"
+#include "contacts/import/sheet.h"
 #include "contacts/import/spread_sheet.h"
 
 namespace parlexo {
 
-/// The readers behind CSpreadSheet, each on a library of its own; where the build has no such library, the
-/// reader says so. They return what is wrong, as the user is told, and empty when nothing is.
+// The readers used by CSpreadSheet. Each is based on a library; in builds without the library, it always
+// fails. They return a message for the user on error, otherwise an empty string.
+
 using NamedSheets = std::vector<CSpreadSheet::NamedSheet>;
 
 /// Reads .xls.

@@ -6,8 +6,8 @@
 
 namespace parlexo {
 
-/// An XML reader for the parts of a workbook. It gives up, with an error, on what nests deeper than any
-/// workbook does or declares a document type: such a file was made to fill the memory or the stack.
+/// An XML reader for the parts of a workbook. Raises an error for document types and for elements nested
+/// deeper than in any genuine workbook, which could exhaust the memory or the stack.
 class WorkbookXml : public QXmlStreamReader {
  public:
   using QXmlStreamReader::QXmlStreamReader;
@@ -15,7 +15,7 @@ class WorkbookXml : public QXmlStreamReader {
   TokenType readNext();
   bool readNextStartElement();
   void skipCurrentElement();
-  /// All text up to the end of the current element, that of its children too.
+  /// Returns the text of the current element and its children.
   [[nodiscard]] QString readElementText();
 
  private:

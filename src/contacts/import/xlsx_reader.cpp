@@ -15,18 +15,18 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// Beyond any limit, whatever is made of it.
+// Beyond any limit, and safe from overflow.
 constexpr int farAway = 100'000'000;
-// Of relations and of sheets; a workbook has a few dozen.
+// The maximum of relations and sheets; a workbook has a few dozen.
 constexpr std::size_t mostEntries = 10'000;
 
-QString folderOf(const QString& part) {
+QString partFolder(const QString& part) {
   return part.left(part.lastIndexOf(u'/') + 1);
 }
 
-/// Reads a reference such as B12, as far as it has letters and digits, into a place counted from 0; what is
-/// missing is -1.
-std::pair<int, int> placeOf(QStringView reference) {
+/// Parses a reference such as B12 to row and column, counted from 0, or -1 if missing. Ignores other
+/// characters.
+std::pair<int, int> parsePlace(QStringView reference) {
   int column = 0;
   int row = 0;
   for (const QChar c : reference) {
@@ -36,8 +36,8 @@ std::pair<int, int> placeOf(QStringView reference) {
   return {row - 1, column - 1};
 }
 
-/// The text of the element at which `xml` stands, its runs joined, without the readings of characters that
-/// East Asian texts carry along.
+/// Returns the text of the current element with its runs joined, without the phonetic guides of East Asian
+/// texts.
 QString joinedText(WorkbookXml& xml) {
   QString text;
   while (xml.readNextStartElement()) {
@@ -51,14 +51,14 @@ QString joinedText(WorkbookXml& xml) {
   return text;
 }
 
-// Some producers prefix the attribute, others don't.
+// Only some producers use a prefix for the attribute.
 QString attribute(const WorkbookXml& xml, QStringView name) {
   for (const QXmlStreamAttribute& candidate : xml.attributes())
     if (candidate.name() == name) return candidate.value().toString();
   return {};
 }
 
-/// The formats 14 to 22 and 45 to 47, which are not written out in the file, show dates and times.
+/// Formats 14 to 22 and 45 to 47 are built-in date and time formats, which are not defined in the file.
 bool isBuiltInDateFormat(int id) {
   return (id >= 14 && id <= 22) || (id >= 45 && id <= 47);
 }
@@ -78,7 +78,7 @@ bool XlsxReader::read() {
   for (const SheetEntry& entry : sheets_) {
     const auto sheet = std::find_if(relations.begin(), relations.end(),
                                     [&](const Relation& relation) { return relation.id == entry.relation; });
-    // Sheets may also be drawings.
+    // A sheet may also be a chart.
     if (sheet == relations.end() || sheet->type != u"worksheet") continue;
     if (!builder_.isOpen() || !readSheet(entry, sheet->part)) return false;
   }
@@ -86,7 +86,7 @@ bool XlsxReader::read() {
 }
 
 std::vector<XlsxReader::Relation> XlsxReader::readRelations(const QString& ofPart) {
-  const QString folder = folderOf(ofPart);
+  const QString folder = partFolder(ofPart);
   const std::unique_ptr<QIODevice> part =
       archive_.openPart(folder + u"_rels/"_s + ofPart.sliced(folder.size()) + u".rels"_s);
   std::vector<Relation> relations;
@@ -155,15 +155,15 @@ bool XlsxReader::readSheet(const SheetEntry& entry, const QString& partName) {
   if (!part) return false;
   const std::size_t sheet = builder_.addSheet(entry.name, entry.isHidden);
   WorkbookXml xml(part.get());
-  // References may be left out: then row follows row and cell follows cell.
+  // References are optional: rows and cells are consecutive without them.
   Place place{-1, -1};
   while (!xml.atEnd() && builder_.isOpen()) {
     if (xml.readNext() != WorkbookXml::StartElement) continue;
     if (xml.name() == u"row") {
-      const int row = placeOf(attribute(xml, u"r")).first;
+      const int row = parsePlace(attribute(xml, u"r")).first;
       place = {row >= 0 ? row : place.row + 1, -1};
     } else if (xml.name() == u"c") {
-      const auto [row, column] = placeOf(attribute(xml, u"r"));
+      const auto [row, column] = parsePlace(attribute(xml, u"r"));
       place = {row >= 0 ? row : place.row, column >= 0 ? column : place.column + 1};
       readCell(xml, sheet, place);
     }

@@ -14,13 +14,13 @@ namespace parlexo {
 
 class WorkbookXml;
 
-/// Reads the cells of an .xlsx workbook: which parts its sheets are, the texts that they share, which
-/// formats are dates, then sheet by sheet.
+/// Reads the cells of an .xlsx workbook into a builder: first the list of sheets, the shared texts and the
+/// date formats, then each sheet. `archive` and `builder` must outlive the reader.
 class XlsxReader {
  public:
   XlsxReader(ZipArchive& archive, WorkbookBuilder& builder) : archive_(archive), builder_(builder) {}
 
-  /// False when a part is missing or is no XML; the builder may have a better message.
+  /// Returns false if a part is missing or not XML; the builder may have a more specific message.
   [[nodiscard]] bool read();
 
  private:

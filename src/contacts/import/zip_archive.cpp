@@ -24,16 +24,16 @@ class ZipArchive::Part final : public QIODevice {
     const zip_int64_t count = zip_fread(file_, data, static_cast<zip_uint64_t>(size));
     if (count <= 0) return -1;
     archive_.left_ -= count;
-    return archive_.isTooLarge() || !takes({data, static_cast<qsizetype>(count)}) ? -1 : count;
+    return archive_.isTooLarge() || !accepts({data, static_cast<qsizetype>(count)}) ? -1 : count;
   }
   qint64 writeData(const char* /*data*/, qint64 /*size*/) override { return -1; }
 
  private:
-  // A cell has room in it with every character escaped. A tag that is longer is none that a workbook has: its
-  // attributes, each compared with all others, would keep the reader busy for hours.
+  // Enough for a cell with every character escaped. The attributes of a longer tag, each compared with all
+  // others, could occupy the XML reader for hours.
   static constexpr qsizetype longestStretch = 1 << 18;
 
-  [[nodiscard]] bool takes(QByteArrayView bytes) {
+  [[nodiscard]] bool accepts(QByteArrayView bytes) {
     for (const char c : bytes) {
       stretch_ = c == '<' ? 0 : stretch_ + 1;
       if (stretch_ > longestStretch) return false;

@@ -13,23 +13,23 @@ struct zip_file;
 
 namespace parlexo {
 
-/// A zip archive of XML that is read part by part and never unpacked as a whole. What comes out of it is
-/// counted, so that a small file can't turn into an endless one, and a part ends early that has a tag or a
-/// text of a length that no workbook has.
+/// A zip archive of XML parts, which are unpacked while they are read. The unpacked bytes are limited, and a
+/// part ends early at a tag or text that is longer than in any genuine workbook.
 class ZipArchive {
  public:
-  /// `longest` is the most that all parts together may give, in bytes.
+  /// `longest` is the maximum unpacked size of all parts together, in bytes. `cancel` must outlive the
+  /// archive.
   ZipArchive(const QString& path, qint64 longest, const CancelFlag& cancel);
   ~ZipArchive();
   ZipArchive(const ZipArchive&) = delete;
   ZipArchive& operator=(const ZipArchive&) = delete;
 
-  /// False when the file is no archive, or a damaged one.
+  /// False if the file is not an archive or is damaged.
   [[nodiscard]] bool isOpen() const { return archive_ != nullptr; }
-  /// Opens the part for reading, sequentially; null when there is none of that name or it can't be unpacked,
-  /// as when it is encrypted. The part must not outlive the archive.
+  /// Opens a part for sequential reading. Returns null if it is missing or can't be unpacked, for example
+  /// because it is encrypted. The part must not outlive the archive.
   [[nodiscard]] std::unique_ptr<QIODevice> openPart(const QString& name);
-  /// Whether more came out than is allowed; parts then seem to end early.
+  /// Whether the maximum unpacked size was exceeded; parts end early then.
   [[nodiscard]] bool isTooLarge() const { return left_ < 0; }
 
  private:

@@ -13,7 +13,6 @@
 
 #include "contacts/address_book.h"
 #include "contacts/contact_file_format.h"
-#include "contacts/group_file_name.h"
 
 namespace parlexo {
 
@@ -42,7 +41,7 @@ constexpr int faxEvery = 4;
 constexpr int personalMembers = 8;
 constexpr int largestSmallGroup = 200;
 
-// Ranges of ten-digit length that regulators keep free for fiction hold a thousand numbers each.
+// The ranges that regulators reserve for fiction have a thousand ten-digit numbers each.
 constexpr int fictionNumbers = 1000;
 
 template <std::size_t size>
@@ -54,26 +53,26 @@ QString digits(int number, int width) {
   return QString::number(number).rightJustified(width, u'0');
 }
 
-// Walks through all pairs of first and last names before it begins again with a number behind the name.
-QString nameOf(int index) {
+// Uses every pair of first and last name once before repeating them with a number.
+QString sampleName(int index) {
   const int firsts = static_cast<int>(firstNames.size());
   const int pairs = firsts * static_cast<int>(lastNames.size());
   const int pair = index % pairs;
-  constexpr int stride = 11;  // keeps first and last names from running through the alphabet together
+  constexpr int stride = 11;  // keeps first and last names from being in alphabetical order together
   const QString name =
       pick(firstNames, pair) + u' ' + pick(lastNames, pair / firsts + pair % firsts * stride);
   return index < pairs ? name : name + u' ' + QString::number(index / pairs + 1);
 }
 
-// A thousand numbers that look like any other, then numbers under a country code that is not in use.
-QString numberOf(int index, const QString& fictionPrefix, int unusedStart) {
+// A thousand realistic numbers, followed by numbers with an unused country code.
+QString sampleNumber(int index, const QString& fictionPrefix, int unusedStart) {
   if (index >= fictionNumbers) return u"+999"_s + digits(unusedStart + index, 9);
   constexpr int step = 37;
   constexpr int start = 100;
   return fictionPrefix + digits((index * step + start) % fictionNumbers, 3);
 }
 
-QString mailOf(const QString& name) {
+QString emailAddress(const QString& name) {
   QString mailbox;
   for (const QChar character : name.normalized(QString::NormalizationForm_D).toLower())
     if (character.unicode() < 0x80 && character.isLetterOrNumber())
@@ -86,19 +85,19 @@ QString mailOf(const QString& name) {
 ContactRecord sampleContact(int index) {
   const bool faxOnly = index % faxOnlyEvery == faxOnlyEvery - 1;
   ContactRecord contact;
-  contact.name = nameOf(index);
-  if (!faxOnly) contact.phone = numberOf(index, u"+447700900"_s, 0);
-  if (faxOnly || index % faxEvery == 0) contact.fax = numberOf(index, u"+442079460"_s, 500'000'000);
+  contact.name = sampleName(index);
+  if (!faxOnly) contact.phone = sampleNumber(index, u"+447700900"_s, 0);
+  if (faxOnly || index % faxEvery == 0) contact.fax = sampleNumber(index, u"+442079460"_s, 500'000'000);
   contact.supportsSms = faxOnly ? u"N"_s : u"Y"_s;
   contact.supportsMedia = faxOnly || index % 3 == 2 ? u"N"_s : u"Y"_s;
-  contact.email = mailOf(contact.name);
+  contact.email = emailAddress(contact.name);
   contact.extra[0] = pick(towns, index);
   contact.extra[1] = pick(roles, index / 3);
   contact.extra[2] = pick(languages, index / 2);
   return contact;
 }
 
-QStringList membersOf(int group, const std::vector<ContactRecord>& contacts) {
+QStringList sampleMembers(int group, const std::vector<ContactRecord>& contacts) {
   const int count = static_cast<int>(contacts.size());
   const int step = group == 0 ? 2 : group % 7 + 3;
   const int limit = group == 0 ? count : largestSmallGroup;
@@ -113,13 +112,13 @@ QString groupName(int group) {
   return u"Group "_s + QString::number(group + 1);
 }
 
-bool holdsAddressBook(const QDir& folder) {
+bool containsAddressBook(const QDir& folder) {
   const QStringList patterns = {u"*.grp"_s, u"*.all_grp"_s};
   const QFileInfoList files = folder.entryInfoList(patterns, QDir::Files | QDir::Hidden);
   return std::any_of(files.begin(), files.end(), [](const QFileInfo& file) { return file.size() > 0; });
 }
 
-// In one go: written record by record through the database, a large address book would take hours.
+// Writes the file at once. Writing a large address book record by record through the database takes hours.
 QString writeFile(const QString& path, const QByteArray& records) {
   QFile file(path);
   if (file.open(QIODevice::WriteOnly) && file.write(records) == records.size() && file.flush()) return {};
@@ -155,23 +154,23 @@ std::vector<SampleGroup> sampleGroups(int count, const std::vector<ContactRecord
     personal.memberNames.append(contacts[i].name);
   std::vector<SampleGroup> groups = {personal};
   for (int group = 0; group < count; ++group)
-    groups.push_back({groupName(group), membersOf(group, contacts)});
+    groups.push_back({groupName(group), sampleMembers(group, contacts)});
   return groups;
 }
 
 QString writeSampleFolder(const QString& folder, int contactCount, int groupCount) {
   const QDir dir(folder);
   if (!dir.mkpath(u"."_s)) return u"Can't make the folder %1"_s.arg(folder);
-  if (holdsAddressBook(dir)) return u"%1 holds an address book already"_s.arg(folder);
+  if (containsAddressBook(dir)) return u"%1 holds an address book already"_s.arg(folder);
   const std::vector<ContactRecord> contacts = sampleContacts(contactCount);
-  const auto pathOf = [&](const QString& name, const char* extension) {
+  const auto filePath = [&](const QString& name, const char* extension) {
     return dir.filePath(encodeGroupFileName(name, QLatin1String(extension)));
   };
   QString problem =
-      writeFile(pathOf(QLatin1String(allContactsName), contactsExtension), contactRecords(contacts));
+      writeFile(filePath(QLatin1String(allContactsName), contactsExtension), contactRecords(contacts));
   for (const SampleGroup& group : sampleGroups(groupCount, contacts))
     if (problem.isEmpty())
-      problem = writeFile(pathOf(group.name, groupExtension), memberRecords(group.memberNames));
+      problem = writeFile(filePath(group.name, groupExtension), memberRecords(group.memberNames));
   return problem;
 }
 

@@ -10,24 +10,25 @@
 
 namespace parlexo {
 
-/// Made-up address books of any size, for trying the program out, for tests and for measuring. The same
-/// counts always give the same contacts. Phone numbers are ones that no subscriber can have; a few end in
-/// 99, which the gateway simulator can't reach.
+// Generated address books of any size for the demo, tests and benchmarks. The same counts always produce the
+// same contacts. The phone numbers are not assigned to any subscriber. A few end in 99, which the gateway
+// simulator treats as unreachable.
 
 struct SampleGroup {
   QString name;
   QStringList memberNames;
 };
 
-/// `count` contacts with names that all differ. About one in ten has a fax number only.
+/// Returns `count` contacts with unique names. About one in ten only has a fax number.
 [[nodiscard]] std::vector<ContactRecord> sampleContacts(int count);
 
-/// The personal group with the first few of `contacts`, and `count` further groups: the first of them with
-/// every second contact, the others with up to 200 each.
+/// Returns the personal group with the first few of `contacts`, and `count` further groups: the first one
+/// with every second contact, the others with up to 200 contacts each.
 [[nodiscard]] std::vector<SampleGroup> sampleGroups(int count, const std::vector<ContactRecord>& contacts);
 
-/// Writes an address book into `folder`, which is made where missing. Returns an empty text, or what went
-/// wrong: a file that could not be written, or contacts or groups that are there already, which are kept.
+/// Writes an address book to `folder`, which is created if missing. Returns an error message if a file could
+/// not be written or the folder already contains contacts or groups, which are preserved. Returns an empty
+/// string on success.
 [[nodiscard]] QString writeSampleFolder(const QString& folder, int contactCount, int groupCount);
 
 }  // namespace parlexo

@@ -2,41 +2,37 @@
 #include "messaging/core/file_send_flow.h"
 
 #include <QDir>
+#include <QFileInfo>
 
 #include "base/notifier.h"
 #include "base/progress.h"
 
 namespace parlexo {
 
-FileSendFlow::FileSendFlow(const MessagingServices& services, FileKind kind)
-    : services_(services), kind_(fileMessageKind(kind)), flow_(services, kind_.send) {}
-
-SendOutcome FileSendFlow::send(const FileDraft& draft) const {
-  MessageFile file(draft.path);
-  if (const auto refusal = refusalOf(draft)) return *refusal;
-  if (!checkLength(file, draft.path)) return SendOutcome::FileAtFault;
-  if (!flow_.announce(draft.schedule)) return SendOutcome::NotSent;
-  const FileBytes bytes = read(file, draft.path);
-  if (!bytes) return SendOutcome::FileAtFault;
-  return flow_.deliver(draft.numbersList, [&](const QString& session) {
-    const Transfer transfer(file.length());
-    services_.progress.follow(transfer);
-    return kind_.operation(services_.gateway,
-                           {session, draft.note, file.name(), {bytes, transfer}, draft.numbersList});
-  });
+QString FileDraft::fileName() const {
+  return QFileInfo(path).fileName();
 }
 
-std::optional<SendOutcome> FileSendFlow::refusalOf(const FileDraft& draft) const {
+SendOutcome FileSendFlow::send(const FileDraft& draft) const {
+  if (const auto problem = checkDraft(draft)) return *problem;
+  MessageFile file(draft.path);
+  if (!checkLength(file, draft.path)) return SendOutcome::FileAtFault;
+  if (!announce(draft.schedule)) return SendOutcome::NotSent;
+  if (!read(file, draft.path)) return SendOutcome::FileAtFault;
+  return finish(transmit(draft, file), draft.numbersList);
+}
+
+std::optional<SendOutcome> FileSendFlow::checkDraft(const FileDraft& draft) const {
   if (draft.path.isEmpty()) {
-    services_.notifier.error(kind_.noFile);
+    services().notifier.error(tr(traits().noFile));
     return SendOutcome::FileAtFault;
   }
-  if (!flow_.checkRecipients(draft.displayList)) return SendOutcome::RecipientsAtFault;
-  if (kind_.limitsNote && draft.note.size() > longestMmsDescription) {
-    services_.notifier.error(text(TextId::MmsDescriptionTooLong));
+  if (!checkRecipients(draft.displayList)) return SendOutcome::RecipientsAtFault;
+  if (draft.note.size() > traits().noteLimit) {
+    services().notifier.error(text(traits().noteTooLong));
     return SendOutcome::MessageAtFault;
   }
-  if (!flow_.checkBalance()) return SendOutcome::NotSent;
+  if (!checkBalance()) return SendOutcome::NotSent;
   return std::nullopt;
 }
 
@@ -45,28 +41,34 @@ bool FileSendFlow::checkLength(MessageFile& file, const QString& path) const {
     reportCannotOpen(path);
     return false;
   }
-  if (file.length() <= services_.state.gateway.*kind_.limit) return true;
-  services_.notifier.error(text(kind_.tooLarge));
+  if (file.length() <= services().state.gateway.*traits().sizeLimit) return true;
+  services().notifier.error(text(traits().tooLarge));
   return false;
 }
 
-FileBytes FileSendFlow::read(MessageFile& file, const QString& path) const {
-  MessageFile::Content content = file.read();
-  switch (content.reading) {
-    case MessageFile::Reading::Done:
-      break;
-    case MessageFile::Reading::NoMemory:
-      services_.notifier.error(text(kind_.noMemory));
-      break;
-    case MessageFile::Reading::Failed:
+bool FileSendFlow::read(MessageFile& file, const QString& path) const {
+  switch (file.read()) {
+    case MessageFile::ReadResult::Done:
+      return true;
+    case MessageFile::ReadResult::NoMemory:
+      services().notifier.error(text(traits().noMemory));
+      return false;
+    case MessageFile::ReadResult::Failed:
       reportCannotOpen(path);
-      break;
+      return false;
   }
-  return content.bytes;
+  Q_UNREACHABLE();
 }
 
 void FileSendFlow::reportCannotOpen(const QString& path) const {
-  services_.notifier.error(withText(kind_.cannotOpen, QDir::toNativeSeparators(path)));
+  services().notifier.error(withText(traits().cannotOpen, QDir::toNativeSeparators(path)));
+}
+
+SendReply FileSendFlow::transmit(const FileDraft& draft, const MessageFile& file) const {
+  const ProgressScope box(services().progress);
+  const Transfer transfer(file.length());
+  services().progress.setTransfer(transfer);
+  return traits().sendFile(services().gateway, services().state.session, draft, {file.bytes(), transfer});
 }
 
 }  // namespace parlexo

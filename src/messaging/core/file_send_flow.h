@@ -3,44 +3,46 @@
 
 #include <optional>
 
+#include <QCoreApplication>
 #include <QString>
 
-#include "messaging/core/file_message_kind.h"
-#include "messaging/core/messaging_services.h"
+#include "messaging/core/message_file.h"
 #include "messaging/core/schedule.h"
 #include "messaging/core/send_flow.h"
 
 namespace parlexo {
 
-/// What an MMS, fax or WAP page holds when the user presses Send.
+/// The contents of an MMS, fax or WAP page when the user presses Send.
 struct FileDraft {
   QString path;
   QString note;         ///< the description of an MMS, the note of a WAP push
-  QString displayList;  ///< the recipients as the page shows them; blank stops the send
-  QString numbersList;  ///< the numbers that the message goes to, joined by commas
+  QString displayList;  ///< the recipients that the page shows; an empty list is refused
+  QString numbersList;  ///< the numbers to send to, separated by commas
   Schedule schedule;
+
+  /// The path without its folders.
+  [[nodiscard]] QString fileName() const;
 };
 
-/// Sends one file to all its recipients and tells the user what became of it.
-class FileSendFlow {
- public:
-  /// `services` must refer to objects that outlive the flow.
-  FileSendFlow(const MessagingServices& services, FileKind kind);
+/// Sends one file to all its recipients and reports the result.
+class FileSendFlow : private SendFlow {
+  Q_DECLARE_TR_FUNCTIONS(FileSendFlow)
 
-  /// The gateway is asked to send at most once. The file is open while the calls before the send are made, so
-  /// that what was measured is what is sent.
+ public:
+  /// `services` must refer to objects that outlive the flow; `type` is one that carries a file.
+  FileSendFlow(const MessagingServices& services, MessageType type) : SendFlow(services, type) {}
+
+  /// Checks `draft` and sends it. Calls the send operation at most once. The file stays open during the calls
+  /// before it, so the bytes sent are those that were checked.
   [[nodiscard]] SendOutcome send(const FileDraft& draft) const;
 
  private:
-  /// Why `draft` is not sent, of which the user is told; nothing when it may be.
-  [[nodiscard]] std::optional<SendOutcome> refusalOf(const FileDraft& draft) const;
+  /// Checks everything but the file itself and reports the first problem. Returns nullopt if there is none.
+  [[nodiscard]] std::optional<SendOutcome> checkDraft(const FileDraft& draft) const;
   [[nodiscard]] bool checkLength(MessageFile& file, const QString& path) const;
-  [[nodiscard]] FileBytes read(MessageFile& file, const QString& path) const;
+  [[nodiscard]] bool read(MessageFile& file, const QString& path) const;
   void reportCannotOpen(const QString& path) const;
-
-  MessagingServices services_;
-  const FileMessageKind& kind_;
-  SendFlow flow_;
+  [[nodiscard]] SendReply transmit(const FileDraft& draft, const MessageFile& file) const;
 };
 
 }  // namespace parlexo

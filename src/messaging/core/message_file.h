@@ -9,35 +9,34 @@
 
 namespace parlexo {
 
-/// The bytes of a file; shared, because an exchange that is left behind keeps them.
+/// The contents of a file. Shared, because an abandoned call still uses them.
 using FileBytes = std::shared_ptr<const std::string>;
 
-/// A file that goes out with a message, open from the check of its length until it has been read.
+/// A file to send. Stays open from the check of its length until it has been read.
 class MessageFile {
  public:
+  enum class ReadResult { Done, NoMemory, Failed };
+
   explicit MessageFile(const QString& path) : file_(path) {}
 
-  /// Opens the file for reading and writing: the gateway's senders have always asked for both, so that a file
-  /// that may not be written is not sent. False when there is no such file, when the path names something
-  /// else (a folder, a device, a pipe), and when the system refuses.
+  /// Opens the file for reading and writing; a file without write permission can't be sent. Returns false if
+  /// the path names no regular file or opening fails.
   [[nodiscard]] bool open();
 
-  /// Bytes of the open file, as they were at opening.
+  /// Length in bytes when the file was opened.
   [[nodiscard]] qint64 length() const { return length_; }
-  /// The path without its folders.
-  [[nodiscard]] QString name() const;
 
-  enum class Reading { Done, NoMemory, Failed };
-  struct Content {
-    Reading reading = Reading::Failed;
-    FileBytes bytes;  ///< null unless `reading` is Done
-  };
-  /// Reads the open file. Fails also when its length has changed since opening: somebody is writing to it.
-  [[nodiscard]] Content read();
+  /// Reads the open file into memory. Fails if reading fails or the length has changed since open(), because
+  /// another program is writing to the file.
+  [[nodiscard]] ReadResult read();
+
+  /// The contents; null until read() has succeeded.
+  [[nodiscard]] const FileBytes& bytes() const { return bytes_; }
 
  private:
   QFile file_;
   qint64 length_ = 0;
+  FileBytes bytes_;
 };
 
 }  // namespace parlexo

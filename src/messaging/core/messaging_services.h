@@ -14,10 +14,9 @@ class StatusLog;
 class TemplateFolder;
 struct RunState;
 
-/// What the messaging pages and flows work with. The application owns it all and keeps it alive longer
-/// than any page.
+/// The objects that the messaging pages and flows use. Owned by the application; they outlive every page.
 struct MessagingServices {
-  RunState& state;  ///< pages change the sender ID in it, and nothing else
+  RunState& state;  ///< the pages change only its sender ID
   const Gateway& gateway;
   Notifier& notifier;
   Progress& progress;

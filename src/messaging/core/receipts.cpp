@@ -11,29 +11,33 @@ QString failMark() {
   return u"FAIL"_s;
 }
 
-QStringList elementsOf(const QString& list) {
+QStringList splitList(const QString& list) {
   return list.isEmpty() ? QStringList() : list.split(QChar(u','));
 }
 
-QString beforeColon(const QString& element) {
+QString numberPart(const QString& element) {
   return element.section(QChar(u':'), 0, 0);
 }
 
-QString behindColon(const QString& element) {
+QString receiptPart(const QString& element) {
   return element.section(QChar(u':'), 1);
 }
 
 }  // namespace
 
-std::vector<StatusEntry> statusEntries(const QString& receipts, const QString& numbersSent,
-                                       const QString& typeWord, const QDateTime& now) {
-  const QStringList elements = elementsOf(receipts);
+std::vector<StatusEntry> statusEntries(const QString& receipts, const QString& numbersSent, MessageType type,
+                                       const QDateTime& now) {
+  const QStringList elements = splitList(receipts);
   std::vector<StatusEntry> entries;
-  if (elements.size() != elementsOf(numbersSent).size()) return entries;
+  if (elements.size() != splitList(numbersSent).size()) return entries;
   const QString date = now.toString(u"dd/MM/yyyy HH:mm:ss"_s);
   entries.reserve(static_cast<std::size_t>(elements.size()));
   for (const QString& element : elements)
-    entries.push_back({beforeColon(element), behindColon(element), deliveredToGateway(), typeWord, date});
+    entries.push_back({.phone = numberPart(element),
+                       .receipt = receiptPart(element),
+                       .status = deliveredToGateway(),
+                       .type = toWord(type),
+                       .date = date});
   return entries;
 }
 
@@ -43,8 +47,8 @@ bool hasFailures(const QString& receipts) {
 
 QString failureWarning(const QString& warning, const QString& receipts) {
   QString message = warning + QChar(u'\n');
-  for (const QString& element : elementsOf(receipts))
-    if (element.contains(failMark())) message += beforeColon(element) + QChar(u'\n');
+  for (const QString& element : splitList(receipts))
+    if (element.contains(failMark())) message += numberPart(element) + QChar(u'\n');
   return message;
 }
 

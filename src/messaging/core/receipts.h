@@ -7,28 +7,28 @@
 #include <QString>
 #include <QStringList>
 
+#include "base/message_type.h"
 #include "messaging/core/status_log.h"
 
 namespace parlexo {
 
-/// What the gateway answers to a send: one element "number:receipt" per recipient, joined by commas, where
-/// the receipt of a number that it could not serve holds "FAIL".
+/// The gateway replies to a send with a list of receipts: one element "number:receipt" per recipient,
+/// separated by commas. The receipt of a failed number contains "FAIL".
 
-/// The status of an entry until the first query.
+/// The status of an entry before the first query. Part of the status file's format, so not translated.
 [[nodiscard]] inline QString deliveredToGateway() {
   return QStringLiteral("Delivered to Gateway");
 }
 
-/// The entries to log for a send of type `typeWord` at local time `now`, in the order of the receipts,
-/// failed numbers included. Empty when there are not exactly as many receipts as numbers were sent, since
-/// nobody could then say which belongs to which.
+/// The log entries for a message sent at local time `now`, in the order of the receipts and including failed
+/// numbers. Empty if the counts of receipts and numbers differ, because they can't be matched then.
 [[nodiscard]] std::vector<StatusEntry> statusEntries(const QString& receipts, const QString& numbersSent,
-                                                     const QString& typeWord, const QDateTime& now);
+                                                     MessageType type, const QDateTime& now);
 
-/// True when the gateway could not serve some of the numbers.
+/// Returns true if any number failed. Also accepts a single receipt.
 [[nodiscard]] bool hasFailures(const QString& receipts);
 
-/// `warning` and the numbers that failed, each line ended by a line feed.
+/// `warning` followed by the failed numbers, each line ending with a line feed.
 [[nodiscard]] QString failureWarning(const QString& warning, const QString& receipts);
 
 }  // namespace parlexo

@@ -12,7 +12,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString& numberOf(const ContactRecord& contact, RecipientNumber which) {
+const QString& selectedNumber(const ContactRecord& contact, RecipientNumber which) {
   switch (which) {
     case RecipientNumber::Phone:
       return contact.phone;
@@ -35,12 +35,12 @@ void eraseMarked(List& list, const std::vector<bool>& marked) {
              list.end());
 }
 
-// Takes from `numbers` the first occurrences of what `unwanted` counts.
+// Removes the first occurrences of each number, as many as `unwanted` says.
 void eraseFirst(QStringList& numbers, QHash<QString, int> unwanted) {
   numbers.removeIf([&](const QString& number) {
-    const auto found = unwanted.find(number);
-    if (found == unwanted.end() || *found == 0) return false;
-    --*found;
+    const auto count = unwanted.find(number);
+    if (count == unwanted.end() || *count == 0) return false;
+    --*count;
     return true;
   });
 }
@@ -52,7 +52,7 @@ QStringList Recipients::select(std::span<const ContactRecord* const> contacts, R
   numbers_.clear();
   QStringList rejected;
   for (const ContactRecord* contact : contacts) {
-    const QString& number = numberOf(*contact, which);
+    const QString& number = selectedNumber(*contact, which);
     if (number.startsWith(QChar(u'+'))) {
       entries_.push_back({contact->name, number});
       numbers_.append(number);

@@ -11,7 +11,7 @@
 
 namespace parlexo {
 
-/// Which number of a contact a page sends to.
+/// The contact's number that a page sends to.
 enum class RecipientNumber { Phone, Fax };
 
 /// One entry of the Contacts box.
@@ -19,52 +19,50 @@ struct Recipient {
   QString name;
   QString number;
 
-  /// "Name [number]"; the name alone where a template held no number.
+  /// "Name [number]", or only the name of an entry without a number, which a template may contain.
   [[nodiscard]] QString text() const {
     return number.isEmpty() ? name : name + QStringLiteral(" [") + number + QChar(u']');
   }
   bool operator==(const Recipient&) const = default;
 };
 
-/// The recipients of a send page: the entries that the Contacts box shows, and beside them the numbers
-/// that are sent. The two are kept apart on purpose: clearing the box and loading a template change the
-/// entries alone, while a selection replaces both and a removal takes from both.
+/// The recipients of a send page: the entries in the Contacts box and, separately, the numbers to send to.
+/// Clearing the box and loading a template change only the entries; selecting contacts replaces both lists;
+/// removing recipients changes both.
 class Recipients {
  public:
-  /// Replaces entries and numbers by the selected contacts, in their order. Returns the names of those
-  /// whose number does not begin with a plus sign; they become no recipients.
+  /// Replaces entries and numbers by `contacts`, in their order. Contacts whose number does not begin with a
+  /// plus sign are skipped; returns their names.
   QStringList select(std::span<const ContactRecord* const> contacts, RecipientNumber which);
 
-  /// Removes the entries with these indexes (in any order; those out of range are passed over) and their
-  /// numbers: the numbers at the same places while both lists agree, otherwise the first equal number of
-  /// each, if there is one.
+  /// Removes the entries at `indexes`, which may be in any order; invalid ones are ignored. Also removes
+  /// their numbers: those at the same indexes if both lists agree, otherwise the first equal number of each
+  /// entry.
   void remove(const std::vector<int>& indexes);
 
-  /// How many different numbers would get the message more than once.
+  /// The count of distinct numbers that occur more than once.
   [[nodiscard]] int repeatedNumberCount() const;
-  /// Removes every number that stands further ahead already, and the entry at the same place. Does nothing
-  /// while there are not as many entries as numbers, since nobody could tell which belong together.
+  /// Removes every repetition of a number together with the entry at the same index. Does nothing if the
+  /// counts of entries and numbers differ, because they can't be matched then.
   void removeRepeats();
 
-  /// Empties the Contacts box; the numbers stay until the next selection.
+  /// Removes all entries. The numbers stay until the next selection.
   void clearEntries() { entries_.clear(); }
 
-  /// Replaces the entries by those of a display list, as a template holds it; the numbers stay. A name may
-  /// hold commas and brackets: an entry ends only at a comma behind a number in brackets, and a number
-  /// begins with a plus sign.
+  /// Replaces the entries by those of a template's display list; the numbers stay. Names may contain commas
+  /// and brackets: an entry ends at a comma after a bracketed number, which begins with a plus sign.
   void setEntries(const QString& displayList);
 
   [[nodiscard]] const std::vector<Recipient>& entries() const { return entries_; }
   [[nodiscard]] const QStringList& numbers() const { return numbers_; }
 
-  /// The entries joined by single commas; empty when the box is.
+  /// The texts of the entries, separated by commas.
   [[nodiscard]] QString displayList() const;
-  /// The numbers joined by single commas, as the gateway takes them.
+  /// The numbers separated by commas, as in a request to the gateway.
   [[nodiscard]] QString numbersList() const { return numbers_.join(QChar(u',')); }
 
-  /// Whether there are as many entries as numbers.
   [[nodiscard]] bool haveEqualCounts() const;
-  /// Whether the entries show exactly the numbers that are sent.
+  /// Returns true if the entries show exactly the numbers to send to.
   [[nodiscard]] bool listsAgree() const;
 
  private:

@@ -11,7 +11,7 @@ namespace {
 
 constexpr qint64 secondsPerDay = 24 * 60 * 60;
 
-QDateTime localInstant(qint64 seconds) {
+QDateTime toLocalTime(qint64 seconds) {
   return QDateTime::fromSecsSinceEpoch(seconds, Qt::LocalTime);
 }
 
@@ -25,21 +25,20 @@ Schedule scheduleAt(const QDateTime& instant) {
   return {timeText(instant.toLocalTime()), timeText(instant.toUTC())};
 }
 
-// Only the way from an instant to the clocks' time is asked of the system. Asked the other way round, the C
-// library answers for a time that comes twice now the one instant, now the other, depending on what it was
-// asked before.
-QDateTime instantOfLocalTime(QDate date, QTime time) {
-  const qint64 clocks = QDateTime(date, time, Qt::UTC).toSecsSinceEpoch();
-  // No zone is further than a day from GMT, so these two lie on either side of the wanted instant.
-  const qint64 byOldOffset = clocks - localInstant(clocks - secondsPerDay).offsetFromUtc();
-  const qint64 byNewOffset = clocks - localInstant(clocks + secondsPerDay).offsetFromUtc();
-  const auto isShown = [clocks](qint64 instant) {
-    return instant + localInstant(instant).offsetFromUtc() == clocks;
+// Converts only from instants to local time. In the other direction the C library resolves an ambiguous local
+// time differently from call to call, depending on the conversions before.
+QDateTime fromLocalTime(QDate date, QTime time) {
+  const qint64 wallClock = QDateTime(date, time, Qt::UTC).toSecsSinceEpoch();
+  // Offsets are shorter than a day, so these two instants are before and after the wanted one.
+  const qint64 byOldOffset = wallClock - toLocalTime(wallClock - secondsPerDay).offsetFromUtc();
+  const qint64 byNewOffset = wallClock - toLocalTime(wallClock + secondsPerDay).offsetFromUtc();
+  const auto matches = [wallClock](qint64 instant) {
+    return instant + toLocalTime(instant).offsetFromUtc() == wallClock;
   };
   const qint64 first = std::min(byOldOffset, byNewOffset);
   const qint64 second = std::max(byOldOffset, byNewOffset);
-  if (isShown(first)) return localInstant(first);
-  return localInstant(isShown(second) ? second : byOldOffset);
+  if (matches(first)) return toLocalTime(first);
+  return toLocalTime(matches(second) ? second : byOldOffset);
 }
 
 }  // namespace parlexo

@@ -1,73 +1,77 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <functional>
-
+#include <QCoreApplication>
 #include <QString>
 
-#include "base/message_texts.h"
+#include "connection/client/gateway.h"
+#include "messaging/core/message_traits.h"
 #include "messaging/core/messaging_services.h"
-#include "messaging/core/send_calls.h"
+#include "messaging/core/schedule.h"
 
 namespace parlexo {
 
-/// What the page does with its form after a send.
+/// The result of a send. Any failure has been reported to the user.
 enum class SendOutcome {
-  MessageAtFault,     ///< not sent for its text or note, the user knows why: the form stays
-  FileAtFault,        ///< the same for its file
-  RecipientsAtFault,  ///< the same for its recipients
-  NotSent,            ///< refused or failed for other reasons, which the user knows: the form stays
-  OutcomeUnknown,     ///< sent, but no answer came: perhaps accepted, which the page says; the form stays
-  PartlyFailed,       ///< accepted, but not for every number: the form stays
-  Delivered,          ///< accepted for every number: the form is cleared
+  MessageAtFault,     ///< not sent because of the text or note
+  FileAtFault,        ///< not sent because of the file
+  RecipientsAtFault,  ///< not sent because of the recipients
+  NotSent,            ///< refused or failed for any other reason
+  OutcomeUnknown,     ///< the request went out and no readable reply came
+  PartlyFailed,       ///< accepted for some of the numbers
+  Delivered,          ///< accepted for all numbers
 };
 
-/// In what the kinds of message differ on their way out.
-struct SendKind {
-  QString typeWord;  ///< the kind in the status log: "SMS", "MMS", "Fax" or "WAP"
-  SenderIdUse senderIdUse;
-  TextId unreachable;  ///< shown when the gateway was not reached or its answer not understood
-  TextId refused;      ///< shown with the gateway's code
-  TextId someFailed;   ///< heads the list of numbers that failed
-  TextId delivered;
-};
-
-/// What a send operation came back with, whatever its kind.
+/// The reply to a send operation of any message type.
 struct SendReply {
-  bool answered = false;
-  int code = 0;
+  bool answered = false;  ///< a readable reply came
+  int code = 0;           ///< result code of the gateway; 0 for success
   QString receipts;
-  bool outcomeUnknown = false;  ///< the gateway may have accepted the message without our knowing
+  bool outcomeUnknown = false;
 };
 
-/// The way that every kind of message takes, in the steps that a kind may put checks of its own between.
-/// Each step tells the user what is wrong and returns false when the send must be given up.
+/// `reply` without its operation's response type.
+template <class Response>
+[[nodiscard]] SendReply toSendReply(const Reply<Response>& reply) {
+  return {.answered = reply.answered(),
+          .code = reply->nErrorCode,
+          .receipts = fromWire(reply->sListReciepts),
+          .outcomeUnknown = reply.outcomeUnknown()};
+}
+
+/// The steps that sending has in common for all message types. A step that returns false has reported the
+/// reason; the send must stop then.
 class SendFlow {
- public:
-  /// One exchange: the send operation with the given session token.
-  using Operation = std::function<SendReply(const QString& session)>;
+  Q_DECLARE_TR_FUNCTIONS(SendFlow)
 
+ protected:
   /// `services` must refer to objects that outlive the flow.
-  SendFlow(const MessagingServices& services, SendKind kind) : services_(services), kind_(std::move(kind)) {}
+  SendFlow(const MessagingServices& services, MessageType type)
+      : services_(services), traits_(messageTraits(type)) {}
 
-  /// Looks at the list that the page shows, not at the numbers that will be sent.
+  [[nodiscard]] const MessagingServices& services() const { return services_; }
+  [[nodiscard]] const MessageTraits& traits() const { return traits_; }
+
+  /// Checks the list that the page shows, not the numbers to send to.
   [[nodiscard]] bool checkRecipients(const QString& displayList) const;
-  /// False once the account's balance was seen to be zero.
+  /// Returns false if the account's balance was zero when last read.
   [[nodiscard]] bool checkBalance() const;
-  /// Schedule and sender ID.
+  /// Prepares the gateway for the next message: cancels an earlier schedule, then sets the schedule and the
+  /// sender ID if there are any.
   [[nodiscard]] bool announce(const Schedule& schedule) const;
-
-  /// Calls `operation` once, under the progress box, and settles what comes back: messages, the log-in
-  /// after an expired session, the status entries for `numbers` and the saving of the log.
-  [[nodiscard]] SendOutcome deliver(const QString& numbers, const Operation& operation) const;
+  /// Reports `reply`. Adds the receipts of an accepted message for `numbers` to the status log and saves it;
+  /// asks for a new login if the session has expired.
+  [[nodiscard]] SendOutcome finish(const SendReply& reply, const QString& numbers) const;
 
  private:
-  [[nodiscard]] SendReply callUnderProgress(const Operation& operation) const;
-  [[nodiscard]] bool accepted(const SendReply& reply) const;
+  [[nodiscard]] bool cancelSchedule() const;
+  [[nodiscard]] bool setSchedule(const QString& value) const;
+  [[nodiscard]] bool setSenderId() const;
+  [[nodiscard]] bool isAccepted(const SendReply& reply) const;
   void record(const QString& receipts, const QString& numbers) const;
 
   MessagingServices services_;
-  SendKind kind_;
+  const MessageTraits& traits_;
 };
 
 }  // namespace parlexo

@@ -9,47 +9,46 @@
 namespace parlexo {
 namespace {
 
-// Form feed, [ \ ] ^ { | } ~ and the byte that stands for the euro sign: the characters that the GSM
-// 7-bit alphabet writes with an escape before them.
+// Form feed, [ \ ] ^ { | } ~ and the byte of the euro sign: the characters that the GSM 7-bit alphabet
+// escapes.
 constexpr std::string_view escapedBytes = "\x0C\x5B\x5C\x5D\x5E\x7B\x7C\x7D\x7E\xA4";
 
-int units(QStringView text) {
+int standardUnits(QStringView text) {
   const QByteArray bytes = toCodePage(text);
   const auto escaped = std::count_if(bytes.begin(), bytes.end(),
                                      [](char c) { return escapedBytes.find(c) != std::string_view::npos; });
   return static_cast<int>(bytes.size() + escaped);
 }
 
-// What a text counts in the character set's own measure.
-int countOf(QStringView text, SmsCharset charset) {
-  return charset == SmsCharset::Standard ? units(text) : static_cast<int>(text.size());
+int unitCount(QStringView text, SmsCharset charset) {
+  return charset == SmsCharset::Standard ? standardUnits(text) : static_cast<int>(text.size());
 }
 
-int roundedUp(int count, int divisor) {
+int divideRoundingUp(int count, int divisor) {
   return (count + divisor - 1) / divisor;
 }
 
-int partsOf(int count, const SmsLimits& limits) {
-  return count <= limits.oneMessage ? 1 : roundedUp(count, limits.part);
+int partCount(int count, const SmsLimits& limits) {
+  return count <= limits.oneMessage ? 1 : divideRoundingUp(count, limits.part);
 }
 
-// The longest beginning of `text` that counts at most `limit` units. Every character counts at least one,
-// so this looks at no more than limit + 1 of them however long the text is.
-QString cutToUnits(const QString& text, int limit) {
+// The longest beginning of `text` with at most `limit` units. Reads at most limit + 1 characters, because
+// each counts at least one unit.
+QString truncatedToUnits(const QString& text, int limit) {
   int count = 0;
-  qsizetype kept = 0;
-  while (kept < text.size()) {
+  qsizetype end = 0;
+  while (end < text.size()) {
     const bool isPair =
-        text.at(kept).isHighSurrogate() && kept + 1 < text.size() && text.at(kept + 1).isLowSurrogate();
+        text.at(end).isHighSurrogate() && end + 1 < text.size() && text.at(end + 1).isLowSurrogate();
     const qsizetype length = isPair ? 2 : 1;
-    count += units(QStringView(text).mid(kept, length));
+    count += standardUnits(QStringView(text).mid(end, length));
     if (count > limit) break;
-    kept += length;
+    end += length;
   }
-  return text.left(kept);
+  return text.left(end);
 }
 
-QString hexForm(const QString& text) {
+QString toWireForm(const QString& text) {
   constexpr char16_t digits[] = u"0123456789ABCDEF";
   QString result = QString::fromUtf16(unicodePrefix);
   result.reserve(result.size() + 4 * text.size());
@@ -58,7 +57,7 @@ QString hexForm(const QString& text) {
   return result;
 }
 
-// -1 for what is no hexadecimal digit.
+// Returns -1 if `digit` is not hexadecimal.
 int digitValue(QChar digit) {
   const char16_t c = digit.unicode();
   if (c >= u'0' && c <= u'9') return c - u'0';
@@ -71,13 +70,13 @@ SmsComposition composeStandard(const QString& text) {
   const SmsLimits limits = standardSmsLimits;
   SmsComposition result;
   result.editorText = text;
-  int count = units(text);
+  int count = standardUnits(text);
   if (count > limits.text) {
-    result.editorText = cutToUnits(text, limits.text);
-    count = units(result.editorText);
+    result.editorText = truncatedToUnits(text, limits.text);
+    count = standardUnits(result.editorText);
   }
   result.transmitText = result.editorText;
-  result.totalSms = partsOf(count, limits);
+  result.totalSms = partCount(count, limits);
   result.remaining = limits.text - count;
   return result;
 }
@@ -88,8 +87,8 @@ SmsComposition composeUnicode(const QString& text) {
   result.tooLong = text.size() > limits.text;
   if (!result.tooLong) result.editorText = text;
   const int count = static_cast<int>(result.editorText.size());
-  if (count > 0) result.transmitText = hexForm(result.editorText);
-  result.totalSms = partsOf(count, limits);
+  if (count > 0) result.transmitText = toWireForm(result.editorText);
+  result.totalSms = partCount(count, limits);
   result.remaining = limits.text - count;
   return result;
 }
@@ -107,14 +106,14 @@ SmsComposition composeSms(const QString& editorText, SmsCharset charset) {
 }
 
 SmsPart partAt(const QString& editorText, SmsCharset charset, qsizetype cursor) {
-  const SmsLimits limits = limitsOf(charset);
-  const int all = countOf(editorText, charset);
+  const SmsLimits limits = smsLimits(charset);
+  const int all = unitCount(editorText, charset);
   if (all <= limits.oneMessage) return {};
-  const int before = countOf(QStringView(editorText).left(cursor), charset);
-  return {std::max(1, roundedUp(before, limits.part)), roundedUp(all, limits.part)};
+  const int before = unitCount(QStringView(editorText).left(cursor), charset);
+  return {std::max(1, divideRoundingUp(before, limits.part)), divideRoundingUp(all, limits.part)};
 }
 
-std::optional<QString> decodedUnicodeSms(const QString& transmitText) {
+std::optional<QString> decodeUnicodeSms(const QString& transmitText) {
   constexpr qsizetype digitsPerUnit = 4;
   const QString prefix = QString::fromUtf16(unicodePrefix);
   const QStringView digits = QStringView(transmitText).mid(prefix.size());

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include <QByteArray>
+#include <QCoreApplication>
 #include <QString>
 
 #include "messaging/core/status_log.h"
@@ -12,24 +13,27 @@
 namespace parlexo {
 
 /// The text of the file "Status.xml" (docs/file-formats.md). Values are written without escapes, so a status
-/// with a quotation mark makes a document that no XML parser accepts; its lines can be read all the same.
+/// with a quotation mark makes the text malformed XML; its lines can still be read one by one.
 
-/// What was read from such a text.
+/// The result of readStatusDocument().
 struct StatusDocument {
-  std::vector<StatusEntry> entries;  ///< in the order of the text; two may have the same receipt
-  QString fault;  ///< why the XML parser rejected the text, with line and column; empty when it did not
+  std::vector<StatusEntry> entries;  ///< in the order of the text; receipts may repeat
+  QString error;  ///< why the XML parser rejected the text, with line and column; empty if it did not
+
+  Q_DECLARE_TR_FUNCTIONS(StatusDocument)
 };
 
-/// UTF-8, one line per entry, values as they are.
+/// Writes UTF-8, one line per entry, with unescaped values.
 [[nodiscard]] QByteArray writeStatusDocument(const std::vector<StatusEntry>& entries);
 
-/// Reads `text` as XML. Of the children of the root the first `mostElements` are read, regardless of their
-/// names. Control characters that XML forbids are left out without being a fault. A text with another fault
-/// yields the entries of all lines that can be read on their own.
-[[nodiscard]] StatusDocument readStatusDocument(const QByteArray& text, int mostElements);
+/// Reads `text` as XML. Of the root's children only the first `maxElements` are read,
+/// regardless of their names.
+/// Control characters that XML forbids are removed without an error. After any other error the entries are
+/// those of all lines that can be read on their own.
+[[nodiscard]] StatusDocument readStatusDocument(const QByteArray& text, int maxElements);
 
-/// The exact inverse of writeStatusDocument(), for any status text. Returns nullopt for a text with anything
-/// that it does not write.
+/// The exact inverse of writeStatusDocument(), for any status text. Returns nullopt if `text` can't be its
+/// output.
 [[nodiscard]] std::optional<std::vector<StatusEntry>> readOwnStatusDocument(const QByteArray& text);
 
 }  // namespace parlexo

@@ -15,7 +15,7 @@ bool isAlwaysRemoved(QChar c) {
   return c < u' ' || (c >= QChar(0x7F) && c < QChar(0xA0)) || c >= QChar(0xFFFE);
 }
 
-bool mayStay(QChar c) {
+bool isAllowed(QChar c) {
   return !isAlwaysRemoved(c) && !c.isSurrogate();
 }
 
@@ -40,7 +40,7 @@ StatusLog::Entries byReceipt(std::vector<StatusEntry> list) {
 }  // namespace
 
 QString withoutControlCharacters(const QString& text) {
-  if (std::all_of(text.begin(), text.end(), mayStay)) return text;
+  if (std::all_of(text.begin(), text.end(), isAllowed)) return text;
   QString clean;
   clean.reserve(text.size());
   for (qsizetype i = 0; i < text.size(); ++i) {
@@ -50,7 +50,7 @@ QString withoutControlCharacters(const QString& text) {
       clean += text[++i];
     } else if (isTabOrLineBreak(c)) {
       clean += u' ';
-    } else if (mayStay(c)) {
+    } else if (isAllowed(c)) {
       clean += c;
     }
   }
@@ -65,11 +65,11 @@ void StatusLog::add(StatusEntry entry) {
 }
 
 const StatusEntry* StatusLog::setStatus(const QString& receipt, const QString& status) {
-  const auto found = entries_.find(receipt);
-  if (found == entries_.end()) return nullptr;
-  found->second.status = withoutControlCharacters(status);
+  const auto entry = entries_.find(receipt);
+  if (entry == entries_.end()) return nullptr;
+  entry->second.status = withoutControlCharacters(status);
   ++revision_;
-  return &found->second;
+  return &entry->second;
 }
 
 void StatusLog::load(std::vector<StatusEntry> fileEntries) {
@@ -86,8 +86,8 @@ void StatusLog::merge(std::vector<StatusEntry> fileEntries, const IsDeleted& isD
       }) > 0;
   for (const auto& [receipt, entry] : inFile) {
     const auto own = entries_.find(receipt);
-    const bool takesFiles = own == entries_.end() ? !inFile_.contains(receipt) : !isChangedHere(own->second);
-    if (!takesFiles || (own != entries_.end() && own->second == entry)) continue;
+    const bool useFile = own == entries_.end() ? !inFile_.contains(receipt) : !isChangedHere(own->second);
+    if (!useFile || (own != entries_.end() && own->second == entry)) continue;
     entries_.insert_or_assign(receipt, entry);
     isChanged = true;
   }
@@ -101,8 +101,8 @@ void StatusLog::markSaved(std::vector<StatusEntry> written) {
 }
 
 bool StatusLog::isChangedHere(const StatusEntry& entry) const {
-  const auto found = inFile_.find(entry.receipt);
-  return found == inFile_.end() || found->second != entry;
+  const auto saved = inFile_.find(entry.receipt);
+  return saved == inFile_.end() || saved->second != entry;
 }
 
 }  // namespace parlexo

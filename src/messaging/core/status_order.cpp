@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <utility>
 
 #include <QRegularExpression>
 
@@ -12,11 +13,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// The instant is worked out once per entry, not once per comparison.
-struct Row {
-  std::time_t instant;
-  std::size_t entry;
-};
+// An entry's instant, computed once rather than in every comparison, and its index.
+using Row = std::pair<std::time_t, std::size_t>;
 
 void mergeRuns(const std::vector<Row>& from, std::vector<Row>& to, std::size_t begin, std::size_t width) {
   const std::size_t middle = std::min(begin + width, from.size());
@@ -24,9 +22,9 @@ void mergeRuns(const std::vector<Row>& from, std::vector<Row>& to, std::size_t b
   std::size_t left = begin;
   std::size_t right = middle;
   for (std::size_t out = begin; out < end; ++out) {
-    const bool takeRight =
-        left == middle || (right < end && compareStatusInstants(from[left].instant, from[right].instant) > 0);
-    to[out] = takeRight ? from[right++] : from[left++];
+    const bool isRightNext =
+        left == middle || (right < end && compareStatusInstants(from[left].first, from[right].first) > 0);
+    to[out] = isRightNext ? from[right++] : from[left++];
   }
 }
 
@@ -61,11 +59,11 @@ std::time_t statusInstant(const QString& date) {
 void sortByStatusDate(std::vector<StatusEntry>& entries) {
   std::vector<Row> rows;
   rows.reserve(entries.size());
-  for (std::size_t i = 0; i < entries.size(); ++i) rows.push_back({statusInstant(entries[i].date), i});
+  for (std::size_t i = 0; i < entries.size(); ++i) rows.emplace_back(statusInstant(entries[i].date), i);
   mergeSort(rows);
   std::vector<StatusEntry> sorted;
   sorted.reserve(entries.size());
-  for (const Row& row : rows) sorted.push_back(std::move(entries[row.entry]));
+  for (const auto& [instant, index] : rows) sorted.push_back(std::move(entries[index]));
   entries = std::move(sorted);
 }
 

@@ -10,22 +10,21 @@
 
 namespace parlexo {
 
-/// The order in which the status page lists its entries.
+/// The order of the entries on the status page.
 
-/// The instant of a status date ("day/month/year hour:minute:second", local time; leading zeros are decimal
-/// and may be missing; the system decides on daylight saving). 0 for a text that is no such date.
+/// Converts a status date ("day/month/year hour:minute:second" in local time; leading zeros are optional) to
+/// an instant. The system resolves daylight saving time. Returns 0 if the text is not a date.
 [[nodiscard]] std::time_t statusInstant(const QString& date);
 
-/// The comparison of two rows: the seconds component, -59 to 59, of the first instant minus the second.
-/// Whole minutes do not count, so this is neither chronological nor even an order: of three dates each can
-/// come before the next in a circle.
+/// Compares two rows: the seconds component, -59 to 59, of the difference of their instants. Ignores whole
+/// minutes, so the order is neither chronological nor transitive.
 [[nodiscard]] constexpr int compareStatusInstants(std::time_t first, std::time_t second) {
   return static_cast<int>((first - second) % 60);
 }
 
-/// Sorts by date with the comparison above, by a bottom-up merge sort. The standard algorithms may run out
-/// of bounds when a comparison is not transitive; merging never looks outside its two runs and takes the
-/// left one unless the right one compares as smaller, so that the result is the same everywhere.
+/// Sorts by date with compareStatusInstants(), using a bottom-up merge sort. The standard algorithms may
+/// access memory out of bounds if a comparison is not transitive. Merging stays within its two runs and
+/// prefers the left one unless the right one is smaller, so the result is the same on all platforms.
 void sortByStatusDate(std::vector<StatusEntry>& entries);
 
 }  // namespace parlexo

@@ -3,27 +3,33 @@
 
 #include <functional>
 
+#include <QCoreApplication>
 #include <QString>
 #include <QStringList>
 
+#include "connection/client/gateway.h"
 #include "messaging/core/messaging_services.h"
 #include "messaging/core/status_log.h"
 
 namespace parlexo {
 
-/// What came of a status query.
+/// The result of a status query, as counts of receipts.
 struct StatusQueryOutcome {
   int received = 0;
-  int undetermined = 0;  ///< asked for without success, or not asked for any more after a failure
-  int notAsked = 0;      ///< left when the user cancelled
-  int failedSends = 0;   ///< never accepted by the gateway, which therefore has no status for them
+  int undetermined = 0;  ///< the call failed, or was not made after an earlier failure
+  int notQueried = 0;    ///< left when the user cancelled
+  int failedSends = 0;   ///< the gateway never accepted the message and so has no status
+
+  /// The outcome for the user, such as "2 could not be determined."; empty if all statuses were received.
+  [[nodiscard]] QString text() const;
+
+  Q_DECLARE_TR_FUNCTIONS(StatusQueryOutcome)
 };
 
-/// The outcome for the user, as in "2 could not be determined."; empty when every status was received.
-[[nodiscard]] QString statusQueryText(const StatusQueryOutcome& outcome);
-
-/// Asks the gateway for the current status of messages and stores the answers in the status log.
+/// Queries the gateway for the current status of messages and updates the status log.
 class StatusQueryFlow {
+  Q_DECLARE_TR_FUNCTIONS(StatusQueryFlow)
+
  public:
   /// Called with each entry whose status was received.
   using Updated = std::function<void(const StatusEntry& entry)>;
@@ -31,27 +37,18 @@ class StatusQueryFlow {
   /// `services` must refer to objects that outlive the flow.
   explicit StatusQueryFlow(const MessagingServices& services) : services_(services) {}
 
-  /// Asks for each receipt in turn but those that mark a failed send. The user sees how far the query is and
-  /// can cancel it after 3 s. A receipt that fails is skipped. After three transport failures in a row, or
-  /// when the session has expired, no more are asked for. The message for the first failure, or for the
-  /// expired session, is shown once at the end, so that a long query does not stop half-way and wait for the
-  /// user. What was received is kept in any case, and the log is saved when there was something.
+  /// Queries the receipts one by one, skipping those of failed sends. Shows the progress and offers Cancel
+  /// after 3 s. A failed call is skipped; the query stops after three transport failures in a row or when the
+  /// session has expired. The first failure, or the expired session, is reported once at the end, because a
+  /// message box would stop a long query until the user returns. Saves the log if any status was received.
   StatusQueryOutcome query(const QStringList& receipts, const Updated& updated) const;
 
  private:
-  struct Answer {
-    bool answered = true;
-    bool cancelled = false;
-    int code = 0;
-    QString status;
-
-    [[nodiscard]] bool isGood() const { return answered && code == 0; }
-  };
+  using StatusReply = Reply<protocol::getStatusResponse>;
   class Run;
 
-  void askAll(const QStringList& receipts, Run& run, const Updated& updated) const;
-  [[nodiscard]] Answer ask(const QString& receipt) const;
-  void report(const Answer& failure) const;
+  void callForEach(const QStringList& receipts, Run& run, const Updated& updated) const;
+  void report(const StatusReply& failure) const;
 
   MessagingServices services_;
 };

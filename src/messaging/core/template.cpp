@@ -16,30 +16,30 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr char templateSeparator[] = "{|/SEP/|}";
-constexpr qint64 largestTemplate = 64 * 1024 * 1024;  // bytes; more than a million recipients
+constexpr qint64 maxTemplateSize = 64 * 1024 * 1024;  // bytes; enough for a million recipients
 
 QString templateSuffix() {
   return u".tpl"_s;
 }
 
-// File names differ by case except on Windows, where the file system finds "X.TPL" by the name "X.tpl".
+// On Windows file names are not case-sensitive: "X.tpl" also opens "X.TPL".
 Qt::CaseSensitivity suffixCase() {
   return QDir::separator() == u'\\' ? Qt::CaseInsensitive : Qt::CaseSensitive;
 }
 
-// On Windows a name with a colon would lead into a hidden part of another file.
-QStringView refusedCharacters() {
+// On Windows a name with a colon would address an alternate data stream of another file.
+QStringView invalidCharacters() {
   return QDir::separator() == u'\\' ? u"\\/:*?\"<>|" : u"\\/";
 }
 
 bool isTemplateName(const QString& name) {
-  const auto isRefused = [](QChar c) { return c == u'\0' || refusedCharacters().contains(c); };
-  return !name.isEmpty() && std::none_of(name.begin(), name.end(), isRefused);
+  const auto isInvalid = [](QChar c) { return c == u'\0' || invalidCharacters().contains(c); };
+  return !name.isEmpty() && std::none_of(name.begin(), name.end(), isInvalid);
 }
 
 }  // namespace
 
-QByteArray templateBytes(const Template& content) {
+QByteArray toTemplateBytes(const Template& content) {
   return toCodePage(content.displayList) + templateSeparator + toCodePage(content.message);
 }
 
@@ -52,7 +52,7 @@ std::optional<Template> parseTemplate(const QByteArray& bytes) {
 
 QStringList TemplateFolder::names() const {
   QStringList names;
-  // Sorted here, because the file systems of Windows list their files in this order and others in none.
+  // Sorted, because most file systems list files in no particular order.
   const QDir::SortFlags order = QDir::Name | QDir::IgnoreCase;
   for (const QString& file : QDir(path_).entryList(QDir::Files | QDir::Hidden, order))
     if (file.endsWith(templateSuffix(), suffixCase())) names.append(file.chopped(templateSuffix().size()));
@@ -61,23 +61,23 @@ QStringList TemplateFolder::names() const {
 
 bool TemplateFolder::save(const QString& name, const Template& content) const {
   if (!isTemplateName(name)) return false;
-  QSaveFile file(fileOf(name));
-  return file.open(QIODevice::WriteOnly) && file.write(templateBytes(content)) >= 0 && file.flush() &&
+  QSaveFile file(filePath(name));
+  return file.open(QIODevice::WriteOnly) && file.write(toTemplateBytes(content)) >= 0 && file.flush() &&
          file.commit();
 }
 
 std::optional<Template> TemplateFolder::load(const QString& name) const {
-  QFile file(fileOf(name));
-  if (!file.open(QIODevice::ReadOnly) || file.size() > largestTemplate) return std::nullopt;
+  QFile file(filePath(name));
+  if (!file.open(QIODevice::ReadOnly) || file.size() > maxTemplateSize) return std::nullopt;
   const QByteArray bytes = file.readAll();
   return file.error() == QFileDevice::NoError ? parseTemplate(bytes) : std::nullopt;
 }
 
 bool TemplateFolder::remove(const QString& name) const {
-  return QFile::remove(fileOf(name)) || !QFile::exists(fileOf(name));
+  return QFile::remove(filePath(name)) || !QFile::exists(filePath(name));
 }
 
-QString TemplateFolder::fileOf(const QString& name) const {
+QString TemplateFolder::filePath(const QString& name) const {
   return QDir(path_).filePath(name + templateSuffix());
 }
 

@@ -10,43 +10,42 @@
 
 namespace parlexo {
 
-/// A frequently used text with the recipients that it goes to, as a page shows them.
+/// A reusable text with its recipients.
 struct Template {
-  QString displayList;  ///< entries "Name [number]" joined by commas; empty for none
-  QString message;      ///< the text in the form that travels
+  QString displayList;  ///< entries "Name [number]" separated by commas; empty for none
+  QString message;      ///< the text in its wire form
 
   bool operator==(const Template&) const = default;
 };
 
-/// The file's content: recipients, separator and text in bytes of the code page. Characters that it lacks
-/// become "?".
-[[nodiscard]] QByteArray templateBytes(const Template& content);
+/// The contents of a template's file: recipients, separator and text in the code page. Characters that it
+/// lacks become "?".
+[[nodiscard]] QByteArray toTemplateBytes(const Template& content);
 
-/// The template that a file's bytes hold, without the white space around its two parts. Nothing when the
-/// separator is not there exactly once; so a text that holds the separator makes a template that can't be
-/// loaded.
+/// Parses the contents of a file and trims white space from both parts. Returns nullopt unless the separator
+/// occurs exactly once; a text that contains the separator can't be loaded again.
 [[nodiscard]] std::optional<Template> parseTemplate(const QByteArray& bytes);
 
-/// The folder that keeps templates, one file each; its name is the template's with ".tpl" behind it.
+/// The folder with the templates. Each is a file named after the template with the suffix ".tpl".
 class TemplateFolder {
  public:
   explicit TemplateFolder(QString path) : path_(std::move(path)) {}
 
-  /// The names of all templates, in alphabetical order; none when the folder can't be read.
+  /// The names of all templates in alphabetical order; empty if the folder can't be read.
   [[nodiscard]] QStringList names() const;
 
-  /// Writes a template in the place of an older one of that name, which stays whole when the writing fails.
-  /// False when it fails, and for a name that is empty or holds "/", "\" or a zero character.
+  /// Writes a template, replacing one with the same name. Returns false if writing fails, and the old file
+  /// stays, or if the name is empty or contains "/", "\" or a null character.
   [[nodiscard]] bool save(const QString& name, const Template& content) const;
 
-  /// Nothing when the file can't be read, is larger than any template or is not one (see parseTemplate()).
+  /// Returns nullopt if the file can't be read, is too large, or is not a template (see parseTemplate()).
   [[nodiscard]] std::optional<Template> load(const QString& name) const;
 
-  /// True when there is no such template any more.
+  /// Deletes a template. Returns true if no template with this name exists afterwards.
   [[nodiscard]] bool remove(const QString& name) const;
 
  private:
-  [[nodiscard]] QString fileOf(const QString& name) const;
+  [[nodiscard]] QString filePath(const QString& name) const;
 
   QString path_;
 };

@@ -8,6 +8,7 @@
 
 #include "messaging/screens/schedule_dlg.h"
 #include "messaging/screens/sender_id_dlg.h"
+#include "ui/look.h"
 #include "ui/page_controls.h"
 #include "ui/picture_button.h"
 
@@ -15,36 +16,31 @@ namespace parlexo {
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-constexpr int fieldMargins = 16;
-
-}  // namespace
-
 DeliveryPanel::DeliveryPanel(QString& senderId, SenderIdUse use, QWidget* parent)
     : QWidget(parent), senderId_(senderId) {
   setObjectName(u"deliveryPanel"_s);
   text_ = readOnlyField(u"scheduleText"_s, this);
-  auto* dateTime = new PictureButton(u"Set Date/Time"_s, this);
+  auto* dateTime = new PictureButton(tr("Set Date/Time"), this);
   dateTime->setObjectName(u"setDateTimeButton"_s);
   connect(dateTime, &PictureButton::clicked, this, &DeliveryPanel::setDateTime);
 
-  // The label stands above, so that a narrow window has room for the whole time.
-  text_->setMinimumWidth(text_->fontMetrics().horizontalAdvance(u"0000/00/00 00:00:00"_s) + fieldMargins);
+  // The label is above the field, so the whole time fits in a narrow window.
+  text_->setMinimumWidth(text_->fontMetrics().horizontalAdvance(u"0000/00/00 00:00:00"_s) +
+                         look::fieldPadding);
   auto* row = new QHBoxLayout;
   row->addWidget(text_, 1);
   row->addWidget(dateTime);
   if (use == SenderIdUse::Set) row->addWidget(senderButton());
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins({});
-  layout->setSpacing(4);
-  layout->addWidget(labelFor(text_, u"Sc&hedule messages to be sent at:"_s));
+  layout->setSpacing(look::captionSpacing);
+  layout->addWidget(labelFor(text_, tr("Sc&hedule messages to be sent at:")));
   layout->addLayout(row);
   showSchedule();
 }
 
 PictureButton* DeliveryPanel::senderButton() {
-  auto* created = new PictureButton(u"Sender ID"_s, this);
+  auto* created = new PictureButton(tr("Sender ID"), this);
   created->setObjectName(u"senderIdButton"_s);
   connect(created, &PictureButton::clicked, this, &DeliveryPanel::setSenderId);
   return created;
@@ -69,7 +65,7 @@ void DeliveryPanel::setSenderId() {
 
 void DeliveryPanel::showSchedule() {
   text_->setText(schedule_.text);
-  text_->setCursorPosition(0);  // a field too narrow for its text shows the beginning
+  text_->setCursorPosition(0);  // shows the beginning if the field is too narrow
 }
 
 }  // namespace parlexo

@@ -4,8 +4,8 @@
 #include <QString>
 #include <QWidget>
 
+#include "messaging/core/message_traits.h"
 #include "messaging/core/schedule.h"
-#include "messaging/core/send_calls.h"
 
 class QLineEdit;
 
@@ -13,18 +13,18 @@ namespace parlexo {
 
 class PictureButton;
 
-/// How a send page's message goes out: shows its schedule and lets the user set it, and the sender ID that
-/// all pages share.
+/// Shows the schedule of a send page's message and lets the user set it, and the sender ID shared by all
+/// pages.
 class DeliveryPanel final : public QWidget {
   Q_OBJECT
 
  public:
-  /// Offers to set the sender ID where the page's messages use it. `senderId` must outlive the panel.
+  /// Has a button for the sender ID only if `use` is Set. `senderId` must outlive the panel.
   DeliveryPanel(QString& senderId, SenderIdUse use, QWidget* parent = nullptr);
 
   [[nodiscard]] const Schedule& schedule() const { return schedule_; }
 
-  /// Back to sending at once; the value for the gateway stays, as it is not looked at then.
+  /// Resets the schedule to immediate delivery.
   void sendNow();
 
  private:

@@ -13,22 +13,22 @@ namespace parlexo {
 class FilePanel;
 class MessageEdit;
 class PicturePreview;
-struct FileLook;
+struct FileDetails;
 
-/// A page that sends a file: the file, a note where the kind of message has one, and what all send pages
-/// have. The pages of MMS, fax and WAP are this one, each with its row of a table.
+/// A page that sends a file: the file, a note if the message type has one, and the common controls of send
+/// pages. The derived classes differ only in their row of page_traits.h.
 class FilePage : public SendPage {
   Q_OBJECT
 
  public:
-  /// What the page holds now.
+  /// The current contents of the page.
   [[nodiscard]] FileDraft draft() const;
 
-  /// Looks at the file anew: its length, whether it is still there.
+  /// Updates the details of the file, which may have changed on disk.
   void refresh() override;
 
  protected:
-  FilePage(const MessagingServices& services, FileKind kind, QWidget* parent);
+  FilePage(const MessagingServices& services, MessageType type, QWidget* parent);
 
   [[nodiscard]] SendOutcome sendMessage() override;
   [[nodiscard]] QWidget* controlAtFault(SendOutcome outcome) const override;
@@ -38,24 +38,49 @@ class FilePage : public SendPage {
   void dropEvent(QDropEvent* event) override;
 
  private:
-  struct Kind;
-  [[nodiscard]] static const Kind& kindOf(FileKind kind);
-
   [[nodiscard]] QLayout* messageArea();
   [[nodiscard]] QLayout* noteArea();
   [[nodiscard]] QLayout* noteHeading();
   void addPreview(QGridLayout& area);
   [[nodiscard]] QLayout* counterRow();
   void recount();
-  void showPicture(const FileLook& look);
+  void showThumbnail(const FileDetails& details);
 
-  const Kind& kind_;
-  int GatewayLocation::*limit_;
   FileSendFlow flow_;
   FilePanel* file_ = nullptr;
-  MessageEdit* note_ = nullptr;        ///< null for a kind without
-  QLineEdit* remaining_ = nullptr;     ///< null where nobody counts
-  PicturePreview* preview_ = nullptr;  ///< null where nothing is previewed
+  MessageEdit* note_ = nullptr;        ///< null on a page without a note
+  QLineEdit* remaining_ = nullptr;     ///< null unless the note is counted
+  PicturePreview* preview_ = nullptr;  ///< null on a page without a preview
+};
+
+/// The fax page: sends a document to the fax numbers of contacts.
+class CQuillonFaxDlg final : public FilePage {
+  Q_OBJECT
+
+ public:
+  /// `services` must refer to objects that outlive the page.
+  explicit CQuillonFaxDlg(const MessagingServices& services, QWidget* parent = nullptr)
+      : FilePage(services, MessageType::Fax, parent) {}
+};
+
+/// The MMS page: sends a media file with a description.
+class CQuillonMMSDlg final : public FilePage {
+  Q_OBJECT
+
+ public:
+  /// `services` must refer to objects that outlive the page.
+  explicit CQuillonMMSDlg(const MessagingServices& services, QWidget* parent = nullptr)
+      : FilePage(services, MessageType::Mms, parent) {}
+};
+
+/// The WAP push page: sends a media file with a short note.
+class CQuillonWAPDlg final : public FilePage {
+  Q_OBJECT
+
+ public:
+  /// `services` must refer to objects that outlive the page.
+  explicit CQuillonWAPDlg(const MessagingServices& services, QWidget* parent = nullptr)
+      : FilePage(services, MessageType::Wap, parent) {}
 };
 
 }  // namespace parlexo

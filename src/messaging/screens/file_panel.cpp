@@ -18,6 +18,7 @@
 
 #include "base/data_size.h"
 #include "base/settings.h"
+#include "ui/look.h"
 #include "ui/page_controls.h"
 #include "ui/picture_button.h"
 
@@ -27,20 +28,20 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// While somebody types a path, not every letter sets the disk going.
-constexpr int lookDelay = 250;  // ms
+// Delays reading while the user types a path.
+constexpr int updateDelay = 250;  // ms
 
-// A longer name of a single word would push the window over the edge of the screen.
-constexpr int longestName = 48;  // average characters
+// A longer name can't be wrapped and would make the window too wide for the screen.
+constexpr int maxNameWidth = 48;  // average characters
 
 QString factsText(FileFacts facts, const QFontMetrics& metrics) {
-  const int width = longestName * metrics.averageCharWidth();
+  const int width = maxNameWidth * metrics.averageCharWidth();
   facts.name = metrics.elidedText(facts.name, Qt::ElideMiddle, width);
   return facts.text();
 }
 
-// What a file manager copies may come as an address, "file:///home/ann/a%20b.pdf", and with a line's end.
-QString pathOf(const QString& entered) {
+// File managers copy a file as a URL, "file:///home/ann/a%20b.pdf", possibly with a line break.
+QString toLocalPath(const QString& entered) {
   const QUrl url(entered.trimmed());
   return url.isLocalFile() ? QDir::toNativeSeparators(url.toLocalFile()) : entered;
 }
@@ -52,9 +53,9 @@ FilePanel::FilePanel(const QString& label, Settings& settings, QWidget* parent)
   setObjectName(u"filePanel"_s);
   path_ = new QLineEdit(this);
   path_->setObjectName(u"filePath"_s);
-  path_->setAcceptDrops(false);  // the page takes files, everywhere
+  path_->setAcceptDrops(false);  // the page accepts dropped files
   connect(path_, &QLineEdit::textChanged, this, &FilePanel::pathChanged);
-  auto* browseButton = new PictureButton(u"&Browse..."_s, this);
+  auto* browseButton = new PictureButton(tr("&Browse..."), this);
   browseButton->setObjectName(u"browseButton"_s);
   connect(browseButton, &PictureButton::clicked, this, &FilePanel::browse);
   facts_ = new QLabel(this);
@@ -64,15 +65,15 @@ FilePanel::FilePanel(const QString& label, Settings& settings, QWidget* parent)
 
   auto* grid = new QGridLayout(this);
   grid->setContentsMargins({});
-  grid->setVerticalSpacing(4);
+  grid->setVerticalSpacing(look::captionSpacing);
   grid->addWidget(labelFor(path_, label), 0, 0);
   grid->addWidget(path_, 0, 1);
   grid->addWidget(browseButton, 0, 2);
   grid->addWidget(facts_, 1, 1, 1, 2);
   grid->setColumnStretch(1, 1);
-  untilLook_.setSingleShot(true);
-  connect(&untilLook_, &QTimer::timeout, this, &FilePanel::look);
-  connect(&newestLook_, &QFutureWatcherBase::finished, this, &FilePanel::takeLook);
+  updateTimer_.setSingleShot(true);
+  connect(&updateTimer_, &QTimer::timeout, this, &FilePanel::updateDetails);
+  connect(&watcher_, &QFutureWatcherBase::finished, this, &FilePanel::showResult);
   display({});
 }
 
@@ -81,7 +82,7 @@ QWidget* FilePanel::pathEdit() const {
 }
 
 QString FilePanel::path() const {
-  return pathOf(path_->text());
+  return toLocalPath(path_->text());
 }
 
 void FilePanel::clear() {
@@ -89,10 +90,10 @@ void FilePanel::clear() {
 }
 
 void FilePanel::browse() {
-  QFileDialog dialog(this, u"Open"_s, startFolder());
+  QFileDialog dialog(this, tr("Open"), startFolder());
   dialog.setFileMode(QFileDialog::ExistingFile);
-  // The details in the last brackets are what counts: "*.*" would leave out names without a dot.
-  dialog.setNameFilter(u"All Files (*.*) (*)"_s);
+  // The last parentheses contain the effective filter: "*.*" would exclude names without a dot.
+  dialog.setNameFilter(tr("All Files (*.*) (*)"));
   dialog.setOption(QFileDialog::HideNameFilterDetails);
   if (dialog.exec() == QDialog::Accepted) choose(dialog.selectedFiles().constFirst());
 }
@@ -100,8 +101,8 @@ void FilePanel::browse() {
 void FilePanel::choose(const QString& path) {
   settings_.setFileFolder(QDir::toNativeSeparators(QFileInfo(path).absolutePath()));
   path_->setText(QDir::toNativeSeparators(path));
-  untilLook_.stop();
-  look();
+  updateTimer_.stop();
+  updateDetails();
 }
 
 QString FilePanel::draggedFile(const QMimeData& data) {
@@ -116,39 +117,39 @@ QString FilePanel::startFolder() const {
 }
 
 void FilePanel::pathChanged() {
-  newestLook_.setFuture({});
+  watcher_.setFuture({});
   display({});
-  untilLook_.start(lookDelay);
+  updateTimer_.start(updateDelay);
 }
 
-void FilePanel::look() {
+void FilePanel::updateDetails() {
   const QString path = this->path();
   if (path.isEmpty()) return display({});
-  const auto promise = std::make_shared<QPromise<FileLook>>();
-  newestLook_.setFuture(promise->future());
-  QThreadPool::globalInstance()->start([promise, path, wishes = wishes_] {
+  const auto promise = std::make_shared<QPromise<FileDetails>>();
+  watcher_.setFuture(promise->future());
+  QThreadPool::globalInstance()->start([promise, path, request = request_] {
     promise->start();
-    promise->addResult(lookAtFile(path, wishes));
+    promise->addResult(readFileDetails(path, request));
     promise->finish();
   });
 }
 
-void FilePanel::takeLook() {
-  // A future that was let go of ends too, but it has seen nothing.
-  if (newestLook_.future().resultCount() > 0) display(newestLook_.result());
+void FilePanel::showResult() {
+  // An empty future finishes as well, but has no result.
+  if (watcher_.future().resultCount() > 0) display(watcher_.result());
 }
 
-void FilePanel::display(const FileLook& look) {
-  facts_->setText(lineFor(look));
+void FilePanel::display(const FileDetails& details) {
+  facts_->setText(detailsText(details));
   path_->setAccessibleDescription(facts_->text());
-  Q_EMIT looked(look);
+  Q_EMIT detailsChanged(details);
 }
 
-QString FilePanel::lineFor(const FileLook& look) const {
+QString FilePanel::detailsText(const FileDetails& details) const {
   if (path().isEmpty())
-    return u"Choose a file of at most %1, or drop one here."_s.arg(dataSizeText(wishes_.limit));
-  // A blank keeps the line's place, so that nothing jumps.
-  return look.facts.name.isEmpty() ? u" "_s : factsText(look.facts, facts_->fontMetrics());
+    return tr("Choose a file of at most %1, or drop one here.").arg(dataSizeText(request_.limit));
+  // A space preserves the height of the line, so the layout does not jump.
+  return details.facts.name.isEmpty() ? u" "_s : factsText(details.facts, facts_->fontMetrics());
 }
 
 }  // namespace parlexo

@@ -6,7 +6,7 @@
 #include <QTimer>
 #include <QWidget>
 
-#include "messaging/screens/file_look.h"
+#include "messaging/screens/file_details.h"
 
 class QLabel;
 class QLineEdit;
@@ -16,47 +16,47 @@ namespace parlexo {
 
 class Settings;
 
-/// The file that a page sends: its path, the way to choose one, and a line that says what was chosen.
+/// The file of a send page: an edit with its path, a Browse button and a line with its details.
 class FilePanel final : public QWidget {
   Q_OBJECT
 
  public:
-  /// `label` stands before the path, with its mnemonic. `settings` remembers the folder of the last choice
+  /// `label`, with its mnemonic, is the label of the path. `settings` stores the folder of the last choice
   /// and must outlive the panel.
   FilePanel(const QString& label, Settings& settings, QWidget* parent = nullptr);
 
   [[nodiscard]] QWidget* pathEdit() const;
-  /// The path that was typed or chosen; of an address of a file on this computer, the path that it means.
+  /// The entered or chosen path; the URL of a local file is converted to its path.
   [[nodiscard]] QString path() const;
   void clear();
 
-  /// What is to be found out about files from now on.
-  void setWishes(const FileLookWishes& wishes) { wishes_ = wishes; }
-  /// Looks at the file anew, on another thread; looked() tells what was seen.
-  void look();
+  /// Sets the details to read from now on.
+  void setRequest(const FileDetails::Request& request) { request_ = request; }
+  /// Reads the file's details on another thread; emits detailsChanged() when done.
+  void updateDetails();
 
-  /// Lets the user choose a file, beginning in the folder of the last choice.
+  /// Lets the user choose a file, starting in the folder of the last choice.
   void browse();
-  /// Takes the file at `path` as the user's choice.
+  /// Sets the file and stores its folder as that of the last choice.
   void choose(const QString& path);
-  /// The one file on this computer that is dragged; empty when it is something else.
+  /// The path of the one local file that `data` contains; empty if it contains anything else.
   [[nodiscard]] static QString draggedFile(const QMimeData& data);
 
  Q_SIGNALS:
-  /// The path has changed or the file was looked at. An empty name in the facts: nothing is known yet.
-  void looked(const FileLook& look);
+  /// The path has changed or the details have been read. The name in the facts is empty until they are known.
+  void detailsChanged(const FileDetails& details);
 
  private:
   void pathChanged();
-  void takeLook();
-  void display(const FileLook& look);
-  [[nodiscard]] QString lineFor(const FileLook& look) const;
+  void showResult();
+  void display(const FileDetails& details);
+  [[nodiscard]] QString detailsText(const FileDetails& details) const;
   [[nodiscard]] QString startFolder() const;
 
   Settings& settings_;
-  FileLookWishes wishes_;
-  QTimer untilLook_;
-  QFutureWatcher<FileLook> newestLook_;  ///< lets go of a look that is no longer of interest
+  FileDetails::Request request_;
+  QTimer updateTimer_;
+  QFutureWatcher<FileDetails> watcher_;  ///< of the latest read; the results of earlier ones are dropped
   QLineEdit* path_ = nullptr;
   QLabel* facts_ = nullptr;
 };

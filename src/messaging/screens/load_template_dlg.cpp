@@ -12,12 +12,11 @@
 #include <QVBoxLayout>
 
 #include "base/notifier.h"
-#include "messaging/core/messaging_texts.h"
 #include "ui/list_style.h"
 #include "ui/look.h"
 #include "ui/page_controls.h"
 #include "ui/picture_button.h"
-#include "ui/waiting/box_column.h"
+#include "ui/waiting/animated_picture.h"
 
 namespace parlexo {
 
@@ -25,12 +24,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QString listCaption() {
-  return u"Select the Template you wish to Load or  Delete:"_s;
-}
-
-/// A list in which nothing is current until the user picks something, so that the first Down key leads to the
-/// first entry and not past it.
+/// A list without a current item until the user selects one, so the first Down key selects the first item
+/// rather than the second.
 class TemplateList final : public QListWidget {
  public:
   using QListWidget::QListWidget;
@@ -48,7 +43,7 @@ class TemplateList final : public QListWidget {
 CLoadTemplateDlg::CLoadTemplateDlg(const TemplateFolder& folder, Notifier& notifier, QWidget* parent)
     : GradientDialog(parent), folder_(folder), notifier_(notifier) {
   setObjectName(u"loadTemplateDialog"_s);
-  setWindowTitle(u"Parlexo(TM) : Load or Delete Template"_s);
+  setWindowTitle(tr("Parlexo(TM) : Load or Delete Template"));
   createList();
   createLayout();
   resize(dialogUnits(*this, 210, 150).expandedTo(sizeHint()));
@@ -58,21 +53,21 @@ CLoadTemplateDlg::CLoadTemplateDlg(const TemplateFolder& folder, Notifier& notif
 void CLoadTemplateDlg::createList() {
   names_ = new TemplateList(this);
   names_->setObjectName(u"templateList"_s);
-  names_->setAccessibleName(listCaption());
+  names_->setAccessibleName(tr("Select the Template you wish to Load or  Delete:"));
   names_->setUniformItemSizes(true);
   styleList(*names_);
   names_->addItems(folder_.names());
   connect(names_, &QListWidget::itemDoubleClicked, this, &CLoadTemplateDlg::accept);
-  auto* removal = new QShortcut(QKeySequence(QKeySequence::Delete), names_);
-  removal->setContext(Qt::WidgetShortcut);
-  connect(removal, &QShortcut::activated, this, &CLoadTemplateDlg::deleteSelected);
+  auto* deleteKey = new QShortcut(QKeySequence(QKeySequence::Delete), names_);
+  deleteKey->setContext(Qt::WidgetShortcut);
+  connect(deleteKey, &QShortcut::activated, this, &CLoadTemplateDlg::deleteSelected);
 }
 
 void CLoadTemplateDlg::createLayout() {
   QVBoxLayout* layout = createColumn(*this);
-  layout->addWidget(labelFor(names_, listCaption()));
+  layout->addWidget(labelFor(names_, names_->accessibleName()));
   layout->addWidget(names_, 1);
-  layout->addSpacing(4);
+  layout->addSpacing(look::captionSpacing);
   layout->addLayout(createButtons());
 }
 
@@ -84,21 +79,23 @@ QLayout* CLoadTemplateDlg::createButtons() {
     connect(created, &PictureButton::clicked, this, action);
     return created;
   };
-  button(u"&Load"_s, u"loadButton"_s, &QDialog::accept)->setDefault(true);
-  button(u"&Delete"_s, u"deleteButton"_s, &CLoadTemplateDlg::deleteSelected);
-  button(u"&Cancel"_s, u"cancelButton"_s, &QDialog::reject);
+  button(tr("&Load"), u"loadButton"_s, &QDialog::accept)->setDefault(true);
+  button(tr("&Delete"), u"deleteButton"_s, &CLoadTemplateDlg::deleteSelected);
+  button(tr("&Cancel"), u"cancelButton"_s, &QDialog::reject);
   return row;
 }
 
 void CLoadTemplateDlg::accept() {
   if (!hasSelection()) {
-    notifier_.warning(messaging_texts::noTemplateToLoad());
+    notifier_.warning(tr("Please select a Template to load"));
     return;
   }
-  if (!notifier_.confirm(messaging_texts::confirmTemplateLoading(selectedName()))) return;
+  if (!notifier_.confirm(
+          tr("Are you sure you want to load the Template called: \"%1\"?").arg(selectedName())))
+    return;
   std::optional<Template> loaded = folder_.load(selectedName());
   if (!loaded) {
-    notifier_.error(messaging_texts::templateNotLoaded());
+    notifier_.error(tr("Something wrong with the Template as it could not be loaded"));
     return;
   }
   content_ = std::move(*loaded);
@@ -107,18 +104,20 @@ void CLoadTemplateDlg::accept() {
 
 void CLoadTemplateDlg::deleteSelected() {
   if (!hasSelection()) {
-    notifier_.warning(messaging_texts::noTemplateToDelete());
+    notifier_.warning(tr("Please select a Template to delete"));
     return;
   }
-  if (!notifier_.confirm(messaging_texts::confirmTemplateDeletion(selectedName()))) return;
+  if (!notifier_.confirm(
+          tr("Are you sure you want to delete the Template called: \"%1\"?").arg(selectedName())))
+    return;
   if (!folder_.remove(selectedName())) {
-    notifier_.error(messaging_texts::templateNotDeleted());
+    notifier_.error(tr("Could not delete your template!!"));
     return;
   }
   const int row = names_->currentRow();
   delete names_->takeItem(row);
-  // Nothing is selected now, so that a further Delete can't take a neighbour unasked for; the Down key leads
-  // to the entry that stands here now.
+  // Selects nothing, so pressing Delete again does not delete a neighbour. The Down key selects the item that
+  // is now in this row.
   names_->setCurrentRow(row - 1, QItemSelectionModel::Clear);
 }
 

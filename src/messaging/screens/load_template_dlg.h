@@ -13,19 +13,19 @@ namespace parlexo {
 
 class Notifier;
 
-/// Lets the user pick a saved template to load, or delete some.
+/// Lets the user load a saved template or delete templates.
 class CLoadTemplateDlg final : public GradientDialog {
   Q_OBJECT
 
  public:
-  /// Lists what is in `folder` now; nothing is selected. `folder` and `notifier` must outlive the dialog.
+  /// Lists the templates in `folder`; none is selected. `folder` and `notifier` must outlive the dialog.
   CLoadTemplateDlg(const TemplateFolder& folder, Notifier& notifier, QWidget* parent = nullptr);
 
-  /// The loaded template, once the dialog was accepted.
+  /// The loaded template after the dialog was accepted.
   [[nodiscard]] const Template& content() const { return content_; }
 
-  /// Loads the selected template after a question and closes; stays open when there is none, the user says
-  /// no or the file is no template.
+  /// Asks for confirmation, loads the selected template and closes. Stays open if nothing is selected, the
+  /// user declines, or the template can't be loaded.
   void accept() override;
 
  private:

@@ -17,15 +17,14 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// How much of `text` fits into `room` units without parting a surrogate pair.
-QString beginningOf(const QString& text, int room) {
-  qsizetype kept = std::clamp<qsizetype>(room, 0, text.size());
-  if (kept > 0 && kept < text.size() && text.at(kept - 1).isHighSurrogate()) --kept;
-  return text.left(kept);
+// The beginning of `text`, at most `units` long, without splitting a surrogate pair.
+QString truncated(const QString& text, int units) {
+  qsizetype end = std::clamp<qsizetype>(units, 0, text.size());
+  if (end > 0 && end < text.size() && text.at(end - 1).isHighSurrogate()) --end;
+  return text.left(end);
 }
 
-// A zero character would end the text on its way to the gateway.
-QString withoutZeros(QString text) {
+QString withoutNulls(QString text) {
   return text.remove(QChar(u'\0'));
 }
 
@@ -40,7 +39,7 @@ bool entersText(const QKeyEvent& event) {
 
 MessageEdit::MessageEdit(QWidget* parent) : QPlainTextEdit(parent) {
   setTabChangesFocus(true);
-  connect(document(), &QTextDocument::contentsChange, this, &MessageEdit::noteChange);
+  connect(document(), &QTextDocument::contentsChange, this, &MessageEdit::recordInsertion);
   connect(this, &QPlainTextEdit::textChanged, this, &MessageEdit::enforceLimit);
 }
 
@@ -52,12 +51,12 @@ QString MessageEdit::text() const {
 }
 
 int MessageEdit::length() const {
-  return document()->characterCount() - 1;  // the document counts the end of its last block
+  return document()->characterCount() - 1;  // includes the end of the last block
 }
 
 void MessageEdit::setText(const QString& text) {
-  const QScopedValueRollback own(isProgramsOwn_, true);
-  setPlainText(withoutZeros(text));
+  const QScopedValueRollback guard(isProgramEdit_, true);
+  setPlainText(withoutNulls(text));
 }
 
 void MessageEdit::truncate(int units) {
@@ -65,12 +64,12 @@ void MessageEdit::truncate(int units) {
 }
 
 void MessageEdit::keyPressEvent(QKeyEvent* event) {
-  // A key that finds no room is dropped before it gets into the text, or undo would collect steps that
-  // change nothing.
-  if (room() > 0 || !entersText(*event)) QPlainTextEdit::keyPressEvent(event);
+  // At the limit, keys are dropped before they change the text. Otherwise the undo history would contain
+  // steps without effect.
+  if (remainingUnits() > 0 || !entersText(*event)) QPlainTextEdit::keyPressEvent(event);
 }
 
-// A file's address is no text that anybody wants to send; the page may know what to do with a dropped file.
+// Leaves dropped files to the page, rather than inserting their URLs.
 bool MessageEdit::canInsertFromMimeData(const QMimeData* source) const {
   const QList<QUrl> urls = source->urls();
   const bool isFiles =
@@ -79,36 +78,36 @@ bool MessageEdit::canInsertFromMimeData(const QMimeData* source) const {
 }
 
 void MessageEdit::insertFromMimeData(const QMimeData* source) {
-  // Cut before it is inserted: laying out a text of megabytes only to drop it again would take seconds.
-  QString pasted = withoutZeros(source->text());
+  // Truncated before insertion, because laying out megabytes of text takes seconds.
+  QString pasted = withoutNulls(source->text());
   pasted.replace(u"\r\n"_s, u"\n"_s);
-  // An edit block of its own, or undo would take away what was typed just before as well.
+  // In a separate edit block. Otherwise undo would also remove the text typed just before.
   QTextCursor cursor = textCursor();
   cursor.beginEditBlock();
-  cursor.insertText(beginningOf(pasted, room()));
+  cursor.insertText(truncated(pasted, remainingUnits()));
   cursor.endEditBlock();
   ensureCursorVisible();
 }
 
-int MessageEdit::room() const {
+int MessageEdit::remainingUnits() const {
   const QTextCursor cursor = textCursor();
   return limit_ - length() + cursor.selectionEnd() - cursor.selectionStart();
 }
 
-void MessageEdit::noteChange(int position, int /*removed*/, int added) {
+void MessageEdit::recordInsertion(int position, int /*removed*/, int added) {
   insertionEnd_ = position + added;
 }
 
 void MessageEdit::enforceLimit() {
   const int excess = length() - limit_;
-  if (isProgramsOwn_ || excess <= 0) return;
+  if (isProgramEdit_ || excess <= 0) return;
   const int end = std::clamp(insertionEnd_, excess, length());
-  const bool partsPair = document()->characterAt(end - excess).isLowSurrogate();
-  removeJoined(end - excess - (partsPair ? 1 : 0), end);
+  const bool splitsPair = document()->characterAt(end - excess).isLowSurrogate();
+  removeJoined(end - excess - (splitsPair ? 1 : 0), end);
 }
 
 void MessageEdit::removeJoined(int from, int to) {
-  const QScopedValueRollback own(isProgramsOwn_, true);
+  const QScopedValueRollback guard(isProgramEdit_, true);
   QTextCursor cursor(document());
   cursor.joinPreviousEditBlock();
   cursor.setPosition(from);

@@ -5,29 +5,28 @@
 
 namespace parlexo {
 
-/// The editor of a message: plain text, a line break is one "\n", and the user can't enter more characters
-/// than the limit. What is too much is left away from the end of what was just entered, so that text behind
-/// the cursor stays.
+/// The editor of a message: plain text with "\n" as line break and a length limit for user input. Input over
+/// the limit is truncated at its end; the text after the cursor stays.
 class MessageEdit final : public QPlainTextEdit {
   Q_OBJECT
 
  public:
   explicit MessageEdit(QWidget* parent = nullptr);
 
-  /// The most UTF-16 units that the user can enter from now on; a longer text that is there already stays.
+  /// Sets the maximum length for further input, in UTF-16 units. Existing text is not truncated.
   void setTextLimit(int units) { limit_ = units; }
   [[nodiscard]] int textLimit() const { return limit_; }
 
-  /// The text with its no-break spaces, which toPlainText() turns into common ones.
+  /// The text. Preserves no-break spaces, which toPlainText() replaces by spaces.
   [[nodiscard]] QString text() const;
   /// Length of text() in UTF-16 units.
   [[nodiscard]] int length() const;
 
-  /// Replaces the text by one that came from elsewhere: the limit does not apply, and there is no way back.
-  /// Zero characters, which would end the text on its way to the gateway, are left out.
+  /// Replaces the text without applying the limit and clears the undo history. Removes null characters, which
+  /// would terminate the text in a request to the gateway.
   void setText(const QString& text);
 
-  /// Cuts the text to its first `units`; the cursor stays where it is and undo brings all back.
+  /// Truncates the text to `units`. Can be undone; does not move the cursor.
   void truncate(int units);
 
  protected:
@@ -36,14 +35,15 @@ class MessageEdit final : public QPlainTextEdit {
   void insertFromMimeData(const QMimeData* source) override;
 
  private:
-  [[nodiscard]] int room() const;
-  void noteChange(int position, int removed, int added);
+  /// Units that can be entered in place of the selection.
+  [[nodiscard]] int remainingUnits() const;
+  void recordInsertion(int position, int removed, int added);
   void enforceLimit();
   void removeJoined(int from, int to);
 
   int limit_ = 0;
   int insertionEnd_ = 0;
-  bool isProgramsOwn_ = false;
+  bool isProgramEdit_ = false;  ///< the program, not the user, is changing the text
 };
 
 }  // namespace parlexo

@@ -14,7 +14,7 @@ using namespace Qt::StringLiterals;
 
 PicturePreview::PicturePreview(QWidget* parent) : QLabel(parent) {
   setObjectName(u"picturePreview"_s);
-  setAccessibleName(u"Preview"_s);
+  setAccessibleName(tr("Preview"));
   setAlignment(Qt::AlignCenter);
   setTextFormat(Qt::PlainText);
   setWordWrap(true);
@@ -23,13 +23,13 @@ PicturePreview::PicturePreview(QWidget* parent) : QLabel(parent) {
   setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
 }
 
-QSize PicturePreview::room() const {
+QSize PicturePreview::maxPictureSize() const {
   return (QSizeF(minimumSize().shrunkBy(QMargins(2, 2, 2, 2))) * devicePixelRatioF()).toSize();
 }
 
 void PicturePreview::display(QImage picture, const QString& text) {
   if (picture.isNull()) {
-    clear();  // an empty text alone would leave the picture
+    clear();  // setText() with an empty text would not remove the picture
     setText(text);
     return;
   }

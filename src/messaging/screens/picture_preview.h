@@ -6,17 +6,17 @@
 
 namespace parlexo {
 
-/// Where a page shows how the chosen picture looks.
+/// Shows a preview of the selected picture.
 class PicturePreview final : public QLabel {
   Q_OBJECT
 
  public:
   explicit PicturePreview(QWidget* parent = nullptr);
 
-  /// The largest picture that it has room for at any time, in pixels of the screen.
-  [[nodiscard]] QSize room() const;
+  /// The size of the largest picture that always fits, in device pixels.
+  [[nodiscard]] QSize maxPictureSize() const;
 
-  /// Shows `picture`, which should be no larger than room(), or `text` where it is null.
+  /// Shows `picture`, at most maxPictureSize() large, or `text` if it is null.
   void display(QImage picture, const QString& text);
 
  protected:

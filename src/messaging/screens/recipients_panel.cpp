@@ -15,7 +15,6 @@
 #include "addressbook/screens/select_contacts_dlg.h"
 #include "base/notifier.h"
 #include "contacts/address_book.h"
-#include "messaging/core/messaging_texts.h"
 #include "ui/hyperlink_label.h"
 #include "ui/list_style.h"
 #include "ui/page_controls.h"
@@ -24,25 +23,6 @@
 namespace parlexo {
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-QString recipientsSummary(const Recipients& recipients, int repeated) {
-  const std::size_t shown = recipients.entries().size();
-  if (shown == 0) return u"No recipients"_s;
-  QString text = shown == 1 ? u"1 recipient"_s : u"%1 recipients"_s.arg(shown);
-  // Behind a template the box may show others than those who get the message; nobody should miss that.
-  if (!recipients.listsAgree()) {
-    text += recipients.numbers().isEmpty()
-                ? u" shown, but none selected to send to"_s
-                : u" shown, sending to the %1 selected before"_s.arg(recipients.numbers().size());
-  }
-  if (repeated == 0) return text;
-  return text + (repeated == 1 ? u", 1 number occurs more than once"_s
-                               : u", %1 numbers occur more than once"_s.arg(repeated));
-}
-
-}  // namespace
 
 int RecipientsModel::rowCount(const QModelIndex& parent) const {
   return parent.isValid() ? 0 : static_cast<int>(recipients_.entries().size());
@@ -53,9 +33,9 @@ QVariant RecipientsModel::data(const QModelIndex& index, int role) const {
   return recipients_.entries()[static_cast<std::size_t>(index.row())].text();
 }
 
-RecipientsPanel::RecipientsPanel(const AddressBook& book, Notifier& notifier, QString mode,
+RecipientsPanel::RecipientsPanel(const AddressBook& book, Notifier& notifier, SelectionMode mode,
                                  RecipientNumber number, QWidget* parent)
-    : QWidget(parent), book_(book), notifier_(notifier), mode_(std::move(mode)), number_(number) {
+    : QWidget(parent), book_(book), notifier_(notifier), mode_(mode), number_(number) {
   setObjectName(u"recipientsPanel"_s);
   auto* layout = new QHBoxLayout(this);
   layout->setContentsMargins({});
@@ -67,17 +47,17 @@ QWidget* RecipientsPanel::createBox() {
   auto* area = new QWidget(this);
   box_ = new QListView(area);
   box_->setObjectName(u"contactsBox"_s);
-  box_->setAccessibleName(u"Contacts"_s);
+  box_->setAccessibleName(tr("Contacts"));
   box_->setModel(&model_);
   box_->setSelectionMode(QAbstractItemView::ExtendedSelection);
   box_->setEditTriggers(QAbstractItemView::NoEditTriggers);
   box_->setUniformItemSizes(true);
   styleList(*box_);
-  auto* removal = new QShortcut(QKeySequence(QKeySequence::Delete), box_);
-  removal->setContext(Qt::WidgetShortcut);
-  connect(removal, &QShortcut::activated, this, &RecipientsPanel::removeHighlighted);
+  auto* deleteKey = new QShortcut(QKeySequence(QKeySequence::Delete), box_);
+  deleteKey->setContext(Qt::WidgetShortcut);
+  connect(deleteKey, &QShortcut::activated, this, &RecipientsPanel::removeHighlighted);
 
-  auto* label = new QLabel(u"&Contacts"_s, area);
+  auto* label = new QLabel(tr("&Contacts"), area);
   label->setBuddy(box_);
   auto* layout = new QVBoxLayout(area);
   layout->setContentsMargins({});
@@ -87,10 +67,25 @@ QWidget* RecipientsPanel::createBox() {
   return area;
 }
 
+// Warns if the box shows other recipients than the numbers to send to, which a loaded template can cause.
+QString RecipientsPanel::summary(const Recipients& recipients, int repeatedCount) {
+  const std::size_t shown = recipients.entries().size();
+  if (shown == 0) return tr("No recipients");
+  QString text = shown == 1 ? tr("1 recipient") : tr("%1 recipients").arg(shown);
+  if (!recipients.listsAgree()) {
+    text = recipients.numbers().isEmpty()
+               ? tr("%1 shown, but none selected to send to").arg(text)
+               : tr("%1 shown, sending to the %2 selected before").arg(text).arg(recipients.numbers().size());
+  }
+  if (repeatedCount == 0) return text;
+  return repeatedCount == 1 ? tr("%1, 1 number occurs more than once").arg(text)
+                            : tr("%1, %2 numbers occur more than once").arg(text).arg(repeatedCount);
+}
+
 QLayout* RecipientsPanel::createCountLine(QWidget* area) {
   count_ = new QLabel(area);
   count_->setObjectName(u"recipientCount"_s);
-  repeats_ = new HyperlinkLabel(u"Remove repeats"_s, {}, area);
+  repeats_ = new HyperlinkLabel(tr("Remove repeats"), {}, area);
   repeats_->setObjectName(u"removeRepeats"_s);
   connect(repeats_, &HyperlinkLabel::clicked, this, &RecipientsPanel::removeRepeats);
   connect(&model_, &RecipientsModel::modelReset, this, &RecipientsPanel::showCount);
@@ -110,10 +105,10 @@ QWidget* RecipientsPanel::createButtons() {
     layout->addWidget(created);
     return created;
   };
-  auto* add = button(u"&Add / Import Contacts"_s, u"addContactsButton"_s, [] {});
+  auto* add = button(tr("&Add / Import Contacts"), u"addContactsButton"_s, [] {});
   connect(add, &PictureButton::clicked, this, [this, add] { Q_EMIT contactsToAdd(*add); });
-  select_ = button(u"&Select Contacts..."_s, u"selectContactsButton"_s, [this] { selectContacts(); });
-  button(u"Clear"_s, u"clearContactsButton"_s, &RecipientsPanel::clearEntries);
+  select_ = button(tr("&Select Contacts..."), u"selectContactsButton"_s, [this] { selectContacts(); });
+  button(tr("Clear"), u"clearContactsButton"_s, &RecipientsPanel::clearEntries);
   layout->addStretch(1);
   return area;
 }
@@ -127,38 +122,39 @@ void RecipientsPanel::setEntries(const QString& displayList) {
 }
 
 void RecipientsPanel::showCount() {
-  const int repeated = recipients().repeatedNumberCount();
-  const QString summary = recipientsSummary(recipients(), repeated);
-  count_->setText(summary);
-  count_->setToolTip(summary);  // a narrow window has no room for all of it
-  repeats_->setVisible(repeated > 0 && recipients().haveEqualCounts());
+  const int repeatedCount = recipients().repeatedNumberCount();
+  const QString text = summary(recipients(), repeatedCount);
+  count_->setText(text);
+  count_->setToolTip(text);  // the line is cut off in a narrow window
+  repeats_->setVisible(repeatedCount > 0 && recipients().haveEqualCounts());
 }
 
 void RecipientsPanel::removeRepeats() {
   model_.update([](Recipients& recipients) { recipients.removeRepeats(); });
-  box_->setFocus(Qt::OtherFocusReason);  // the link is gone now
+  box_->setFocus(Qt::OtherFocusReason);  // the link is hidden now
 }
 
 void RecipientsPanel::selectContacts(const QStringList& alsoTicked) {
-  CSelectContactsDlg dialog(book_, mode_, contactsOfBoxAnd(alsoTicked), notifier_, this);
-  if (dialog.exec() == QDialog::Accepted) take(dialog.selection());
+  CSelectContactsDlg dialog(book_, mode_, contactsToTick(alsoTicked), notifier_, this);
+  if (dialog.exec() == QDialog::Accepted) applySelection(dialog.selection());
 }
 
 void RecipientsPanel::removeHighlighted() {
   std::vector<int> rows;
   for (const QModelIndex& index : box_->selectionModel()->selectedRows()) rows.push_back(index.row());
   if (rows.empty()) {
-    notifier_.error(messaging_texts::nothingHighlighted());
+    notifier_.error(tr("Can't delete the selected contacts as you have not selected one or more contacts"));
     return;
   }
-  if (!notifier_.confirm(messaging_texts::confirmRemoval())) return;
+  if (!notifier_.confirm(tr("Are you sure you want to delete the selected contacts?"))) return;
   model_.update([&](Recipients& recipients) { recipients.remove(rows); });
-  // A long list stays where the user was at work; nothing is highlighted, so that a further <DEL> asks anew.
-  const int place = std::min(*std::min_element(rows.begin(), rows.end()), model_.rowCount() - 1);
-  box_->selectionModel()->setCurrentIndex(model_.index(place), QItemSelectionModel::NoUpdate);
+  // Preserves the scroll position of a long list. Nothing is highlighted, so pressing Delete again removes
+  // nothing.
+  const int row = std::min(*std::min_element(rows.begin(), rows.end()), model_.rowCount() - 1);
+  box_->selectionModel()->setCurrentIndex(model_.index(row), QItemSelectionModel::NoUpdate);
 }
 
-ContactSelection RecipientsPanel::contactsOfBoxAnd(QStringList names) const {
+ContactSelection RecipientsPanel::contactsToTick(QStringList names) const {
   for (const Recipient& entry : recipients().entries()) names.append(entry.name);
   ContactSelection::Contacts contacts;
   for (const QString& name : names)
@@ -166,12 +162,13 @@ ContactSelection RecipientsPanel::contactsOfBoxAnd(QStringList names) const {
   return ContactSelection(std::move(contacts));
 }
 
-void RecipientsPanel::take(const ContactSelection& selection) {
+void RecipientsPanel::applySelection(const ContactSelection& selection) {
   const std::vector<const ContactRecord*> contacts(selection.begin(), selection.end());
   QStringList rejected;
   model_.update([&](Recipients& recipients) { rejected = recipients.select(contacts, number_); });
   if (rejected.isEmpty()) return;
-  notifier_.error(messaging_texts::badNumbersRemoved() + rejected.join(u", "_s));
+  notifier_.error(tr("The following Contacts had bad phone numbers and were removed:") +
+                  rejected.join(u", "_s));
 }
 
 }  // namespace parlexo

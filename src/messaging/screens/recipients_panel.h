@@ -19,7 +19,7 @@ class AddressBook;
 class HyperlinkLabel;
 class Notifier;
 
-/// The entries of a page's recipients, for a list view.
+/// List model of a page's recipients.
 class RecipientsModel final : public QAbstractListModel {
   Q_OBJECT
 
@@ -30,7 +30,7 @@ class RecipientsModel final : public QAbstractListModel {
   [[nodiscard]] QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
 
   [[nodiscard]] const Recipients& recipients() const { return recipients_; }
-  /// Runs `change` on the recipients and lets the views read them anew.
+  /// Calls `change` with the recipients and resets the model.
   template <class Change>
   void update(Change change) {
     beginResetModel();
@@ -42,48 +42,51 @@ class RecipientsModel final : public QAbstractListModel {
   Recipients recipients_;
 };
 
-/// The Contacts box of a send page with its buttons: selecting contacts, removing highlighted entries with
-/// Delete, clearing. A quiet line below tells how many there are and offers to remove repeated numbers.
+/// The Contacts box of a send page with buttons to select contacts and to clear the box. Delete removes the
+/// highlighted entries. A line below shows the count and a link that removes repeated numbers.
 class RecipientsPanel final : public QWidget {
   Q_OBJECT
 
  public:
-  /// `mode` decides which contacts the selection offers, `number` which of their numbers counts. `book` and
+  /// `mode` determines which contacts can be selected, `number` which of their numbers is used. `book` and
   /// `notifier` must outlive the panel.
-  RecipientsPanel(const AddressBook& book, Notifier& notifier, QString mode, RecipientNumber number,
+  RecipientsPanel(const AddressBook& book, Notifier& notifier, SelectionMode mode, RecipientNumber number,
                   QWidget* parent = nullptr);
 
   [[nodiscard]] const Recipients& recipients() const { return model_.recipients(); }
 
-  /// Empties the box; the numbers stay, as Recipients says.
+  /// Clears the box; the numbers stay (see Recipients).
   void clearEntries();
 
-  /// Fills the box from a display list, as a template holds it; the numbers stay, as Recipients says.
+  /// Fills the box from a template's display list; the numbers stay (see Recipients).
   void setEntries(const QString& displayList);
 
-  /// The button that does selectContacts(): where missing recipients come from.
+  /// The button that opens the selection; focused if recipients are missing.
   [[nodiscard]] QWidget* selectButton() const { return select_; }
-  /// Lets the user pick contacts and takes them over. Those in the box are ticked at first, and those named.
+  /// Opens the selection dialog and applies its result. The contacts in the box and those named in
+  /// `alsoTicked` are ticked initially.
   void selectContacts(const QStringList& alsoTicked = {});
-  /// Removes the highlighted entries after a question.
+  /// Removes the highlighted entries after a confirmation.
   void removeHighlighted();
 
  Q_SIGNALS:
-  /// The user wants to add contacts to the address book, and asked for it with this button.
+  /// The user asked to add contacts to the address book by pressing `button`.
   void contactsToAdd(QWidget& button);
 
  private:
   [[nodiscard]] QWidget* createBox();
   [[nodiscard]] QLayout* createCountLine(QWidget* area);
   [[nodiscard]] QWidget* createButtons();
+  [[nodiscard]] static QString summary(const Recipients& recipients, int repeatedCount);
   void showCount();
   void removeRepeats();
-  [[nodiscard]] ContactSelection contactsOfBoxAnd(QStringList names) const;
-  void take(const ContactSelection& selection);
+  /// The contacts in the box and those with the given names.
+  [[nodiscard]] ContactSelection contactsToTick(QStringList names) const;
+  void applySelection(const ContactSelection& selection);
 
   const AddressBook& book_;
   Notifier& notifier_;
-  QString mode_;
+  SelectionMode mode_;
   RecipientNumber number_;
   RecipientsModel model_;
   QListView* box_ = nullptr;

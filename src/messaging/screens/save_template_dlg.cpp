@@ -8,10 +8,9 @@
 #include <QVBoxLayout>
 
 #include "base/notifier.h"
-#include "messaging/core/messaging_texts.h"
 #include "ui/look.h"
 #include "ui/page_controls.h"
-#include "ui/waiting/box_column.h"
+#include "ui/waiting/animated_picture.h"
 
 namespace parlexo {
 
@@ -21,25 +20,26 @@ CSaveTemplateDlg::CSaveTemplateDlg(const TemplateFolder& folder, Template conten
                                    QWidget* parent)
     : GradientDialog(parent), folder_(folder), content_(std::move(content)), notifier_(notifier) {
   setObjectName(u"saveTemplateDialog"_s);
-  setWindowTitle(u"Parlexo(TM) : Save Template"_s);
+  setWindowTitle(tr("Parlexo(TM) : Save Template"));
   name_ = new QLineEdit(this);
   name_->setObjectName(u"templateName"_s);
   QVBoxLayout* layout = createColumn(*this);
-  layout->addWidget(labelFor(name_, u"&Template Name:"_s));
+  layout->addWidget(labelFor(name_, tr("&Template Name:")));
   layout->addWidget(name_);
   layout->addStretch(1);
-  layout->addSpacing(8);
-  layout->addLayout(dialogButtonRow(*this, {u"saveButton"_s, u"&Save"_s}, {u"cancelButton"_s, u"&Cancel"_s}));
+  layout->addSpacing(look::fieldSpacing);
+  layout->addLayout(
+      dialogButtonRow(*this, {u"saveButton"_s, tr("&Save")}, {u"cancelButton"_s, tr("&Cancel")}));
   setMinimumSize(dialogUnits(*this, 190, 60));
   name_->setFocus(Qt::OtherFocusReason);
 }
 
 void CSaveTemplateDlg::accept() {
   if (!folder_.save(name_->text(), content_)) {
-    notifier_.error(messaging_texts::templateNotSaved());
+    notifier_.error(tr("Could not save your template!!"));
     return;
   }
-  notifier_.information(messaging_texts::templateSaved());
+  notifier_.information(tr("Your template was saved."));
   GradientDialog::accept();
 }
 

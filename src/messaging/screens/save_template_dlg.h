@@ -10,8 +10,7 @@ namespace parlexo {
 
 class Notifier;
 
-/// Asks for a name and saves a text with its recipients under it, in the place of an older template of that
-/// name.
+/// Asks for a name and saves a template under it, replacing one with the same name.
 class CSaveTemplateDlg final : public GradientDialog {
   Q_OBJECT
 
@@ -20,7 +19,7 @@ class CSaveTemplateDlg final : public GradientDialog {
   CSaveTemplateDlg(const TemplateFolder& folder, Template content, Notifier& notifier,
                    QWidget* parent = nullptr);
 
-  /// Saves under the name in the edit and closes; stays open, after a message, when that fails.
+  /// Saves the template and closes. Reports a failure and stays open.
   void accept() override;
 
  private:

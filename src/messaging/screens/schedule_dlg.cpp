@@ -25,13 +25,13 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// Qt leaves these parts of its calendar without a name; the object names are Qt's own.
-void nameForAssistiveTools(QCalendarWidget& calendar) {
+// Qt sets no accessible names for these parts of its calendar. The object names are Qt's.
+void setAccessibleNames(QCalendarWidget& calendar) {
   const std::pair<const char*, QString> parts[] = {
-      {"qt_calendar_prevmonth", u"Previous month"_s},
-      {"qt_calendar_nextmonth", u"Next month"_s},
-      {"qt_calendar_yearedit", u"Year"_s},
-      {"qt_calendar_calendarview", u"Days"_s},
+      {"qt_calendar_prevmonth", CScheduleDlg::tr("Previous month")},
+      {"qt_calendar_nextmonth", CScheduleDlg::tr("Next month")},
+      {"qt_calendar_yearedit", CScheduleDlg::tr("Year")},
+      {"qt_calendar_calendarview", CScheduleDlg::tr("Days")},
   };
   for (const auto& [objectName, name] : parts)
     if (auto* part = calendar.findChild<QWidget*>(QLatin1String(objectName))) part->setAccessibleName(name);
@@ -41,31 +41,31 @@ void nameForAssistiveTools(QCalendarWidget& calendar) {
 
 CScheduleDlg::CScheduleDlg(QWidget* parent, Clock clock) : GradientDialog(parent), clock_(std::move(clock)) {
   setObjectName(u"scheduleDialog"_s);
-  setWindowTitle(u"Parlexo(TM) : Schedule Messages"_s);
+  setWindowTitle(tr("Parlexo(TM) : Schedule Messages"));
   createControls();
   createLayout();
   chooseCurrentTime();
-  connect(calendar_, &QCalendarWidget::selectionChanged, this, &CScheduleDlg::takeChosenTime);
-  connect(time_, &QTimeEdit::timeChanged, this, &CScheduleDlg::takeChosenTime);
+  connect(calendar_, &QCalendarWidget::selectionChanged, this, &CScheduleDlg::applyChosenTime);
+  connect(time_, &QTimeEdit::timeChanged, this, &CScheduleDlg::applyChosenTime);
   calendar_->setFocus(Qt::OtherFocusReason);
 }
 
 void CScheduleDlg::createControls() {
   calendar_ = new QCalendarWidget(this);
   calendar_->setObjectName(u"calendar"_s);
-  calendar_->setAccessibleName(u"Date:"_s);
-  nameForAssistiveTools(*calendar_);
-  // It has the keyboard in the place of the calendar.
+  calendar_->setAccessibleName(tr("Date:"));
+  setAccessibleNames(*calendar_);
+  // Receives the calendar's key events.
   calendar_->focusProxy()->installEventFilter(this);
   calendar_->setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
-  QTextCharFormat likeOtherDays;  // any day will do, and red is hard to read on the highlighted one
-  likeOtherDays.setForeground(look::text);
+  QTextCharFormat weekendFormat;  // Qt's red is hard to read on the highlighted day
+  weekendFormat.setForeground(look::text);
   for (const Qt::DayOfWeek day : {Qt::Saturday, Qt::Sunday})
-    calendar_->setWeekdayTextFormat(day, likeOtherDays);
+    calendar_->setWeekdayTextFormat(day, weekendFormat);
   time_ = new QTimeEdit(this);
   time_->setObjectName(u"timeEdit"_s);
   time_->setDisplayFormat(u"HH:mm:ss"_s);
-  today_ = new PictureButton(u"Today's Date/Time"_s, this);
+  today_ = new PictureButton(tr("Today's Date/Time"), this);
   today_->setObjectName(u"todayButton"_s);
   connect(today_, &PictureButton::clicked, this, &CScheduleDlg::chooseCurrentTime);
   localField_ = readOnlyField(u"localField"_s, this);
@@ -76,35 +76,35 @@ void CScheduleDlg::createControls() {
 
 void CScheduleDlg::createLayout() {
   auto* date = new QVBoxLayout;
-  date->setSpacing(4);
-  date->addWidget(labelFor(calendar_, u"&Date:"_s));
+  date->setSpacing(look::captionSpacing);
+  date->addWidget(labelFor(calendar_, tr("&Date:")));
   date->addWidget(calendar_);
   date->addStretch(1);
   auto* choice = new QHBoxLayout;
-  choice->setSpacing(16);
+  choice->setSpacing(look::choiceSpacing);
   choice->addLayout(date, 1);
   choice->addLayout(timeColumn());
 
   auto* layout = new QVBoxLayout(this);
-  layout->setContentsMargins(16, 14, 16, 14);
-  layout->setSpacing(10);
+  layout->setContentsMargins(look::dialogMargins);
+  layout->setSpacing(look::rowSpacing);
   layout->addWidget(
-      new QLabel(u"You can schedule your messages to be sent at the given date and time:"_s, this));
+      new QLabel(tr("You can schedule your messages to be sent at the given date and time:"), this));
   layout->addLayout(choice, 1);
   layout->addLayout(buttonRow());
 }
 
 QLayout* CScheduleDlg::timeColumn() {
-  auto* fields = new QGroupBox(u"Send message on:"_s, this);
+  auto* fields = new QGroupBox(tr("Send message on:"), this);
   auto* rows = new QFormLayout(fields);
-  rows->addRow(u"&local time"_s, localField_);
-  rows->addRow(u"&GMT"_s, gmtField_);
+  rows->addRow(tr("&local time"), localField_);
+  rows->addRow(tr("&GMT"), gmtField_);
   auto* column = new QVBoxLayout;
-  column->setSpacing(4);
-  column->addWidget(labelFor(time_, u"&Time:"_s));
+  column->setSpacing(look::captionSpacing);
+  column->addWidget(labelFor(time_, tr("&Time:")));
   column->addWidget(time_);
   column->addWidget(today_);
-  column->addSpacing(10);
+  column->addSpacing(look::rowSpacing);
   column->addWidget(fields);
   column->addStretch(1);
   return column;
@@ -113,10 +113,10 @@ QLayout* CScheduleDlg::timeColumn() {
 QLayout* CScheduleDlg::buttonRow() {
   auto* row = new QHBoxLayout;
   row->addStretch(1);
-  auto* select = addButton(*row, u"selectButton"_s, u"&Select Date/Time"_s);
+  auto* select = addButton(*row, u"selectButton"_s, tr("&Select Date/Time"));
   select->setDefault(true);
   connect(select, &PictureButton::clicked, this, &QDialog::accept);
-  auto* cancel = addButton(*row, u"cancelButton"_s, u"&Cancel"_s);
+  auto* cancel = addButton(*row, u"cancelButton"_s, tr("&Cancel"));
   connect(cancel, &PictureButton::clicked, this, &QDialog::reject);
   return row;
 }
@@ -124,16 +124,16 @@ QLayout* CScheduleDlg::buttonRow() {
 bool CScheduleDlg::eventFilter(QObject* target, QEvent* event) {
   const bool isKey = target == calendar_->focusProxy() && event->type() == QEvent::KeyPress;
   const int key = isKey ? static_cast<QKeyEvent*>(event)->key() : 0;
-  // Queued, because the calendar first takes over a date that was typed into it. Its own signal for Enter
-  // also comes with a click under some styles.
+  // Queued, because the calendar has to commit a typed date first. Its activated() signal can't be used: some
+  // styles also emit it for a click.
   if (key == Qt::Key_Return || key == Qt::Key_Enter)
     QMetaObject::invokeMethod(this, &CScheduleDlg::accept, Qt::QueuedConnection);
   return GradientDialog::eventFilter(target, event);
 }
 
 void CScheduleDlg::chooseCurrentTime() {
-  // The fields tell this very instant: reckoned back from the clocks' time, it could be an hour off in the
-  // night in which the clocks are put back.
+  // Shows this instant itself. Converted back from local time, it could be off by an hour in the night in
+  // which the clocks go back.
   const QDateTime now = clock_().toLocalTime();
   const QSignalBlocker calendarBlocker(calendar_);
   const QSignalBlocker timeBlocker(time_);
@@ -143,13 +143,13 @@ void CScheduleDlg::chooseCurrentTime() {
   showInstant(now);
 }
 
-void CScheduleDlg::takeChosenTime() {
+void CScheduleDlg::applyChosenTime() {
   const std::pair choice(calendar_->selectedDate(), time_->time());
-  // Enter in the time makes it tell its time again, which must not turn the second of two equal times that
-  // the clocks show into the first.
+  // Enter in the time edit emits the signal again. That must not change the second instant of an ambiguous
+  // local time to the first.
   if (choice == chosen_) return;
   chosen_ = choice;
-  showInstant(instantOfLocalTime(choice.first, choice.second));
+  showInstant(fromLocalTime(choice.first, choice.second));
 }
 
 void CScheduleDlg::showInstant(const QDateTime& instant) {

@@ -18,23 +18,23 @@ namespace parlexo {
 
 class PictureButton;
 
-/// Lets the user choose the date and time at which messages are to be sent. Any date will do; the gateway
-/// judges it.
+/// Lets the user choose the date and time at which messages are sent. Accepts any date; the gateway validates
+/// it.
 class CScheduleDlg final : public GradientDialog {
   Q_OBJECT
 
  public:
   using Clock = std::function<QDateTime()>;
 
-  /// Opens with the current time, as `clock` tells it.
+  /// Opens with the current time of `clock`.
   explicit CScheduleDlg(
       QWidget* parent = nullptr, Clock clock = [] { return QDateTime::currentDateTime(); });
 
-  /// What the two fields show.
+  /// The chosen schedule, as shown in the two fields.
   [[nodiscard]] const Schedule& schedule() const { return schedule_; }
 
  protected:
-  /// Enter in the calendar takes the date and closes the dialog.
+  /// Accepts the dialog when Enter is pressed in the calendar.
   bool eventFilter(QObject* target, QEvent* event) override;
 
  private:
@@ -43,12 +43,12 @@ class CScheduleDlg final : public GradientDialog {
   [[nodiscard]] QLayout* timeColumn();
   [[nodiscard]] QLayout* buttonRow();
   void chooseCurrentTime();
-  void takeChosenTime();
+  void applyChosenTime();
   void showInstant(const QDateTime& instant);
 
   Clock clock_;
   Schedule schedule_;
-  std::pair<QDate, QTime> chosen_;  ///< what calendar and time showed when the fields were written
+  std::pair<QDate, QTime> chosen_;  ///< date and time for which the fields were last updated
   QCalendarWidget* calendar_ = nullptr;
   QTimeEdit* time_ = nullptr;
   PictureButton* today_ = nullptr;

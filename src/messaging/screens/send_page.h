@@ -4,13 +4,16 @@
 #include <QString>
 #include <QStringList>
 
+#include "base/message_type.h"
 #include "messaging/core/messaging_services.h"
-#include "messaging/core/recipients.h"
-#include "messaging/core/send_calls.h"
+#include "messaging/core/schedule.h"
 #include "messaging/core/send_flow.h"
+#include "messaging/screens/page_traits.h"
 #include "ui/gradient_page.h"
 
+class QLabel;
 class QLayout;
+class QLineEdit;
 class QVBoxLayout;
 
 namespace parlexo {
@@ -18,68 +21,64 @@ namespace parlexo {
 class DeliveryPanel;
 class PictureButton;
 class RecipientsPanel;
-class UnansweredNotice;
 
-/// In what the pages that send messages differ, their messages apart.
-struct SendPageKind {
-  QString typeWord;       ///< the kind of message in the status log
-  QString selectionMode;  ///< which contacts the selection offers
-  RecipientNumber number = RecipientNumber::Phone;
-  SenderIdUse senderIdUse = SenderIdUse::Set;
-};
-
-/// A page that sends messages: what all kinds have in common around the message itself. Recipients, schedule
-/// and sender ID, the way to the status page, Send and what follows it.
+/// Base class of the pages that send messages: everything but the message itself. Shows the recipients, the
+/// schedule, the sender ID and the buttons, and runs the send.
 class SendPage : public GradientPage {
   Q_OBJECT
 
  public:
-  [[nodiscard]] const QString& typeWord() const { return kind_.typeWord; }
+  [[nodiscard]] MessageType messageType() const { return traits_.type; }
 
-  /// Lets the user choose the recipients from the address book; see RecipientsPanel::selectContacts().
+  /// Lets the user select recipients from the address book; see RecipientsPanel::selectContacts().
   void selectContacts(const QStringList& alsoTicked = {});
 
  Q_SIGNALS:
-  /// A message was accepted for every recipient and the form is cleared.
-  void messageSent(const QString& typeWord);
-  /// The user wants to see what became of messages of this type.
-  void statusRequested(const QString& typeWord);
-  /// The user wants to add contacts to the address book, and asked for it with this button.
+  /// A message was accepted for every recipient and the form has been cleared.
+  void messageSent(MessageType type);
+  /// The user asked for the status of messages of this type.
+  void statusRequested(MessageType type);
+  /// The user asked to add contacts to the address book by pressing `button`.
   void contactsToAdd(QWidget& button);
 
  protected:
   /// `services` must refer to objects that outlive the page.
-  SendPage(const MessagingServices& services, SendPageKind kind, QWidget* parent);
+  SendPage(const MessagingServices& services, MessageType type, QWidget* parent);
 
-  /// Lays the page out: `message` above the common controls, with `stretch` parts of the free height against
-  /// 2 for the recipients. To be called once, by the constructor that knows the message's controls; they come
-  /// first in the tab order if they exist by then.
+  /// Creates the layout: `message` above the common controls, with a stretch factor of `stretch` against 2
+  /// for the recipients. The derived class calls it once, in its constructor. Controls that it has created
+  /// before come first in the tab order.
   void layOut(QLayout* message, int stretch);
 
-  /// A button of the page.
+  /// Creates a button of the page.
   [[nodiscard]] PictureButton* button(const QString& text, const QString& name);
+  /// Creates a read-only field for a number of up to five digits.
+  [[nodiscard]] QLineEdit* counterField(const QString& name);
 
   [[nodiscard]] const MessagingServices& services() const { return services_; }
-  [[nodiscard]] RecipientsPanel& recipients() const { return *recipients_; }
+  [[nodiscard]] const PageTraits& traits() const { return traits_; }
+  [[nodiscard]] RecipientsPanel& recipientsPanel() const { return *recipients_; }
   [[nodiscard]] const Schedule& schedule() const;
 
-  /// Sends what the page holds and tells the user what became of it.
+  /// Sends the message and reports the result to the user.
   [[nodiscard]] virtual SendOutcome sendMessage() = 0;
-  /// Where the user mends what kept the message from being sent; null when that is nowhere on the page.
+  /// The control to focus after `outcome`, where the user can correct the message; null for none.
   [[nodiscard]] virtual QWidget* controlAtFault(SendOutcome outcome) const;
-  /// Empties the message's own controls.
+  /// Clears the derived class's controls.
   virtual void clearMessage() = 0;
 
  private:
+  [[nodiscard]] QLabel* createOutcomeUnknownNotice();
   void addBottomRow(QVBoxLayout& layout);
   void send();
-  void beginAnew();
+  void updateNotice(SendOutcome outcome);
+  void clearForm();
 
   MessagingServices services_;
-  SendPageKind kind_;
+  const PageTraits& traits_;
   bool isSending_ = false;
   RecipientsPanel* recipients_ = nullptr;
-  UnansweredNotice* notice_ = nullptr;
+  QLabel* outcomeUnknownNotice_ = nullptr;
   DeliveryPanel* delivery_ = nullptr;
 };
 

@@ -19,7 +19,8 @@ using namespace Qt::StringLiterals;
 namespace {
 
 HyperlinkLabel* accountLink(QWidget* parent) {
-  auto* link = new HyperlinkLabel(u"Log in to your account"_s, QUrl(webPage(u"/login.php"_s)), parent);
+  auto* link =
+      new HyperlinkLabel(CSenderIdDlg::tr("Log in to your account"), QUrl(webPage(u"/login.php"_s)), parent);
   link->setObjectName(u"accountLink"_s);
   return link;
 }
@@ -28,37 +29,37 @@ HyperlinkLabel* accountLink(QWidget* parent) {
 
 CSenderIdDlg::CSenderIdDlg(const QString& current, QWidget* parent) : GradientDialog(parent) {
   setObjectName(u"senderIdDialog"_s);
-  setWindowTitle(u"Parlexo(TM) : Sender Id"_s);
+  setWindowTitle(tr("Parlexo(TM) : Sender Id"));
   createLayout(current);
   setMinimumSize(dialogUnits(*this, 220, 110));
   edit_->selectAll();
   edit_->setFocus(Qt::OtherFocusReason);
 }
 
-// In reading order, which makes it the order of the Tab key too.
+// Creates the controls in reading order, which is the tab order.
 void CSenderIdDlg::createLayout(const QString& current) {
   auto* layout = new QVBoxLayout(this);
-  layout->setContentsMargins(16, 14, 16, 14);
-  layout->setSpacing(8);
+  layout->setContentsMargins(look::dialogMargins);
+  layout->setSpacing(look::fieldSpacing);
   layout->addWidget(
-      wrappedLabel(u"The Sender Id that your SMS, MMS and fax messages carry can be changed in your online "
-                   "account."_s,
+      wrappedLabel(tr("The Sender Id that your SMS, MMS and fax messages carry can be changed in your online "
+                      "account."),
                    this));
   layout->addWidget(accountLink(this), 0, Qt::AlignLeft);
-  layout->addSpacing(6);
-  layout->addWidget(
-      wrappedLabel(u"If your account has been enabled to set any Sender Id then simply just set your mobile "
-                   "Sender Id below. "_s,
-                   this));
+  layout->addSpacing(look::controlSpacing);
+  layout->addWidget(wrappedLabel(
+      tr("If your account has been enabled to set any Sender Id then simply just set your mobile "
+         "Sender Id below. "),
+      this));
   edit_ = new QLineEdit(current, this);
   edit_->setObjectName(u"senderIdEdit"_s);
-  layout->addWidget(labelFor(edit_, u"&Any Mobile Sender ID:"_s));
+  layout->addWidget(labelFor(edit_, tr("&Any Mobile Sender ID:")));
   layout->addWidget(edit_);
   auto* hint = new UnsendableHint(this);
   hint->watch({edit_});
   layout->addWidget(hint);
   layout->addStretch(1);
-  layout->addLayout(dialogButtonRow(*this, {u"saveButton"_s, u"&Save"_s}, {u"closeButton"_s, u"&Close"_s}));
+  layout->addLayout(dialogButtonRow(*this, {u"saveButton"_s, tr("&Save")}, {u"closeButton"_s, tr("&Close")}));
 }
 
 QString CSenderIdDlg::senderId() const {

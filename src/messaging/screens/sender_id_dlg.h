@@ -9,8 +9,8 @@ class QLineEdit;
 
 namespace parlexo {
 
-/// Lets the user set the sender ID that all send pages use until the program ends. Nothing is asked of the
-/// gateway here: the next send tells it.
+/// Lets the user set the sender ID that all send pages use until the program ends. Does not call the gateway;
+/// the next send sets the ID there.
 class CSenderIdDlg final : public GradientDialog {
   Q_OBJECT
 
@@ -18,7 +18,7 @@ class CSenderIdDlg final : public GradientDialog {
   /// Opens with `current` in the edit; empty for none.
   explicit CSenderIdDlg(const QString& current, QWidget* parent = nullptr);
 
-  /// What stands in the edit; to be kept when the dialog was accepted.
+  /// The text of the edit, to be used if the dialog was accepted.
   [[nodiscard]] QString senderId() const;
 
  private:

@@ -14,15 +14,16 @@
 
 #include "base/message_texts.h"
 #include "base/notifier.h"
-#include "messaging/core/messaging_texts.h"
 #include "messaging/core/template.h"
 #include "messaging/screens/load_template_dlg.h"
 #include "messaging/screens/message_edit.h"
 #include "messaging/screens/recipients_panel.h"
 #include "messaging/screens/save_template_dlg.h"
-#include "messaging/screens/unsendable_line.h"
+#include "ui/hyperlink_label.h"
+#include "ui/look.h"
 #include "ui/page_controls.h"
 #include "ui/picture_button.h"
+#include "ui/unsendable_hint.h"
 
 namespace parlexo {
 
@@ -30,23 +31,16 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// Set while a recount runs: the texts that it puts back must not count again. One flag for the program, so
-// that a second page could not count in the middle of the first.
+// Set during a recount, which changes the text and must not start another. Shared by all pages, so a second
+// page can't recount in the middle of the first one's recount.
 bool isRecounting = false;
-
-constexpr int counterCharacters = 5;
-constexpr int controlSpacing = 6;
-
-QString smsWord() {
-  return u"SMS"_s;
-}
 
 struct Choice {
   QString text;
   QString objectName;
 };
 
-// A titled box with two radio buttons in a button group of the given name, the first of them chosen.
+// A titled box with two radio buttons in a button group of the given name. The first one is checked.
 QGroupBox* choiceBox(const QString& title, const QString& groupName, const Choice& first,
                      const Choice& second, QWidget* parent) {
   auto* box = new QGroupBox(title, parent);
@@ -66,11 +60,11 @@ QGroupBox* choiceBox(const QString& title, const QString& groupName, const Choic
 }  // namespace
 
 CQuillonSMSDlg::CQuillonSMSDlg(const MessagingServices& services, QWidget* parent)
-    : SendPage(services, {smsWord(), smsWord()}, parent), flow_(services) {
+    : SendPage(services, MessageType::Sms, parent), flow_(services) {
   setObjectName(u"smsPage"_s);
-  // Everything is created in reading order, which makes it the order of the Tab key too.
+  // Creates the controls in reading order, which is the tab order.
   auto* message = new QHBoxLayout;
-  message->setSpacing(14);
+  message->setSpacing(look::sectionSpacing);
   message->addLayout(messageColumn(), 1);
   message->addLayout(choiceColumn());
   layOut(message, 3);
@@ -79,14 +73,12 @@ CQuillonSMSDlg::CQuillonSMSDlg(const MessagingServices& services, QWidget* paren
 }
 
 SmsDraft CQuillonSMSDlg::draft() const {
-  SmsDraft draft;
-  draft.text = editor_->text();
-  draft.charset = charset();
-  draft.flash = !standardType_->isChecked();
-  draft.displayList = recipients().recipients().displayList();
-  draft.numbersList = recipients().recipients().numbersList();
-  draft.schedule = schedule();
-  return draft;
+  return {.text = editor_->text(),
+          .charset = charset(),
+          .flash = !standardType_->isChecked(),
+          .displayList = recipientsPanel().recipients().displayList(),
+          .numbersList = recipientsPanel().recipients().numbersList(),
+          .schedule = schedule()};
 }
 
 QLayout* CQuillonSMSDlg::messageColumn() {
@@ -95,48 +87,54 @@ QLayout* CQuillonSMSDlg::messageColumn() {
   connect(editor_, &MessageEdit::textChanged, this, &CQuillonSMSDlg::recount);
   connect(editor_, &MessageEdit::cursorPositionChanged, this, &CQuillonSMSDlg::showPart);
   auto* column = new QVBoxLayout;
-  column->setSpacing(controlSpacing);
-  column->addWidget(labelFor(editor_, u"&Message"_s));
+  column->setSpacing(look::controlSpacing);
+  column->addWidget(labelFor(editor_, tr("&Message")));
   column->addWidget(editor_, 1);
   column->addLayout(counterRow());
-  unsendable_ = new UnsendableLine(this);
-  connect(unsendable_, &UnsendableLine::unicodeRequested, this, &CQuillonSMSDlg::switchToUnicode);
-  column->addWidget(unsendable_);
+  column->addWidget(createUnsendableLine());
   return column;
 }
 
 QLayout* CQuillonSMSDlg::counterRow() {
-  totalSms_ = readOnlyField(u"totalSms"_s, this);
-  remaining_ = readOnlyField(u"charactersRemaining"_s, this);
-  for (QLineEdit* counter : {totalSms_, remaining_}) {
-    counter->setFocusPolicy(Qt::ClickFocus);
-    counter->setAlignment(Qt::AlignRight);
-    counter->setFixedWidth(counter->fontMetrics().averageCharWidth() * counterCharacters + 16);
-  }
+  totalSms_ = counterField(u"totalSms"_s);
+  remaining_ = counterField(u"charactersRemaining"_s);
   part_ = new QLabel(this);
   part_->setObjectName(u"messagePart"_s);
   auto* row = new QHBoxLayout;
-  row->addWidget(labelFor(totalSms_, u"Total SMS:"_s));
+  row->addWidget(labelFor(totalSms_, tr("Total SMS:")));
   row->addWidget(totalSms_);
-  row->addSpacing(14);
-  row->addWidget(labelFor(remaining_, u"Characters remaining:"_s));
+  row->addSpacing(look::sectionSpacing);
+  row->addWidget(labelFor(remaining_, tr("Characters remaining:")));
   row->addWidget(remaining_);
   row->addStretch(1);
   row->addWidget(part_);
   return row;
 }
 
+QWidget* CQuillonSMSDlg::createUnsendableLine() {
+  auto* line = new QWidget(this);
+  line->setObjectName(u"unsendableLine"_s);
+  unsendable_ = new UnsendableHint(line);
+  unicodeLink_ = new HyperlinkLabel(tr("Switch to Unicode"), {}, line);
+  unicodeLink_->setObjectName(u"switchToUnicode"_s);
+  connect(unicodeLink_, &HyperlinkLabel::clicked, this, &CQuillonSMSDlg::switchToUnicode);
+  QLayout* layout = lineWithLink(*unsendable_, *unicodeLink_);
+  layout->setContentsMargins({});
+  line->setLayout(layout);
+  return line;
+}
+
 QLayout* CQuillonSMSDlg::choiceColumn() {
   auto* charsets =
-      choiceBox(u"Character set"_s, u"GroupEncoding"_s, {u"Standard character set"_s, u"standardCharset"_s},
-                {u"Unicode (Languages support)"_s, u"unicodeCharset"_s}, this);
+      choiceBox(tr("Character set"), u"GroupEncoding"_s, {tr("Standard character set"), u"standardCharset"_s},
+                {tr("Unicode (Languages support)"), u"unicodeCharset"_s}, this);
   standardCharset_ = charsets->findChild<QRadioButton*>(u"standardCharset"_s);
   unicodeCharset_ = charsets->findChild<QRadioButton*>(u"unicodeCharset"_s);
-  auto* types = choiceBox(u"Message type"_s, u"GroupType"_s, {u"Standard"_s, u"standardType"_s},
-                          {u"Flash"_s, u"flashType"_s}, this);
+  auto* types = choiceBox(tr("Message type"), u"GroupType"_s, {tr("Standard"), u"standardType"_s},
+                          {tr("Flash"), u"flashType"_s}, this);
   standardType_ = types->findChild<QRadioButton*>(u"standardType"_s);
   auto* column = new QVBoxLayout;
-  column->setSpacing(controlSpacing);
+  column->setSpacing(look::controlSpacing);
   column->addWidget(charsets);
   column->addWidget(types);
   column->addStretch(1);
@@ -152,10 +150,10 @@ QLayout* CQuillonSMSDlg::templateRow() {
     row->addWidget(created);
     return created;
   };
-  add(u"Load Template"_s, "loadTemplateButton", &CQuillonSMSDlg::loadTemplate);
-  add(u"Save Template"_s, "saveTemplateButton", &CQuillonSMSDlg::saveTemplate);
+  add(tr("Load Template"), "loadTemplateButton", &CQuillonSMSDlg::loadTemplate);
+  add(tr("Save Template"), "saveTemplateButton", &CQuillonSMSDlg::saveTemplate);
   add(u"?"_s, "templatesTipButton", &CQuillonSMSDlg::showTemplatesTip)
-      ->setAccessibleName(u"About templates"_s);
+      ->setAccessibleName(tr("About templates"));
   return row;
 }
 
@@ -164,9 +162,9 @@ SmsCharset CQuillonSMSDlg::charset() const {
 }
 
 void CQuillonSMSDlg::applyCharset() {
-  editor_->setTextLimit(limitsOf(charset()).text);
+  editor_->setTextLimit(smsLimits(charset()).text);
   if (editor_->length() > editor_->textLimit()) {
-    services().notifier.error(messaging_texts::tooMuchText());
+    services().notifier.error(tr("You have entered too much text for messaging. Clearing text to send"));
     editor_->truncate(0);
   }
   recount();
@@ -176,22 +174,28 @@ void CQuillonSMSDlg::recount() {
   if (isRecounting) return;
   const QScopedValueRollback guard(isRecounting, true);
   const SmsComposition composition = composeSms(editor_->text(), charset());
-  if (composition.tooLong) services().notifier.error(messaging_texts::unicodeTooLong());
+  if (composition.tooLong) services().notifier.error(SmsSendFlow::unicodeTooLong());
   editor_->truncate(static_cast<int>(composition.editorText.size()));
   totalSms_->setText(QString::number(composition.totalSms));
   remaining_->setText(QString::number(composition.remaining));
-  unsendable_->follow(composition.editorText, charset());
+  showUnsendable(composition.editorText);
   showPart();
+}
+
+// Offers Unicode only if the text fits in it.
+void CQuillonSMSDlg::showUnsendable(const QString& text) {
+  unsendable_->check(charset() == SmsCharset::Standard ? text : QString());
+  unicodeLink_->setVisible(!unsendable_->text().isEmpty() && text.size() <= unicodeSmsLimits.text);
 }
 
 void CQuillonSMSDlg::showPart() {
   const SmsPart part = partAt(editor_->text(), charset(), editor_->textCursor().position());
-  part_->setText(u"Cursor in part %1 of %2"_s.arg(part.number).arg(part.total));
+  part_->setText(tr("Cursor in part %1 of %2").arg(part.number).arg(part.total));
 }
 
 void CQuillonSMSDlg::switchToUnicode() {
   unicodeCharset_->setChecked(true);
-  editor_->setFocus(Qt::OtherFocusReason);  // the link is gone now
+  editor_->setFocus(Qt::OtherFocusReason);  // the link is hidden now
 }
 
 SendOutcome CQuillonSMSDlg::sendMessage() {
@@ -211,7 +215,7 @@ void CQuillonSMSDlg::saveTemplate() {
   const SmsDraft current = draft();
   const QString message = composeSms(current.text, current.charset).transmitText;
   if (message.isEmpty()) {
-    services().notifier.error(messaging_texts::noSmsText());
+    services().notifier.error(SmsSendFlow::noText());
     editor_->setFocus(Qt::OtherFocusReason);
     return;
   }
@@ -220,21 +224,21 @@ void CQuillonSMSDlg::saveTemplate() {
 
 void CQuillonSMSDlg::loadTemplate() {
   CLoadTemplateDlg dialog(services().templates, services().notifier, this);
-  if (dialog.exec() == QDialog::Accepted) take(dialog.content());
+  if (dialog.exec() == QDialog::Accepted) applyTemplate(dialog.content());
 }
 
-void CQuillonSMSDlg::take(const Template& content) {
-  const std::optional<QString> decoded = decodedUnicodeSms(content.message);
+void CQuillonSMSDlg::applyTemplate(const Template& content) {
+  const std::optional<QString> decoded = decodeUnicodeSms(content.message);
   const QString text = decoded.value_or(content.message);
-  // The old text goes first: a change of the character set must not complain about its length.
+  // Cleared first, because changing the character set would report an old text that is too long for it.
   editor_->clear();
   if (decoded)
     unicodeCharset_->setChecked(true);
   else if (text.size() > editor_->textLimit())
     standardCharset_->setChecked(true);
-  // A file may hold any amount; one character over the limit is enough to be cut or reported.
+  // The file may be large; one character over the limit suffices for truncation or the error message.
   editor_->setText(text.left(standardSmsLimits.text + 1));
-  recipients().setEntries(content.displayList);
+  recipientsPanel().setEntries(content.displayList);
 }
 
 void CQuillonSMSDlg::showTemplatesTip() {

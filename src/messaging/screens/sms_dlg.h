@@ -14,11 +14,12 @@ class QRadioButton;
 
 namespace parlexo {
 
+class HyperlinkLabel;
 class MessageEdit;
-class UnsendableLine;
+class UnsendableHint;
 struct Template;
 
-/// The SMS page: a text, its character set and type, recipients, and the way to the gateway.
+/// The SMS page: a text, its character set and its type.
 class CQuillonSMSDlg final : public SendPage {
   Q_OBJECT
 
@@ -26,7 +27,7 @@ class CQuillonSMSDlg final : public SendPage {
   /// `services` must refer to objects that outlive the page.
   explicit CQuillonSMSDlg(const MessagingServices& services, QWidget* parent = nullptr);
 
-  /// What the page holds now.
+  /// The current contents of the page.
   [[nodiscard]] SmsDraft draft() const;
 
  protected:
@@ -37,17 +38,21 @@ class CQuillonSMSDlg final : public SendPage {
  private:
   [[nodiscard]] QLayout* messageColumn();
   [[nodiscard]] QLayout* counterRow();
+  /// The line with the characters that the standard character set lacks, and a link to switch to Unicode. Has
+  /// the same height when empty.
+  [[nodiscard]] QWidget* createUnsendableLine();
   [[nodiscard]] QLayout* choiceColumn();
   [[nodiscard]] QLayout* templateRow();
   [[nodiscard]] SmsCharset charset() const;
 
   void applyCharset();
   void recount();
+  void showUnsendable(const QString& text);
   void showPart();
   void switchToUnicode();
   void saveTemplate();
   void loadTemplate();
-  void take(const Template& content);
+  void applyTemplate(const Template& content);
   void showTemplatesTip();
 
   SmsSendFlow flow_;
@@ -59,7 +64,8 @@ class CQuillonSMSDlg final : public SendPage {
   QLineEdit* totalSms_ = nullptr;
   QLineEdit* remaining_ = nullptr;
   QLabel* part_ = nullptr;
-  UnsendableLine* unsendable_ = nullptr;
+  UnsendableHint* unsendable_ = nullptr;
+  HyperlinkLabel* unicodeLink_ = nullptr;
 };
 
 }  // namespace parlexo

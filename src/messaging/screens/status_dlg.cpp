@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "messaging/screens/status_dlg.h"
 
+#include <array>
+#include <cstddef>
+
 #include <QAction>
 #include <QComboBox>
 #include <QHBoxLayout>
@@ -11,9 +14,10 @@
 #include <QSignalBlocker>
 #include <QVBoxLayout>
 
-#include "messaging/core/status_count.h"
+#include "messaging/core/status_file.h"
 #include "messaging/core/status_query_flow.h"
 #include "ui/export_button.h"
+#include "ui/look.h"
 #include "ui/page_controls.h"
 #include "ui/picture_button.h"
 #include "ui/record_table.h"
@@ -24,11 +28,14 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+constexpr std::array listedTypes = {MessageType::Fax, MessageType::Mms, MessageType::Sms, MessageType::Voice,
+                                    MessageType::Wap};
+
 // The longest international number has 15 digits.
 RecordTable::Form statusForm() {
   return {
       u"statusList"_s,
-      u"Status"_s,
+      CStatusDlg::tr("Status"),
       {{120, u"00/00/0000 00:00:00"_s}, {200, QString()}, {100, u"+000000000000000"_s}, {300, QString()}}};
 }
 
@@ -40,20 +47,21 @@ CStatusDlg::CStatusDlg(const MessagingServices& services, QWidget* parent)
   createTypeBox();
   createList();
   createMenu();
-  getStatusButton_ = new PictureButton(u"Get &Status"_s, this);
+  getStatusButton_ = new PictureButton(tr("Get &Status"), this);
   getStatusButton_->setObjectName(u"getStatusButton"_s);
   connect(getStatusButton_, &PictureButton::clicked, this, &CStatusDlg::getStatus);
   createLayout();
-  selectType(u"SMS"_s);
+  selectType(MessageType::Sms);
 }
 
-void CStatusDlg::selectType(const QString& typeWord) {
-  const int item = type_->findText(typeWord);
-  if (item >= 0) {
-    const QSignalBlocker filledBelow(type_);
-    type_->setCurrentIndex(item);
-  }
+void CStatusDlg::selectType(MessageType type) {
+  const QSignalBlocker blocker(type_);  // fill() is called once, even if the type stays the same
+  type_->setCurrentIndex(type_->findText(toWord(type)));
   fill();
+}
+
+MessageType CStatusDlg::selectedType() const {
+  return listedTypes.at(static_cast<std::size_t>(type_->currentIndex()));
 }
 
 void CStatusDlg::showEvent(QShowEvent* event) {
@@ -64,7 +72,7 @@ void CStatusDlg::showEvent(QShowEvent* event) {
 void CStatusDlg::createTypeBox() {
   type_ = new QComboBox(this);
   type_->setObjectName(u"messageType"_s);
-  type_->addItems({u"Fax"_s, u"MMS"_s, u"SMS"_s, u"Voice"_s, u"WAP"_s});
+  for (const MessageType type : listedTypes) type_->addItem(toWord(type));
   connect(type_, &QComboBox::currentIndexChanged, this, &CStatusDlg::fill);
 }
 
@@ -80,7 +88,7 @@ void CStatusDlg::createList() {
 void CStatusDlg::createMenu() {
   menu_ = new QMenu(this);
   menu_->setObjectName(u"statusMenu"_s);
-  connect(menu_->addAction(u"Status"_s), &QAction::triggered, this, &CStatusDlg::getStatus);
+  connect(menu_->addAction(tr("Status")), &QAction::triggered, this, &CStatusDlg::getStatus);
   list_->setContextMenuPolicy(Qt::CustomContextMenu);
   connect(list_, &QWidget::customContextMenuRequested, this,
           [this](const QPoint& where) { menu_->popup(list_->viewport()->mapToGlobal(where)); });
@@ -88,39 +96,49 @@ void CStatusDlg::createMenu() {
 
 void CStatusDlg::createLayout() {
   auto* top = new QHBoxLayout;
-  top->addWidget(labelFor(type_, u"Message &Type:"_s));
+  top->addWidget(labelFor(type_, tr("Message &Type:")));
   top->addWidget(type_);
   top->addStretch(1);
   auto* bottom = new QHBoxLayout;
-  bottom->setSpacing(10);
+  bottom->setSpacing(look::rowSpacing);
   bottom->addWidget(count_, 1);
   bottom->addWidget(exportButton_);
   bottom->addWidget(getStatusButton_);
   auto* layout = new QVBoxLayout(this);
-  layout->setContentsMargins(14, 10, 14, 12);
-  layout->setSpacing(10);
+  layout->setContentsMargins(look::pageMargins);
+  layout->setSpacing(look::rowSpacing);
   layout->addLayout(top);
   layout->addWidget(list_, 1);
   layout->addLayout(bottom);
 }
 
 void CStatusDlg::fill() {
-  model_.fill(services_.statusLog, type_->currentText());
+  model_.fill(services_.statusLog, selectedType());
   shownRevision_ = services_.statusLog.revision();
   showCount({});
-  exportButton_->setSuggestedName(type_->currentText() + u" status"_s);
+  exportButton_->setSuggestedName(tr("%1 status").arg(type_->currentText()));
   list_->setCurrentIndex(list_->model()->index(0, 0));
 }
 
 void CStatusDlg::showCount(const QString& remark) {
-  QString count = statusCountText(model_.rowCount(), services_.statusLog.entries().size());
+  QString count = countText();
   if (!remark.isEmpty()) count += u' ' + remark;
   count_->setText(count);
 }
 
+QString CStatusDlg::countText() const {
+  const int shown = model_.rowCount();
+  const std::size_t all = services_.statusLog.entries().size();
+  QString count = shown == 1 ? tr("1 message of this type, %1 in all.").arg(all)
+                             : tr("%1 messages of this type, %2 in all.").arg(shown).arg(all);
+  if (all > StatusFile::elementsRead)
+    count += u' ' + tr("Only the newest %1 are kept when the program ends.").arg(StatusFile::elementsRead);
+  return count;
+}
+
 void CStatusDlg::getStatus() {
-  if (isAsking_) return;
-  const QScopedValueRollback guard(isAsking_, true);
+  if (isQuerying_) return;
+  const QScopedValueRollback guard(isQuerying_, true);
   showCount({});
   QStringList receipts;
   for (const int row : list_->selectedRecords()) receipts.append(model_.entryAt(row).receipt);
@@ -128,7 +146,7 @@ void CStatusDlg::getStatus() {
     model_.setStatus(entry.receipt, entry.status);
     shownRevision_ = services_.statusLog.revision();
   });
-  showCount(statusQueryText(outcome));
+  showCount(outcome.text());
 }
 
 }  // namespace parlexo

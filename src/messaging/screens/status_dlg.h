@@ -3,6 +3,7 @@
 
 #include <QString>
 
+#include "base/message_type.h"
 #include "messaging/core/messaging_services.h"
 #include "messaging/screens/status_list_model.h"
 #include "ui/gradient_page.h"
@@ -17,8 +18,7 @@ class ExportButton;
 class PictureButton;
 class RecordTable;
 
-/// The status page: what was sent, one message type at a time, and the question to the gateway what became
-/// of it.
+/// The status page: lists the sent messages of one type and queries the gateway for their status.
 class CStatusDlg final : public GradientPage {
   Q_OBJECT
 
@@ -26,15 +26,14 @@ class CStatusDlg final : public GradientPage {
   /// `services` must refer to objects that outlive the page.
   explicit CStatusDlg(const MessagingServices& services, QWidget* parent = nullptr);
 
-  /// Shows the messages of type `typeWord`, read anew from the log. A word that the page does not offer only
-  /// refreshes the list.
-  void selectType(const QString& typeWord);
+  /// Shows the messages of `type` and updates the list from the log.
+  void selectType(MessageType type);
 
-  /// Asks the gateway for the status of the selected messages.
+  /// Queries the gateway for the status of the selected messages.
   void refresh() override { getStatus(); }
 
  protected:
-  /// Reads the log anew when it has changed since the list was filled.
+  /// Updates the list if the log has changed.
   void showEvent(QShowEvent* event) override;
 
  private:
@@ -42,15 +41,17 @@ class CStatusDlg final : public GradientPage {
   void createList();
   void createMenu();
   void createLayout();
+  [[nodiscard]] MessageType selectedType() const;
   void fill();
-  /// Shows how many messages there are, and `remark` behind it.
+  /// Shows the counts of messages followed by `remark`.
   void showCount(const QString& remark);
+  [[nodiscard]] QString countText() const;
   void getStatus();
 
   MessagingServices services_;
   StatusListModel model_;
   quint64 shownRevision_ = 0;
-  bool isAsking_ = false;
+  bool isQuerying_ = false;
 
   QComboBox* type_ = nullptr;
   RecordTable* list_ = nullptr;

@@ -9,11 +9,9 @@
 
 namespace parlexo {
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
-// In the order of the columns.
+// In column order.
 constexpr std::array<QString StatusEntry::*, 4> statusFields = {&StatusEntry::date, &StatusEntry::receipt,
                                                                 &StatusEntry::phone, &StatusEntry::status};
 constexpr int dateColumn = 0;
@@ -26,7 +24,7 @@ const QString& statusCell(const StatusEntry& entry, int column) {
 }  // namespace
 
 StatusListModel::StatusListModel(QObject* parent)
-    : RecordListModel({u"Date"_s, u"Receipt"_s, u"Phone"_s, u"Status"_s}, parent) {}
+    : RecordListModel({tr("Date"), tr("Receipt"), tr("Phone"), tr("Status")}, parent) {}
 
 QString StatusListModel::textAt(int row, int column) const {
   return statusCell(entryAt(row), column);
@@ -37,7 +35,8 @@ QVariant StatusListModel::sortNumberAt(int row, int column) const {
   return static_cast<double>(statusInstant(entryAt(row).date));
 }
 
-void StatusListModel::fill(const StatusLog& log, const QString& typeWord) {
+void StatusListModel::fill(const StatusLog& log, MessageType type) {
+  const QString typeWord = toWord(type);
   std::vector<StatusEntry> rows;
   for (const auto& [receipt, entry] : log.entries())
     if (entry.type == typeWord) rows.push_back(entry);
@@ -45,17 +44,17 @@ void StatusListModel::fill(const StatusLog& log, const QString& typeWord) {
 
   beginResetModel();
   rows_ = std::move(rows);
-  rowOfReceipt_.clear();
-  rowOfReceipt_.reserve(static_cast<qsizetype>(rows_.size()));
-  for (int row = 0; row < rowCount(); ++row) rowOfReceipt_.insert(entryAt(row).receipt, row);
+  rowByReceipt_.clear();
+  rowByReceipt_.reserve(static_cast<qsizetype>(rows_.size()));
+  for (int row = 0; row < rowCount(); ++row) rowByReceipt_.insert(entryAt(row).receipt, row);
   endResetModel();
 }
 
 void StatusListModel::setStatus(const QString& receipt, const QString& status) {
-  const auto found = rowOfReceipt_.constFind(receipt);
-  if (found == rowOfReceipt_.constEnd()) return;
-  rows_[static_cast<std::size_t>(*found)].status = status;
-  const QModelIndex cell = index(*found, statusColumn);
+  const auto row = rowByReceipt_.constFind(receipt);
+  if (row == rowByReceipt_.constEnd()) return;
+  rows_[static_cast<std::size_t>(*row)].status = status;
+  const QModelIndex cell = index(*row, statusColumn);
   Q_EMIT dataChanged(cell, cell);
 }
 

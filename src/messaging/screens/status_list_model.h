@@ -5,22 +5,23 @@
 
 #include <QHash>
 
+#include "base/message_type.h"
 #include "messaging/core/status_log.h"
 #include "ui/record_list_model.h"
 
 namespace parlexo {
 
-/// The rows of the status page: the entries of one message type in their order.
+/// The rows of the status page: the log entries of one message type, sorted by date.
 class StatusListModel final : public RecordListModel {
   Q_OBJECT
 
  public:
   explicit StatusListModel(QObject* parent = nullptr);
 
-  /// Replaces all rows by the entries of `log` whose type is exactly `typeWord`.
-  void fill(const StatusLog& log, const QString& typeWord);
+  /// Replaces all rows by the entries of `log` that have this type.
+  void fill(const StatusLog& log, MessageType type);
 
-  /// Shows another status in the row of `receipt`, if there is one.
+  /// Changes the status in the row of `receipt`. Does nothing if there is none.
   void setStatus(const QString& receipt, const QString& status);
 
   [[nodiscard]] const StatusEntry& entryAt(int row) const { return rows_[static_cast<std::size_t>(row)]; }
@@ -32,7 +33,7 @@ class StatusListModel final : public RecordListModel {
 
  private:
   std::vector<StatusEntry> rows_;
-  QHash<QString, int> rowOfReceipt_;
+  QHash<QString, int> rowByReceipt_;
 };
 
 }  // namespace parlexo

@@ -5,8 +5,12 @@
 #include <QFile>
 #include <QImageReader>
 #include <QPainter>
+#include <QVBoxLayout>
 
-// The initialiser is declared outside every namespace; without the call a static library drops its resources.
+#include "ui/look.h"
+
+// Without this call the linker drops the resources of a static library. Q_INIT_RESOURCE must be used outside
+// of namespaces.
 static void loadResources() {
   Q_INIT_RESOURCE(waiting);
 }
@@ -17,12 +21,12 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QByteArray contentOf(const QString& path) {
+QByteArray readFile(const QString& path) {
   QFile file(path);
   return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
-QString doubledName(QString path) {
+QString highDpiName(QString path) {
   return path.insert(path.lastIndexOf(u'.'), u"@2x"_s);
 }
 
@@ -37,8 +41,8 @@ CAnimatedPicture::CAnimatedPicture(QWidget* parent) : QWidget(parent) {
 }
 
 bool CAnimatedPicture::loadFromResource(const QString& path) {
-  if (devicePixelRatioF() > 1 && loadFromMemory(contentOf(doubledName(path)), 2)) return true;
-  return loadFromMemory(contentOf(path));
+  if (devicePixelRatioF() > 1 && loadFromMemory(readFile(highDpiName(path)), 2)) return true;
+  return loadFromMemory(readFile(path));
 }
 
 bool CAnimatedPicture::loadFromMemory(const QByteArray& gif, qreal pixelsPerPoint) {
@@ -101,6 +105,14 @@ CAnimatedPicture* createConnectingAnimation(QWidget* parent) {
   animation->loadFromResource(QLatin1String(connectingAnimation));
   animation->start();
   return animation;
+}
+
+QVBoxLayout* createColumn(QWidget& dialog) {
+  auto* column = new QVBoxLayout(&dialog);
+  column->setContentsMargins(look::dialogMargins);
+  column->setSpacing(look::rowSpacing);
+  column->addWidget(createConnectingAnimation(&dialog));
+  return column;
 }
 
 }  // namespace parlexo

@@ -7,34 +7,36 @@
 #include <QTimer>
 #include <QWidget>
 
+class QVBoxLayout;
+
 namespace parlexo {
 
-/// The animation that every waiting box and several dialogs show.
+/// Resource path of the animation shown by the progress box and several dialogs.
 inline constexpr char connectingAnimation[] = ":/animations/connecting.gif";
 
-/// How long a frame stays, in milliseconds, for the delay stored in the GIF in hundredths of a second:
-/// delays below 5, missing ones among them, are slowed down to 100 ms.
+/// Converts a frame delay stored in a GIF, in hundredths of a second, to milliseconds. Delays below 5,
+/// including missing ones, become 100 ms.
 [[nodiscard]] constexpr int frameDelay(int storedHundredths) {
   return storedHundredths >= 5 ? storedHundredths * 10 : 100;
 }
 
-/// A picture that plays a GIF in an endless loop, decoration only. Without a loaded picture it is blank.
+/// A decorative widget that plays a GIF in an endless loop. Blank until a picture is loaded.
 class CAnimatedPicture : public QWidget {
   Q_OBJECT
 
  public:
   explicit CAnimatedPicture(QWidget* parent = nullptr);
 
-  /// Loads a GIF from the program's resources, in its "@2x" form where the screen has two pixels for one
-  /// and that form exists. False when the resource is missing or no picture; the control is then blank.
+  /// Loads a GIF from the program's resources; its "@2x" variant, if there is one, on a high-DPI screen.
+  /// Returns false, leaving the widget blank, if the resource is missing or can't be decoded.
   bool loadFromResource(const QString& path);
-  /// Loads the bytes of a GIF. `pixelsPerPoint` is how many of its pixels make one of the window's. False
-  /// when not a single frame can be read; the control is then blank.
+  /// Decodes a GIF. `pixelsPerPoint` is its device pixel ratio. Returns false, leaving the widget blank, if
+  /// no frame can be decoded.
   bool loadFromMemory(const QByteArray& gif, qreal pixelsPerPoint = 1);
 
-  /// Shows the picture and, when it has more than one frame, plays it. False when nothing is loaded.
+  /// Starts the animation; no effect with a single frame. Returns false if no picture is loaded.
   bool start();
-  /// Stops at the current frame; harmless when it does not run.
+  /// Stops at the current frame; no-op if not running.
   void stop();
 
   [[nodiscard]] bool isRunning() const { return timer_.isActive(); }
@@ -46,7 +48,7 @@ class CAnimatedPicture : public QWidget {
   void paintEvent(QPaintEvent* event) override;
 
  private:
-  /// A frame as it looks on the whole picture, the disposal of those before it applied.
+  /// A complete picture: the frame composed with the preceding ones.
   struct Frame {
     QImage picture;
     int storedHundredths = 0;
@@ -60,7 +62,10 @@ class CAnimatedPicture : public QWidget {
   QTimer timer_;
 };
 
-/// The animation of the program, playing.
+/// Creates and starts the animation connectingAnimation.
 [[nodiscard]] CAnimatedPicture* createConnectingAnimation(QWidget* parent = nullptr);
+
+/// Sets a vertical layout on `dialog` with the animation at the top. The dialog owns the layout.
+[[nodiscard]] QVBoxLayout* createColumn(QWidget& dialog);
 
 }  // namespace parlexo

@@ -26,15 +26,15 @@ CConnectingDlg::CConnectingDlg(QWidget* parent) : GradientDialog(parent) {
   detail_->setObjectName(u"detail"_s);
   detail_->setTextFormat(Qt::PlainText);
   detail_->hide();
-  cancel_ = new PictureButton(u"Cancel"_s, this);
+  cancel_ = new PictureButton(tr("Cancel"), this);
   cancel_->setObjectName(u"cancel"_s);
   cancel_->hide();
   connect(cancel_, &PictureButton::clicked, this, &CConnectingDlg::cancel);
-  // One layout, as a box within a box would learn too late that a text has grown.
+  // A single layout: nested ones would process a change of the text size too late.
   auto* grid = new QGridLayout(this);
-  grid->setContentsMargins(12, 8, 14, 8);
-  grid->setHorizontalSpacing(12);
-  grid->setVerticalSpacing(2);
+  grid->setContentsMargins(look::progressBoxMargins);
+  grid->setHorizontalSpacing(look::columnSpacing);
+  grid->setVerticalSpacing(look::lineSpacing);
   grid->addWidget(createConnectingAnimation(this), 0, 0, 4, 1);
   grid->addWidget(label_, 1, 1);
   grid->addWidget(detail_, 2, 1);
@@ -47,7 +47,7 @@ CConnectingDlg::CConnectingDlg(QWidget* parent) : GradientDialog(parent) {
 }
 
 QString CConnectingDlg::defaultText() {
-  return u"Connecting to the Parlexo gateway."_s;
+  return tr("Connecting to the Parlexo gateway.");
 }
 
 QString CConnectingDlg::text() const {

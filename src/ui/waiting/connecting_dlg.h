@@ -9,9 +9,8 @@ namespace parlexo {
 
 class PictureButton;
 
-/// The small box with animation and label that stands there while the program waits. It blocks the input of
-/// all other windows and takes none but a press of its Cancel button, once that is offered; only code closes
-/// it.
+/// The progress box: a small frameless dialog with an animation and a text. It is modal to all other windows
+/// and accepts no input except for its Cancel button, once offered. Only code can close it.
 class CConnectingDlg final : public GradientDialog {
   Q_OBJECT
 
@@ -21,21 +20,21 @@ class CConnectingDlg final : public GradientDialog {
   [[nodiscard]] static QString defaultText();
 
   [[nodiscard]] QString text() const;
-  /// An empty text puts the default one back. The box grows for a long text and never shrinks, so that it
-  /// stays quiet while numbers in the text count up.
+  /// An empty text restores the default. The box grows for a long text and never shrinks, so that it does not
+  /// flicker while numbers in the text change.
   void setText(const QString& text);
 
-  /// A second, quieter line below the text; not there while empty. Changes nothing about the text.
+  /// Sets a second line below the text; hidden while empty.
   void setDetail(const QString& detail);
 
-  /// Shows the Cancel button. A press, or Escape, emits cancelled() and makes the button dull.
+  /// Shows the Cancel button. Pressing it, or Escape, emits cancelled() and disables the button.
   void offerCancel();
 
-  /// Escape: like Cancel, as soon as that is offered.
+  /// Called for Escape: presses Cancel if it is offered.
   void reject() override;
 
  Q_SIGNALS:
-  /// At most once.
+  /// Emitted at most once.
   void cancelled();
 
  protected:

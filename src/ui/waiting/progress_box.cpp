@@ -8,24 +8,22 @@
 #include <QScreen>
 
 #include "base/data_size.h"
-#include "ui/front_window.h"
+#include "ui/gradient_page.h"
 
 namespace parlexo {
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
-constexpr qint64 repaintPause = 30;  // milliseconds
-constexpr std::chrono::milliseconds transferPause{100};
+constexpr qint64 repaintInterval = 30;  // milliseconds
+constexpr std::chrono::milliseconds transferInterval{100};
 
-// Window managers put a frameless box without an owner into a corner.
+// Window managers place a frameless window without a parent in a corner.
 void centreOnScreen(QWidget& box) {
   box.adjustSize();
   box.move(box.screen()->availableGeometry().center() - box.rect().center());
 }
 
-void handleWaitingEvents() {
+void processPendingEvents() {
   QCoreApplication::processEvents(QEventLoop::ExcludeSocketNotifiers);
 }
 
@@ -39,11 +37,11 @@ void ProgressBox::show(const QString& text) {
   if (!box_) {
     block_ = std::make_unique<InputBlock>();
     box_ = new CConnectingDlg(frontWindow());
-    // The box may go before hide() is called: with the window it stands over.
+    // The parent window may destroy the box before hide() is called.
     QObject::connect(box_, &QObject::destroyed, box_, [this] { block_.reset(); });
     if (!text.isEmpty()) box_->setText(text);
     if (!box_->parentWidget()) centreOnScreen(*box_);
-    exchanging_.invalidate();
+    sinceFirstTask_.invalidate();
     untilCancel_.reset();
     isOffered_ = false;
     isCancelled_ = false;
@@ -52,26 +50,26 @@ void ProgressBox::show(const QString& text) {
   box_->raise();
   box_->activateWindow();
   sinceRepaint_.start();
-  handleWaitingEvents();
+  processPendingEvents();
 }
 
 void ProgressBox::setText(const QString& text) {
   if (!box_) return;
   box_->setText(text);
-  if (sinceRepaint_.elapsed() < repaintPause) return;
+  if (sinceRepaint_.elapsed() < repaintInterval) return;
   sinceRepaint_.restart();
-  handleWaitingEvents();
+  processPendingEvents();
 }
 
-void ProgressBox::follow(const Transfer& transfer) {
+void ProgressBox::setTransfer(const Transfer& transfer) {
   if (!box_) return;
   transferTimer_.disconnect();
   QObject::connect(&transferTimer_, &QTimer::timeout, box_, [this, transfer] { showTransfer(transfer); });
-  transferTimer_.start(transferPause);
+  transferTimer_.start(transferInterval);
 }
 
 void ProgressBox::showTransfer(const Transfer& transfer) {
-  box_->setDetail(u"%1 of %2 sent"_s.arg(dataSizeText(transfer.done()), dataSizeText(transfer.total())));
+  box_->setDetail(tr("%1 of %2 sent").arg(dataSizeText(transfer.done()), dataSizeText(transfer.total())));
 }
 
 void ProgressBox::offerCancelAfter(std::chrono::milliseconds wait) {
@@ -80,8 +78,8 @@ void ProgressBox::offerCancelAfter(std::chrono::milliseconds wait) {
 
 void ProgressBox::hide() {
   if (!box_) return;
-  // What the user pressed during blocking work still waits in the queue; it has to meet the block.
-  handleWaitingEvents();
+  // Input during blocking work is still in the event queue and must be discarded.
+  processPendingEvents();
   remove();
 }
 
@@ -100,12 +98,12 @@ void ProgressBox::offerCancel(std::function<void()> cancel) {
 }
 
 std::chrono::milliseconds ProgressBox::sinceFirstTask() {
-  if (!exchanging_.isValid()) exchanging_.start();
-  return std::chrono::milliseconds(exchanging_.elapsed());
+  if (!sinceFirstTask_.isValid()) sinceFirstTask_.start();
+  return std::chrono::milliseconds(sinceFirstTask_.elapsed());
 }
 
-std::chrono::milliseconds ProgressBox::untilCancel(std::chrono::milliseconds standard) const {
-  return untilCancel_.value_or(standard);
+std::chrono::milliseconds ProgressBox::untilCancel(std::chrono::milliseconds defaultValue) const {
+  return untilCancel_.value_or(defaultValue);
 }
 
 void ProgressBox::remove() {

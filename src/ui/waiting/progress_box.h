@@ -6,6 +6,7 @@
 #include <memory>
 #include <optional>
 
+#include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QPointer>
 #include <QTimer>
@@ -16,32 +17,33 @@
 
 namespace parlexo {
 
-/// The progress box of the program as a window: at most one at a time, over the active window. While it
-/// stands, input meant for other windows is dropped. All its functions may run waiting timers and events.
+/// Shows the program's progress box over the active window, at most one at a time. While it is open, input
+/// for other windows is discarded. Every function may process pending timers and events.
 class ProgressBox final : public Progress {
+  Q_DECLARE_TR_FUNCTIONS(ProgressBox)
+
  public:
   ProgressBox() = default;
   ~ProgressBox() override;
 
   void show(const QString& text = {}) override;
   void setText(const QString& text) override;
-  void follow(const Transfer& transfer) override;
+  void setTransfer(const Transfer& transfer) override;
   void offerCancelAfter(std::chrono::milliseconds wait) override;
   void hide() override;
   [[nodiscard]] QString text() const override;
 
   [[nodiscard]] bool isShowing() const { return !box_.isNull(); }
 
-  /// Offers the user to end the wait; `cancel` is called once if he does. The offer goes with the box.
-  /// Nothing happens without a box or where the offer stands already.
+  /// Shows the Cancel button; `cancel` is called at most once, when the user presses it. No-op without a box
+  /// or if the button is already shown.
   void offerCancel(std::function<void()> cancel);
-  /// Whether the user has pressed the Cancel of the box that is showing.
+  /// Whether the user has pressed Cancel in the current box.
   [[nodiscard]] bool isCancelled() const { return box_ && isCancelled_; }
-  /// How long tasks have been under way under the box that is showing: zero at the first call for a box,
-  /// the time since then later.
+  /// Time since the first call for the current box; zero for that call.
   [[nodiscard]] std::chrono::milliseconds sinceFirstTask();
-  /// What offerCancelAfter() has set for the box that is showing, otherwise `standard`.
-  [[nodiscard]] std::chrono::milliseconds untilCancel(std::chrono::milliseconds standard) const;
+  /// The value set by offerCancelAfter() for the current box, otherwise `defaultValue`.
+  [[nodiscard]] std::chrono::milliseconds untilCancel(std::chrono::milliseconds defaultValue) const;
 
  private:
   void showTransfer(const Transfer& transfer);
@@ -50,7 +52,7 @@ class ProgressBox final : public Progress {
   std::unique_ptr<InputBlock> block_;
   QPointer<CConnectingDlg> box_;
   QElapsedTimer sinceRepaint_;
-  QElapsedTimer exchanging_;
+  QElapsedTimer sinceFirstTask_;
   std::optional<std::chrono::milliseconds> untilCancel_;
   QTimer transferTimer_;
   bool isOffered_ = false;

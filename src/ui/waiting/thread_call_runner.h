@@ -9,35 +9,36 @@
 
 namespace parlexo {
 
-class TaskWait;
 class ProgressBox;
 
-/// Runs a task on a worker thread while the interface thread keeps painting. Input that comes
-/// meanwhile is dropped; a progress box appears when the task lasts and none stands there yet. When it
-/// goes on lasting, the box offers Cancel; a press also holds for later tasks under the same box.
+/// Runs a task on a worker thread while the user interface keeps painting. User input is discarded during
+/// the task. If the task takes long, a progress box appears unless one is already showing; later the box
+/// offers Cancel, which also cancels further tasks under the same box.
 class ThreadCallRunner final : public CallRunner {
  public:
   struct Timing {
     std::chrono::milliseconds untilBox = timeouts::untilBox;
-    std::chrono::milliseconds untilCancel = timeouts::untilCancel;  ///< of tasks under one box
-    std::chrono::milliseconds afterCancel = timeouts::afterCancel;  ///< until a worker is left behind
+    std::chrono::milliseconds untilCancel = timeouts::untilCancel;  ///< summed over the tasks under one box
+    std::chrono::milliseconds afterCancel = timeouts::afterCancel;  ///< until the worker is abandoned
   };
 
   /// `progress` must outlive the runner.
   explicit ThreadCallRunner(ProgressBox& progress);
   ThreadCallRunner(ProgressBox& progress, Timing timing);
 
-  /// To be called on the interface thread, also by what runs during another task. Returns false also
-  /// when no thread could be started or the task threw.
+  /// Must be called on the user-interface thread; calls may nest. Also returns false if the thread could not
+  /// be started or the task threw an exception.
   [[nodiscard]] bool run(Task task) override;
 
-  /// Raises the cancel flag of every task under way; one that does not end in time is left behind.
+  /// Sets the cancel flag of every running task. Tasks that do not end in time are abandoned.
   void cancel();
 
  private:
+  class Wait;
+
   ProgressBox& progress_;
   Timing timing_;
-  std::vector<TaskWait*> waits_;
+  std::vector<Wait*> waits_;
 };
 
 }  // namespace parlexo

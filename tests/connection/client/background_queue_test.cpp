@@ -11,15 +11,12 @@
 
 #include "base/task_thread.h"
 #include "connection/client/background_gateway.h"
-#include "connection/client/foreground_runner.h"
 #include "tests/support/fake_gateway.h"
 #include "tests/support/stepping_worker.h"
 #include "tests/support/test.h"
 
 namespace parlexo::test {
 namespace {
-
-using namespace std::chrono_literals;
 
 void handleEvents(std::chrono::milliseconds time) {
   QEventLoop loop;

@@ -16,8 +16,6 @@
 namespace parlexo::test {
 namespace {
 
-using namespace std::chrono_literals;
-
 const std::string versionReply =
     httpReply(envelope("<m:getVersionResponse><nVersion>103</nVersion></m:getVersionResponse>"));
 

@@ -52,8 +52,9 @@ TEST(Request, hasItsFieldsInOrderWithTheirTypes) {
        text("sSession", "T") + text("sUser", "u") + text("sEventType", "e") + text("sPackageType", "p") +
            "<dAmount xsi:type=\"xsd:double\">-0.1</dAmount>" + text("sDescription", "d")},
       {"editEmailMessaging",
-       calling<protocol::editEmailMessagingResponse>(&GatewayClient::editEmailMessaging, "T", true, "c",
-                                                     false, "1", "2", "3", true, false, true),
+       calling<protocol::editEmailMessagingResponse>(
+           &GatewayClient::editEmailMessaging, "T", true, "c", false, "1", "2", "3", true,
+           protocol::StopsAtEndKeyword(false), protocol::StopsAtDoubleLine(true)),
        text("sSession", "T") + flag("bEmailEnable", true) + text("sEmailCode", "c") +
            flag("bEmailFilter", false) + text("sEmailFilter1", "1") + text("sEmailFilter2", "2") +
            text("sEmailFilter3", "3") + flag("bEmailSmsSplit", true) + flag("bEmailEndStop", false) +

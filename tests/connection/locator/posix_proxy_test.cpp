@@ -10,8 +10,6 @@
 namespace parlexo::test {
 namespace {
 
-using namespace std::chrono_literals;
-
 const QUrl somewhere(u"http://www.parlexo.invalid/WSDLServerLocator.xml"_s);
 
 /// The real proxy system, configured by the environment.

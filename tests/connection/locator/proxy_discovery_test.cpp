@@ -8,8 +8,6 @@
 namespace parlexo::test {
 namespace {
 
-using namespace std::chrono_literals;
-
 const QUrl wanted(u"http://www.parlexo.invalid/WSDLServerLocator.xml"_s);
 
 TEST(ProxyText, isSplitAtTheFirstEqualsSignAndColon) {

@@ -16,8 +16,6 @@
 namespace parlexo::test {
 namespace {
 
-using namespace std::chrono_literals;
-
 const std::string xmlHead = "<?xml version=\"1.0\"?>";
 const std::string serverLine =
     R"(<server ip="10.0.0.7" port="8080" maxfilesize="2097152" maxfilesizemobile="51200">)";

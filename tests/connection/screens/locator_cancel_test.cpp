@@ -13,8 +13,6 @@
 namespace parlexo::test {
 namespace {
 
-using namespace std::chrono_literals;
-
 struct NoLogin final : ProxyLogin {
   std::optional<ProxySettings> ask() override {
     ADD_FAILURE() << "nobody wanted a login";

@@ -3,7 +3,6 @@
 #include <random>
 
 #include "contacts/import/binary_records.h"
-#include "contacts/import/compound_file.h"
 #include "contacts/import/number_format.h"
 #include "contacts/import/spread_sheet.h"
 #include "contacts/import/workbook_builder.h"

@@ -75,11 +75,11 @@ TEST(ProgressBox, clicksDuringBlockingWorkAreDropped) {
 TEST(ProgressBox, transferIsShownUntilTheBoxCloses) {
   ProgressBox progress;
   const Transfer transfer(2 << 20);
-  progress.follow(transfer);
+  progress.setTransfer(transfer);
   progress.show();
   const auto detail = [] { return boxes().front()->findChild<QLabel*>(u"detail"_s); };
   EXPECT_TRUE(detail()->isHidden());
-  progress.follow(transfer);
+  progress.setTransfer(transfer);
   for (const auto& [done, shown] :
        {std::pair{0, "0 bytes of 2 MB sent"}, {1'300'000, "1.2 MB of 2 MB sent"}}) {
     transfer.setDone(done);

@@ -14,8 +14,6 @@
 namespace parlexo::test {
 namespace {
 
-using namespace std::chrono_literals;
-
 CallRunner::Task lasting(std::chrono::milliseconds time) {
   return [time](const CancelFlag&) { std::this_thread::sleep_for(time); };
 }
