@@ -60,7 +60,7 @@ struct OpenPage {
   }
 
   QTemporaryDir folder;
-  RecordingNotifier notifier;
+  test::RecordingNotifier notifier;
   NoProgress progress;
   Settings settings{folder.path()};
   DirectCallRunner runner;

@@ -67,7 +67,7 @@ void showAndPaint(QWidget& window) {
 /// initially.
 void openDialog(benchmark::State& state) {
   const ContactSelection initial = state.range(0) ? groupMembers() : ContactSelection();
-  RecordingNotifier notifier;
+  test::RecordingNotifier notifier;
   largeBook();
   for (auto step : state) {
     CSelectContactsDlg dialog(largeBook().book(), SelectionMode::Sms, initial, notifier);
@@ -78,7 +78,7 @@ BENCHMARK(openDialog)->Arg(0)->Arg(1)->Unit(benchmark::kMillisecond);
 
 /// From ticking the group until the list is repainted.
 void tickGroupOf50000(benchmark::State& state) {
-  RecordingNotifier notifier;
+  test::RecordingNotifier notifier;
   CSelectContactsDlg dialog(largeBook().book(), SelectionMode::Sms, {}, notifier);
   showAndPaint(dialog);
   QAbstractItemModel& groups = *dialog.findChild<CheckListView*>(u"groupList"_s)->model();
@@ -93,7 +93,7 @@ BENCHMARK(tickGroupOf50000)->Unit(benchmark::kMillisecond);
 
 /// From pressing the space bar with all rows selected until the list is repainted.
 void tickAllSelectedRows(benchmark::State& state) {
-  RecordingNotifier notifier;
+  test::RecordingNotifier notifier;
   CSelectContactsDlg dialog(largeBook().book(), SelectionMode::Sms, {}, notifier);
   showAndPaint(dialog);
   auto& view = *dialog.findChild<CheckListView*>(u"contactList"_s);
@@ -108,7 +108,7 @@ BENCHMARK(tickAllSelectedRows)->Unit(benchmark::kMillisecond);
 
 /// Keyboard search for a prefix without matches, which compares every name.
 void searchForMissingName(benchmark::State& state) {
-  RecordingNotifier notifier;
+  test::RecordingNotifier notifier;
   CSelectContactsDlg dialog(largeBook().book(), SelectionMode::Sms, {}, notifier);
   auto& view = *dialog.findChild<CheckListView*>(u"contactList"_s);
   for (auto step : state) view.keyboardSearch(u"z"_s);
@@ -120,7 +120,7 @@ const char* const typedTexts[] = {"ann 0123", "+614000", "eva city 7", "zq"};
 
 /// From a keystroke in the search field until the list is repainted. The argument selects the typed text.
 void searchByKeystrokes(benchmark::State& state) {
-  RecordingNotifier notifier;
+  test::RecordingNotifier notifier;
   CSelectContactsDlg dialog(largeBook().book(), SelectionMode::Sms, {}, notifier);
   showAndPaint(dialog);
   auto& view = *dialog.findChild<CheckListView*>(u"contactList"_s);
@@ -138,7 +138,7 @@ BENCHMARK(searchByKeystrokes)->DenseRange(0, 3)->Unit(benchmark::kMillisecond);
 
 /// From clearing a search without matches until the list of all contacts is repainted.
 void clearSearch(benchmark::State& state) {
-  RecordingNotifier notifier;
+  test::RecordingNotifier notifier;
   CSelectContactsDlg dialog(largeBook().book(), SelectionMode::Sms, groupMembers(), notifier);
   showAndPaint(dialog);
   auto& view = *dialog.findChild<CheckListView*>(u"contactList"_s);

@@ -62,9 +62,9 @@ class LoopWatch {
 };
 
 /// The services with the client's progress box and worker thread.
-class ClientServices : public GatewayRig {
+class ClientServices : public test::GatewayRig {
  public:
-  ClientServices() : GatewayRig(accountWithLargeBalance()) {
+  ClientServices() : test::GatewayRig(accountWithLargeBalance()) {
     // The simulator rejects numbers that end in 99.
     for (int number = 0; number < recipientTotal; ++number) {
       names << u"Name %1"_s.arg(number, 5, 10, QChar(u'0'));

@@ -60,7 +60,7 @@ QString CsvWriter::save(const QString& path) const {
   QSaveFile file(path);
   if (file.open(QIODevice::WriteOnly)) {
     file.write(bytes_);
-    if (file.commit()) return {};
+    if (file.flush() && file.commit()) return {};
   }
   return tr("The file %1 could not be written: %2").arg(QDir::toNativeSeparators(path), file.errorString());
 }

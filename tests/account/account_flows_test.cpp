@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include <gmock/gmock.h>
 
 #include "account/core/account_history.h"
 #include "account/core/email_preferences.h"
@@ -8,19 +7,13 @@
 #include "connection/client/background_gateway.h"
 #include "tests/account/account_rig.h"
 #include "tests/support/stepping_worker.h"
+#include "tests/support/test.h"
 
-namespace parlexo {
+namespace parlexo::test {
 namespace {
 
-using namespace Qt::StringLiterals;
-using simulator::FaultKind;
-using testing::ElementsAre;
-
-TEST(HistoryText, becomesARecordForEveryLineThatHasEnded) {
-  const struct {
-    const char* text;
-    std::vector<HistoryRecord> records;
-  } cases[] = {
+TEST(HistoryText, hasARecordForEveryTerminatedLine) {
+  const Cases<const char*, std::vector<HistoryRecord>> cases = {
       {"", {}},
       {"1\td\t5\tno end", {}},
       {"1\td\t5\tends\r\n2\td\t5\tdoes not", {{"1", "d", "5", "ends"}}},
@@ -33,7 +26,7 @@ TEST(HistoryText, becomesARecordForEveryLineThatHasEnded) {
   for (const auto& [text, records] : cases) EXPECT_EQ(parseHistory(text), records) << text;
 }
 
-TEST(HistoryDate, isOrderedByTimeWhereItHasTheUsualForm) {
+TEST(HistoryDate, isOrderedByTimeInTheUsualForm) {
   const QStringList inOrder = {u"31/12/2025 23:59:59"_s, u"01/01/2026 00:00:00"_s, u"01/01/2026 00:00:01"_s,
                                u"01/01/2026 00:01:00"_s, u"01/01/2026 01:00:00"_s, u"02/01/2026 00:00:00"_s,
                                u"01/02/2026 00:00:00"_s};
@@ -45,7 +38,7 @@ TEST(HistoryDate, isOrderedByTimeWhereItHasTheUsualForm) {
 
 class AccountHistory : public testing::Test, protected AccountRig {};
 
-TEST_F(AccountHistory, arrivesFieldByFieldOverTheWire) {
+TEST_F(AccountHistory, isReadFromTheGateway) {
   const QDateTime date({2026, 1, 2}, {3, 4, 5}, Qt::UTC);
   simulator.rememberTransaction("demo", -0.05, date, u"SMS <to> Zoë & 1 €"_s);
   simulator.rememberTransaction("demo", 100, date.addDays(1), QString());
@@ -57,26 +50,23 @@ TEST_F(AccountHistory, arrivesFieldByFieldOverTheWire) {
   EXPECT_THAT(journal, ElementsAre("(box)", "(no box)"));
 }
 
-TEST_F(AccountHistory, everyFailureIsToldByTheSameMessageAlone) {
-  const auto failsWith = [this](const char* text) {
+TEST_F(AccountHistory, everyFailureShowsTheSameMessage) {
+  const auto failsWith = [this](const char* line) {
     journal.clear();
     EXPECT_FALSE(fetchAccountHistory(services()));
-    EXPECT_THAT(journal, ElementsAre("(box)", "(no box)", text));
-    EXPECT_EQ(notifier.shown.back().style, message_style::stop);
+    EXPECT_THAT(journal, ElementsAre("(box)", "(no box)", line));
   };
-  misbehave(FaultKind::Code, "getAccountHistory", 12);
-  failsWith("Could not successfully obtain history details. Error: 12");
+  setFault(FaultKind::Code, "getAccountHistory", 12);
+  failsWith("16 Could not successfully obtain history details. Error: 12");
   simulator.clearFaults();
-  misbehave(FaultKind::Cut, "getAccountHistory");
-  failsWith("Could not successfully obtain history details. Error: 0");
+  setFault(FaultKind::Cut, "getAccountHistory");
+  failsWith("16 Could not successfully obtain history details. Error: 0");
 }
 
-class EmailPreferencesTest : public testing::Test, protected AccountRig {
- protected:
-};
+struct EmailPreferencesTest : testing::Test, AccountRig {};
 
-TEST_F(EmailPreferencesTest, everySettingArrivesInItsOwnPlaceAndComesBack) {
-  // Each flag alone: the two that change places between loading and saving would go unnoticed together.
+TEST_F(EmailPreferencesTest, everySettingRoundTrips) {
+  // One flag at a time: two swapped flags would otherwise go unnoticed.
   for (int flag = 0; flag < 4; ++flag) {
     EmailPreferences wanted{.isEnabled = true,
                             .identityCode = u"Zoë & <1>"_s,
@@ -94,21 +84,21 @@ TEST_F(EmailPreferencesTest, everySettingArrivesInItsOwnPlaceAndComesBack) {
     EXPECT_EQ(held.filter, flag == 3);
     EXPECT_EQ(held.address3, "d@e.example");
   }
-  EXPECT_THAT(notifier.takeTexts(), testing::Each("Saved email messaging preferences"));
+  EXPECT_THAT(notifier.popTexts(), Each("Saved email messaging preferences"));
 }
 
-TEST_F(EmailPreferencesTest, failedSaveIsToldByWhatFailed) {
-  const auto saveFails = [this](EmailSaveOutcome outcome, const char* text) {
+TEST_F(EmailPreferencesTest, failedSaveNamesItsCause) {
+  const auto saveFails = [this](EmailSaveOutcome outcome, const char* line) {
     journal.clear();
     EXPECT_EQ(saveEmailPreferences(services(), {.isEnabled = true}), outcome);
-    EXPECT_THAT(journal, ElementsAre("(box)", "(no box)", text));
-    EXPECT_EQ(notifier.shown.back().style, message_style::stop);
+    EXPECT_THAT(journal, ElementsAre("(box)", "(no box)", line));
   };
-  constexpr char other[] = "An error occured while trying to save your email messaging preferences";
-  saveFails(EmailSaveOutcome::Incomplete,
-            "Bad email messaging settings provided. You must provide an email code (and email addresses to "
-            "filter if email filtering is enabled)");
-  misbehave(FaultKind::Code, "editEmailMessaging", 12);
+  constexpr char other[] = "16 An error occured while trying to save your email messaging preferences";
+  saveFails(
+      EmailSaveOutcome::Incomplete,
+      "16 Bad email messaging settings provided. You must provide an email code (and email addresses to "
+      "filter if email filtering is enabled)");
+  setFault(FaultKind::Code, "editEmailMessaging", 12);
   saveFails(EmailSaveOutcome::Failed, other);
   simulator.stop();
   saveFails(EmailSaveOutcome::Failed, other);
@@ -116,7 +106,7 @@ TEST_F(EmailPreferencesTest, failedSaveIsToldByWhatFailed) {
 
 class News : public testing::Test, protected AccountRig {};
 
-TEST_F(News, needNoSessionAndAreUnchanged) {
+TEST_F(News, needsNoSessionAndIsUnchanged) {
   const QString odd = u"<b>50 % off</b> & more\r\n\r\n€ ]]> caf\u00e9 \u0100 \U0001F600 \"quoted\""_s;
   simulator.setNews(odd);
   state.session.clear();
@@ -131,15 +121,15 @@ TEST_F(News, needNoSessionAndAreUnchanged) {
   };
   fetch();
   EXPECT_EQ(shown, QStringList(odd));
-  misbehave(FaultKind::Code, "getNews", 1);
+  setFault(FaultKind::Code, "getNews", 1);
   fetch();
   simulator.stop();
   fetch();
   EXPECT_EQ(shown.size(), 1) << "failures are silent";
 }
 
-// "Words [address] words": what became a link stands in brackets.
-std::string marked(const char* news) {
+// The news with its links in brackets.
+std::string withMarkedLinks(const char* news) {
   QString text;
   for (const NewsPart& part : splitNews(QString::fromUtf8(news)))
     text += part.page.isEmpty() ? part.text : u"[%1]"_s.arg(part.text);
@@ -159,7 +149,7 @@ TEST(NewsParts, onlyPlainWebAddressesBecomeLinks) {
       {"xhttp://a.example http:// http://[ https://%zz", "xhttp://a.example http:// http://[ https://%zz"},
       {"one\r\ntwo\rthree\nfour\x01\x7f\tfive", "one\ntwo\nthree\nfour\tfive"},
   };
-  for (const auto& [news, expected] : cases) EXPECT_EQ(marked(news), expected);
+  for (const auto& [news, expected] : cases) EXPECT_EQ(withMarkedLinks(news), expected);
 }
 
 constexpr char oldLength[] = "No old password has been provided that is between 6 and 10 characters.";
@@ -170,19 +160,14 @@ constexpr char retypedLength[] =
 constexpr char mismatch[] =
     "The new password and retyped password does not match. Please enter the passwords match.";
 
-class PasswordChange : public testing::Test, protected AccountRig {
- protected:
+struct PasswordChange : testing::Test, AccountRig {
   std::optional<PasswordField> change(const PasswordDraft& draft) {
     return changePassword(services(), draft);
   }
 };
 
-TEST_F(PasswordChange, brokenRulesAreToldInTheirOrderBeforeAnyCall) {
-  const struct {
-    PasswordDraft draft;
-    const char* text;
-    PasswordField field;
-  } cases[] = {
+TEST_F(PasswordChange, invalidInputIsReportedInOrderBeforeAnyCall) {
+  const Cases<PasswordDraft, const char*, PasswordField> cases = {
       {{"abcd1", "short", "x"}, oldLength, PasswordField::Old},
       {{"abcdefghij1", "abc123", "abc123"}, oldLength, PasswordField::Old},
       {{"abcdef", "abcd1", "abcdef"}, newLength, PasswordField::New},
@@ -195,33 +180,30 @@ TEST_F(PasswordChange, brokenRulesAreToldInTheirOrderBeforeAnyCall) {
   };
   for (const auto& [draft, text, field] : cases) {
     EXPECT_EQ(change(draft), field);
-    EXPECT_EQ(notifier.shown.at(0).style, message_style::stop);
-    EXPECT_THAT(notifier.takeTexts(), ElementsAre(text)) << qPrintable(draft.retyped);
+    EXPECT_EQ(notifier.popLines(), QStringList(QString("16 ") + text)) << qPrintable(draft.retyped);
   }
   EXPECT_TRUE(operations().isEmpty());
   for (const char* good : {"abcde1", "abcdefghi1"})
     EXPECT_FALSE(validate({"abcdef", good, good}).has_value()) << good;
 }
 
-TEST_F(PasswordChange, goodOneReachesTheGateway) {
+TEST_F(PasswordChange, validPasswordReachesTheGateway) {
   EXPECT_EQ(change({"demo1234", "newer567", "newer567"}), std::nullopt);
   EXPECT_TRUE(simulator.hasPassword("demo", "newer567"));
-  EXPECT_THAT(journal, ElementsAre("(box)", "(no box)", "Your password has successfully been updated!"));
-  EXPECT_EQ(notifier.shown.at(0).style, message_style::information);
+  EXPECT_THAT(journal, ElementsAre("(box)", "(no box)", "64 Your password has successfully been updated!"));
 }
 
-TEST_F(PasswordChange, everyFailureNamesItsCodeAndKeepsTheOldOne) {
-  const auto failsWith = [this](const char* oldPassword, const char* text) {
+TEST_F(PasswordChange, everyFailureNamesItsCodeAndKeepsTheOldPassword) {
+  const auto failsWith = [this](const char* oldPassword, const char* line) {
     journal.clear();
     EXPECT_EQ(change({oldPassword, "newer567", "newer567"}), PasswordField::Old);
-    EXPECT_THAT(journal, ElementsAre("(box)", "(no box)", text));
-    EXPECT_EQ(notifier.shown.back().style, message_style::stop);
+    EXPECT_THAT(journal, ElementsAre("(box)", "(no box)", line));
     EXPECT_TRUE(simulator.hasPassword("demo", "demo1234"));
   };
-  failsWith("wrong123", "Could not successfully set the new password. Error: 4");
-  misbehave(FaultKind::HttpError, "setAccountPassword");
-  failsWith("demo1234", "Could not successfully set the new password. Error: 0");
+  failsWith("wrong123", "16 Could not successfully set the new password. Error: 4");
+  setFault(FaultKind::HttpError, "setAccountPassword");
+  failsWith("demo1234", "16 Could not successfully set the new password. Error: 0");
 }
 
 }  // namespace
-}  // namespace parlexo
+}  // namespace parlexo::test

@@ -1,27 +1,19 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <QHeaderView>
-#include <QTest>
 #include <QTextBrowser>
-#include <gmock/gmock.h>
 
 #include "account/screens/account_history_dlg.h"
 #include "account/screens/news_dlg.h"
 #include "account/screens/receive_messages_dlg.h"
 #include "base/run_state.h"
 #include "tests/account/account_rig.h"
-#include "tests/support/column_cells.h"
-#include "ui/picture_button.h"
+#include "tests/support/widgets.h"
 #include "ui/record_table.h"
 
-namespace parlexo {
+namespace parlexo::test {
 namespace {
 
-using namespace Qt::StringLiterals;
-using simulator::FaultKind;
-using testing::ElementsAre;
-
-class HistoryPage : public testing::Test, protected AccountRig {
- protected:
+struct HistoryPage : testing::Test, AccountRig {
   void remember(double amount, const QDate& day) {
     simulator.rememberTransaction("demo", amount, QDateTime(day, {12, 0}, Qt::UTC), u"note"_s);
   }
@@ -31,12 +23,12 @@ class HistoryPage : public testing::Test, protected AccountRig {
     page_->resize(700, 300);
     page_->show();
   }
-  [[nodiscard]] QStringList column(int which) const { return columnCells(*list_->model(), which); }
+  [[nodiscard]] QStringList column(int which) const { return columnCells(*list_, which); }
   std::unique_ptr<CAccountHistoryDlg> page_;
   RecordTable* list_ = nullptr;
 };
 
-TEST_F(HistoryPage, loadsAsItIsMadeAndShowsTheLastRowSelected) {
+TEST_F(HistoryPage, loadsOnCreationAndSelectsTheLastRow) {
   for (int i = 0; i < 500; ++i) remember(1, {2026, 1, 1});
   page_ = std::make_unique<CAccountHistoryDlg>(services());
   EXPECT_EQ(operations(), QStringList({"getAccountHistory"}));
@@ -46,27 +38,26 @@ TEST_F(HistoryPage, loadsAsItIsMadeAndShowsTheLastRowSelected) {
   EXPECT_TRUE(list_->viewport()->rect().contains(list_->visualRect(list_->currentIndex()).center()));
 }
 
-TEST_F(HistoryPage, refreshShowsWhatIsNewAndAFailureKeepsTheRows) {
+TEST_F(HistoryPage, refreshAddsNewRowsAndAFailureKeepsTheRows) {
   open();
   EXPECT_THAT(column(0), ElementsAre());
   remember(-5, {2026, 1, 1});
   page_->refresh();
   EXPECT_THAT(column(0), ElementsAre("1"));
   remember(1, {2026, 1, 2});
-  auto* button = page_->findChild<PictureButton*>(u"refreshButton"_s);
-  QTest::mouseClick(button, Qt::LeftButton);
+  click(*page_, "refreshButton");
   EXPECT_THAT(column(2), ElementsAre("-5.00", "1.00"));
-  misbehave(FaultKind::Code, "getAccountHistory", 3);
-  QTest::mouseClick(button, Qt::LeftButton);
+  setFault(FaultKind::Code, "getAccountHistory", 3);
+  click(*page_, "refreshButton");
   EXPECT_EQ(notifier.shown.size(), 1U);
   EXPECT_THAT(column(2), ElementsAre("-5.00", "1.00"));
 }
 
-TEST_F(HistoryPage, showsNothingOfTheUserWhoWasLoggedInBefore) {
+TEST_F(HistoryPage, showsNothingOfThePreviousUser) {
   remember(1, {2026, 1, 1});
   open();
   page_->hide();
-  misbehave(FaultKind::Code, "getAccountHistory", 3);
+  setFault(FaultKind::Code, "getAccountHistory", 3);
   state.userName = u"other"_s;
   page_->show();
   EXPECT_TRUE(QTest::qWaitFor([this] { return column(0).isEmpty(); }));
@@ -92,8 +83,7 @@ TEST(NewsDlg, showsMarkupAsTextAndOpensWebAddressesByKeyboard) {
     opened << page;
     return true;
   });
-  dialog.open();
-  ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
+  showActive(dialog);
   auto* text = dialog.findChild<QTextBrowser*>(u"news"_s);
   EXPECT_EQ(text->toPlainText(), news);
   text->setFocus();
@@ -104,20 +94,11 @@ TEST(NewsDlg, showsMarkupAsTextAndOpensWebAddressesByKeyboard) {
   EXPECT_EQ(text->toPlainText(), news) << "the page is not loaded into the dialog";
   Q_EMIT text->anchorClicked(QUrl(u"file:///etc/passwd"_s));
   EXPECT_EQ(opened.size(), 1);
-  QTest::keyClick(dialog.findChild<QWidget*>(u"ok"_s), Qt::Key_Return);
+  QTest::keyClick(&child(dialog, "ok"), Qt::Key_Return);
   EXPECT_FALSE(dialog.isVisible());
 }
 
-QStringList visibleTexts(const QWidget& page) {
-  QStringList texts;
-  for (const auto* child : page.findChildren<QWidget*>()) {
-    const QString text = child->property("text").toString();
-    if (child->isVisible() && !text.isEmpty()) texts << text;
-  }
-  return texts;
-}
-
-TEST(ReceiveMessagesPage, showsTheNumbersOfWhoeverIsLoggedIn) {
+TEST(ReceiveMessagesPage, showsTheNumbersOfTheCurrentUser) {
   RunState state;
   state.userName = u"demo"_s;
   CReceiveMessagesDlg page(state);
@@ -138,4 +119,4 @@ TEST(ReceiveMessagesPage, showsTheNumbersOfWhoeverIsLoggedIn) {
 }
 
 }  // namespace
-}  // namespace parlexo
+}  // namespace parlexo::test

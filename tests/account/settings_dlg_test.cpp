@@ -1,42 +1,28 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "account/screens/settings_dlg.h"
 
-#include <QCheckBox>
-#include <QLineEdit>
-#include <QTest>
-#include <gmock/gmock.h>
-
 #include "account/core/email_preferences.h"
 #include "tests/account/account_rig.h"
-#include "ui/picture_button.h"
+#include "tests/support/widgets.h"
 
-namespace parlexo {
+namespace parlexo::test {
 namespace {
 
-using namespace Qt::StringLiterals;
-using simulator::FaultKind;
-using testing::IsEmpty;
-
-class SettingsPage : public testing::Test, protected AccountRig {
- protected:
+struct SettingsPage : testing::Test, AccountRig {
   void open() {
     page_ = std::make_unique<CSettingsDlg>(services(),
                                            [this](QWidget*, const QString& prompt, const QString& start) {
                                              asked_ << prompt << start;
                                              return chosen_;
                                            });
-    page_->show();
-    page_->activateWindow();
-    (void)QTest::qWaitForWindowActive(page_.get());
+    showActive(*page_);
   }
-  QLineEdit& edit(const char* name) { return *page_->findChild<QLineEdit*>(QLatin1String(name)); }
-  QCheckBox& box(const char* name) { return *page_->findChild<QCheckBox*>(QLatin1String(name)); }
-  void press(const char* name) {
-    QTest::mouseClick(page_->findChild<PictureButton*>(QLatin1String(name)), Qt::LeftButton);
-  }
+  QLineEdit& edit(const char* name) { return child<QLineEdit>(*page_, name); }
+  QCheckBox& box(const char* name) { return child<QCheckBox>(*page_, name); }
+  void press(const char* name) { click(*page_, name); }
   [[nodiscard]] QStringList enabledControls() const {
     QStringList names;
-    for (const auto* control : page_->findChild<QWidget*>(u"emailPanel"_s)->findChildren<QWidget*>())
+    for (const auto* control : child(*page_, "emailPanel").findChildren<QWidget*>())
       if (control->isEnabled() && control->focusPolicy() != Qt::NoFocus) names << control->objectName();
     return names;
   }
@@ -46,7 +32,7 @@ class SettingsPage : public testing::Test, protected AccountRig {
   QString chosen_;
 };
 
-TEST_F(SettingsPage, onlyWhatHasAnEffectIsEnabled) {
+TEST_F(SettingsPage, onlyControlsWithAnEffectAreEnabled) {
   open();
   EXPECT_EQ(enabledControls(), QStringList({"emailEnabled", "saveChangesButton"}));
   box("emailEnabled").click();
@@ -59,7 +45,7 @@ TEST_F(SettingsPage, onlyWhatHasAnEffectIsEnabled) {
   EXPECT_EQ(enabledControls(), QStringList({"emailEnabled", "saveChangesButton"}));
 }
 
-TEST_F(SettingsPage, incompletePreferencesLeadToWhatMayMiss) {
+TEST_F(SettingsPage, incompletePreferencesFocusTheMissingField) {
   open();
   box("emailEnabled").click();
   press("saveChangesButton");
@@ -75,16 +61,16 @@ TEST_F(SettingsPage, incompletePreferencesLeadToWhatMayMiss) {
   EXPECT_EQ(simulator.emailPreferences("demo").address1, u"??@a.example"_s);
 }
 
-TEST_F(SettingsPage, refreshLoadsWhatStartUpMissedButKeepsWhatIsTyped) {
+TEST_F(SettingsPage, refreshLoadsMissingPreferencesButKeepsUserInput) {
   ASSERT_EQ(saveEmailPreferences(services(), {.identityCode = u"held"_s}), EmailSaveOutcome::Saved);
   notifier.shown.clear();
   for (const auto& [kind, code] : {std::pair(FaultKind::Code, 7), {FaultKind::HttpError, 0}}) {
     simulator.clearFaults();
-    misbehave(kind, "getEmailMessaging", code);
+    setFault(kind, "getEmailMessaging", code);
     open();
     EXPECT_EQ(edit("identityCode").text(), QString());
   }
-  EXPECT_THAT(notifier.takeTexts(), IsEmpty());
+  EXPECT_THAT(notifier.popTexts(), IsEmpty());
   simulator.clearFaults();
   page_->refresh();
   EXPECT_EQ(edit("identityCode").text(), u"held"_s);
@@ -98,7 +84,7 @@ TEST_F(SettingsPage, refreshLoadsWhatStartUpMissedButKeepsWhatIsTyped) {
       << "what another user has typed does not stay";
 }
 
-TEST_F(SettingsPage, passwordsStayAfterAFailureAndGoOnceTheyHaveServed) {
+TEST_F(SettingsPage, passwordsStayAfterAFailureAndAreWipedAfterSuccess) {
   open();
   QTest::keyClicks(&edit("oldPassword"), "wrong123");
   for (const char* field : {"newPassword", "retypedPassword"}) {
@@ -108,7 +94,7 @@ TEST_F(SettingsPage, passwordsStayAfterAFailureAndGoOnceTheyHaveServed) {
   QTest::keyClick(&edit("retypedPassword"), Qt::Key_Return);
   EXPECT_EQ(edit("newPassword").text(), u"newer567"_s);
   EXPECT_TRUE(edit("oldPassword").hasFocus());
-  QTest::keyClicks(&edit("oldPassword"), "demo1234");  // takes the place of the selected wrong one
+  QTest::keyClicks(&edit("oldPassword"), "demo1234");  // replaces the selected wrong one
   press("changePasswordButton");
   EXPECT_TRUE(simulator.hasPassword("demo", "newer567"));
   for (const char* field : {"oldPassword", "newPassword", "retypedPassword"}) {
@@ -117,12 +103,12 @@ TEST_F(SettingsPage, passwordsStayAfterAFailureAndGoOnceTheyHaveServed) {
   }
 }
 
-TEST_F(SettingsPage, chosenFolderIsKeptForTheNextStartAndWarnedOf) {
+TEST_F(SettingsPage, chosenFolderIsStoredWithAWarning) {
   open();
   const QString before = settings.templatesFolder();
   press("templatesBrowseButton");
   EXPECT_EQ(settings.templatesFolder(), before);
-  EXPECT_THAT(notifier.takeTexts(), IsEmpty()) << "cancelled";
+  EXPECT_THAT(notifier.popTexts(), IsEmpty()) << "cancelled";
   chosen_ = folder.filePath("shared");
   for (const char* button : {"templatesBrowseButton", "contactsBrowseButton"}) press(button);
   EXPECT_EQ(edit("contactsFolder").text(), chosen_);
@@ -134,4 +120,4 @@ TEST_F(SettingsPage, chosenFolderIsKeptForTheNextStartAndWarnedOf) {
 }
 
 }  // namespace
-}  // namespace parlexo
+}  // namespace parlexo::test

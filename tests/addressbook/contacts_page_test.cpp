@@ -1,21 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "addressbook/screens/contacts_page.h"
 
-#include <functional>
-#include <memory>
-#include <utility>
-
-#include <QAbstractButton>
-#include <QApplication>
-#include <QCheckBox>
-#include <QLabel>
-#include <QLineEdit>
 #include <QMenu>
 #include <QPlainTextEdit>
 #include <QScopeGuard>
-#include <QTest>
-#include <QTimer>
-#include <gmock/gmock.h>
 
 #include "addressbook/screens/add_contacts_menu.h"
 #include "addressbook/screens/check_list_model.h"
@@ -24,18 +12,17 @@
 #include "addressbook/screens/group_details_dlg.h"
 #include "addressbook/screens/select_contacts_dlg.h"
 #include "tests/addressbook/disk_book.h"
-#include "tests/support/column_cells.h"
 #include "tests/support/file_bytes.h"
+#include "tests/support/widgets.h"
 #include "ui/row_list_view.h"
 
-namespace parlexo {
+namespace parlexo::test {
 namespace {
 
 using Kind = ContactFolder::Kind;
 
-/// The page on the screen over an address book on disk, and a user's hands.
-class ContactsPage : public test::DiskBook {
- protected:
+/// The contacts page over an address book on disk.
+struct ContactsPage : DiskBook {
   ContactsPage() {
     for (const char* name : {"Ann", "anton", "Bob", "4 You"}) addContact(name);
     EXPECT_TRUE(book_.saveContact({"Cid", {}, "N", "y", "+61255501234", {}, {"Perth", {}, {}, {}, {}, {}}}));
@@ -43,27 +30,21 @@ class ContactsPage : public test::DiskBook {
     EXPECT_TRUE(book_.createGroup("Team", {"Ann", "Cid"}));
     page_ = std::make_unique<CContactsPage>(services());
     page_->resize(800, 400);
-    page_->show();
-    page_->activateWindow();
-    EXPECT_TRUE(QTest::qWaitForWindowActive(page_.get()));
+    showActive(*page_);
   }
 
   template <class Widget>
   [[nodiscard]] Widget& the(const char* name) const {
-    return *page_->findChild<Widget*>(QLatin1String(name));
+    return child<Widget>(*page_, name);
   }
   FolderTree& tree() { return the<FolderTree>("folderTree"); }
   RowListView& list() { return the<RowListView>("contactList"); }
 
   void choose(Kind kind, const QString& name = {}) { tree().select({kind, name}); }
-  void press(const char* button) { QTest::mouseClick(&the<QAbstractButton>(button), Qt::LeftButton); }
+  void press(const char* button) { click(*page_, button); }
+  QStringList shown() { return list().isVisible() ? columnCells(list(), 0) : QStringList("no list"); }
 
-  [[nodiscard]] static QStringList column(const QAbstractItemView& view, int number) {
-    return columnCells(*view.model(), number);
-  }
-  QStringList shown() { return list().isVisible() ? column(list(), 0) : QStringList("no list"); }
-
-  /// What the user does in the dialog that opens next.
+  /// Runs `act` on the dialog that opens next.
   template <class Dialog>
   void inDialog(std::function<void(Dialog&)> act) {
     ++planned_;
@@ -83,17 +64,10 @@ class ContactsPage : public test::DiskBook {
     });
     waiting->start(0);
   }
-  static void type(QWidget& dialog, const char* edit, const QString& text) {
-    dialog.findChild<QLineEdit*>(QLatin1String(edit))->setText(text);
-  }
-  static void click(QWidget& dialog, const char* button) {
-    QTest::mouseClick(dialog.findChild<QAbstractButton*>(QLatin1String(button)), Qt::LeftButton);
-  }
 
-  /// A key for a list that has the focus.
+  /// Presses a key in `widget`.
   void press(QWidget& widget, Qt::Key key) {
-    page_->activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(page_.get()));
+    showActive(*page_);
     widget.setFocus(Qt::MouseFocusReason);
     QTest::keyClick(&widget, key);
   }
@@ -107,7 +81,7 @@ class ContactsPage : public test::DiskBook {
   int met_ = 0;
 };
 
-TEST_F(ContactsPage, foldersShowTheirContactsOrTheirInformation) {
+TEST_F(ContactsPage, foldersShowContactsOrInformation) {
   EXPECT_EQ(shown(), QStringList({"Ann", "Bob"})) << "the personal contacts come first";
   const std::pair<ContactFolder, QStringList> cases[] = {
       {{Kind::Group, "Team"}, {"Ann", "Cid"}},
@@ -123,12 +97,12 @@ TEST_F(ContactsPage, foldersShowTheirContactsOrTheirInformation) {
   }
   EXPECT_TRUE(the<QPlainTextEdit>("informationPanel").toPlainText().contains("READONLY"));
   choose(Kind::Group, "Team");
-  EXPECT_EQ(column(list(), 2), QStringList({"yes", "no"}));
-  EXPECT_EQ(column(list(), 3), QStringList({"no", "yes"}));
-  EXPECT_EQ(column(list(), 4), QStringList({"", "+61255501234"}));
+  EXPECT_EQ(columnCells(list(), 2), QStringList({"yes", "no"}));
+  EXPECT_EQ(columnCells(list(), 3), QStringList({"no", "yes"}));
+  EXPECT_EQ(columnCells(list(), 4), QStringList({"", "+61255501234"}));
 }
 
-TEST_F(ContactsPage, searchFindsInAllContactsAndAFolderEndsIt) {
+TEST_F(ContactsPage, searchCoversAllContactsUntilAFolderIsSelected) {
   QTest::keyClick(page_.get(), Qt::Key_F, Qt::ControlModifier);
   auto& search = the<QLineEdit>("contactSearch");
   ASSERT_TRUE(search.hasFocus());
@@ -144,30 +118,30 @@ TEST_F(ContactsPage, searchFindsInAllContactsAndAFolderEndsIt) {
   EXPECT_FALSE(book_.findContact("Cid")) << "what is found belongs to no group";
   EXPECT_EQ(shown(), QStringList());
   press("editButton");
-  EXPECT_EQ(notifier_.takeLines().last(), "64 Can only get properties on \"Group\" folders.");
+  EXPECT_EQ(notifier_.popLines().last(), "64 Can only get properties on \"Group\" folders.");
   choose(Kind::Group, "Team");
   EXPECT_EQ(search.text(), "");
   EXPECT_EQ(shown(), QStringList("Ann"));
 }
 
-TEST_F(ContactsPage, newContactGoesIntoTheSelectedGroupOnly) {
+TEST_F(ContactsPage, newContactIsAddedToTheSelectedGroup) {
   choose(Kind::Letter, "B");
   press("newContactButton");
-  EXPECT_EQ(notifier_.takeLines().size(), 1);
+  EXPECT_EQ(notifier_.popLines().size(), 1);
   choose(Kind::Group, "Team");
   inDialog<CContactDetailsDlg>([&](CContactDetailsDlg& dialog) {
     type(dialog, "nameEdit", QString::fromUtf8("  Bernd \u674E "));
-    EXPECT_EQ(dialog.findChild<QLineEdit*>("nameEdit")->text(), "  Bernd ? ");
+    EXPECT_EQ(child<QLineEdit>(dialog, "nameEdit").text(), "  Bernd ? ");
     type(dialog, "phoneEdit", "0491");
     click(dialog, "okButton");
     EXPECT_TRUE(dialog.isVisible());
     EXPECT_EQ(dialog.focusWidget()->objectName(), "phoneEdit");
     type(dialog, "phoneEdit", "+61491570159");
-    dialog.findChild<QCheckBox*>("smsBox")->setChecked(true);
+    child<QCheckBox>(dialog, "smsBox").setChecked(true);
     click(dialog, "okButton");
   });
   press("newContactButton");
-  EXPECT_EQ(notifier_.takeLines().size(), 1);
+  EXPECT_EQ(notifier_.popLines().size(), 1);
   EXPECT_EQ(shown(), QStringList({"Ann", "Bernd ?", "Cid"}));
   EXPECT_EQ(list().selectedNames(), QStringList("Bernd ?"));
   reload();
@@ -175,10 +149,10 @@ TEST_F(ContactsPage, newContactGoesIntoTheSelectedGroupOnly) {
   EXPECT_EQ(book_.findContact("Bernd ?")->supportsSms + book_.findContact("Bernd ?")->supportsMedia, "YN");
 }
 
-TEST_F(ContactsPage, cancelledContactStaysAsItWasAfterAFailedOk) {
+TEST_F(ContactsPage, cancelAfterAFailedOkChangesNothing) {
   list().selectNames({"Bob"});
   inDialog<CContactDetailsDlg>([&](CContactDetailsDlg& dialog) {
-    EXPECT_TRUE(dialog.findChild<QLineEdit*>("nameEdit")->isReadOnly());
+    EXPECT_TRUE(child<QLineEdit>(dialog, "nameEdit").isReadOnly());
     type(dialog, "phoneEdit", "nonsense");
     click(dialog, "okButton");
     click(dialog, "cancelButton");
@@ -190,11 +164,11 @@ TEST_F(ContactsPage, cancelledContactStaysAsItWasAfterAFailedOk) {
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
   });
   press(list(), Qt::Key_Return);
-  EXPECT_EQ(column(list(), 1), QStringList({"+61491570156", "+61491570158"}));
+  EXPECT_EQ(columnCells(list(), 1), QStringList({"+61491570156", "+61491570158"}));
   EXPECT_EQ(list().selectedNames(), QStringList("Bob"));
 }
 
-TEST_F(ContactsPage, cancelledContactForAMessageIsNoEmptyAddition) {
+TEST_F(ContactsPage, cancelledContactAddsNothing) {
   QTimer::singleShot(0, page_.get(), [] { QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_N); });
   inDialog<CContactDetailsDlg>([](CContactDetailsDlg& dialog) { dialog.reject(); });
   EXPECT_EQ(addOrImportContacts(services(), the<QAbstractButton>("newContactButton")), std::nullopt);
@@ -206,14 +180,14 @@ TEST_F(ContactsPage, groupIsCreatedChangedAndDeleted) {
     type(dialog, "groupNameEdit", "Choir-1");
     click(dialog, "okButton");
     EXPECT_TRUE(dialog.isVisible()) << "the name would not stay";
-    EXPECT_EQ(dialog.findChild<QLabel*>("groupNameWarning")->text(),
+    EXPECT_EQ(child<QLabel>(dialog, "groupNameWarning").text(),
               "After a restart this name would read \"Choir%\".");
-    auto& suggested = *dialog.findChild<QAbstractButton*>("useSuggestedNameLink");
+    auto& suggested = child<QAbstractButton>(dialog, "useSuggestedNameLink");
     EXPECT_EQ(suggested.text(), "Use \"Choir 1\"");
     QTest::keyClick(&suggested, Qt::Key_Space);
-    EXPECT_EQ(dialog.findChild<QLineEdit*>("groupNameEdit")->text(), "Choir 1");
+    EXPECT_EQ(child<QLineEdit>(dialog, "groupNameEdit").text(), "Choir 1");
     inDialog<CSelectContactsDlg>([](CSelectContactsDlg& selection) {
-      auto& contacts = *selection.findChild<CheckListView*>("contactList");
+      auto& contacts = child<CheckListView>(selection, "contactList");
       contacts.model()->setData(contacts.model()->index(1, 0), Qt::Checked, Qt::CheckStateRole);
       click(selection, "selectButton");
     });
@@ -225,18 +199,18 @@ TEST_F(ContactsPage, groupIsCreatedChangedAndDeleted) {
     });
     click(dialog, "newContactButton");
     EXPECT_FALSE(book_.findContact("Dan")) << "nothing is written before OK";
-    EXPECT_EQ(column(*dialog.findChild<RowListView*>("memberList"), 0), QStringList({"Ann", "Dan"}));
+    EXPECT_EQ(columnCells(child<RowListView>(dialog, "memberList"), 0), QStringList({"Ann", "Dan"}));
     click(dialog, "okButton");
   });
   press("newGroupButton");
-  EXPECT_EQ(notifier_.takeLines(), QStringList("16 Group name cannot be blank"));
+  EXPECT_EQ(notifier_.popLines(), QStringList("16 Group name cannot be blank"));
   EXPECT_EQ(tree().selected(), (ContactFolder{Kind::Group, "Choir 1"}));
   EXPECT_EQ(shown(), QStringList({"Ann", "Dan"}));
 
   notifier_.answers = {MessageResult::Yes, MessageResult::Yes};
   inDialog<CGroupDetailsDlg>([&](CGroupDetailsDlg& dialog) {
-    EXPECT_TRUE(dialog.findChild<QLineEdit*>("groupNameEdit")->isReadOnly());
-    auto& members = *dialog.findChild<RowListView*>("memberList");
+    EXPECT_TRUE(child<QLineEdit>(dialog, "groupNameEdit").isReadOnly());
+    auto& members = child<RowListView>(dialog, "memberList");
     members.selectNames({"Ann"});
     click(dialog, "removeButton");
     members.selectNames({"Dan"});
@@ -249,10 +223,10 @@ TEST_F(ContactsPage, groupIsCreatedChangedAndDeleted) {
     click(dialog, "okButton");
   });
   press("detailsButton");
-  EXPECT_EQ(notifier_.takeLines(),
+  EXPECT_EQ(notifier_.popLines(),
             QStringList("36 Are you sure you want to remove this contact from the group?"));
   EXPECT_EQ(shown(), QStringList("Dan"));
-  EXPECT_EQ(column(list(), 4), QStringList("+2"));
+  EXPECT_EQ(columnCells(list(), 4), QStringList("+2"));
   list().selectNames({"Dan"});
   press(tree(), Qt::Key_Delete);
   EXPECT_FALSE(book_.findGroup("Choir 1")) << "in the tree the key means the folder";
@@ -260,7 +234,7 @@ TEST_F(ContactsPage, groupIsCreatedChangedAndDeleted) {
   EXPECT_EQ(tree().selected(), ContactFolder());
 }
 
-TEST_F(ContactsPage, contactsAndGroupsWithoutNameAreSeenRenamedAndDeleted) {
+TEST_F(ContactsPage, contactsAndGroupsWithoutNameCanBeEdited) {
   addContact({});
   EXPECT_TRUE(book_.createGroup({}, QStringList({QString(), "Ann"})));
   page_->refresh();
@@ -279,7 +253,7 @@ TEST_F(ContactsPage, contactsAndGroupsWithoutNameAreSeenRenamedAndDeleted) {
   page_->refresh();
   list().clearSelection();
   inDialog<CGroupDetailsDlg>([this](CGroupDetailsDlg& dialog) {
-    auto& members = *dialog.findChild<RowListView*>("memberList");
+    auto& members = child<RowListView>(dialog, "memberList");
     members.selectNames(QStringList(QString()));
     inDialog<CContactDetailsDlg>([](CContactDetailsDlg& contact) {
       type(contact, "nameEdit", "Abe");
@@ -307,7 +281,7 @@ TEST_F(ContactsPage, contactsAndGroupsWithoutNameAreSeenRenamedAndDeleted) {
   EXPECT_TRUE(book_.findContact("Abe") && book_.findContact("Zed"));
 }
 
-TEST_F(ContactsPage, deletionFollowsTheFolder) {
+TEST_F(ContactsPage, deletionDependsOnTheFolder) {
   notifier_.answers = {MessageResult::Yes, MessageResult::Yes};
   choose(Kind::Group, "Team");
   list().selectAll();
@@ -323,7 +297,7 @@ TEST_F(ContactsPage, deletionFollowsTheFolder) {
   EXPECT_EQ(memberNames("My Personal Contacts"), QStringList("Bob"));
 }
 
-TEST_F(ContactsPage, exportsWhatIsShownOrAllContacts) {
+TEST_F(ContactsPage, exportsTheShownOrAllContacts) {
   QString suggested;
   QString path = folder_.filePath("out.csv");
   page_->setPathAsker([&](QWidget*, const QString& name) {
@@ -344,10 +318,10 @@ TEST_F(ContactsPage, exportsWhatIsShownOrAllContacts) {
   EXPECT_EQ(exportedRows({Kind::Root, {}}, "an"), 2);
   path = folder_.filePath("none/out.csv");
   press("exportButton");
-  EXPECT_EQ(notifier_.takeLines().size(), 1);
+  EXPECT_EQ(notifier_.popLines().size(), 1);
 }
 
-TEST_F(ContactsPage, refreshAndReturningReadTheBookAnewAndKeepTheSelection) {
+TEST_F(ContactsPage, refreshAndShowReloadTheBookAndKeepTheSelection) {
   list().selectNames({"Bob"});
   addContact("Abe");
   EXPECT_TRUE(book_.addMember("My Personal Contacts", "Abe"));
@@ -366,4 +340,4 @@ TEST_F(ContactsPage, refreshAndReturningReadTheBookAnewAndKeepTheSelection) {
 }
 
 }  // namespace
-}  // namespace parlexo
+}  // namespace parlexo::test

@@ -8,22 +8,21 @@
 
 namespace parlexo::test {
 
-/// An address book in a folder of its own, with what the pages need besides.
-class DiskBook : public AddressBookFixture {
- protected:
+/// An address book on disk with the services of its pages.
+struct DiskBook : AddressBookFixture {
   [[nodiscard]] AddressBookServices services() { return {book_, notifier_, progress_, settings_, runner_}; }
 
   void addContact(const QString& name, const QString& phone = "+61491570156") {
     EXPECT_TRUE(book_.saveContact({name, phone, "Y", "N", {}, {}, {}}));
   }
 
-  /// Forgets everything and reads the files.
+  /// Clears the memory and reads the files.
   void reload() {
     book_.clear();
     ASSERT_TRUE(loadAll(book_));
   }
 
-  /// From now on nothing can be written.
+  /// Makes all further writes fail.
   void loseFolder() {
     cache_.dropAllItemIndexes();
     ASSERT_TRUE(folder_.remove());

@@ -1,12 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Entering contacts and groups, and what is written of them.
 
-#include <optional>
-
-#include <QDir>
 #include <QRegularExpression>
-#include <QTemporaryDir>
-#include <gmock/gmock.h>
 
 #include "addressbook/core/contact_export.h"
 #include "addressbook/core/contact_form.h"
@@ -18,12 +12,11 @@
 #include "contacts/import/delimited_file.h"
 #include "tests/addressbook/disk_book.h"
 #include "tests/addressbook/sample_book.h"
+#include "tests/support/test.h"
 
-namespace parlexo {
+namespace parlexo::test {
 namespace {
 
-using test::FivePeople;
-using test::SampleBook;
 using Kind = ContactFolder::Kind;
 
 ContactRecord typedContact(const QString& name, const QString& phone, const QString& fax = {},
@@ -35,14 +28,11 @@ ContactForm newContactForm() {
   return {{}, [](const QString& name) { return name == "Ann"; }};
 }
 
-TEST(ContactForm, namesTheFirstProblemInItsOrder) {
+TEST(ContactForm, reportsTheFirstProblem) {
   const QString badPhone =
       "Invalid Phone Number. Ensure that the phone number is in an International format.";
   const QString digits30(30, u'1');
-  const struct {
-    ContactRecord typed;
-    QString problem;
-  } cases[] = {
+  const Cases<ContactRecord, QString> cases = {
       {typedContact("  ", "x", "x", "x"), "No contact name was given."},
       {typedContact("Bob", "x", "x", "x"), "Invalid Email Address"},
       {typedContact("Bob", "x", "x"), badPhone},
@@ -69,7 +59,7 @@ TEST(ContactForm, namesTheFirstProblemInItsOrder) {
   }
 }
 
-TEST(ContactForm, keepsTrimmedTextsOfBadContactsAndFlagsOfGoodOnes) {
+TEST(ContactForm, trimsInputAndSetsTheFlagsOfValidContacts) {
   ContactForm form = newContactForm();
   ContactRecord typed{"  Bob ", " 12 ", "Y", "Y", " +3\t", " b@c.de ", {" x ", "", "", "", "", " y"}};
   EXPECT_EQ(form.apply(typed)->field, ContactProblem::Field::Phone);
@@ -85,7 +75,7 @@ TEST(ContactForm, keepsTrimmedTextsOfBadContactsAndFlagsOfGoodOnes) {
   EXPECT_EQ(form.contact().supportsSms + form.contact().supportsMedia, "YN");
 }
 
-TEST(ContactForm, nameOfAnExistingContactStaysAndIsNoDuplicate) {
+TEST(ContactForm, existingContactKeepsItsName) {
   ContactForm form({"Ann", "+1", "y", "no", {}, {}, {}}, [](const QString&) { return true; });
   EXPECT_FALSE(form.isNew());
   EXPECT_TRUE(form.supportsSms());
@@ -95,7 +85,7 @@ TEST(ContactForm, nameOfAnExistingContactStaysAndIsNoDuplicate) {
   EXPECT_EQ(form.contact().phone, "+2");
 }
 
-TEST(ContactText, holdsOnlyWhatTheCodePageHas) {
+TEST(ContactText, hasOnlyCharactersOfTheCodePage) {
   EXPECT_EQ(asContactText(QString::fromUtf8("Zoë € 李\t\U0001F600\n") + QChar(0) + "x"),
             QString::fromUtf8("Zoë € ??x"));
 }
@@ -107,22 +97,19 @@ TEST(ContactIndex, everyContactIsInOneReadOnlyFolder) {
   sample.addGroup("Few", {"Zed", "ann", "Bob"});
   ContactIndex index(sample.book());
   index.read();
-  EXPECT_EQ(test::namesOf(index.contactsIn({Kind::Letter, "A"})), QStringList("ann"));
-  EXPECT_EQ(test::namesOf(index.contactsIn({Kind::Letter, "B"})), QStringList({"bea", "Bob"}));
-  EXPECT_EQ(test::namesOf(index.contactsIn({Kind::Letter, "C"})), QStringList());
-  EXPECT_EQ(test::namesOf(index.contactsIn({Kind::Other, {}})),
+  EXPECT_EQ(contactNames(index.contactsIn({Kind::Letter, "A"})), QStringList("ann"));
+  EXPECT_EQ(contactNames(index.contactsIn({Kind::Letter, "B"})), QStringList({"bea", "Bob"}));
+  EXPECT_EQ(contactNames(index.contactsIn({Kind::Letter, "C"})), QStringList());
+  EXPECT_EQ(contactNames(index.contactsIn({Kind::Other, {}})),
             QStringList({" Ann", "+Plus", "4 You", QString::fromUtf8("Álva"), QString::fromUtf8("øre")}));
-  EXPECT_EQ(test::namesOf(index.contactsIn({Kind::Group, "Few"})), QStringList({"ann", "Bob", "Zed"}));
-  EXPECT_EQ(test::namesOf(index.contactsIn({Kind::Group, "None"})), QStringList());
+  EXPECT_EQ(contactNames(index.contactsIn({Kind::Group, "Few"})), QStringList({"ann", "Bob", "Zed"}));
+  EXPECT_EQ(contactNames(index.contactsIn({Kind::Group, "None"})), QStringList());
   EXPECT_EQ(index.contactsIn({Kind::AllContacts, {}}).size(), 9U);
 }
 
-TEST(GroupDraft, refusesNamesThatAreBlankOrTaken) {
+TEST(GroupDraft, rejectsBlankAndExistingNames) {
   FivePeople sample;
-  const struct {
-    const char* typed;
-    const char* problem;
-  } cases[] = {
+  const Cases<const char*, const char*> cases = {
       {"  ", "Group name cannot be blank"},
       {"Team", "A group with this name already exists."},
       {" tEAM ", "A group with this name already exists."},
@@ -138,13 +125,9 @@ TEST(GroupDraft, refusesNamesThatAreBlankOrTaken) {
   EXPECT_EQ(created.changes().group, "Teams");
 }
 
-TEST(GroupDraft, suggestsNamesThatReadBackAsTyped) {
+TEST(GroupDraft, suggestsNamesThatRoundTrip) {
   const SampleBook sample;
-  const struct {
-    const char* typed;
-    const char* afterRestart;
-    const char* suggestion;
-  } cases[] = {
+  const Cases<const char*, const char*, const char*> cases = {
       {" Under-12s ", "Under%2s", "Under 12s"},
       {"Team-A", "Team<", "Team A"},
       {"x--9-B", "x-.>", "x 9 B"},
@@ -164,11 +147,11 @@ TEST(GroupDraft, suggestsNamesThatReadBackAsTyped) {
   EXPECT_FALSE(GroupDraft(sample.book(), "Team-A").unstableName("Team-A")) << "an existing group";
 }
 
-TEST(GroupDraft, changesAreTheDifferenceAndTheBookStaysAsItIs) {
+TEST(GroupDraft, changesAreADifferenceAndDoNotModifyTheBook) {
   FivePeople sample;
   const quint64 revision = sample.book().revision();
   GroupDraft draft(sample.book(), "Team");
-  EXPECT_EQ(test::namesOf(draft.members()), QStringList({"Ann", "Cid", "eva"}));
+  EXPECT_EQ(contactNames(draft.members()), QStringList({"Ann", "Cid", "eva"}));
   draft.remove({"Cid"});
   draft.setSelection(ContactSelection({sample.book().findContact("eva"), sample.book().findContact("bob")}));
   draft.put(typedContact("New", "+1"));
@@ -177,7 +160,7 @@ TEST(GroupDraft, changesAreTheDifferenceAndTheBookStaysAsItIs) {
   EXPECT_TRUE(draft.isContactNameTaken("New"));
   draft.remove({"Passing"});
   draft.setSelection(draft.selection());
-  EXPECT_EQ(test::namesOf(draft.members()), QStringList({"bob", "eva", "New"}));
+  EXPECT_EQ(contactNames(draft.members()), QStringList({"bob", "eva", "New"}));
   EXPECT_EQ(draft.members()[1]->phone, "+3") << "the changed values are shown";
   const GroupChanges changes = draft.changes();
   EXPECT_FALSE(changes.isNew);
@@ -213,9 +196,7 @@ TEST(ContactExport, isReadBackByTheImportUnchanged) {
   EXPECT_EQ(exportName({Kind::Group, "Parents/Carers: A?"}), "Parents_Carers_ A_");
 }
 
-/// The flow over a contact store on disk.
-class ContactsFlowTest : public test::DiskBook {
- protected:
+struct ContactsFlowTest : DiskBook {
   ContactsFlowTest() {
     addContact("Ann");
     addContact("Bob");
@@ -228,7 +209,7 @@ class ContactsFlowTest : public test::DiskBook {
   const ContactFolder team_{Kind::Group, "Team"};
 };
 
-TEST_F(ContactsFlowTest, tellsWhichFoldersTakeWhat) {
+TEST_F(ContactsFlowTest, rejectsActionsThatAFolderDoesNotSupport) {
   const ContactFolder others[] = {
       {Kind::Root, {}}, {Kind::AllContacts, {}}, {Kind::Letter, "A"}, {Kind::Other, {}}};
   for (const ContactFolder& folder : others) {
@@ -237,7 +218,7 @@ TEST_F(ContactsFlowTest, tellsWhichFoldersTakeWhat) {
     EXPECT_FALSE(flow_.hasProperties(folder));
     EXPECT_FALSE(flow_.confirmGroupDeletion(folder));
     EXPECT_EQ(
-        notifier_.takeLines(),
+        notifier_.popLines(),
         QStringList({"16 You must select a \"Group\" or \"My Personal Contacts\" Folder. Contacts can only "
                      "be added into these Folders.",
                      "16 You must select a \"Group\" or \"My Personal Contacts\" Folder. Contacts can only "
@@ -249,19 +230,19 @@ TEST_F(ContactsFlowTest, tellsWhichFoldersTakeWhat) {
   const ContactFolder personal{Kind::Group, "My Personal Contacts"};
   EXPECT_TRUE(flow_.acceptsNewContact(personal) && flow_.acceptsImport(personal));
   EXPECT_TRUE(flow_.hasProperties(personal));
-  EXPECT_TRUE(notifier_.takeLines().isEmpty());
+  EXPECT_TRUE(notifier_.popLines().isEmpty());
   EXPECT_FALSE(flow_.confirmGroupDeletion(personal));
-  EXPECT_EQ(notifier_.takeLines().size(), 1);
+  EXPECT_EQ(notifier_.popLines().size(), 1);
   notifier_.answers = {MessageResult::Yes};
   EXPECT_TRUE(flow_.confirmGroupDeletion(team_));
-  EXPECT_EQ(notifier_.takeLines(),
+  EXPECT_EQ(notifier_.popLines(),
             QStringList("36 Are you sure you want to delete this group from your Address Book?"));
 }
 
-TEST_F(ContactsFlowTest, deletionAsksAndInAGroupLeavesTheContact) {
+TEST_F(ContactsFlowTest, deletionAsksAndKeepsTheContactInAGroup) {
   EXPECT_FALSE(flow_.confirmDeletion(team_, 1));
   EXPECT_FALSE(flow_.confirmDeletion({Kind::Letter, "A"}, 2));
-  EXPECT_EQ(notifier_.takeLines(),
+  EXPECT_EQ(notifier_.popLines(),
             QStringList({"36 Are you sure you want to remove this contact from the selected Group?",
                          "36 Are you sure you want to delete this contact completely from your Address Book "
                          "and all groups?\n\n(2 contacts are selected.)"}));
@@ -270,7 +251,7 @@ TEST_F(ContactsFlowTest, deletionAsksAndInAGroupLeavesTheContact) {
   EXPECT_EQ(progress_.opened, QStringList("Adding/removing contacts in Group..."));
 }
 
-TEST_F(ContactsFlowTest, writesNewContactsGroupsAndDifferences) {
+TEST_F(ContactsFlowTest, writesNewContactsAndGroupChanges) {
   flow_.addContact(typedContact("Cid", "+1"), "Team");
   flow_.saveGroup({"New", true, {typedContact("Dan", "+2")}, {"Ann", "Dan"}, {}});
   flow_.saveGroup({"Team", false, {typedContact("Ann", "+3")}, {"Dan"}, {"Bob"}});
@@ -283,13 +264,13 @@ TEST_F(ContactsFlowTest, writesNewContactsGroupsAndDifferences) {
     EXPECT_EQ(memberNames("New"), QStringList({"Ann", "Dan"}));
     EXPECT_EQ(book_.findContact("Ann")->phone, "+3");
   }
-  EXPECT_TRUE(notifier_.takeLines().isEmpty());
+  EXPECT_TRUE(notifier_.popLines().isEmpty());
 }
 
-TEST_F(ContactsFlowTest, memoryFollowsTheUserAndEachFailureIsToldOnceWhenNothingCanBeWritten) {
+TEST_F(ContactsFlowTest, failedWritesChangeMemoryAndAreReportedOnce) {
   loseFolder();
   const auto sentences = [this] {
-    QStringList lines = notifier_.takeLines();
+    QStringList lines = notifier_.popLines();
     for (QString& line : lines) line = line.section(u'[', 0, 0);
     return lines;
   };
@@ -307,4 +288,4 @@ TEST_F(ContactsFlowTest, memoryFollowsTheUserAndEachFailureIsToldOnceWhenNothing
 }
 
 }  // namespace
-}  // namespace parlexo
+}  // namespace parlexo::test

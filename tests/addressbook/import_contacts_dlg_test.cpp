@@ -1,29 +1,19 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "addressbook/screens/import_contacts_dlg.h"
 
-#include <functional>
-
-#include <QAbstractButton>
-#include <QCheckBox>
-#include <QComboBox>
-#include <QLabel>
-#include <QLineEdit>
 #include <QTableWidget>
-#include <QTest>
-#include <QTimer>
-#include <gmock/gmock.h>
 
 #include "addressbook/screens/import_question_dlg.h"
 #include "addressbook/screens/import_summary_dlg.h"
 #include "tests/addressbook/disk_book.h"
 #include "tests/support/file_bytes.h"
+#include "tests/support/widgets.h"
 
-namespace parlexo {
+namespace parlexo::test {
 namespace {
 
-/// The import dialog on the screen. Dialogs that it opens are answered by `onDialog` as they appear.
-class ImportContactsDlgTest : public test::DiskBook {
- protected:
+/// The import dialog. `onDialog` answers the dialogs that it opens.
+struct ImportContactsDlgTest : DiskBook {
   ImportContactsDlgTest() {
     EXPECT_TRUE(book_.createGroup("Team"));
     QObject::connect(&timer_, &QTimer::timeout, &timer_, [this] {
@@ -35,7 +25,7 @@ class ImportContactsDlgTest : public test::DiskBook {
   }
 
   QString write(const QByteArray& text) { return writeBytes(folder_.filePath("people.csv"), text); }
-  QTableWidget& preview() { return *dialog_.findChild<QTableWidget*>("preview"); }
+  QTableWidget& preview() { return child<QTableWidget>(dialog_, "preview"); }
   QString cell(int row, int column) {
     const auto* item = preview().item(row - 1, column);
     return item ? item->text() : QString();
@@ -43,20 +33,14 @@ class ImportContactsDlgTest : public test::DiskBook {
   QComboBox& choice(int column) {
     return *dialog_.findChild<QComboBox*>(QString("column%1Choice").arg(column));
   }
-  QString problem() { return dialog_.findChild<QLabel*>("problemLine")->text(); }
-  void press(const char* button) {
-    QTest::mouseClick(dialog_.findChild<QAbstractButton*>(button), Qt::LeftButton);
-  }
-  static void pressIn(QDialog& dialog, const char* button) {
-    dialog.findChild<QAbstractButton*>(button)->click();
-  }
+  QString problem() { return child<QLabel>(dialog_, "problemLine").text(); }
 
   CImportContactsDlg dialog_{services(), "Team"};
   std::function<void(QDialog&)> onDialog;
   QTimer timer_;
 };
 
-TEST_F(ImportContactsDlgTest, showsTheRowsAsTheyWillBeRead) {
+TEST_F(ImportContactsDlgTest, previewShowsTheRowsAsTheyAreImported) {
   dialog_.openFile(write("Name;Mobile;City\nAnn;0412 345 678;Z\xFCrich\nBob;+61491570157;\n"));
   EXPECT_EQ(choice(2).currentText(), "Phone Number");
   EXPECT_EQ(cell(1, 3), QString::fromUtf8("Zürich"));
@@ -72,28 +56,28 @@ TEST_F(ImportContactsDlgTest, showsTheRowsAsTheyWillBeRead) {
   EXPECT_EQ(delimiter->currentText(), "Semicolon");
   delimiter->setCurrentText("Comma");
   EXPECT_EQ(preview().columnCount(), 2);
-  EXPECT_THAT(problem().toStdString(), testing::HasSubstr("Choose the column"));
+  EXPECT_THAT(problem().toStdString(), HasSubstr("Choose the column"));
   dialog_.startImport();
-  EXPECT_EQ(notifier_.takeLines(), QStringList("16 " + problem()));
+  EXPECT_EQ(notifier_.popLines(), QStringList("16 " + problem()));
 }
 
-TEST_F(ImportContactsDlgTest, tellsWhatIsWrongWithAFileAndImportsNothing) {
+TEST_F(ImportContactsDlgTest, aBrokenFileIsReportedAndNotImported) {
   dialog_.openFile(write("Name,Phone\n\"Ann,+61491570156\n"));
-  EXPECT_THAT(problem().toStdString(), testing::HasSubstr("Line 2"));
+  EXPECT_THAT(problem().toStdString(), HasSubstr("Line 2"));
   EXPECT_EQ(preview().columnCount(), 0);
   EXPECT_FALSE(dialog_.findChild<QAbstractButton*>("importButton")->isEnabled());
 
-  // What is broken behind the preview stops the import before its first row.
+  // An error after the preview prevents the whole import.
   QByteArray late = "Name,Phone\n";
   for (int row = 0; row < 50; ++row) late += "A" + QByteArray::number(row) + ",+61491570156\n";
   dialog_.openFile(write(late + "\"never closed"));
   EXPECT_EQ(problem(), QString());
-  press("importButton");
-  EXPECT_THAT(notifier_.takeLines().join(u'/').toStdString(), testing::HasSubstr("Line 52"));
+  click(dialog_, "importButton");
+  EXPECT_THAT(notifier_.popLines().join(u'/').toStdString(), HasSubstr("Line 52"));
   EXPECT_TRUE(book_.contacts().empty());
 }
 
-TEST_F(ImportContactsDlgTest, importsAndTellsWhatBecameOfIt) {
+TEST_F(ImportContactsDlgTest, importsAndSumsUp) {
   EXPECT_TRUE(book_.saveContact({"Ann", "+61491570150", "Y", "N", {}, {}, {}}));
   QString question;
   QString summary;
@@ -102,17 +86,17 @@ TEST_F(ImportContactsDlgTest, importsAndTellsWhatBecameOfIt) {
     if (auto* asking = qobject_cast<CImportQuestionDlg*>(&top)) {
       question = asking->findChild<QLabel*>("question")->text();
       asking->findChild<QCheckBox*>("forAllBox")->setChecked(true);
-      pressIn(*asking, "yesButton");
+      click(*asking, "yesButton");
     } else if (auto* ended = qobject_cast<CImportSummaryDlg*>(&top)) {
       summary = ended->findChild<QLabel*>("summary")->text();
       EXPECT_TRUE(ended->saveRefusedTo(refusedFile));
-      pressIn(*ended, "okButton");
+      click(*ended, "okButton");
     }
   };
   dialog_.openFile(write("Name,Phone\nAnn,+61491570156\nBob,+61491570157\nAnn,+61491570158\nCid,\n"));
   dialog_.findChild<QCheckBox*>("supportsMediaBox")->setChecked(true);
-  press("importButton");
-  EXPECT_THAT(question.toStdString(), testing::StartsWith("A contact with the name \"Ann\" already exists."));
+  click(dialog_, "importButton");
+  EXPECT_THAT(question.toStdString(), StartsWith("A contact with the name \"Ann\" already exists."));
   EXPECT_EQ(summary, "The import is complete.\n\nImported: 1\nUpdated: 2\nSkipped: 0\nRefused: 1");
   EXPECT_EQ(book_.findContact("Bob")->supportsMedia, "Y");
   EXPECT_EQ(book_.findContact("Ann")->supportsMedia, "N");
@@ -133,15 +117,14 @@ TEST_F(ImportContactsDlgTest, cancelEndsTheImportAtItsNextRow) {
   };
   QTimer::singleShot(0, &dialog_, [&] {
     EXPECT_THAT(dialog_.findChild<QLabel*>("progressText")->text().toStdString(),
-                testing::AllOf(testing::StartsWith("Importing contacts ("),
-                               testing::EndsWith(" / 20000). Please wait...")));
-    press("cancelButton");
+                AllOf(StartsWith("Importing contacts ("), EndsWith(" / 20000). Please wait...")));
+    click(dialog_, "cancelButton");
   });
   dialog_.startImport();
-  EXPECT_THAT(summary.toStdString(), testing::StartsWith("The import was cancelled."));
+  EXPECT_THAT(summary.toStdString(), StartsWith("The import was cancelled."));
   EXPECT_LT(book_.contacts().size(), 20'000u);
   EXPECT_EQ(book_.contacts().size(), book_.findGroup("Team")->members().size());
 }
 
 }  // namespace
-}  // namespace parlexo
+}  // namespace parlexo::test

@@ -1,28 +1,17 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include <optional>
-
-#include <QDir>
-#include <QFile>
-#include <gmock/gmock.h>
 
 #include "addressbook/core/contact_import.h"
 #include "base/csv_writer.h"
 #include "contacts/import/delimited_file.h"
 #include "tests/addressbook/disk_book.h"
 #include "tests/support/file_bytes.h"
+#include "tests/support/test.h"
 
-namespace parlexo {
-
-using namespace Qt::StringLiterals;
-
+namespace parlexo::test {
 namespace {
 
-using testing::ElementsAre;
-using testing::HasSubstr;
-
-/// A user who answers as told and lets so many rows pass.
-class ScriptedUser final : public ImportUser {
- public:
+/// A user who always gives the same answer and cancels at row `cancelAt`.
+struct ScriptedUser final : ImportUser {
   [[nodiscard]] bool reportProgress(int done, int total) override {
     lastProgress = importProgressText(done, total);
     return done < cancelAt;
@@ -38,9 +27,7 @@ class ScriptedUser final : public ImportUser {
   QString lastProgress;
 };
 
-/// An address book on disk, and files to import into it.
-class ContactImportTest : public test::DiskBook {
- protected:
+struct ContactImportTest : DiskBook {
   ContactImportTest() {
     EXPECT_TRUE(book_.saveContact(
         {"Ann", "+61491570156", "N", "Y", "+61255501234", "ann@example.com", {"old", "kept"}}));
@@ -48,7 +35,7 @@ class ContactImportTest : public test::DiskBook {
     EXPECT_TRUE(book_.createGroup("Other", {"Ann"}));
   }
 
-  Sheet sheetOf(const QByteArray& text) {
+  Sheet parseSheet(const QByteArray& text) {
     const QString file = writeBytes(folder_.filePath("import.csv"), text);
     SheetReading reading = readDelimited(file, detectFormat(file, {}, {}), {}, {});
     EXPECT_TRUE(reading.problem.isEmpty());
@@ -56,7 +43,7 @@ class ContactImportTest : public test::DiskBook {
   }
 
   ImportOutcome import(const QByteArray& text, const QString& group = {}) {
-    sheet_ = sheetOf(text);
+    sheet_ = parseSheet(text);
     plan_.headingRow = findHeadingRow(sheet_);
     plan_.columns = suggestColumns(sheet_, plan_.headingRow);
     plan_.group = group;
@@ -78,7 +65,7 @@ class ContactImportTest : public test::DiskBook {
   ImportPlan plan_;
 };
 
-TEST_F(ContactImportTest, takesRowsIntoBookAndGroup) {
+TEST_F(ContactImportTest, addsRowsToBookAndGroup) {
   plan_.countryCode = "+61";
   const ImportOutcome outcome = import(
       "First name;Last Name;Client Id.;Mobile;Extra 1;sms;Media;E-mail\n"
@@ -91,13 +78,12 @@ TEST_F(ContactImportTest, takesRowsIntoBookAndGroup) {
   EXPECT_EQ(user_.lastProgress, "Importing contacts (1 / 2). Please wait...");
   EXPECT_EQ(describe("Bob Brown (A-7)"), "Bob Brown (A-7),+61412345678,Y,N,,bob@example.com,x,,,,,");
   EXPECT_EQ(describe("Cid"), "Cid,+61491570157,N,Y,,,y,,,,,");
-  // What is on the disk is what was imported.
   reload();
   EXPECT_EQ(book_.contacts().size(), 3u);
   EXPECT_EQ(memberNames("Team"), QStringList({"Bob Brown (A-7)", "Cid"}));
 }
 
-TEST_F(ContactImportTest, refusesRowsWithTheirReason) {
+TEST_F(ContactImportTest, rejectedRowsHaveAReason) {
   const ImportOutcome outcome = import(
       "Name,Phone,Fax,Email\n"
       ",+61491570156,,\n"
@@ -127,7 +113,7 @@ TEST_F(ContactImportTest, refusesRowsWithTheirReason) {
                               ",+61491570156,,,The row has no name.\r\n"));
 }
 
-TEST_F(ContactImportTest, aFullNameWinsOverItsParts) {
+TEST_F(ContactImportTest, fullNamePrecedesItsParts) {
   import(
       "Name,Given Name,Family Name,Phone\n"
       "Bob B. Brown,Bob,Brown,+61491570156\n"
@@ -135,7 +121,7 @@ TEST_F(ContactImportTest, aFullNameWinsOverItsParts) {
   EXPECT_TRUE(book_.findContact("Bob B. Brown") && book_.findContact("Cid Clay"));
 }
 
-TEST_F(ContactImportTest, reportsWhatARowLoses) {
+TEST_F(ContactImportTest, lostValuesAreReported) {
   user_.answer = {ImportUser::Choice::Overwrite, true};
   const ImportOutcome outcome = import(
       "Name,Phone,Fax,Email,Extra 2\n"
@@ -159,7 +145,7 @@ TEST_F(ContactImportTest, reportsWhatARowLoses) {
       QString::fromUtf8("Zo\u00eb Lee-May,+61491570156,Y,N,,zoe@example.org,,") + QString(40, u'x') + ",,,,");
 }
 
-TEST_F(ContactImportTest, asksAboutContactsThatExist) {
+TEST_F(ContactImportTest, existingContactsNeedAnAnswer) {
   const QByteArray rows =
       "Name,Phone,Extra 1\nAnn,+61491570999,new\nBob,+61491570157,\nAnn,+61491570888,newer\n";
   const QString before = describe("Ann");
@@ -186,7 +172,7 @@ TEST_F(ContactImportTest, asksAboutContactsThatExist) {
   EXPECT_TRUE(book_.findGroup("Team")->contains("Ann") && book_.findGroup("Other")->contains("Ann"));
 }
 
-TEST_F(ContactImportTest, stopsWhereTheUserOrTheDiskStopsIt) {
+TEST_F(ContactImportTest, cancelAndWriteErrorsEndTheImport) {
   const QByteArray rows = "Name,Phone\nB,+61491570156\nC,+61491570156\nD,+61491570156\n";
   user_.cancelAt = 2;
   ImportOutcome outcome = import(rows);
@@ -199,8 +185,8 @@ TEST_F(ContactImportTest, stopsWhereTheUserOrTheDiskStopsIt) {
                         "Not imported: 1"));
 
   user_.cancelAt = 1000;
-  const Sheet sheets[] = {sheetOf("Name,Phone\nB,+61491570157\nC,+61491570157\n"),
-                          sheetOf("Name,Phone\nD,+61491570157\n")};
+  const Sheet sheets[] = {parseSheet("Name,Phone\nB,+61491570157\nC,+61491570157\n"),
+                          parseSheet("Name,Phone\nD,+61491570157\n")};
   loseFolder();
   user_.answer = {ImportUser::Choice::Overwrite, true};
   for (const Sheet& failing : sheets) {
@@ -213,7 +199,7 @@ TEST_F(ContactImportTest, stopsWhereTheUserOrTheDiskStopsIt) {
   EXPECT_FALSE(book_.findContact("D"));
 }
 
-TEST_F(ContactImportTest, repeatsWhatAGroupsFileDidNotTake) {
+TEST_F(ContactImportTest, repeatedImportCompletesAGroup) {
   const QByteArray rows = "First Name,Phone\nB,+61491570156\nC,+61491570156\n";
   const QString file = folder_.filePath("Team.grp");
   ASSERT_TRUE(QFile::rename(file, file + ".away") && QDir().mkdir(file));
@@ -233,12 +219,7 @@ TEST_F(ContactImportTest, repeatsWhatAGroupsFileDidNotTake) {
 }
 
 TEST(ImportColumns, areFoundByHeadingsOrContent) {
-  struct Case {
-    std::vector<QStringList> rows;
-    std::optional<int> headingRow;
-    QStringList fields;
-  };
-  const std::vector<Case> cases = {
+  const Cases<std::vector<QStringList>, std::optional<int>, QStringList> cases = {
       {{{"Client Id", "E-MAIL", "mobile_number", "Phone", "x"}},
        0,
        {"Client Id.", "Email", "Phone Number", "(not imported)", "(not imported)"}},
@@ -253,21 +234,21 @@ TEST(ImportColumns, areFoundByHeadingsOrContent) {
        1,
        {"(not imported)", "(not imported)"}},
   };
-  for (const Case& each : cases) {
+  for (const auto& [rows, headingRow, expected] : cases) {
     Sheet sheet;
-    for (const QStringList& row : each.rows) {
+    for (const QStringList& row : rows) {
       for (const QString& cell : row) {
         sheet.append(QStringView(cell));
         sheet.endCell();
       }
       sheet.endRow();
     }
-    EXPECT_EQ(findHeadingRow(sheet), each.headingRow);
+    EXPECT_EQ(findHeadingRow(sheet), headingRow);
     QStringList fields;
-    for (const ImportField field : suggestColumns(sheet, each.headingRow)) fields << fieldLabel(field);
-    EXPECT_EQ(fields, each.fields);
+    for (const ImportField field : suggestColumns(sheet, headingRow)) fields << fieldLabel(field);
+    EXPECT_EQ(fields, expected);
   }
 }
 
 }  // namespace
-}  // namespace parlexo
+}  // namespace parlexo::test

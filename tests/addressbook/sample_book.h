@@ -40,7 +40,7 @@ class SampleBook {
 
 /// The names in a list or selection of contacts.
 template <class Contacts>
-QStringList namesOf(const Contacts& contacts) {
+QStringList contactNames(const Contacts& contacts) {
   QStringList names;
   for (const ContactRecord* contact : contacts) names << contact->name;
   return names;

@@ -1,57 +1,38 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "addressbook/screens/select_contacts_dlg.h"
 
-#include <memory>
-
-#include <QAbstractButton>
 #include <QHeaderView>
-#include <QLabel>
-#include <QLineEdit>
 #include <QListView>
-#include <QSignalSpy>
-#include <QStringList>
-#include <QTest>
-#include <QTimer>
-#include <gmock/gmock.h>
 
 #include "addressbook/screens/check_list_model.h"
 #include "addressbook/screens/select_by_extra_dlg.h"
 #include "tests/addressbook/sample_book.h"
-#include "tests/support/column_cells.h"
 #include "tests/support/recording_notifier.h"
+#include "tests/support/widgets.h"
 
-namespace parlexo {
+namespace parlexo::test {
 namespace {
 
-using test::FivePeople;
-using test::SampleBook;
-
-/// The contact selection dialog on the screen, and a user's hands.
-class SelectContactsDlg : public testing::Test {
- protected:
+/// The contact selection dialog.
+struct SelectContactsDlg : testing::Test {
   void open(const SampleBook& sample, SelectionMode mode, const QStringList& initial = {}) {
     ContactSelection::Contacts picked;
     for (const QString& name : initial) picked.push_back(sample.book().findContact(name));
     dialog_ = std::make_unique<CSelectContactsDlg>(sample.book(), mode, ContactSelection(picked), notifier_);
-    dialog_->show();
-    dialog_->activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(dialog_.get()));
+    showActive(*dialog_);
   }
 
-  CheckListView& list(const char* name) { return *dialog_->findChild<CheckListView*>(name); }
-  CheckListView& contacts() { return list("contactList"); }
-  CheckListView& groups() { return list("groupList"); }
+  CheckListView& contacts() { return child<CheckListView>(*dialog_, "contactList"); }
+  CheckListView& groups() { return child<CheckListView>(*dialog_, "groupList"); }
 
   static void clickCell(CheckListView& view, int row, int column, Qt::KeyboardModifiers keys = {}) {
     const QRect cell = view.visualRect(view.model()->index(row, column));
     QTest::mouseClick(view.viewport(), Qt::LeftButton, keys, {cell.left() + 10, cell.center().y()});
   }
 
-  void press(const char* buttonName) {
-    QTest::mouseClick(dialog_->findChild<QAbstractButton*>(buttonName), Qt::LeftButton);
-  }
+  void press(const char* button) { click(*dialog_, button); }
 
-  /// The names that are ticked on the screen.
+  /// The names with a tick.
   QStringList ticked() {
     QStringList names;
     const QAbstractItemModel& model = *contacts().model();
@@ -62,27 +43,23 @@ class SelectContactsDlg : public testing::Test {
     return names;
   }
 
-  static QStringList shown(const QAbstractItemView& view, int column) {
-    return columnCells(*view.model(), column);
-  }
-
-  /// Types into a search field that is empty.
+  /// Replaces the text of a search field by typing.
   QLineEdit& type(const char* fieldName, const QString& text) {
-    auto& field = *dialog_->findChild<QLineEdit*>(fieldName);
+    auto& field = child<QLineEdit>(*dialog_, fieldName);
     field.clear();
     QTest::keyClicks(&field, text);
     return field;
   }
 
-  QString countLine() { return dialog_->findChild<QLabel*>("countLine")->text(); }
+  QString countLine() { return child<QLabel>(*dialog_, "countLine").text(); }
 
-  QStringList selected() const { return test::namesOf(dialog_->selection()); }
+  QStringList selected() const { return contactNames(dialog_->selection()); }
   FivePeople people_;
   RecordingNotifier notifier_;
   std::unique_ptr<CSelectContactsDlg> dialog_;
 };
 
-TEST_F(SelectContactsDlg, checkBoxesTickAndSelectReturnsThemInTheListsOrder) {
+TEST_F(SelectContactsDlg, tickedContactsAreReturnedInTheOrderOfTheList) {
   open(people_, SelectionMode::All, {"Cid"});
   EXPECT_EQ(ticked(), QStringList("Cid"));
   clickCell(contacts(), 4, 0);
@@ -103,16 +80,8 @@ TEST_F(SelectContactsDlg, contactsAndGroupsWithoutNameAreShownAndFound) {
   people_.addGroup({});
   open(people_, SelectionMode::All, {});
   for (const char* search : {"contactSearch", "groupSearch"}) type(search, "no name");
-  EXPECT_EQ(shown(contacts(), 1), QStringList("(no name)"));
-  EXPECT_EQ(shown(groups(), 1), QStringList("(no name)"));
-}
-
-TEST_F(SelectContactsDlg, cancelLeavesTheSelectionAsItWas) {
-  open(people_, SelectionMode::Sms, {"eva", "Ann"});
-  clickCell(contacts(), 0, 0);
-  press("cancelButton");
-  EXPECT_EQ(dialog_->result(), QDialog::Rejected);
-  EXPECT_EQ(selected(), QStringList({"Ann", "eva"}));
+  EXPECT_EQ(columnCells(contacts(), 1), QStringList("(no name)"));
+  EXPECT_EQ(columnCells(groups(), 1), QStringList("(no name)"));
 }
 
 TEST_F(SelectContactsDlg, keyboardAloneTicksAndSelects) {
@@ -129,11 +98,11 @@ TEST_F(SelectContactsDlg, keyboardAloneTicksAndSelects) {
   EXPECT_EQ(selected(), QStringList());
 }
 
-TEST_F(SelectContactsDlg, columnsShowFaxNumbersInFaxModeAndPhoneNumbersElse) {
+TEST_F(SelectContactsDlg, columnsShowFaxNumbersInFaxMode) {
   open(people_, SelectionMode::Fax);
-  EXPECT_EQ(shown(contacts(), 2), QStringList("+61255501234"));
+  EXPECT_EQ(columnCells(contacts(), 2), QStringList("+61255501234"));
   open(people_, SelectionMode::Phone);
-  EXPECT_EQ(shown(contacts(), 2), QStringList({"+61491570156", "+61491570157"}));
+  EXPECT_EQ(columnCells(contacts(), 2), QStringList({"+61491570156", "+61491570157"}));
   const SampleBook empty;
   open(empty, SelectionMode::All);
   QTest::keyClick(&contacts(), Qt::Key_Space);
@@ -146,16 +115,16 @@ TEST_F(SelectContactsDlg, searchFiltersByNameShownNumberAndExtra) {
   people_.addContact("Fay", "+61491570158", "Y", "N", "+61255509999", {"Perth", "", "", "", "", "vip"});
   open(people_, SelectionMode::All);
   type("contactSearch", "5550");
-  EXPECT_EQ(shown(contacts(), 1), QStringList()) << "a fax number that is not shown";
+  EXPECT_EQ(columnCells(contacts(), 1), QStringList()) << "a fax number that is not shown";
   type("contactSearch", "57015 VIP fay perth");
-  EXPECT_EQ(shown(contacts(), 1), QStringList("Fay"));
-  EXPECT_EQ(shown(groups(), 1), QStringList({"all", "Team"})) << "each search has its own list";
+  EXPECT_EQ(columnCells(contacts(), 1), QStringList("Fay"));
+  EXPECT_EQ(columnCells(groups(), 1), QStringList({"all", "Team"})) << "each search has its own list";
   open(people_, SelectionMode::Fax);
   type("contactSearch", "5550");
-  EXPECT_EQ(shown(contacts(), 1), QStringList({"Cid", "Fay"}));
+  EXPECT_EQ(columnCells(contacts(), 1), QStringList({"Cid", "Fay"}));
 }
 
-TEST_F(SelectContactsDlg, searchKeepsTicksAndTicksWhatIsShown) {
+TEST_F(SelectContactsDlg, searchKeepsTicksAndLimitsNewOnes) {
   open(people_, SelectionMode::All, {"Cid"});
   EXPECT_EQ(countLine(), "1 of 5 contacts selected");
   QLineEdit& field = type("contactSearch", "an");
@@ -179,7 +148,7 @@ TEST_F(SelectContactsDlg, searchKeepsTicksAndTicksWhatIsShown) {
   EXPECT_TRUE(selected().isEmpty());
 }
 
-TEST_F(SelectContactsDlg, searchIsWorkedByKeyboard) {
+TEST_F(SelectContactsDlg, searchWorksByKeyboard) {
   open(people_, SelectionMode::All);
   QTest::keyClick(&contacts(), Qt::Key_O, Qt::AltModifier);
   auto* field = dialog_->findChild<QLineEdit*>("contactSearch");
@@ -204,16 +173,15 @@ TEST_F(SelectContactsDlg, searchIsWorkedByKeyboard) {
   EXPECT_TRUE(selected().isEmpty());
 }
 
-TEST_F(SelectContactsDlg, speaksItsNamesToAScreenReader) {
+TEST_F(SelectContactsDlg, hasNamesForScreenReaders) {
   open(people_, SelectionMode::All);
   EXPECT_EQ(groups().accessibleName(), "Groups:");
   EXPECT_EQ(contacts().accessibleName(), "Contacts:");
   EXPECT_EQ(contacts().model()->index(1, 0).data(Qt::AccessibleTextRole).toString(), "bob");
 }
 
-/// Attribute selection, alone and from the contact selection dialog.
-class SelectByExtraDlg : public SelectContactsDlg {
- protected:
+/// Selection by extra fields, alone and from the contact selection dialog.
+struct SelectByExtraDlg : SelectContactsDlg {
   SelectByExtraDlg() {
     people_.addContact("Fay", "+61491570158", "Y", "N", {}, {"Perth", "Sales", "", "", "", ""});
     people_.addContact("Gus", "", "N", "N", {}, {"Perth", "Sales", "", "", "", ""});
@@ -229,27 +197,25 @@ class SelectByExtraDlg : public SelectContactsDlg {
   }
 };
 
-TEST_F(SelectByExtraDlg, nothingChosenIsToldAndKeepsTheDialogOpen) {
+TEST_F(SelectByExtraDlg, anEmptyChoiceIsRefused) {
   CSelectByExtraDlg dialog(people_.book(), notifier_);
-  dialog.show();
-  ASSERT_TRUE(QTest::qWaitForWindowExposed(&dialog));
-  QTest::mouseClick(dialog.findChild<QAbstractButton*>("selectButton"), Qt::LeftButton);
+  showActive(dialog);
+  click(dialog, "selectButton");
   EXPECT_TRUE(dialog.isVisible());
-  EXPECT_EQ(notifier_.takeLines(),
+  EXPECT_EQ(notifier_.popLines(),
             QStringList("48 You have not selected one or more Extra properties you would like to "
                         "filter your Contacts on."));
-  // A value that was clicked twice is not chosen either.
+  // A second click removes a value from the choice.
   clickValue(dialog, "extra1List", "Perth");
   clickValue(dialog, "extra1List", "Perth");
-  QTest::mouseClick(dialog.findChild<QAbstractButton*>("selectButton"), Qt::LeftButton);
+  click(dialog, "selectButton");
   EXPECT_EQ(notifier_.shown.size(), 1);
   EXPECT_TRUE(dialog.contacts().empty());
 }
 
-TEST_F(SelectByExtraDlg, searchKeepsWhatWasChosen) {
+TEST_F(SelectByExtraDlg, searchKeepsTheChoice) {
   CSelectByExtraDlg dialog(people_.book(), notifier_);
-  dialog.show();
-  ASSERT_TRUE(QTest::qWaitForWindowExposed(&dialog));
+  showActive(dialog);
   auto& values = *dialog.findChild<QListView*>("extra1List");
   auto& field = *dialog.findChild<QLineEdit*>("extra1Search");
   auto& count = *dialog.findChild<QLabel*>("countLine");
@@ -257,7 +223,7 @@ TEST_F(SelectByExtraDlg, searchKeepsWhatWasChosen) {
   clickValue(dialog, "extra1List", "Perth");
   EXPECT_EQ(count.text(), "1 value selected, 2 contacts match");
   QTest::keyClicks(&field, "hob");
-  EXPECT_EQ(shown(values, 0), QStringList("Hobart"));
+  EXPECT_EQ(columnCells(values, 0), QStringList("Hobart"));
   clickValue(dialog, "extra1List", "Hobart");
   EXPECT_EQ(count.text(), "2 values selected, 3 contacts match");
   field.clear();
@@ -265,12 +231,12 @@ TEST_F(SelectByExtraDlg, searchKeepsWhatWasChosen) {
   clickValue(dialog, "extra1List", "Perth");
   EXPECT_EQ(count.text(), "1 value selected, 1 contact matches");
   QTest::keyClicks(&field, "perth");
-  QTest::mouseClick(dialog.findChild<QAbstractButton*>("selectButton"), Qt::LeftButton);
+  click(dialog, "selectButton");
   ASSERT_EQ(dialog.contacts().size(), 1U);
   EXPECT_EQ(dialog.contacts().front()->name, "Hal");
 }
 
-TEST_F(SelectByExtraDlg, itsContactsAreTickedAsFarAsTheyAreEligible) {
+TEST_F(SelectByExtraDlg, eligibleContactsAreTicked) {
   open(people_, SelectionMode::Sms, {"Ann"});
   bool wasOpen = false;
   QTimer::singleShot(0, dialog_.get(), [&] {
@@ -280,7 +246,7 @@ TEST_F(SelectByExtraDlg, itsContactsAreTickedAsFarAsTheyAreEligible) {
     clickValue(*extra, "extra1List", "Perth");
     clickValue(*extra, "extra1List", "Hobart");
     clickValue(*extra, "extra2List", "Sales");
-    QTest::mouseClick(extra->findChild<QAbstractButton*>("selectButton"), Qt::LeftButton);
+    click(*extra, "selectButton");
   });
   press("selectByExtraButton");
   EXPECT_TRUE(wasOpen);
@@ -288,4 +254,4 @@ TEST_F(SelectByExtraDlg, itsContactsAreTickedAsFarAsTheyAreEligible) {
 }
 
 }  // namespace
-}  // namespace parlexo
+}  // namespace parlexo::test

@@ -1,10 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <algorithm>
 #include <iterator>
-#include <vector>
-
-#include <QStringList>
-#include <gmock/gmock.h>
 
 #include "addressbook/core/contact_selection.h"
 #include "addressbook/core/extra_selection.h"
@@ -12,13 +8,10 @@
 #include "addressbook/core/text_search.h"
 #include "contacts/group_file.h"
 #include "tests/addressbook/sample_book.h"
+#include "tests/support/test.h"
 
-namespace parlexo {
+namespace parlexo::test {
 namespace {
-
-using test::FivePeople;
-using test::namesOf;
-using test::SampleBook;
 
 QStringList listedNames(const SelectionLists& lists) {
   QStringList names;
@@ -39,11 +32,8 @@ ContactSelection pick(const SampleBook& sample, const QStringList& names) {
   return ContactSelection(contacts);
 }
 
-TEST(SelectionLists, modeDecidesWhoIsListed) {
-  const struct {
-    SelectionMode mode;
-    QStringList listed;
-  } cases[] = {
+TEST(SelectionLists, modeLimitsTheContacts) {
+  const Cases<SelectionMode, QStringList> cases = {
       {SelectionMode::All, {"Ann", "bob", "Cid", "Dan", "eva"}},
       {SelectionMode::Sms, {"Ann", "bob"}},
       {SelectionMode::Media, {"Ann", "eva"}},
@@ -51,12 +41,11 @@ TEST(SelectionLists, modeDecidesWhoIsListed) {
       {SelectionMode::Phone, {"Ann", "eva"}},
   };
   const FivePeople sample;
-  for (const auto& [mode, listed] : cases) {
+  for (const auto& [mode, listed] : cases)
     EXPECT_EQ(listedNames(SelectionLists(sample.book(), mode, {})), listed) << static_cast<int>(mode);
-  }
 }
 
-TEST(SelectionLists, bothListsAreSortedWithoutRegardToCase) {
+TEST(SelectionLists, bothListsIgnoreCaseInTheirOrder) {
   SampleBook sample;
   for (const char* name :
        {"\u00e9mile", "ann", "Zoe", "Ann", "\u00c9va", "ANN", "bob", "a b", "Stra\u00dfe"}) {
@@ -78,22 +67,22 @@ TEST(SelectionLists, groupTicksAndUnticksItsEligibleMembersOnly) {
   const RowSpan changed = lists.setGroupTicked(team, true);
   EXPECT_TRUE(lists.isGroupTicked(team));
   EXPECT_FALSE(lists.isGroupTicked(rowOfGroup(lists, "all")));
-  EXPECT_EQ(namesOf(lists.tickedContacts()), QStringList({"Ann", "eva"}));
+  EXPECT_EQ(contactNames(lists.tickedContacts()), QStringList({"Ann", "eva"}));
   EXPECT_EQ(lists.tickedCount(), 2) << "contacts, not groups";
   EXPECT_EQ(changed.first, 0);
   EXPECT_EQ(changed.last, 1);
-  // The group's new state counts, also for members that were ticked by themselves or by another group.
+  // Unticking a group also unticks members that were ticked otherwise.
   lists.setGroupTicked(rowOfGroup(lists, "all"), true);
   lists.setGroupTicked(team, false);
   EXPECT_TRUE(lists.tickedContacts().isEmpty());
   EXPECT_EQ(lists.tickedCount(), 0);
 }
 
-TEST(ContactSelection, keepsTheListsOrderAndEachNameOnce) {
+TEST(ContactSelection, isOrderedAndHasEachNameOnce) {
   FivePeople sample;
   sample.addContact("BOB");
   const ContactSelection selection = pick(sample, {"eva", "bob", "Dan", "BOB", "Ann", "eva"});
-  EXPECT_EQ(namesOf(selection), QStringList({"Ann", "BOB", "bob", "Dan", "eva"}));
+  EXPECT_EQ(contactNames(selection), QStringList({"Ann", "BOB", "bob", "Dan", "eva"}));
   EXPECT_TRUE(selection.contains("bob"));
   EXPECT_FALSE(selection.contains("Bob"));
   EXPECT_FALSE(selection.contains("Zed"));
@@ -113,7 +102,7 @@ class Staff : public SampleBook {
 };
 
 QStringList matching(const SampleBook& sample, const ExtraChoice& choice) {
-  QStringList names = namesOf(contactsMatching(sample.book(), choice));
+  QStringList names = contactNames(contactsMatching(sample.book(), choice));
   names.sort();
   return names;
 }
@@ -127,12 +116,8 @@ TEST(ExtraSelection, listsEveryNonEmptyValueOnceAndSorted) {
   EXPECT_EQ(values[5], QStringList("x"));
 }
 
-TEST(ExtraSelection, fieldsMustAllMatchAndValuesOfAFieldAreAlternatives) {
-  const struct {
-    const char* what;
-    ExtraChoice choice;
-    QStringList names;
-  } cases[] = {
+TEST(ExtraSelection, combinesFieldsByAndAndValuesByOr) {
+  const Cases<const char*, ExtraChoice, QStringList> cases = {
       {"two values of a field", {{{"Sydney", "Perth"}, {}, {}, {}, {}, {}}}, {"Ann", "Bob", "Cid"}},
       {"two fields", {{{"Sydney"}, {"Sales"}, {}, {}, {}, {}}}, {"Ann"}},
       {"one late field alone", {{{}, {}, {}, {"VIP"}, {}, {}}}, {"Ann", "Bob"}},
@@ -145,7 +130,7 @@ TEST(ExtraSelection, fieldsMustAllMatchAndValuesOfAFieldAreAlternatives) {
 
 using Found = std::vector<int>;
 
-/// Texts of several fields each; the second is empty.
+/// Four texts of several fields; the second is empty.
 TextSearch sampleSearch() {
   TextSearch search;
   search.reserve(4);
@@ -158,11 +143,8 @@ TextSearch sampleSearch() {
   return search;
 }
 
-TEST(TextSearch, findsTextsThatHoldEveryWord) {
-  const struct {
-    QString typed;
-    Found found;
-  } cases[] = {
+TEST(TextSearch, findsTextsWithAllWords) {
+  const Cases<QString, Found> cases = {
       {"", {0, 1, 2, 3}},
       {"ANN", {0, 2}},
       {"lee ann", {0, 2}},
@@ -183,4 +165,4 @@ TEST(TextSearch, findsTextsThatHoldEveryWord) {
 }
 
 }  // namespace
-}  // namespace parlexo
+}  // namespace parlexo::test

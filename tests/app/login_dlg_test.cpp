@@ -1,38 +1,21 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/login_dlg.h"
 
-#include <QAbstractButton>
-#include <QLineEdit>
-#include <QTest>
-#include <gmock/gmock.h>
-
 #include "tests/app/run_fakes.h"
+#include "tests/support/widgets.h"
 
-namespace parlexo {
+namespace parlexo::test {
 namespace {
 
-using namespace Qt::StringLiterals;
-
-class LoginDlgTest : public RunTest {
- protected:
-  void SetUp() override {
-    RunTest::SetUp();
-    ASSERT_TRUE(locate());
-  }
-
-  static void type(QDialog& dialog, const QString& field, const QString& text) {
-    auto* edit = dialog.findChild<QLineEdit*>(field);
-    edit->selectAll();
-    QTest::keyClicks(edit, text);
-  }
+struct LoginDlgTest : RunTest {
+  void SetUp() override { ASSERT_TRUE(locate()); }
 
   LoginFlow flow{state, settings, gateway, notifier};
 };
 
-TEST_F(LoginDlgTest, refusedPasswordKeepsItOpenForAnotherTryByEnter) {
+TEST_F(LoginDlgTest, refusedPasswordLeavesItOpenForAnotherAttempt) {
   CLoginDlg dialog(flow, u"demo"_s);
-  dialog.open();
-  ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
+  showActive(dialog);
   auto* password = dialog.findChild<QLineEdit*>(u"password"_s);
   EXPECT_TRUE(password->hasFocus());
   EXPECT_EQ(password->echoMode(), QLineEdit::Password);
@@ -52,17 +35,16 @@ TEST_F(LoginDlgTest, refusedPasswordKeepsItOpenForAnotherTryByEnter) {
   EXPECT_EQ(password->text(), QString()) << "wiped, and not to be had back";
 }
 
-TEST_F(LoginDlgTest, firstStartBeginsWithTheUserNameAndCanBeCancelled) {
+TEST_F(LoginDlgTest, firstStartFocusesTheUserNameAndCanBeCancelled) {
   CLoginDlg dialog(flow, {});
-  dialog.open();
-  ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
+  showActive(dialog);
   EXPECT_TRUE(dialog.findChild<QLineEdit*>(u"userName"_s)->hasFocus());
   EXPECT_EQ(dialog.windowTitle(), u"Parlexo(TM) : Login v2.24"_s);
   QTest::mouseClick(dialog.findChild<QAbstractButton*>(u"cancel"_s), Qt::LeftButton);
   EXPECT_FALSE(dialog.isVisible());
   EXPECT_EQ(dialog.result(), QDialog::Rejected);
-  EXPECT_THAT(simulator.calledOperations(), testing::ElementsAre(u"locator"_s));
+  EXPECT_THAT(simulator.calledOperations(), ElementsAre(u"locator"_s));
 }
 
 }  // namespace
-}  // namespace parlexo
+}  // namespace parlexo::test

@@ -1,21 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/main_dlg.h"
 
-#include <functional>
-#include <utility>
-
-#include <QComboBox>
-#include <QLabel>
-#include <QLineEdit>
-#include <QListView>
 #include <QScreen>
-#include <QSignalSpy>
 #include <QTabWidget>
-#include <QTemporaryDir>
-#include <QTest>
-#include <QTimer>
-#include <QVBoxLayout>
-#include <gtest/gtest.h>
 
 #include "account/screens/news_dlg.h"
 #include "app/about_dlg.h"
@@ -27,15 +14,14 @@
 #include "connection/client/background_queue.h"
 #include "messaging/screens/sms_dlg.h"
 #include "simulator/simulator.h"
+#include "tests/support/widgets.h"
 #include "ui/gradient_page.h"
 #include "ui/hyperlink_label.h"
 #include "ui/picture_button.h"
 #include "ui/waiting/progress_box.h"
 
-namespace parlexo {
+namespace parlexo::test {
 namespace {
-
-using namespace Qt::StringLiterals;
 
 QWidget* pageWithButton(const QString& text) {
   auto* page = new QWidget;
@@ -43,12 +29,8 @@ QWidget* pageWithButton(const QString& text) {
   return page;
 }
 
-class MainDlgTest : public testing::Test {
- protected:
-  void SetUp() override {
-    window_.show();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&window_));
-  }
+struct MainDlgTest : testing::Test {
+  void SetUp() override { showActive(window_); }
 
   void altE() {
     QTest::keyClick(window_.focusWidget() ? window_.focusWidget() : &window_, Qt::Key_E, Qt::AltModifier);
@@ -58,7 +40,7 @@ class MainDlgTest : public testing::Test {
                     {u"Status"_s, [] { return pageWithButton(u"Get &Status"_s); }}}};
 };
 
-TEST_F(MainDlgTest, ctrlTabAndCtrlDigitsTurnTheTabsFromAnywhere) {
+TEST_F(MainDlgTest, ctrlTabAndCtrlDigitsSwitchTabs) {
   const auto* tabs = window_.findChild<QTabWidget*>();
   auto* exit = window_.findChild<QWidget*>(u"exit"_s);
   exit->setFocus();
@@ -83,15 +65,14 @@ TEST_F(MainDlgTest, f5RefreshesTheBalanceAndThePageInFront) {
   auto* behind = new Page;
   CMainDlg window({{u"A"_s, [front] { return front; }}, {u"B"_s, [behind] { return behind; }}});
   QSignalSpy requests(&window, &CMainDlg::refreshRequested);
-  window.show();
-  ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+  showActive(window);
   QTest::keyClick(&window, Qt::Key_F5);
   EXPECT_EQ(requests.count(), 1);
   EXPECT_EQ(front->refreshes, 1);
   EXPECT_EQ(behind->refreshes, 0);
 }
 
-TEST_F(MainDlgTest, balanceIsGreyUntilTheNextAnswer) {
+TEST_F(MainDlgTest, outdatedBalanceIsGrey) {
   const auto* balance = window_.findChild<QLineEdit*>(u"balance"_s);
   const QColor current = balance->palette().color(QPalette::Text);
   window_.setBalance(u"7.50"_s);
@@ -104,7 +85,7 @@ TEST_F(MainDlgTest, balanceIsGreyUntilTheNextAnswer) {
   EXPECT_TRUE(balance->accessibleDescription().isEmpty());
 }
 
-TEST_F(MainDlgTest, aPageLargerThanTheWindowCanStillBeReached) {
+TEST_F(MainDlgTest, largePageScrollsToTheFocus) {
   const auto makePage = [] {
     auto* page = pageWithButton(u"Near"_s);
     page->setMinimumSize(3000, 3000);
@@ -125,28 +106,7 @@ TEST_F(MainDlgTest, aPageLargerThanTheWindowCanStillBeReached) {
   EXPECT_FALSE(far->visibleRegion().isEmpty());
 }
 
-TEST_F(MainDlgTest, aPageThatCanShrinkDoesNotScroll) {
-  auto* page = new QWidget;
-  auto* column = new QVBoxLayout(page);
-  auto* words = new QLabel(QString(u"words "_s).repeated(20), page);
-  words->setWordWrap(true);
-  auto* list = new QListView(page);
-  column->addWidget(words);
-  column->addWidget(list);
-  CMainDlg window({{u"A"_s, [page] { return page; }}});
-  window.show();
-  ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
-  window.resize(600, window.height() - page->height() + page->minimumSizeHint().height() + 30);
-  QCoreApplication::processEvents();
-  EXPECT_LT(list->height(), list->sizeHint().height());
-  EXPECT_EQ(page->visibleRegion().boundingRect(), page->rect());
-  window.resize(300, 200);
-  QCoreApplication::processEvents();
-  EXPECT_LT(page->visibleRegion().boundingRect().height(), page->height());
-  EXPECT_GE(words->height(), words->heightForWidth(words->width())) << "nothing is cut off";
-}
-
-TEST_F(MainDlgTest, onlyExitCtrlQAndTheCloseBoxEndIt) {
+TEST_F(MainDlgTest, onlyExitCtrlQAndTheCloseButtonCloseIt) {
   QTest::keyClick(&window_, Qt::Key_Escape);
   QTest::keyClick(&window_, Qt::Key_Return);
   EXPECT_TRUE(window_.isVisible());
@@ -172,11 +132,11 @@ TEST_F(MainDlgTest, altESendsOnSendPagesAndExitsElsewhere) {
   EXPECT_EQ(sent.count(), 1);
 }
 
-TEST_F(MainDlgTest, aboutOpensOverTheMainWindowWhichIsNoModalDialog) {
+TEST_F(MainDlgTest, aboutOpensOverTheModelessMainWindow) {
   EXPECT_EQ(window_.windowType(), Qt::Window);
   EXPECT_FALSE(window_.isModal());
   QStringList versions;
-  const auto lookAtAbout = [&versions, this] {
+  const auto checkAbout = [&versions, this] {
     auto* about = qobject_cast<CAboutDlg*>(QApplication::activeModalWidget());
     if (!about) return;
     EXPECT_EQ(about->parentWidget(), &window_);
@@ -184,21 +144,19 @@ TEST_F(MainDlgTest, aboutOpensOverTheMainWindowWhichIsNoModalDialog) {
     versions << about->findChild<QLabel*>(u"version"_s)->text().section(u'\n', 0, 0);
     about->close();
   };
-  QTimer::singleShot(0, &window_, lookAtAbout);
+  QTimer::singleShot(0, &window_, checkAbout);
   QTest::keyClick(&window_, Qt::Key_F1);
-  QTimer::singleShot(0, &window_, lookAtAbout);
+  QTimer::singleShot(0, &window_, checkAbout);
   QTest::mouseClick(window_.findChild<HyperlinkLabel*>(u"about"_s), Qt::LeftButton);
   EXPECT_EQ(versions, QStringList({u"Parlexo Client v2.24"_s, u"Parlexo Client v2.24"_s}));
 }
 
-/// Closes the messages about a gateway that is not there: pages ask it as they are made, and before the
-/// window opens the balance is.
-class ImpatientReader {
+/// Calls `act` every 10 ms with the window in front.
+class ScreenWatch {
  public:
-  ImpatientReader() {
-    QObject::connect(&timer_, &QTimer::timeout, [] {
-      if (auto* message = qobject_cast<CNotificationDlg*>(QApplication::activeModalWidget()))
-        message->close();
+  explicit ScreenWatch(const std::function<void(QWidget&)>& act) {
+    QObject::connect(&timer_, &QTimer::timeout, &timer_, [act] {
+      if (QWidget* front = frontWindow()) act(*front);
     });
     timer_.start(10);
   }
@@ -207,9 +165,11 @@ class ImpatientReader {
   QTimer timer_;
 };
 
-class MainTabsTest : public testing::Test {
- protected:
-  ImpatientReader reader_;
+struct MainTabsTest : testing::Test {
+  // Closes the messages about the missing gateway, which pages call on creation.
+  ScreenWatch reader_{[](QWidget& front) {
+    if (auto* message = qobject_cast<CNotificationDlg*>(&front)) message->close();
+  }};
   QTemporaryDir folder_;
   RunState state_;
   Settings settings_{folder_.path()};
@@ -227,7 +187,7 @@ class MainTabsTest : public testing::Test {
                                   {state_, settings_, gateway_, notifier_, progress_})};
 };
 
-TEST_F(MainTabsTest, pagesTellEachOtherWhatWasSent) {
+TEST_F(MainTabsTest, sendPagesUpdateTheStatusPage) {
   connectPages(window_);
   const auto* tabs = window_.findChild<QTabWidget*>();
   auto* sms = window_.findChild<CQuillonSMSDlg*>();
@@ -242,28 +202,7 @@ TEST_F(MainTabsTest, pagesTellEachOtherWhatWasSent) {
   EXPECT_EQ(tabs->tabText(tabs->currentIndex()), u"Status"_s);
 }
 
-TEST_F(MainTabsTest, pagesAreFilledInTheirOrderThenComeBalanceAndNews) {
-  simulator::Simulator simulator;
-  ASSERT_TRUE(simulator.start());
-  state_.gateway.endpoint = simulator.site() + u"/ccx/onlineCommunication"_s;
-  bool hasRead = false;
-  QTimer user;
-  QObject::connect(&user, &QTimer::timeout, &user, [&hasRead] {
-    QWidget* front = frontWindow();
-    if (auto* news = qobject_cast<CNewsDlg*>(front)) {
-      hasRead = true;
-      news->accept();
-    } else if (auto* window = qobject_cast<CMainDlg*>(front); window && hasRead) {
-      window->accept();
-    }
-  });
-  user.start(10);
-  windows_.runMainWindow();
-  EXPECT_EQ(simulator.calledOperations(),
-            QStringList({"getAccountHistory", "getEmailMessaging", "getAccountBalance", "getNews"}));
-}
-
-TEST_F(MainTabsTest, balanceIsFetchedAnewForAnotherUserOnly) {
+TEST_F(MainTabsTest, balanceComesAfterThePagesAndAgainForAnotherUserOnly) {
   simulator::Options options;
   options.accounts.push_back({u"ann"_s, u"secret"_s, 7.5, true, {}});
   simulator::Simulator simulator(options);
@@ -271,56 +210,51 @@ TEST_F(MainTabsTest, balanceIsFetchedAnewForAnotherUserOnly) {
   state_.gateway.endpoint = simulator.site() + u"/ccx/onlineCommunication"_s;
   QStringList balances;
   QStringList users{u"demo"_s, u"demo1234"_s, u"demo"_s, u"demo1234"_s, u"ann"_s, u"secret"_s};
-  QTimer user;
-  QObject::connect(&user, &QTimer::timeout, &user, [&] {
-    QWidget* front = frontWindow();
-    if (auto* news = qobject_cast<CNewsDlg*>(front)) {
+  bool hasReadNews = false;
+  const ScreenWatch user([&](QWidget& front) {
+    if (auto* news = qobject_cast<CNewsDlg*>(&front)) {
+      hasReadNews = true;
       news->accept();
-    } else if (auto* login = qobject_cast<CLoginDlg*>(front)) {
+    } else if (auto* login = qobject_cast<CLoginDlg*>(&front)) {
       login->findChild<QLineEdit*>(u"userName"_s)->setText(users.takeFirst());
       login->findChild<QLineEdit*>(u"password"_s)->setText(users.takeFirst());
       login->findChild<QAbstractButton*>(u"logIn"_s)->click();
-    } else if (auto* window = qobject_cast<CMainDlg*>(front)) {
+    } else if (auto* window = qobject_cast<CMainDlg*>(&front); window && hasReadNews) {
       balances << window->findChild<QLineEdit*>(u"balance"_s)->text();
       if (users.isEmpty()) return window->accept();
-      // Not from here: a timer does not go off while it is being heard.
+      // A timer does not fire again inside its own slot.
       QTimer::singleShot(0, window, [this] { windows_.logInAgain(); });
     }
   });
-  user.start(10);
   ASSERT_TRUE(windows_.logIn());
   windows_.runMainWindow();
   EXPECT_EQ(balances, QStringList({u"100.00"_s, u"100.00"_s, u"7.50"_s}));
-  EXPECT_EQ(simulator.calledOperations().count(u"getAccountBalance"_s), 2);
+  const QStringList calls = simulator.calledOperations();
+  EXPECT_EQ(calls.first(5), QStringList({"sessionStart", "getAccountHistory", "getEmailMessaging",
+                                         "getAccountBalance", "getNews"}));
+  EXPECT_EQ(calls.count(u"getAccountBalance"_s), 2);
 }
 
-TEST_F(MainTabsTest, windowIsFoundAgainWhereItWasLeft) {
-  QRect left;
-  QRect found;
-  const auto visit = [this](const std::function<void(CMainDlg&)>& act) {
-    QTimer user;
-    QObject::connect(&user, &QTimer::timeout, [&act] {
-      QWidget* front = frontWindow();
-      auto* window = qobject_cast<CMainDlg*>(front);
-      if (window && window->isActiveWindow()) {
-        act(*window);
-        window->accept();
-      } else if (front && !window) {
-        front->close();  // a message before the window opens
-      }
+TEST_F(MainTabsTest, windowOpensWhereItWasLeft) {
+  const auto geometryAfter = [this](const std::function<void(CMainDlg&)>& act) {
+    QRect geometry;
+    const ScreenWatch user([&](QWidget& front) {
+      auto* window = qobject_cast<CMainDlg*>(&front);
+      if (!window) front.close();  // a message before the window opens
+      if (!window || !window->isActiveWindow()) return;
+      act(*window);
+      geometry = window->geometry();
+      window->accept();
     });
-    user.start(20);
     windows_.runMainWindow();
+    return geometry;
   };
-  visit([&left](CMainDlg& window) {
-    window.setGeometry(40, 60, window.width() + 30, window.height() + 20);
-    left = window.geometry();
-  });
-  visit([&found](CMainDlg& window) { found = window.geometry(); });
-  EXPECT_EQ(found, left);
+  const auto nothing = [](CMainDlg&) {};
+  const QRect left = geometryAfter(
+      [](CMainDlg& window) { window.setGeometry(40, 60, window.width() + 30, window.height() + 20); });
+  EXPECT_EQ(geometryAfter(nothing), left);
   settings_.setWindowGeometry("nonsense");
-  visit([&found](CMainDlg& window) { found = window.geometry(); });
-  EXPECT_NE(found, left);
+  EXPECT_NE(geometryAfter(nothing), left);
 }
 
 TEST_F(MainTabsTest, fitASmallScreen) {
@@ -331,4 +265,4 @@ TEST_F(MainTabsTest, fitASmallScreen) {
 }
 
 }  // namespace
-}  // namespace parlexo
+}  // namespace parlexo::test

@@ -1,34 +1,28 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/news_announcement.h"
 
-#include <QLineEdit>
 #include <QMenu>
-#include <QTest>
 #include <QVBoxLayout>
-#include <gtest/gtest.h>
 
 #include "account/screens/news_dlg.h"
+#include "tests/support/widgets.h"
 #include "ui/gradient_page.h"
 
-namespace parlexo {
+namespace parlexo::test {
 namespace {
 
-using namespace Qt::StringLiterals;
-
-/// A window in which the user types, with news on the way.
-class NewsAnnouncementTest : public testing::Test {
- protected:
+/// A window with a field in which the user types.
+struct NewsAnnouncementTest : testing::Test {
   NewsAnnouncementTest() {
     (new QVBoxLayout(&window_))->addWidget(field_);
-    window_.show();
-    EXPECT_TRUE(QTest::qWaitForWindowActive(&window_));
+    showActive(window_);
     field_->setFocus();
   }
 
   static CNewsDlg* dialog() { return qobject_cast<CNewsDlg*>(QApplication::activeModalWidget()); }
 
-  /// Announces the news and waits until the dialog is open, then does what `act` says and closes it. Returns
-  /// the milliseconds that passed before it opened, -1 when it did not open within 5 s.
+  /// Announces news, calls `act` with the open dialog and closes it. Returns the milliseconds until it
+  /// opened, or -1 if it did not open within 5 s.
   qint64 announce(const std::function<void(CNewsDlg&)>& act) {
     QElapsedTimer clock;
     qint64 openedAfter = -1;
@@ -53,7 +47,7 @@ class NewsAnnouncementTest : public testing::Test {
   NewsAnnouncement announcement_{window_};
 };
 
-TEST_F(NewsAnnouncementTest, comesAtOnceForAUserWhoOnlyLooksOn) {
+TEST_F(NewsAnnouncementTest, opensAtOnceForAnIdleUser) {
   field_->clearFocus();
   const qint64 openedAfter = announce([this](CNewsDlg& news) {
     QTest::keyClick(news.windowHandle(), Qt::Key_X);
@@ -63,7 +57,7 @@ TEST_F(NewsAnnouncementTest, comesAtOnceForAUserWhoOnlyLooksOn) {
   EXPECT_LT(openedAfter, 1000);
 }
 
-TEST_F(NewsAnnouncementTest, waitsForAPauseAndLeavesWhatIsTypedInTheFields) {
+TEST_F(NewsAnnouncementTest, waitsForAPauseAndLeavesKeysToTheFields) {
   auto* next = new QLineEdit;
   window_.layout()->addWidget(next);
   QTest::keyClicks(field_, u"Dear"_s);
@@ -113,4 +107,4 @@ TEST_F(NewsAnnouncementTest, waitsUntilMenusAndDialogsAreClosed) {
 }
 
 }  // namespace
-}  // namespace parlexo
+}  // namespace parlexo::test

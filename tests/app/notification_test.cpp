@@ -1,31 +1,21 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include <functional>
-#include <vector>
 
-#include <QAbstractButton>
-#include <QCheckBox>
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QPlainTextEdit>
 #include <QScrollBar>
-#include <QTemporaryDir>
-#include <QTest>
-#include <QTimer>
-#include <gtest/gtest.h>
 
 #include "app/notification_dlg.h"
+#include "tests/support/widgets.h"
 #include "ui/look.h"
 
-namespace parlexo {
+namespace parlexo::test {
 namespace {
 
-using namespace Qt::StringLiterals;
-
-class NotificationTest : public testing::Test {
- protected:
+struct NotificationTest : testing::Test {
   using Action = std::function<void(CNotificationDlg&)>;
 
-  // Shows a message and lets `act` answer it once its window takes input.
+  // Shows a message; `act` answers it once its window is active.
   MessageResult show(unsigned style, int number, const Action& act) {
     shown_ = false;
     QTimer::singleShot(0, &notifier_owner_, [this, act] {
@@ -55,52 +45,42 @@ constexpr auto Yes = MessageResult::Yes;
 constexpr auto No = MessageResult::No;
 
 TEST_F(NotificationTest, styleDecidesOnButtonsAndAnswers) {
-  const struct {
-    const char* what;
-    unsigned style;
-    std::vector<MessageResult> offered;
-    QStringList texts;
-    MessageResult onEscape;
-    MessageResult whenSuppressed;
-  } styles[] = {
-      {"OK", message_style::ok | message_style::stop, {Ok}, {"&OK"}, Ok, Ok},
-      {"Yes and No", message_style::yesNo | message_style::question, {Yes, No}, {"&Yes", "&No"}, No, Ok},
+  namespace style = message_style;
+  using Results = std::vector<MessageResult>;
+  const Cases<const char*, unsigned, Results, QStringList, MessageResult, MessageResult> cases = {
+      {"OK", style::ok | style::stop, {Ok}, {"&OK"}, Ok, Ok},
+      {"Yes and No", style::yesNo | style::question, {Yes, No}, {"&Yes", "&No"}, No, Ok},
       {"Yes, No and Cancel",
-       message_style::yesNoCancel | message_style::exclamation,
+       style::yesNoCancel | style::exclamation,
        {Yes, No, Cancel},
        {"&Yes", "&No", "&Cancel"},
        Cancel,
        No},
-      {"OK and Cancel", message_style::okCancel, {}, {}, Ok, No},
-      {"Abort, Retry and Ignore",
-       message_style::abortRetryIgnore | message_style::information,
-       {},
-       {},
-       Ok,
-       No},
+      {"OK and Cancel", style::okCancel, {}, {}, Ok, No},
+      {"Abort, Retry and Ignore", style::abortRetryIgnore | style::information, {}, {}, Ok, No},
   };
   settings_.suppressMessage(146);
-  for (const auto& each : styles) {
-    SCOPED_TRACE(each.what);
-    for (const auto result : each.offered)
-      EXPECT_EQ(show(each.style, 0, [result](auto& dialog) { press(dialog, result); }), result);
+  for (const auto& [what, bits, offered, labels, onEscape, whenSuppressed] : cases) {
+    SCOPED_TRACE(what);
+    for (const auto result : offered)
+      EXPECT_EQ(show(bits, 0, [result](auto& dialog) { press(dialog, result); }), result);
     QStringList texts;
     const auto readAndEscape = [&texts](auto& dialog) {
       for (const auto* button : dialog.template findChildren<QAbstractButton*>())
         if (button->isVisible()) texts << button->text();
       QTest::keyClick(&dialog, Qt::Key_Escape);
     };
-    EXPECT_EQ(show(each.style, 0, readAndEscape), each.onEscape);
-    EXPECT_EQ(texts, each.texts);
-    EXPECT_EQ(show(each.style, 0, [](auto& dialog) { dialog.close(); }), each.onEscape);
+    EXPECT_EQ(show(bits, 0, readAndEscape), onEscape);
+    EXPECT_EQ(texts, labels);
+    EXPECT_EQ(show(bits, 0, [](auto& dialog) { dialog.close(); }), onEscape);
     EXPECT_TRUE(shown_);
-    EXPECT_EQ(show(each.style, 146, [](auto& dialog) { dialog.close(); }), each.whenSuppressed);
+    EXPECT_EQ(show(bits, 146, [](auto& dialog) { dialog.close(); }), whenSuppressed);
     QCoreApplication::processEvents();
-    EXPECT_FALSE(shown_) << "answered unseen";
+    EXPECT_FALSE(shown_) << "answered without a window";
   }
 }
 
-TEST_F(NotificationTest, tickedBoxIsRememberedForThatMessageAlone) {
+TEST_F(NotificationTest, tickedBoxSuppressesThatMessageOnly) {
   const auto tickAndClose = [](auto& dialog) {
     auto* box = dialog.template findChild<QCheckBox*>();
     EXPECT_TRUE(box->isVisible());
@@ -126,8 +106,7 @@ TEST_F(NotificationTest, longListScrollsAndIsCopiedByCtrlC) {
   QString list = "The following numbers failed:";
   for (int i = 0; i < 10'000; ++i) list += u"\n+61491%1"_s.arg(570000 + i);
   CNotificationDlg dialog(list, message_style::ok, false);
-  dialog.show();
-  ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
+  showActive(dialog);
   EXPECT_LE(dialog.height(), dialogUnits(dialog, 218, 194).height());
   auto* message = dialog.findChild<QPlainTextEdit*>();
   EXPECT_GT(message->verticalScrollBar()->maximum(), 9'000);
@@ -147,4 +126,4 @@ TEST_F(NotificationTest, longListScrollsAndIsCopiedByCtrlC) {
 }
 
 }  // namespace
-}  // namespace parlexo
+}  // namespace parlexo::test

@@ -1,67 +1,23 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <chrono>
-#include <functional>
-
-#include <QString>
-#include <QStringList>
-#include <QTemporaryDir>
-#include <gtest/gtest.h>
-
 #include "app/core/start_up.h"
-#include "base/call_runner.h"
-#include "base/notifier.h"
-#include "base/progress.h"
-#include "connection/client/gateway.h"
 #include "connection/locator/server_locator.h"
-#include "simulator/simulator.h"
+#include "tests/support/logged_in_rig.h"
+#include "tests/support/test.h"
 
-namespace parlexo {
+namespace parlexo::test {
 
-/// What a user would see and what the disk would get, one line each, in order.
-using Journal = QStringList;
-
-inline const QString unreachableMessage = QStringLiteral(
-    "message 0x10 0 Could not connect to the Parlexo gateway server.\r\n\r\nPlease make sure you have "
-    "internet "
-    "connectivity, your firewall allows gateway connection or try again later.");
-class JournalNotifier final : public Notifier {
- public:
-  explicit JournalNotifier(Journal& journal) : journal_(journal) {}
-
-  MessageResult show(const QString& text, unsigned style, int suppressibleNumber = 0) override {
-    journal_ << QStringLiteral("message 0x%1 %2 %3").arg(style, 0, 16).arg(suppressibleNumber).arg(text);
-    return MessageResult::Ok;
-  }
-
- private:
-  Journal& journal_;
-};
-
-class JournalProgress final : public Progress {
- public:
-  explicit JournalProgress(Journal& journal) : journal_(journal) {}
-
-  void show(const QString& text = {}) override { journal_ << QStringLiteral("progress ") + text; }
-  void setText(const QString& text) override { journal_ << QStringLiteral("progress text ") + text; }
-  void hide() override { journal_ << QStringLiteral("progress hidden"); }
-
- private:
-  Journal& journal_;
-};
-
-class JournalStores final : public RunStores {
- public:
+struct JournalStores final : RunStores {
   explicit JournalStores(Journal& journal) : journal_(journal) {}
 
   bool loadContacts() override {
-    journal_ << QStringLiteral("contacts loaded");
+    journal_ << u"contacts loaded"_s;
     return contactsReadable;
   }
-  void loadStatusLog() override { journal_ << QStringLiteral("status log loaded"); }
-  void releaseContacts() override { journal_ << QStringLiteral("contacts released"); }
-  void saveStatusLog() override { journal_ << QStringLiteral("status log saved"); }
+  void loadStatusLog() override { journal_ << u"status log loaded"_s; }
+  void releaseContacts() override { journal_ << u"contacts released"_s; }
+  void saveStatusLog() override { journal_ << u"status log saved"_s; }
 
   bool contactsReadable = true;
 
@@ -69,19 +25,16 @@ class JournalStores final : public RunStores {
   Journal& journal_;
 };
 
-/// Answers for the user; a login is carried out by `login`.
-class JournalWindows final : public StartUpWindows {
- public:
+/// Windows that close at once; `login` decides the result of a login.
+struct JournalWindows final : StartUpWindows {
   explicit JournalWindows(Journal& journal) : journal_(journal) {}
 
-  void showUpgrade(const QString& version) override {
-    journal_ << QStringLiteral("upgrade \"%1\"").arg(version);
-  }
+  void showUpgrade(const QString& version) override { journal_ << u"upgrade \"%1\""_s.arg(version); }
   bool logIn() override {
-    journal_ << QStringLiteral("login");
+    journal_ << u"login"_s;
     return login();
   }
-  void runMainWindow() override { journal_ << QStringLiteral("main window"); }
+  void runMainWindow() override { journal_ << u"main window"_s; }
 
   std::function<bool()> login = [] { return true; };
 
@@ -89,37 +42,19 @@ class JournalWindows final : public StartUpWindows {
   Journal& journal_;
 };
 
-/// A run of the program against a simulator over the loopback interface, with a journal for a user.
-class RunTest : public testing::Test {
- protected:
-  void SetUp() override { ASSERT_TRUE(simulator.start()); }
+/// A run of the program against a simulator, without a login.
+struct RunTest : testing::Test, SimulatorRig {
+  RunTest() : SimulatorRig({}, {.connect = std::chrono::seconds(5), .silence = std::chrono::seconds(5)}) {
+    progress.onText = [this](const QString& text) { journal << u"(text) "_s + text; };
+  }
 
   bool locate() {
     return ServerLocator(QUrl(simulator.site()), {.retryDelay = std::chrono::milliseconds(1)})
                .locate(state) == ServerLocator::Outcome::Located;
   }
 
-  void setFault(simulator::FaultKind kind, const QString& operation, int number = 0,
-                const QString& text = {}) {
-    simulator::Fault fault;
-    fault.kind = kind;
-    fault.operation = operation;
-    fault.number = number;
-    fault.text = text;
-    ASSERT_TRUE(simulator.setFault(fault));
-  }
-
-  simulator::Simulator simulator;
-  QTemporaryDir folder;
-  Journal journal;
-  RunState state;
-  Settings settings{folder.path()};
-  DirectCallRunner runner;
-  Gateway gateway{state, runner, {.connect = std::chrono::seconds(5), .silence = std::chrono::seconds(5)}};
-  JournalNotifier notifier{journal};
-  JournalProgress progress{journal};
   JournalStores stores{journal};
   JournalWindows windows{journal};
 };
 
-}  // namespace parlexo
+}  // namespace parlexo::test

@@ -1,26 +1,17 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include <tuple>
-
-#include <QDir>
-#include <gmock/gmock.h>
 
 #include "app/core/balance_check.h"
 #include "app/core/login_flow.h"
 #include "app/core/start_up.h"
 #include "base/message_texts.h"
 #include "tests/app/run_fakes.h"
+#include "tests/support/test.h"
 
-namespace parlexo {
+namespace parlexo::test {
 namespace {
 
-using namespace Qt::StringLiterals;
-using simulator::FaultKind;
-using testing::ElementsAre;
-
-class BalanceCheckTest : public RunTest {
- protected:
+struct BalanceCheckTest : RunTest {
   void SetUp() override {
-    RunTest::SetUp();
     ASSERT_TRUE(locate());
     state.session = u"token"_s;
   }
@@ -28,43 +19,38 @@ class BalanceCheckTest : public RunTest {
   QString run() { return BalanceCheck(state, gateway, notifier, progress).run(); }
 };
 
-TEST_F(BalanceCheckTest, amountIsShownAndJudged) {
+TEST_F(BalanceCheckTest, amountIsShownAndLowOnesAreReported) {
   const Journal nothing;
-  const Journal low = {u"progress hidden"_s, u"message 0x40 146 "_s + text(TextId::BalanceLow)};
-  const Journal zero = {u"progress hidden"_s, u"message 0x40 147 "_s + text(TextId::BalanceZero)};
-  const struct {
-    double balance;
-    QString shown;
-    Journal told;
-    bool isZero;
-  } amounts[] = {{100.0, u"100.00"_s, nothing, false},
-                 {2.0, u"2.00"_s, nothing, false},
-                 {1.999, u"2.00"_s, low, false},
-                 {0.01, u"0.01"_s, low, false},
-                 {0.0, u"0.00"_s, zero, true},
-                 {-3.5, u"-3.50"_s, zero, true},
-                 {1e15, u"1000000000000000.00"_s, nothing, false}};
-  for (const auto& [balance, shown, told, isZero] : amounts) {
+  const Journal low = {u"(no box)"_s, u"64/146 "_s + text(TextId::BalanceLow)};
+  const Journal zero = {u"(no box)"_s, u"64/147 "_s + text(TextId::BalanceZero)};
+  const Cases<double, QString, Journal, bool> amounts = {{100.0, u"100.00"_s, nothing, false},
+                                                         {2.0, u"2.00"_s, nothing, false},
+                                                         {1.999, u"2.00"_s, low, false},
+                                                         {0.01, u"0.01"_s, low, false},
+                                                         {0.0, u"0.00"_s, zero, true},
+                                                         {-3.5, u"-3.50"_s, zero, true},
+                                                         {1e15, u"1000000000000000.00"_s, nothing, false}};
+  for (const auto& [balance, shown, messages, isZero] : amounts) {
     state.balanceIsZero = false;
     journal.clear();
     EXPECT_EQ(BalanceCheck(state, gateway, notifier, progress).report(balance), shown);
-    EXPECT_EQ(journal, told) << balance;
+    EXPECT_EQ(journal, messages) << balance;
     EXPECT_EQ(state.balanceIsZero, isZero) << balance;
   }
 }
 
-TEST_F(BalanceCheckTest, refusalIsPassedOverInSilenceAndALostGatewayIsReported) {
+TEST_F(BalanceCheckTest, refusalIsIgnoredAndALostGatewayIsReported) {
   setFault(FaultKind::Code, u"getAccountBalance"_s, 7);
   EXPECT_EQ(run(), QString());
   EXPECT_EQ(journal, Journal());
   simulator.clearFaults();
   setFault(FaultKind::Cut, u"getAccountBalance"_s);
   EXPECT_EQ(run(), QString());
-  EXPECT_EQ(journal, Journal({u"progress hidden"_s, unreachableMessage}));
+  EXPECT_EQ(journal, Journal({u"(no box)"_s, unreachableLine}));
   EXPECT_FALSE(state.balanceIsZero);
 }
 
-TEST_F(BalanceCheckTest, checkWarnsAndRefreshIsQuietAndSetsTheZeroFlagForGood) {
+TEST_F(BalanceCheckTest, checkWarnsAndRefreshIsSilent) {
   ASSERT_EQ(LoginFlow(state, settings, gateway, notifier).attempt(u"demo"_s, u"demo1234"_s),
             LoginOutcome::Accepted);
   ASSERT_TRUE(simulator.setBalance(u"demo"_s, 1.25));
@@ -86,10 +72,8 @@ TEST_F(BalanceCheckTest, checkWarnsAndRefreshIsQuietAndSetsTheZeroFlagForGood) {
   EXPECT_EQ(journal.size(), 2) << "the box goes and the failure is told";
 }
 
-class LoginFlowTest : public RunTest {
- protected:
+struct LoginFlowTest : RunTest {
   void SetUp() override {
-    RunTest::SetUp();
     ASSERT_TRUE(locate());
     settings.setRememberedUser(u"earlier"_s);
     state.session = u"old token"_s;
@@ -116,7 +100,7 @@ TEST_F(LoginFlowTest, acceptedLoginReplacesSessionAndIsRemembered) {
   EXPECT_EQ(journal, Journal());
 }
 
-TEST_F(LoginFlowTest, acceptanceWithoutTokenClosesTheDialogAndStoresNothing) {
+TEST_F(LoginFlowTest, acceptedLoginWithoutTokenStoresNothing) {
   setFault(FaultKind::Code, u"sessionStart"_s, 0);
   EXPECT_EQ(attempt(u"demo"_s, u"demo1234"_s), LoginOutcome::Accepted);
   expectNothingStored();
@@ -124,14 +108,10 @@ TEST_F(LoginFlowTest, acceptanceWithoutTokenClosesTheDialogAndStoresNothing) {
 }
 
 TEST_F(LoginFlowTest, refusalIsShownAndStoresNothing) {
-  const struct {
-    FaultKind kind;
-    int number;
-    QString message;
-  } refusals[] = {
-      {FaultKind::Code, 4, u"message 0x10 0 Invalid Username or Password. Passwords are case sensitive"_s},
-      {FaultKind::Code, 12, u"message 0x10 0 An error occured while logging on. Error code: 12"_s},
-      {FaultKind::Cut, 0, unreachableMessage},
+  const Cases<FaultKind, int, QString> refusals = {
+      {FaultKind::Code, 4, u"16 Invalid Username or Password. Passwords are case sensitive"_s},
+      {FaultKind::Code, 12, u"16 An error occured while logging on. Error code: 12"_s},
+      {FaultKind::Cut, 0, unreachableLine},
   };
   for (const auto& [kind, number, message] : refusals) {
     simulator.clearFaults();
@@ -144,16 +124,15 @@ TEST_F(LoginFlowTest, refusalIsShownAndStoresNothing) {
 }
 
 const QString locatorMessage =
-    u"message 0x10 0 Could not connect to the Parlexo internet to determine the location of the gateway "
+    u"16 Could not connect to the Parlexo internet to determine the location of the gateway "
     u"server.\r\n\r\nPlease make sure you have internet connectivity, your firewall allows gateway "
     u"connection or try again later."_s;
 
-// What every run journals before its first call to the gateway.
-const Journal loading = {u"progress Loading Contacts from Database..."_s, u"contacts loaded"_s,
-                         u"status log loaded"_s, u"progress text "_s};
+// The journal of every run up to its first call.
+const Journal loading = {u"(box) Loading Contacts from Database..."_s, u"contacts loaded"_s,
+                         u"status log loaded"_s, u"(text) "_s};
 
-class StartUpTest : public RunTest {
- protected:
+struct StartUpTest : RunTest {
   int run() {
     return StartUp(
                {state, settings, stores, gateway, notifier, progress, windows, [this] { return locate(); }})
@@ -161,13 +140,13 @@ class StartUpTest : public RunTest {
   }
 };
 
-TEST_F(StartUpTest, everyStepComesInItsOrder) {
+TEST_F(StartUpTest, stepsRunInOrder) {
   windows.login = [this] {
     return LoginFlow(state, settings, gateway, notifier).attempt(u"demo"_s, u"demo1234"_s) ==
            LoginOutcome::Accepted;
   };
   EXPECT_EQ(run(), 0);
-  EXPECT_EQ(journal, loading + Journal({u"progress hidden"_s, u"login"_s, u"progress "_s, u"main window"_s}));
+  EXPECT_EQ(journal, loading + Journal({u"(no box)"_s, u"login"_s, u"(box)"_s, u"main window"_s}));
   EXPECT_THAT(simulator.calledOperations(), ElementsAre(u"locator"_s, u"getVersion"_s, u"sessionStart"_s));
   EXPECT_TRUE(QDir(folder.filePath(u"contacts"_s)).exists());
   EXPECT_TRUE(QDir(folder.filePath(u"templates"_s)).exists());
@@ -180,31 +159,24 @@ TEST_F(StartUpTest, unreadableContactsEndTheProgramBeforeTheStatusLog) {
   EXPECT_THAT(simulator.calledOperations(), ElementsAre());
 }
 
-TEST_F(StartUpTest, cancelledLoginEndsInSilence) {
+TEST_F(StartUpTest, cancelledLoginEndsTheRunSilently) {
   windows.login = [] { return false; };
   EXPECT_EQ(run(), 0);
-  EXPECT_EQ(journal, loading + Journal({u"progress hidden"_s, u"login"_s}));
+  EXPECT_EQ(journal, loading + Journal({u"(no box)"_s, u"login"_s}));
 }
 
 const Journal noLocation = {locatorMessage};
-const Journal noGateway = {u"progress hidden"_s, unreachableMessage};
-const Journal wrongProtocol = {u"progress hidden"_s, u"upgrade \"\""_s};
+const Journal noGateway = {u"(no box)"_s, unreachableLine};
+const Journal wrongProtocol = {u"(no box)"_s, u"upgrade \"\""_s};
 
 Journal otherClient(const QString& version) {
-  return {u"progress hidden"_s, u"upgrade \"%1\""_s.arg(version), u"login"_s, u"progress "_s,
-          u"main window"_s};
+  return {u"(no box)"_s, u"upgrade \"%1\""_s.arg(version), u"login"_s, u"(box)"_s, u"main window"_s};
 }
 
-TEST_F(StartUpTest, obstacleIsToldToTheUser) {
+TEST_F(StartUpTest, obstaclesAreReported) {
   const auto locator = u"locator"_s;
   const auto version = u"getVersion"_s;
-  const struct {
-    FaultKind kind;
-    QString operation;
-    int number;
-    QString text;
-    Journal after;  // what follows the loading
-  } obstacles[] = {
+  const Cases<FaultKind, QString, int, QString, Journal> obstacles = {
       {FaultKind::BadLocator, locator, 0, {}, noLocation},
       {FaultKind::Close, version, 0, {}, noGateway},
       {FaultKind::Version, version, 104, {}, wrongProtocol},
@@ -222,9 +194,8 @@ TEST_F(StartUpTest, obstacleIsToldToTheUser) {
   }
 }
 
-class ShutDownTest : public RunTest {
- protected:
-  const Journal ending = {u"progress hidden"_s, u"contacts released"_s, u"status log saved"_s};
+struct ShutDownTest : RunTest {
+  const Journal ending = {u"(no box)"_s, u"contacts released"_s, u"status log saved"_s};
 };
 
 TEST_F(ShutDownTest, runWithoutSessionMakesNoCall) {
@@ -234,7 +205,7 @@ TEST_F(ShutDownTest, runWithoutSessionMakesNoCall) {
   EXPECT_THAT(simulator.calledOperations(), ElementsAre(u"locator"_s));
 }
 
-TEST_F(ShutDownTest, sessionIsClosedPastTheProxyThatOtherCallsUse) {
+TEST_F(ShutDownTest, sessionIsClosedWithoutTheProxy) {
   ASSERT_TRUE(locate());
   ASSERT_EQ(LoginFlow(state, settings, gateway, notifier).attempt(u"demo"_s, u"demo1234"_s),
             LoginOutcome::Accepted);
@@ -247,4 +218,4 @@ TEST_F(ShutDownTest, sessionIsClosedPastTheProxyThatOtherCallsUse) {
 }
 
 }  // namespace
-}  // namespace parlexo
+}  // namespace parlexo::test

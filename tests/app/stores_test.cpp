@@ -1,36 +1,28 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include <chrono>
-#include <functional>
 
-#include <QElapsedTimer>
-#include <QTemporaryDir>
 #include <QTimer>
-#include <gtest/gtest.h>
 
 #include "app/disk_stores.h"
 #include "app/pumping_lock_waiter.h"
-#include "tests/app/run_fakes.h"
 #include "tests/contacts/other_process.h"
 #include "tests/support/file_bytes.h"
+#include "tests/support/recording_progress.h"
+#include "tests/support/test.h"
 #include "ui/waiting/progress_box.h"
 
-namespace parlexo {
+namespace parlexo::test {
 namespace {
 
-using namespace Qt::StringLiterals;
-
-class DiskStoresTest : public testing::Test {
- protected:
+struct DiskStoresTest : testing::Test {
   void SetUp() override { makeFolderPath(settings_.contactsFolder()); }
 
   QTemporaryDir folder_;
   Settings settings_{folder_.path()};
-  Journal journal_;
-  JournalNotifier notifier_{journal_};
-  JournalProgress progress_{journal_};
+  RecordingNotifier notifier_;
+  RecordingProgress progress_;
 };
 
-TEST_F(DiskStoresTest, runThatEndsBeforeTheStatusLogWasReadLeavesTheFileAlone) {
+TEST_F(DiskStoresTest, saveBeforeTheStatusLogIsReadLeavesTheFileAlone) {
   const QByteArray earlier =
       "<Status>\n<Message Date=\"1\" Type=\"SMS\" Phone=\"+1\" Status=\"x\">r</Message>\n</Status>";
   writeBytes(settings_.statusFile(), earlier);
@@ -43,10 +35,9 @@ TEST_F(DiskStoresTest, runThatEndsBeforeTheStatusLogWasReadLeavesTheFileAlone) {
   EXPECT_TRUE(readBytes(settings_.statusFile()).contains("Status=\"y\""));
 }
 
-class WaitingForOthers : public testing::Test {
- protected:
+struct WaitingForOthers : testing::Test {
   bool write() { return database_.writeItem(error_, 4, path_, 12, QByteArray("\1Anna1111111", 12), 60); }
-  // Called from within the wait: the loop that runs then is the one that keeps the program alive.
+  // Runs in the event loop of the wait.
   void laterDo(const std::function<void()>& action) { QTimer::singleShot(20, &context_, action); }
 
   QTemporaryDir folder_;
@@ -59,7 +50,7 @@ class WaitingForOthers : public testing::Test {
   QString error_;
 };
 
-TEST_F(WaitingForOthers, boxSaysSoWhileEventsRunAndIsThenAsBefore) {
+TEST_F(WaitingForOthers, boxShowsTheWaitAndRestoresItsLabel) {
   for (const QString& before : {QString(), u"Loading Group \"x\"..."_s}) {
     if (!before.isEmpty()) box_.show(before);
     OtherProcess other(path_, LOCK_EX);
@@ -75,9 +66,9 @@ TEST_F(WaitingForOthers, boxSaysSoWhileEventsRunAndIsThenAsBefore) {
   }
 }
 
-TEST_F(WaitingForOthers, patienceEndsAfterItsSecondsOfHalfSecondSteps) {
+TEST_F(WaitingForOthers, waitEndsAfterTheTimeout) {
   const OtherProcess other(path_, LOCK_EX);
-  // The clock runs a hundred times faster: the 30 seconds of reading an index take 0.31 s.
+  // The clock runs a hundred times faster: the timeout of 30 seconds takes 0.31 s.
   QElapsedTimer time;
   time.start();
   EXPECT_FALSE(write());
@@ -88,4 +79,4 @@ TEST_F(WaitingForOthers, patienceEndsAfterItsSecondsOfHalfSecondSteps) {
 }
 
 }  // namespace
-}  // namespace parlexo
+}  // namespace parlexo::test

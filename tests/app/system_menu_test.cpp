@@ -3,20 +3,15 @@
 
 #include <array>
 
-#include <QApplication>
-#include <QSignalSpy>
-#include <QTest>
-#include <QTimer>
-#include <gtest/gtest.h>
-
 #include "app/about_dlg.h"
 #include "app/main_dlg.h"
 #include "app/platform.h"
+#include "tests/support/widgets.h"
 
-namespace parlexo {
+namespace parlexo::test {
 namespace {
 
-TEST(SystemMenu, endsWithTheEntryThatOpensTheAboutBox) {
+TEST(SystemMenu, endsWithTheAboutEntry) {
   CMainDlg window({});
   QSignalSpy opened(&window, &CMainDlg::opened);
   window.show();
@@ -49,4 +44,4 @@ TEST(SystemMenu, endsWithTheEntryThatOpensTheAboutBox) {
 }
 
 }  // namespace
-}  // namespace parlexo
+}  // namespace parlexo::test

@@ -1,14 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "base/code_page.h"
 
-#include <gtest/gtest.h>
+#include "tests/support/test.h"
 
-namespace parlexo {
+namespace parlexo::test {
 namespace {
 
-using namespace Qt::StringLiterals;
-
-TEST(CodePage, everyByteSurvivesTheTripToTextAndBack) {
+TEST(CodePage, everyByteRoundTrips) {
   QByteArray all;
   for (int byte = 0; byte < 256; ++byte) all.append(static_cast<char>(byte));
   const QString text = fromCodePage(all);
@@ -18,12 +16,7 @@ TEST(CodePage, everyByteSurvivesTheTripToTextAndBack) {
 }
 
 TEST(CodePage, textsHaveTheBytesOfTheTable) {
-  const struct {
-    const char* what;
-    QString text;
-    QByteArray bytes;
-    bool fits;
-  } cases[] = {
+  const Cases<const char*, QString, QByteArray, bool> cases = {
       {"nothing", u""_s, "", true},
       {"Latin letters", u"Zoë é"_s, "Zo\xEB \xE9", true},
       {"euro sign and low quotes", u"€‚ƒ„…"_s, "\x80\x82\x83\x84\x85", true},
@@ -35,11 +28,11 @@ TEST(CodePage, textsHaveTheBytesOfTheTable) {
       {"half a pair at the end", QString(QChar(0xD83D)), "?", false},
       {"half a pair", QString(QChar(0xD83D)) + u"x"_s, "?x", false},
   };
-  for (const auto& each : cases) {
-    EXPECT_EQ(toCodePage(each.text), each.bytes) << each.what;
-    EXPECT_EQ(fitsCodePage(each.text), each.fits) << each.what;
+  for (const auto& [what, text, bytes, fits] : cases) {
+    EXPECT_EQ(toCodePage(text), bytes) << what;
+    EXPECT_EQ(fitsCodePage(text), fits) << what;
   }
 }
 
 }  // namespace
-}  // namespace parlexo
+}  // namespace parlexo::test

@@ -1,28 +1,20 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "base/csv_writer.h"
 
-#include <QDir>
-#include <QTemporaryDir>
-#include <gtest/gtest.h>
-
 #include "tests/support/file_bytes.h"
+#include "tests/support/test.h"
 
-namespace parlexo {
+namespace parlexo::test {
 namespace {
 
-using namespace Qt::StringLiterals;
-
-QByteArray lineOf(const QStringList& cells, CsvCells kind) {
+QByteArray csvLine(const QStringList& cells, CsvCells kind) {
   CsvWriter csv(kind);
   csv.addRow(cells);
   return csv.bytes().mid(3);
 }
 
 TEST(CsvWriter, quotesOnlyTheCellsThatNeedIt) {
-  const struct {
-    QStringList cells;
-    QByteArray line;
-  } cases[] = {
+  const Cases<QStringList, QByteArray> cases = {
       {{u"plain"_s, u"two words"_s, QString()}, "plain,two words,\r\n"},
       {{u"Doe, J."_s, u"say \"hi\""_s}, "\"Doe, J.\",\"say \"\"hi\"\"\"\r\n"},
       {{u"two\r\nlines"_s, u"a\nb"_s, u"a\rb"_s}, "\"two\r\nlines\",\"a\nb\",\"a\rb\"\r\n"},
@@ -32,17 +24,13 @@ TEST(CsvWriter, quotesOnlyTheCellsThatNeedIt) {
       {{QString(), QString()}, ",\r\n"},
   };
   for (const auto& [cells, line] : cases) {
-    EXPECT_EQ(lineOf(cells, CsvCells::Unchanged), line) << line.constData();
-    EXPECT_EQ(lineOf(cells, CsvCells::Escaped), line) << line.constData();
+    EXPECT_EQ(csvLine(cells, CsvCells::Unchanged), line) << line.constData();
+    EXPECT_EQ(csvLine(cells, CsvCells::Escaped), line) << line.constData();
   }
 }
 
-TEST(CsvWriter, formulasBecomeTextsWhereTheFileIsForPeople) {
-  const struct {
-    QString cell;
-    QByteArray harmless;
-    QByteArray asItIs;
-  } cases[] = {
+TEST(CsvWriter, formulasAreEscapedInHarmlessCells) {
+  const Cases<QString, QByteArray, QByteArray> cases = {
       {u"=1+1"_s, "'=1+1", "=1+1"},
       {u"+61491570156"_s, "'+61491570156", "+61491570156"},
       {u"-0.05"_s, "-0.05", "-0.05"},
@@ -55,12 +43,12 @@ TEST(CsvWriter, formulasBecomeTextsWhereTheFileIsForPeople) {
       {u"1+1=2"_s, "1+1=2", "1+1=2"},
   };
   for (const auto& [cell, harmless, asItIs] : cases) {
-    EXPECT_EQ(lineOf({cell}, CsvCells::Escaped), harmless + "\r\n");
-    EXPECT_EQ(lineOf({cell}, CsvCells::Unchanged), asItIs + "\r\n");
+    EXPECT_EQ(csvLine({cell}, CsvCells::Escaped), harmless + "\r\n");
+    EXPECT_EQ(csvLine({cell}, CsvCells::Unchanged), asItIs + "\r\n");
   }
 }
 
-TEST(CsvWriter, replacesAFileAsAWholeOrLeavesItAlone) {
+TEST(CsvWriter, savesAtomically) {
   const QTemporaryDir folder;
   const QString path = folder.filePath(u"list.csv"_s);
   CsvWriter csv(CsvCells::Unchanged);
@@ -78,4 +66,4 @@ TEST(CsvWriter, replacesAFileAsAWholeOrLeavesItAlone) {
 }
 
 }  // namespace
-}  // namespace parlexo
+}  // namespace parlexo::test

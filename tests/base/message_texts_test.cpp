@@ -1,21 +1,17 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "base/message_texts.h"
 
-#include <gtest/gtest.h>
-
 #include "base/product.h"
+#include "tests/support/test.h"
 
-namespace parlexo {
+namespace parlexo::test {
 namespace {
 
-using namespace Qt::StringLiterals;
-
-class ServiceHost : public testing::Test {
- protected:
+struct ServiceHost : testing::Test {
   void TearDown() override { setServiceHost({}); }
 };
 
-TEST_F(ServiceHost, pagesFollowTheChosenHostAndFallBackToTheCompiledOne) {
+TEST_F(ServiceHost, pagesUseTheChosenOrTheDefaultHost) {
   EXPECT_EQ(webPage(u"/signup.php"_s), u"https://"_s + defaultServiceHost() + u"/signup.php"_s);
   setServiceHost(u"gateway.example.org"_s);
   EXPECT_EQ(webPage(u"/signup.php"_s), u"https://gateway.example.org/signup.php"_s);
@@ -25,18 +21,11 @@ TEST_F(ServiceHost, pagesFollowTheChosenHostAndFallBackToTheCompiledOne) {
 
 TEST_F(ServiceHost, balanceWarningsNameTheSite) {
   setServiceHost(u"pay.example"_s);
-  EXPECT_EQ(text(TextId::BalanceLow),
-            u"Your account balance is less than $2.00.\r\nPlease go to https://pay.example and top up your "
-            u"account balance."_s);
-  EXPECT_EQ(
-      text(TextId::BalanceZero),
-      u"Your account balance is zero.\r\nPlease go to https://pay.example, sign-in and add credit to your "
-      u"account.\r\n\r\nIf you wish to trial our services then this may only be done via the website "
-      u"portal. In the web portal click the 'Free Trial' button. The Parlexo Client software requires "
-      u"credit to send messages."_s);
+  for (const auto id : {TextId::BalanceLow, TextId::BalanceZero})
+    EXPECT_TRUE(text(id).contains(u"\r\nPlease go to https://pay.example"_s));
 }
 
-TEST(MessageTexts, numberTakesThePlaceOfTheFirstPlaceholder) {
+TEST(MessageTexts, numberReplacesTheFirstPlaceholder) {
   EXPECT_EQ(withNumber(u"Error code: %i"_s, 12), u"Error code: 12"_s);
   EXPECT_EQ(withNumber(u"Error code: %d"_s, -1), u"Error code: -1"_s);
   EXPECT_EQ(withNumber(u"%i of %i"_s, 3), u"3 of %i"_s);
@@ -44,4 +33,4 @@ TEST(MessageTexts, numberTakesThePlaceOfTheFirstPlaceholder) {
 }
 
 }  // namespace
-}  // namespace parlexo
+}  // namespace parlexo::test

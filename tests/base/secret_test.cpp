@@ -3,14 +3,12 @@
 
 #include <algorithm>
 
-#include <gtest/gtest.h>
+#include "tests/support/test.h"
 
-namespace parlexo {
+namespace parlexo::test {
 namespace {
 
-using namespace Qt::StringLiterals;
-
-// Emptied texts keep their memory, so it may be looked at.
+// Empty strings keep their memory, so it can be read.
 template <class Text>
 void expectWiped(Text text) {
   const auto* memory = text.data();
@@ -22,14 +20,14 @@ void expectWiped(Text text) {
   EXPECT_TRUE(std::all_of(memory, memory + size, [](auto each) { return each == decltype(each){}; }));
 }
 
-TEST(Secret, wipedMemoryHoldsNothingOfTheText) {
+TEST(Secret, wipeClearsTheMemory) {
   expectWiped(std::string("short"));
   expectWiped(std::string("a password that is too long for the string itself"));
   expectWiped(QByteArray("bytes"));
   expectWiped(QString::fromLatin1("demo1234"));
 }
 
-TEST(Secret, textThatAnotherOneSharesStaysWhole) {
+TEST(Secret, wipeDoesNotChangeSharedTexts) {
   QString text = QString::fromLatin1("demo1234");
   const QString other = text;
   wipe(text);
@@ -37,10 +35,10 @@ TEST(Secret, textThatAnotherOneSharesStaysWhole) {
   EXPECT_EQ(other, u"demo1234"_s);
 }
 
-TEST(Secret, travelsInTheCodePage) {
+TEST(Secret, isEncodedInTheCodePage) {
   EXPECT_EQ(static_cast<const std::string&>(Secret(u"p\u00E4ss\u20AC"_s)), "p\xE4ss\x80");
   EXPECT_EQ(static_cast<const std::string&>(Secret({})), "");
 }
 
 }  // namespace
-}  // namespace parlexo
+}  // namespace parlexo::test

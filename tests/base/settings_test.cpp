@@ -1,30 +1,23 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "base/settings.h"
 
-#include <QDir>
-#include <QTemporaryDir>
-#include <gtest/gtest.h>
-
 #include "base/product.h"
 #include "tests/support/file_bytes.h"
+#include "tests/support/test.h"
 
-namespace parlexo {
+namespace parlexo::test {
 namespace {
 
-using namespace Qt::StringLiterals;
-
-class SettingsTest : public testing::Test {
- protected:
+struct SettingsTest : testing::Test {
   QString path(const QString& name) const { return QDir::toNativeSeparators(folder_.filePath(name)); }
 
-  // The settings file as a later start finds it.
   QByteArray storedFile() const { return readBytes(path(u"Parlexo Client.conf"_s)).replace("\r\n", "\n"); }
   void store(const QByteArray& content) const { writeBytes(path(u"Parlexo Client.conf"_s), content); }
 
   QTemporaryDir folder_;
 };
 
-TEST_F(SettingsTest, emptyStoreGivesDefaultsThatAreNotWrittenBack) {
+TEST_F(SettingsTest, defaultsAreNotWritten) {
   {
     Settings settings(folder_.path());
     EXPECT_EQ(settings.contactsFolder(), path(u"contacts"_s));
@@ -37,7 +30,7 @@ TEST_F(SettingsTest, emptyStoreGivesDefaultsThatAreNotWrittenBack) {
   EXPECT_EQ(storedFile(), "");
 }
 
-TEST_F(SettingsTest, writtenValuesLieUnderTheirSectionsAndComeBackAtTheNextStart) {
+TEST_F(SettingsTest, writtenValuesAreRestoredAtTheNextStart) {
   {
     Settings settings(folder_.path());
     settings.setMobilePhoneNumber(u"+61491570156"_s);
@@ -66,7 +59,7 @@ TEST_F(SettingsTest, writtenValuesLieUnderTheirSectionsAndComeBackAtTheNextStart
   EXPECT_FALSE(next.isMessageSuppressed(147));
 }
 
-TEST_F(SettingsTest, handEditedValuesReadAsTheyWereMeant) {
+TEST_F(SettingsTest, handEditedValuesAreRead) {
   store(
       "[Path]\nContacts=/data/a, "
       "b\nTemplates=\n[Settings]\nMessageDontShowAgain146=0\n[Service]\nHost=a.example\n"
@@ -79,7 +72,7 @@ TEST_F(SettingsTest, handEditedValuesReadAsTheyWereMeant) {
   EXPECT_EQ(settings.columnWidths(u"list"_s), QList<int>({0, 0, 4000, 80}));
 }
 
-TEST_F(SettingsTest, folderIsReadOnceAndFollowsItsSetter) {
+TEST_F(SettingsTest, folderIsCached) {
   Settings settings(folder_.path());
   Settings other(folder_.path());
   settings.setContactsFolder(u"/first"_s);
@@ -90,7 +83,7 @@ TEST_F(SettingsTest, folderIsReadOnceAndFollowsItsSetter) {
   EXPECT_EQ(settings.contactsFolder(), path(u"contacts"_s));
 }
 
-TEST_F(SettingsTest, folderPathIsMadeWithEveryMissingLevelAndNothingIsOverwritten) {
+TEST_F(SettingsTest, folderPathIsCreatedAndNothingIsOverwritten) {
   makeFolderPath(u"  "_s + path(u"My Data/shared/contacts"_s) + u"\t"_s);
   EXPECT_TRUE(QDir(path(u"My Data/shared/contacts"_s)).exists());
   store("in the way");
@@ -100,4 +93,4 @@ TEST_F(SettingsTest, folderPathIsMadeWithEveryMissingLevelAndNothingIsOverwritte
 }
 
 }  // namespace
-}  // namespace parlexo
+}  // namespace parlexo::test

@@ -1,23 +1,17 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Settings held against the registry itself, in a hive of the test's own.
+// Compares settings with the registry, in a separate hive.
 
 #include <windows.h>
 
 #include <array>
 
-#include <QDir>
-#include <QTemporaryDir>
-#include <gtest/gtest.h>
-
 #include "base/settings.h"
+#include "tests/support/test.h"
 
-namespace parlexo {
-
-using namespace Qt::StringLiterals;
-
+namespace parlexo::test {
 namespace {
 
-/// While it lives, HKEY_CURRENT_USER is an empty key that goes with it.
+/// Redirects HKEY_CURRENT_USER to an empty key, which the destructor deletes.
 class OwnHive {
  public:
   OwnHive() {
@@ -38,26 +32,26 @@ class OwnHive {
   HKEY key_ = nullptr;
 };
 
-std::wstring keyOf(const wchar_t* section) {
+std::wstring registryKey(const wchar_t* section) {
   return std::wstring(L"Software\\Parlexo\\Parlexo Client\\") + section;
 }
 
-/// The text as it lies in the registry; "(none)" when there is no value or it is not a text.
+/// The stored string; "(none)" if there is no value or it has another type.
 std::wstring stored(const wchar_t* section, const wchar_t* value) {
   std::array<wchar_t, 1000> text{};
   DWORD bytes = sizeof text;
-  const LSTATUS status = RegGetValueW(HKEY_CURRENT_USER, keyOf(section).c_str(), value, RRF_RT_REG_SZ,
+  const LSTATUS status = RegGetValueW(HKEY_CURRENT_USER, registryKey(section).c_str(), value, RRF_RT_REG_SZ,
                                       nullptr, text.data(), &bytes);
   return status == ERROR_SUCCESS ? text.data() : L"(none)";
 }
 
 void store(const wchar_t* section, const wchar_t* value, const std::wstring& text) {
-  EXPECT_EQ(RegSetKeyValueW(HKEY_CURRENT_USER, keyOf(section).c_str(), value, REG_SZ, text.c_str(),
+  EXPECT_EQ(RegSetKeyValueW(HKEY_CURRENT_USER, registryKey(section).c_str(), value, REG_SZ, text.c_str(),
                             static_cast<DWORD>((text.size() + 1) * sizeof(wchar_t))),
             ERROR_SUCCESS);
 }
 
-TEST(RegistrySettings, areTextsUnderTheProgramsKey) {
+TEST(RegistrySettings, areStringsUnderTheProgramKey) {
   const OwnHive hive;
   {
     Settings settings;
@@ -74,7 +68,7 @@ TEST(RegistrySettings, areTextsUnderTheProgramsKey) {
   EXPECT_EQ(stored(L"Settings", L"MessageDontShowAgain146"), L"1");
 }
 
-TEST(RegistrySettings, readWhatAnAdministratorPutThere) {
+TEST(RegistrySettings, areReadFromAdministratorKeys) {
   const OwnHive hive;
   EXPECT_TRUE(Settings().contactsFolder().endsWith(u"\\contacts"_s));
   EXPECT_EQ(stored(L"Path", L"Contacts"), L"(none)") << "the default is not written";
@@ -87,7 +81,7 @@ TEST(RegistrySettings, readWhatAnAdministratorPutThere) {
   EXPECT_FALSE(settings.isMessageSuppressed(146));
 }
 
-TEST(FolderPath, isMadeWhateverItsSeparators) {
+TEST(FolderPath, acceptsAllSeparators) {
   const QTemporaryDir folder;
   const QString native = QDir::toNativeSeparators(folder.path());
   ASSERT_TRUE(QDir::setCurrent(native)) << "a path without a drive means that of the current folder";
@@ -100,4 +94,4 @@ TEST(FolderPath, isMadeWhateverItsSeparators) {
 }
 
 }  // namespace
-}  // namespace parlexo
+}  // namespace parlexo::test

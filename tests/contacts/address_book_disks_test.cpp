@@ -1,28 +1,17 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The address book on disks that fail and under names that file systems find hard. Everything here stops
-// the superuser too, as which tests may run.
+// The address book on failing disks and with unusual file names. All failures also affect root, as which
+// tests may run.
 
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include <memory>
-#include <utility>
-
-#include <QDir>
-#include <gmock/gmock.h>
-
 #include "contacts/contact_file_format.h"
 #include "tests/contacts/file_size_limit.h"
 #include "tests/contacts/store_fixture.h"
+#include "tests/support/test.h"
 
-namespace parlexo {
-
-using namespace Qt::StringLiterals;
-
+namespace parlexo::test {
 namespace {
-
-using testing::ElementsAre;
-using testing::IsEmpty;
 
 const QString saving = "16 There was a problem trying to save your contact to the database. Error=";
 const QString deleting = "16 There was a problem deleting a contact from your database. Error=";
@@ -40,20 +29,19 @@ const QString known = "Known";
 const QString fresh = "Fresh";
 const QString circle = "Circle";
 
-class AddressBookOnDisk : public AddressBookFixture {
- protected:
+struct AddressBookOnDisk : AddressBookFixture {
   void SetUp() override {
     ASSERT_TRUE(save(known) && report(book_.createGroup(circle, {known})));
-    contactBytes_ = fileOf(contactsFile);
-    memberBytes_ = fileOf(circleFile_);
+    contactBytes_ = fileBytes(contactsFile);
+    memberBytes_ = fileBytes(circleFile_);
   }
 
   bool save(const QString& name, const QString& phone = {}) {
     return report(book_.saveContact({name, phone, {}, {}, {}, {}, {}}));
   }
-  QByteArray fileOf(const QString& name) const { return readBytes(pathOf(name)); }
-  QStringList takeMessages() { return notifier_.takeLines(); }
-  // What a program that starts now finds.
+  QByteArray fileBytes(const QString& name) const { return readBytes(filePath(name)); }
+  QStringList popMessages() { return notifier_.popLines(); }
+  // Loads the folder like a program that starts now.
   bool startsAgain(const QString& folder) {
     indexes_.dropAllItemIndexes();
     next_ = std::make_unique<AddressBook>(folder, nextDatabase_);
@@ -68,25 +56,25 @@ class AddressBookOnDisk : public AddressBookFixture {
   std::unique_ptr<AddressBook> next_;
 };
 
-TEST_F(AddressBookOnDisk, fullDiskRefusesWhatIsNewAndLosesNothing) {
+TEST_F(AddressBookOnDisk, fullDiskRejectsNewContactsAndLosesNothing) {
   {
-    // Half a record more than the file has; the group's file is shorter, so it still takes its member.
+    // Room for half a contact; the shorter group file can still grow.
     const FileSizeLimit limit(contactRecordSize + contactRecordSize / 2);
     EXPECT_FALSE(save(fresh));
     EXPECT_TRUE(save(known, "+1")) << "a change needs no room";
   }
-  EXPECT_THAT(takeMessages(), ElementsAre(saving + "[writeItem:13 - Can't append item to the database!]"));
+  EXPECT_THAT(popMessages(), ElementsAre(saving + "[writeItem:13 - Can't append item to the database!]"));
   EXPECT_TRUE(book_.findContact(fresh)) << "memory keeps it";
-  EXPECT_EQ(fileOf(contactsFile).size(), contactRecordSize);
+  EXPECT_EQ(fileBytes(contactsFile).size(), contactRecordSize);
   EXPECT_FALSE(report(book_.addMember(circle, fresh))) << "there is room again, but it has no record";
-  EXPECT_THAT(takeMessages(), ElementsAre(adding + "[writeItem:13 - Can't append item to the database!]"));
-  EXPECT_EQ(fileOf(circleFile_), memberBytes_);
+  EXPECT_THAT(popMessages(), ElementsAre(adding + "[writeItem:13 - Can't append item to the database!]"));
+  EXPECT_EQ(fileBytes(circleFile_), memberBytes_);
   EXPECT_TRUE(save(fresh)) << "its membership is written as well";
   EXPECT_TRUE(startsAgain(folder_.path()));
   EXPECT_EQ(next_->findGroup(circle)->members().size(), 2U);
 }
 
-TEST_F(AddressBookOnDisk, folderThatGoesAwayGivesEachMessageAndMayComeBack) {
+TEST_F(AddressBookOnDisk, missingFolderIsReportedAndMayReappear) {
   const QString away = folder_.path() + " away";
   ASSERT_TRUE(QDir().rename(folder_.path(), away));
   EXPECT_FALSE(save(known));
@@ -95,19 +83,19 @@ TEST_F(AddressBookOnDisk, folderThatGoesAwayGivesEachMessageAndMayComeBack) {
   EXPECT_FALSE(report(book_.removeMember(circle, known)));
   EXPECT_FALSE(report(book_.deleteGroup(circle)));
   EXPECT_FALSE(book_.findGroup(circle)) << "memory lets go of it";
-  EXPECT_THAT(takeMessages(),
+  EXPECT_THAT(popMessages(),
               ElementsAre(saving + "[writeItem:3 - Database open error!]", creating,
                           adding + "[writeItem:3 - Database open error!]",
                           deleting + "[deleteItem:2 - Database access share error!]", removing));
   EXPECT_FALSE(startsAgain(folder_.path()));
-  EXPECT_EQ(takeMessages().last(), connecting + readOpenError);
+  EXPECT_EQ(popMessages().last(), connecting + readOpenError);
   ASSERT_TRUE(QDir().rename(away, folder_.path()));
   EXPECT_TRUE(save(fresh) && startsAgain(folder_.path()));
   EXPECT_TRUE(next_->findContact(known) && next_->findContact(fresh));
-  EXPECT_THAT(takeMessages(), IsEmpty());
+  EXPECT_THAT(popMessages(), IsEmpty());
 }
 
-// Nobody in particular for a while, when the tests run as the superuser, whom no permission stops.
+// Drops root privileges for a scope, as permissions do not apply to root.
 class Unprivileged {
  public:
   Unprivileged() : before_(::geteuid()) {
@@ -131,13 +119,14 @@ void allow(const QString& path, mode_t permissions) {
   ASSERT_EQ(::chmod(qPrintable(path), permissions), 0);
 }
 
-TEST_F(AddressBookOnDisk, readOnlyFolderIsReadAndRefusesEveryChange) {
-  allow(pathOf(contactsFile), 0444);
-  allow(pathOf(circleFile_), 0666);
+TEST_F(AddressBookOnDisk, readOnlyFolderIsReadButNotChanged) {
+  allow(filePath(contactsFile), 0444);
+  allow(filePath(circleFile_), 0666);
   allow(folder_.path(), 0555);
   {
     const Unprivileged user;
-    if (!QFile(pathOf(circleFile_)).open(QIODevice::ReadOnly)) GTEST_SKIP() << "the folder can't be entered";
+    if (!QFile(filePath(circleFile_)).open(QIODevice::ReadOnly))
+      GTEST_SKIP() << "the folder can't be entered";
     EXPECT_TRUE(startsAgain(folder_.path()));
     EXPECT_TRUE(next_->findGroup(circle)->contains(known));
     EXPECT_FALSE(save(known));
@@ -145,27 +134,27 @@ TEST_F(AddressBookOnDisk, readOnlyFolderIsReadAndRefusesEveryChange) {
     EXPECT_FALSE(report(book_.deleteGroup(circle))) << "its file can be written, but not be removed";
     EXPECT_FALSE(report(book_.deleteContact(known)));
   }
-  EXPECT_THAT(takeMessages(), ElementsAre("0 Can't create the personal contacts database: " +
-                                              pathOf("My Personal Contacts.grp") +
-                                              " Error=[createDb:1 - Can't create the database!]",
-                                          saving + "[writeItem:3 - Database open error!]", creating, removing,
-                                          deleting + "[deleteItem:2 - Database access share error!]"));
+  EXPECT_THAT(popMessages(), ElementsAre("0 Can't create the personal contacts database: " +
+                                             filePath("My Personal Contacts.grp") +
+                                             " Error=[createDb:1 - Can't create the database!]",
+                                         saving + "[writeItem:3 - Database open error!]", creating, removing,
+                                         deleting + "[deleteItem:2 - Database access share error!]"));
   allow(folder_.path(), 0700);
-  EXPECT_EQ(fileOf(contactsFile), contactBytes_);
-  EXPECT_EQ(fileOf(circleFile_), memberBytes_);
+  EXPECT_EQ(fileBytes(contactsFile), contactBytes_);
+  EXPECT_EQ(fileBytes(circleFile_), memberBytes_);
 }
 
 TEST_F(AddressBookOnDisk, unreadableFilesEndTheLoading) {
   allow(folder_.path(), 0777);
   for (const QString& file : {circleFile_, contactsFile}) {
-    allow(pathOf(file), 0);
+    allow(filePath(file), 0);
     const Unprivileged user;
     EXPECT_FALSE(startsAgain(folder_.path()));
-    EXPECT_THAT(takeMessages(), ElementsAre(connecting + readOpenError)) << qPrintable(file);
+    EXPECT_THAT(popMessages(), ElementsAre(connecting + readOpenError)) << qPrintable(file);
   }
 }
 
-TEST_F(AddressBookOnDisk, groupsOfAnyNameThatFilesCanHaveComeBack) {
+TEST_F(AddressBookOnDisk, groupsWithUnusualNamesAreRestored) {
   const struct {
     QString group;
     QString file;
@@ -185,25 +174,25 @@ TEST_F(AddressBookOnDisk, groupsOfAnyNameThatFilesCanHaveComeBack) {
   };
   for (const auto& each : cases) {
     EXPECT_TRUE(report(book_.createGroup(each.group, {known}))) << qPrintable(each.group);
-    EXPECT_EQ(fileOf(each.file), packMember(known)) << qPrintable(each.file);
+    EXPECT_EQ(fileBytes(each.file), packMember(known)) << qPrintable(each.file);
   }
   EXPECT_TRUE(startsAgain(folder_.path()));
   for (const auto& each : cases) {
     const GroupFile* group = next_->findGroup(each.readBack);
     EXPECT_TRUE(group && group->contains(known)) << qPrintable(each.readBack);
   }
-  EXPECT_THAT(takeMessages(), IsEmpty());
+  EXPECT_THAT(popMessages(), IsEmpty());
 }
 
-TEST_F(AddressBookOnDisk, groupNamesThatNoFileCanHaveAreRefused) {
+TEST_F(AddressBookOnDisk, groupNamesWithoutAFileNameAreRejected) {
   for (const QString& name : {QString(252, u'g'), QString(130, u'.'), u"a"_s + QChar(u'\0')}) {
     EXPECT_FALSE(report(book_.createGroup(name, {known})));
-    EXPECT_THAT(takeMessages(), ElementsAre(creating, adding + readOpenError));
+    EXPECT_THAT(popMessages(), ElementsAre(creating, adding + readOpenError));
     EXPECT_TRUE(book_.findGroup(name)->contains(known));
     EXPECT_FALSE(report(book_.deleteGroup(name)));
-    EXPECT_THAT(takeMessages(), ElementsAre(removing));
+    EXPECT_THAT(popMessages(), ElementsAre(removing));
   }
 }
 
 }  // namespace
-}  // namespace parlexo
+}  // namespace parlexo::test

@@ -15,7 +15,7 @@
 
 namespace {
 
-using parlexo::Call;
+using parlexo::test::Call;
 
 struct Plan {
   Call call = Call::Open;
@@ -28,18 +28,18 @@ struct Plan {
 
 std::optional<Plan> plan;
 
-// True when the call that asks has to fail now; errno is set then.
+// Sets errno and returns true if this call has to fail.
 bool fails(Call call) {
   if (!plan || plan->call != call || plan->failures > 0 || plan->passing-- > 0) return false;
   ++plan->failures;
-  if (plan->error == parlexo::FailingCall::throwing) throw 1;
+  if (plan->error == parlexo::test::FailingCall::throwing) throw 1;
   errno = plan->error;
   return true;
 }
 
 }  // namespace
 
-// The linker's option --wrap asks for these names.
+// The linker option --wrap requires these names.
 // NOLINTBEGIN(bugprone-reserved-identifier,cert-dcl37-c,cert-dcl51-cpp,readability-identifier-naming)
 extern "C" {
 
@@ -98,7 +98,7 @@ void operator delete(void* memory, std::size_t /*size*/) noexcept {
   std::free(memory);  // NOLINT(cppcoreguidelines-no-malloc)
 }
 
-namespace parlexo {
+namespace parlexo::test {
 
 FailingCall::FailingCall(Call call, int passing, int error) {
   plan = Plan{call, passing, error, 0, 0, 0};
@@ -120,4 +120,4 @@ std::size_t FailingCall::firstRequest() const {
   return plan->firstRequest;
 }
 
-}  // namespace parlexo
+}  // namespace parlexo::test

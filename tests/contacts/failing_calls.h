@@ -3,30 +3,29 @@
 
 #include <cstddef>
 
-namespace parlexo {
+namespace parlexo::test {
 
-/// What a test can let fail. The system calls are replaced when the test program is linked, so that the
-/// code under test is the very code of the program.
+/// The calls that can be made to fail. They are replaced by the linker, so that the tested code is unchanged.
 enum class Call { Open, Status, Seek, Read, Write, Lock, Allocate };
 
-/// While it lives, one call of a kind fails: the one after `passing` others. One object at a time.
+/// Makes one call fail, after `passing` others, for a scope. Only one object may exist at a time.
 class FailingCall {
  public:
-  /// Makes the call throw an int instead, as a fault in a library might.
+  /// As `error`: the call throws an int.
   static constexpr int throwing = -1;
 
-  /// The call gives `error` as errno.
+  /// The call fails with `error` as errno.
   FailingCall(Call call, int passing, int error);
-  /// Instead: every request for exactly `size` bytes of memory fails.
+  /// Every allocation of exactly `size` bytes fails.
   explicit FailingCall(std::size_t size);
   ~FailingCall();
   FailingCall(const FailingCall&) = delete;
   FailingCall& operator=(const FailingCall&) = delete;
 
-  /// How often the call failed so far.
+  /// The number of failed calls so far.
   [[nodiscard]] int failures() const;
-  /// The size of the first request for memory so far.
+  /// The size of the first allocation.
   [[nodiscard]] std::size_t firstRequest() const;
 };
 
-}  // namespace parlexo
+}  // namespace parlexo::test

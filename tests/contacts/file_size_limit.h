@@ -5,9 +5,9 @@
 
 #include <csignal>
 
-namespace parlexo {
+namespace parlexo::test {
 
-/// Lets this process write no file beyond a length, as on a disk that is full.
+/// Limits the size of files that this process writes for a scope, like a full disk.
 class FileSizeLimit {
  public:
   explicit FileSizeLimit(rlim_t length) : handler_(std::signal(SIGXFSZ, SIG_IGN)) {
@@ -27,4 +27,4 @@ class FileSizeLimit {
   void (*handler_)(int);
 };
 
-}  // namespace parlexo
+}  // namespace parlexo::test

@@ -1,20 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Files that a program sharing no code with this one has written (tools/make-golden-contacts): they are
-// read as meant, and the store writes the very same bytes.
-
-#include <QDir>
-#include <gmock/gmock.h>
+// Files written by an independent program (tools/make-golden-contacts).
 
 #include "contacts/contact_file_format.h"
 #include "tests/contacts/store_fixture.h"
+#include "tests/support/test.h"
 
-namespace parlexo {
-
-using namespace Qt::StringLiterals;
-
+namespace parlexo::test {
 namespace {
-
-using testing::IsEmpty;
 
 const QString zoe = "Zo\u00EB";
 const QString zoeInSmall = "zo\u00EB";
@@ -52,11 +44,10 @@ bool operator==(const ContactRecord& a, const ContactRecord& b) {
          a.fax == b.fax && a.extra == b.extra;
 }
 
-class GoldenFiles : public AddressBookFixture {
- protected:
+struct GoldenFiles : AddressBookFixture {
   void SetUp() override {
     for (const QString& name : QDir(golden_).entryList(QDir::Files))
-      ASSERT_TRUE(QFile::copy(golden_ + name, pathOf(name)));
+      ASSERT_TRUE(QFile::copy(golden_ + name, filePath(name)));
     ASSERT_TRUE(loadAll(book_));
   }
   [[nodiscard]] QByteArray goldenRecord(const QString& file, int number, int size) const {
@@ -66,7 +57,7 @@ class GoldenFiles : public AddressBookFixture {
   const QString golden_ = QStringLiteral(GOLDEN_FOLDER "/");
 };
 
-TEST_F(GoldenFiles, areReadAsMeant) {
+TEST_F(GoldenFiles, areReadCorrectly) {
   EXPECT_EQ(book_.contacts().size(), 7U);
   EXPECT_TRUE(*book_.findContact(zoe) == zoeContact());
   EXPECT_TRUE(*book_.findContact(every) == everyContact());
@@ -82,27 +73,27 @@ TEST_F(GoldenFiles, areReadAsMeant) {
   for (const QString& name : {zoe, full, u"Rubbish"_s})
     EXPECT_EQ(book_.findGroup(oddTeam)->members().at(name), book_.findContact(name));
   EXPECT_TRUE(book_.findGroup("a%")->contains(every));
-  EXPECT_THAT(notifier_.takeLines(), IsEmpty());
+  EXPECT_THAT(notifier_.popLines(), IsEmpty());
 }
 
 TEST_F(GoldenFiles, readingChangesNoByte) {
   for (const QString& name : QDir(golden_).entryList(QDir::Files))
-    EXPECT_EQ(readBytes(pathOf(name)), readBytes(golden_ + name)) << qPrintable(name);
+    EXPECT_EQ(readBytes(filePath(name)), readBytes(golden_ + name)) << qPrintable(name);
 }
 
-TEST_F(GoldenFiles, sameContactsAndMembersAreWrittenInTheSameBytes) {
-  AddressBook copy(pathOf("copy"), database_);
+TEST_F(GoldenFiles, sameContactsAndMembersHaveTheSameBytes) {
+  AddressBook copy(filePath("copy"), database_);
   ASSERT_TRUE(QDir(folder_.path()).mkdir("copy"));
   EXPECT_TRUE(copy.saveContact(zoeContact()) && copy.saveContact(everyContact()) &&
               copy.saveContact(fullContact()));
   EXPECT_TRUE(copy.createGroup(oddTeam, {zoe, full}));
   const auto contacts = [this](int number) { return goldenRecord(contactsFile, number, 512); };
   const auto members = [this](int number) { return goldenRecord(oddTeamFile, number, 256); };
-  EXPECT_EQ(readBytes(pathOf("copy/" + contactsFile)), contacts(0) + contacts(2) + contacts(3));
-  EXPECT_EQ(readBytes(pathOf("copy/" + oddTeamFile)), members(0) + members(2));
+  EXPECT_EQ(readBytes(filePath("copy/" + contactsFile)), contacts(0) + contacts(2) + contacts(3));
+  EXPECT_EQ(readBytes(filePath("copy/" + oddTeamFile)), members(0) + members(2));
 }
 
-TEST(ContactFileFormat, longValuesFillTheirFieldsAndNothingElse) {
+TEST(ContactFileFormat, longValuesAreTruncatedToTheirFields) {
   ContactRecord contact = {QString(81, u'n'), QString(21, u'1'), "Yes", {},
                            QString(21, u'2'), QString(61, u'e'), {}};
   for (QString& extra : contact.extra) extra = QString(41, u'x');
@@ -113,22 +104,22 @@ TEST(ContactFileFormat, longValuesFillTheirFieldsAndNothingElse) {
   EXPECT_EQ(packName(contact.name), QByteArray(80, 'n'));
 }
 
-TEST_F(GoldenFiles, changesTouchTheirBytesAlone) {
+TEST_F(GoldenFiles, changesAffectOnlyTheirBytes) {
   QByteArray contacts = readBytes(golden_ + contactsFile);
   QByteArray members = readBytes(golden_ + oddTeamFile);
   ContactRecord odd = *book_.findContact("Odd state");
   odd.extra[5] = "last";
   EXPECT_TRUE(book_.saveContact(odd));
   contacts.replace(4 * 512 + 383, 4, "last");
-  // The group's file lost this member once; the slot is still there.
+  // The group file has a deleted record of this member.
   EXPECT_TRUE(book_.addMember(oddTeam, zoeInSmall));
   members[256] = 1;
   EXPECT_TRUE(book_.deleteContact(zoe));
   contacts[0] = 0;
   members[0] = 0;
-  EXPECT_EQ(readBytes(pathOf(contactsFile)), contacts);
-  EXPECT_EQ(readBytes(pathOf(oddTeamFile)), members);
+  EXPECT_EQ(readBytes(filePath(contactsFile)), contacts);
+  EXPECT_EQ(readBytes(filePath(oddTeamFile)), members);
 }
 
 }  // namespace
-}  // namespace parlexo
+}  // namespace parlexo::test

@@ -1,21 +1,17 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Every failure that a disk or a system can bring: its message, and a file that is as it was.
+// Every failing system call: its message and the unchanged file.
 
 #include <cerrno>
-#include <functional>
-#include <memory>
 
 #include "contacts/item_database.h"
 #include "tests/contacts/failing_calls.h"
 #include "tests/contacts/store_fixture.h"
+#include "tests/support/test.h"
 
-namespace parlexo {
-
-using namespace Qt::StringLiterals;
-
+namespace parlexo::test {
 namespace {
 
-// Sizes that nothing else asks the memory for.
+// Sizes that no other allocation has.
 constexpr int oddRecordSize = 1021;
 constexpr int oddKeyWidth = 300;
 
@@ -29,8 +25,7 @@ const QByteArray original =
 
 enum class Index { Missing, Right, Early };
 
-class ItemDatabaseFailures : public StoreFixture {
- protected:
+struct ItemDatabaseFailures : StoreFixture {
   using Operation = std::function<bool()>;
   using Fault = std::function<std::unique_ptr<FailingCall>()>;
 
@@ -88,10 +83,10 @@ class ItemDatabaseFailures : public StoreFixture {
     EXPECT_TRUE(each.operation()) << "works again once the fault is gone: " << qPrintable(error_);
   }
 
-  QString path_ = pathOf(u"items.db"_s);
+  QString path_ = filePath(u"items.db"_s);
 };
 
-// What a new index takes from the memory in one piece.
+// The size of the allocation for a new index.
 std::size_t indexBytes() {
   const FailingCall counting(std::size_t{0});
   ItemIndexCache().create(QString());
@@ -103,7 +98,7 @@ auto failing(Arguments... arguments) {
   return [=] { return std::make_unique<FailingCall>(arguments...); };
 }
 
-TEST_F(ItemDatabaseFailures, ofReadingHaveTheirMessages) {
+TEST_F(ItemDatabaseFailures, ofReadHaveMessages) {
   const Case cases[] = {
       {"[readAllItems:2 - Database open error!]", reading(), failing(Call::Open, 0, EACCES)},
       {"[readAllItems:2 - Database open error!]", reading(), failing(Call::Lock, 0, ENOLCK)},
@@ -115,7 +110,7 @@ TEST_F(ItemDatabaseFailures, ofReadingHaveTheirMessages) {
   for (const Case& each : cases) expectMessage(each);
 }
 
-TEST_F(ItemDatabaseFailures, ofWritingHaveTheirMessages) {
+TEST_F(ItemDatabaseFailures, ofWriteHaveMessages) {
   const std::size_t head = oddKeyWidth + 1;
   const Case cases[] = {
       {"[getItemIndex:1 - Out of memory!]", writing("Anna"), failing(indexBytes()), Index::Missing},
@@ -139,7 +134,7 @@ TEST_F(ItemDatabaseFailures, ofWritingHaveTheirMessages) {
   for (const Case& each : cases) expectMessage(each);
 }
 
-TEST_F(ItemDatabaseFailures, ofDeletingHaveTheirMessages) {
+TEST_F(ItemDatabaseFailures, ofDeleteHaveMessages) {
   const Case cases[] = {
       {"[deleteItem:2 - Database access share error!]", deleting("Cleo"), failing(Call::Open, 0, EACCES)},
       {"[deleteItem:3 - Determine database size error!]", deleting("Cleo"), failing(Call::Status, 2, EIO)},
@@ -153,13 +148,13 @@ TEST_F(ItemDatabaseFailures, ofDeletingHaveTheirMessages) {
   for (const Case& each : cases) expectMessage(each);
 }
 
-TEST_F(ItemDatabaseFailures, ofCreatingHaveTheirMessages) {
+TEST_F(ItemDatabaseFailures, ofCreateHaveMessages) {
   expectMessage(
       {"[createDb:1 - Can't create the database!]", creating(), failing(Call::Open, 0, ENAMETOOLONG)});
   expectMessage({"[createDb:2 - Unknown error!]", creating(), failing(Call::Open, 0, FailingCall::throwing)});
 }
 
-TEST_F(ItemDatabaseFailures, fileHeldByServerIsWaitedForAndInterruptedCallsAreRepeated) {
+TEST_F(ItemDatabaseFailures, lockedFileIsWaitedForAndInterruptedCallsAreRepeated) {
   const struct {
     Call call;
     int passing;
@@ -168,7 +163,7 @@ TEST_F(ItemDatabaseFailures, fileHeldByServerIsWaitedForAndInterruptedCallsAreRe
     bool isMissing = false;
   } cases[] = {
       {Call::Open, 0, EBUSY, 1},        {Call::Open, 0, ETXTBSY, 1},
-      {Call::Open, 1, ENOENT, 1, true},  // a removed file that somebody has open can't be made anew
+      {Call::Open, 1, ENOENT, 1, true},  // a removed file that is still open can't be recreated
       {Call::Open, 1, ENOENT, 0},        // the file was removed between opening and locking
       {Call::Lock, 0, EWOULDBLOCK, 1},  {Call::Lock, 0, EACCES, 1},
       {Call::Open, 0, EINTR, 0},        {Call::Lock, 0, EINTR, 0},
@@ -186,4 +181,4 @@ TEST_F(ItemDatabaseFailures, fileHeldByServerIsWaitedForAndInterruptedCallsAreRe
 }
 
 }  // namespace
-}  // namespace parlexo
+}  // namespace parlexo::test

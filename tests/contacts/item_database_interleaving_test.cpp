@@ -1,22 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Files that another program has changed, damaged or locked. Two databases with an index each are two
-// programs.
-
-#include <optional>
+// Files changed, damaged or locked by another program, which is a second database with its own index.
 
 #include <QSet>
-#include <gtest/gtest.h>
 
 #include "tests/contacts/store_fixture.h"
+#include "tests/support/test.h"
 
-namespace parlexo {
-
-using namespace Qt::StringLiterals;
-
+namespace parlexo::test {
 namespace {
 
-class TwoPrograms : public StoreFixture {
- protected:
+struct TwoPrograms : StoreFixture {
   static QByteArray item(const char* key, char data, char state = ItemDatabase::recordInUse) {
     return state + QByteArray(key) + QByteArray(recordSize - keyWidth - 1, data);
   }
@@ -29,7 +22,7 @@ class TwoPrograms : public StoreFixture {
     return deleted;
   }
 
-  const QString path_ = pathOf(u"items.db"_s);
+  const QString path_ = filePath(u"items.db"_s);
   const QByteArray anna_ = item("Anna", 'a');
   const QByteArray bert_ = item("Bert", 'b');
   const QByteArray cleo_ = item("Cleo", 'c');
@@ -37,35 +30,32 @@ class TwoPrograms : public StoreFixture {
   ItemDatabase other_{otherCache_, waiter_};
 };
 
-TEST_F(TwoPrograms, deletionOfKeyThatOthersAppendedFindsNothing) {
+TEST_F(TwoPrograms, unknownKeyOfAnotherProgramIsNotDeleted) {
   EXPECT_TRUE(write(database_, anna_) && write(other_, bert_));
   EXPECT_FALSE(erase(database_, "Bert"));
   EXPECT_EQ(readBytes(path_), anna_ + bert_);
-  // The next new key makes it read the file again.
+  // A new key makes the database read the file again.
   EXPECT_TRUE(write(database_, cleo_));
   EXPECT_EQ(readBytes(path_), anna_ + bert_ + cleo_);
   EXPECT_TRUE(erase(database_, "Bert"));
 }
 
-TEST_F(TwoPrograms, damagedFilesTakeNewKeysAndKeepWhatTheyHold) {
+TEST_F(TwoPrograms, damagedFilesAcceptNewKeysAndKeepTheirData) {
   const QByteArray dora = item("Dora", 'd');
   const QByteArray torn = bert_.first(6);
-  const struct {
-    QByteArray damaged;
-    QByteArray kept;
-  } cases[] = {
+  const Cases<QByteArray, QByteArray> cases = {
       {anna_ + anna_, anna_ + anna_},
       {anna_ + torn, anna_ + torn + QByteArray(recordSize - 6, '\0')},
       {anna_ + bert_.first(3), anna_ + bert_.first(3) + QByteArray(recordSize - 3, '\0')},
       {torn, torn + QByteArray(recordSize - 6, '\0')},
       {bert_ + anna_ + bert_ + torn, bert_ + anna_ + bert_ + torn + QByteArray(recordSize - 6, '\0')},
   };
-  for (const auto& each : cases) {
-    writeBytes(path_, each.damaged);
+  for (const auto& [damaged, kept] : cases) {
+    writeBytes(path_, damaged);
     cache_.dropAllItemIndexes();
-    // The second append and the update use the index that the first one left.
+    // The second append and the update use the index of the first one.
     EXPECT_TRUE(write(database_, cleo_) && write(database_, dora) && write(database_, item("Cleo", 'z')));
-    EXPECT_EQ(readBytes(path_), each.kept + item("Cleo", 'z') + dora);
+    EXPECT_EQ(readBytes(path_), kept + item("Cleo", 'z') + dora);
   }
   EXPECT_EQ(error_, QString());
 }
@@ -76,7 +66,7 @@ TEST_F(TwoPrograms, knownKeyCompletesItsTornRecord) {
   EXPECT_EQ(readBytes(path_), anna_ + bert_ + cleo_);
 }
 
-TEST_F(TwoPrograms, deletionOfSeveralKeysLocksTheFileFromBeforeTheyAreChosen) {
+TEST_F(TwoPrograms, deletionLocksTheFileBeforeKeysAreChosen) {
   writeBytes(path_, anna_ + bert_ + anna_ + cleo_.first(9));
   const auto choose = [&](QString& error) -> std::optional<QSet<QByteArray>> {
     SharedFile writer;
@@ -97,4 +87,4 @@ TEST_F(TwoPrograms, deletionOfSeveralKeysLocksTheFileFromBeforeTheyAreChosen) {
 }
 
 }  // namespace
-}  // namespace parlexo
+}  // namespace parlexo::test

@@ -2,19 +2,14 @@
 #include "contacts/item_database.h"
 
 #include <QByteArrayList>
-#include <gmock/gmock.h>
 
 #include "tests/contacts/store_fixture.h"
+#include "tests/support/test.h"
 
-namespace parlexo {
-
-using namespace Qt::StringLiterals;
-
+namespace parlexo::test {
 namespace {
 
-using testing::ElementsAre;
-
-// The bytes of a record, or of its beginning: the first digit is the state byte, and a dot is a zero byte.
+// The bytes of a record or of its beginning: the first digit is the state byte, a dot is a zero byte.
 QByteArray record(const char* picture) {
   QByteArray bytes = QByteArray(picture).replace('.', '\0');
   bytes[0] = static_cast<char>(bytes[0] - '0');
@@ -25,8 +20,7 @@ const QByteArray anna = record("1Anna1111111");
 const QByteArray bob = record("1Bob.2222222");
 const QByteArray cleo = record("1Cleo3333333");
 
-class ItemDatabaseFixture : public StoreFixture {
- protected:
+struct ItemDatabaseFixture : StoreFixture {
   bool write(const QByteArray& record) {
     return database_.writeItem(error_, keyWidth, path_, recordSize, record, timeout);
   }
@@ -43,30 +37,30 @@ class ItemDatabaseFixture : public StoreFixture {
     return records;
   }
 
-  QString path_ = pathOf(u"items.db"_s);
+  QString path_ = filePath(u"items.db"_s);
 };
 
-TEST_F(ItemDatabaseFixture, everyOperationCreatesTheMissingFileEmptyOrWithItsRecord) {
+TEST_F(ItemDatabaseFixture, everyOperationCreatesAMissingFile) {
   EXPECT_TRUE(readAll().isEmpty());
   EXPECT_EQ(readBytes(path_), "");
 
   bool deleted = true;
-  path_ = pathOf(u"deleting.db"_s);
+  path_ = filePath(u"deleting.db"_s);
   EXPECT_TRUE(erase("Anna", deleted));
   EXPECT_FALSE(deleted);
   EXPECT_EQ(readBytes(path_), "");
 
-  path_ = pathOf(u"writing.db"_s);
+  path_ = filePath(u"writing.db"_s);
   EXPECT_TRUE(write(anna));
   EXPECT_EQ(readBytes(path_), anna);
 
-  path_ = pathOf(u"creating.db"_s);
+  path_ = filePath(u"creating.db"_s);
   EXPECT_TRUE(database_.createDb(error_, path_));
   EXPECT_EQ(readBytes(path_), "");
   EXPECT_EQ(error_, QString());
 }
 
-TEST_F(ItemDatabaseFixture, newKeysAreAppendedAndMarkedInUseWhateverTheirStateByte) {
+TEST_F(ItemDatabaseFixture, newKeysAreAppendedAndMarkedInUse) {
   QByteArray marked = bob;
   marked[0] = '\x7F';
   EXPECT_TRUE(write(anna) && write(marked) && write(cleo));
@@ -74,14 +68,13 @@ TEST_F(ItemDatabaseFixture, newKeysAreAppendedAndMarkedInUseWhateverTheirStateBy
 }
 
 TEST_F(ItemDatabaseFixture, writeOfStoredKeyChangesOnlyItsData) {
-  // A state byte other than 1 counts as in use, and bytes behind the key's end stay as another program
-  // left them.
+  // Any state byte except 0 means in use. Bytes after the end of the key are not changed.
   writeBytes(path_, anna + record("5Bo.x2222222") + cleo);
   EXPECT_TRUE(write(record("1Bo..9999999")));
   EXPECT_EQ(readBytes(path_), anna + record("5Bo.x9999999") + cleo);
 }
 
-TEST_F(ItemDatabaseFixture, writeOfDeletedKeyRevivesItsSlot) {
+TEST_F(ItemDatabaseFixture, writeOfADeletedKeyReusesItsRecord) {
   bool deleted = false;
   EXPECT_TRUE(write(anna) && write(bob) && erase("Anna", deleted));
   EXPECT_TRUE(deleted);
@@ -95,7 +88,7 @@ TEST_F(ItemDatabaseFixture, writeOfDeletedKeyRevivesItsSlot) {
   EXPECT_EQ(readBytes(path_), record("1Anna7777777") + bob);
 }
 
-TEST_F(ItemDatabaseFixture, keysCompareWholeAndByCase) {
+TEST_F(ItemDatabaseFixture, keysMatchExactly) {
   bool deleted = true;
   EXPECT_TRUE(write(anna) && write(bob));
   for (const char* key : {"anna", "Ann", "Annab", "bo", "Bob2", ""}) {
@@ -105,7 +98,7 @@ TEST_F(ItemDatabaseFixture, keysCompareWholeAndByCase) {
   EXPECT_EQ(readBytes(path_), anna + bob);
 }
 
-TEST_F(ItemDatabaseFixture, ofDoubledKeysTheLaterIsUsed) {
+TEST_F(ItemDatabaseFixture, lastOfDuplicateKeysIsUsed) {
   const QByteArray later = record("1Anna5555555");
   writeBytes(path_, anna + bob + later);
   EXPECT_TRUE(write(record("1Anna8888888")));
@@ -115,7 +108,7 @@ TEST_F(ItemDatabaseFixture, ofDoubledKeysTheLaterIsUsed) {
   EXPECT_EQ(readBytes(path_), anna + bob + record("0Anna8888888"));
 }
 
-TEST_F(ItemDatabaseFixture, visitorStopsTheReading) {
+TEST_F(ItemDatabaseFixture, visitorCanStopReading) {
   writeBytes(path_, anna + bob + cleo);
   int visited = 0;
   const auto stopAtSecond = [&](QByteArrayView) { return ++visited < 2; };
@@ -123,20 +116,17 @@ TEST_F(ItemDatabaseFixture, visitorStopsTheReading) {
   EXPECT_EQ(visited, 2);
 }
 
-TEST_F(ItemDatabaseFixture, shortLastRecordIsFilledUpFromTheOneBefore) {
-  const struct {
-    QByteArray file;
-    QByteArray lastRead;
-  } cases[] = {
+TEST_F(ItemDatabaseFixture, shortLastRecordIsPaddedFromThePreviousOne) {
+  const Cases<QByteArray, QByteArray> cases = {
       {anna + bob + record("1Cleo"), record("1Cleo2222222")},
       {anna + record("1B"), record("1Bnna1111111")},
       {record("1Cl"), record("1Cl.........")},
   };
-  for (const auto& each : cases) {
-    writeBytes(path_, each.file);
+  for (const auto& [file, lastRead] : cases) {
+    writeBytes(path_, file);
     const QByteArrayList records = readAll();
-    EXPECT_EQ(records.size(), each.file.size() / recordSize + 1);
-    EXPECT_EQ(records.last(), each.lastRead);
+    EXPECT_EQ(records.size(), file.size() / recordSize + 1);
+    EXPECT_EQ(records.last(), lastRead);
   }
 }
 
@@ -159,20 +149,20 @@ TEST_F(ItemDatabaseFixture, recordsBeyondOneReadingBlockKeepTheirOrder) {
   EXPECT_EQ(next, count + 1);
 }
 
-TEST_F(ItemDatabaseFixture, fileThatWasMadeAnewTakesKnownKeysWithoutGapsOrDoubles) {
+TEST_F(ItemDatabaseFixture, recreatedFileAcceptsKnownKeysWithoutGapsOrDuplicates) {
   EXPECT_TRUE(write(anna) && write(bob) && write(cleo));
   writeBytes(path_, bob);
   EXPECT_TRUE(write(cleo) && write(anna) && write(cleo));
   EXPECT_EQ(readBytes(path_), bob + cleo + anna);
 }
 
-TEST_F(ItemDatabaseFixture, fileThatKeepsChangingIsGivenUpAfterElevenAttempts) {
+TEST_F(ItemDatabaseFixture, writeGivesUpOnAChangingFileAfterElevenAttempts) {
   for (const int changes : {10, 11}) {
-    path_ = pathOf(QString::number(changes));
+    path_ = filePath(QString::number(changes));
     writeBytes(path_, {});
     int openings = 0;
     int appended = 0;
-    // Each attempt opens twice: to read the index, and to write.
+    // Each attempt opens the file twice: to read the index and to write.
     waiter_.onOpening = [&] {
       if (++openings % 2 == 1 || appended == changes) return;
       writeBytes(path_, readBytes(path_) + '\1' + QByteArray::number(++appended).leftJustified(11, '\0'));
@@ -185,17 +175,17 @@ TEST_F(ItemDatabaseFixture, fileThatKeepsChangingIsGivenUpAfterElevenAttempts) {
   EXPECT_EQ(waiter_.pauses(), 0);
 }
 
-TEST_F(ItemDatabaseFixture, unusableRecordsAndPathsGiveTheOperationsMessage) {
+TEST_F(ItemDatabaseFixture, invalidRecordsAndPathsAreReported) {
   bool deleted = false;
   EXPECT_FALSE(write({}));
   EXPECT_FALSE(write(anna.chopped(1)));
   EXPECT_EQ(error_, u"[writeItem:1 - Illegal data to write!]"_s.repeated(2));
 
-  // A folder where the file should be.
+  // A folder instead of the file.
   path_ = folder_.path();
   error_ = "kept ";
   EXPECT_FALSE(database_.createDb(error_, path_));
-  // The index of the failed reading stays, empty, so that the writing itself is tried next.
+  // The failed reading leaves an empty index, so the second write gets one step further.
   EXPECT_FALSE(write(anna) || write(anna));
   EXPECT_TRUE(erase("Anna", deleted));
   cache_.create(path_)->recordNumbers["Anna"] = 0;
@@ -219,4 +209,4 @@ TEST_F(ItemDatabaseFixture, droppedIndexIsReadAgain) {
 }
 
 }  // namespace
-}  // namespace parlexo
+}  // namespace parlexo::test

@@ -1,25 +1,20 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// What happens when other users hold the file.
+// Operations on a file that another process has locked.
 
 #include <sys/file.h>
-
-#include <functional>
 
 #include "contacts/item_database.h"
 #include "tests/contacts/other_process.h"
 #include "tests/contacts/store_fixture.h"
+#include "tests/support/test.h"
 
-namespace parlexo {
-
-using namespace Qt::StringLiterals;
-
+namespace parlexo::test {
 namespace {
 
-class WaitingFixture : public StoreFixture {
- protected:
+struct WaitingFixture : StoreFixture {
   WaitingFixture() {
     writeBytes(path_, record_);
-    // Its own index, so that the operations need not read the file first.
+    // With an index the operations need not read the file first.
     *cache_.create(path_) = {{{"Anna", 0}}, 1};
   }
   bool read() {
@@ -32,34 +27,30 @@ class WaitingFixture : public StoreFixture {
     return database_.deleteItem(error_, keyWidth, path_, "Anna", recordSize, deleted, timeout) && deleted;
   }
 
-  QString path_ = pathOf(u"items.db"_s);
+  QString path_ = filePath(u"items.db"_s);
   QByteArray record_ = QByteArray("\1Anna1111111", recordSize);
 };
 
-TEST_F(WaitingFixture, operationsGiveUpOnceMoreThanTheTimeoutHasPassed) {
-  const struct {
-    std::function<bool()> operation;
-    int lock;
-    const char* message;
-  } cases[] = {
+TEST_F(WaitingFixture, operationsFailAfterTheTimeout) {
+  const Cases<std::function<bool()>, int, const char*> cases = {
       {[this] { return read(); }, LOCK_EX, "[readAllItems:1 - Database access share error!]"},
       {[this] { return write(); }, LOCK_EX, "[writeItem:2 - Database access share error!]"},
       {[this] { return write(); }, LOCK_SH, "[writeItem:2 - Database access share error!]"},
       {[this] { return erase(); }, LOCK_EX, "[deleteItem:1 - Database access share error!]"},
   };
-  for (const auto& each : cases) {
-    const OtherProcess other(path_, each.lock);
+  for (const auto& [operation, lock, message] : cases) {
+    const OtherProcess other(path_, lock);
     const qint64 before = waiter_.pauses();
     error_.clear();
-    EXPECT_FALSE(each.operation());
-    EXPECT_EQ(error_, QLatin1String(each.message));
-    // Two seconds are not yet more than the time-out, three are: six pauses of half a second.
+    EXPECT_FALSE(operation());
+    EXPECT_EQ(error_, QLatin1String(message));
+    // Six pauses of half a second: only three seconds exceed the timeout of two.
     EXPECT_EQ(waiter_.pauses() - before, 6);
   }
   EXPECT_EQ(readBytes(path_), record_);
 }
 
-TEST_F(WaitingFixture, operationsSucceedWhenTheOtherProcessLeavesInTime) {
+TEST_F(WaitingFixture, operationsSucceedWhenTheLockIsReleasedInTime) {
   const std::function<bool()> operations[] = {[this] { return read(); }, [this] { return write(); },
                                               [this] { return erase(); }};
   for (const auto& operation : operations) {
@@ -79,7 +70,7 @@ TEST_F(WaitingFixture, operationsSucceedWhenTheOtherProcessLeavesInTime) {
   EXPECT_EQ(error_, QString());
 }
 
-TEST_F(WaitingFixture, indexIsReadWithItsOwnLongerPatience) {
+TEST_F(WaitingFixture, indexIsReadWithALongerTimeout) {
   database_.dropAllItemIndexes();
   const OtherProcess writer(path_, LOCK_EX);
   EXPECT_FALSE(write());
@@ -88,4 +79,4 @@ TEST_F(WaitingFixture, indexIsReadWithItsOwnLongerPatience) {
 }
 
 }  // namespace
-}  // namespace parlexo
+}  // namespace parlexo::test

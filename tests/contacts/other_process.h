@@ -6,12 +6,11 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include <QString>
-#include <gtest/gtest.h>
+#include "tests/support/test.h"
 
-namespace parlexo {
+namespace parlexo::test {
 
-/// Another process that has a file locked until it is told to leave.
+/// Another process that locks a file until leave().
 class OtherProcess {
  public:
   /// `lock` is LOCK_SH or LOCK_EX.
@@ -22,8 +21,8 @@ class OtherProcess {
     EXPECT_EQ(::pipe(ends), 0);
     leash_ = ends[1];
     process_ = ::fork();
-    if (process_ == 0) holdUntilLeashGoes(ends);
-    // The lock belongs to the description of the file, which the child alone has now.
+    if (process_ == 0) waitForRelease(ends);
+    // The lock belongs to the open file description, which only the child has now.
     ::close(file);
     ::close(ends[0]);
   }
@@ -39,7 +38,7 @@ class OtherProcess {
   }
 
  private:
-  [[noreturn]] static void holdUntilLeashGoes(const int (&ends)[2]) {
+  [[noreturn]] static void waitForRelease(const int (&ends)[2]) {
     ::close(ends[1]);
     char byte = 0;
     while (::read(ends[0], &byte, 1) > 0) continue;
@@ -50,4 +49,4 @@ class OtherProcess {
   pid_t process_ = -1;
 };
 
-}  // namespace parlexo
+}  // namespace parlexo::test

@@ -1,14 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "contacts/phone_number.h"
 
-#include <vector>
+#include "tests/support/test.h"
 
-#include <gtest/gtest.h>
-
-namespace parlexo {
-
-using namespace Qt::StringLiterals;
-
+namespace parlexo::test {
 namespace {
 
 using Problem = PhoneNumber::Problem;
@@ -18,14 +13,10 @@ std::string read(const char* written, const char* code) {
   return (number.isValid() ? number.text() : number.problemText()).toStdString();
 }
 
-TEST(PhoneNumber, readsNationalNumbersOfEveryKindOfCountry) {
-  const struct {
-    const char* written;
-    const char* code;
-    const char* number;
-  } cases[] = {
+TEST(PhoneNumber, parsesNationalNumbers) {
+  const Cases<const char*, const char*, const char*> cases = {
       {"0412 345 678", "+61", "+61412345678"},
-      {"412345678", "+61", "+61412345678"},  // a spreadsheet has dropped the zero
+      {"412345678", "+61", "+61412345678"},  // without the zero, as from a spreadsheet
       {"61412345678", "+61", "+61412345678"},
       {"1300 975 707", "+61", "+611300975707"},
       {"91234 56789", "+91", "+919123456789"},  // begins like its country code
@@ -56,13 +47,8 @@ TEST(PhoneNumber, removesDecorations) {
     EXPECT_EQ(read(written, "+49"), "+491711234567") << written;
 }
 
-TEST(PhoneNumber, refusesWhatItWouldHaveToGuess) {
-  const struct {
-    const char* written;
-    const char* code;
-    Problem problem;
-    const char* text;
-  } cases[] = {
+TEST(PhoneNumber, rejectsAmbiguousNumbers) {
+  const Cases<const char*, const char*, Problem, const char*> cases = {
       {" - ", "+61", Problem::Empty, ""},
       {"+61 2 9876 5432 ext. 5", "+61", Problem::NotANumber, ""},
       {"030 123456/78", "+49", Problem::NotANumber, ""},
@@ -91,11 +77,11 @@ TEST(PhoneNumber, refusesWhatItWouldHaveToGuess) {
       EXPECT_EQ(number.problemText().toStdString(), text) << written;
     }
   }
-  // Countries open new ranges: an unknown beginning is no fault of a number that says its country.
+  // Countries open new ranges, so unknown leading digits are accepted after a country code.
   EXPECT_EQ(read("+61 612 345 678", ""), "+61612345678");
 }
 
-TEST(PhoneNumber, knowsCallingCodes) {
+TEST(PhoneNumber, parsesCallingCodes) {
   for (const char16_t* typed : {u"61", u"+61", u"0061", u" + 61 "})
     EXPECT_EQ(PhoneNumber::parseCallingCode(typed), u"+61"_s);
   EXPECT_EQ(PhoneNumber::parseCallingCode(u""), QString());
@@ -106,4 +92,4 @@ TEST(PhoneNumber, knowsCallingCodes) {
 }
 
 }  // namespace
-}  // namespace parlexo
+}  // namespace parlexo::test

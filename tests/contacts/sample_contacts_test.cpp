@@ -2,17 +2,15 @@
 #include "contacts/samples/sample_contacts.h"
 
 #include "tests/contacts/store_fixture.h"
+#include "tests/support/test.h"
 
-namespace parlexo {
-
-using namespace Qt::StringLiterals;
-
+namespace parlexo::test {
 namespace {
 
 class SampleFolder : public AddressBookFixture {};
 
-TEST_F(SampleFolder, loadsBackWholeAndIsNotOverwritten) {
-  const QString folder = pathOf(u"new/contacts"_s);
+TEST_F(SampleFolder, isRestoredAndNotOverwritten) {
+  const QString folder = filePath(u"new/contacts"_s);
   ASSERT_EQ(writeSampleFolder(folder, 300, 12), QString());
   AddressBook book(folder, database_);
   EXPECT_TRUE(loadAll(book));
@@ -27,4 +25,4 @@ TEST_F(SampleFolder, loadsBackWholeAndIsNotOverwritten) {
 }
 
 }  // namespace
-}  // namespace parlexo
+}  // namespace parlexo::test

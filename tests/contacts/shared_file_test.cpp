@@ -6,31 +6,22 @@
 #include <atomic>
 #include <thread>
 
-#include <QFileInfo>
-
 #include "tests/contacts/file_size_limit.h"
 #include "tests/contacts/store_fixture.h"
+#include "tests/support/test.h"
 
-namespace parlexo {
-
-using namespace Qt::StringLiterals;
-
+namespace parlexo::test {
 namespace {
 
 using Mode = SharedFile::Mode;
 using OpenResult = SharedFile::OpenResult;
 
-class SharedFileFixture : public StoreFixture {
- protected:
-  QString path_ = pathOf(u"shared"_s);
+struct SharedFileFixture : StoreFixture {
+  QString path_ = filePath(u"shared"_s);
 };
 
-TEST_F(SharedFileFixture, modesShutEachOtherOut) {
-  const struct {
-    Mode holder;
-    Mode comer;
-    OpenResult result;
-  } cases[] = {
+TEST_F(SharedFileFixture, modesExcludeEachOther) {
+  const Cases<Mode, Mode, OpenResult> cases = {
       {Mode::Read, Mode::Read, OpenResult::Opened},
       {Mode::Read, Mode::Write, OpenResult::SharingViolation},
       {Mode::Read, Mode::Remove, OpenResult::SharingViolation},
@@ -42,28 +33,28 @@ TEST_F(SharedFileFixture, modesShutEachOtherOut) {
       {Mode::Create, Mode::Write, OpenResult::Opened},
   };
   writeBytes(path_, "x");
-  for (const auto& each : cases) {
+  for (const auto& [first, second, result] : cases) {
     SharedFile holder;
-    SharedFile comer;
-    EXPECT_EQ(holder.open(path_, each.holder), OpenResult::Opened);
-    EXPECT_EQ(comer.open(path_, each.comer), each.result) << int(each.holder) << int(each.comer);
+    SharedFile other;
+    EXPECT_EQ(holder.open(path_, first), OpenResult::Opened);
+    EXPECT_EQ(other.open(path_, second), result) << int(first) << int(second);
     holder.close();
-    EXPECT_EQ(comer.open(path_, each.comer), OpenResult::Opened);
+    EXPECT_EQ(other.open(path_, second), OpenResult::Opened);
   }
 }
 
-TEST_F(SharedFileFixture, onlyRemovalLeavesMissingFileMissing) {
+TEST_F(SharedFileFixture, onlyRemovalDoesNotCreateTheFile) {
   SharedFile file;
   EXPECT_EQ(file.open(path_, Mode::Remove), OpenResult::Failed);
   EXPECT_FALSE(QFileInfo::exists(path_));
-  EXPECT_EQ(file.open(pathOf(u"none/shared"_s), Mode::Write), OpenResult::Failed);
-  QFile::link(u"none/shared"_s, pathOf(u"link"_s));
-  EXPECT_EQ(file.open(pathOf(u"link"_s), Mode::Write), OpenResult::Failed);
+  EXPECT_EQ(file.open(filePath(u"none/shared"_s), Mode::Write), OpenResult::Failed);
+  QFile::link(u"none/shared"_s, filePath(u"link"_s));
+  EXPECT_EQ(file.open(filePath(u"link"_s), Mode::Write), OpenResult::Failed);
   EXPECT_EQ(file.open(path_, Mode::Read), OpenResult::Opened);
   EXPECT_EQ(file.size(), 0);
 }
 
-TEST_F(SharedFileFixture, appendThatDoesNotFitIsCutBack) {
+TEST_F(SharedFileFixture, partialAppendIsUndone) {
   writeBytes(path_, QByteArray(100, 'a'));
   SharedFile file;
   ASSERT_EQ(file.open(path_, Mode::Write), OpenResult::Opened);
@@ -77,20 +68,20 @@ TEST_F(SharedFileFixture, appendThatDoesNotFitIsCutBack) {
   EXPECT_EQ(readBytes(path_), QByteArray(100, 'a'));
 }
 
-TEST_F(SharedFileFixture, onlyOrdinaryFilesOfTheWholePathAreOpened) {
+TEST_F(SharedFileFixture, onlyRegularFilesAreOpened) {
   ASSERT_EQ(::mkfifo(qPrintable(path_), 0600), 0);
-  writeBytes(pathOf(u"cut"_s), "x");
-  const QString withZero = pathOf(u"cut"_s) + QChar(u'\0') + u".grp"_s;
+  writeBytes(filePath(u"cut"_s), "x");
+  const QString withZero = filePath(u"cut"_s) + QChar(u'\0') + u".grp"_s;
   for (const Mode mode : {Mode::Read, Mode::Write, Mode::Erase, Mode::Create, Mode::Remove}) {
     SharedFile file;
     EXPECT_EQ(file.open(path_, mode), OpenResult::Failed) << "a pipe";
     EXPECT_EQ(file.open(folder_.path(), mode), OpenResult::Failed) << "a folder";
     EXPECT_EQ(file.open(withZero, mode), OpenResult::Failed) << "a zero in the path";
   }
-  EXPECT_EQ(readBytes(pathOf(u"cut"_s)), "x");
+  EXPECT_EQ(readBytes(filePath(u"cut"_s)), "x");
 }
 
-TEST_F(SharedFileFixture, openedFileIsNeverOneThatWasRemovedMeanwhile) {
+TEST_F(SharedFileFixture, openedFileHasNotBeenRemoved) {
   std::atomic<bool> done = false;
   std::thread remover([&] {
     while (!done) {
@@ -111,4 +102,4 @@ TEST_F(SharedFileFixture, openedFileIsNeverOneThatWasRemovedMeanwhile) {
 }
 
 }  // namespace
-}  // namespace parlexo
+}  // namespace parlexo::test

@@ -2,22 +2,19 @@
 #include <windows.h>
 
 #include <QCoreApplication>
-#include <QDir>
 #include <QProcess>
 
 #include "contacts/shared_file.h"
 #include "tests/contacts/store_fixture.h"
+#include "tests/support/test.h"
 
-namespace parlexo {
-
-using namespace Qt::StringLiterals;
-
+namespace parlexo::test {
 namespace {
 
 using Mode = SharedFile::Mode;
 using OpenResult = SharedFile::OpenResult;
 
-/// Another process that has a file open until it is told to leave.
+/// Another process that has a file open until leave().
 class Holder {
  public:
   Holder(const QString& path, Mode mode) {
@@ -40,15 +37,14 @@ class Holder {
   QProcess process_;
 };
 
-class SharingBetweenProcesses : public StoreFixture {
- protected:
+struct SharingBetweenProcesses : StoreFixture {
   SharingBetweenProcesses() { writeBytes(path_, record_); }
 
   QByteArray record_ = QByteArray("\1Anna1111111", recordSize);
-  QString path_ = pathOf(u"items.db"_s);
+  QString path_ = filePath(u"items.db"_s);
 };
 
-TEST_F(SharingBetweenProcesses, modesShutOthersOut) {
+TEST_F(SharingBetweenProcesses, modesExcludeOtherProcesses) {
   constexpr auto opened = OpenResult::Opened;
   constexpr auto refused = OpenResult::SharingViolation;
   const struct {
@@ -73,8 +69,8 @@ TEST_F(SharingBetweenProcesses, modesShutOthersOut) {
   }
 }
 
-// So does a reader of the program for other systems look that has the folder mounted over SMB.
-TEST_F(SharingBetweenProcesses, eraserAndAReaderThatSharesEverythingButHoldsALockShutEachOtherOut) {
+// Readers on other systems that mount the folder over SMB look like this.
+TEST_F(SharingBetweenProcesses, eraserAndALockingReaderExcludeEachOther) {
   constexpr DWORD everything = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
   const HANDLE reader = CreateFileW(QDir::toNativeSeparators(path_).toStdWString().c_str(), GENERIC_READ,
                                     everything, nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
@@ -95,7 +91,7 @@ TEST_F(SharingBetweenProcesses, eraserAndAReaderThatSharesEverythingButHoldsALoc
   CloseHandle(reader);
 }
 
-TEST_F(SharingBetweenProcesses, writerWaitsForAReaderElsewhereAndGivesUpAfterTheTimeout) {
+TEST_F(SharingBetweenProcesses, writerWaitsForAReaderUntilTheTimeout) {
   Holder reader(path_, Mode::Read);
   EXPECT_FALSE(database_.writeItem(error_, keyWidth, path_, recordSize, record_, timeout));
   EXPECT_EQ(error_, u"[writeItem:2 - Database access share error!]"_s);
@@ -106,7 +102,7 @@ TEST_F(SharingBetweenProcesses, writerWaitsForAReaderElsewhereAndGivesUpAfterThe
   EXPECT_EQ(readBytes(path_), record_);
 }
 
-TEST_F(SharingBetweenProcesses, removedFileIsGoneAndAMissingOneStaysMissing) {
+TEST_F(SharingBetweenProcesses, removalDoesNotCreateTheFile) {
   {
     SharedFile file;
     ASSERT_EQ(file.open(path_, Mode::Remove), OpenResult::Opened);
@@ -118,14 +114,14 @@ TEST_F(SharingBetweenProcesses, removedFileIsGoneAndAMissingOneStaysMissing) {
   EXPECT_FALSE(QFile::exists(path_));
 }
 
-TEST_F(SharingBetweenProcesses, everyWayToWriteAPathLeadsToTheSameFile) {
+TEST_F(SharingBetweenProcesses, allFormsOfAPathAreEquivalent) {
   const QString folder = folder_.filePath(QString::fromUtf8("Gr\u00fc\u00dfe \u4f60\u597d"));
   ASSERT_TRUE(QDir().mkdir(folder));
   const QString file = folder + u"/f.db"_s;
   const QString native = QDir::toNativeSeparators(file);
   writeBytes(file, "12345");
   ASSERT_TRUE(QDir::setCurrent(folder_.path())) << "a path without a drive means that of the current folder";
-  // The folder for temporary files may lie on a share.
+  // The folder for temporary files may be on a share.
   const bool isOnShare = native.startsWith(u"\\\\"_s);
   const QStringList others = isOnShare ? QStringList(u"\\\\?\\UNC\\"_s + native.mid(2))
                                        : QStringList{u"\\\\?\\"_s + native, native.mid(2)};
@@ -134,10 +130,10 @@ TEST_F(SharingBetweenProcesses, everyWayToWriteAPathLeadsToTheSameFile) {
     EXPECT_EQ(shared.open(path, Mode::Read), OpenResult::Opened) << path.toStdString();
     EXPECT_EQ(shared.size(), 5) << path.toStdString();
   }
-  // On a share "nul" is a name like any other.
-  const QString device = isOnShare ? u"nul"_s : pathOf(u"nul"_s);
+  // On a share "nul" is an ordinary name.
+  const QString device = isOnShare ? u"nul"_s : filePath(u"nul"_s);
   for (const QString& path :
-       {folder, device, file + QChar(u'\0') + u'x', pathOf(u"a*b"_s), pathOf(u"none/x"_s)}) {
+       {folder, device, file + QChar(u'\0') + u'x', filePath(u"a*b"_s), filePath(u"none/x"_s)}) {
     SharedFile shared;
     EXPECT_EQ(shared.open(path, Mode::Write), OpenResult::Failed) << path.toStdString();
   }
@@ -145,4 +141,4 @@ TEST_F(SharingBetweenProcesses, everyWayToWriteAPathLeadsToTheSameFile) {
 }
 
 }  // namespace
-}  // namespace parlexo
+}  // namespace parlexo::test

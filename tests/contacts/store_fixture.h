@@ -1,32 +1,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <functional>
-#include <ostream>
-#include <utility>
-
-#include <QByteArray>
-#include <QString>
-#include <QStringList>
-#include <QTemporaryDir>
-#include <gtest/gtest.h>
-
-#include "base/progress.h"
 #include "contacts/address_book.h"
 #include "contacts/item_database.h"
 #include "tests/support/file_bytes.h"
-#include "tests/support/recording_notifier.h"
+#include "tests/support/recording_progress.h"
+#include "tests/support/test.h"
 
-/// Lets a failed comparison show texts as texts.
-inline void PrintTo(const QString& text, std::ostream* out) {
-  *out << '"' << text.toStdString() << '"';
-}
+namespace parlexo::test {
 
-namespace parlexo {
-
-/// A clock that only pauses move, with places to let other users act meanwhile.
-class FakeWaiter final : public LockWaiter {
- public:
+/// A clock that advances only by pauses, with hooks for the actions of other users.
+struct FakeWaiter final : LockWaiter {
   qint64 nowSeconds() override {
     if (onOpening) onOpening();
     return halfSeconds_ / 2;
@@ -46,37 +30,22 @@ class FakeWaiter final : public LockWaiter {
   qint64 halfSeconds_ = 0;
 };
 
-class RecordingProgress final : public Progress {
- public:
-  void show(const QString& text = {}) override { opened.append(text); }
-  void setText(const QString& text) override {
-    texts.append(text);
-    if (onText) onText(text);
-  }
-  void hide() override {}
-
-  QStringList opened;  ///< the texts with which the box was opened
-  QStringList texts;
-  std::function<void(const QString&)> onText;
-};
-
-/// A record of 12 bytes is what the tests of the database itself store: state, key of 4, data of 7.
+/// The records of the database tests have 12 bytes: the state, a key of 4 and data of 7.
 inline constexpr int recordSize = 12;
 inline constexpr int keyWidth = 4;
 inline constexpr int timeout = 2;
 
 inline const QString contactsFile = QStringLiteral("All Contacts.all_grp");
 
-/// The record as it lies in the file after its deletion.
+/// The bytes of a record after its deletion.
 inline QByteArray deletedRecord(QByteArray record) {
   record[0] = ItemDatabase::recordDeleted;
   return record;
 }
 
-/// A folder of its own with a database that never really sleeps.
-class StoreFixture : public testing::Test {
- protected:
-  [[nodiscard]] QString pathOf(const QString& name) const { return folder_.filePath(name); }
+/// A temporary folder with a database that never sleeps.
+struct StoreFixture : testing::Test {
+  [[nodiscard]] QString filePath(const QString& name) const { return folder_.filePath(name); }
 
   QTemporaryDir folder_;
   ItemIndexCache cache_;
@@ -85,8 +54,7 @@ class StoreFixture : public testing::Test {
   QString error_;
 };
 
-class AddressBookFixture : public StoreFixture {
- protected:
+struct AddressBookFixture : StoreFixture {
   RecordingNotifier notifier_;
   RecordingProgress progress_;
   AddressBook book_{folder_.path(), database_};
@@ -101,4 +69,4 @@ class AddressBookFixture : public StoreFixture {
   }
 };
 
-}  // namespace parlexo
+}  // namespace parlexo::test

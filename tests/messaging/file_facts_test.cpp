@@ -1,24 +1,19 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "messaging/core/file_facts.h"
 
-#include <QTemporaryDir>
-#include <gtest/gtest.h>
-
 #include "tests/support/file_bytes.h"
+#include "tests/support/test.h"
 
-namespace parlexo {
+namespace parlexo::test {
 namespace {
 
-TEST(FileFacts, tellNameSizeLimitAndWhatIsWrong) {
+TEST(FileFacts, containNameSizeLimitAndProblem) {
   const QTemporaryDir folder;
   const auto write = [&folder](const char* name, qsizetype size) {
     return writeBytes(folder.filePath(QString::fromUtf8(name)), QByteArray(size, 'x'));
   };
   constexpr qint64 limit = 51'200;
-  const struct {
-    QString path;
-    const char* text;
-  } samples[] = {
+  const Cases<QString, const char*> samples = {
       {write("a.jpg", 1), "a.jpg: 1 byte of at most 50 KB"},
       {write("b.jpg", 1023), "b.jpg: 1,023 bytes of at most 50 KB"},
       {write("c.jpg", 35'021), "c.jpg: 34.2 KB of at most 50 KB"},
@@ -31,12 +26,11 @@ TEST(FileFacts, tellNameSizeLimitAndWhatIsWrong) {
       {folder.path(), "This is a folder or a device, not a file."},
       {folder.filePath("missing"), "There is no such file."},
   };
-  for (const auto& sample : samples)
-    EXPECT_EQ(fileFacts(sample.path, limit).text(), QString::fromUtf8(sample.text));
+  for (const auto& [path, text] : samples) EXPECT_EQ(fileFacts(path, limit).text(), QString::fromUtf8(text));
   FileFacts fax = fileFacts(write("f.pdf", 254), limit);
   fax.pages = 1;
   EXPECT_EQ(fax.text(), "f.pdf: 254 bytes of at most 50 KB, 1 page");
 }
 
 }  // namespace
-}  // namespace parlexo
+}  // namespace parlexo::test

@@ -5,31 +5,19 @@
 
 #include <QCoreApplication>
 #include <QCryptographicHash>
-#include <QDir>
-#include <QFile>
-#include <QFileInfo>
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include "tests/messaging/gateway_rig.h"
 #include "tests/messaging/memory_refusal.h"
 #include "tests/support/file_bytes.h"
+#include "tests/support/test.h"
 
-namespace parlexo {
-
-using namespace Qt::StringLiterals;
-
+namespace parlexo::test {
 namespace {
-
-using simulator::FaultKind;
-using testing::ElementsAre;
-using testing::IsEmpty;
-using testing::SizeIs;
 
 constexpr int limitOfFax = 2 * 1024 * 1024;
 constexpr int limitOfMobile = 50 * 1024;
 
-/// What a user meets on one of the pages.
+/// The texts and rules of one message type.
 struct Page {
   MessageType type;
   const char* operation;
@@ -70,8 +58,7 @@ void PrintTo(const Page& page, std::ostream* out) {
   *out << toWord(page.type).toStdString();
 }
 
-class FileSending : public testing::TestWithParam<Page>, protected GatewayRig {
- protected:
+struct FileSending : testing::TestWithParam<Page>, GatewayRig {
   explicit FileSending(const simulator::Options& options = {}) : GatewayRig(options) {
     state.gateway.maxFileSize = limitOfFax;
     state.gateway.maxFileSizeMobile = limitOfMobile;
@@ -85,25 +72,24 @@ class FileSending : public testing::TestWithParam<Page>, protected GatewayRig {
   QString write(const QString& name, const QByteArray& bytes) {
     return writeBytes(folder.filePath(name), bytes);
   }
-  FileDraft draftOf(const QString& path, const QString& numbers = u"+61491570156"_s) {
+  FileDraft draftFor(const QString& path, const QString& numbers = u"+61491570156"_s) {
     return {path, {}, u"somebody"_s, numbers, {}};
   }
-  FileDraft goodDraft() { return draftOf(write(u"good.bin"_s, content(1000))); }
+  FileDraft goodDraft() { return draftFor(write(u"good.bin"_s, content(1000))); }
   SendOutcome send(const FileDraft& draft) { return FileSendFlow(services(), GetParam().type).send(draft); }
   std::string cannotOpen(const QString& path) {
     return GetParam().cannotOpen + QDir::toNativeSeparators(path).toStdString();
   }
 };
 
-TEST_P(FileSending, acceptedFileArrivesByteForByteAndIsLogged) {
+TEST_P(FileSending, acceptedFileIsSentUnchangedAndLogged) {
   const QByteArray bytes = content(40'000);
   FileDraft draft =
-      draftOf(write(QString::fromUtf8("Gr\u00FC\u00DFe \u4F60.jpg"), bytes), u"+61491570156,+60312345678"_s);
+      draftFor(write(QString::fromUtf8("Gr\u00FC\u00DFe \u4F60.jpg"), bytes), u"+61491570156,+60312345678"_s);
   draft.note = QString::fromUtf8("Caf\u00E9 & <b>\n\u20AC");
   state.senderId = u"+61491570999"_s;
   EXPECT_EQ(send(draft), SendOutcome::Delivered);
-  EXPECT_THAT(journal, ElementsAre("(box)", "(no box)", GetParam().success));
-  EXPECT_EQ(notifier.shown.back().style, message_style::information);
+  EXPECT_THAT(journal, ElementsAre("(box)", "(no box)", QString("64 ") + GetParam().success));
   QStringList expected{"scheduleMessageDisable", "setSmsSenderId", GetParam().operation};
   if (!GetParam().usesSenderId) expected.removeAt(1);
   EXPECT_EQ(operations(), expected);
@@ -119,81 +105,130 @@ TEST_P(FileSending, acceptedFileArrivesByteForByteAndIsLogged) {
   EXPECT_EQ(entry.type, toWord(GetParam().type));
 }
 
-TEST_P(FileSending, messagesAfterTheSendAreTheKindsOwn) {
+TEST_P(FileSending, resultsHaveTheMessagesOfTheType) {
   FileDraft draft = goodDraft();
   draft.numbersList = u"+61491570156,+61491570199"_s;
   EXPECT_EQ(send(draft), SendOutcome::PartlyFailed);
-  misbehave(FaultKind::Code, QString::fromLatin1(GetParam().operation), 12);
+  setFault(FaultKind::Code, QString::fromLatin1(GetParam().operation), 12);
   EXPECT_EQ(send(draft), SendOutcome::NotSent);
   simulator.clearFaults();
-  misbehave(FaultKind::Close, QString::fromLatin1(GetParam().operation));
+  setFault(FaultKind::Close, QString::fromLatin1(GetParam().operation));
   EXPECT_EQ(send(draft), SendOutcome::OutcomeUnknown);
-  EXPECT_THAT(notifier.takeTexts(),
-              ElementsAre(GetParam().warning, GetParam().refused, GetParam().unreached));
+  EXPECT_THAT(notifier.popTexts(), ElementsAre(GetParam().warning, GetParam().refused, GetParam().unreached));
   EXPECT_EQ(operations().count(QString::fromLatin1(GetParam().operation)), 3);
   EXPECT_THAT(log.entries(), SizeIs(2));
 }
 
-TEST_P(FileSending, whatIsMissingStopsBeforeAnyCallInThePagesOrder) {
-  const QString large = write(u"large"_s, content(GetParam().limit + 1));
+TEST_P(FileSending, missingInputIsReportedInOrderBeforeAnyCall) {
   FileDraft draft;
   draft.note = QString(10'241, QChar(u'x'));
   state.balanceIsZero = true;
-  const auto expectRefusal = [&](const std::string& message, SendOutcome outcome,
-                                 unsigned style = message_style::stop) {
+  const auto expectRefusal = [&](const std::string& line, SendOutcome outcome) {
     EXPECT_EQ(send(draft), outcome);
-    EXPECT_EQ(notifier.shown.back().style, style);
-    EXPECT_THAT(notifier.takeTexts(), ElementsAre(testing::StartsWith(message)));
+    EXPECT_THAT(notifier.popLines().join(u'\n').toStdString(), StartsWith(line));
   };
-  expectRefusal(GetParam().noFile, SendOutcome::FileAtFault);
-  draft.path = large;
-  expectRefusal("The contacts list is blank. Select contacts to send message to.",
+  const std::string stop = "16 ";
+  expectRefusal(stop + GetParam().noFile, SendOutcome::FileAtFault);
+  draft.path = folder.filePath(u"missing"_s);
+  expectRefusal(stop + "The contacts list is blank. Select contacts to send message to.",
                 SendOutcome::RecipientsAtFault);
   draft.displayList = u"Ann [+1]"_s;
   if (GetParam().type == MessageType::Mms)
-    expectRefusal("Description must be 10Kb or less", SendOutcome::MessageAtFault);
+    expectRefusal(stop + "Description must be 10Kb or less", SendOutcome::MessageAtFault);
   draft.note.chop(1);
-  expectRefusal("Your account balance is zero.\r\n", SendOutcome::NotSent, message_style::information);
+  expectRefusal("64 Your account balance is zero.\r\n", SendOutcome::NotSent);
   state.balanceIsZero = false;
-  expectRefusal(GetParam().tooLarge, SendOutcome::FileAtFault);
+  expectRefusal(stop + cannotOpen(draft.path), SendOutcome::FileAtFault);
+  draft.path = write(u"large"_s, content(GetParam().limit + 1));
+  expectRefusal(stop + GetParam().tooLarge, SendOutcome::FileAtFault);
   EXPECT_THAT(operations(), IsEmpty());
 }
 
 TEST_P(FileSending, limitOfTheLocatorIsTheLargestLength) {
-  EXPECT_EQ(send(draftOf(write(u"full"_s, content(GetParam().limit)))), SendOutcome::Delivered);
+  EXPECT_EQ(send(draftFor(write(u"full"_s, content(GetParam().limit)))), SendOutcome::Delivered);
   EXPECT_EQ(simulator.messages().at(0).fileSize, GetParam().limit);
-  notifier.shown.clear();
-  state.gateway = {state.gateway.latestClientVersion, {}, 0, 0, 0, state.gateway.endpoint};
-  EXPECT_EQ(send(draftOf(write(u"byte"_s, "x"))), SendOutcome::FileAtFault);
-  EXPECT_THAT(notifier.takeTexts(), ElementsAre(GetParam().tooLarge));
-  EXPECT_EQ(send(draftOf(write(u"empty"_s, ""))), SendOutcome::NotSent);
-  EXPECT_EQ(operations().back(), GetParam().operation) << "an empty file is the gateway's to judge";
+  state.gateway.maxFileSize = 0;
+  state.gateway.maxFileSizeMobile = 0;
+  EXPECT_EQ(send(draftFor(write(u"byte"_s, "x"))), SendOutcome::FileAtFault);
+  EXPECT_EQ(send(draftFor(write(u"empty"_s, ""))), SendOutcome::NotSent);
+  EXPECT_EQ(operations().back(), GetParam().operation) << "an empty file is left to the gateway";
 }
 
-TEST_P(FileSending, whatIsNoWritableFileCannotBeOpened) {
+TEST_P(FileSending, lackOfMemoryIsReportedAfterTheCallsBefore) {
+  const FileDraft draft = draftFor(write(u"big"_s, content(limitOfMobile)));
+  const auto outcome = [&] {
+    const MemoryRefusal refusal(limitOfMobile);
+    return send(draft);
+  }();
+  EXPECT_EQ(outcome, SendOutcome::FileAtFault);
+  EXPECT_EQ(notifier.popLines(), QStringList(QString("16 ") + GetParam().noMemory));
+  EXPECT_EQ(operations(), QStringList("scheduleMessageDisable"));
+  EXPECT_EQ(send(draft), SendOutcome::Delivered);
+}
+
+INSTANTIATE_TEST_SUITE_P(, FileSending, testing::ValuesIn(pages),
+                         [](const auto& page) { return toWord(page.param.type).toStdString(); });
+
+/// The rules that all types share, checked for one of them over a slow connection.
+struct FaxSending : FileSending {
+  FaxSending() : FileSending(slowUpload()) {}
+
+  static simulator::Options slowUpload() {
+    simulator::Options options;
+    options.uploadRate = 1'000'000;
+    return options;
+  }
+};
+
+TEST_P(FaxSending, progressShowsTheTransfer) {
+  std::vector<std::int64_t> seen;
+  std::atomic<bool> over = false;
+  std::thread watcher([&] {
+    while (!over) {
+      std::this_thread::sleep_for(std::chrono::milliseconds(50));
+      if (!progress.transfers.empty()) seen.push_back(progress.transfers.front().done());
+    }
+  });
+  const SendOutcome outcome = send(draftFor(write(u"long.tif"_s, content(700'000))));
+  over = true;
+  watcher.join();
+  EXPECT_EQ(outcome, SendOutcome::Delivered);
+  EXPECT_TRUE(std::is_sorted(seen.begin(), seen.end()));
+  const auto isHalfway = [](std::int64_t done) { return done > 100'000 && done < 600'000; };
+  EXPECT_GE(std::count_if(seen.begin(), seen.end(), isHalfway), 2);
+  EXPECT_EQ(progress.transfers.front().done(), 700'000);
+  EXPECT_EQ(progress.transfers.front().total(), 700'000);
+}
+
+TEST_P(FaxSending, cancelledUploadIsNotSent) {
+  runner.cancel(2, std::chrono::milliseconds(300));
+  EXPECT_EQ(send(draftFor(write(u"long.tif"_s, content(700'000)))), SendOutcome::NotSent);
+  EXPECT_LT(progress.transfers.front().done(), 600'000);
+  EXPECT_THAT(notifier.popTexts(), ElementsAre(GetParam().unreached));
+  EXPECT_THAT(simulator.messages(), IsEmpty());
+}
+
+TEST_P(FaxSending, onlyReadableAndWritableFilesAreOpened) {
   const QString link = folder.filePath(u"dangling"_s);
-  QStringList paths;
-  // Windows makes a file of its own kind where others make a link.
-  if (QFile::link(folder.filePath(u"nowhere"_s), link) && QFileInfo(link).isSymbolicLink()) paths << link;
   const QString missing = folder.filePath(u"missing"_s);
-  // The system lets nobody, root included, write to a program that runs.
-  const QString unwritable = QCoreApplication::applicationFilePath();
-  paths << missing << folder.path() << u"/dev/zero"_s << unwritable;
+  // No user can write to a running program, not even root.
+  QStringList paths{missing, folder.path(), u"/dev/zero"_s, QCoreApplication::applicationFilePath()};
+  // Windows creates a shortcut file instead of a link.
+  if (QFile::link(folder.filePath(u"nowhere"_s), link) && QFileInfo(link).isSymbolicLink()) paths << link;
   for (const QString& path : paths) {
-    EXPECT_EQ(send(draftOf(path)), SendOutcome::FileAtFault);
-    EXPECT_EQ(notifier.shown.back().style, message_style::stop);
-    EXPECT_THAT(notifier.takeTexts(), ElementsAre(cannotOpen(path)));
+    EXPECT_EQ(send(draftFor(path)), SendOutcome::FileAtFault);
+    EXPECT_THAT(notifier.popTexts(), ElementsAre(cannotOpen(path)));
   }
   EXPECT_FALSE(QFile::exists(missing)) << "opening must not create it";
   EXPECT_THAT(operations(), IsEmpty());
 }
 
-TEST_P(FileSending, fileThatChangesWhileItWaitsIsNotSentUnlessItIsOnlyRemoved) {
+TEST_P(FaxSending, changedFileIsNotSentButARemovedOneIs) {
   const FileDraft draft = goodDraft();
   for (const int size : {999, 1001}) {
     runner.onRun = [&] { QFile::resize(draft.path, size); };
     EXPECT_EQ(send(draft), SendOutcome::FileAtFault) << size;
-    EXPECT_THAT(notifier.takeTexts(), ElementsAre(cannotOpen(draft.path))) << size;
+    EXPECT_THAT(notifier.popTexts(), ElementsAre(cannotOpen(draft.path))) << size;
     QFile::resize(draft.path, 1000);
   }
   EXPECT_FALSE(operations().contains(GetParam().operation));
@@ -202,65 +237,8 @@ TEST_P(FileSending, fileThatChangesWhileItWaitsIsNotSentUnlessItIsOnlyRemoved) {
   EXPECT_EQ(simulator.messages().at(0).fileSize, 1000);
 }
 
-TEST_P(FileSending, lackOfMemoryIsToldAfterTheCallsBefore) {
-  const FileDraft draft = draftOf(write(u"big"_s, content(limitOfMobile)));
-  const auto outcome = [&] {
-    const MemoryRefusal refusal(limitOfMobile);
-    return send(draft);
-  }();
-  EXPECT_EQ(outcome, SendOutcome::FileAtFault);
-  EXPECT_EQ(notifier.shown.back().style, message_style::stop);
-  EXPECT_THAT(notifier.takeTexts(), ElementsAre(GetParam().noMemory));
-  EXPECT_EQ(operations(), QStringList("scheduleMessageDisable"));
-  EXPECT_EQ(send(draft), SendOutcome::Delivered);
-}
-
-INSTANTIATE_TEST_SUITE_P(, FileSending, testing::ValuesIn(pages),
-                         [](const auto& page) { return toWord(page.param.type).toStdString(); });
-
-class SlowFileSending : public FileSending {
- protected:
-  SlowFileSending() : FileSending(slowly()) {}
-
-  static simulator::Options slowly() {
-    simulator::Options options;
-    options.uploadRate = 1'000'000;
-    return options;
-  }
-
-  const FileDraft draft_ = draftOf(write(u"long.tif"_s, content(700'000)));
-};
-
-TEST_P(SlowFileSending, transferIsFollowedWhileTheFileGoesOut) {
-  std::vector<std::int64_t> seen;
-  std::atomic<bool> over = false;
-  std::thread watcher([&] {
-    while (!over) {
-      std::this_thread::sleep_for(std::chrono::milliseconds(50));
-      if (!transfers().empty()) seen.push_back(transfers().front().done());
-    }
-  });
-  const SendOutcome outcome = send(draft_);
-  over = true;
-  watcher.join();
-  EXPECT_EQ(outcome, SendOutcome::Delivered);
-  EXPECT_TRUE(std::is_sorted(seen.begin(), seen.end()));
-  const auto isHalfway = [](std::int64_t done) { return done > 100'000 && done < 600'000; };
-  EXPECT_GE(std::count_if(seen.begin(), seen.end(), isHalfway), 2);
-  EXPECT_EQ(transfers().front().done(), 700'000);
-  EXPECT_EQ(transfers().front().total(), 700'000);
-}
-
-TEST_P(SlowFileSending, cancelledHalfwayItHasNotBeenSent) {
-  runner.cancel(2, std::chrono::milliseconds(300));
-  EXPECT_EQ(send(draft_), SendOutcome::NotSent);
-  EXPECT_LT(transfers().front().done(), 600'000);
-  EXPECT_THAT(notifier.takeTexts(), ElementsAre(GetParam().unreached));
-  EXPECT_THAT(simulator.messages(), IsEmpty());
-}
-
-INSTANTIATE_TEST_SUITE_P(, SlowFileSending, testing::Values(pages[0]),
+INSTANTIATE_TEST_SUITE_P(, FaxSending, testing::Values(pages[0]),
                          [](const auto& page) { return toWord(page.param.type).toStdString(); });
 
 }  // namespace
-}  // namespace parlexo
+}  // namespace parlexo::test

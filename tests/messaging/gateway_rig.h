@@ -1,10 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <QTemporaryDir>
-
 #include "base/message_texts.h"
-#include "base/settings.h"
 #include "messaging/core/messaging_services.h"
 #include "messaging/core/status_file.h"
 #include "messaging/core/status_log.h"
@@ -12,23 +9,21 @@
 #include "tests/addressbook/sample_book.h"
 #include "tests/support/logged_in_rig.h"
 
-namespace parlexo {
+namespace parlexo::test {
 
-/// Everything that messaging works with.
+/// A logged-in account with the services of messaging.
 class GatewayRig : public LoggedInRig {
  public:
   using LoggedInRig::LoggedInRig;
 
   [[nodiscard]] MessagingServices services() {
-    return {state, gateway, notifier, progress(), renewal(), book.book(), log, file, templates, settings};
+    return {state, gateway, notifier, progress, renewal(), book.book(), log, file, templates, settings};
   }
 
-  test::SampleBook book;
+  SampleBook book;
   StatusLog log;
-  QTemporaryDir folder;
-  Settings settings{folder.path()};
   StatusFile file{folder.filePath(QStringLiteral("Status.xml"))};
   TemplateFolder templates{folder.path()};
 };
 
-}  // namespace parlexo
+}  // namespace parlexo::test

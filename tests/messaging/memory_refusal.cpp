@@ -18,7 +18,7 @@ bool isRefused(std::size_t size) {
 }  // namespace
 
 // NOLINTBEGIN(cppcoreguidelines-no-malloc,cppcoreguidelines-owning-memory): this is where memory comes from.
-// All forms that are in use stand here: what one of them gives, another takes back.
+// All forms in use are replaced, as memory from one is freed by another.
 void* operator new(std::size_t size, const std::nothrow_t& /*tag*/) noexcept {
   return isRefused(size) ? nullptr : std::malloc(size > 0 ? size : 1);
 }
@@ -54,7 +54,7 @@ void operator delete[](void* memory, std::size_t /*size*/) noexcept {
 }
 // NOLINTEND(cppcoreguidelines-no-malloc,cppcoreguidelines-owning-memory)
 
-namespace parlexo {
+namespace parlexo::test {
 
 MemoryRefusal::MemoryRefusal(std::size_t bytes) {
   refusedSize = bytes;
@@ -64,4 +64,4 @@ MemoryRefusal::~MemoryRefusal() {
   refusedSize = nothing;
 }
 
-}  // namespace parlexo
+}  // namespace parlexo::test

@@ -3,7 +3,7 @@
 
 #include <cstddef>
 
-namespace parlexo {
+namespace parlexo::test {
 
 /// While it lives, requests for memory of `bytes`, or up to 16 more, are refused; all others are granted.
 class MemoryRefusal {
@@ -14,4 +14,4 @@ class MemoryRefusal {
   MemoryRefusal& operator=(const MemoryRefusal&) = delete;
 };
 
-}  // namespace parlexo
+}  // namespace parlexo::test

@@ -1,12 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include <QFile>
-#include <QTemporaryDir>
 #include <QtEndian>
-#include <gtest/gtest.h>
 
 #include "messaging/core/file_facts.h"
+#include "tests/support/test.h"
 
-namespace parlexo {
+namespace parlexo::test {
 namespace {
 
 void put(QByteArray& bytes, quint16 value) {
@@ -20,8 +18,8 @@ void put32(QByteArray& bytes, quint32 value) {
   put(bytes, static_cast<quint16>(value >> 16));
 }
 
-/// A TIFF with one directory for each subfile type of `types`; the last one names `next` as its successor.
-QByteArray tiffOf(const std::vector<quint32>& types, quint32 next = 0) {
+/// A TIFF with one directory for each subfile type in `types`; `next` is the successor of the last one.
+QByteArray makeTiff(const std::vector<quint32>& types, quint32 next = 0) {
   const std::vector<std::pair<quint16, quint32>> tags = {{256, 1}, {257, 1}, {273, 8}, {278, 1}, {279, 1}};
   const auto directorySize = static_cast<quint32>(2 + 12 * (tags.size() + 1) + 4);
   QByteArray bytes("II*\0", 4);
@@ -49,19 +47,18 @@ const QByteArray pdf =
     "4 0 obj<</Type/Page/Parent 2 0 R/MediaBox[0 0 9 9]>>endobj\n"
     "trailer<</Root 1 0 R>>\n%%EOF\n";
 
-/// The same document behind a password, encrypted with RC4 by a key of 40 bits.
+/// The same document with a password, encrypted with 40-bit RC4.
 QByteArray lockedPdf(const QByteArray& userEntry) {
   const QByteArray lock = "/Encrypt<</Filter/Standard/V 1/R 2/P -4/O<" + QByteArray(64, '0') + ">/U<" +
                           userEntry + ">>>/ID[<00><00>]";
   return QByteArray(pdf).replace("trailer<<", "trailer<<" + lock);
 }
 
-// The entry that the empty password leads to, and one that it doesn't.
+// The user entry for the empty password, and one for another password.
 const QByteArray emptyPasswordsEntry = "a2131391556101128e64737bb2f0fb1452b6beed66a7e0dbcc3276f389ab335f";
 const QByteArray otherPasswordsEntry(64, '1');
 
-/// A PDF each of whose objects is said to lie in a stream that is the next object: a reader that follows them
-/// one within the other runs out of stack.
+/// A PDF whose objects are nested in 200,000 object streams, which exhausts the stack of a reader.
 QByteArray pdfOfNestedObjects() {
   constexpr int objects = 200'000;
   QByteArray entries;
@@ -77,7 +74,7 @@ QByteArray pdfOfNestedObjects() {
          "\nendstream endobj\nstartxref\n9\n%%EOF\n";
 }
 
-TEST(PageCount, isThatOfTheDocumentAndNoneForABrokenOne) {
+TEST(PageCount, isReadFromValidDocuments) {
   const QTemporaryDir folder;
   const auto write = [&folder](const QByteArray& bytes) {
     QFile file(folder.filePath(QStringLiteral(u"r\u00E9sum\u00E9 \u4E2D\u6587 & 'co'.bin")));
@@ -86,15 +83,11 @@ TEST(PageCount, isThatOfTheDocumentAndNoneForABrokenOne) {
   };
   constexpr quint32 reduced = 1;
   constexpr quint32 page = 2;
-  const struct {
-    const char* what;
-    QByteArray content;
-    std::optional<int> pages;
-  } samples[] = {
-      {"TIFF", tiffOf({page, page, page}), 3},
-      {"TIFF with a small picture of its page", tiffOf({page, reduced}), 1},
-      {"TIFF whose directories run in a circle", tiffOf({page, page}, 8), {}},
-      {"TIFF that is cut off", tiffOf({page, page}).chopped(30), {}},
+  const Cases<const char*, QByteArray, std::optional<int>> samples = {
+      {"TIFF", makeTiff({page, page, page}), 3},
+      {"TIFF with a small picture of its page", makeTiff({page, reduced}), 1},
+      {"TIFF whose directories run in a circle", makeTiff({page, page}, 8), {}},
+      {"TIFF that is cut off", makeTiff({page, page}).chopped(30), {}},
       {"TIFF of nothing but its mark", "II*", {}},
       {"PDF", pdf, 2},
       {"PDF behind a line of mail", "X-Mail: yes\n" + pdf, 2},
@@ -106,7 +99,7 @@ TEST(PageCount, isThatOfTheDocumentAndNoneForABrokenOne) {
       {"text", "Dear all", {}},
       {"nothing", "", {}},
   };
-  for (const auto& sample : samples) EXPECT_EQ(pageCount(write(sample.content)), sample.pages) << sample.what;
+  for (const auto& [what, content, pages] : samples) EXPECT_EQ(pageCount(write(content)), pages) << what;
   EXPECT_EQ(pageCount(folder.path()), std::nullopt);
   if (!QFile::exists("/dev/zero")) return;
   EXPECT_EQ(pageCount("/dev/zero"), std::nullopt);
@@ -114,4 +107,4 @@ TEST(PageCount, isThatOfTheDocumentAndNoneForABrokenOne) {
 }
 
 }  // namespace
-}  // namespace parlexo
+}  // namespace parlexo::test

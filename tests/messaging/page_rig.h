@@ -1,37 +1,22 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <functional>
-
-#include <QAbstractItemView>
-#include <QApplication>
-#include <QTest>
-#include <QTimer>
-#include <gtest/gtest.h>
-
 #include "addressbook/screens/select_contacts_dlg.h"
 #include "tests/messaging/gateway_rig.h"
-#include "ui/picture_button.h"
+#include "tests/support/widgets.h"
 
-namespace parlexo {
+namespace parlexo::test {
 
-/// A send page on the screen, and a user's hands.
+/// A visible send page with the input of a user.
 template <class Page>
-class PageRig : public testing::Test, protected GatewayRig {
- protected:
-  PageRig() {
-    page.show();
-    page.activateWindow();
-    (void)QTest::qWaitForWindowActive(&page);
-  }
+struct PageRig : testing::Test, GatewayRig {
+  PageRig() { showActive(page); }
 
   template <class Widget>
   Widget& find(const char* name) {
-    auto* widget = page.template findChild<Widget*>(QString::fromLatin1(name));
-    if (!widget) qFatal("no %s", name);
-    return *widget;
+    return child<Widget>(page, name);
   }
-  void press(const char* name) { QTest::mouseClick(&find<PictureButton>(name), Qt::LeftButton); }
+  void press(const char* name) { click(page, name); }
 
   // Does `work` in the dialog that opens next.
   template <class Dialog>
@@ -66,4 +51,4 @@ class PageRig : public testing::Test, protected GatewayRig {
   Page page{services()};
 };
 
-}  // namespace parlexo
+}  // namespace parlexo::test

@@ -1,20 +1,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "messaging/core/recipients.h"
 
-#include <gtest/gtest.h>
+#include "tests/support/test.h"
 
-namespace parlexo {
-
-using namespace Qt::StringLiterals;
-
+namespace parlexo::test {
 namespace {
 
 ContactRecord contact(const char* name, const char* phone, const char* fax = "") {
   return {name, phone, {}, {}, fax, {}, {}};
 }
 
-class RecipientsTest : public testing::Test {
- protected:
+struct RecipientsTest : testing::Test {
   QStringList select(const std::vector<ContactRecord>& contacts,
                      RecipientNumber which = RecipientNumber::Phone) {
     std::vector<const ContactRecord*> pointers;
@@ -43,12 +39,12 @@ TEST_F(RecipientsTest, selectionReplacesBothListsAndRejectsNumbersWithoutPlus) {
   EXPECT_EQ(lists(), " | ");
 }
 
-TEST_F(RecipientsTest, removalKeepsBothListsInStep) {
+TEST_F(RecipientsTest, removalUpdatesBothLists) {
   select(three_);
   recipients_.remove({2, 1, 1, -1, 7});
   EXPECT_EQ(lists(), "Ann [+1] | +1");
   select(three_);
-  recipients_.remove({2});  // its number equals the first one's, but stands in third place
+  recipients_.remove({2});  // its number equals the first one's
   EXPECT_EQ(lists(), "Ann [+1],Lee, Bob [+2] | +1,+2");
 }
 
@@ -67,16 +63,23 @@ TEST_F(RecipientsTest, clearAndTemplatesLeaveTheNumbers) {
   }
 }
 
-TEST_F(RecipientsTest, removalAfterATemplateTakesOnlyNumbersThatMatch) {
+TEST_F(RecipientsTest, removalAfterATemplateRemovesOnlyMatchingNumbers) {
   select(three_);
   recipients_.setEntries(u"Zoe [+5],Lee, Bob [+2]"_s);
   recipients_.remove({0});
   EXPECT_EQ(lists(), "Lee, Bob [+2] | +1,+2,+1");
   recipients_.remove({0});
   EXPECT_EQ(lists(), " | +1,+1");
+  for (const auto& [removed, left] :
+       Cases<std::vector<int>, std::string>{{{0}, "B [+1] | +2,+1"}, {{0, 1}, " | +2"}}) {
+    select(three_);
+    recipients_.setEntries(u"A [+1],B [+1]"_s);
+    recipients_.remove(removed);
+    EXPECT_EQ(lists(), left) << "one repeated number for each entry";
+  }
 }
 
-TEST_F(RecipientsTest, repeatsGoFromBothListsAlike) {
+TEST_F(RecipientsTest, repeatsAreRemovedFromBothLists) {
   select({contact("Ann", "+1"), contact("Bob", "+2"), contact("Cy", "+1"), contact("Di", "+1"),
           contact("Ed", "+2"), contact("Flo", "+3")});
   EXPECT_EQ(recipients_.repeatedNumberCount(), 2);
@@ -90,4 +93,4 @@ TEST_F(RecipientsTest, repeatsGoFromBothListsAlike) {
 }
 
 }  // namespace
-}  // namespace parlexo
+}  // namespace parlexo::test

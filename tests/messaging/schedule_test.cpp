@@ -1,22 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "messaging/core/schedule.h"
 
-#include <gtest/gtest.h>
-
 #include "tests/messaging/time_zone_scope.h"
+#include "tests/support/test.h"
 
-namespace parlexo {
+namespace parlexo::test {
 namespace {
 
-struct LocalTime {
-  const char* what;
-  const char* zone;
-  const char* clocks;  ///< what they show, with a Z only so that no zone's rules come into the reading
-  const char* local;
-  const char* gmt;
-};
-
-const LocalTime localTimes[] = {
+// The local time has a Z only to be parsed without zone rules.
+const Cases<const char*, const char*, const char*, const char*, const char*> localTimes = {
     {"GMT itself", "UTC", "2026-11-21T09:05:07Z", "2026/11/21 09:05:07", "2026/11/21 09:05:07"},
     {"east, across midnight and the year", "Asia/Kolkata", "2027-01-01T02:00:00Z", "2027/01/01 02:00:00",
      "2026/12/31 20:30:00"},
@@ -34,21 +26,21 @@ const LocalTime localTimes[] = {
     {"before the zones", "UTC", "1801-02-03T04:05:06Z", "1801/02/03 04:05:06", "1801/02/03 04:05:06"},
 };
 
-TEST(Schedule, namesTheSameInstantInBothTexts) {
-  for (const LocalTime& sample : localTimes) {
-    SCOPED_TRACE(sample.what);
-    const TimeZoneScope zone(sample.zone);
-    const QDateTime clocks = QDateTime::fromString(QString::fromLatin1(sample.clocks), Qt::ISODate);
-    // What the C library was asked before must make no difference.
+TEST(Schedule, hasTheSameInstantInBothTexts) {
+  for (const auto& [what, zoneName, clocks, local, gmt] : localTimes) {
+    SCOPED_TRACE(what);
+    const TimeZoneScope zone(zoneName);
+    const QDateTime time = QDateTime::fromString(QString::fromLatin1(clocks), Qt::ISODate);
+    // Earlier calls of the C library must not matter.
     for (const QDate before : {QDate(2026, 1, 15), QDate(2026, 7, 15)}) {
       (void)QDateTime(before, QTime(12, 0)).toSecsSinceEpoch();
-      const Schedule schedule = scheduleAt(fromLocalTime(clocks.date(), clocks.time()));
-      EXPECT_EQ(schedule.text.toStdString(), sample.local);
-      EXPECT_EQ(schedule.value.toStdString(), sample.gmt);
+      const Schedule schedule = scheduleAt(fromLocalTime(time.date(), time.time()));
+      EXPECT_EQ(schedule.text.toStdString(), local);
+      EXPECT_EQ(schedule.value.toStdString(), gmt);
       EXPECT_FALSE(schedule.isNow());
     }
   }
 }
 
 }  // namespace
-}  // namespace parlexo
+}  // namespace parlexo::test

@@ -1,25 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include <QElapsedTimer>
-#include <QFile>
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include "messaging/core/sms_send_flow.h"
 #include "tests/messaging/gateway_rig.h"
+#include "tests/support/test.h"
 
-namespace parlexo {
-
-using namespace Qt::StringLiterals;
-
+namespace parlexo::test {
 namespace {
 
-using simulator::FaultKind;
-using testing::ElementsAre;
-using testing::IsEmpty;
-using testing::SizeIs;
-
-class SmsSending : public testing::Test, protected GatewayRig {
- protected:
+struct SmsSending : testing::Test, GatewayRig {
   static SmsDraft draftTo(const QStringList& numbers) {
     SmsDraft draft;
     draft.text = u"Hello"_s;
@@ -39,8 +27,8 @@ class SmsSending : public testing::Test, protected GatewayRig {
 
 TEST_F(SmsSending, acceptedMessageIsLoggedSavedAndConfirmed) {
   EXPECT_EQ(send(draft_), SendOutcome::Delivered);
-  EXPECT_THAT(journal, ElementsAre("(box)", "(no box)", "SMS message successfully delivered to the server."));
-  EXPECT_EQ(notifier.shown.back().style, message_style::information);
+  EXPECT_THAT(journal,
+              ElementsAre("(box)", "(no box)", "64 SMS message successfully delivered to the server."));
   EXPECT_EQ(operations(), QStringList({"scheduleMessageDisable", "sendSms"}));
   ASSERT_THAT(simulator.messages(), SizeIs(1));
   const simulator::AcceptedMessage message = simulator.messages().front();
@@ -78,57 +66,48 @@ TEST_F(SmsSending, unicodeFlashScheduleAndSenderIdReachTheGateway) {
   EXPECT_EQ(message.schedule->toString(u"yyyy/MM/dd HH:mm:ss"_s), draft.schedule.value);
 }
 
-TEST_F(SmsSending, failedNumbersAreListedAndLoggedToo) {
+TEST_F(SmsSending, failedNumbersAreListedAndLogged) {
   EXPECT_EQ(send(draftTo({"+61491570156", "+61491570199", "+60312345699"})), SendOutcome::PartlyFailed);
   EXPECT_THAT(journal, ElementsAre("(box)", "(no box)",
-                                   "Warning - The server was unable to send your message to the following "
-                                   "numbers\n+61491570199\n+60312345699\n"));
-  EXPECT_EQ(notifier.shown.back().style, message_style::information);
+                                   "64 Warning - The server was unable to send your message to the "
+                                   "following numbers\n+61491570199\n+60312345699\n"));
   ASSERT_THAT(log.entries(), SizeIs(2));  // both failed numbers have the receipt FAIL
   EXPECT_EQ(log.entries().at(u"FAIL"_s).phone, "+60312345699");
 }
 
-TEST_F(SmsSending, whatIsMissingStopsBeforeAnyCall) {
+TEST_F(SmsSending, missingInputIsReportedBeforeAnyCall) {
   SmsDraft draft;
   state.balanceIsZero = true;
-  const auto expectRefusal = [&](const char* message, SendOutcome outcome,
-                                 unsigned style = message_style::stop) {
+  const auto expectRefusal = [&](const char* line, SendOutcome outcome) {
     EXPECT_EQ(send(draft), outcome);
-    EXPECT_EQ(notifier.shown.back().style, style);
-    EXPECT_THAT(notifier.takeTexts(), ElementsAre(testing::StartsWith(message)));
+    EXPECT_THAT(notifier.popLines().join(u'\n').toStdString(), StartsWith(line));
   };
-  expectRefusal("No SMS message has been provided. Enter a SMS message.", SendOutcome::MessageAtFault);
+  expectRefusal("16 No SMS message has been provided. Enter a SMS message.", SendOutcome::MessageAtFault);
   draft.text = u"x"_s;
-  expectRefusal("The contacts list is blank. Select contacts to send message to.",
+  expectRefusal("16 The contacts list is blank. Select contacts to send message to.",
                 SendOutcome::RecipientsAtFault);
   draft.displayList = u"Ann [+1]"_s;
-  expectRefusal("Your account balance is zero.\r\nPlease go to ", SendOutcome::NotSent,
-                message_style::information);
+  expectRefusal("64 Your account balance is zero.\r\nPlease go to ", SendOutcome::NotSent);
   draft.charset = SmsCharset::Unicode;
   draft.text = QString(336, QChar(u'x'));
-  expectRefusal("Unicode text is too long for message, we can not send this!", SendOutcome::MessageAtFault);
+  expectRefusal("16 Unicode text is too long for message, we can not send this!",
+                SendOutcome::MessageAtFault);
+  EXPECT_EQ(journal.size(), 4) << "one message each";
   EXPECT_THAT(operations(), IsEmpty());
 }
 
-TEST_F(SmsSending, expiredSessionAsksForLoginOnceAndRepeatsNothing) {
+TEST_F(SmsSending, expiredSessionAsksForOneLoginWithoutRetry) {
   simulator.expireSessions();
   EXPECT_EQ(send(draft_), SendOutcome::NotSent);
   EXPECT_THAT(journal,
-              ElementsAre("(box)", "(no box)", "Your Session has expired. Please log back in", "(login)"));
-  EXPECT_EQ(notifier.shown.back().style, message_style::stop);
+              ElementsAre("(box)", "(no box)", "16 Your Session has expired. Please log back in", "(login)"));
   EXPECT_EQ(operations(), QStringList({"scheduleMessageDisable", "sendSms"}));
   EXPECT_THAT(simulator.messages(), IsEmpty());
   EXPECT_THAT(log.entries(), IsEmpty());
 }
 
-TEST_F(SmsSending, failureIsToldOnceAndNeverSentTwice) {
-  const struct {
-    FaultKind kind;
-    int number;
-    std::size_t accepted;  // messages that the gateway has taken in spite of it
-    SendOutcome outcome;
-    const char* message;
-  } failures[] = {
+TEST_F(SmsSending, failureIsReportedOnceAndNothingIsSentTwice) {
+  const Cases<FaultKind, int, std::size_t, SendOutcome, const char*> failures = {
       {FaultKind::Close, 0, 1, SendOutcome::OutcomeUnknown, unreachable},
       {FaultKind::Cut, 0, 1, SendOutcome::OutcomeUnknown, unreachable},
       {FaultKind::Late, 2500, 1, SendOutcome::OutcomeUnknown, unreachable},
@@ -138,39 +117,33 @@ TEST_F(SmsSending, failureIsToldOnceAndNeverSentTwice) {
       {FaultKind::Code, 12, 0, SendOutcome::NotSent,
        "An error occured while sending your message.\r\nError code: 12"},
   };
-  for (const auto& failure : failures) {
-    SCOPED_TRACE(static_cast<int>(failure.kind));
+  for (const auto& [kind, number, accepted, outcome, message] : failures) {
+    SCOPED_TRACE(static_cast<int>(kind));
     simulator.clearFaults();
-    misbehave(failure.kind, u"sendSms"_s, failure.number);
+    setFault(kind, u"sendSms"_s, number);
     const auto sendsBefore = operations().count(u"sendSms"_s);
     const std::size_t acceptedBefore = simulator.messages().size();
     journal.clear();
-    EXPECT_EQ(send(draft_), failure.outcome);
-    EXPECT_THAT(journal, ElementsAre("(box)", "(no box)", failure.message));
-    EXPECT_EQ(notifier.shown.back().style, message_style::stop);
+    EXPECT_EQ(send(draft_), outcome);
+    EXPECT_THAT(journal, ElementsAre("(box)", "(no box)", QString("16 ") + message));
     EXPECT_EQ(operations().count(u"sendSms"_s) - sendsBefore, 1);
-    EXPECT_THAT(simulator.messages(), SizeIs(acceptedBefore + failure.accepted));
+    EXPECT_THAT(simulator.messages(), SizeIs(acceptedBefore + accepted));
   }
   EXPECT_THAT(log.entries(), IsEmpty());
   EXPECT_FALSE(QFile::exists(file.path()));
 }
 
-TEST_F(SmsSending, gatewayThatTakesNoConnectionHasTakenNoMessage) {
-  misbehave(FaultKind::Refuse, u"any"_s);
+TEST_F(SmsSending, refusedConnectionSendsNothing) {
+  setFault(FaultKind::Refuse, u"any"_s);
   EXPECT_NE(send(draft_), SendOutcome::Delivered);
   simulator.stop();
   EXPECT_EQ(send(draft_), SendOutcome::NotSent);
-  EXPECT_THAT(notifier.takeTexts(), ElementsAre(unreachable, unreachable));
+  EXPECT_THAT(notifier.popTexts(), ElementsAre(unreachable, unreachable));
   EXPECT_THAT(simulator.messages(), IsEmpty());
 }
 
-TEST_F(SmsSending, refusedScheduleOrSenderIdGivesUpTheSend) {
-  const struct {
-    const char* operation;
-    FaultKind kind;
-    int number;
-    const char* message;
-  } samples[] = {
+TEST_F(SmsSending, rejectedScheduleOrSenderIdEndsTheSend) {
+  const Cases<const char*, FaultKind, int, const char*> samples = {
       {"scheduleMessageEnable", FaultKind::Code, 9,
        "Error setting schedule date. Perhaps you have scheduled the message too far into the future? Error: "
        "9"},
@@ -180,24 +153,17 @@ TEST_F(SmsSending, refusedScheduleOrSenderIdGivesUpTheSend) {
        "set Any Sender ID? Error: 12"},
   };
   state.senderId = u"+61491570999"_s;
-  for (const auto& sample : samples) {
+  for (const auto& [operation, kind, number, message] : samples) {
     simulator.clearFaults();
-    misbehave(sample.kind, QString::fromLatin1(sample.operation), sample.number);
-    EXPECT_EQ(send(scheduled(draft_)), SendOutcome::NotSent) << sample.operation;
-    EXPECT_EQ(notifier.shown.back().style, message_style::stop);
-    EXPECT_THAT(notifier.takeTexts(), ElementsAre(sample.message));
+    setFault(kind, QString::fromLatin1(operation), number);
+    EXPECT_EQ(send(scheduled(draft_)), SendOutcome::NotSent) << operation;
+    EXPECT_EQ(notifier.popLines(), QStringList(QString("16 ") + message));
   }
   EXPECT_FALSE(operations().contains(u"sendSms"_s));
 }
 
 TEST_F(SmsSending, cancellingAnyCallEndsTheSend) {
-  struct {
-    int number;  // of the call
-    const char* operation;
-    const char* message;
-    SendOutcome outcome;
-    std::size_t accepted;
-  } const samples[] = {
+  const Cases<int, const char*, const char*, SendOutcome, std::size_t> samples = {
       {1, "scheduleMessageDisable", unreachable, SendOutcome::NotSent, 0},
       {2, "scheduleMessageEnable",
        "Error setting schedule date. Perhaps you have scheduled the message too far into the future? Error: "
@@ -207,25 +173,25 @@ TEST_F(SmsSending, cancellingAnyCallEndsTheSend) {
       {4, "sendSms", unreachable, SendOutcome::OutcomeUnknown, 1},
   };
   state.senderId = u"+61491570999"_s;
-  for (const auto& sample : samples) {
+  for (const auto& [number, operation, message, outcome, accepted] : samples) {
     simulator.clearFaults();
-    misbehave(FaultKind::Late, QString::fromLatin1(sample.operation), 900);
-    runner.cancel(sample.number);
+    setFault(FaultKind::Late, QString::fromLatin1(operation), 900);
+    runner.cancel(number);
     const auto before = operations().size();
     QElapsedTimer clock;
     clock.start();
-    EXPECT_EQ(send(scheduled(draft_)), sample.outcome) << sample.operation;
-    EXPECT_LT(clock.elapsed(), 700) << sample.operation;
-    EXPECT_EQ(operations().size() - before, sample.number);
-    EXPECT_EQ(operations().back(), QString::fromLatin1(sample.operation));
-    EXPECT_THAT(notifier.takeTexts(), ElementsAre(sample.message));
-    EXPECT_THAT(simulator.messages(), SizeIs(sample.accepted)) << sample.operation;
+    EXPECT_EQ(send(scheduled(draft_)), outcome) << operation;
+    EXPECT_LT(clock.elapsed(), 700) << operation;
+    EXPECT_EQ(operations().size() - before, number);
+    EXPECT_EQ(operations().back(), QString::fromLatin1(operation));
+    EXPECT_THAT(notifier.popTexts(), ElementsAre(message));
+    EXPECT_THAT(simulator.messages(), SizeIs(accepted)) << operation;
   }
 }
 
-TEST_F(SmsSending, answerThatOutranTheCancelCounts) {
+TEST_F(SmsSending, replyBeforeTheCancelCounts) {
   runner.cancel(1, {});
-  misbehave(FaultKind::Late, u"scheduleMessageDisable"_s, 300);
+  setFault(FaultKind::Late, u"scheduleMessageDisable"_s, 300);
   EXPECT_EQ(send(draft_), SendOutcome::NotSent);
   simulator.clearFaults();
   runner.cancel(2, std::chrono::milliseconds(500));
@@ -233,13 +199,13 @@ TEST_F(SmsSending, answerThatOutranTheCancelCounts) {
   EXPECT_THAT(log.entries(), SizeIs(2));
 }
 
-TEST_F(SmsSending, failureToCancelAnOldScheduleIsPassedOver) {
-  misbehave(FaultKind::SoapFault, u"scheduleMessageDisable"_s);
+TEST_F(SmsSending, failureToCancelAnOldScheduleIsIgnored) {
+  setFault(FaultKind::SoapFault, u"scheduleMessageDisable"_s);
   EXPECT_EQ(send(draft_), SendOutcome::Delivered);
   EXPECT_THAT(simulator.messages(), SizeIs(1));
 }
 
-TEST_F(SmsSending, tenThousandRecipientsGoOutInOneCall) {
+TEST_F(SmsSending, tenThousandRecipientsAreSentInOneCall) {
   simulator.setBalance(u"demo"_s, 10'000);
   QStringList numbers;
   for (int i = 0; i < 10'000; ++i) numbers.append(u"+6149%1"_s.arg(100'000'00 + 100 * i));
@@ -249,4 +215,4 @@ TEST_F(SmsSending, tenThousandRecipientsGoOutInOneCall) {
 }
 
 }  // namespace
-}  // namespace parlexo
+}  // namespace parlexo::test

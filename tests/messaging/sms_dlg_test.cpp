@@ -2,30 +2,18 @@
 #include "messaging/screens/sms_dlg.h"
 
 #include <QCalendarWidget>
-#include <QLabel>
-#include <QLineEdit>
 #include <QListView>
-#include <QSignalSpy>
-#include <QTest>
-#include <gmock/gmock.h>
 
 #include "addressbook/screens/select_contacts_dlg.h"
 #include "messaging/screens/message_edit.h"
 #include "messaging/screens/schedule_dlg.h"
 #include "messaging/screens/sender_id_dlg.h"
 #include "tests/messaging/sms_page_rig.h"
+#include "tests/support/widgets.h"
 #include "ui/hyperlink_label.h"
-#include "ui/picture_button.h"
 
-namespace parlexo {
-
-using namespace Qt::StringLiterals;
-
+namespace parlexo::test {
 namespace {
-
-using testing::ElementsAre;
-using testing::IsEmpty;
-using testing::SizeIs;
 
 TEST_F(SmsPage, countersFollowEveryKeyAndCharacterSet) {
   EXPECT_EQ(counters(), "1/760");
@@ -40,7 +28,7 @@ TEST_F(SmsPage, countersFollowEveryKeyAndCharacterSet) {
   EXPECT_EQ(counters(), "1/755");
 }
 
-TEST_F(SmsPage, pastingStopsAtTheLimitAndKeepsWhatStandsBehindTheCursor) {
+TEST_F(SmsPage, pasteStopsAtTheLimitAndKeepsTheTextAfterTheCursor) {
   editor().setPlainText("head tail");
   QTextCursor cursor = editor().textCursor();
   cursor.setPosition(5);
@@ -54,19 +42,10 @@ TEST_F(SmsPage, pastingStopsAtTheLimitAndKeepsWhatStandsBehindTheCursor) {
   EXPECT_FALSE(editor().text().contains(QChar(u'y')));
   editor().undo();
   EXPECT_EQ(editor().text(), "head tail");
-  EXPECT_THAT(notifier.takeTexts(), IsEmpty());
+  EXPECT_THAT(notifier.popTexts(), IsEmpty());
 }
 
-TEST_F(SmsPage, charactersThatCountTwiceAreCutFromTheEnd) {
-  paste(QString(700, QChar(u'x')) + "END");
-  editor().moveCursor(QTextCursor::Start);
-  paste(QString(40, QChar(u'~')));
-  EXPECT_EQ(counters(), "5/0");
-  EXPECT_EQ(editor().text(), QString(40, QChar(u'~')) + QString(680, QChar(u'x')));
-  EXPECT_EQ(editor().textCursor().position(), 40);
-}
-
-TEST_F(SmsPage, aPastedZeroCharacterDoesNotEndTheText) {
+TEST_F(SmsPage, pastedZeroCharacterIsRemoved) {
   paste(u"one"_s + QChar(u'\0') + u"\r\ntwo"_s);
   EXPECT_EQ(page.draft().text, "one\ntwo");
   EXPECT_EQ(counters(), "1/753");
@@ -79,21 +58,21 @@ TEST_F(SmsPage, textThatIsTooLongForUnicodeIsReportedAndDropped) {
   choose("standardCharset");
   paste(u"y"_s);
   choose("unicodeCharset");
-  EXPECT_THAT(notifier.takeTexts(),
+  EXPECT_THAT(notifier.popTexts(),
               ElementsAre("You have entered too much text for messaging. Clearing text to send"));
   EXPECT_EQ(editor().text(), "");
   EXPECT_EQ(counters(), "1/335");
   paste(QString(334, QChar(u'x')) + QString::fromUtf8("\U0001F600"));
-  EXPECT_EQ(counters(), "5/1");                 // half an emoji is none
-  editor().setText(QString(336, QChar(u'x')));  // as a template might bring it
-  EXPECT_THAT(notifier.takeTexts(),
+  EXPECT_EQ(counters(), "5/1");                 // half an emoji is not inserted
+  editor().setText(QString(336, QChar(u'x')));  // as from a template
+  EXPECT_THAT(notifier.popTexts(),
               ElementsAre("Unicode text is too long for message, we can not send this!"));
   EXPECT_EQ(counters(), "1/335");
 }
 
-TEST_F(SmsPage, selectionFillsTheBoxAndOpensWithItsContactsTicked) {
+TEST_F(SmsPage, selectionFillsTheBoxAndIsRestored) {
   select({"Ann", "Lee, Bob", "Local"});
-  EXPECT_THAT(notifier.takeTexts(),
+  EXPECT_THAT(notifier.popTexts(),
               ElementsAre("The following Contacts had bad phone numbers and were removed:Local"));
   EXPECT_EQ(page.draft().displayList, "Ann [+61491570156],Lee, Bob [+60312345678]");
   EXPECT_EQ(page.draft().numbersList, "+61491570156,+60312345678");
@@ -107,14 +86,14 @@ TEST_F(SmsPage, selectionFillsTheBoxAndOpensWithItsContactsTicked) {
   EXPECT_EQ(page.draft().numbersList, "+61491570156,+60312345678");
 }
 
-TEST_F(SmsPage, namedContactsComeTickedBesideThoseOfTheBox) {
+TEST_F(SmsPage, givenContactsAreTickedInAddition) {
   select({"Ann"});
   atNextDialog<CSelectContactsDlg>([](CSelectContactsDlg& dialog) { dialog.accept(); });
   page.selectContacts({"Lee, Bob", "Mute", "nobody any more"});
   EXPECT_EQ(page.draft().displayList, "Ann [+61491570156],Lee, Bob [+60312345678]");
 }
 
-TEST_F(SmsPage, deleteAsksAndRemovesTheHighlightedEntries) {
+TEST_F(SmsPage, deleteAsksAndRemovesTheSelectedEntries) {
   select({"Ann", "Lee, Bob"});
   page.activateWindow();
   ASSERT_TRUE(QTest::qWaitForWindowActive(&page));
@@ -129,13 +108,13 @@ TEST_F(SmsPage, deleteAsksAndRemovesTheHighlightedEntries) {
   EXPECT_EQ(page.draft().numbersList, "+60312345678");
   EXPECT_EQ(contactsBox().currentIndex().row(), 0) << "a long list stays at the place of the removal";
   EXPECT_FALSE(contactsBox().selectionModel()->hasSelection());
-  EXPECT_THAT(notifier.takeTexts(),
+  EXPECT_THAT(notifier.popTexts(),
               ElementsAre("Can't delete the selected contacts as you have not selected one or more contacts",
                           "Are you sure you want to delete the selected contacts?",
                           "Are you sure you want to delete the selected contacts?"));
 }
 
-TEST_F(SmsPage, successfulSendClearsTheFormButKeepsTheChoices) {
+TEST_F(SmsPage, successfulSendClearsTheTextAndKeepsTheOptions) {
   QSignalSpy sent(&page, &CQuillonSMSDlg::messageSent);
   select({"Ann"});
   choose("unicodeCharset");
@@ -161,15 +140,15 @@ TEST_F(SmsPage, aRefusedTextGetsTheFocus) {
   EXPECT_TRUE(editor().hasFocus());
 }
 
-TEST_F(SmsPage, noticeOfAnUnansweredSendStandsUntilTheNextOneIsAnswered) {
+TEST_F(SmsPage, outcomeUnknownNoticeStaysUntilTheNextReply) {
   const auto& notice = find<QLabel>("outcomeUnknownNotice");
   select({"Ann"});
   QTest::keyClicks(&editor(), "Hi");
   EXPECT_FALSE(notice.isVisible());
-  misbehave(simulator::FaultKind::Close, u"sendSms"_s);
+  setFault(simulator::FaultKind::Close, u"sendSms"_s);
   press("sendButton");
   EXPECT_TRUE(notice.isVisible());
-  EXPECT_THAT(notifier.takeTexts(), ElementsAre(unreachable));
+  EXPECT_THAT(notifier.popTexts(), ElementsAre(unreachable));
   EXPECT_EQ(page.draft().text, "Hi");
   EXPECT_EQ(page.draft().displayList, "Ann [+61491570156]");
   simulator.clearFaults();
@@ -190,7 +169,7 @@ TEST_F(SmsPage, aSecondSendWhileOneRunsIsDropped) {
   EXPECT_THAT(simulator.messages(), SizeIs(1));
 }
 
-TEST_F(SmsPage, scheduleTravelsWithTheNextMessageOnly) {
+TEST_F(SmsPage, scheduleAppliesToTheNextMessageOnly) {
   select({"Ann"});
   QTest::keyClicks(&editor(), "Hi");
   const auto& shown = find<QLineEdit>("scheduleText");
@@ -211,7 +190,7 @@ TEST_F(SmsPage, scheduleTravelsWithTheNextMessageOnly) {
   EXPECT_TRUE(page.draft().schedule.isNow());
 }
 
-TEST_F(SmsPage, senderIdIsKeptForEveryMessageOfTheRun) {
+TEST_F(SmsPage, senderIdAppliesToAllMessages) {
   inDialog<CSenderIdDlg>("senderIdButton", [](CSenderIdDlg& dialog) {
     QTest::keyClicks(dialog.findChild<QLineEdit*>(), "+61491570999");
     QTest::keyClick(dialog.findChild<QLineEdit*>(), Qt::Key_Return);
@@ -221,7 +200,7 @@ TEST_F(SmsPage, senderIdIsKeptForEveryMessageOfTheRun) {
     auto& edit = *dialog.findChild<QLineEdit*>();
     EXPECT_EQ(edit.text(), "+61491570999");
     edit.clear();
-    QTest::mouseClick(dialog.findChild<PictureButton*>("closeButton"), Qt::LeftButton);
+    click(dialog, "closeButton");
   });
   for (const char* text : {"one", "two"}) {
     select({"Ann"});
@@ -231,7 +210,7 @@ TEST_F(SmsPage, senderIdIsKeptForEveryMessageOfTheRun) {
   }
 }
 
-TEST_F(SmsPage, linesBelowTheMessageTellPartAndWhatCantBeSent) {
+TEST_F(SmsPage, hintsShowThePartAndUnsendableCharacters) {
   const auto& part = find<QLabel>("messagePart");
   const auto& lacking = find<QLabel>("unsendableCharacters");
   auto& toUnicode = find<HyperlinkLabel>("switchToUnicode");
@@ -250,10 +229,10 @@ TEST_F(SmsPage, linesBelowTheMessageTellPartAndWhatCantBeSent) {
   EXPECT_EQ(page.draft().charset, SmsCharset::Unicode);
   EXPECT_EQ(lacking.text(), "");
   EXPECT_EQ(counters(), "4/133");
-  EXPECT_THAT(notifier.takeTexts(), IsEmpty());
+  EXPECT_THAT(notifier.popTexts(), IsEmpty());
 }
 
-TEST_F(SmsPage, countLineOffersToRemoveRepeatsWhileBothListsMatch) {
+TEST_F(SmsPage, repeatedRecipientsCanBeRemoved) {
   book.addContact("Ann at work", "+61491570156", "Y");
   const auto& count = find<QLabel>("recipientCount");
   auto& repeats = find<HyperlinkLabel>("removeRepeats");
@@ -269,7 +248,7 @@ TEST_F(SmsPage, countLineOffersToRemoveRepeatsWhileBothListsMatch) {
   EXPECT_EQ(contactsBox().height(), listHeight) << "the list does not move with the link";
   select({"Ann", "Lee, Bob", "Ann at work"});
   QTest::mouseClick(&repeats, Qt::LeftButton);
-  EXPECT_THAT(notifier.takeTexts(), IsEmpty());
+  EXPECT_THAT(notifier.popTexts(), IsEmpty());
   EXPECT_EQ(page.draft().displayList, "Ann [+61491570156],Lee, Bob [+60312345678]");
   EXPECT_EQ(page.draft().numbersList, "+61491570156,+60312345678");
   EXPECT_EQ(count.text(), "2 recipients");
@@ -298,4 +277,4 @@ TEST_F(SmsPage, buttonsAskForStatusAndExplainTemplates) {
 }
 
 }  // namespace
-}  // namespace parlexo
+}  // namespace parlexo::test

@@ -1,24 +1,20 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <string>
-
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QLineEdit>
 #include <QListView>
 #include <QRadioButton>
-#include <QString>
 
 #include "messaging/screens/message_edit.h"
 #include "messaging/screens/sms_dlg.h"
 #include "tests/messaging/page_rig.h"
 
-namespace parlexo {
+namespace parlexo::test {
 
-/// The SMS page on the screen, contacts to choose from, and a user's hands.
-class SmsPage : public PageRig<CQuillonSMSDlg> {
- protected:
+/// The SMS page with contacts to choose from.
+struct SmsPage : PageRig<CQuillonSMSDlg> {
   SmsPage() {
     book.addContact("Ann", "+61491570156", "Y");
     book.addContact("Lee, Bob", "+60312345678", "Y");
@@ -39,4 +35,4 @@ class SmsPage : public PageRig<CQuillonSMSDlg> {
   }
 };
 
-}  // namespace parlexo
+}  // namespace parlexo::test

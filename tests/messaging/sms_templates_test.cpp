@@ -1,23 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include <QLabel>
 #include <QListWidget>
-#include <QTest>
-#include <gmock/gmock.h>
 
 #include "messaging/screens/load_template_dlg.h"
 #include "messaging/screens/save_template_dlg.h"
 #include "tests/messaging/sms_page_rig.h"
+#include "tests/support/widgets.h"
 
-namespace parlexo {
-
-using namespace Qt::StringLiterals;
-
+namespace parlexo::test {
 namespace {
 
-using testing::ElementsAre;
-using testing::SizeIs;
-
-TEST_F(SmsPage, templateKeepsTextAndBoxAndBringsThemBack) {
+TEST_F(SmsPage, templateRestoresTextAndRecipients) {
   press("saveTemplateButton");
   select({"Ann", "Lee, Bob"});
   choose("unicodeCharset");
@@ -29,9 +21,8 @@ TEST_F(SmsPage, templateKeepsTextAndBoxAndBringsThemBack) {
     QTest::keyClick(dialog.focusWidget(), Qt::Key_Return);
     EXPECT_FALSE(dialog.isVisible());
   });
-  EXPECT_THAT(notifier.takeTexts(),
-              ElementsAre("No SMS message has been provided. Enter a SMS message.",
-                          "Could not save your template!!", "Your template was saved."));
+  EXPECT_THAT(notifier.popTexts(), ElementsAre("No SMS message has been provided. Enter a SMS message.",
+                                               "Could not save your template!!", "Your template was saved."));
   EXPECT_EQ(templates.load("Hi: 10?")->message, "%%UNICODE%%4F600020D83DDE00");
 
   press("clearContactsButton");
@@ -43,7 +34,7 @@ TEST_F(SmsPage, templateKeepsTextAndBoxAndBringsThemBack) {
     dialog.findChild<QListWidget*>()->setCurrentRow(0);
     QTest::keyClick(&dialog, Qt::Key_Return);
   });
-  EXPECT_THAT(notifier.takeTexts(),
+  EXPECT_THAT(notifier.popTexts(),
               ElementsAre("Are you sure you want to load the Template called: \"Hi: 10?\"?"));
   EXPECT_EQ(page.draft().charset, SmsCharset::Unicode);
   EXPECT_EQ(page.draft().text, QString::fromUtf8("\u4F60 \U0001F600"));
@@ -53,16 +44,13 @@ TEST_F(SmsPage, templateKeepsTextAndBoxAndBringsThemBack) {
   EXPECT_EQ(find<QLabel>("recipientCount").text(), "2 recipients shown, sending to the 1 selected before");
 }
 
-TEST_F(SmsPage, standardTemplateThatUnicodeCantHoldChoosesStandard) {
-  const struct {
-    QString text;
-    SmsCharset charset;
-    std::string shown;
-  } samples[] = {{QString(335, QChar(u'x')), SmsCharset::Unicode, "5/0"},
-                 {QString(336, QChar(u'x')), SmsCharset::Standard, "3/424"},
-                 {QString(100'000, QChar(u'x')), SmsCharset::Standard, "5/0"},
-                 {u"%%UNICODE%%004"_s, SmsCharset::Unicode, "1/321"},
-                 {u"%%UNICODE%%00480000"_s, SmsCharset::Unicode, "1/334"}};
+TEST_F(SmsPage, longTemplateSelectsTheStandardCharset) {
+  const Cases<QString, SmsCharset, std::string> samples = {
+      {QString(335, QChar(u'x')), SmsCharset::Unicode, "5/0"},
+      {QString(336, QChar(u'x')), SmsCharset::Standard, "3/424"},
+      {QString(100'000, QChar(u'x')), SmsCharset::Standard, "5/0"},
+      {u"%%UNICODE%%004"_s, SmsCharset::Unicode, "1/321"},
+      {u"%%UNICODE%%00480000"_s, SmsCharset::Unicode, "1/334"}};
   for (const auto& [text, charset, shown] : samples) {
     editor().clear();
     choose("unicodeCharset");
@@ -74,9 +62,9 @@ TEST_F(SmsPage, standardTemplateThatUnicodeCantHoldChoosesStandard) {
     });
     EXPECT_EQ(page.draft().charset, charset) << text.toStdString();
     EXPECT_EQ(counters(), shown) << text.toStdString();
-    EXPECT_THAT(notifier.takeTexts(), SizeIs(1));
+    EXPECT_THAT(notifier.popTexts(), SizeIs(1));
   }
 }
 
 }  // namespace
-}  // namespace parlexo
+}  // namespace parlexo::test

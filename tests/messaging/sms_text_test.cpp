@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "messaging/core/sms_text.h"
 
-#include <gtest/gtest.h>
+#include "tests/support/test.h"
 
-namespace parlexo {
+namespace parlexo::test {
 namespace {
 
 QString repeated(int count, char32_t character = U'x') {
@@ -14,13 +14,7 @@ constexpr auto standard = SmsCharset::Standard;
 constexpr auto unicode = SmsCharset::Unicode;
 
 TEST(SmsText, totalAndRemainingFollowTheCharacterSet) {
-  const struct {
-    const char* what;
-    SmsCharset charset;
-    QString text;
-    int total;
-    int remaining;
-  } cases[] = {
+  const Cases<const char*, SmsCharset, QString, int, int> cases = {
       {"empty standard", standard, {}, 1, 760},
       {"empty unicode", unicode, {}, 1, 335},
       {"full single message", standard, repeated(160), 1, 600},
@@ -45,11 +39,7 @@ TEST(SmsText, totalAndRemainingFollowTheCharacterSet) {
 }
 
 TEST(SmsText, overlongStandardTextLosesItsEnd) {
-  const struct {
-    const char* what;
-    QString text;
-    QString kept;
-  } samples[] = {
+  const Cases<const char*, QString, QString> samples = {
       {"plain", repeated(800), repeated(760)},
       {"escaped characters among the first", repeated(20, U'~') + repeated(800),
        repeated(20, U'~') + repeated(720)},
@@ -58,43 +48,38 @@ TEST(SmsText, overlongStandardTextLosesItsEnd) {
        repeated(759) + repeated(1, U'\U0001F600')},
       {"a huge paste", repeated(1'000'000, U'~'), repeated(380, U'~')},
   };
-  for (const auto& sample : samples) {
-    const SmsComposition composition = composeSms(sample.text, standard);
-    EXPECT_EQ(composition.editorText, sample.kept) << sample.what;
-    EXPECT_EQ(composition.transmitText, sample.kept) << sample.what;
-    EXPECT_EQ(composition.totalSms, 5) << sample.what;
-    EXPECT_GE(composition.remaining, 0) << sample.what;
+  for (const auto& [what, text, kept] : samples) {
+    const SmsComposition composition = composeSms(text, standard);
+    EXPECT_EQ(composition.editorText, kept) << what;
+    EXPECT_EQ(composition.transmitText, kept) << what;
+    EXPECT_EQ(composition.totalSms, 5) << what;
+    EXPECT_GE(composition.remaining, 0) << what;
   }
 }
 
-TEST(SmsParts, cursorIsInThePartOfTheCharacterBeforeIt) {
-  const struct {
-    QString text;
-    SmsCharset charset;
-    qsizetype cursor;
-    SmsPart part;
-  } samples[] = {{{}, standard, 0, {1, 1}},
-                 {repeated(160), standard, 160, {1, 1}},
-                 {repeated(161), standard, 0, {1, 2}},
-                 {repeated(161), standard, 152, {1, 2}},
-                 {repeated(161), standard, 153, {2, 2}},
-                 {repeated(304), standard, 304, {2, 2}},
-                 {repeated(100, U'~'), standard, 76, {1, 2}},
-                 {repeated(100, U'~'), standard, 77, {2, 2}},
-                 {repeated(335), unicode, 335, {5, 5}},
-                 {repeated(71), unicode, 68, {2, 2}}};
+TEST(SmsParts, cursorIsInThePartOfThePreviousCharacter) {
+  const Cases<QString, SmsCharset, qsizetype, SmsPart> samples = {{{}, standard, 0, {1, 1}},
+                                                                  {repeated(160), standard, 160, {1, 1}},
+                                                                  {repeated(161), standard, 0, {1, 2}},
+                                                                  {repeated(161), standard, 152, {1, 2}},
+                                                                  {repeated(161), standard, 153, {2, 2}},
+                                                                  {repeated(304), standard, 304, {2, 2}},
+                                                                  {repeated(100, U'~'), standard, 76, {1, 2}},
+                                                                  {repeated(100, U'~'), standard, 77, {2, 2}},
+                                                                  {repeated(335), unicode, 335, {5, 5}},
+                                                                  {repeated(71), unicode, 68, {2, 2}}};
   for (const auto& [text, charset, cursor, part] : samples)
     EXPECT_EQ(partAt(text, charset, cursor), part) << text.size() << " at " << cursor;
 }
 
-TEST(UnicodeForm, isReadBackOnlyWhenWhole) {
+TEST(UnicodeForm, isDecodedOnlyIfComplete) {
   const QString text = QString::fromUtf8("A\u4F60\U0001F600");
   EXPECT_EQ(decodeUnicodeSms(composeSms(text, unicode).transmitText), text);
-  EXPECT_EQ(decodeUnicodeSms("%%UNICODE%%4f60"), QString::fromUtf8("\u4F60"));
+  EXPECT_EQ(decodeUnicodeSms("%%UNICODE%%4f60"), QString::fromUtf8("\u4F60")) << "one character";
   for (const char* other : {"", "0048", "%%UNICODE%%", "%%UNICODE%%004", "%%UNICODE%%00480",
                             "%%UNICODE%%00G8", "%%UNICODE%%0048 0049", "x%%UNICODE%%0048", "%%unicode%%0048"})
     EXPECT_EQ(decodeUnicodeSms(other), std::nullopt) << other;
 }
 
 }  // namespace
-}  // namespace parlexo
+}  // namespace parlexo::test

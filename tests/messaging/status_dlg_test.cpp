@@ -1,29 +1,17 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "messaging/screens/status_dlg.h"
 
-#include <QComboBox>
 #include <QHeaderView>
-#include <QLabel>
 #include <QMenu>
-#include <QTest>
 #include <QTreeView>
-#include <gmock/gmock.h>
 
 #include "tests/messaging/gateway_rig.h"
-#include "tests/support/column_cells.h"
-#include "ui/picture_button.h"
+#include "tests/support/widgets.h"
 
-namespace parlexo {
-
-using namespace Qt::StringLiterals;
-
+namespace parlexo::test {
 namespace {
 
-using testing::ElementsAre;
-using testing::IsEmpty;
-
-class StatusPage : public testing::Test, protected GatewayRig {
- protected:
+struct StatusPage : testing::Test, GatewayRig {
   void logMessage(const char* receipt, const char* date, const char* type = "SMS") {
     log.add({"+61491570156", QString::fromLatin1(receipt), "Delivered to Gateway", QString::fromLatin1(type),
              QString::fromLatin1(date)});
@@ -35,8 +23,8 @@ class StatusPage : public testing::Test, protected GatewayRig {
     list_ = page_->findChild<QTreeView*>("statusList");
     combo_ = page_->findChild<QComboBox*>("messageType");
   }
-  [[nodiscard]] QStringList column(int which) const { return columnCells(*list_->model(), which); }
-  void getStatus() { QTest::mouseClick(page_->findChild<PictureButton*>("getStatusButton"), Qt::LeftButton); }
+  [[nodiscard]] QStringList column(int which) const { return columnCells(*list_, which); }
+  void getStatus() { click(*page_, "getStatusButton"); }
 
   std::unique_ptr<CStatusDlg> page_;
   QTreeView* list_ = nullptr;
@@ -70,7 +58,7 @@ TEST_F(StatusPage, selectTypeRefreshesEvenWhenTheTypeStays) {
   EXPECT_THAT(column(1), ElementsAre("new", "newer"));
 }
 
-TEST_F(StatusPage, getStatusAsksForTheSelectedRowsInListOrder) {
+TEST_F(StatusPage, getStatusQueriesTheSelectedRowsInOrder) {
   logMessage("R1", "01/01/2026 10:00:01");
   logMessage("R2", "01/01/2026 10:00:02");
   logMessage("R3", "01/01/2026 10:00:03");
@@ -86,10 +74,10 @@ TEST_F(StatusPage, getStatusAsksForTheSelectedRowsInListOrder) {
   getStatus();
   EXPECT_THAT(journal, IsEmpty()) << "nothing selected, no box either";
   EXPECT_EQ(operations().count(u"getStatus"_s), 2);
-  EXPECT_THAT(notifier.takeTexts(), IsEmpty());
+  EXPECT_THAT(notifier.popTexts(), IsEmpty());
 }
 
-TEST_F(StatusPage, contextMenuHasOneEntryThatAsksForTheStatus) {
+TEST_F(StatusPage, contextMenuQueriesTheStatus) {
   logMessage("R1", "01/01/2026 10:00:01");
   open();
   auto* menu = page_->findChild<QMenu*>("statusMenu");
@@ -102,7 +90,7 @@ TEST_F(StatusPage, contextMenuHasOneEntryThatAsksForTheStatus) {
   EXPECT_THAT(column(3), ElementsAre("Delivered to handset"));
 }
 
-TEST_F(StatusPage, dateHeadingSortsByTimeBesideTheFirstOrder) {
+TEST_F(StatusPage, dateHeadingSortsByTime) {
   logMessage("new", "02/01/2026 10:00:10");
   logMessage("old", "30/12/2025 10:00:40");
   logMessage("newest", "02/01/2026 10:00:50");
@@ -121,7 +109,7 @@ TEST_F(StatusPage, dateHeadingSortsByTimeBesideTheFirstOrder) {
   EXPECT_EQ(column(1), first);
 }
 
-TEST_F(StatusPage, countLineSaysWhatIsShownAndWhatTheFileWillLose) {
+TEST_F(StatusPage, countLineShowsTotalsAndTheFileLimit) {
   const auto count = [this] { return page_->findChild<QLabel*>("statusCount")->text(); };
   logMessage("R0", "01/01/2026 10:00:01");
   open();
@@ -136,4 +124,4 @@ TEST_F(StatusPage, countLineSaysWhatIsShownAndWhatTheFileWillLose) {
 }
 
 }  // namespace
-}  // namespace parlexo
+}  // namespace parlexo::test

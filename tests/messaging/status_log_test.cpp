@@ -1,7 +1,4 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include <QDir>
-#include <QTemporaryDir>
-#include <gmock/gmock.h>
 
 #include "contacts/shared_file.h"
 #include "messaging/core/receipts.h"
@@ -10,29 +7,21 @@
 #include "messaging/core/status_order.h"
 #include "tests/support/file_bytes.h"
 #include "tests/support/recording_notifier.h"
+#include "tests/support/test.h"
 
-namespace parlexo {
-
-using namespace Qt::StringLiterals;
-
+namespace parlexo::test {
 namespace {
-
-using testing::AllOf;
-using testing::ElementsAre;
-using testing::HasSubstr;
-using testing::IsEmpty;
 
 const QDateTime sendTime(QDate(2026, 3, 4), QTime(5, 6, 7));
 
-TEST(Receipts, thatDoNotPairWithTheNumbersAreNotLogged) {
+TEST(Receipts, withoutMatchingNumbersAreNotLogged) {
   for (const char* receipts : {"", "+1:R1", "+1:R1,+2:R2,", "+1:R1,+2:R2,+3:R3"})
     EXPECT_TRUE(statusEntries(QString::fromLatin1(receipts), u"+1,+2"_s, {}, sendTime).empty()) << receipts;
   EXPECT_TRUE(statusEntries({}, {}, {}, sendTime).empty());
   EXPECT_EQ(statusEntries(u"+1"_s, u"+1"_s, {}, sendTime).front().receipt, "") << "no colon, a number alone";
 }
 
-class StatusFileTest : public testing::Test {
- protected:
+struct StatusFileTest : testing::Test {
   void load(const QByteArray& bytes) {
     writeBytes(path_, bytes);
     file_.load(log_, notifier_);
@@ -68,10 +57,10 @@ TEST_F(StatusFileTest, onlyTheFirstThousandElementsAreRead) {
   EXPECT_EQ(log_.entries().size(), 999U) << "an element of another name counts";
   EXPECT_EQ(log_.entries().at(u"999"_s), (StatusEntry{{}, "999", u"\u2714"_s, {}, "d"}));
   EXPECT_FALSE(log_.isModified());
-  EXPECT_THAT(notifier_.takeTexts(), IsEmpty());
+  EXPECT_THAT(notifier_.popTexts(), IsEmpty());
 }
 
-TEST_F(StatusFileTest, ofTooManyEntriesTheNewestAreWritten) {
+TEST_F(StatusFileTest, onlyTheNewestEntriesAreWritten) {
   for (int i = 0; i < 1200; ++i) {
     StatusEntry each = entry(QString::number(i));
     each.date = QDateTime(QDate(2026, 1, 1), {}).addDays(i * 7 % 1200).toString("dd/MM/yyyy HH:mm:ss");
@@ -88,11 +77,11 @@ TEST_F(StatusFileTest, missingFileIsAWarning) {
   log_.add(entry(u"old"_s));
   file_.load(log_, notifier_);
   EXPECT_EQ(notifier_.shown.at(0).style, message_style::exclamation);
-  EXPECT_THAT(notifier_.takeTexts(), ElementsAre("Could not locate the status file."));
+  EXPECT_THAT(notifier_.popTexts(), ElementsAre("Could not locate the status file."));
   EXPECT_THAT(log_.entries(), IsEmpty());
 }
 
-TEST_F(StatusFileTest, readableLinesOfARejectedFileAreBroughtBackAndTheFileIsKept) {
+TEST_F(StatusFileTest, rejectedFileIsKeptAndItsReadableLinesAreRecovered) {
   const QByteArray good = "<Message Date=\"d\" Type=\"SMS\" Phone=\"+1\" Status=\"s\">R</Message>\n";
   const QByteArray bomb =
       "<!DOCTYPE s [<!ENTITY a \"aaaaaaaaaa\"><!ENTITY b \"&a;&a;&a;&a;&a;&a;&a;&a;&a;&a;\">"
@@ -102,11 +91,7 @@ TEST_F(StatusFileTest, readableLinesOfARejectedFileAreBroughtBackAndTheFileIsKep
       "<Message Date=\"d\" Type=\"SMS\" Phone=\"+1\" Status=\"a \"b\" & <c> \">\">Q</Message>\n";
   const StatusEntry goodEntry{"+1", "R", "s", "SMS", "d"};
   const StatusEntry quotedEntry{"+1", "Q", "a \"b\" & <c> \">", "SMS", "d"};
-  const struct {
-    QByteArray bytes;
-    std::vector<StatusEntry> entries;
-    const char* said;
-  } samples[] = {
+  const Cases<QByteArray, std::vector<StatusEntry>, const char*> samples = {
       {"", {}, "\n\n0 entries were brought back."},
       {"<Status>\n" + good + "<Mess", {goodEntry}, "\n\n1 entry was brought back."},
       {"<Status>\r\n  <Message Phone=\"&lt;\">X</Message>\r\n" + quoted + good + "</Status>",
@@ -119,11 +104,11 @@ TEST_F(StatusFileTest, readableLinesOfARejectedFileAreBroughtBackAndTheFileIsKep
   };
   for (const auto& [bytes, entries, said] : samples) {
     load(bytes);
-    EXPECT_THAT(notifier_.takeTexts(), ElementsAre(AllOf(HasSubstr("cannot be read: "), HasSubstr(said))))
+    EXPECT_THAT(notifier_.popTexts(), ElementsAre(AllOf(HasSubstr("cannot be read: "), HasSubstr(said))))
         << bytes.toStdString();
     EXPECT_EQ(log_.entries().size(), entries.size());
     for (const StatusEntry& each : entries) EXPECT_EQ(log_.entries().at(each.receipt), each);
-    // The second save must not keep the first one's file.
+    // The second save must not copy the file of the first one.
     for (const char* receipt : {"new", "newer"}) {
       log_.add(entry(QString::fromLatin1(receipt)));
       ASSERT_TRUE(file_.save(log_));
@@ -136,7 +121,7 @@ TEST_F(StatusFileTest, readableLinesOfARejectedFileAreBroughtBackAndTheFileIsKep
   }
 }
 
-TEST_F(StatusFileTest, tenRejectedFilesAreKeptAndOneThatCannotBeKeptIsNotReplaced) {
+TEST_F(StatusFileTest, tenRejectedFilesAreKept) {
   for (const char* name : {"Status.xml.bad", "Status.xml.9.bad", "Status.xml.x.bad"})
     writeBytes(folder_.filePath(QString::fromLatin1(name)), "old");
   for (int i = 10; i < 20; ++i) {
@@ -163,12 +148,12 @@ TEST_F(StatusFileTest, tenRejectedFilesAreKeptAndOneThatCannotBeKeptIsNotReplace
 
 TEST_F(StatusFileTest, aHugeFileIsRefusedAndRenamed) {
   load(QByteArray(StatusFile::maxBytes + 1, ' '));
-  EXPECT_THAT(notifier_.takeTexts(), ElementsAre(HasSubstr("cannot be read: It is larger")));
+  EXPECT_THAT(notifier_.popTexts(), ElementsAre(HasSubstr("cannot be read: It is larger")));
   ASSERT_TRUE(file_.save(log_));
   EXPECT_EQ(QFileInfo(path_ + ".1.bad").size(), StatusFile::maxBytes + 1);
 }
 
-TEST_F(StatusFileTest, controlCharactersAreNeitherWrittenNorAReasonToRefuseAFile) {
+TEST_F(StatusFileTest, controlCharactersAreRemoved) {
   const QString bad = u"a\x13"_s + QChar(0) + "\x1B\x7F\u0085\uFFFE" + QChar(0xD800) + "b\r\nc\td" +
                       QString::fromUtf8("\U0001F600\u2013");
   const QString clean = QString::fromUtf8("ab  c d\U0001F600\u2013");
@@ -180,13 +165,13 @@ TEST_F(StatusFileTest, controlCharactersAreNeitherWrittenNorAReasonToRefuseAFile
   load(readBytes(path_).replace("ab",
                                 "a\x13\x01"
                                 "b"));
-  EXPECT_THAT(notifier_.takeTexts(), IsEmpty());
+  EXPECT_THAT(notifier_.popTexts(), IsEmpty());
   EXPECT_EQ(log_.entries().at(expected.receipt), expected);
   ASSERT_TRUE(file_.save(log_));
   EXPECT_THAT(QDir(folder_.path()).entryList({"*.bad"}), IsEmpty());
 }
 
-TEST_F(StatusFileTest, twoProgramsKeepEachOthersEntries) {
+TEST_F(StatusFileTest, entriesOfTwoProgramsAreMerged) {
   StatusFile otherFile(path_);
   StatusLog other;
   const auto statuses = [](const StatusLog& log) {
@@ -207,7 +192,7 @@ TEST_F(StatusFileTest, twoProgramsKeepEachOthersEntries) {
   other.setStatus("theirs", "new");
   other.setStatus("both", "new");
   ASSERT_TRUE(otherFile.save(other));
-  // A program can't remove an entry; another one or the user may have.
+  // The user has removed an entry.
   QByteArray bytes = readBytes(path_);
   const qsizetype gone = bytes.lastIndexOf("<Message", bytes.indexOf(">gone<"));
   writeBytes(path_, bytes.remove(gone, bytes.indexOf('\n', gone) + 1 - gone));
@@ -222,7 +207,7 @@ TEST_F(StatusFileTest, twoProgramsKeepEachOthersEntries) {
   EXPECT_EQ(statuses(other), merged);
   EXPECT_EQ(readOwnStatusDocument(readBytes(path_))->size(), 5U);
   EXPECT_THAT(QDir(folder_.path()).entryList({"*.bad"}), IsEmpty()) << "quotation marks are no damage";
-  // Entries that a damaged or missing file lacks were not deleted.
+  // A damaged or missing file deletes no entries.
   for (const char* damaged : {"<Status>\n<Mess", ""}) {
     *damaged ? void(writeBytes(path_, damaged)) : void(QFile::remove(path_));
     ASSERT_TRUE(file_.save(log_));
@@ -230,7 +215,7 @@ TEST_F(StatusFileTest, twoProgramsKeepEachOthersEntries) {
   }
 }
 
-TEST_F(StatusFileTest, whatMadeRoomForAnotherProgramsEntriesStaysInMemory) {
+TEST_F(StatusFileTest, entriesDisplacedByAnotherProgramStayInMemory) {
   log_.add(entry("old"));
   ASSERT_TRUE(file_.save(log_));
   StatusFile otherFile(path_);
@@ -243,7 +228,7 @@ TEST_F(StatusFileTest, whatMadeRoomForAnotherProgramsEntriesStaysInMemory) {
   EXPECT_EQ(log_.entries().size(), 1002U);
 }
 
-TEST_F(StatusFileTest, aFailedSaveLeavesTheLogModifiedAndAHeldLockDefersAllButTheLast) {
+TEST_F(StatusFileTest, failedSaveLeavesTheLogModifiedAndALockDefersAllButTheLastSave) {
   log_.add(entry(u"R"_s));
   EXPECT_FALSE(StatusFile(folder_.filePath(u"missing/Status.xml"_s)).save(log_));
   SharedFile lock;
@@ -262,14 +247,9 @@ int compared(const char* first, const char* second) {
 
 std::vector<std::string> sorted(const std::vector<const char*>& dates) {
   std::vector<StatusEntry> entries;
-  for (const char* date : dates) {
-    StatusEntry entry;
-    entry.date = QString::fromLatin1(date);
-    entries.push_back(entry);
-  }
+  for (const char* date : dates) entries.push_back({{}, {}, {}, {}, QString::fromLatin1(date)});
   sortByStatusDate(entries);
   std::vector<std::string> result;
-  result.reserve(entries.size());
   for (const StatusEntry& entry : entries) result.push_back(entry.date.toStdString());
   return result;
 }
@@ -282,7 +262,7 @@ TEST(StatusOrder, onlyTheSecondsOfTheDifferenceCount) {
   EXPECT_EQ(statusInstant(u"yesterday"_s), 0);
 }
 
-TEST(StatusOrder, mergesNeighboursFirstThoughTheOrderGoesInACircle) {
+TEST(StatusOrder, isAMergeSortOfACyclicOrder) {
   // a > b and b > c by the seconds, but a and c are whole minutes apart.
   const char* a = "01/01/2026 10:01:00";
   const char* b = "01/01/2026 10:00:30";
@@ -293,4 +273,4 @@ TEST(StatusOrder, mergesNeighboursFirstThoughTheOrderGoesInACircle) {
 }
 
 }  // namespace
-}  // namespace parlexo
+}  // namespace parlexo::test

@@ -1,25 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "messaging/core/status_query_flow.h"
 
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
 #include "messaging/core/sms_send_flow.h"
 #include "tests/messaging/gateway_rig.h"
+#include "tests/support/test.h"
 
-namespace parlexo {
-
-using namespace Qt::StringLiterals;
-
+namespace parlexo::test {
 namespace {
 
-using simulator::FaultKind;
-using testing::ElementsAre;
-using testing::IsEmpty;
-
-// Three messages that are on their way, and nothing in the journal yet.
-class StatusQuery : public testing::Test, protected GatewayRig {
- protected:
+// Three sent messages and an empty journal.
+struct StatusQuery : testing::Test, GatewayRig {
   StatusQuery() {
     SmsDraft draft;
     draft.text = u"Hello"_s;
@@ -47,13 +37,13 @@ class StatusQuery : public testing::Test, protected GatewayRig {
   qsizetype sent_ = 0;
 };
 
-TEST_F(StatusQuery, answersAreStoredShownAndSaved) {
+TEST_F(StatusQuery, repliesAreStoredShownAndSaved) {
   query({receipts_[2], receipts_[0]});
   EXPECT_EQ(updated_,
             QStringList({receipts_[2] + "=Queued at gateway", receipts_[0] + "=Queued at gateway"}));
   EXPECT_EQ(status(0), "Queued at gateway");
   EXPECT_EQ(status(1), "Delivered to Gateway");
-  EXPECT_THAT(journal, ElementsAre("(box)", "(no box)"));
+  EXPECT_THAT(journal, ElementsAre(QString::fromUtf8("(box) Getting the status (1 of 2)…"), "(no box)"));
   StatusLog readBack;
   file.load(readBack, notifier);
   EXPECT_EQ(readBack.entries(), log.entries());
@@ -62,8 +52,8 @@ TEST_F(StatusQuery, answersAreStoredShownAndSaved) {
 TEST_F(StatusQuery, expiredSessionAsksForLoginOnceAndStops) {
   simulator.expireSessions();
   query(receipts_);
-  EXPECT_THAT(journal,
-              ElementsAre("(box)", "(no box)", "Your Session has expired. Please log back in", "(login)"));
+  EXPECT_THAT(journal, ElementsAre(QString::fromUtf8("(box) Getting the status (1 of 3)…"), "(no box)",
+                                   "16 Your Session has expired. Please log back in", "(login)"));
   EXPECT_EQ(queries().size(), 1);
 }
 
@@ -74,32 +64,32 @@ TEST_F(StatusQuery, aFailedReceiptIsSkippedAndReportedOnce) {
   EXPECT_EQ(queries().size(), 4);
   EXPECT_FALSE(log.isModified());
   EXPECT_THAT(journal,
-              ElementsAre("(box)", "(no box)",
-                          "An error occured while getting the status of the message.\r\nError code: 10"));
+              ElementsAre(QString::fromUtf8("(box) Getting the status (1 of 4)…"), "(no box)",
+                          "16 An error occured while getting the status of the message.\r\nError code: 10"));
   EXPECT_EQ(outcome_.text(), "2 could not be determined. 1 failed message was left out.");
   query({receipts_[0]});
   EXPECT_EQ(outcome_.text(), "");
 }
 
-TEST_F(StatusQuery, aGatewayOutOfReachIsGivenUpAfterThreeReceipts) {
-  misbehave(FaultKind::SoapFault, u"getStatus"_s);
+TEST_F(StatusQuery, queryStopsAfterThreeUnansweredReceipts) {
+  setFault(FaultKind::SoapFault, u"getStatus"_s);
   query(receipts_ + receipts_);
   EXPECT_EQ(queries().size(), 3);
-  EXPECT_THAT(notifier.takeTexts(), ElementsAre(unreachable));
+  EXPECT_THAT(notifier.popTexts(), ElementsAre(unreachable));
   EXPECT_EQ(outcome_.text(), "6 could not be determined.");
   EXPECT_EQ(status(0), "Delivered to Gateway");
 }
 
-TEST_F(StatusQuery, cancellingKeepsWhatWasReceivedAndShowsNoError) {
-  misbehave(FaultKind::Late, u"getStatus"_s, 150);
+TEST_F(StatusQuery, cancelKeepsReceivedStatusesAndShowsNoError) {
+  setFault(FaultKind::Late, u"getStatus"_s, 150);
   runner.cancel(2, std::chrono::milliseconds(20));
   query(receipts_);
   EXPECT_EQ(status(0), "Queued at gateway");
   EXPECT_EQ(status(2), "Delivered to Gateway");
-  EXPECT_THAT(notifier.takeTexts(), IsEmpty());
+  EXPECT_THAT(notifier.popTexts(), IsEmpty());
   EXPECT_EQ(outcome_.text(), "Cancelled: 2 not asked for.");
   EXPECT_FALSE(log.isModified());
 }
 
 }  // namespace
-}  // namespace parlexo
+}  // namespace parlexo::test

@@ -1,25 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "messaging/core/template.h"
 
-#include <optional>
-#include <utility>
-
-#include <QDir>
-#include <QTemporaryDir>
-#include <gmock/gmock.h>
-
 #include "tests/support/file_bytes.h"
+#include "tests/support/test.h"
 
-namespace parlexo {
-
-using namespace Qt::StringLiterals;
-
+namespace parlexo::test {
 namespace {
 
-using testing::ElementsAre;
-using testing::IsEmpty;
-
-TEST(TemplateParsing, wantsTheSeparatorOnce) {
+TEST(TemplateParsing, requiresOneSeparator) {
   const std::pair<QByteArray, std::optional<Template>> files[] = {
       {"Ann [+1]{|/SEP/|}Hi", Template{"Ann [+1]", "Hi"}},
       {"{|/SEP/|}Hi", Template{"", "Hi"}},
@@ -33,13 +21,12 @@ TEST(TemplateParsing, wantsTheSeparatorOnce) {
   for (const auto& [bytes, content] : files) EXPECT_EQ(parseTemplate(bytes), content) << bytes.constData();
 }
 
-class TemplateStore : public testing::Test {
- protected:
+struct TemplateStore : testing::Test {
   QTemporaryDir directory;
   TemplateFolder folder{directory.path()};
 };
 
-TEST_F(TemplateStore, savesExactlyThesePlainBytesAndReplacesSilently) {
+TEST_F(TemplateStore, savesPlainBytesAndReplaces) {
   EXPECT_TRUE(folder.save("Lunch", {"", "a much longer text than the next"}));
   EXPECT_TRUE(
       folder.save("Lunch", {QString::fromUtf8("Zo\u00EB [+44]"), QString::fromUtf8("5 \u20AC\n\u4F60")}));
@@ -60,7 +47,7 @@ TEST_F(TemplateStore, listsTemplateFilesAndRemovesThem) {
   EXPECT_THAT(folder.names(), ElementsAre("Ask - 10%", "b.tpl"));
 }
 
-TEST_F(TemplateStore, refusesNamesThatNoFileCanHave) {
+TEST_F(TemplateStore, rejectsInvalidFileNames) {
   for (const QString& name : {QString(), u"../out"_s, u"a\\b"_s, u"a"_s + QChar(u'\0'), QString(300, u'x')})
     EXPECT_FALSE(folder.save(name, {"", "Hi"})) << name.toStdString();
   EXPECT_THAT(folder.names(), IsEmpty());
@@ -71,4 +58,4 @@ TEST_F(TemplateStore, refusesNamesThatNoFileCanHave) {
 }
 
 }  // namespace
-}  // namespace parlexo
+}  // namespace parlexo::test

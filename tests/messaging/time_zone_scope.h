@@ -5,7 +5,7 @@
 
 #include <QByteArray>
 
-namespace parlexo {
+namespace parlexo::test {
 
 /// The process lives in another time zone for the length of a scope.
 class TimeZoneScope {
@@ -31,4 +31,4 @@ class TimeZoneScope {
   const QByteArray former_ = qgetenv("TZ");
 };
 
-}  // namespace parlexo
+}  // namespace parlexo::test

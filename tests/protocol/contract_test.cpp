@@ -3,22 +3,16 @@
 
 #include <algorithm>
 #include <array>
-#include <memory>
 #include <new>
-#include <string>
-#include <string_view>
 #include <type_traits>
 
 #include <QRegularExpression>
-#include <QStringList>
-#include <gtest/gtest.h>
 
 #include "tests/support/file_bytes.h"
+#include "tests/support/test.h"
 
-namespace parlexo {
+namespace parlexo::test {
 namespace {
-
-using namespace Qt::StringLiterals;
 
 /// The first letter of a name has to be that of its type.
 QString cellWith(const protocol::Fields& fields) {
@@ -49,14 +43,13 @@ TEST(Contract, isTheTableOfTheDocumentation) {
   EXPECT_EQ(found.join(u'\n').toStdString(), documented.join(u'\n').toStdString());
 }
 
-/// Two members that share one place would both read the value written last.
-TEST(Contract, everyFieldHasAMemberOfItsOwn) {
+/// Each member must have its own address.
+TEST(Contract, everyFieldHasItsOwnMember) {
   protocol::forEachOperation([&](const auto& operation) {
     typename std::remove_cvref_t<decltype(operation)>::Request request;
     const protocol::Fields fields = operation.fields(request);
-    for (std::size_t i = 1; i < fields.size(); ++i) {
+    for (std::size_t i = 1; i < fields.size(); ++i)
       EXPECT_LT(fields[i - 1].value, fields[i].value) << operation.name << " " << fields[i].name;
-    }
   });
 }
 
@@ -80,4 +73,4 @@ static_assert(!std::is_convertible_v<bool, protocol::StopsAtDoubleLine>);
 static_assert(!std::is_convertible_v<protocol::StopsAtEndKeyword, protocol::StopsAtDoubleLine>);
 
 }  // namespace
-}  // namespace parlexo
+}  // namespace parlexo::test

@@ -1,15 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "server/http_request_parser.h"
 
-#include <gmock/gmock.h>
+#include "tests/support/test.h"
 
-namespace parlexo::server {
-
+namespace parlexo::test {
 namespace {
 
+using namespace server;
 using State = HttpRequestParser::State;
 
-// The requests are fed byte by byte: a connection may cut them anywhere.
+// Feeds a request byte by byte, as a connection may split it anywhere.
 State feedSlowly(HttpRequestParser& parser, const QByteArray& bytes) {
   State state = State::NeedsMore;
   for (const char byte : bytes) state = parser.feed(QByteArray(1, byte));
@@ -32,7 +32,7 @@ TEST(HttpRequestParser, readsBodiesByLengthAndInChunks) {
   }
 }
 
-TEST(HttpRequestParser, keepsWhatFollowsForTheNextRequest) {
+TEST(HttpRequestParser, parsesPipelinedRequests) {
   HttpRequestParser parser;
   ASSERT_EQ(parser.feed("GET /a HTTP/1.1\r\n\r\nGET http://host:1/b?c HTTP/1.0\r\nX-Y:  z \r\n\r\n"),
             State::Complete);
@@ -46,7 +46,7 @@ TEST(HttpRequestParser, keepsWhatFollowsForTheNextRequest) {
   EXPECT_FALSE(second.keepAlive);
 }
 
-TEST(HttpRequestParser, asksForTheBodyOfAClientThatWaits) {
+TEST(HttpRequestParser, supportsExpectContinue) {
   HttpRequestParser parser;
   EXPECT_EQ(parser.feed("POST / HTTP/1.1\r\nExpect: 100-continue\r\nContent-Length: 1\r\n\r\n"),
             State::NeedsMore);
@@ -55,13 +55,9 @@ TEST(HttpRequestParser, asksForTheBodyOfAClientThatWaits) {
   EXPECT_EQ(parser.feed("x"), State::Complete);
 }
 
-TEST(HttpRequestParser, refusesWhatIsMalformedOrTooLarge) {
-  struct Case {
-    QByteArray request;
-    int status;
-  };
+TEST(HttpRequestParser, rejectsMalformedAndLargeRequests) {
   const QByteArray post = "POST / HTTP/1.1\r\n";
-  const Case cases[] = {
+  const Cases<QByteArray, int> cases = {
       {"\x16\x03\x01 garbage\r\n", 400},
       {"GET / HTTP/2.0\r\n", 400},
       {"GET / HTTP/1.1\r\nno colon\r\n", 400},
@@ -78,13 +74,12 @@ TEST(HttpRequestParser, refusesWhatIsMalformedOrTooLarge) {
       {post + "Transfer-Encoding: chunked\r\n\r\n-1\r\n", 400},
       {post + "Transfer-Encoding: chunked\r\n\r\n1\r\nxy\r\n", 400},
   };
-  for (const Case& each : cases) {
+  for (const auto& [request, status] : cases) {
     HttpRequestParser parser;
-    EXPECT_EQ(parser.feed(each.request), State::Refused) << each.request.left(80).toStdString();
-    EXPECT_EQ(parser.refusalStatus(), each.status) << each.request.left(80).toStdString();
+    EXPECT_EQ(parser.feed(request), State::Refused) << request.left(80).toStdString();
+    EXPECT_EQ(parser.refusalStatus(), status) << request.left(80).toStdString();
   }
 }
 
 }  // namespace
-
-}  // namespace parlexo::server
+}  // namespace parlexo::test

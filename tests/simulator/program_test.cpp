@@ -1,31 +1,22 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <QCoreApplication>
 #include <QProcess>
-#include <gmock/gmock.h>
 
 #include "simulator/command_line.h"
 #include "simulator/message_text.h"
 #include "tests/simulator/raw_client.h"
+#include "tests/support/test.h"
 
-namespace parlexo::simulator {
-
-using namespace Qt::StringLiterals;
-
+namespace parlexo::test {
 namespace {
 
-using testing::HasSubstr;
-using testing::StartsWith;
-
+using namespace simulator;
 QString program() {
   return QCoreApplication::applicationDirPath() + u"/parlexo-simulator"_s;
 }
 
-TEST(CommandLine, saysWhatIsWrong) {
-  struct Case {
-    const char* arguments;
-    const char* problem;
-  };
-  const Case cases[] = {
+TEST(CommandLine, problemIsReported) {
+  const Cases<const char*, const char*> cases = {
       {"--colour red", "Unknown option 'colour'."},
       {"port", "unexpected argument \"port\""},
       {"--port", "Missing value after '--port'."},
@@ -35,11 +26,11 @@ TEST(CommandLine, saysWhatIsWrong) {
       {"--latency -1", "--latency -1: needs a time in milliseconds"},
       {"--fault x", "--fault x: expected OPERATION:KIND"},
   };
-  for (const Case& each : cases)
-    EXPECT_EQ(parseCommandLine(
-                  QStringLiteral("parlexo-simulator %1").arg(QLatin1String(each.arguments)).split(u' '))
-                  .problem.toStdString(),
-              each.problem);
+  for (const auto& [arguments, problem] : cases)
+    EXPECT_EQ(
+        parseCommandLine(QStringLiteral("parlexo-simulator %1").arg(QLatin1String(arguments)).split(u' '))
+            .problem.toStdString(),
+        problem);
 }
 
 TEST(CommandLine, readsValuesAndHelp) {
@@ -58,7 +49,7 @@ TEST(CommandLine, readsValuesAndHelp) {
     EXPECT_THAT(help, HasSubstr(part));
 }
 
-TEST(GatewayProgram, servesUntilItIsAskedToEnd) {
+TEST(GatewayProgram, servesUntilTerminated) {
   QProcess process;
   process.start(program(), {u"--port"_s, u"0"_s});
   ASSERT_TRUE(process.waitForReadyRead(10000));
@@ -74,7 +65,7 @@ TEST(GatewayProgram, servesUntilItIsAskedToEnd) {
   EXPECT_THAT(process.readAllStandardOutput().toStdString(), HasSubstr("sessionStart: code 0, success"));
 }
 
-TEST(GatewayProgram, badOptionEndsItWithAMessage) {
+TEST(GatewayProgram, badOptionIsReported) {
   QProcess process;
   process.start(program(), {u"--prot"_s});
   ASSERT_TRUE(process.waitForFinished(10000));
@@ -83,13 +74,7 @@ TEST(GatewayProgram, badOptionEndsItWithAMessage) {
 }
 
 TEST(MessageText, countsUnitsAndParts) {
-  struct Case {
-    QByteArray raw;
-    int units;
-    int parts;
-    bool unicode;
-  };
-  const Case cases[] = {
+  const Cases<QByteArray, int, int, bool> cases = {
       {QByteArray(160, 'x'), 160, 1, false},
       {QByteArray(161, 'x'), 161, 2, false},
       {QByteArray(80, '\xA4') + "x", 161, 2, false},
@@ -97,18 +82,17 @@ TEST(MessageText, countsUnitsAndParts) {
       {"%%UNICODE%%" + QByteArray("20AC").repeated(135), 135, 3, true},
       {"%%UNICODE%%123", 14, 1, false},
   };
-  for (const Case& each : cases) {
-    const MessageText text = parseMessageText(each.raw);
-    EXPECT_EQ(text.units, each.units) << each.raw.left(20).toStdString();
-    EXPECT_EQ(text.parts, each.parts) << each.raw.left(20).toStdString();
-    EXPECT_EQ(text.unicode, each.unicode) << each.raw.left(20).toStdString();
+  for (const auto& [raw, units, parts, unicode] : cases) {
+    const MessageText text = parseMessageText(raw);
+    EXPECT_EQ(text.units, units) << raw.left(20).toStdString();
+    EXPECT_EQ(text.parts, parts) << raw.left(20).toStdString();
+    EXPECT_EQ(text.unicode, unicode) << raw.left(20).toStdString();
   }
 }
 
-TEST(MessageText, logLineHoldsNoControlCharacter) {
+TEST(MessageText, logLineHasNoControlCharacters) {
   EXPECT_EQ(escapeForLog(u"a\r\nb\nc\x1B[31m\r"_s), u"a⏎b⏎c\\x1b[31m\\x0d"_s);
 }
 
 }  // namespace
-
-}  // namespace parlexo::simulator
+}  // namespace parlexo::test

@@ -4,7 +4,7 @@
 #include <QElapsedTimer>
 #include <QHostAddress>
 
-namespace parlexo::simulator {
+namespace parlexo::test {
 
 namespace {
 
@@ -34,31 +34,24 @@ QByteArray RawClient::exchange(const QByteArray& bytes) const {
   return readToEnd(socket);
 }
 
-QByteArray RawClient::get(const QByteArray& path) const {
-  return exchange("GET " + path + " HTTP/1.0\r\nHost: localhost\r\n\r\n");
-}
-
 QByteArray RawClient::call(const QByteArray& operation, const QByteArray& fields) const {
   return exchange(postRequest(operation, fields));
 }
 
 QByteArray RawClient::logIn() const {
-  return valueOf(call("sessionStart", text("sUser", "demo") + text("sPassword", "demo1234")), "sSession");
-}
-
-QByteArray soapEnvelope(const QByteArray& operation, const QByteArray& fields) {
-  return "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
-         "<SOAP-ENV:Envelope xmlns:SOAP-ENV=\"http://schemas.xmlsoap.org/soap/envelope/\" "
-         "xmlns:SOAP-ENC=\"http://schemas.xmlsoap.org/soap/encoding/\" "
-         "xmlns:xsi=\"http://www.w3.org/2001/XMLSchema-instance\" "
-         "xmlns:xsd=\"http://www.w3.org/2001/XMLSchema\" "
-         "xmlns:ns3=\"http://www.parlexo.example/onlineCommunication/binding\">"
-         "<SOAP-ENV:Body SOAP-ENV:encodingStyle=\"http://schemas.xmlsoap.org/soap/encoding/\"><ns3:" +
-         operation + ">" + fields + "</ns3:" + operation + "></SOAP-ENV:Body></SOAP-ENV:Envelope>";
+  return elementText(call("sessionStart", text("sUser", "demo") + text("sPassword", "demo1234")), "sSession");
 }
 
 QByteArray postRequest(const QByteArray& operation, const QByteArray& fields) {
-  const QByteArray body = soapEnvelope(operation, fields);
+  const QByteArray body =
+      "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
+      "<SOAP-ENV:Envelope xmlns:SOAP-ENV=\"http://schemas.xmlsoap.org/soap/envelope/\" "
+      "xmlns:SOAP-ENC=\"http://schemas.xmlsoap.org/soap/encoding/\" "
+      "xmlns:xsi=\"http://www.w3.org/2001/XMLSchema-instance\" "
+      "xmlns:xsd=\"http://www.w3.org/2001/XMLSchema\" "
+      "xmlns:ns3=\"http://www.parlexo.example/onlineCommunication/binding\">"
+      "<SOAP-ENV:Body SOAP-ENV:encodingStyle=\"http://schemas.xmlsoap.org/soap/encoding/\"><ns3:" +
+      operation + ">" + fields + "</ns3:" + operation + "></SOAP-ENV:Body></SOAP-ENV:Envelope>";
   return "POST /ccx/onlineCommunication HTTP/1.1\r\nHost: localhost\r\nConnection: close\r\n"
          "Content-Type: text/xml; charset=utf-8\r\nContent-Length: " +
          QByteArray::number(body.size()) +
@@ -74,15 +67,15 @@ QByteArray flag(const QByteArray& name, bool value) {
   return "<" + name + " xsi:type=\"xsd:boolean\">" + (value ? "true" : "false") + "</" + name + ">";
 }
 
-QByteArray valueOf(const QByteArray& reply, const QByteArray& name) {
+QByteArray elementText(const QByteArray& reply, const QByteArray& name) {
   const qsizetype begin = reply.indexOf("<" + name);
   const qsizetype content = begin < 0 ? -1 : reply.indexOf('>', begin);
   const qsizetype end = content < 0 ? -1 : reply.indexOf("</" + name + ">", content);
   return end < 0 ? QByteArray("(none)") : reply.mid(content + 1, end - content - 1);
 }
 
-int statusOf(const QByteArray& reply) {
+int httpStatus(const QByteArray& reply) {
   return reply.startsWith("HTTP/1.1 ") ? reply.mid(9, 3).toInt() : 0;
 }
 
-}  // namespace parlexo::simulator
+}  // namespace parlexo::test

@@ -5,17 +5,15 @@
 #include <QString>
 #include <QTcpSocket>
 
-namespace parlexo::simulator {
+namespace parlexo::test {
 
-/// Talks to a gateway with requests written out by hand, so that client and gateway cannot agree on a mistake
-/// that they share.
+/// Sends hand-written requests to a gateway, independently of the client's code.
 class RawClient {
  public:
   explicit RawClient(quint16 port) : port_(port) {}
 
-  /// Sends `bytes` and returns all that comes back until the peer closes; what came so far after 5 s.
+  /// Sends `bytes` and returns the reply when the peer closes the connection or after 5 s.
   [[nodiscard]] QByteArray exchange(const QByteArray& bytes) const;
-  [[nodiscard]] QByteArray get(const QByteArray& path) const;
   /// Calls an operation; `fields` are the child elements of its element.
   [[nodiscard]] QByteArray call(const QByteArray& operation, const QByteArray& fields) const;
   /// Logs in as demo and returns the token.
@@ -28,17 +26,15 @@ class RawClient {
 /// A whole HTTP request that calls an operation.
 [[nodiscard]] QByteArray postRequest(const QByteArray& operation, const QByteArray& fields);
 
-[[nodiscard]] QByteArray soapEnvelope(const QByteArray& operation, const QByteArray& fields);
-
 /// A field of type string.
 [[nodiscard]] QByteArray text(const QByteArray& name, const QByteArray& value);
 
 [[nodiscard]] QByteArray flag(const QByteArray& name, bool value);
 
 /// The text of the first element `name` in `reply`; "(none)" when there is none.
-[[nodiscard]] QByteArray valueOf(const QByteArray& reply, const QByteArray& name);
+[[nodiscard]] QByteArray elementText(const QByteArray& reply, const QByteArray& name);
 
 /// The HTTP status of `reply`; 0 when it has none.
-[[nodiscard]] int statusOf(const QByteArray& reply);
+[[nodiscard]] int httpStatus(const QByteArray& reply);
 
-}  // namespace parlexo::simulator
+}  // namespace parlexo::test

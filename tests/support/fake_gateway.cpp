@@ -8,7 +8,7 @@
 
 #include "protocol/socket_calls.h"
 
-namespace parlexo::testing {
+namespace parlexo::test {
 
 namespace {
 
@@ -16,7 +16,7 @@ using protocol::Direction;
 
 constexpr std::chrono::milliseconds waitingSlice{20};
 
-/// Waits in slices so that the server can be stopped at any moment.
+/// Waits in slices, so that the server can be stopped.
 bool waitToRead(SOAP_SOCKET socket, const std::atomic<bool>& isStopping) {
   while (!isStopping) {
     if (protocol::waitForSocket(socket, Direction::Receiving, waitingSlice) > 0) return true;
@@ -143,7 +143,7 @@ std::string envelope(const std::string& body, const std::string& header) {
          header + "<S:Body>" + body + "</S:Body></S:Envelope>";
 }
 
-std::string bodyOf(const std::string& message) {
+std::string httpBody(const std::string& message) {
   const auto end = message.find("\r\n\r\n");
   return end == std::string::npos ? std::string() : message.substr(end + 4);
 }
@@ -154,4 +154,4 @@ int closedPort() {
   return port;
 }
 
-}  // namespace parlexo::testing
+}  // namespace parlexo::test

@@ -9,12 +9,11 @@
 
 #include <stdsoap2.h>
 
-namespace parlexo::testing {
+namespace parlexo::test {
 
-/// A server on a loopback port that takes one connection after the other, reads one whole request from each
-/// and answers it with fixed bytes, whatever they are, before it closes. With `Silent` it reads and then
-/// keeps the connection open without a word; with `Endless` it sends blanks behind the answer for as long as
-/// they are taken, with `Drops` it sends the answer a byte every 20 ms.
+/// A server on a loopback port that accepts one connection at a time, reads one request and sends fixed bytes
+/// before it closes the connection. With `Silent` it sends nothing and keeps the connection open, with
+/// `Endless` it appends blanks until the client closes, with `Drops` it sends a byte every 20 ms.
 class FakeGateway {
  public:
   enum class Manner { Answers, Silent, Endless, Drops };
@@ -27,11 +26,11 @@ class FakeGateway {
   [[nodiscard]] int port() const { return port_; }
   [[nodiscard]] std::string base() const { return "http://127.0.0.1:" + std::to_string(port_); }
   [[nodiscard]] std::string endpoint() const { return base() + "/ccx/onlineCommunication"; }
-  /// From the next connection on the answer is this one.
+  /// Sets the reply to all further connections.
   void setAnswer(std::string answer);
   /// Requests read so far.
   [[nodiscard]] int requestCount() const { return requestCount_; }
-  /// Bytes of answers that the system has taken so far.
+  /// Bytes sent so far.
   [[nodiscard]] std::size_t bytesSent() const { return bytesSent_; }
   /// Ends the server and returns the bytes of the last request.
   [[nodiscard]] std::string lastRequest();
@@ -58,10 +57,10 @@ class FakeGateway {
 /// `body` as the HTTP response that carries an envelope.
 [[nodiscard]] std::string httpReply(const std::string& body, const std::string& status = "200 OK");
 
-/// An envelope with the usual namespaces around what stands in its body.
+/// An envelope with the usual namespaces around `body`.
 [[nodiscard]] std::string envelope(const std::string& body, const std::string& header = {});
 
-/// What our own runtime writes before and behind the content of a body.
+/// The start and the end of the envelopes that our own runtime writes.
 inline const std::string envelopeStart =
     "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
     "<SOAP-ENV:Envelope xmlns:SOAP-ENV=\"http://schemas.xmlsoap.org/soap/envelope/\""
@@ -73,9 +72,9 @@ inline const std::string envelopeStart =
 inline const std::string envelopeEnd = "</SOAP-ENV:Body></SOAP-ENV:Envelope>\r\n";
 
 /// The body of an HTTP message.
-[[nodiscard]] std::string bodyOf(const std::string& message);
+[[nodiscard]] std::string httpBody(const std::string& message);
 
-/// A loopback port on which nothing listens.
+/// A loopback port without a listener.
 [[nodiscard]] int closedPort();
 
-}  // namespace parlexo::testing
+}  // namespace parlexo::test

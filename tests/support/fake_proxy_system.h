@@ -7,11 +7,10 @@
 
 #include "connection/locator/proxy_system.h"
 
-namespace parlexo {
+namespace parlexo::test {
 
-/// A platform that answers as the test says and notes what it was asked.
-class FakeProxySystem final : public ProxySystem {
- public:
+/// A platform with preset replies that records the queries.
+struct FakeProxySystem final : ProxySystem {
   QString configuredProxy(const QUrl& address, const CancelFlag& /*cancel*/) const override {
     askedFor = address;
     return address.host() == excepted ? QString() : configured;
@@ -34,4 +33,4 @@ class FakeProxySystem final : public ProxySystem {
   mutable QByteArray scriptText;
 };
 
-}  // namespace parlexo
+}  // namespace parlexo::test

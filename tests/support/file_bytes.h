@@ -1,14 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <QByteArray>
-#include <QFile>
-#include <QString>
-#include <gtest/gtest.h>
+#include "tests/support/test.h"
 
-namespace parlexo {
+namespace parlexo::test {
 
-/// Returns the path, so that the call can stand where the file is named.
+/// Writes a file and returns its path.
 inline QString writeBytes(const QString& path, const QByteArray& bytes) {
   QFile file(path);
   EXPECT_TRUE(file.open(QIODevice::WriteOnly)) << path.toStdString();
@@ -16,7 +13,7 @@ inline QString writeBytes(const QString& path, const QByteArray& bytes) {
   return path;
 }
 
-/// The bytes of a file; a null array, other than an empty one, when there is no such file.
+/// The bytes of a file; a null array if it cannot be opened, an empty one if it is empty.
 inline QByteArray readBytes(const QString& path) {
   QFile file(path);
   if (!file.open(QIODevice::ReadOnly)) return {};
@@ -24,4 +21,4 @@ inline QByteArray readBytes(const QString& path) {
   return bytes.isNull() ? QByteArray("") : bytes;
 }
 
-}  // namespace parlexo
+}  // namespace parlexo::test

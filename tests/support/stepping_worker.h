@@ -5,13 +5,12 @@
 
 #include "connection/client/background_queue.h"
 
-namespace parlexo {
+namespace parlexo::test {
 
-/// Runs an exchange only when the test says so, on the calling thread.
-class SteppingWorker final : public BackgroundWorker {
- public:
-  void start(CallRunner::Task exchange, std::function<void()> onEnd) override {
-    exchange_ = std::move(exchange);
+/// Runs a task on the calling thread when the test calls finish().
+struct SteppingWorker final : BackgroundWorker {
+  void start(CallRunner::Task task, std::function<void()> onEnd) override {
+    task_ = std::move(task);
     onEnd_ = std::move(onEnd);
     cancel_ = CancelFlag();
   }
@@ -20,16 +19,16 @@ class SteppingWorker final : public BackgroundWorker {
   [[nodiscard]] bool isBusy() const { return onEnd_ != nullptr; }
   [[nodiscard]] bool isCancelled() const { return cancel_.isRaised(); }
 
-  /// Runs the exchange under way and reports its end.
+  /// Runs the pending task and reports its end.
   void finish() {
-    std::exchange(exchange_, nullptr)(cancel_);
+    std::exchange(task_, nullptr)(cancel_);
     std::exchange(onEnd_, nullptr)();
   }
 
  private:
-  CallRunner::Task exchange_;
+  CallRunner::Task task_;
   std::function<void()> onEnd_;
   CancelFlag cancel_;
 };
 
-}  // namespace parlexo
+}  // namespace parlexo::test

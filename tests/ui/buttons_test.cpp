@@ -1,27 +1,21 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include <vector>
 
 #include <QAccessible>
 #include <QAccessibleActionInterface>
+#include <QDeadlineTimer>
 #include <QKeyEvent>
-#include <QLabel>
-#include <QLineEdit>
 #include <QScreen>
-#include <QSignalSpy>
-#include <QTest>
 #include <QVBoxLayout>
-#include <gtest/gtest.h>
 
+#include "tests/support/widgets.h"
 #include "ui/gradient_page.h"
 #include "ui/hyperlink_label.h"
 #include "ui/picture_button.h"
 
-namespace parlexo {
+namespace parlexo::test {
 namespace {
 
-using namespace Qt::StringLiterals;
-
-/// A dialog as pages build them: an edit, an ordinary button, the default button and one that is off.
+/// A dialog with an edit, an ordinary button, the default button and a disabled one.
 struct SampleDialog {
   SampleDialog() {
     auto* column = new QVBoxLayout(&dialog);
@@ -31,9 +25,7 @@ struct SampleDialog {
     }
     strong->setDefault(true);
     off->setEnabled(false);
-    dialog.show();
-    dialog.activateWindow();
-    EXPECT_TRUE(QTest::qWaitForWindowActive(&dialog));
+    showActive(dialog);
   }
 
   GradientDialog dialog;
@@ -47,37 +39,31 @@ struct SampleDialog {
 };
 
 TEST(PictureButton, keysPressTheButtonTheyBelongTo) {
-  struct Case {
-    const char* what;
-    int focus;  // 0 the edit, 1 the plain button
-    Qt::Key key;
-    Qt::KeyboardModifiers modifiers;
-    int plain, strong, off;
+  enum Focus { Edit, Plain };
+  const Cases<const char*, Focus, Qt::Key, Qt::KeyboardModifiers, int, int> cases = {
+      {"Enter in an edit presses the default", Edit, Qt::Key_Return, Qt::NoModifier, 0, 1},
+      {"so does the keypad's", Edit, Qt::Key_Enter, Qt::KeypadModifier, 0, 1},
+      {"Ctrl+Enter does not", Edit, Qt::Key_Return, Qt::ControlModifier, 0, 0},
+      {"the focus precedes the default", Plain, Qt::Key_Return, Qt::NoModifier, 1, 0},
+      {"Space presses the focus", Plain, Qt::Key_Space, Qt::NoModifier, 1, 0},
+      {"a mnemonic works from anywhere", Edit, Qt::Key_P, Qt::AltModifier, 1, 0},
+      {"also inside a word", Plain, Qt::Key_E, Qt::AltModifier, 0, 1},
+      {"a disabled button has none", Plain, Qt::Key_O, Qt::AltModifier, 0, 0},
   };
-  const Case cases[] = {
-      {"Enter in an edit presses the default", 0, Qt::Key_Return, Qt::NoModifier, 0, 1, 0},
-      {"so does the keypad's", 0, Qt::Key_Enter, Qt::KeypadModifier, 0, 1, 0},
-      {"Ctrl+Enter does not", 0, Qt::Key_Return, Qt::ControlModifier, 0, 0, 0},
-      {"the focus goes before the default", 1, Qt::Key_Return, Qt::NoModifier, 1, 0, 0},
-      {"Space presses the focus", 1, Qt::Key_Space, Qt::NoModifier, 1, 0, 0},
-      {"a mnemonic works from anywhere", 0, Qt::Key_P, Qt::AltModifier, 1, 0, 0},
-      {"also inside a word", 1, Qt::Key_E, Qt::AltModifier, 0, 1, 0},
-      {"a button that is off has none", 1, Qt::Key_O, Qt::AltModifier, 0, 0, 0},
-  };
-  for (const Case& row : cases) {
+  for (const auto& [what, focus, key, modifiers, plain, strong] : cases) {
     SampleDialog sample;
-    QWidget* focus = row.focus == 0 ? static_cast<QWidget*>(sample.edit) : sample.plain;
-    focus->setFocus();
-    QTest::keyClick(focus, row.key, row.modifiers);
-    // A mnemonic presses with a short animation, which a busy machine draws out.
+    QWidget* widget = focus == Edit ? static_cast<QWidget*>(sample.edit) : sample.plain;
+    widget->setFocus();
+    QTest::keyClick(widget, key, modifiers);
+    // A mnemonic presses with a short animation, which takes longer on a busy machine.
     QTest::qWait(150);
-    const int expected = row.plain + row.strong;
-    (void)QTest::qWaitFor(
-        [&] { return sample.plainClicks.count() + sample.strongClicks.count() >= expected; }, 2000);
-    EXPECT_EQ(sample.plainClicks.count(), row.plain) << row.what;
-    EXPECT_EQ(sample.strongClicks.count(), row.strong) << row.what;
-    EXPECT_EQ(sample.offClicks.count(), row.off) << row.what;
-    EXPECT_TRUE(sample.dialog.isVisible()) << row.what;
+    QDeadlineTimer deadline(plain + strong > 0 ? 2000 : 0);
+    while (sample.plainClicks.isEmpty() && sample.strongClicks.isEmpty() && !deadline.hasExpired())
+      QTest::qWait(10);
+    EXPECT_EQ(sample.plainClicks.count(), plain) << what;
+    EXPECT_EQ(sample.strongClicks.count(), strong) << what;
+    EXPECT_TRUE(sample.offClicks.isEmpty()) << what;
+    EXPECT_TRUE(sample.dialog.isVisible()) << what;
   }
 }
 
@@ -92,7 +78,7 @@ TEST(PictureButton, heldEnterPressesOnce) {
   EXPECT_EQ(sample.strongClicks.count(), 0) << "the repeated key must not go on to the default button";
 }
 
-TEST(PictureButton, hiddenOrDisabledDefaultIsNotPressedUnseen) {
+TEST(PictureButton, hiddenOrDisabledDefaultIsNotPressed) {
   SampleDialog sample;
   sample.edit->setFocus();
   sample.strong->setEnabled(false);
@@ -103,7 +89,7 @@ TEST(PictureButton, hiddenOrDisabledDefaultIsNotPressedUnseen) {
   EXPECT_EQ(sample.strongClicks.count(), 0);
 }
 
-TEST(GradientDialog, opensAsHighAsItsTextsNeed) {
+TEST(GradientDialog, opensLargeEnoughForItsTexts) {
   GradientDialog dialog;
   dialog.setMinimumWidth(300);
   auto* words = new QLabel(QString(u"words "_s).repeated(9), &dialog);
@@ -116,57 +102,49 @@ TEST(GradientDialog, opensAsHighAsItsTextsNeed) {
   EXPECT_GE(words->height(), words->heightForWidth(words->width()));
 }
 
-TEST(ButtonAccessibility, assistiveToolsReadNameAndRoleAndCanPress) {
+TEST(ButtonAccessibility, exposesNameRoleAndAction) {
   PictureButton button(u"Fish && &Chips"_s);
   HyperlinkLabel link(u"About"_s);
-  struct Case {
-    QAbstractButton* button;
-    QAccessible::Role role;
-    QString name;
-    QString key;
+  const Cases<QAbstractButton*, QAccessible::Role, QString, QString> cases = {
+      {&button, QAccessible::Button, u"Fish & Chips"_s, u"Alt+C"_s},
+      {&link, QAccessible::Link, u"About"_s, {}},
   };
-  for (const Case& row : {Case{&button, QAccessible::Button, u"Fish & Chips"_s, u"Alt+C"_s},
-                          Case{&link, QAccessible::Link, u"About"_s, {}}}) {
-    QSignalSpy clicks(row.button, &QAbstractButton::clicked);
-    QAccessibleInterface* seen = QAccessible::queryAccessibleInterface(row.button);
+  for (const auto& [widget, role, name, key] : cases) {
+    QSignalSpy clicks(widget, &QAbstractButton::clicked);
+    QAccessibleInterface* seen = QAccessible::queryAccessibleInterface(widget);
     ASSERT_NE(seen, nullptr);
-    EXPECT_EQ(seen->role(), row.role);
-    EXPECT_EQ(seen->text(QAccessible::Name), row.name);
-    EXPECT_EQ(seen->text(QAccessible::Accelerator), row.key);
-    EXPECT_EQ(
-        seen->actionInterface()->keyBindingsForAction(QAccessibleActionInterface::pressAction()).join(u','),
-        row.key);
-    seen->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    EXPECT_EQ(seen->role(), role);
+    EXPECT_EQ(seen->text(QAccessible::Name), name);
+    EXPECT_EQ(seen->text(QAccessible::Accelerator), key);
+    const QString press = QAccessibleActionInterface::pressAction();
+    EXPECT_EQ(seen->actionInterface()->keyBindingsForAction(press).join(u','), key);
+    seen->actionInterface()->doAction(press);
     EXPECT_EQ(clicks.count(), 1);
   }
 }
 
 TEST(HyperlinkLabel, onlyWebAddressesReachTheBrowser) {
-  struct Case {
-    const char* address;
-    bool opens;
+  const std::pair<const char*, std::size_t> cases[] = {
+      {"https://www.parlexo.example/signup.php", 2},
+      {"http://127.0.0.1:8080/", 2},
+      {"HTTPS://www.parlexo.example", 2},
+      {"", 0},
+      {"file:///etc/passwd", 0},
+      {"https:///nohost", 0},
+      {"mailto:someone@parlexo.example", 0},
   };
-  const Case cases[] = {
-      {"https://www.parlexo.example/signup.php", true},
-      {"http://127.0.0.1:8080/", true},
-      {"HTTPS://www.parlexo.example", true},
-      {"", false},
-      {"file:///etc/passwd", false},
-      {"https:///nohost", false},
-      {"mailto:someone@parlexo.example", false},
-  };
-  for (const Case& row : cases) {
+  for (const auto& [address, openedPages] : cases) {
     std::vector<QUrl> opened;
-    HyperlinkLabel link(u"link"_s, QUrl(QString::fromLatin1(row.address)));
+    HyperlinkLabel link(u"link"_s, QUrl(QString::fromLatin1(address)));
     link.setOpener([&](const QUrl& page) {
       opened.push_back(page);
       return true;
     });
     QTest::mouseClick(&link, Qt::LeftButton);
     QTest::keyClick(&link, Qt::Key_Return);
-    EXPECT_EQ(opened.size(), row.opens ? 2U : 0U) << row.address;
+    EXPECT_EQ(opened.size(), openedPages) << address;
   }
 }
 
 }  // namespace
-}  // namespace parlexo
+}  // namespace parlexo::test

@@ -1,27 +1,19 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/focus_keeper.h"
 
-#include <memory>
-
-#include <QApplication>
-#include <QTest>
-#include <gtest/gtest.h>
-
+#include "tests/support/widgets.h"
 #include "ui/gradient_page.h"
 
-namespace parlexo {
+namespace parlexo::test {
 namespace {
 
-/// The main window with a dialog over it and a question over that, and a window manager that forgets about
-/// the focus.
-class FocusKeeperTest : public testing::Test {
- protected:
+/// The main window, a dialog over it and a question over that.
+struct FocusKeeperTest : testing::Test {
   FocusKeeperTest() {
     main_.show();
     for (GradientDialog* each : {dialog_.get(), question_.get()}) {
       each->setModal(true);
-      each->show();
-      EXPECT_TRUE(QTest::qWaitForWindowActive(each));
+      showActive(*each);
     }
   }
 
@@ -30,7 +22,7 @@ class FocusKeeperTest : public testing::Test {
   std::unique_ptr<GradientDialog> question_ = std::make_unique<GradientDialog>(dialog_.get());
 };
 
-TEST_F(FocusKeeperTest, windowBelowGetsTheKeyboardWhenTwoCloseTogether) {
+TEST_F(FocusKeeperTest, windowBelowIsActivatedWhenTwoCloseTogether) {
   const FocusKeeper keeper;
   question_.reset();
   dialog_.reset();
@@ -49,4 +41,4 @@ TEST_F(FocusKeeperTest, programInTheBackgroundStaysThere) {
 }
 
 }  // namespace
-}  // namespace parlexo
+}  // namespace parlexo::test

@@ -1,42 +1,33 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/input_block.h"
 
-#include <memory>
-
 #include <QAccessible>
 #include <QAccessibleActionInterface>
-#include <QSignalSpy>
-#include <QTest>
 #include <QVBoxLayout>
 #include <QtTest/qtestspontaneevent.h>
-#include <gtest/gtest.h>
 
+#include "tests/support/widgets.h"
 #include "ui/gradient_page.h"
 #include "ui/picture_button.h"
 
-namespace parlexo {
-
-using namespace Qt::StringLiterals;
-
+namespace parlexo::test {
 namespace {
 
 struct SampleWindow {
   explicit SampleWindow(bool modal = false) {
     (new QVBoxLayout(&window))->addWidget(button);
     window.setModal(modal);
-    window.show();
-    window.activateWindow();
-    EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
+    showActive(window);
   }
 
-  /// Everything that a user could do to press the button; returns how many presses arrived.
+  /// Presses the button in every way a user can; returns the number of clicks it received.
   int pressInEveryWay() {
     QSignalSpy clicks(button, &QAbstractButton::clicked);
     QTest::mouseClick(button, Qt::LeftButton);
     QTest::keyClick(button, Qt::Key_Space);
     QTest::keyClick(&window, Qt::Key_S, Qt::AltModifier);
     QTest::qWait(150);
-    // A mnemonic presses with a short animation, which a busy machine draws out.
+    // A mnemonic presses with a short animation, which takes longer on a busy machine.
     if (clicks.count() > 0) (void)QTest::qWaitFor([&] { return clicks.count() == 3; }, 2000);
     QAccessible::queryAccessibleInterface(button)->actionInterface()->doAction(
         QAccessibleActionInterface::pressAction());
@@ -47,7 +38,7 @@ struct SampleWindow {
   PictureButton* button = new PictureButton(u"&Send"_s);
 };
 
-TEST(InputBlock, inputIsDroppedWhileItLivesAndWorksAgainAfter) {
+TEST(InputBlock, inputIsDroppedDuringItsLifetime) {
   SampleWindow sample;
   auto outer = std::make_unique<InputBlock>();
   auto inner = std::make_unique<InputBlock>();
@@ -58,7 +49,7 @@ TEST(InputBlock, inputIsDroppedWhileItLivesAndWorksAgainAfter) {
   EXPECT_EQ(sample.pressInEveryWay(), 4);
 }
 
-TEST(InputBlock, closeRequestsAreDroppedWhereAskedFor) {
+TEST(InputBlock, closeRequestsAreDroppedOnRequest) {
   SampleWindow sample;
   {
     const InputBlock block(InputBlock::CloseRequests::Dropped);
@@ -70,7 +61,7 @@ TEST(InputBlock, closeRequestsAreDroppedWhereAskedFor) {
   EXPECT_FALSE(sample.window.isVisible()) << "a page's code can end its dialog";
 }
 
-TEST(InputBlock, modalWindowOpenedLaterTakesInputAndAnOlderOneDoesNot) {
+TEST(InputBlock, onlyModalWindowsOpenedLaterAcceptInput) {
   SampleWindow older(true);
   const InputBlock block;
   EXPECT_EQ(older.pressInEveryWay(), 0);
@@ -83,4 +74,4 @@ TEST(InputBlock, modalWindowOpenedLaterTakesInputAndAnOlderOneDoesNot) {
 }
 
 }  // namespace
-}  // namespace parlexo
+}  // namespace parlexo::test

@@ -2,33 +2,23 @@
 #include "ui/record_table.h"
 
 #include <array>
-#include <memory>
-#include <vector>
 
 #include <QClipboard>
-#include <QDir>
 #include <QGuiApplication>
 #include <QHeaderView>
-#include <QTemporaryDir>
-#include <QTest>
-#include <gmock/gmock.h>
 
 #include "base/settings.h"
-#include "tests/support/column_cells.h"
 #include "tests/support/file_bytes.h"
 #include "tests/support/recording_notifier.h"
+#include "tests/support/widgets.h"
 #include "ui/export_button.h"
 #include "ui/sorted_rows.h"
 
-namespace parlexo {
+namespace parlexo::test {
 namespace {
 
-using namespace Qt::StringLiterals;
-using testing::ElementsAre;
-
 /// A list that can be reset as a whole.
-class Sheet final : public QAbstractTableModel {
- public:
+struct Sheet final : QAbstractTableModel {
   using Rows = std::vector<std::array<const char*, 3>>;
 
   explicit Sheet(Rows rows) : rows_(std::move(rows)) {}
@@ -63,8 +53,7 @@ class Sheet final : public QAbstractTableModel {
   Rows rows_;
 };
 
-class RecordTableTest : public testing::Test {
- protected:
+struct RecordTableTest : testing::Test {
   void open() {
     table_ = std::make_unique<RecordTable>(sheet_, form_, settings_);
     table_->resize(600, 200);
@@ -77,7 +66,7 @@ class RecordTableTest : public testing::Test {
     QTest::mouseClick(header.viewport(), Qt::LeftButton, {},
                       {header.sectionViewportPosition(column) + 10, header.height() / 2});
   }
-  [[nodiscard]] QStringList keys() const { return columnCells(*table_->model(), 0); }
+  [[nodiscard]] QStringList keys() const { return columnCells(*table_, 0); }
   QTemporaryDir folder_;
   Settings settings_{folder_.path()};
   Sheet sheet_{
@@ -86,7 +75,7 @@ class RecordTableTest : public testing::Test {
   std::unique_ptr<RecordTable> table_;
 };
 
-TEST_F(RecordTableTest, headingSortsTurnsRoundAndGivesTheFirstOrderBack) {
+TEST_F(RecordTableTest, headingSortsReversesAndRestoresTheOrder) {
   open();
   const auto given = keys();
   EXPECT_THAT(given, ElementsAre("10", "b", "nan", "-2.5", "A"));
@@ -102,7 +91,7 @@ TEST_F(RecordTableTest, headingSortsTurnsRoundAndGivesTheFirstOrderBack) {
   EXPECT_THAT(keys(), ElementsAre("b", "10", "nan", "A", "-2.5")) << "equal ones in the first order";
 }
 
-TEST_F(RecordTableTest, orderOutlivesAResetAndRowsStayWhileTheyChange) {
+TEST_F(RecordTableTest, orderSurvivesAResetAndRowChanges) {
   open();
   clickHeading(0);
   sheet_.fill({{"3", "", ""}, {"1", "", ""}, {"2", "", ""}});
@@ -113,7 +102,7 @@ TEST_F(RecordTableTest, orderOutlivesAResetAndRowsStayWhileTheyChange) {
   EXPECT_THAT(keys(), ElementsAre("9", "3", "2"));
 }
 
-TEST_F(RecordTableTest, selectionCopyAndExportFollowWhatIsShown) {
+TEST_F(RecordTableTest, selectionCopyAndExportUseTheShownOrder) {
   open();
   clickHeading(0);
   table_->header()->moveSection(2, 0);
@@ -133,19 +122,7 @@ TEST_F(RecordTableTest, selectionCopyAndExportFollowWhatIsShown) {
   EXPECT_TRUE(QGuiApplication::clipboard()->text().startsWith(u"bb"_s)) << "nothing selected, nothing copied";
 }
 
-TEST_F(RecordTableTest, rowSelectedBeforeTheListIsShownIsInSight) {
-  Sheet::Rows many(300, {"1", "", ""});
-  sheet_.fill(std::move(many));
-  table_ = std::make_unique<RecordTable>(sheet_, form_, settings_);
-  table_->selectRecord(299);
-  table_->resize(300, 150);
-  table_->show();
-  (void)QTest::qWaitForWindowExposed(table_.get());
-  const QRect last = table_->visualRect(table_->model()->index(299, 0));
-  EXPECT_TRUE(table_->viewport()->rect().contains(last.center()));
-}
-
-TEST_F(RecordTableTest, widthsOfTheUserLastAndAllOthersFollowTheFont) {
+TEST_F(RecordTableTest, userWidthsAreStoredAndOthersFollowTheFont) {
   open();
   const int usual = table_->columnWidth(0);
   EXPECT_GE(usual, 60);
@@ -160,7 +137,7 @@ TEST_F(RecordTableTest, widthsOfTheUserLastAndAllOthersFollowTheFont) {
   EXPECT_EQ(table_->columnWidth(1), 133);
 }
 
-TEST_F(RecordTableTest, exportWritesWhereTheUserSaysAndTellsWhyItCannot) {
+TEST_F(RecordTableTest, exportWritesTheChosenFileOrReportsTheError) {
   open();
   RecordingNotifier notifier;
   ExportButton button(*table_, notifier);
@@ -186,4 +163,4 @@ TEST_F(RecordTableTest, exportWritesWhereTheUserSaysAndTellsWhyItCannot) {
 }
 
 }  // namespace
-}  // namespace parlexo
+}  // namespace parlexo::test

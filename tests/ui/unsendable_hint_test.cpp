@@ -1,16 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/unsendable_hint.h"
 
-#include <QLineEdit>
-#include <gtest/gtest.h>
+#include "tests/support/widgets.h"
 
-namespace parlexo {
-
-using namespace Qt::StringLiterals;
-
+namespace parlexo::test {
 namespace {
 
-TEST(UnsendableCharacters, areListedOnceAsTheReaderSeesThem) {
+TEST(UnsendableCharacters, areListedOnceInReadableForm) {
   const QString family = QString::fromUtf8("\U0001F468\u200D\U0001F469");
   EXPECT_EQ(unsendableCharacters(QString::fromUtf8("\u4F60a\u20AC\u00E9\u4F60\u200B\u0161 ") + family),
             QStringList({QString::fromUtf8("\u4F60"), "U+200B", family}));
@@ -21,17 +17,13 @@ TEST(UnsendableCharacters, areListedOnceAsTheReaderSeesThem) {
                          "US (unit separator)", "NEL (next line)"}));
 }
 
-TEST(UnsendableHint, tellsOfAllFieldsAndKeepsAPasswordToItself) {
+TEST(UnsendableHint, coversAllFieldsAndHidesPasswords) {
   QLineEdit user;
   QLineEdit password;
   password.setEchoMode(QLineEdit::Password);
   UnsendableHint hint;
   hint.watch({&user, &password});
-  const struct {
-    QString user;
-    QString password;
-    QString told;
-  } cases[] = {
+  const Cases<QString, QString, QString> cases = {
       {u"Zo\u00EB \u20AC"_s, u"\u00E9"_s, {}},
       {u"\u4F60"_s, {}, u"Will be sent as \"?\":  \u4F60"_s},
       {{}, u"\u4F60"_s, u"Will be sent as \"?\":  characters of the password"_s},
@@ -41,12 +33,12 @@ TEST(UnsendableHint, tellsOfAllFieldsAndKeepsAPasswordToItself) {
        {},
        u"Will be sent as \"?\":  \u0430  \u0431  \u0432  \u0433  \u0434  \u0435  \u0436  \u0437  \u2026"_s},
   };
-  for (const auto& each : cases) {
-    user.setText(each.user);
-    password.setText(each.password);
-    EXPECT_EQ(hint.text(), each.told);
+  for (const auto& [userText, passwordText, expected] : cases) {
+    user.setText(userText);
+    password.setText(passwordText);
+    EXPECT_EQ(hint.text(), expected);
   }
 }
 
 }  // namespace
-}  // namespace parlexo
+}  // namespace parlexo::test

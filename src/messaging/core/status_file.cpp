@@ -181,7 +181,8 @@ bool mergeDocument(StatusLog& log, const QByteArray& bytes) {
 
 bool replaceFile(const QString& path, const QByteArray& bytes) {
   QSaveFile file(path);
-  return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.commit();
+  return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.flush() &&
+         file.commit();
 }
 
 }  // namespace

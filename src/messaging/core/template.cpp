@@ -62,7 +62,8 @@ QStringList TemplateFolder::names() const {
 bool TemplateFolder::save(const QString& name, const Template& content) const {
   if (!isTemplateName(name)) return false;
   QSaveFile file(filePath(name));
-  return file.open(QIODevice::WriteOnly) && file.write(toTemplateBytes(content)) >= 0 && file.commit();
+  return file.open(QIODevice::WriteOnly) && file.write(toTemplateBytes(content)) >= 0 && file.flush() &&
+         file.commit();
 }
 
 std::optional<Template> TemplateFolder::load(const QString& name) const {

@@ -2,33 +2,21 @@
 #include "connection/client/background_queue.h"
 
 #include <atomic>
-#include <chrono>
-#include <memory>
-#include <optional>
 #include <stdexcept>
-#include <string>
 #include <thread>
-#include <vector>
 
 #include <QCoreApplication>
-#include <QElapsedTimer>
 #include <QEventLoop>
 #include <QTimer>
-#include <gmock/gmock.h>
 
 #include "base/task_thread.h"
 #include "connection/client/background_gateway.h"
 #include "tests/support/fake_gateway.h"
 #include "tests/support/stepping_worker.h"
+#include "tests/support/test.h"
 
-namespace parlexo {
-
-using namespace Qt::StringLiterals;
-
+namespace parlexo::test {
 namespace {
-
-using namespace std::chrono_literals;
-using ::testing::ElementsAre;
 
 void handleEvents(std::chrono::milliseconds time) {
   QEventLoop loop;
@@ -44,8 +32,7 @@ bool comesTrue(Condition condition) {
   return condition();
 }
 
-class BackgroundQueueTest : public ::testing::Test {
- protected:
+struct BackgroundQueueTest : testing::Test {
   void add(
       const std::string& name, std::function<bool()> isWanted = [] { return true; }) {
     queue_->add({[this, name](const CancelFlag&) { events_.push_back("run " + name); },
@@ -57,13 +44,13 @@ class BackgroundQueueTest : public ::testing::Test {
   std::optional<BackgroundQueue> queue_{std::in_place, std::unique_ptr<BackgroundWorker>(worker_), 10ms};
 };
 
-TEST_F(BackgroundQueueTest, taskThatOverlapsWithAUsersCallIsCancelledAndRepeatedAfterIt) {
+TEST_F(BackgroundQueueTest, taskIsCancelledByAUserCallAndRepeatedAfterIt) {
   DirectCallRunner direct;
   ForegroundRunner user(direct, *queue_);
   add("a");
   EXPECT_TRUE(user.run([&](const CancelFlag&) {
     EXPECT_TRUE(worker_->isCancelled());
-    // A call inside the call must not let background work go on when it ends.
+    // The end of a nested call must not resume background work.
     EXPECT_TRUE(user.run([](const CancelFlag&) {}));
     handleEvents(30ms);
     worker_->finish();
@@ -80,7 +67,7 @@ TEST_F(BackgroundQueueTest, taskThatOverlapsWithAUsersCallIsCancelledAndRepeated
   EXPECT_FALSE(worker_->isBusy());
 }
 
-TEST_F(BackgroundQueueTest, userWhoIsAlwaysBusyDoesNotHoldItUpForEver) {
+TEST_F(BackgroundQueueTest, constantUserCallsDelayItOnlyThreeTimes) {
   DirectCallRunner direct;
   ForegroundRunner user(direct, *queue_);
   add("a");
@@ -99,7 +86,7 @@ TEST_F(BackgroundQueueTest, userWhoIsAlwaysBusyDoesNotHoldItUpForEver) {
   EXPECT_THAT(events_, ElementsAre("run a", "run a", "run a", "run a", "deliver a", "run b", "deliver b"));
 }
 
-TEST_F(BackgroundQueueTest, unwantedTasksAreNeitherRunNorDelivered) {
+TEST_F(BackgroundQueueTest, obsoleteTasksAreNeitherRunNorDelivered) {
   bool isWanted = true;
   const auto wanted = [&isWanted] { return isWanted; };
   add("a", wanted);
@@ -111,10 +98,10 @@ TEST_F(BackgroundQueueTest, unwantedTasksAreNeitherRunNorDelivered) {
   EXPECT_THAT(events_, ElementsAre("run a", "run c", "deliver c"));
 }
 
-TEST_F(BackgroundQueueTest, deliveryMayWaitWhileFurtherTasksEnd) {
+TEST_F(BackgroundQueueTest, deliveryMayBlockWhileOtherTasksEnd) {
   queue_->add({[](const CancelFlag&) {},
                [this] {
-                 worker_->finish();  // as under a dialog that is opened here
+                 worker_->finish();  // as under a modal dialog
                  events_.emplace_back("dialog closed");
                },
                [] { return true; }});
@@ -123,17 +110,16 @@ TEST_F(BackgroundQueueTest, deliveryMayWaitWhileFurtherTasksEnd) {
   EXPECT_THAT(events_, ElementsAre("run b", "deliver b", "dialog closed"));
 }
 
-class BackgroundThreadTest : public ::testing::Test {
- protected:
-  void add(CallRunner::Task exchange) {
-    queue_->add({std::move(exchange), [this] { ++delivered_; }, [] { return true; }});
+struct BackgroundThreadTest : testing::Test {
+  void add(CallRunner::Task task) {
+    queue_->add({std::move(task), [this] { ++delivered_; }, [] { return true; }});
   }
 
   int delivered_ = 0;
   std::optional<BackgroundQueue> queue_{std::in_place};
 };
 
-TEST_F(BackgroundThreadTest, resultsArriveOnTheInterfaceThreadAlsoAfterAnException) {
+TEST_F(BackgroundThreadTest, resultsArriveOnTheInterfaceThreadEvenAfterAnException) {
   std::thread::id worker;
   add([&](const CancelFlag&) { worker = std::this_thread::get_id(); });
   add([](const CancelFlag&) { throw std::runtime_error("broken"); });
@@ -142,7 +128,7 @@ TEST_F(BackgroundThreadTest, resultsArriveOnTheInterfaceThreadAlsoAfterAnExcepti
   EXPECT_NE(worker, std::this_thread::get_id());
 }
 
-TEST_F(BackgroundThreadTest, destructionCancelsAndLeavesAnExchangeBehindThatDoesNotEnd) {
+TEST_F(BackgroundThreadTest, destructionCancelsAndDetachesARunningTask) {
   struct Shared {
     std::atomic<bool> goOn = false;
     std::atomic<bool> wasCancelled = false;
@@ -163,9 +149,7 @@ TEST_F(BackgroundThreadTest, destructionCancelsAndLeavesAnExchangeBehindThatDoes
   EXPECT_EQ(delivered_, 0);
 }
 
-/// Queries over a real connection, for a user who may log in again meanwhile.
-class BackgroundGatewayTest : public ::testing::Test {
- protected:
+struct BackgroundGatewayTest : testing::Test {
   BackgroundGatewayTest() {
     state_.gateway.endpoint = QString::fromStdString(server_.endpoint());
     state_.session = u"first"_s;
@@ -180,14 +164,14 @@ class BackgroundGatewayTest : public ::testing::Test {
     gateway_.call<&GatewayClient::getAccountBalance>(*context_, recordResult(), u"first"_s);
   }
 
-  /// Until everything that was queued before has been delivered or dropped.
+  /// Returns when all queued results have been delivered or dropped.
   void handleEventsUntilIdle() {
     bool isIdle = false;
     queue_.add({[](const CancelFlag&) {}, [&isIdle] { isIdle = true; }, [] { return true; }});
     EXPECT_TRUE(comesTrue([&] { return isIdle; }));
   }
 
-  testing::FakeGateway server_{"HTTP/1.1 500 Internal Server Error\r\nContent-Length: 0\r\n\r\n"};
+  FakeGateway server_{"HTTP/1.1 500 Internal Server Error\r\nContent-Length: 0\r\n\r\n"};
   RunState state_;
   BackgroundQueue queue_;
   BackgroundGateway gateway_{
@@ -196,7 +180,7 @@ class BackgroundGatewayTest : public ::testing::Test {
   std::vector<int> results_;
 };
 
-TEST_F(BackgroundGatewayTest, resultsOfAnEarlierSessionOrUserOrForAClosedWindowAreDropped) {
+TEST_F(BackgroundGatewayTest, resultsForAnotherSessionUserOrAClosedWindowAreDropped) {
   const auto delivered = [this](const char* session, const char* user) {
     results_.clear();
     queryBalance();
@@ -216,4 +200,4 @@ TEST_F(BackgroundGatewayTest, resultsOfAnEarlierSessionOrUserOrForAClosedWindowA
 }
 
 }  // namespace
-}  // namespace parlexo
+}  // namespace parlexo::test

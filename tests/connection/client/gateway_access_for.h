@@ -5,9 +5,9 @@
 
 #include "connection/client/gateway_access.h"
 
-namespace parlexo::testing {
+namespace parlexo::test {
 
-/// Access to a server of the test, with patience that a test can bear.
+/// Access to a server of the test, with short timeouts.
 [[nodiscard]] inline GatewayAccess accessTo(std::string endpoint) {
   GatewayAccess access;
   access.endpoint = std::move(endpoint);
@@ -15,4 +15,4 @@ namespace parlexo::testing {
   return access;
 }
 
-}  // namespace parlexo::testing
+}  // namespace parlexo::test

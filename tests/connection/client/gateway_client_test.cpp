@@ -2,13 +2,8 @@
 #include "connection/client/gateway_client.h"
 
 #include <array>
-#include <chrono>
-#include <string>
 #include <thread>
-#include <utility>
-#include <vector>
 
-#include <gtest/gtest.h>
 #include <stdsoap2.h>
 
 #include "base/run_state.h"
@@ -16,20 +11,15 @@
 #include "protocol/socket_calls.h"
 #include "tests/connection/client/gateway_access_for.h"
 #include "tests/support/fake_gateway.h"
+#include "tests/support/test.h"
 
-namespace parlexo {
+namespace parlexo::test {
 namespace {
-
-using namespace std::chrono_literals;
-using testing::accessTo;
-using testing::envelope;
-using testing::FakeGateway;
-using testing::httpReply;
 
 const std::string versionReply =
     httpReply(envelope("<m:getVersionResponse><nVersion>103</nVersion></m:getVersionResponse>"));
 
-/// The result of a version query, with a record that holds something from before.
+/// The result of a version query with a record that is not empty.
 int queryVersion(GatewayClient& client, std::int32_t& version) {
   protocol::getVersionResponse response{.nVersion = 99};
   const int result = client.getVersion(response);
@@ -51,36 +41,30 @@ TEST(GatewayClient, withoutContextSendsNothingAndReturns16) {
   EXPECT_EQ(gateway.requestCount(), 0);
 }
 
-TEST(GatewayClient, installsOnlyTheProxyFieldsThatAreWhole) {
-  struct Case {
-    const char* user;
-    const char* password;
-    const char* host;
-    const char* installedUser;
-    const char* installedHost;
-  };
-  for (const Case& each : {Case{"u", "p", "h", "u", "h"},
-                           {"u", "", "h", nullptr, "h"},
-                           {"", "", "h", nullptr, "h"},
-                           {"", "", "", nullptr, nullptr}}) {
+TEST(GatewayClient, installsOnlyCompleteProxyFields) {
+  for (const auto& [user, password, host, installedUser, installedHost] :
+       Cases<const char*, const char*, const char*, const char*, const char*>{
+           {"u", "p", "h", "u", "h"},
+           {"u", "", "h", nullptr, "h"},
+           {"", "", "h", nullptr, "h"},
+           {"", "", "", nullptr, nullptr}}) {
     GatewayAccess access = accessTo("http://gateway.invalid:1/x");
-    access.proxyUser = each.user;
-    access.proxyPassword = each.password;
-    access.proxyHost = each.host;
+    access.proxyUser = user;
+    access.proxyPassword = password;
+    access.proxyHost = host;
     access.proxyPort = 3128;
     const GatewayClient client(access);
-    EXPECT_STREQ(client.soap->proxy_userid, each.installedUser);
-    EXPECT_STREQ(client.soap->proxy_passwd, each.installedUser ? each.password : nullptr);
-    EXPECT_STREQ(client.soap->proxy_host, each.installedHost);
-    EXPECT_EQ(client.soap->proxy_port == 3128, each.installedHost != nullptr);
+    EXPECT_STREQ(client.soap->proxy_userid, installedUser);
+    EXPECT_STREQ(client.soap->proxy_passwd, installedUser ? password : nullptr);
+    EXPECT_STREQ(client.soap->proxy_host, installedHost);
+    EXPECT_EQ(client.soap->proxy_port == 3128, installedHost != nullptr);
   }
 }
 
 TEST(GatewayClient, unreachableGatewaysAreTransportErrors) {
   for (const std::string& endpoint :
-       {"http://127.0.0.1:" + std::to_string(testing::closedPort()) + "/x",
-        std::string("http://gateway.invalid:1/x"), std::string("http://127.0.0.1:0/x"),
-        std::string("no address"), std::string()}) {
+       {"http://127.0.0.1:" + std::to_string(closedPort()) + "/x", std::string("http://gateway.invalid:1/x"),
+        std::string("http://127.0.0.1:0/x"), std::string("no address"), std::string()}) {
     const GatewayAccess access = accessTo(endpoint);
     GatewayClient client(access);
     std::int32_t version = 0;
@@ -101,8 +85,7 @@ TEST(GatewayClient, cancelledBeforeItBeginsSendsNothing) {
   EXPECT_EQ(gateway.requestCount(), 0);
 }
 
-/// An address of this machine that leaves connections without an answer, as nothing accepts those in its
-/// queue.
+/// A loopback address whose backlog is full, so that connections time out.
 class SilentAddress {
  public:
   explicit SilentAddress(int port) {
@@ -128,7 +111,7 @@ class SilentAddress {
   std::array<SOAP_SOCKET, 3> sockets_{};
 };
 
-/// A version query to a host with the addresses that `resolve` finds; how long it took.
+/// The duration of a version query to a host with the addresses from `resolve`.
 std::chrono::milliseconds queryBy(protocol::Resolver resolve, std::chrono::milliseconds nextAddress, int port,
                                   bool isAnswered) {
   const protocol::IoOptions options{
@@ -143,7 +126,7 @@ std::chrono::milliseconds queryBy(protocol::Resolver resolve, std::chrono::milli
   return std::chrono::duration_cast<std::chrono::milliseconds>(std::chrono::steady_clock::now() - start);
 }
 
-TEST(GatewayClient, triesEveryAddressOfTheHostWithinTheTimeOut) {
+TEST(GatewayClient, triesEveryAddressWithinTheTimeout) {
   FakeGateway gateway(versionReply);
   const SilentAddress silent(gateway.port());
   const auto found = [](const std::vector<std::string>& addresses) {
@@ -168,7 +151,7 @@ TEST(GatewayClient, triesEveryAddressOfTheHostWithinTheTimeOut) {
   EXPECT_LT(queryBy(stuck, 10s, gateway.port(), false), 1500ms);
 }
 
-TEST(GatewayClient, endsWithTheTimeForTheWholeExchange) {
+TEST(GatewayClient, endsAfterTheTotalTimeout) {
   for (const auto manner : {FakeGateway::Manner::Silent, FakeGateway::Manner::Drops}) {
     FakeGateway gateway(versionReply, manner);
     GatewayAccess access = accessTo(gateway.endpoint());
@@ -182,4 +165,4 @@ TEST(GatewayClient, endsWithTheTimeForTheWholeExchange) {
 }
 
 }  // namespace
-}  // namespace parlexo
+}  // namespace parlexo::test

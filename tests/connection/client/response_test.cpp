@@ -1,26 +1,17 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <cstdio>
-#include <string>
-#include <utility>
-#include <vector>
-
-#include <gtest/gtest.h>
 
 #include "connection/client/gateway_client.h"
 #include "connection/client/wire_text.h"
 #include "protocol/server_envelope.h"
 #include "tests/connection/client/gateway_access_for.h"
 #include "tests/support/fake_gateway.h"
+#include "tests/support/test.h"
 
-namespace parlexo {
+namespace parlexo::test {
 namespace {
 
-using testing::accessTo;
-using testing::envelope;
-using testing::FakeGateway;
-using testing::httpReply;
-
-/// What one status query came to when the gateway answered with `http`.
+/// A status query that gets the reply `http`.
 struct Query {
   explicit Query(const std::string& http)
       : gateway(http), access(accessTo(gateway.endpoint())), client(access) {
@@ -42,17 +33,11 @@ std::string statusElement(const std::string& fields) {
   return "<m:getStatusResponse>" + fields + "</m:getStatusResponse>";
 }
 
-TEST(Response, isReadInEveryFormThatServersGiveIt) {
+TEST(Response, isReadInEveryForm) {
   const std::string code = "<nErrorCode xsi:type=\"xsd:int\">7</nErrorCode>";
   const std::string status = "<sStatus xsi:type=\"xsd:string\">Sent</sStatus>";
   const std::string entry = "<t:x xmlns:t=\"urn:t\" S:mustUnderstand=\"1\"><deep>1</deep></t:x>";
-  const struct {
-    const char* what;
-    std::string body;
-    std::string header;
-    std::int32_t code;
-    const char* status;
-  } answers[] = {
+  const Cases<const char*, std::string, std::string, std::int32_t, const char*> answers = {
       {"as agreed", statusElement(code + status), "", 7, "Sent"},
       {"other order", statusElement(status + code), "", 7, "Sent"},
       {"no types, blanks around the number",
@@ -79,19 +64,16 @@ TEST(Response, isReadInEveryFormThatServersGiveIt) {
            "<multiRef id=\"id0\">7</multiRef>",
        "", 7, "7"},
   };
-  for (const auto& each : answers) {
-    const Query query(httpReply(envelope(each.body, each.header)));
-    EXPECT_EQ(query.result, 0) << each.what;
-    EXPECT_EQ(query.response.nErrorCode, each.code) << each.what;
-    EXPECT_EQ(query.status(), each.status) << each.what;
+  for (const auto& [what, body, header, readCode, readStatus] : answers) {
+    const Query query(httpReply(envelope(body, header)));
+    EXPECT_EQ(query.result, 0) << what;
+    EXPECT_EQ(query.response.nErrorCode, readCode) << what;
+    EXPECT_EQ(query.status(), readStatus) << what;
   }
 }
 
-TEST(Response, textIsUnicodeWithBytesOfTheCodePageAmongIt) {
-  const struct {
-    const char* sent;
-    const char16_t* read;
-  } texts[] = {
+TEST(Response, textMayMixUnicodeAndCodePage) {
+  const Cases<const char*, const char16_t*> texts = {
       {"Sent \xE2\x80\x93 \xC4\x80&#256;&#x2013;", u"Sent \u2013 \u0100\u0100\u2013"},
       {"\xF0\x9F\x98\x80&#xD83D;&#xDE00;!", u"\U0001F600\U0001F600!"},
       {"\xC2\x80&#x93;\xC2\x81 \xC2\xA0\xC3\xA9", u"\u20AC\u201C\u0081 \u00A0\u00E9"},
@@ -103,6 +85,8 @@ TEST(Response, textIsUnicodeWithBytesOfTheCodePageAmongIt) {
       {"<![CDATA[&lt;<b>\xE2\x80\x93 \xE9 \xC0\xBC ]]><!-- &lt; --><?p i?><b>x<c/></b>",
        u"&lt;<b>\u2013 \u00E9 \u00C0\u00BC <b>x<c/></b>"},
       {"ends&#0; here", u"ends"},
+      {"x", u"x"},
+      {"\xE9", u"\u00E9"},
   };
   for (const auto& [sent, read] : texts) {
     const std::string fields = "<nErrorCode>0</nErrorCode><sStatus>" + std::string(sent) + "</sStatus>";
@@ -115,7 +99,7 @@ TEST(Response, textIsUnicodeWithBytesOfTheCodePageAmongIt) {
   EXPECT_EQ(fromWire(Query(httpReply(latin)).response.sStatus).toStdU16String(), u"\u00C3\u00A9");
 }
 
-TEST(Response, isReadInChunksAndUpToTheEndOfTheConnection) {
+TEST(Response, isReadInChunksOrUntilTheConnectionCloses) {
   const std::string body = envelope(statusElement("<nErrorCode>0</nErrorCode><sStatus>Sent</sStatus>"));
   const std::string head = "HTTP/1.1 200 OK\r\nContent-Type: text/xml\r\n";
   const std::string unbounded = std::string(head).append("\r\n").append(body);
@@ -157,7 +141,7 @@ TEST(Response, valuesOfEveryTypeAreRead) {
   EXPECT_TRUE(preferences.bEmailSmsSplit);
 }
 
-TEST(Response, mayLackItsAmountOnlyWhenItRefuses) {
+TEST(Response, needsItsAmountUnlessItIsARefusal) {
   const auto result = [](const std::string& fields) {
     FakeGateway gateway(
         httpReply(envelope("<m:getAccountBalanceResponse>" + fields + "</m:getAccountBalanceResponse>")));
@@ -171,7 +155,7 @@ TEST(Response, mayLackItsAmountOnlyWhenItRefuses) {
   EXPECT_EQ(result("<nErrorCode>7</nErrorCode>"), 0);
 }
 
-/// Whatever is wrong with a reply, the call fails and the record holds nothing of it.
+/// The call must fail with a cleared record.
 void expectFailure(const std::string& http, const std::string& what) {
   const Query query(http);
   EXPECT_NE(query.result, 0) << what;
@@ -179,7 +163,7 @@ void expectFailure(const std::string& http, const std::string& what) {
   EXPECT_EQ(query.status(), "(null)") << what;
 }
 
-TEST(Response, thatIsNoAnswerFailsAndLeavesTheRecordCleared) {
+TEST(Response, invalidReplyFailsAndClearsTheRecord) {
   const std::string good = statusElement("<nErrorCode>7</nErrorCode><sStatus>Sent</sStatus>");
   const std::vector<std::pair<const char*, std::string>> bodies{
       {"empty", ""},
@@ -219,7 +203,7 @@ TEST(Response, thatIsNoAnswerFailsAndLeavesTheRecordCleared) {
   expectFailure("SSH-2.0-OpenSSH_9.2\r\n", "another protocol");
 }
 
-TEST(Response, cutAnywhereIsNeverTakenForAnAnswer) {
+TEST(Response, truncatedReplyIsNeverAccepted) {
   const std::string whole =
       httpReply(envelope(statusElement("<nErrorCode>0</nErrorCode><sStatus href=\"#a\"/>") +
                          "<multiRef id=\"a\">Sent</multiRef>"));
@@ -257,7 +241,7 @@ TEST(Response, hostileSizesAndDepthsFail) {
       "entity expansion");
 }
 
-TEST(Response, faultsOfBothFormsGiveTheRuntimesCode) {
+TEST(Response, soapFaultsReturnTheRuntimeCode) {
   const std::string soap12 = "http://www.w3.org/2003/05/soap-envelope";
   const std::pair<const char*, int> faults[] = {
       {"<S:Fault><faultcode>S:Server</faultcode><faultstring>no</faultstring></S:Fault>", 2},
@@ -286,10 +270,8 @@ TEST(Response, faultsOfBothFormsGiveTheRuntimesCode) {
   EXPECT_EQ(Query(httpReply(newForm, "500 Internal Server Error")).result, 2);
 }
 
-TEST(Response, isWrittenByTheServerSideInTheServicesOrder) {
-  const auto whole = [](const char* content) {
-    return testing::envelopeStart + content + testing::envelopeEnd;
-  };
+TEST(Response, isWrittenInTheDocumentedOrder) {
+  const auto whole = [](const char* content) { return envelopeStart + content + envelopeEnd; };
   EXPECT_EQ(protocol::responseEnvelope(protocol::getStatusResponse{.nErrorCode = -3, .sStatus = "a\x01<"}),
             whole("<ns3:getStatusResponse><nErrorCode xsi:type=\"xsd:int\">-3</nErrorCode>"
                   "<sStatus xsi:type=\"xsd:string\">a?&lt;</sStatus></ns3:getStatusResponse>"));
@@ -301,43 +283,20 @@ TEST(Response, isWrittenByTheServerSideInTheServicesOrder) {
                   "<faultstring xsi:type=\"xsd:string\">a &amp; b</faultstring></SOAP-ENV:Fault>"));
 }
 
-TEST(RequestReader, refusesWhatIsNoWholeRequest) {
-  const std::string whole =
-      envelope("<m:getStatus><sReciept>R</sReciept><x/><sSession>T</sSession></m:getStatus>");
-  protocol::RequestReader reader(whole);
-  protocol::getStatus request;
-  EXPECT_EQ(reader.operation(), "getStatus");
-  ASSERT_TRUE(reader.read(request));
-  EXPECT_EQ(request.sSession, "T");
-  EXPECT_EQ(request.sReciept, "R");
-
-  protocol::RequestReader other(whole);
-  protocol::sendSms sms;
-  EXPECT_FALSE(other.read(sms));
-  EXPECT_EQ(protocol::RequestReader("POST / HTTP/1.1\r\n\r\n" + whole).operation(), "");
-}
-
 TEST(RequestReader, readsBinaryFieldsStrictly) {
-  struct Case {
-    const char* text;
-    bool isGood;
-    const char* bytes;
+  const Cases<const char*, bool, const char*> cases = {
+      {"QUJD", true, "ABC"}, {" QU\r\nI= ", true, "AB"}, {"QUJ", false, ""},
+      {"Q===", false, ""},   {"QQ=A", false, ""},        {"Q*JD", false, ""},
   };
-  for (const Case& each : {Case{"QUJD", true, "ABC"},
-                           {" QU\r\nI= ", true, "AB"},
-                           {"QUJ", false, ""},
-                           {"Q===", false, ""},
-                           {"QQ=A", false, ""},
-                           {"Q*JD", false, ""}}) {
+  for (const auto& [text, isGood, bytes] : cases) {
     protocol::RequestReader reader(
-        envelope(std::string("<m:sendFax><oData>") + each.text + "</oData></m:sendFax>"));
+        envelope(std::string("<m:sendFax><oData>") + text + "</oData></m:sendFax>"));
     protocol::sendFax request;
-    EXPECT_EQ(reader.read(request), each.isGood) << each.text;
-    const std::string bytes(reinterpret_cast<const char*>(request.oData.data),
-                            static_cast<std::size_t>(request.oData.length));
-    EXPECT_EQ(bytes, each.bytes);
+    EXPECT_EQ(reader.read(request), isGood) << text;
+    const auto* data = reinterpret_cast<const char*>(request.oData.data);
+    EXPECT_EQ(std::string(data, static_cast<std::size_t>(request.oData.length)), bytes);
   }
 }
 
 }  // namespace
-}  // namespace parlexo
+}  // namespace parlexo::test

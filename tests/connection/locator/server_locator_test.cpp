@@ -1,31 +1,20 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "connection/locator/server_locator.h"
 
-#include <chrono>
 #include <deque>
-#include <string>
 #include <thread>
-#include <vector>
 
 #include <QHostAddress>
-#include <QStringList>
 #include <QTcpServer>
 #include <QTcpSocket>
 #include <QTimer>
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include "connection/locator/locator_document.h"
 #include "tests/support/fake_gateway.h"
+#include "tests/support/test.h"
 
-namespace parlexo {
+namespace parlexo::test {
 namespace {
-
-using namespace std::chrono_literals;
-using testing::FakeGateway;
-using namespace Qt::StringLiterals;
-using testing::httpReply;
-using ::testing::UnorderedElementsAre;
 
 const std::string xmlHead = "<?xml version=\"1.0\"?>";
 const std::string serverLine =
@@ -38,10 +27,10 @@ std::string lines(const std::vector<std::string>& each, const char* end = "\n") 
   return text;
 }
 
-/// A locator document as the service's web site holds it.
+/// A valid locator document.
 const std::string locatorText = lines({xmlHead, serverLine, versionLine, "</server>"});
 
-TEST(LocatorDocument, tellsTheFiveValuesAndTheEndpoint) {
+TEST(LocatorDocument, hasFiveValuesAndTheEndpoint) {
   for (const std::string& each : std::vector<std::string>{
            locatorText,
            lines({xmlHead, " \t" + serverLine + " ", "<!-- more -->", "", "  " + versionLine}, "\r\n"),
@@ -60,29 +49,8 @@ TEST(LocatorDocument, tellsTheFiveValuesAndTheEndpoint) {
   }
 }
 
-TEST(LocatorDocument, readsNumbersAsFarAsTheyGo) {
-  struct Case {
-    const char* port;
-    int read;
-  };
-  for (const Case& each :
-       {Case{"abc", 0}, {" 81x", 81}, {"-1", -1}, {"+9", 9}, {"0x10", 0}, {"99999999999", 2147483647}}) {
-    const std::string server =
-        std::string("<server ip=\"h\" port=\"") + each.port + "\" maxfilesize=\"1\" maxfilesizemobile=\"2\">";
-    const auto location =
-        parseLocatorDocument(QByteArray::fromStdString(lines({xmlHead, server, versionLine})));
-    ASSERT_TRUE(location) << each.port;
-    EXPECT_EQ(location->port, each.read) << each.port;
-    EXPECT_EQ(location->endpoint, u"http://h:%1/ccx/onlineCommunication"_s.arg(each.read));
-  }
-}
-
-TEST(LocatorDocument, ofAnotherFormTellsNothing) {
-  struct Case {
-    const char* what;
-    std::vector<std::string> document;
-  };
-  for (const Case& each : std::vector<Case>{
+TEST(LocatorDocument, malformedDocumentIsRejected) {
+  for (const auto& [what, document] : Cases<const char*, std::vector<std::string>>{
            {"server on line 3", {xmlHead, "", serverLine, versionLine}},
            {"attribute between",
             {xmlHead, serverLine, R"(<version product="client" build="1" version="2">)"}},
@@ -94,7 +62,7 @@ TEST(LocatorDocument, ofAnotherFormTellsNothing) {
            {"empty host",
             {xmlHead, R"(<server ip="" port="1" maxfilesize="1" maxfilesizemobile="2">)", versionLine}},
        }) {
-    EXPECT_FALSE(parseLocatorDocument(QByteArray::fromStdString(lines(each.document)))) << each.what;
+    EXPECT_FALSE(parseLocatorDocument(QByteArray::fromStdString(lines(document)))) << what;
   }
 }
 
@@ -108,14 +76,14 @@ Outcome locate(const std::string& site, RunState& state) {
   return ServerLocator(QUrl(QString::fromStdString(site)), quickLimits()).locate(state);
 }
 
-/// The lines of a request's head, without the language, which is that of the machine.
-QStringList headOf(const std::string& request) {
+/// The header lines of a request without the language, which depends on the machine.
+QStringList requestHead(const std::string& request) {
   QStringList lines = QString::fromStdString(request).split(u"\r\n"_s, Qt::SkipEmptyParts);
   lines.removeIf([](const QString& line) { return line.startsWith(u"Accept-Language: "); });
   return lines;
 }
 
-TEST(ServerLocator, sendsItsTwoHeadersAndNothingOfTheUser) {
+TEST(ServerLocator, sendsNoUserData) {
   FakeGateway site(httpReply(locatorText));
   RunState state;
   state.proxy.user = u"proxy user without a proxy"_s;
@@ -124,20 +92,16 @@ TEST(ServerLocator, sendsItsTwoHeadersAndNothingOfTheUser) {
   EXPECT_EQ(state.gateway.host, "10.0.0.7");
   const QString host = u"Host: 127.0.0.1:%1"_s.arg(site.port());
   EXPECT_THAT(
-      headOf(site.lastRequest()),
+      requestHead(site.lastRequest()),
       UnorderedElementsAre(u"GET /WSDLServerLocator.xml HTTP/1.1"_s, host,
                            u"Accept: text/plain, text/html, text/htm, text/xml"_s,
                            u"User-Agent: Parlexo/1.0"_s, u"Accept-Encoding: identity"_s,
                            u"Connection: Keep-Alive"_s, u"Cache-Control: no-cache"_s, u"Pragma: no-cache"_s));
 }
 
-TEST(ServerLocator, otherAnswersLocateNothingAndKeepNothing) {
+TEST(ServerLocator, otherRepliesLocateNothing) {
   const std::string cut = httpReply(locatorText).substr(0, httpReply(locatorText).size() - 5);
-  struct Case {
-    std::string reply;
-    Outcome outcome;
-  };
-  for (const Case& each : std::vector<Case>{
+  for (const auto& [reply, outcome] : Cases<std::string, Outcome>{
            {httpReply(locatorText, "404 Not Found"), Outcome::NotLocated},
            {httpReply(locatorText, "201 Created"), Outcome::NotLocated},
            {httpReply(locatorText, "407 Proxy Authentication Required"), Outcome::ProxyRefusal},
@@ -146,9 +110,9 @@ TEST(ServerLocator, otherAnswersLocateNothingAndKeepNothing) {
            {cut, Outcome::NotLocated},
            {"", Outcome::NotLocated},
        }) {
-    FakeGateway site(each.reply);
+    FakeGateway site(reply);
     RunState state;
-    EXPECT_EQ(locate(site.base(), state), each.outcome) << each.reply.substr(0, 60);
+    EXPECT_EQ(locate(site.base(), state), outcome) << reply.substr(0, 60);
     EXPECT_TRUE(state.gateway.host.isEmpty());
     EXPECT_TRUE(state.gateway.endpoint.isEmpty());
     EXPECT_EQ(state.gateway.maxFileSize, 0);
@@ -170,14 +134,14 @@ TEST(ServerLocator, followsUpToFiveRedirects) {
   }
   RunState state;
   EXPECT_EQ(locate(chain.back().base(), state), Outcome::NotLocated);
-  EXPECT_EQ(headOf(chain.front().lastRequest()).value(0), u"GET /elsewhere?a=b HTTP/1.1"_s);
+  EXPECT_EQ(requestHead(chain.front().lastRequest()).value(0), u"GET /elsewhere?a=b HTTP/1.1"_s);
 
   FakeGateway loop(redirectTo("/WSDLServerLocator.xml"));
   EXPECT_EQ(locate(loop.base(), state), Outcome::NotLocated);
   EXPECT_EQ(loop.requestCount(), 6);
 }
 
-TEST(ServerLocator, redirectsNeverLeadToLessSafety) {
+TEST(ServerLocator, redirectsNeverDropEncryption) {
   const QUrl open(u"http://a.test/x/y"_s);
   const QUrl encrypted(u"https://a.test/x/y"_s);
   const auto target = [](const QUrl& from, const char* to) {
@@ -190,14 +154,9 @@ TEST(ServerLocator, redirectsNeverLeadToLessSafety) {
     EXPECT_EQ(target(encrypted, to), QString()) << to;
 }
 
-TEST(ServerLocator, hugeAndEndlessDocumentsAreReadToTheLimitOnly) {
+TEST(ServerLocator, downloadStopsAtTheSizeLimit) {
   const std::string endlessHead = "HTTP/1.1 200 OK\r\n\r\n";
-  struct Case {
-    std::string reply;
-    FakeGateway::Manner manner;
-    Outcome outcome;
-  };
-  for (const Case& each : std::vector<Case>{
+  for (const auto& [reply, manner, outcome] : Cases<std::string, FakeGateway::Manner, Outcome>{
            {httpReply(locatorText + std::string(100 << 20, '\n')), FakeGateway::Manner::Answers,
             Outcome::Located},
            {httpReply(std::string(100 << 20, 'x')), FakeGateway::Manner::Answers, Outcome::NotLocated},
@@ -205,15 +164,15 @@ TEST(ServerLocator, hugeAndEndlessDocumentsAreReadToTheLimitOnly) {
            {endlessHead, FakeGateway::Manner::Endless, Outcome::NotLocated},
            {"HTTP/1.1 200 OK\r\nX: ", FakeGateway::Manner::Endless, Outcome::NotLocated},
        }) {
-    FakeGateway site(each.reply, each.manner);
+    FakeGateway site(reply, manner);
     RunState state;
-    EXPECT_EQ(locate(site.base(), state), each.outcome);
-    // What lies in the buffers of both ends of the connection counts as sent.
+    EXPECT_EQ(locate(site.base(), state), outcome);
+    // Includes the socket buffers of both ends.
     EXPECT_LT(site.bytesSent(), 24u << 20);
   }
 }
 
-TEST(ServerLocator, siteThatIsSilentOrDripsEndsTheDownload) {
+TEST(ServerLocator, slowSitesTimeOut) {
   for (const auto manner : {FakeGateway::Manner::Silent, FakeGateway::Manner::Drops}) {
     FakeGateway site(httpReply(locatorText), manner);
     RunState state;
@@ -225,24 +184,8 @@ TEST(ServerLocator, siteThatIsSilentOrDripsEndsTheDownload) {
   }
 }
 
-TEST(ServerLocator, cancelEndsTheDownloadAtOnce) {
-  FakeGateway site(httpReply(locatorText), FakeGateway::Manner::Silent);
-  const CancelFlag cancel;
-  std::thread user([cancel] {
-    std::this_thread::sleep_for(200ms);
-    cancel.raise();
-  });
-  RunState state;
-  const auto start = std::chrono::steady_clock::now();
-  EXPECT_EQ(ServerLocator(QUrl(QString::fromStdString(site.base()))).locate(state, {}, cancel),
-            Outcome::NotLocated);
-  EXPECT_LT(std::chrono::steady_clock::now() - start, 1500ms);
-  EXPECT_EQ(site.requestCount(), 1) << "no second attempt";
-  user.join();
-}
-
-TEST(ServerLocator, connectsOnceMoreAfterTheDelay) {
-  const int port = testing::closedPort();
+TEST(ServerLocator, retriesTheConnectionOnce) {
+  const int port = closedPort();
   // The port is closed when the download begins.
   QTcpServer late;
   QObject::connect(&late, &QTcpServer::newConnection, &late, [&] {
@@ -262,16 +205,16 @@ TEST(ServerLocator, connectsOnceMoreAfterTheDelay) {
   EXPECT_EQ(ServerLocator(address, limits).locate(state), Outcome::Located);
 }
 
-TEST(ServerLocator, givesUpAfterTheSecondRefusedConnection) {
+TEST(ServerLocator, failsAfterTheSecondRefusedConnection) {
   RunState state;
   const auto start = std::chrono::steady_clock::now();
-  EXPECT_EQ(locate("http://127.0.0.1:" + std::to_string(testing::closedPort()), state), Outcome::NotLocated);
+  EXPECT_EQ(locate("http://127.0.0.1:" + std::to_string(closedPort()), state), Outcome::NotLocated);
   const auto spent = std::chrono::steady_clock::now() - start;
   EXPECT_GE(spent, 50ms);
   EXPECT_LT(spent, 1s);
 }
 
-TEST(ServerLocator, proxyPortOutOfRangeIsNotBentIntoAnother) {
+TEST(ServerLocator, proxyPortOutOfRangeIsRejected) {
   FakeGateway proxy(httpReply(locatorText));
   for (const int port : {0, -1, 65536 + proxy.port()}) {
     RunState state;
@@ -282,4 +225,4 @@ TEST(ServerLocator, proxyPortOutOfRangeIsNotBentIntoAnother) {
 }
 
 }  // namespace
-}  // namespace parlexo
+}  // namespace parlexo::test

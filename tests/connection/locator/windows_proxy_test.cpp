@@ -1,21 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// What the system says about proxies, held against the settings that it takes it from.
+// Compares the system's proxy with the user's settings.
 
 #include <windows.h>
 
 #include <array>
 
-#include <QFile>
-#include <QTemporaryDir>
-#include <gtest/gtest.h>
-
 #include "connection/locator/proxy_system.h"
 #include "connection/locator/proxy_text.h"
+#include "tests/support/test.h"
 
-namespace parlexo {
-
-using namespace Qt::StringLiterals;
-
+namespace parlexo::test {
 namespace {
 
 const QUrl address(u"http://gateway.test/WSDLServerLocator.xml"_s);
@@ -28,7 +22,7 @@ QString textOfUser(const wchar_t* name) {
   return QString::fromWCharArray(text.data());
 }
 
-/// The proxy in the user's settings; empty when none is switched on.
+/// The proxy in the user's settings; empty if none is enabled.
 QString proxyOfUser() {
   DWORD isOn = 0;
   DWORD size = sizeof isOn;
@@ -36,7 +30,7 @@ QString proxyOfUser() {
   return isOn ? textOfUser(L"ProxyServer") : QString();
 }
 
-TEST(WindowsProxySystem, tellsTheProxyOfTheUsersSettings) {
+TEST(WindowsProxySystem, readsTheUsersProxySettings) {
   const CancelFlag cancel;
   EXPECT_EQ(makeProxySystem()->configuredProxy(address, cancel), proxyOfUser());
   for (const char* host : {"news.inside.test", "intranet"}) {
@@ -47,7 +41,7 @@ TEST(WindowsProxySystem, tellsTheProxyOfTheUsersSettings) {
   }
 }
 
-TEST(WindowsProxySystem, letsTheSystemReadAConfigurationScript) {
+TEST(WindowsProxySystem, runsAConfigurationScript) {
   const QTemporaryDir folder;
   const QString script = folder.filePath(u"proxy.pac"_s);
   const auto answer = [&](const QByteArray& text) {
@@ -64,4 +58,4 @@ TEST(WindowsProxySystem, letsTheSystemReadAConfigurationScript) {
 }
 
 }  // namespace
-}  // namespace parlexo
+}  // namespace parlexo::test

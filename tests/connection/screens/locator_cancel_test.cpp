@@ -1,20 +1,17 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include <chrono>
 
-#include <QElapsedTimer>
 #include <QTimer>
 
 #include "connection/locator/gateway_search.h"
 #include "tests/support/fake_gateway.h"
 #include "tests/support/fake_proxy_system.h"
+#include "tests/support/test.h"
 #include "tests/ui/waiting/sample_page.h"
 #include "ui/waiting/progress_box.h"
 #include "ui/waiting/thread_call_runner.h"
 
-namespace parlexo {
+namespace parlexo::test {
 namespace {
-
-using namespace std::chrono_literals;
 
 struct NoLogin final : ProxyLogin {
   std::optional<ProxySettings> ask() override {
@@ -23,8 +20,8 @@ struct NoLogin final : ProxyLogin {
   }
 };
 
-TEST(LocatorCancel, cancelInTheBoxEndsTheSearchAtOnceAndForGood) {
-  const testing::FakeGateway silent({}, testing::FakeGateway::Manner::Silent);
+TEST(LocatorCancel, cancelInTheBoxEndsTheSearch) {
+  const FakeGateway silent({}, FakeGateway::Manner::Silent);
   const QUrl site(QString::fromStdString(silent.base()));
   ProgressBox progress;
   ThreadCallRunner runner(progress, {.untilBox = 20ms, .untilCancel = 100ms});
@@ -49,4 +46,4 @@ TEST(LocatorCancel, cancelInTheBoxEndsTheSearchAtOnceAndForGood) {
 }
 
 }  // namespace
-}  // namespace parlexo
+}  // namespace parlexo::test

@@ -1,32 +1,20 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "connection/screens/proxy_login_dlg.h"
 
-#include <QLabel>
-#include <QLineEdit>
-#include <QTest>
-#include <QTimer>
-#include <gtest/gtest.h>
-
 #include "tests/support/fake_proxy_system.h"
+#include "tests/support/widgets.h"
 #include "ui/waiting/animated_picture.h"
 
-namespace parlexo {
+namespace parlexo::test {
 namespace {
 
-using namespace Qt::StringLiterals;
-
-class ProxyLoginDlgTest : public ::testing::Test {
- protected:
-  static QLineEdit& field(const QWidget& dialog, const QString& name) {
-    return *dialog.findChild<QLineEdit*>(name);
-  }
-
+struct ProxyLoginDlgTest : testing::Test {
   DirectCallRunner runner;
   std::shared_ptr<FakeProxySystem> system = std::make_shared<FakeProxySystem>();
   ProxyDiscovery discovery{QUrl(u"http://www.parlexo.invalid"_s), runner, system};
 };
 
-TEST_F(ProxyLoginDlgTest, isEmptyWhenNoneWasFoundAndTabsInReadingOrder) {
+TEST_F(ProxyLoginDlgTest, isEmptyWithoutAProxyAndTabsInReadingOrder) {
   CProxyLoginDlg dialog(discovery);
   for (const QLineEdit* each : dialog.findChildren<QLineEdit*>()) EXPECT_EQ(each->text(), "");
   EXPECT_EQ(dialog.settings().port, 0);
@@ -41,30 +29,27 @@ TEST_F(ProxyLoginDlgTest, isEmptyWhenNoneWasFoundAndTabsInReadingOrder) {
                                 u"cancel"_s}));
 }
 
-TEST_F(ProxyLoginDlgTest, okHandsOutWhatWasTyped) {
-  struct Case {
-    QString port;
-    int number;
-  };
-  for (const Case& each : {Case{u"8080"_s, 8080}, {u" 81 or so"_s, 81}, {u"abc"_s, 0}, {u"-3"_s, -3}}) {
+TEST_F(ProxyLoginDlgTest, okReturnsTheInput) {
+  for (const auto& [port, number] :
+       Cases<QString, int>{{u"8080"_s, 8080}, {u" 81 or so"_s, 81}, {u"abc"_s, 0}, {u"-3"_s, -3}}) {
     CProxyLoginDlg dialog(discovery);
     dialog.show();
-    QTest::keyClicks(&field(dialog, u"proxyUser"_s), u"mary"_s);
-    QTest::keyClicks(&field(dialog, u"proxyPassword"_s), u" s3cret "_s);
-    QTest::keyClicks(&field(dialog, u"proxyHost"_s), u" proxy.local "_s);
-    QTest::keyClicks(&field(dialog, u"proxyPort"_s), each.port);
-    EXPECT_EQ(field(dialog, u"proxyPassword"_s).displayText().count(u's'), 0);
-    QTest::keyClick(&field(dialog, u"proxyPort"_s), Qt::Key_Return);
+    QTest::keyClicks(&child<QLineEdit>(dialog, "proxyUser"), u"mary"_s);
+    QTest::keyClicks(&child<QLineEdit>(dialog, "proxyPassword"), u" s3cret "_s);
+    QTest::keyClicks(&child<QLineEdit>(dialog, "proxyHost"), u" proxy.local "_s);
+    QTest::keyClicks(&child<QLineEdit>(dialog, "proxyPort"), port);
+    EXPECT_EQ(child<QLineEdit>(dialog, "proxyPassword").displayText().count(u's'), 0);
+    QTest::keyClick(&child<QLineEdit>(dialog, "proxyPort"), Qt::Key_Return);
     EXPECT_EQ(dialog.result(), QDialog::Accepted);
     const ProxySettings settings = dialog.settings();
     EXPECT_EQ(settings.user, "mary");
     EXPECT_EQ(settings.password, " s3cret ");
     EXPECT_EQ(settings.host, "proxy.local");
-    EXPECT_EQ(settings.port, each.number);
+    EXPECT_EQ(settings.port, number);
   }
 }
 
-TEST_F(ProxyLoginDlgTest, boxTellsCancelFromOk) {
+TEST_F(ProxyLoginDlgTest, cancelReturnsNothing) {
   system->configured = u"proxy.local:8080"_s;
   const auto answerWith = [this](const QString& button) {
     QTimer::singleShot(0, [button] {
@@ -82,4 +67,4 @@ TEST_F(ProxyLoginDlgTest, boxTellsCancelFromOk) {
 }
 
 }  // namespace
-}  // namespace parlexo
+}  // namespace parlexo::test

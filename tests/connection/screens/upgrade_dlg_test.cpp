@@ -1,27 +1,18 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "connection/screens/upgrade_dlg.h"
 
-#include <QLabel>
-#include <QTest>
-#include <gmock/gmock.h>
+#include "tests/support/widgets.h"
 
-namespace parlexo {
-
-using namespace Qt::StringLiterals;
-
+namespace parlexo::test {
 namespace {
 
-QStringList visibleTexts(const CUpgradeDlg& dialog) {
-  QStringList texts;
-  for (const QLabel* label : dialog.findChildren<QLabel*>()) {
-    if (label->isVisibleTo(&dialog)) texts << label->text();
+TEST(UpgradeDialog, showsTheNewVersionIfItIsKnown) {
+  for (const auto& [version, isShown] : Cases<QString, bool>{{QString(), false}, {u"2.30%1"_s, true}}) {
+    CUpgradeDlg dialog(version);
+    dialog.show();
+    EXPECT_EQ(visibleTexts(dialog).filter(u"A new version "_s).size(), isShown ? 1 : 0);
+    EXPECT_EQ(visibleTexts(dialog).contains(u"A new version 2.30%1 is now available!"_s), isShown);
   }
-  return texts;
-}
-
-TEST(UpgradeDialog, tellsTheNewVersionOnlyWhenItIsKnown) {
-  EXPECT_EQ(visibleTexts(CUpgradeDlg(QString())).size(), 2);
-  EXPECT_EQ(visibleTexts(CUpgradeDlg(u"2.30%1"_s)).value(1), u"A new version 2.30%1 is now available!"_s);
 }
 
 TEST(UpgradeDialog, downloadOpensThePageAndCancelCloses) {
@@ -35,9 +26,9 @@ TEST(UpgradeDialog, downloadOpensThePageAndCancelCloses) {
   ASSERT_EQ(opened.size(), 1U);
   EXPECT_EQ(opened[0], QUrl(u"https://www.parlexo.example/messagingclient.php"_s));
   EXPECT_TRUE(dialog.isVisible());
-  QTest::mouseClick(dialog.findChild<QWidget*>(u"cancel"_s), Qt::LeftButton);
+  click(dialog, "cancel");
   EXPECT_FALSE(dialog.isVisible());
 }
 
 }  // namespace
-}  // namespace parlexo
+}  // namespace parlexo::test

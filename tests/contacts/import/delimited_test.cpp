@@ -1,27 +1,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include <string>
-#include <vector>
-
-#include <QFile>
-#include <QStringList>
-#include <QTemporaryDir>
-#include <gmock/gmock.h>
 
 #include "base/call_runner.h"
 #include "contacts/import/delimited_file.h"
 #include "contacts/import/delimited_parser.h"
 #include "tests/support/file_bytes.h"
+#include "tests/support/test.h"
 
-namespace parlexo {
-
-using namespace Qt::StringLiterals;
-
+namespace parlexo::test {
 namespace {
 
-using testing::HasSubstr;
-
-/// The rows in one line: cells between bars, a slash behind each row.
-std::string rowsOf(const Sheet& sheet) {
+/// The rows in one line: bars between cells, a slash after each row.
+std::string joinedRows(const Sheet& sheet) {
   QString all;
   for (int row = 0; row < sheet.rowCount(); ++row) {
     for (int column = 0; column < sheet.cellCount(row); ++column)
@@ -37,7 +26,7 @@ struct Parsed {
   QString problem;
 };
 
-/// `step` characters at a time, as chunks of a file may cut the text anywhere.
+/// Feeds `step` characters at a time.
 Parsed parse(const QString& text, int step, const ImportLimits& limits = {}, QChar delimiter = u',') {
   Parsed parsed;
   DelimitedParser parser(delimiter, limits, limits.rows + 1, parsed.sheet);
@@ -48,7 +37,7 @@ Parsed parse(const QString& text, int step, const ImportLimits& limits = {}, QCh
   return parsed;
 }
 
-TEST(DelimitedParser, readsWhatProgramsWrite) {
+TEST(DelimitedParser, readsCommonFiles) {
   const std::vector<std::pair<const char*, const char*>> cases = {
       {"", ""},
       {"a,b\r\nc,d\r\n", "a|b/c|d/"},
@@ -63,12 +52,12 @@ TEST(DelimitedParser, readsWhatProgramsWrite) {
   for (const auto& [text, rows] : cases)
     for (const int step : {1, 2, 100}) {
       const Parsed parsed = parse(QString::fromUtf8(text), step);
-      EXPECT_EQ(rowsOf(parsed.sheet), rows) << text << " by " << step;
+      EXPECT_EQ(joinedRows(parsed.sheet), rows) << text << " by " << step;
       EXPECT_TRUE(parsed.problem.isEmpty()) << text;
     }
 }
 
-TEST(DelimitedParser, tellsTheLineOfWhatIsBrokenOrTooMuch) {
+TEST(DelimitedParser, reportsTheLineOfAnError) {
   ImportLimits small;
   small.columns = 3;
   small.rows = 4;
@@ -86,8 +75,7 @@ TEST(DelimitedParser, tellsTheLineOfWhatIsBrokenOrTooMuch) {
     EXPECT_THAT(parse(text, 3, small).problem.toStdString(), HasSubstr(problem)) << text.toStdString();
 }
 
-class DelimitedFileTest : public testing::Test {
- protected:
+struct DelimitedFileTest : testing::Test {
   QString write(const QByteArray& bytes) { return writeBytes(folder_.filePath("file.csv"), bytes); }
   [[nodiscard]] SheetReading read(const QString& path) const {
     return readDelimited(path, detectFormat(path, {}, cancel_), {}, cancel_);
@@ -97,7 +85,7 @@ class DelimitedFileTest : public testing::Test {
   CancelFlag cancel_;
 };
 
-TEST_F(DelimitedFileTest, findsEncodingAndDelimiterByItself) {
+TEST_F(DelimitedFileTest, detectsEncodingAndDelimiter) {
   const std::string read = "Name|Phone/Zo\u00eb|1,5/";
   const std::vector<std::pair<QByteArray, const char*>> cases = {
       {"Name;Phone\nZo\xC3\xAB;1,5\n", "UTF-8"},
@@ -106,22 +94,22 @@ TEST_F(DelimitedFileTest, findsEncodingAndDelimiterByItself) {
       {QByteArray("\xFF\xFEN\0a\0m\0e\0|\0P\0h\0o\0n\0e\0\n\0Z\0o\0\xEB\0|\0001\0,\0005\0", 38), "UTF-16LE"},
       {QByteArray("\xFE\xFF\0N\0a\0m\0e\0|\0P\0h\0o\0n\0e\0\n\0Z\0o\0\xEB\0|\0001\0,\0005", 38), "UTF-16BE"},
   };
-  for (const auto& [bytes, what] : cases) EXPECT_EQ(rowsOf(this->read(write(bytes)).sheet), read) << what;
+  for (const auto& [bytes, what] : cases) EXPECT_EQ(joinedRows(this->read(write(bytes)).sheet), read) << what;
 
   const QString named = write("sep=;\r\nA,b;c\n1,2;\"3");
   EXPECT_EQ(detectFormat(named, {}, cancel_).delimiter, u';');
-  EXPECT_EQ(rowsOf(this->read(named).sheet), "A,b|c/");
+  EXPECT_EQ(joinedRows(this->read(named).sheet), "A,b|c/");
   EXPECT_THAT(this->read(named).problem.toStdString(), HasSubstr("Line 3")) << "the line of the file";
   const QString even = write("Lee, Ann;0412345678\nOak, Bob;0412345679\n");
   EXPECT_EQ(detectFormat(even, {}, cancel_).delimiter, u';') << "leaves a column of numbers";
 }
 
-TEST_F(DelimitedFileTest, judgesTheEncodingByTheWholeFile) {
+TEST_F(DelimitedFileTest, detectsTheEncodingOfTheWholeFile) {
   QByteArray late(600'000, 'a');
   for (qsizetype at = 100; at < late.size(); at += 100) late[at] = '\n';
   EXPECT_EQ(detectFormat(write(late), {}, cancel_).encoding, TextEncoding::Utf8);
   EXPECT_EQ(detectFormat(write(late + '\xEB'), {}, cancel_).encoding, TextEncoding::CodePage);
-  // Both halves of the letter lie in different chunks.
+  // The two bytes of the letter are in different chunks.
   late.replace((1 << 18) - 1, 2, "\xC3\xAB");
   const QString path = write(late);
   EXPECT_EQ(detectFormat(path, {}, cancel_).encoding, TextEncoding::Utf8);
@@ -129,7 +117,7 @@ TEST_F(DelimitedFileTest, judgesTheEncodingByTheWholeFile) {
   EXPECT_TRUE(all.sheet.cell((1 << 18) / 100, 0).contains(u'\u00eb'));
 }
 
-TEST_F(DelimitedFileTest, turnsAwayWhatCanNotBeImported) {
+TEST_F(DelimitedFileTest, rejectsUnsuitableFiles) {
   ImportLimits small;
   small.fileBytes = 3 << 20;
   QFile large(folder_.filePath(u"large.csv"_s));
@@ -144,4 +132,4 @@ TEST_F(DelimitedFileTest, turnsAwayWhatCanNotBeImported) {
 }
 
 }  // namespace
-}  // namespace parlexo
+}  // namespace parlexo::test

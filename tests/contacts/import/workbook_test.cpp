@@ -2,34 +2,28 @@
 #include <algorithm>
 #include <random>
 
-#include <QDir>
-#include <QStringList>
-#include <QTemporaryDir>
-#include <gmock/gmock.h>
-
 #include "contacts/import/binary_records.h"
 #include "contacts/import/number_format.h"
 #include "contacts/import/spread_sheet.h"
 #include "contacts/import/workbook_builder.h"
 #include "contacts/import/workbook_xml.h"
 #include "tests/support/file_bytes.h"
+#include "tests/support/test.h"
 
-namespace parlexo {
+namespace parlexo::test {
 namespace {
-
-using testing::HasSubstr;
 
 QString sample(const char* name) {
   return QStringLiteral(SAMPLE_FOLDER) + QLatin1String(name);
 }
 
-QStringList rowOf(const Sheet& sheet, int row) {
+QStringList rowCells(const Sheet& sheet, int row) {
   QStringList cells;
   for (int column = 0; column < sheet.cellCount(row); ++column) cells << sheet.cell(row, column).toString();
   return cells;
 }
 
-QString problemOf(const QString& path, const ImportLimits& limits = {}) {
+QString readProblem(const QString& path, const ImportLimits& limits = {}) {
   CSpreadSheet book;
   QString problem = book.read(path, limits, CancelFlag());
   EXPECT_EQ(problem.isEmpty(), !book.sheets().empty()) << path.toStdString();
@@ -47,53 +41,54 @@ TEST(CSpreadSheet, readsTheWorkbooksOfRealProgramsAlike) {
     ASSERT_EQ(book.read(sample(name), {}, CancelFlag()), QString()) << name;
     const Sheet& people = book.sheets().front().sheet;
     ASSERT_EQ(people.rowCount(), 3) << name;
-    EXPECT_EQ(rowOf(people, 1).mid(0, 6), ann) << name;
-    EXPECT_EQ(rowOf(people, 2).mid(0, 6), bob) << name;
+    EXPECT_EQ(rowCells(people, 1).mid(0, 6), ann) << name;
+    EXPECT_EQ(rowCells(people, 2).mid(0, 6), bob) << name;
     const bool lacksFormulas = name == QLatin1String("libreoffice.xls");
     EXPECT_EQ(book.sheets().front().lacksFormulas, lacksFormulas) << name;
-    EXPECT_EQ(rowOf(people, 1).contains("Ann Example"), people.cellCount(0) > 6 && !lacksFormulas) << name;
+    EXPECT_EQ(rowCells(people, 1).contains("Ann Example"), people.cellCount(0) > 6 && !lacksFormulas) << name;
   }
 }
 
-TEST(CSpreadSheet, leavesOutSheetsWithoutCellsAndPutsHiddenOnesLast) {
+TEST(CSpreadSheet, skipsEmptySheetsAndListsHiddenOnesLast) {
   for (const char* name : {"openpyxl.xlsx", "xlwt.xls"}) {
     CSpreadSheet book;
     ASSERT_EQ(book.read(sample(name), {}, CancelFlag()), QString());
     ASSERT_EQ(book.sheets().size(), 3u);
     EXPECT_EQ(book.sheets()[2].name, "Lists (hidden)") << "though it is the first in the file";
-    EXPECT_EQ(rowOf(book.sheets()[1].sheet, 4), QStringList({"", "", "far"}));
+    EXPECT_EQ(rowCells(book.sheets()[1].sheet, 4), QStringList({"", "", "far"}));
   }
 }
 
 TEST(CSpreadSheet, stopsAtTheLimits) {
-  EXPECT_EQ(problemOf(sample("far-column.xlsx")).toStdString(), "The file has more than 1,000 columns.");
+  EXPECT_EQ(readProblem(sample("far-column.xlsx")).toStdString(), "The file has more than 1,000 columns.");
   ImportLimits unpacked;
   unpacked.unpackedBytes = 2000;
-  EXPECT_THAT(problemOf(sample("openpyxl.xlsx"), unpacked).toStdString(), HasSubstr("once it is unpacked"));
-  EXPECT_THAT(problemOf(sample("libreoffice.ods"), unpacked).toStdString(), HasSubstr("once it is unpacked"));
+  EXPECT_THAT(readProblem(sample("openpyxl.xlsx"), unpacked).toStdString(), HasSubstr("once it is unpacked"));
+  EXPECT_THAT(readProblem(sample("libreoffice.ods"), unpacked).toStdString(),
+              HasSubstr("once it is unpacked"));
   ImportLimits rows;
   rows.rows = 2;
   ImportLimits text;
   text.textLength = 20;
   for (const char* name : {"openpyxl.xlsx", "libreoffice.ods", "xlwt.xls"}) {
-    EXPECT_THAT(problemOf(sample(name), rows).toStdString(), HasSubstr("more than 2 rows"));
-    EXPECT_THAT(problemOf(sample(name), text).toStdString(), HasSubstr("too much text"));
+    EXPECT_THAT(readProblem(sample(name), rows).toStdString(), HasSubstr("more than 2 rows"));
+    EXPECT_THAT(readProblem(sample(name), text).toStdString(), HasSubstr("too much text"));
   }
 }
 
-TEST(CSpreadSheet, readsFilesOfAnyNameAndReportsDamagedOnes) {
+TEST(CSpreadSheet, readsFilesWithAnyNameAndReportsDamage) {
   const QTemporaryDir folder;
   const QString path = folder.filePath(QString::fromUtf8("G\u00e4ste \u540d\u7c3f"));
   for (const char* name : {"openpyxl.xlsx", "libreoffice.ods", "xlwt.xls"}) {
     const QByteArray bytes = readBytes(sample(name));
-    EXPECT_EQ(problemOf(writeBytes(path, bytes)).toStdString(), "") << name;
-    EXPECT_THAT(problemOf(writeBytes(path, bytes.left(bytes.size() / 2))).toStdString(),
+    EXPECT_EQ(readProblem(writeBytes(path, bytes)).toStdString(), "") << name;
+    EXPECT_THAT(readProblem(writeBytes(path, bytes.left(bytes.size() / 2))).toStdString(),
                 HasSubstr("can't be read"));
   }
   EXPECT_FALSE(CSpreadSheet::isWorkbook(QStringLiteral(SAMPLE_FOLDER "README.md")));
 }
 
-TEST(CompoundFile, survivesAnyBytes) {
+TEST(CompoundFile, survivesRandomDamage) {
   const QByteArray whole = readBytes(sample("libreoffice.xls"));
   ASSERT_EQ(readBinarySheets(readCompoundStream(whole, u"Workbook")).size(), 1u);
   std::mt19937 random(31);
@@ -108,14 +103,11 @@ TEST(CompoundFile, survivesAnyBytes) {
   }
 }
 
-TEST(WorkbookXml, givesUpOnWhatIsMadeToFillTheMemory) {
+TEST(WorkbookXml, rejectsDocumentsThatWouldExhaustMemory) {
   const auto nested = [](int depth) {
     return "<t>" + QByteArray("<a>").repeated(depth) + "x" + QByteArray("</a>").repeated(depth) + "</t>";
   };
-  const struct {
-    QByteArray document;
-    bool isRead;
-  } cases[] = {
+  const Cases<QByteArray, bool> cases = {
       {nested(100), true},
       {nested(1'000'000), false},
       {"<!DOCTYPE t [<!ENTITY e \"<a><a>\">]><t>x</t>", false},
@@ -129,7 +121,7 @@ TEST(WorkbookXml, givesUpOnWhatIsMadeToFillTheMemory) {
   }
 }
 
-TEST(WorkbookBuilder, gapsInFrontOfCellsCountLikeCells) {
+TEST(WorkbookBuilder, gapsCountAsCells) {
   ImportLimits limits;
   limits.cells = 10;
   const CancelFlag cancel;
@@ -140,7 +132,7 @@ TEST(WorkbookBuilder, gapsInFrontOfCellsCountLikeCells) {
   EXPECT_THAT(builder.problem().toStdString(), HasSubstr("more than 10 cells"));
 }
 
-TEST(NumberFormat, keepsAllDigitsAndKnowsDates) {
+TEST(NumberFormat, keepsAllDigitsAndDetectsDates) {
   EXPECT_EQ(numberText(u"61412345678901234567"), "61412345678901234567");
   EXPECT_EQ(numberText(u"6.1412345678E10"), "61412345678");
   EXPECT_EQ(numberText(u"0.1"), "0.1");
@@ -158,4 +150,4 @@ TEST(NumberFormat, keepsAllDigitsAndKnowsDates) {
 }
 
 }  // namespace
-}  // namespace parlexo
+}  // namespace parlexo::test

@@ -1,14 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/waiting/animated_picture.h"
 
-#include <utility>
-#include <vector>
+#include "tests/support/widgets.h"
 
-#include <QElapsedTimer>
-#include <QTest>
-#include <gtest/gtest.h>
-
-namespace parlexo {
+namespace parlexo::test {
 namespace {
 
 const QColor ground(214, 239, 255);
@@ -27,14 +22,14 @@ QByteArray tinyGif(const std::vector<int>& hundredths) {
 }
 
 /// What a picture shows at the moment, pixel by pixel, on the dialog's ground.
-std::vector<QColor> pixelsOf(CAnimatedPicture& picture) {
+std::vector<QColor> renderedPixels(CAnimatedPicture& picture) {
   QImage image(2, 1, QImage::Format_RGB32);
   image.fill(ground);
   picture.render(&image, {}, {}, QWidget::RenderFlags());
   return {image.pixelColor(0, 0), image.pixelColor(1, 0)};
 }
 
-TEST(AnimatedPicture, eachFrameStaysForItsOwnDelayAndShortOnesAreSlowedDown) {
+TEST(AnimatedPicture, framesHaveTheirOwnDelayWithAMinimum) {
   for (const auto& [stored, milliseconds] :
        {std::pair{0, 100}, {1, 100}, {4, 100}, {5, 50}, {6, 60}, {250, 2500}})
     EXPECT_EQ(frameDelay(stored), milliseconds) << stored;
@@ -47,7 +42,7 @@ TEST(AnimatedPicture, eachFrameStaysForItsOwnDelayAndShortOnesAreSlowedDown) {
   EXPECT_GE(clock.elapsed(), 198);
   picture.resize(2, 1);
   picture.stop();
-  EXPECT_EQ(pixelsOf(picture), (std::vector<QColor>{Qt::red, Qt::red}));
+  EXPECT_EQ(renderedPixels(picture), (std::vector<QColor>{Qt::red, Qt::red}));
 }
 
 TEST(AnimatedPicture, singleFrameIsShownWithoutATimer) {
@@ -56,7 +51,7 @@ TEST(AnimatedPicture, singleFrameIsShownWithoutATimer) {
   ASSERT_TRUE(picture.loadFromMemory(tinyGif({5})));
   EXPECT_TRUE(picture.start());
   EXPECT_FALSE(picture.isRunning());
-  EXPECT_EQ(pixelsOf(picture), (std::vector<QColor>{Qt::blue, Qt::blue}));
+  EXPECT_EQ(renderedPixels(picture), (std::vector<QColor>{Qt::blue, Qt::blue}));
 }
 
 TEST(AnimatedPicture, brokenDataLeavesItBlank) {
@@ -69,9 +64,9 @@ TEST(AnimatedPicture, brokenDataLeavesItBlank) {
     EXPECT_FALSE(picture.loadFromMemory(data)) << data.size();
     EXPECT_FALSE(picture.start());
     EXPECT_FALSE(picture.isRunning());
-    EXPECT_EQ(pixelsOf(picture), (std::vector<QColor>{ground, ground}));
+    EXPECT_EQ(renderedPixels(picture), (std::vector<QColor>{ground, ground}));
   }
 }
 
 }  // namespace
-}  // namespace parlexo
+}  // namespace parlexo::test

@@ -1,29 +1,24 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <QApplication>
 #include <QMouseEvent>
-#include <QSignalSpy>
-#include <QTest>
 #include <QVBoxLayout>
-#include <gtest/gtest.h>
 
+#include "tests/support/widgets.h"
 #include "ui/gradient_page.h"
 #include "ui/picture_button.h"
 #include "ui/waiting/connecting_dlg.h"
 
-namespace parlexo {
+namespace parlexo::test {
 
 /// A window with one button whose presses are counted.
 struct SamplePage {
   SamplePage() {
     (new QVBoxLayout(&window))->addWidget(send);
-    window.show();
-    window.activateWindow();
-    EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
+    showActive(window);
   }
 
-  /// Puts a click into the event queue, as one that comes while the interface thread is busy.
+  /// Queues a click, like one that arrives while the interface thread is busy.
   void queueClick() const {
     for (const auto type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
       const auto buttons = type == QEvent::MouseButtonPress ? Qt::LeftButton : Qt::NoButton;
@@ -45,4 +40,4 @@ inline QList<CConnectingDlg*> boxes() {
   return found;
 }
 
-}  // namespace parlexo
+}  // namespace parlexo::test

@@ -2,53 +2,35 @@
 #include "ui/waiting/thread_call_runner.h"
 
 #include <atomic>
-#include <chrono>
-#include <functional>
 #include <stdexcept>
 #include <thread>
 
-#include <QElapsedTimer>
 #include <QTimer>
 
+#include "tests/support/test.h"
 #include "tests/ui/waiting/sample_page.h"
 #include "ui/waiting/progress_box.h"
 
-namespace parlexo {
-
-using namespace Qt::StringLiterals;
-
+namespace parlexo::test {
 namespace {
-
-using namespace std::chrono_literals;
 
 CallRunner::Task lasting(std::chrono::milliseconds time) {
   return [time](const CancelFlag&) { std::this_thread::sleep_for(time); };
 }
 
-class ThreadCallRunnerTest : public ::testing::Test {
- protected:
+struct ThreadCallRunnerTest : testing::Test {
   ProgressBox progress_;
   ThreadCallRunner runner_{progress_, {.untilBox = 50ms, .afterCancel = 100ms}};
 };
 
-TEST_F(ThreadCallRunnerTest, manyShortExchangesAllEnd) {
-  int ended = 0;
-  for (int i = 0; i < 300; ++i) ended += runner_.run([](const CancelFlag&) {}) ? 1 : 0;
-  EXPECT_EQ(ended, 300);
-}
-
-TEST_F(ThreadCallRunnerTest, boxAppearsOnlyWhenTheExchangeLasts) {
-  struct Case {
-    std::chrono::milliseconds lasts;
-    bool shows;
-  };
-  for (const Case& row : {Case{1ms, false}, Case{200ms, true}}) {
+TEST_F(ThreadCallRunnerTest, boxAppearsForLongTasks) {
+  for (const auto& [duration, shows] : {std::pair{1ms, false}, {200ms, true}}) {
     bool shown = false;
     QTimer timer;
     QObject::connect(&timer, &QTimer::timeout, [&] { shown = shown || progress_.isShowing(); });
     timer.start(5ms);
-    EXPECT_TRUE(runner_.run(lasting(row.lasts)));
-    EXPECT_EQ(shown, row.shows);
+    EXPECT_TRUE(runner_.run(lasting(duration)));
+    EXPECT_EQ(shown, shows);
     EXPECT_FALSE(progress_.isShowing());
   }
   progress_.show(u"Sending"_s);
@@ -56,7 +38,7 @@ TEST_F(ThreadCallRunnerTest, boxAppearsOnlyWhenTheExchangeLasts) {
   EXPECT_EQ(progress_.text(), u"Sending"_s) << "the caller's box stays and keeps its label";
 }
 
-TEST_F(ThreadCallRunnerTest, inputIsDroppedBeforeAndUnderTheBox) {
+TEST_F(ThreadCallRunnerTest, inputIsDroppedBeforeAndDuringTheBox) {
   SamplePage page;
   for (const auto when : {5ms, 100ms}) {
     QTimer::singleShot(when, [&] {
@@ -71,7 +53,7 @@ TEST_F(ThreadCallRunnerTest, inputIsDroppedBeforeAndUnderTheBox) {
   EXPECT_EQ(page.clicks.count(), 1);
 }
 
-TEST_F(ThreadCallRunnerTest, exchangeMayRunDuringAnother) {
+TEST_F(ThreadCallRunnerTest, tasksMayBeNested) {
   std::atomic<bool> outerDone = false;
   bool innerEnded = false;
   QTimer::singleShot(10ms, [&] {
@@ -92,7 +74,7 @@ TEST_F(ThreadCallRunnerTest, exceptionsBecomeAFailure) {
   EXPECT_TRUE(runner_.run([](const CancelFlag&) {}));
 }
 
-TEST_F(ThreadCallRunnerTest, onlyTheWorkersEndEndsTheWait) {
+TEST_F(ThreadCallRunnerTest, waitEndsOnlyWithTheWorker) {
   std::atomic<bool> done = false;
   QTimer::singleShot(5ms, [] { QCoreApplication::exit(); });
   EXPECT_TRUE(runner_.run([&](const CancelFlag&) {
@@ -103,14 +85,13 @@ TEST_F(ThreadCallRunnerTest, onlyTheWorkersEndEndsTheWait) {
 }
 
 /// A user who waits for the Cancel button of the box and then uses it.
-class CancelOffer : public ::testing::Test {
- protected:
+struct CancelOffer : testing::Test {
   static QAbstractButton* button() {
     auto* found = boxes().isEmpty() ? nullptr : boxes().front()->findChild<QAbstractButton*>();
     return found && found->isVisible() ? found : nullptr;
   }
 
-  /// Runs an exchange that lasts `longest` unless it is cancelled; tells whether it was.
+  /// Runs a task for the time `longest`; returns true if it was cancelled.
   bool isCancelled(const std::function<void(CConnectingDlg&)>& use, std::chrono::milliseconds longest = 3s) {
     std::atomic<bool> cancelled = false;
     QTimer user;
@@ -138,7 +119,7 @@ class CancelOffer : public ::testing::Test {
   qint64 offeredAfter_ = -1;
 };
 
-TEST_F(CancelOffer, comesLateAndEndsTheExchangeByMouseOrKeys) {
+TEST_F(CancelOffer, appearsLateAndCancelsByMouseOrKeys) {
   const std::pair<const char*, std::function<void(CConnectingDlg&)>> ways[] = {
       {"mouse", click},
       {"Escape", [](CConnectingDlg& box) { QTest::keyClick(&box, Qt::Key_Escape); }},
@@ -156,7 +137,7 @@ TEST_F(CancelOffer, comesLateAndEndsTheExchangeByMouseOrKeys) {
   }
 }
 
-TEST_F(CancelOffer, isNotMadeToShortExchangesNorByEscapeBefore) {
+TEST_F(CancelOffer, isNotShownForShortTasks) {
   QTimer::singleShot(80ms, [] { QTest::keyClick(boxes().front(), Qt::Key_Escape); });
   EXPECT_FALSE(isCancelled(click, 150ms));
   EXPECT_EQ(offeredAfter_, -1);
@@ -164,7 +145,7 @@ TEST_F(CancelOffer, isNotMadeToShortExchangesNorByEscapeBefore) {
   EXPECT_GE(offeredAfter_, 200) << "the time of the box before does not count";
 }
 
-TEST_F(CancelOffer, countsAndHoldsForAllExchangesUnderOneBox) {
+TEST_F(CancelOffer, appliesToAllTasksUnderOneBox) {
   progress_.show();
   for (int i = 0; i < 3; ++i) EXPECT_FALSE(isCancelled(nothing, 80ms));
   EXPECT_TRUE(isCancelled(click));
@@ -175,7 +156,7 @@ TEST_F(CancelOffer, countsAndHoldsForAllExchangesUnderOneBox) {
   EXPECT_FALSE(isCancelled(nothing, 50ms));
 }
 
-TEST_F(CancelOffer, isMadeWhileShortExchangesFollowEachOtherAsEarlyAsAsked) {
+TEST_F(CancelOffer, appearsDuringASeriesOfShortTasks) {
   ThreadCallRunner usual(progress_);
   progress_.show();
   progress_.offerCancelAfter(60ms);
@@ -189,7 +170,7 @@ TEST_F(CancelOffer, isMadeWhileShortExchangesFollowEachOtherAsEarlyAsAsked) {
   EXPECT_FALSE(button()) << "the next box does not inherit the shorter wait";
 }
 
-TEST_F(ThreadCallRunnerTest, cancelledExchangeThatHangsIsLeftBehindWithWhatItOwns) {
+TEST_F(ThreadCallRunnerTest, hangingTaskIsDetachedAfterACancel) {
   struct Shared {
     std::atomic<bool> goOn = false;
     std::atomic<bool> wentOn = false;
@@ -208,4 +189,4 @@ TEST_F(ThreadCallRunnerTest, cancelledExchangeThatHangsIsLeftBehindWithWhatItOwn
 }
 
 }  // namespace
-}  // namespace parlexo
+}  // namespace parlexo::test
