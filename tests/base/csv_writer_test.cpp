@@ -29,7 +29,7 @@ TEST(CsvWriter, quotesOnlyTheCellsThatNeedIt) {
   }
 }
 
-TEST(CsvWriter, formulasAreEscapedInHarmlessCells) {
+TEST(CsvWriter, escapesFormulas) {
   const Cases<QString, QByteArray, QByteArray> cases = {
       {u"=1+1"_s, "'=1+1", "=1+1"},
       {u"+61491570156"_s, "'+61491570156", "+61491570156"},

@@ -60,7 +60,7 @@ TEST(OtherFilesOnFullDisk, failedSaveKeepsTheOldFile) {
   const TemplateFolder templates(folder.path());
   const QString list = writeBytes(folder.filePath(u"list.csv"_s), "old");
   ASSERT_TRUE(templates.save(u"a"_s, {{}, u"old"_s}));
-  CsvWriter csv(CsvCells::AsTheyAre);
+  CsvWriter csv(CsvCells::Unchanged);
   csv.addRow({u"a row longer than the limit"_s});
   {
     const FileSizeLimit limit(10);
