@@ -246,11 +246,11 @@ int compared(const char* first, const char* second) {
 }
 
 std::vector<std::string> sorted(const std::vector<const char*>& dates) {
-  std::vector<StatusEntry> entries;
-  for (const char* date : dates) entries.push_back({{}, {}, {}, {}, QString::fromLatin1(date)});
+  std::vector<StatusEntry> entries(dates.size());
+  for (std::size_t i = 0; i < dates.size(); ++i) entries[i].date = QString::fromLatin1(dates[i]);
   sortByStatusDate(entries);
-  std::vector<std::string> result;
-  for (const StatusEntry& entry : entries) result.push_back(entry.date.toStdString());
+  std::vector<std::string> result(entries.size());
+  for (std::size_t i = 0; i < entries.size(); ++i) result[i] = entries[i].date.toStdString();
   return result;
 }
 
